@@ -1,0 +1,24 @@
+# The program and, for the desktop tests, the programs that drive it.
+enable_language(RC)
+
+add_executable(vellatro WIN32 ${portable_sources} app/main.cpp)
+file(GLOB win32_sources CONFIGURE_DEPENDS win32/*.cpp)
+target_sources(vellatro PRIVATE ${win32_sources} win32/vellatro.rc)
+set_source_files_properties(win32/vellatro.rc PROPERTIES
+    OBJECT_DEPENDS "${CMAKE_SOURCE_DIR}/win32/vellatro.manifest;${CMAKE_SOURCE_DIR}/win32/vellatro.ico")
+target_include_directories(vellatro PRIVATE ${CMAKE_SOURCE_DIR}/win32)
+target_compile_definitions(vellatro PRIVATE _WIN32_WINNT=0x0601 WINVER=0x0601 _WIN32_IE=0x0700 NOMINMAX)
+target_compile_options(vellatro PRIVATE
+    $<$<COMPILE_LANGUAGE:CXX>:-Os -flto -ffunction-sections -fdata-sections -fno-rtti -fmerge-all-constants>)
+# On x86_64 exceptions need these tables; without them the compiler takes another model, or breaks off.
+if(CMAKE_SIZEOF_VOID_P EQUAL 4)
+    target_compile_options(vellatro PRIVATE $<$<COMPILE_LANGUAGE:CXX>:-fno-asynchronous-unwind-tables>)
+endif()
+target_link_libraries(vellatro PRIVATE vellatro_options
+    comctl32 comdlg32 gdi32 user32 advapi32 shell32 ole32 oleaut32 oleacc uuid)
+target_link_options(vellatro PRIVATE -Os -flto -flto-partition=none -static -s -Wl,--gc-sections -Wl,--nxcompat -Wl,--dynamicbase
+    -Wl,--no-insert-timestamp)
+file(GLOB desktop_test_list CONFIGURE_DEPENDS tests/desktop/CMakeLists.txt)
+if(desktop_test_list)
+    add_subdirectory(tests/desktop)
+endif()
