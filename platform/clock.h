@@ -1,0 +1,20 @@
+// The wall clock.
+#pragma once
+
+namespace platform {
+
+/// A local date and time of day. The month and day count from 1, the weekday from Sunday = 0.
+struct Date_Time {
+    int year = 0;
+    int month = 0;
+    int day = 0;
+    int hour = 0;
+    int minute = 0;
+    int second = 0;
+    int millisecond = 0;
+};
+
+/// The local time now.
+Date_Time Now();
+
+} // namespace platform

@@ -1,0 +1,157 @@
+// What a native window mirrors: the state of a form and of its controls as plain values, the calls that tell
+// the mirror of a change, and the events through which user actions come back. The toolkit owns the state; a
+// mirror only reads it.
+#pragma once
+
+#include "platform/colour.h"
+#include "platform/drawing.h"
+#include "platform/geometry.h"
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace platform {
+
+enum class Control_Kind : std::uint8_t {
+    Label,
+    Button,
+    Check_Box,
+    Text_Box, ///< several wrapped lines, without line breaks
+};
+
+/// What a control is to assistive technology.
+enum class Access_Role : std::uint8_t { None, Text, Title, Button, Header, Cell };
+
+/// How a control presents itself to assistive technology. A control with the role None is not presented.
+struct Access_State {
+    Access_Role role = Access_Role::None;
+    bool current = false; ///< the marked one of its kind: today
+    std::string name;
+    std::string value;
+    std::string default_action; ///< empty when it has none
+    friend bool operator==(const Access_State &, const Access_State &) = default;
+};
+
+/// Small drawn signs that a label can show instead of its caption.
+enum class Glyph : std::uint8_t { None, Arrow_Left, Arrow_Right };
+
+/// All that can be seen of one control. Positions are twips on the form.
+struct Control_State {
+    Control_Kind kind = Control_Kind::Label;
+    int index = 0; ///< place in the form's control order
+    std::string name;
+    Rect bounds;
+    bool visible = true;
+    bool enabled = true;
+    std::string
+        caption; ///< lines are parted by "\n"; in a text box the text; "&" marks the access key in dialogs
+    std::string tooltip;
+    Font font;
+    Colour fore_colour = System_Colour(18);
+    Colour back_colour = System_Colour(15);
+    bool transparent = false; ///< draws no background of its own
+    Colour frame_colour = -1; ///< -1: no frame
+    Text_Align align = Text_Align::Left;
+    bool middle = false; ///< caption centred between top and bottom
+    int padding = 0;     ///< twips between the caption and the left, right and, unless `middle`, top edge
+    Glyph glyph = Glyph::None;
+    bool checked = false;        ///< check boxes
+    bool is_default = false;     ///< the button that Enter presses
+    bool is_cancel = false;      ///< the button that Esc presses
+    std::int32_t max_length = 0; ///< characters a text box takes; 0: no limit
+    Access_State access;
+};
+
+enum class Form_Kind : std::uint8_t {
+    Painted, ///< borderless, painted by the form itself, no task bar button
+    Dialog,  ///< a native dialog: title bar, close box, native controls
+};
+
+/// Pointer shapes over a form.
+enum class Pointer_Shape : std::uint8_t { Arrow, Move };
+
+enum class Mouse_Button : std::uint8_t { None, Left, Right, Middle };
+
+enum class Input_Kind : std::uint8_t {
+    Mouse_Down,
+    Mouse_Up,
+    Mouse_Move,
+    Double_Click, ///< instead of the second Mouse_Down
+    Key_Down,
+    Key_Up,
+    Clicked,        ///< a native button or check box was pressed; `checked` is its new state
+    Text_Changed,   ///< the user changed a native text box to `text`
+    Default_Action, ///< assistive technology asks for the control's default action
+    Close,          ///< the close box or Alt+F4
+    Window_Lost,    ///< the native window is gone, by whatever hand
+    Focus_Changed,  ///< the form got (`checked`) or lost the keyboard
+    Dots_Changed,   ///< the screen's dots per inch changed
+};
+
+/// One user action. Fields that do not belong to the kind stay at their defaults.
+struct Input_Event {
+    Input_Kind kind;
+    int control = -1; ///< index of a native control or of the control assistive technology means
+    Point point;      ///< mouse, twips on the form
+    Mouse_Button button = Mouse_Button::None; ///< the button that changed; in a move the one that is held
+    int key = 0;                              ///< virtual key code
+    bool shift = false;
+    bool control_key = false;
+    bool alt = false;
+    bool checked = false;
+    std::string text;
+};
+
+/// The state of a form. `input` and `paint` are filled by the toolkit and never throw.
+struct Form_Model {
+    Form_Kind kind = Form_Kind::Dialog;
+    std::string name; ///< the native window's class is "Vellatro_" and this name
+    std::string title;
+    Rect bounds; ///< on the screen, twips; of a dialog the client area's size counts
+    bool visible = false;
+    Colour back_colour = System_Colour(15);
+    Pointer_Shape pointer = Pointer_Shape::Arrow;
+    std::vector<Control_State *> controls; ///< in paint and tab order
+    int focused = -1;                      ///< index of the control with the keyboard focus, -1: none
+
+    std::function<void(const Input_Event &)> input;
+    /// Paints all that lies in `clip` (twips).
+    std::function<void(Canvas &canvas, const Rect &clip)> paint;
+};
+
+/// What of a form or control is no longer what the mirror shows.
+enum class Aspect : std::uint8_t {
+    Bounds,
+    Visible,
+    Enabled,
+    Caption,
+    Tooltip,
+    Look,
+    Access,
+    Checked,
+    Pointer,
+    Focus
+};
+
+/// Makes the native window of a form, hidden or visible as the model says, with all its controls.
+void Create_Mirror(Form_Model &model);
+
+/// Takes the native window down. Does nothing when there is none.
+void Destroy_Mirror(Form_Model &model);
+
+/// Tells the mirror that the form's own state changed. Does nothing without a native window.
+void Form_Changed(Form_Model &model, Aspect aspect);
+
+/// Tells the mirror that a control's state changed; `before` is the control's rectangle before a change of
+/// Bounds.
+void Control_Changed(Form_Model &model, const Control_State &control, Aspect aspect, const Rect &before);
+
+/// Clips the form's window to these rectangles (twips on the form). Equal rectangles change nothing.
+void Clip_Window(Form_Model &model, const std::vector<Rect> &rects);
+
+/// Shows the form in front of the other windows and gives it the keyboard.
+void Bring_To_Front(Form_Model &model);
+
+} // namespace platform

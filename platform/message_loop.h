@@ -1,0 +1,45 @@
+// The message loop, its timers, the system's broadcasts, and the one-instance claim: what keeps the program
+// alive.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+
+namespace platform {
+
+/// Dispatches messages until End_Message_Loop is called. To be called once, from the program's start.
+void Run_Message_Loop();
+
+/// Makes Run_Message_Loop return after the current message.
+void End_Message_Loop();
+
+/// Dispatches the messages that wait now, and returns.
+void Process_Waiting_Messages();
+
+/// Identifies a running timer; 0 is none.
+using Timer_Id = std::uintptr_t;
+
+/// Calls `tick` every `milliseconds` (1 or more) from the message loop until Stop_Timer. `tick` may stop its
+/// own timer. `tick` must not throw.
+Timer_Id Start_Timer(unsigned milliseconds, std::function<void()> tick);
+void Stop_Timer(Timer_Id id);
+
+/// What the system tells every program.
+enum class Broadcast {
+    Settings_Changed, ///< regional settings, work area and the like
+    Time_Changed,     ///< the clock was set
+    Display_Changed,  ///< the screen's size or depth
+    Colours_Changed,  ///< the Windows colours
+    Session_Ends,     ///< the user logs off or shuts down; the last chance to keep something
+};
+
+/// Names the one listener of the broadcasts. It must not throw. A hidden top-level window hears them, because
+/// windows inside the shell's desktop do not.
+void Listen_To_Broadcasts(std::function<void(Broadcast)> listener);
+
+/// True when this process is the first of the user's session that claims `name`; the claim ends with the
+/// process.
+bool Claim_Single_Instance(const std::string &name);
+
+} // namespace platform
