@@ -1,0 +1,89 @@
+// Filling a month from the data file, beside the least that reading the same bytes can cost: a count of their
+// line ends by memchr. Files are those of the fakes, so that no disk blurs the figures; each side takes its
+// own copy of the bytes from there, as it would from a disk. The calendar's boxes are stood in for by 37
+// strings.
+#include "core/date.h"
+#include "core/event_store.h"
+#include "platform/files.h"
+#include "tests/fakes/fakes.h"
+
+#include <array>
+#include <benchmark/benchmark.h>
+#include <cstring>
+
+namespace {
+
+constexpr Date shown{2002, 3, 1};
+
+/// Puts `count` events of 100 years into the data file, every third an every-year one.
+void Make_File(std::int64_t count) {
+    Reset_Fakes();
+    std::string bytes;
+    std::uint32_t random = 12345;
+    for (std::int64_t i = 0; i < count; ++i) {
+        random = random * 1664525U + 1013904223U;
+        const std::uint32_t bits = random >> 8U;
+        const Date date{static_cast<std::int16_t>(i % 3 == 0 ? every_year : 1950 + bits % 100),
+                        static_cast<std::int16_t>(1 + bits / 128 % 12),
+                        static_cast<std::int16_t>(1 + bits / 2048 % 28)};
+        bytes.append("\"").append(Date_Key(date)).append("=Event number ").append(std::to_string(i));
+        bytes.append(", at noon\"\r\n");
+    }
+    Fakes().files[Event_Store::Data_File()] = std::move(bytes);
+}
+
+void Fill_Month(benchmark::State &state) {
+    Make_File(state.range(0));
+    Event_Store store;
+    const std::size_t first_box = static_cast<std::size_t>(Weekday(shown));
+    std::array<std::string, 37> boxes;
+    std::int64_t entered = 0;
+    for (auto _ : state) {
+        store.Load_Dates([&](std::string_view record) {
+            Event_Record parts;
+            if (!Part_Record(record, parts))
+                throw std::runtime_error("no date");
+            const Date date = Parse_Date_Key(parts.key);
+            if ((date.year == every_year || date.year == shown.year) && date.month == shown.month) {
+                boxes.at(first_box + static_cast<std::size_t>(date.day) - 1) = parts.text;
+                ++entered;
+            }
+        });
+        benchmark::DoNotOptimize(boxes);
+    }
+    state.SetItemsProcessed(state.iterations() * state.range(0));
+    state.counters["in the month"] = benchmark::Counter(static_cast<double>(entered / state.iterations()));
+}
+
+void Count_Line_Ends(benchmark::State &state) {
+    Make_File(state.range(0));
+    std::int64_t lines = 0;
+    for (auto _ : state) {
+        const std::string bytes = platform::Read_File(Event_Store::Data_File());
+        const char *at = bytes.data();
+        const char *const end = at + bytes.size();
+        while (const void *found = std::memchr(at, '\n', static_cast<std::size_t>(end - at))) {
+            at = static_cast<const char *>(found) + 1;
+            ++lines;
+        }
+    }
+    benchmark::DoNotOptimize(lines);
+    state.SetItemsProcessed(state.iterations() * state.range(0));
+}
+
+/// What a save costs besides the disk: load all, change the last day's record, rewrite all.
+void Save_One_Day(benchmark::State &state) {
+    Make_File(state.range(0));
+    Event_Store store;
+    for (auto _ : state) {
+        store.Load_File();
+        store.Check_For_Pre("31/12/1900", "changed", false);
+    }
+    state.SetItemsProcessed(state.iterations() * state.range(0));
+}
+
+} // namespace
+
+BENCHMARK(Fill_Month)->Arg(100)->Arg(10'000)->Arg(1'000'000)->Unit(benchmark::kMicrosecond);
+BENCHMARK(Count_Line_Ends)->Arg(100)->Arg(10'000)->Arg(1'000'000)->Unit(benchmark::kMicrosecond);
+BENCHMARK(Save_One_Day)->Arg(100)->Arg(10'000)->Arg(1'000'000)->Unit(benchmark::kMicrosecond);

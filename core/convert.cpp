@@ -1,0 +1,80 @@
+// Conversions of stored texts. The process's regional settings have no say in them.
+#include "core/convert.h"
+
+#include <algorithm>
+#include <charconv>
+#include <limits>
+
+namespace {
+
+std::string_view Without_Blanks(std::string_view text) {
+    const std::size_t begin = text.find_first_not_of(" \t");
+    if (begin == std::string_view::npos)
+        return {};
+    return text.substr(begin, text.find_last_not_of(" \t") - begin + 1);
+}
+
+template <class Integer>
+Integer To_Integer(std::string_view text) {
+    std::string_view digits = Without_Blanks(text);
+    // from_chars knows no plus sign; after one there must be no other sign.
+    if (digits.size() > 1 && digits[0] == '+' && digits[1] != '-')
+        digits.remove_prefix(1);
+    Integer value{};
+    const char *end = digits.data() + digits.size();
+    const std::from_chars_result result = std::from_chars(digits.data(), end, value);
+    if (result.ec != std::errc() || result.ptr != end || digits.empty()) {
+        using Limits = std::numeric_limits<Integer>;
+        throw Conversion_Error("a whole number from " + std::to_string(Limits::min()) + " to " +
+                               std::to_string(Limits::max()));
+    }
+    return value;
+}
+
+/// Compares with a word in lower case.
+bool Is_Word(std::string_view text, std::string_view word) {
+    return std::equal(text.begin(), text.end(), word.begin(), word.end(), [](char a, char b) {
+        return (a >= 'A' && a <= 'Z' ? static_cast<char>(a - 'A' + 'a') : a) == b;
+    });
+}
+
+/// Digits, at most one point among them, and a sign before them. A number of any size will do.
+bool Is_Number(std::string_view text) {
+    if (!text.empty() && (text[0] == '+' || text[0] == '-'))
+        text.remove_prefix(1);
+    return text.find_first_of("0123456789") != std::string_view::npos &&
+           text.find_first_not_of("0123456789.") == std::string_view::npos &&
+           std::count(text.begin(), text.end(), '.') <= 1;
+}
+
+} // namespace
+
+std::int16_t To_Int16(std::string_view text) {
+    return To_Integer<std::int16_t>(text);
+}
+
+std::int32_t To_Int32(std::string_view text) {
+    return To_Integer<std::int32_t>(text);
+}
+
+bool To_Flag(std::string_view text) {
+    const std::string_view word = Without_Blanks(text);
+    if (Is_Word(word, "true"))
+        return true;
+    if (Is_Word(word, "false"))
+        return false;
+    if (!Is_Number(word))
+        throw Conversion_Error("True or False");
+    return word.find_first_of("123456789") != std::string_view::npos;
+}
+
+std::string Flag_Text(bool flag) {
+    return flag ? "True" : "False";
+}
+
+std::int16_t Fit_Int16(std::int64_t value) {
+    using Limits = std::numeric_limits<std::int16_t>;
+    if (value < Limits::min() || value > Limits::max())
+        throw Conversion_Error(std::to_string(value) + " is no whole number from -32768 to 32767");
+    return static_cast<std::int16_t>(value);
+}

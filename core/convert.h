@@ -1,0 +1,28 @@
+// Conversion of stored texts to the program's types and back. What does not fit is an error, never a wrap.
+#pragma once
+
+#include <cstdint>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+/// A text is no value of the wanted type. what() says what was expected.
+class Conversion_Error : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+/// Decimal text, with a sign and blanks around it allowed, as a 16-bit or 32-bit integer. Throws
+/// Conversion_Error.
+std::int16_t To_Int16(std::string_view text);
+std::int32_t To_Int32(std::string_view text);
+
+/// The words True and False in any letter case, or a number, of which 0 alone is false. Throws
+/// Conversion_Error.
+bool To_Flag(std::string_view text);
+
+/// "True" or "False".
+std::string Flag_Text(bool flag);
+
+/// Narrows to 16 bits. Throws Conversion_Error when the value does not fit.
+std::int16_t Fit_Int16(std::int64_t value);

@@ -1,0 +1,94 @@
+// Calendar arithmetic on the standard library's calendar types, and the reading and making of date keys.
+#include "core/date.h"
+
+#include "core/convert.h"
+#include "platform/clock.h"
+
+#include <chrono>
+
+namespace {
+
+std::chrono::year_month_day Calendar_Day(const Date &date) {
+    return std::chrono::year(date.year) / std::chrono::month(static_cast<unsigned>(date.month)) /
+           std::chrono::day(static_cast<unsigned>(date.day));
+}
+
+/// Reads one to four digits and the `separator` behind them, the form in which the program writes its keys.
+/// Leaves `at` behind the separator; false when the text is something else.
+bool Plain_Number(const char *&at, const char *end, char separator, std::int16_t &number) {
+    int value = 0;
+    const char *digit = at;
+    for (; digit != end && *digit >= '0' && *digit <= '9'; ++digit) {
+        if (digit - at == 4)
+            return false;
+        value = value * 10 + (*digit - '0');
+    }
+    if (digit == at || (digit == end) != (separator == '\0') || (digit != end && *digit != separator))
+        return false;
+    at = digit == end ? end : digit + 1;
+    number = static_cast<std::int16_t>(value);
+    return true;
+}
+
+} // namespace
+
+Date Today() {
+    const platform::Date_Time now = platform::Now();
+    return {static_cast<std::int16_t>(now.year), static_cast<std::int16_t>(now.month),
+            static_cast<std::int16_t>(now.day)};
+}
+
+int Weekday(const Date &date) {
+    return static_cast<int>(std::chrono::weekday(std::chrono::sys_days(Calendar_Day(date))).c_encoding());
+}
+
+std::int32_t DaysInMonth(const Date &date) {
+    const std::chrono::year_month_day day = Calendar_Day(date);
+    const std::chrono::day last = (day.year() / day.month() / std::chrono::last).day();
+    return static_cast<std::int32_t>(static_cast<unsigned>(last));
+}
+
+std::string Date_Key(const Date &date) {
+    return std::to_string(date.day) + "/" + std::to_string(date.month) + "/" + std::to_string(date.year);
+}
+
+std::string Every_Year_Key(const std::string &key) {
+    // The four last characters of a key are its year; a year before 1000 has fewer.
+    return key.substr(0, key.rfind('/') + 1) + std::to_string(every_year);
+}
+
+Date Parse_Date_Key(std::string_view key) {
+    Date date;
+    const char *at = key.data();
+    const char *const end = at + key.size();
+    if (Plain_Number(at, end, '/', date.day) && Plain_Number(at, end, '/', date.month) &&
+        Plain_Number(at, end, '\0', date.year))
+        return date;
+    const std::size_t first = key.find('/');
+    const std::size_t second = first == std::string_view::npos ? first : key.find('/', first + 1);
+    if (second == std::string_view::npos)
+        throw Conversion_Error("a date of the form day/month/year");
+    date.day = To_Int16(key.substr(0, first));
+    date.month = To_Int16(key.substr(first + 1, second - first - 1));
+    date.year = To_Int16(key.substr(second + 1));
+    return date;
+}
+
+std::string Date_Stamp(const Date &date) {
+    return std::to_string(date.day) + ":" + std::to_string(date.month) + ":" + std::to_string(date.year);
+}
+
+std::string Ordinal_Suffix(int day) {
+    if (day >= 11 && day <= 13)
+        return "th";
+    switch (day % 10) {
+    case 1:
+        return "st";
+    case 2:
+        return "nd";
+    case 3:
+        return "rd";
+    default:
+        return "th";
+    }
+}

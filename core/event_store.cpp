@@ -1,0 +1,148 @@
+// The procedures over calendar.dat, and the one place each where a failure is told to the user.
+#include "core/event_store.h"
+
+#include "core/convert.h"
+#include "core/date.h"
+#include "core/sequential.h"
+#include "platform/files.h"
+#include "platform/message_box.h"
+
+#include <algorithm>
+#include <exception>
+
+namespace {
+
+void Tell_Loading_Failed() {
+    platform::Message_Box("Error loading in data file.", "Vellatro", platform::Box_Icon::Stop);
+}
+
+/// Reads the whole data file; false when there is none. What bears its name and is no file, such as a folder,
+/// is not "none": reading it fails. Throws platform::File_Error.
+bool Read_Data_File(std::string &bytes) {
+    const std::string path = Event_Store::Data_File();
+    if (!platform::Path_Exists(path))
+        return false;
+    bytes = platform::Read_File(path);
+    return true;
+}
+
+std::string All_Records(const std::vector<std::string> &records) {
+    std::size_t size = 0;
+    for (const std::string &record : records)
+        size += record.size() + 4;
+    std::string bytes;
+    bytes.reserve(size);
+    for (const std::string &record : records)
+        Append_Item(bytes, record);
+    return bytes;
+}
+
+} // namespace
+
+bool Part_Record(std::string_view record, Event_Record &parts) {
+    const std::size_t equals = record.find('=');
+    if (equals == std::string_view::npos)
+        return false;
+    parts.key = record.substr(0, equals);
+    parts.text = record.substr(equals + 1);
+    return true;
+}
+
+std::string Event_Store::Data_File() {
+    return platform::Program_Folder() + "\\calendar.dat";
+}
+
+void Event_Store::Load_File() {
+    try {
+        std::string bytes;
+        partly_loaded_ = true;
+        if (Read_Data_File(bytes)) {
+            Temp_Lst.clear();
+            Sequential_Reader reader(bytes);
+            for (std::string_view item; reader.Next(item);)
+                Temp_Lst.emplace_back(item);
+        }
+        partly_loaded_ = false;
+    } catch (const std::exception &) {
+        Tell_Loading_Failed();
+    }
+}
+
+void Event_Store::Check_For_Pre(const std::string &key, const std::string &text, bool each_year) {
+    const std::string every = Every_Year_Key(key);
+    const auto same_day = [&](const std::string &record) {
+        Event_Record parts;
+        return Part_Record(record, parts) && (parts.key == key || parts.key == every);
+    };
+    const auto match = std::find_if(Temp_Lst.begin(), Temp_Lst.end(), same_day);
+    if (match == Temp_Lst.end()) {
+        Write_New_Line(key, text, each_year);
+        return;
+    }
+    if (text.empty())
+        Temp_Lst.erase(match);
+    else
+        *match = (each_year ? every : key) + "=" + text;
+    Write_ALL();
+}
+
+void Event_Store::Rewrite_File(const std::string &added) {
+    try {
+        if (partly_loaded_)
+            throw platform::File_Error("what else the file holds is not known");
+        std::string bytes = All_Records(Temp_Lst);
+        if (!added.empty())
+            Append_Item(bytes, added);
+        platform::Replace_File(Data_File(), bytes);
+    } catch (const std::exception &) {
+        platform::Message_Box("Error saving data file.", "Vellatro", platform::Box_Icon::Stop);
+    }
+}
+
+void Event_Store::Write_ALL() {
+    Rewrite_File({});
+}
+
+void Event_Store::Write_New_Line(const std::string &key, const std::string &text, bool each_year) {
+    if (!text.empty())
+        Rewrite_File((each_year ? Every_Year_Key(key) : key) + "=" + text);
+}
+
+Stored_Message Event_Store::Get_Message(const std::string &key) {
+    const std::string every = Every_Year_Key(key);
+    Stored_Message message;
+    try {
+        std::string bytes;
+        if (!Read_Data_File(bytes))
+            return message;
+        Sequential_Reader reader(bytes);
+        for (std::string_view item; reader.Next(item);) {
+            Event_Record parts;
+            if (!Part_Record(item, parts))
+                throw Conversion_Error("a record of the form date=text");
+            if (parts.key == every)
+                message.every_year = true;
+            else if (parts.key != key)
+                continue;
+            message.text = parts.text;
+        }
+    } catch (const std::exception &) {
+        // What was found so far is kept: an editor that showed nothing would invite to save nothing.
+        message.incomplete = true;
+        Tell_Loading_Failed();
+    }
+    return message;
+}
+
+void Event_Store::Load_Dates(const std::function<void(std::string_view record)> &enter) {
+    try {
+        std::string bytes;
+        if (!Read_Data_File(bytes))
+            return;
+        Sequential_Reader reader(bytes);
+        for (std::string_view item; reader.Next(item);)
+            enter(item);
+    } catch (const std::exception &) {
+        Tell_Loading_Failed();
+    }
+}

@@ -1,0 +1,69 @@
+// The events and their one file, calendar.dat in the program's folder. What a day box shows of them is not
+// here.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// An event record parted at its first "=".
+struct Event_Record {
+    std::string_view key;
+    std::string_view text;
+};
+
+/// Parts a record; false when it has no "=".
+bool Part_Record(std::string_view record, Event_Record &parts);
+
+/// What Get_Message found for a day.
+struct Stored_Message {
+    std::string text;
+    bool every_year = false; ///< one of the day's records is an every-year one
+    bool incomplete = false; ///< the file could not be read to its end, which the user has been told
+};
+
+/// Reads and rewrites the event file, always whole. Each procedure that touches the file shows one fixed
+/// sentence when that fails, and leaves; none throws for it. A message box lets timers go on, so all of them
+/// may be entered again while one is shown.
+class Event_Store {
+public:
+    /// All records of the file in file order, as of the last Load_File.
+    std::vector<std::string> Temp_Lst;
+
+    /// The path of calendar.dat.
+    static std::string Data_File();
+
+    /// Fills Temp_Lst from the file; without a file it stays as it is. A failure shows "Error loading in data
+    /// file.".
+    void Load_File();
+
+    /// Stores `text` as the event of the day `key`, an exact key: replaces, removes or adds the record, then
+    /// saves. The first record of the day counts, be it exact or every-year. An empty text removes it, and
+    /// where there is none leaves the file untouched.
+    void Check_For_Pre(const std::string &key, const std::string &text, bool each_year);
+
+    /// Rewrites the file from Temp_Lst. A failure shows "Error saving data file." and leaves the file as it
+    /// was; to rewrite after a failed Load_File, which would lose what was not read, is such a failure too.
+    void Write_ALL();
+
+    /// Rewrites the file from Temp_Lst with one record more, which does not enter Temp_Lst. Does nothing when
+    /// `text` is empty.
+    void Write_New_Line(const std::string &key, const std::string &text, bool each_year);
+
+    /// The event of the day `key`: of several records the last one in the file. Without a file there is none.
+    /// A failure, of which a record without "=" is one, shows the message of Load_File; what was found before
+    /// it is returned.
+    Stored_Message Get_Message(const std::string &key);
+
+    /// Calls `enter` for each record in file order; the view it is given lasts for the call. An exception of
+    /// it ends the reading with the message of Load_File.
+    void Load_Dates(const std::function<void(std::string_view record)> &enter);
+
+private:
+    /// Writes Temp_Lst and, unless it is empty, the record `added`. Writes nothing, with the message of a
+    /// failure, after a Load_File that failed.
+    void Rewrite_File(const std::string &added);
+
+    bool partly_loaded_ = false; ///< the last Load_File failed: a rewrite would lose what it did not read
+};

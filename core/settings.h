@@ -1,0 +1,79 @@
+// The user's settings: one variable per key of the settings store, and the one table that drives their
+// reading, their writing and their names in a configuration file.
+#pragma once
+
+#include "platform/colour.h"
+
+#include <cstdint>
+#include <span>
+#include <stdexcept>
+#include <string>
+#include <variant>
+
+/// All settings, with the values of a first run.
+struct Settings {
+    std::int16_t Style = 1;
+    std::int16_t Alignment = 0;
+    platform::Colour Col_Today = 16761024;
+    platform::Colour Col_Normal = 16777215;
+    platform::Colour Col_Fore = 16777215;
+    platform::Colour Col_Num = platform::System_Colour(18);
+    platform::Colour Col_Text = platform::System_Colour(18);
+    platform::Colour Col_Back = 8390687;
+    std::int16_t Menu_Col_Sorce = 1;
+    std::string Pack_Name = "Default";
+    std::int16_t Use_Themes = 0;
+    std::int16_t Use_Theme_Pos = 1;
+    std::int16_t Use_Theme_Style = 1;
+    std::int16_t Show_Alerts = 1;
+    std::int16_t Allow_Dragging = 1;
+    bool Bar_Time = false;
+    std::string Bar_Time_Format = "H:mm";
+    std::string Bar_Date_Format = "d Month - yyyy";
+    std::int16_t Manual_PosX = 0;
+    std::int16_t Manual_PosY = 0;
+    bool Use_Other_Display_Mode = false;
+    std::int16_t Other_Display_Mode = 0;
+    std::int16_t Auto_Compact = 0;
+    std::int16_t Tooltips = 1;
+    std::int16_t Settings_Tab = 4;
+};
+
+/// The program-wide settings, which every window reads directly.
+extern Settings Cur_Settings;
+
+/// One row of the table: where a setting is stored, which variable it is, what it is called in a
+/// configuration file.
+struct Setting_Row {
+    const char *section;
+    const char *key;
+    std::variant<std::int16_t Settings::*, std::int32_t Settings::*, bool Settings::*,
+                 std::string Settings::*>
+        variable;
+    const char *configuration_key; ///< null: it has no line there
+};
+
+/// The 25 rows in reading order.
+std::span<const Setting_Row> Setting_Rows();
+
+/// The row of a key. Throws std::out_of_range for an unknown key.
+const Setting_Row &Setting_Row_Of(std::string_view key);
+
+/// A stored value is not of its key's type. what() names section, key, value and what was expected.
+class Setting_Error : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+/// Reads all keys into Cur_Settings, absent ones with their defaults. Writes nothing. Throws Setting_Error at
+/// the first value that does not convert.
+void Load_Settings();
+
+/// The variable of a row as the text that is stored for it.
+std::string Setting_Text(const Settings &settings, const Setting_Row &row);
+
+/// Converts `text` and puts it into the variable of a row. Throws Conversion_Error.
+void Set_From_Text(Settings &settings, const Setting_Row &row, std::string_view text);
+
+/// Stores the present value of the setting `key` of Cur_Settings. Throws platform::Registry_Error.
+void Save_Setting(std::string_view key);

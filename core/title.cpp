@@ -1,0 +1,211 @@
+// The calendar's title in its five forms, and the pattern formatter.
+#include "core/title.h"
+
+#include "core/date.h"
+#include "core/settings.h"
+#include "platform/locale.h"
+#include "platform/registry.h"
+#include "platform/text.h"
+
+#include <algorithm>
+#include <vector>
+
+namespace {
+
+constexpr std::size_t longest_pattern = 255;
+
+enum class Field : std::uint8_t { Literal, Hour, Month_Or_Minute, Second, Half_Day, Day, Year };
+
+struct Token {
+    Field field;
+    std::size_t length;    ///< letters, as far as they make a difference
+    std::string_view text; ///< as typed
+};
+
+using Characters = std::vector<std::string_view>;
+
+char Lower(char c) {
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
+/// The whole characters of the pattern, of a long one those that lie in its first bytes. Letters are only
+/// looked for among whole characters, because in some code pages a letter's byte can be the second half of
+/// one.
+Characters Split(std::string_view pattern) {
+    // A few bytes more than are used, so that the last character is not taken for whole when it is not.
+    std::size_t end = std::min(pattern.size(), longest_pattern + 16);
+    Characters characters;
+    while (end > 0) {
+        const std::size_t begin = platform::Previous_Character(pattern, end);
+        if (end <= longest_pattern)
+            characters.push_back(pattern.substr(begin, end - begin));
+        end = begin;
+    }
+    std::reverse(characters.begin(), characters.end());
+    return characters;
+}
+
+/// Whether the word, in lower case, stands at `at` in any letter case.
+bool Stands_At(const Characters &characters, std::size_t at, std::string_view word) {
+    if (characters.size() - at < word.size())
+        return false;
+    for (std::size_t i = 0; i < word.size(); ++i) {
+        const std::string_view character = characters[at + i];
+        if (character.size() != 1 || Lower(character[0]) != word[i])
+            return false;
+    }
+    return true;
+}
+
+Field Field_Of(std::string_view character) {
+    if (character.size() != 1)
+        return Field::Literal;
+    switch (character[0]) {
+    case 'H':
+    case 'h':
+        return Field::Hour;
+    case 'm':
+        return Field::Month_Or_Minute;
+    case 's':
+        return Field::Second;
+    case 'd':
+        return Field::Day;
+    case 'y':
+        return Field::Year;
+    default:
+        return Field::Literal;
+    }
+}
+
+/// Reads one run of a field's letter, or one literal character, at `at` and steps over it.
+Token Read_Run(const Characters &characters, std::size_t &at) {
+    const std::string_view character = characters[at];
+    const Field field = Field_Of(character);
+    std::size_t length = 1;
+    while (field != Field::Literal && at + length < characters.size() && characters[at + length] == character)
+        ++length;
+    at += length;
+    if (field != Field::Year)
+        return {field, std::min(length, std::size_t{2}), character};
+    if (length == 1)
+        return {Field::Literal, 1, character};
+    return {field, length == 2 ? std::size_t{2} : std::size_t{4}, character};
+}
+
+std::vector<Token> Read_Pattern(const Characters &characters) {
+    std::vector<Token> tokens;
+    bool quoted = false;
+    for (std::size_t at = 0; at < characters.size();) {
+        if (characters[at] == "\"") {
+            quoted = !quoted;
+            ++at;
+        } else if (quoted) {
+            tokens.push_back({Field::Literal, 1, characters[at++]});
+        } else if (characters[at] == "\\" && at + 1 < characters.size()) {
+            tokens.push_back({Field::Literal, 1, characters[at + 1]});
+            at += 2;
+        } else if (Stands_At(characters, at, "am/pm")) {
+            tokens.push_back({Field::Half_Day, 2, std::string_view(characters[at].data(), 5)});
+            at += 5;
+        } else if (Stands_At(characters, at, "a/p")) {
+            tokens.push_back({Field::Half_Day, 1, std::string_view(characters[at].data(), 3)});
+            at += 3;
+        } else {
+            tokens.push_back(Read_Run(characters, at));
+        }
+    }
+    return tokens;
+}
+
+/// "m" is a minute directly after an hour or directly before seconds. Text in between does not part them, nor
+/// does the half of the day, which belongs to its hour.
+bool Is_Minute(const std::vector<Token> &tokens, std::size_t at) {
+    const auto parts = [](const Token &token) {
+        return token.field != Field::Literal && token.field != Field::Half_Day;
+    };
+    const auto place = tokens.begin() + static_cast<std::ptrdiff_t>(at);
+    const auto before = std::find_if(std::make_reverse_iterator(place), tokens.rend(), parts);
+    if (before != tokens.rend() && before->field == Field::Hour)
+        return true;
+    const auto after = std::find_if(place + 1, tokens.end(), parts);
+    return after != tokens.end() && after->field == Field::Second;
+}
+
+void Append_Number(std::string &text, int number, std::size_t digits) {
+    const std::string decimal = std::to_string(number);
+    if (decimal.size() < digits)
+        text.append(digits - decimal.size(), '0');
+    text += decimal;
+}
+
+} // namespace
+
+std::string Format_Pattern(std::string_view pattern, const platform::Date_Time &time) {
+    const std::vector<Token> tokens = Read_Pattern(Split(pattern));
+    const bool half_days = std::any_of(tokens.begin(), tokens.end(),
+                                       [](const Token &token) { return token.field == Field::Half_Day; });
+    std::string text;
+    for (std::size_t i = 0; i < tokens.size(); ++i) {
+        const Token &token = tokens[i];
+        switch (token.field) {
+        case Field::Literal:
+            text += token.text;
+            break;
+        case Field::Hour:
+            Append_Number(text, half_days ? (time.hour + 11) % 12 + 1 : time.hour, token.length);
+            break;
+        case Field::Month_Or_Minute:
+            Append_Number(text, Is_Minute(tokens, i) ? time.minute : time.month, token.length);
+            break;
+        case Field::Second:
+            Append_Number(text, time.second, token.length);
+            break;
+        case Field::Half_Day:
+            text += token.text.substr(time.hour < 12 ? 0 : token.length + 1, token.length);
+            break;
+        case Field::Day:
+            Append_Number(text, time.day, token.length);
+            break;
+        case Field::Year:
+            Append_Number(text, token.length == 2 ? time.year % 100 : time.year, token.length);
+            break;
+        }
+    }
+    return text;
+}
+
+namespace {
+
+constexpr const char *weekday_form = "Weekday - d month - yyyy";
+
+std::string Date_Text(const std::string &date_format, const platform::Date_Time &now) {
+    if (date_format == "mm/yyyy" || date_format == "dd/mm/yyyy")
+        return Format_Pattern(date_format, now);
+    const std::string month_and_year = platform::Month_Name(now.month) + " - " + std::to_string(now.year);
+    if (date_format == "Month - yyyy")
+        return month_and_year;
+    const std::string day = std::to_string(now.day) + Ordinal_Suffix(now.day) + " " + month_and_year;
+    if (date_format == "d Month - yyyy")
+        return day;
+    if (date_format != weekday_form) {
+        // The variable first: with it repaired, a store that refuses is asked once and not at every title.
+        Cur_Settings.Bar_Date_Format = weekday_form;
+        try {
+            Save_Setting("Bar Date Format");
+        } catch (const platform::Registry_Error &) { // the title is right all the same
+        }
+    }
+    const Date today{static_cast<std::int16_t>(now.year), static_cast<std::int16_t>(now.month),
+                     static_cast<std::int16_t>(now.day)};
+    return platform::Weekday_Name(Weekday(today)) + " " + day;
+}
+
+} // namespace
+
+std::string Bar_Date_Text(bool show_time, const std::string &time_format, const std::string &date_format,
+                          std::int16_t month, std::int16_t year, const platform::Date_Time &now) {
+    if (month != now.month || year != now.year)
+        return platform::Month_Name(month) + " - " + std::to_string(year);
+    const std::string time = show_time ? Format_Pattern(time_format, now) + " - " : std::string();
+    return time + Date_Text(date_format, now);
+}
