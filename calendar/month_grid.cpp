@@ -1,0 +1,189 @@
+// The month in the day boxes: numbers, hidden boxes, today, events, the alert, and what assistive technology
+// is told of the boxes.
+#include "calendar/main_frm.h"
+#include "core/convert.h"
+#include "core/settings.h"
+#include "core/title.h"
+#include "platform/locale.h"
+#include "platform/message_box.h"
+
+#include <stdexcept>
+
+namespace {
+
+constexpr platform::Colour white = platform::Rgb(255, 255, 255);
+
+} // namespace
+
+std::int16_t Main_Frm::Start_Box(std::int16_t month, std::int16_t year) {
+    const int weekday = Weekday({year, month, 1});
+    return static_cast<std::int16_t>((weekday - platform::First_Weekday() + days_a_week) % days_a_week);
+}
+
+Date Main_Frm::Date_Of_Box(int index) const {
+    return {Cur_Year, Cur_Month, Fit_Int16(index - Start_Box(Cur_Month, Cur_Year) + 1)};
+}
+
+void Main_Frm::Set_Day_Headers() {
+    const int first = platform::First_Weekday();
+    for (int i = 0; i < days_a_week; ++i) {
+        const int weekday = (first + i) % days_a_week;
+        Day_Lbl[i].Set_Caption(platform::Short_Weekday_Name(weekday));
+        platform::Access_State access;
+        access.role = platform::Access_Role::Header;
+        access.name = platform::Weekday_Name(weekday);
+        Day_Lbl[i].Set_Access(std::move(access));
+    }
+}
+
+void Main_Frm::Reset_Boxes() {
+    for (int i = 0; i < box_count; ++i) {
+        Box_Lbl[i].Set_Visible(true);
+        Box_Caption_Lbl[i].Set_Visible(true);
+        Box_Lbl[i].Set_Back_Colour(white);
+        Box_Lbl[i].Set_Caption({});
+        Box_Caption_Lbl[i].Set_Caption({});
+        Set_Event_Value(i, {});
+        Unmark(i);
+    }
+}
+
+void Main_Frm::Setup_Boxes(std::int16_t month, std::int16_t year) {
+    Reset_Boxes();
+    const std::int32_t days = DaysInMonth({year, month, 1});
+    const int start = Start_Box(month, year);
+    for (int day = 1; day <= days; ++day)
+        Box_Lbl[start + day - 1].Set_Caption(" " + std::to_string(day));
+    Hide_Misc_Boxes();
+    Describe_Boxes();
+    Position_Form(Effective_Position());
+    TransparentForm();
+}
+
+void Main_Frm::Hide_Misc_Boxes() {
+    for (int i = 0; i < box_count; ++i) {
+        if (!Box_Lbl[i].Caption().empty())
+            continue;
+        Box_Lbl[i].Set_Visible(false);
+        Box_Caption_Lbl[i].Set_Visible(false);
+    }
+}
+
+void Main_Frm::Mark_Today() {
+    const Date today = Today();
+    Describe_Boxes();
+    if (today.month != Cur_Month || today.year != Cur_Year)
+        return;
+    Label &box = Box_Lbl[Start_Box(Cur_Month, Cur_Year) + today.day - 1];
+    box.Set_Back_Colour(Cur_Settings.Col_Today);
+    box.Set_Frame_Colour(Strong_Shade(Cur_Settings.Col_Today));
+    platform::Font font = box.Font();
+    font.bold = true;
+    box.Set_Font(font);
+}
+
+void Main_Frm::Unmark(int index) {
+    Label &box = Box_Lbl[index];
+    box.Set_Frame_Colour(-1);
+    platform::Font font = box.Font();
+    font.bold = false;
+    box.Set_Font(font);
+}
+
+void Main_Frm::Clear_Tooltips() {
+    for (int i = 0; i < box_count; ++i) {
+        Box_Caption_Lbl[i].Set_Tooltip({});
+        Box_Lbl[i].Set_Tooltip({});
+    }
+}
+
+void Main_Frm::Load_Dates() {
+    Clear_Tooltips();
+    const Date today = Today();
+    Events.Load_Dates([this, &today](std::string_view record) { Enter_Date(record, today); });
+}
+
+void Main_Frm::Enter_Date(std::string_view record, const Date &today) {
+    Event_Record parts;
+    if (!Part_Record(record, parts))
+        throw Conversion_Error("a record without \"=\"");
+    const Date date = Parse_Date_Key(parts.key);
+    if ((date.year == every_year || date.year == Cur_Year) && date.month == Cur_Month) {
+        const int index = Start_Box(Cur_Month, Cur_Year) + date.day - 1;
+        if (Cur_Settings.Tooltips == 1) {
+            Box_Caption_Lbl[index].Set_Tooltip(std::string(parts.text));
+            Box_Lbl[index].Set_Tooltip(std::string(parts.text));
+        }
+        DotDotDot(Box_Caption_Lbl[index], parts.text);
+        Set_Event_Value(index, parts.text);
+    }
+    if (Cur_Settings.Show_Alerts == 1 && !Alert_Done && date.day == today.day && date.month == today.month &&
+        (date.year == today.year || date.year == every_year))
+        Alert(today, parts.text);
+}
+
+void Main_Frm::Alert(const Date &today, std::string_view text) {
+    // While the box waits for the user the month may be drawn again, which must not show it once more.
+    if (alert_open_ == today)
+        return;
+    alert_open_ = today;
+    platform::Message_Box(Today_Text(today, text), "Vellatro", platform::Box_Icon::Information);
+    alert_open_.reset();
+    Alert_Done = true;
+}
+
+void Main_Frm::Update_Title() {
+    Which_Month_Lbl.Set_Caption(Bar_Date_Text(Cur_Settings.Bar_Time, Cur_Settings.Bar_Time_Format,
+                                              Cur_Settings.Bar_Date_Format, Cur_Month, Cur_Year,
+                                              platform::Now()));
+}
+
+void Main_Frm::Set_Event_Value(int index, std::string_view text) {
+    if (Box_Lbl[index].Access().value == text)
+        return;
+    platform::Access_State access = Box_Lbl[index].Access();
+    access.value = text;
+    Box_Lbl[index].Set_Access(std::move(access));
+}
+
+void Main_Frm::Describe_Boxes() {
+    const Date today = Today();
+    const bool shows_today = today.month == Cur_Month && today.year == Cur_Year;
+    const Described_Month wanted{Cur_Year, Cur_Month, Start_Box(Cur_Month, Cur_Year),
+                                 shows_today ? today.day : 0};
+    if (described_ == wanted)
+        return;
+    for (int i = 0; i < box_count; ++i) {
+        if (!Box_Lbl[i].Visible())
+            continue;
+        const Date date = Date_Of_Box(i);
+        platform::Access_State access = Box_Lbl[i].Access();
+        access.role = platform::Access_Role::Cell;
+        access.current = date.day == wanted.today;
+        access.name = Full_Date(date) + (access.current ? ", today" : "");
+        access.default_action = "Edit";
+        Box_Lbl[i].Set_Access(std::move(access));
+    }
+    described_ = wanted;
+}
+
+void Main_Frm::Describe_Arrows() {
+    platform::Access_State access;
+    access.role = platform::Access_Role::Title;
+    Which_Month_Lbl.Set_Access(access);
+    access.role = platform::Access_Role::Button;
+    access.default_action = "Press";
+    access.name = "Previous month";
+    Prev_Month_Lbl.Set_Access(access);
+    access.name = "Next month";
+    Next_Month_Lbl.Set_Access(access);
+}
+
+std::string Full_Date(const Date &date) {
+    return platform::Weekday_Name(Weekday(date)) + " " + std::to_string(date.day) + Ordinal_Suffix(date.day) +
+           " " + platform::Month_Name(date.month) + " " + std::to_string(date.year);
+}
+
+std::string Today_Text(const Date &today, std::string_view text) {
+    return "Today: " + platform::Short_Date(today.year, today.month, today.day) + "\r\n" + std::string(text);
+}

@@ -1,0 +1,58 @@
+// The calendar's place on the screen and the shape of its window.
+#include "calendar/main_frm.h"
+#include "core/convert.h"
+#include "core/settings.h"
+#include "desktop/position.h"
+
+#include <string>
+#include <vector>
+
+std::int16_t Main_Frm::Effective_Position() const {
+    // A theme pack's own position would go first; there are none yet.
+    return Cur_Settings.Alignment;
+}
+
+void Main_Frm::Position_Form(std::int16_t code) {
+    Label &lowest = Box_Lbl[35].Visible() ? Box_Lbl[35] : Box_Lbl[28];
+    Placement placement;
+    placement.work_area = GetDesktopRect(true);
+    placement.form = {Width(), Height()};
+    placement.lowest_box_bottom = lowest.Top() + lowest.Height();
+    placement.manual = {Cur_Settings.Manual_PosX, Cur_Settings.Manual_PosY};
+    if (const auto place = Position_Of(code, placement))
+        Move(place->x, place->y);
+}
+
+void Main_Frm::Remember_Height(int twips) {
+    try {
+        Desktop_Height = Fit_Int16(twips);
+    } catch (const Conversion_Error &) {
+        throw Conversion_Error("The height of the desktop's work area, " + std::to_string(twips) +
+                               " twips, is beyond 32767: the calendar cannot follow its changes.");
+    }
+}
+
+void Main_Frm::Set_Repos() {
+    Remember_Height(GetDesktopRect(true).height);
+}
+
+void Main_Frm::RePosition() {
+    const int height = GetDesktopRect(true).height;
+    if (height == Desktop_Height)
+        return;
+    Position_Form(Effective_Position());
+    Remember_Height(height);
+}
+
+void Main_Frm::TransparentForm() {
+    std::vector<platform::Rect> seen;
+    for (const platform::Control_State *control : Model().controls)
+        if (control->visible)
+            seen.push_back(control->bounds);
+    Clip(std::move(seen));
+}
+
+void Main_Frm::No_ShowDesktop_and_IconColours() {
+    // Nothing is attached to the desktop yet: the calendar is a window of its own.
+    Show();
+}

@@ -1,0 +1,37 @@
+// Where the calendar stands: the ten position codes and the work area they refer to. Pure arithmetic; moving
+// the window is not here.
+#pragma once
+
+#include "platform/geometry.h"
+
+#include <cstdint>
+#include <optional>
+
+/// The position codes as they are kept in the settings and in theme packs.
+enum class Position_Code : std::int16_t {
+    Bottom_Right = 0,
+    Bottom_Center = 1,
+    Bottom_Left = 2,
+    Center_Screen = 3,
+    Top_Right = 4,
+    Top_Center = 5,
+    Top_Left = 6,
+    Manual = 7,
+    Center_Right = 8,
+    Center_Left = 9,
+};
+
+/// What a placement depends on, in twips.
+struct Placement {
+    platform::Rect work_area;
+    platform::Size form;
+    int lowest_box_bottom = 0; ///< on the form: the lower edge of the lowest row of day boxes
+    platform::Point manual;
+};
+
+/// The window's left top corner for a position code, nothing for a number that is no code. Throws
+/// Conversion_Error (core/convert.h) when a figure leaves 32 bits.
+std::optional<platform::Point> Position_Of(std::int16_t code, const Placement &placement);
+
+/// The work area of the desktop, in twips or in pixels.
+platform::Rect GetDesktopRect(bool in_twips);

@@ -1,0 +1,226 @@
+// Windows, canvas, timers, screen and menus without a screen.
+#include "tests/fakes/fake_forms.h"
+
+#include "platform/text.h"
+#include "tests/fakes/fakes.h"
+#include "toolkit/form.h"
+
+#include <algorithm>
+
+using platform::Input_Kind;
+using platform::Mouse_Button;
+
+Fake_Desktop &Desktop() {
+    static Fake_Desktop desktop;
+    return desktop;
+}
+
+void Reset_Desktop() {
+    Desktop() = Fake_Desktop{};
+}
+
+void Fake_Desktop::Advance(unsigned milliseconds) {
+    const unsigned end = time + milliseconds;
+    for (;;) {
+        const auto next = std::min_element(timers.begin(), timers.end(), [](const auto &a, const auto &b) {
+            return a.second.due < b.second.due;
+        });
+        if (next == timers.end() || next->second.due > end)
+            break;
+        time = std::max(time, next->second.due);
+        next->second.due += next->second.interval;
+        const auto tick = next->second.tick;
+        tick();
+    }
+    time = std::max(time, end);
+}
+
+platform::Canvas Painted(const Form &form, const platform::Rect &clip) {
+    platform::Canvas canvas;
+    form.Model().paint(canvas, clip);
+    return canvas;
+}
+
+namespace {
+
+void Mouse(Form &form, Input_Kind kind, const Control &control, Mouse_Button button) {
+    platform::Input_Event event{};
+    event.kind = kind;
+    event.button = button;
+    event.point = {control.Left() + control.Width() / 2, control.Top() + control.Height() / 2};
+    form.Model().input(event);
+}
+
+} // namespace
+
+void Press(Form &form, const Control &control, Mouse_Button button) {
+    Mouse(form, Input_Kind::Mouse_Down, control, button);
+}
+
+void Release(Form &form, const Control &control, Mouse_Button button) {
+    Mouse(form, Input_Kind::Mouse_Up, control, button);
+}
+
+void Click(Form &form, const Control &control, Mouse_Button button) {
+    Press(form, control, button);
+    Release(form, control, button);
+}
+
+void Double_Click(Form &form, const Control &control) {
+    Click(form, control);
+    Mouse(form, Input_Kind::Double_Click, control, Mouse_Button::Left);
+    Release(form, control);
+}
+
+void Press_Key(Form &form, int key) {
+    platform::Input_Event event{};
+    event.key = key;
+    event.kind = Input_Kind::Key_Down;
+    form.Model().input(event);
+    event.kind = Input_Kind::Key_Up;
+    form.Model().input(event);
+}
+
+namespace platform {
+
+void Create_Mirror(Form_Model &model) {
+    if (!Desktop().mirrors.try_emplace(&model).second)
+        Fail("a second native window for " + model.name);
+    Desktop().mirrors[&model].shown = model.visible;
+    Desktop().mirrors[&model].shown_unclipped = model.visible;
+}
+
+void Destroy_Mirror(Form_Model &model) {
+    // A real window reads the controls while it goes down: they must still be there.
+    for (const Control_State *control : model.controls)
+        if (control->name.empty())
+            Fail("a control without a name in " + model.name);
+    Desktop().mirrors.erase(&model);
+}
+
+void Form_Changed(Form_Model &model, Aspect aspect) {
+    Desktop().told.push_back({"", aspect});
+    const auto mirror = Desktop().mirrors.find(&model);
+    if (mirror == Desktop().mirrors.end())
+        return Fail("a change without a native window");
+    mirror->second.shown = model.visible;
+    if (model.visible && mirror->second.clip.empty())
+        mirror->second.shown_unclipped = true;
+}
+
+void Control_Changed(Form_Model &model, const Control_State &control, Aspect aspect, const Rect &before) {
+    if (!Desktop().mirrors.contains(&model))
+        Fail("a change without a native window");
+    if (aspect == Aspect::Bounds && before == control.bounds)
+        Fail("a move that moves nothing");
+    Desktop().told.push_back({control.name, aspect});
+}
+
+void Clip_Window(Form_Model &model, const std::vector<Rect> &rects) {
+    const auto mirror = Desktop().mirrors.find(&model);
+    if (mirror == Desktop().mirrors.end())
+        return Fail("a clip without a native window");
+    mirror->second.clip = rects;
+}
+
+void Bring_To_Front(Form_Model &model) {
+    if (!Desktop().mirrors.contains(&model))
+        Fail("a missing window brought to the front");
+}
+
+void Fill_Rect(Canvas &canvas, const Rect &rect, Colour colour) {
+    canvas.operations.push_back({Canvas_Operation::Kind::Fill, rect, colour, {}, {}, {}});
+}
+
+void Frame_Rect(Canvas &canvas, const Rect &rect, Colour colour, int) {
+    canvas.operations.push_back({Canvas_Operation::Kind::Frame, rect, colour, {}, {}, {}});
+}
+
+void Fill_Polygon(Canvas &canvas, const std::vector<Point> &corners, Colour colour) {
+    canvas.operations.push_back({Canvas_Operation::Kind::Polygon, {}, colour, {}, corners, {}});
+}
+
+void Draw_Text(Canvas &canvas, std::string_view text, const Rect &rect, const Font &, Colour colour,
+               Text_Align align) {
+    canvas.operations.push_back({Canvas_Operation::Kind::Text, rect, colour, std::string(text), {}, align});
+}
+
+int Text_Width(std::string_view text, const Font &) {
+    ++Desktop().measured;
+    int width = 0;
+    for (std::size_t end = text.size(); end > 0; end = Previous_Character(text, end))
+        width += Desktop().char_width;
+    return width;
+}
+
+int Line_Height(const Font &font) {
+    return font.tenth_points * 8 / 3;
+}
+
+Colour Resolve_Colour(Colour colour) {
+    // All system colours are the same light grey here.
+    return colour < 0 ? Rgb(192, 192, 192) : colour;
+}
+
+int Dots_Per_Inch() {
+    return Desktop().dots_per_inch;
+}
+
+Rect Work_Area() {
+    return Desktop().work_area;
+}
+
+Point Mouse_Position() {
+    return Desktop().mouse;
+}
+
+int Track_Popup_Menu(Form_Model &, const std::vector<Menu_Item> &items, const Point *) {
+    std::vector<std::string> texts;
+    std::string shown;
+    for (const Menu_Item &item : items) {
+        texts.push_back(item.text);
+        shown += "[" + item.text + "]";
+    }
+    auto &expected = Desktop().expected_menus;
+    if (expected.empty() || expected.front().texts != texts) {
+        Fail("an unexpected menu: " + shown);
+        return 0;
+    }
+    const int answer = expected.front().answer;
+    expected.pop_front();
+    return answer;
+}
+
+void Run_Message_Loop() {
+    if (Desktop().in_the_loop)
+        Desktop().in_the_loop();
+    if (!Desktop().loop_ended)
+        Fail("the message loop never ends");
+}
+
+void End_Message_Loop() {
+    Desktop().loop_ended = true;
+}
+
+void Process_Waiting_Messages() {
+}
+
+Timer_Id Start_Timer(unsigned milliseconds, std::function<void()> tick) {
+    static Timer_Id last = 0;
+    Desktop().timers[++last] = {milliseconds, Desktop().time + milliseconds, std::move(tick)};
+    return last;
+}
+
+void Stop_Timer(Timer_Id id) {
+    Desktop().timers.erase(id);
+}
+
+void Listen_To_Broadcasts(std::function<void(Broadcast)> listener) {
+    Desktop().listener = std::move(listener);
+}
+
+bool Claim_Single_Instance(const std::string &) {
+    return Desktop().first_instance;
+}
+
+} // namespace platform

@@ -1,0 +1,99 @@
+// The faked windows, canvas, timers, screen and menus: what the program told the mirrors is recorded, and a
+// test moves the time and the mouse by hand. The rest of the faked system is in fakes.h.
+#pragma once
+
+#include "platform/drawing.h"
+#include "platform/forms.h"
+#include "platform/menu.h"
+#include "platform/message_loop.h"
+#include "platform/screen.h"
+
+#include <deque>
+#include <functional>
+#include <map>
+#include <string>
+#include <string_view>
+#include <vector>
+
+class Control;
+class Form;
+
+/// One drawing operation. Fields that do not belong to it stay empty.
+struct Canvas_Operation {
+    enum class Kind { Fill, Frame, Polygon, Text };
+    Kind kind;
+    platform::Rect rect;
+    platform::Colour colour = 0;
+    std::string text;
+    std::vector<platform::Point> corners;
+    platform::Text_Align align = platform::Text_Align::Left;
+};
+
+struct platform::Canvas {
+    std::vector<Canvas_Operation> operations;
+};
+
+/// A change that a mirror was told of.
+struct Told_Change {
+    std::string control; ///< name; empty: the form itself
+    platform::Aspect aspect;
+    friend bool operator==(const Told_Change &, const Told_Change &) = default;
+};
+
+/// The native window of a form.
+struct Fake_Mirror {
+    bool shown = false; ///< as of the last thing told
+    std::vector<platform::Rect> clip;
+    bool shown_unclipped = false; ///< it was visible before it had a clip
+};
+
+/// A popup menu that a test expects, in its turn.
+struct Expected_Menu {
+    std::vector<std::string> texts;
+    int answer = 0;
+};
+
+struct Fake_Timer {
+    unsigned interval = 0;
+    unsigned due = 0;
+    std::function<void()> tick;
+};
+
+struct Fake_Desktop {
+    int dots_per_inch = 96;
+    platform::Rect work_area{0, 0, 1024, 740};
+    platform::Point mouse;
+    bool first_instance = true;
+    int char_width = 100; ///< twips of every character
+
+    std::map<const platform::Form_Model *, Fake_Mirror> mirrors;
+    std::vector<Told_Change> told;
+
+    std::map<platform::Timer_Id, Fake_Timer> timers;
+    unsigned time = 0;
+    std::function<void(platform::Broadcast)> listener;
+    bool loop_ended = false;
+    std::function<void()> in_the_loop; ///< what happens while the message loop runs
+
+    std::deque<Expected_Menu> expected_menus;
+    int measured = 0; ///< calls of Text_Width
+
+    /// Lets the time pass, with the timers' ticks in their order.
+    void Advance(unsigned milliseconds);
+    void Say(platform::Broadcast broadcast) { listener(broadcast); }
+};
+
+/// The one faked desktop.
+Fake_Desktop &Desktop();
+void Reset_Desktop();
+
+/// Paints the form as its window would.
+platform::Canvas Painted(const Form &form, const platform::Rect &clip);
+
+// What a user does. Points are in the middle of the control.
+void Press(Form &form, const Control &control, platform::Mouse_Button button = platform::Mouse_Button::Left);
+void Release(Form &form, const Control &control,
+             platform::Mouse_Button button = platform::Mouse_Button::Left);
+void Click(Form &form, const Control &control, platform::Mouse_Button button = platform::Mouse_Button::Left);
+void Double_Click(Form &form, const Control &control);
+void Press_Key(Form &form, int key);

@@ -1,0 +1,24 @@
+// The fixture of tests that run on the fakes: each test begins with a new system and default settings, and a
+// message box that was expected and never came fails it.
+#pragma once
+
+#include "core/settings.h"
+#include "tests/fakes/fakes.h"
+
+#include <gtest/gtest.h>
+
+class Fake_Test : public ::testing::Test {
+protected:
+    Fake_Test() {
+        Reset_Fakes();
+        Set_Failure_Hook([](const std::string &message) { ADD_FAILURE() << message; });
+        Cur_Settings = Settings{};
+    }
+
+    // In the destructor, so that a fixture's own TearDown cannot leave it out.
+    ~Fake_Test() override {
+        for (const Expected_Box &box : Fakes().expected_boxes)
+            ADD_FAILURE() << "this message box never came: " << box.text;
+        Set_Failure_Hook(nullptr);
+    }
+};

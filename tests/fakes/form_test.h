@@ -1,0 +1,11 @@
+// The fixture of tests with forms: a new desktop beside the new system, and no menu left over.
+#pragma once
+
+#include "tests/fakes/fake_forms.h"
+#include "tests/fakes/fake_test.h"
+
+class Form_Test : public Fake_Test {
+protected:
+    Form_Test() { Reset_Desktop(); }
+    ~Form_Test() override { EXPECT_TRUE(Desktop().expected_menus.empty()) << "an expected menu never came"; }
+};

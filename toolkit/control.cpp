@@ -1,0 +1,143 @@
+// State of the controls, and the calls that tell the form's mirror what of it changed.
+#include "toolkit/control.h"
+
+#include "toolkit/form.h"
+
+#include <utility>
+
+using platform::Aspect;
+
+Control::Control(Form &form, platform::Control_Kind kind, std::string name) : form_(form) {
+    state_.kind = kind;
+    state_.name = std::move(name);
+    form.Register(*this);
+}
+
+Control::~Control() {
+    form_.Forget(*this);
+}
+
+void Control::Tell(Aspect aspect) {
+    if (!form_.created_)
+        return;
+    // A painted form draws its labels from their state: of one that is not seen there is nothing to redraw.
+    const bool drawn = aspect == Aspect::Caption || aspect == Aspect::Look;
+    if (drawn && !state_.visible && form_.model_.kind == platform::Form_Kind::Painted)
+        return;
+    platform::Control_Changed(form_.model_, state_, aspect, state_.bounds);
+}
+
+void Control::Move(const platform::Rect &bounds) {
+    if (state_.bounds == bounds)
+        return;
+    const platform::Rect before = std::exchange(state_.bounds, bounds);
+    if (form_.created_)
+        platform::Control_Changed(form_.model_, state_, Aspect::Bounds, before);
+}
+
+void Control::Set_Visible(bool visible) {
+    Store(state_.visible, visible, Aspect::Visible);
+}
+
+void Control::Set_Enabled(bool enabled) {
+    Store(state_.enabled, enabled, Aspect::Enabled);
+}
+
+void Control::Set_Caption(std::string caption) {
+    Store(state_.caption, std::move(caption), Aspect::Caption);
+}
+
+void Control::Set_Tooltip(std::string tooltip) {
+    Store(state_.tooltip, std::move(tooltip), Aspect::Tooltip);
+}
+
+void Control::Set_Fore_Colour(platform::Colour colour) {
+    Store(state_.fore_colour, colour, Aspect::Look);
+}
+
+void Control::Set_Back_Colour(platform::Colour colour) {
+    Store(state_.back_colour, colour, Aspect::Look);
+}
+
+void Control::Set_Frame_Colour(platform::Colour colour) {
+    Store(state_.frame_colour, colour, Aspect::Look);
+}
+
+void Control::Set_Font(const platform::Font &font) {
+    Store(state_.font, font, Aspect::Look);
+}
+
+void Control::Set_Transparent(bool transparent) {
+    Store(state_.transparent, transparent, Aspect::Look);
+}
+
+void Control::Set_Align(platform::Text_Align align, bool middle) {
+    if (state_.align == align && state_.middle == middle)
+        return;
+    state_.align = align;
+    state_.middle = middle;
+    Tell(Aspect::Look);
+}
+
+void Control::Set_Padding(int twips) {
+    Store(state_.padding, twips, Aspect::Look);
+}
+
+void Control::Set_Glyph(platform::Glyph glyph) {
+    Store(state_.glyph, glyph, Aspect::Look);
+}
+
+void Control::Set_Access(platform::Access_State access) {
+    Store(state_.access, std::move(access), Aspect::Access);
+}
+
+Label::Label(Form &form, std::string name) : Control(form, platform::Control_Kind::Label, std::move(name)) {
+}
+
+Button::Button(Form &form, std::string name, std::string caption)
+    : Control(form, platform::Control_Kind::Button, std::move(name)) {
+    state_.caption = std::move(caption);
+}
+
+void Button::Set_Default(bool is_default) {
+    Store(state_.is_default, is_default, Aspect::Look);
+}
+
+void Button::Set_Cancel(bool is_cancel) {
+    Store(state_.is_cancel, is_cancel, Aspect::Look);
+}
+
+Check_Box::Check_Box(Form &form, std::string name, std::string caption)
+    : Control(form, platform::Control_Kind::Check_Box, std::move(name)) {
+    state_.caption = std::move(caption);
+}
+
+void Check_Box::Set_Checked(bool checked) {
+    Store(state_.checked, checked, Aspect::Checked);
+}
+
+Text_Box::Text_Box(Form &form, std::string name)
+    : Control(form, platform::Control_Kind::Text_Box, std::move(name)) {
+}
+
+void Text_Box::Set_Text(std::string text) {
+    // A copy, because the handler may end the form and this text box with it.
+    const auto handler = On_Change;
+    if (Store(state_.caption, Without_Line_Breaks(std::move(text)), Aspect::Caption) && handler)
+        handler();
+}
+
+std::string Text_Box::Without_Line_Breaks(std::string text) {
+    std::size_t kept = 0;
+    for (std::size_t at = 0; at < text.size(); ++at) {
+        if (text[at] == '\r' && at + 1 < text.size() && text[at + 1] == '\n')
+            continue;
+        text[kept++] = text[at] == '\r' || text[at] == '\n' ? ' ' : text[at];
+    }
+    text.resize(kept);
+    return text;
+}
+
+void Text_Box::Set_Max_Length(int characters) {
+    Store(state_.max_length, characters, Aspect::Look);
+}

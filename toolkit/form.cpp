@@ -1,0 +1,240 @@
+// Forms: their state, the life of their native window, and the way of user actions to the controls.
+#include "toolkit/form.h"
+
+#include "toolkit/guard.h"
+#include "toolkit/painter.h"
+
+#include <algorithm>
+#include <utility>
+
+using platform::Aspect;
+using platform::Control_Kind;
+using platform::Form_Kind;
+using platform::Input_Event;
+using platform::Input_Kind;
+using platform::Mouse_Button;
+
+namespace {
+
+/// Calls an event's handler, if it has one. The handler may end the form that holds it, so it is a copy that
+/// runs, and the callers touch nothing of the form afterwards.
+template <typename... Params, typename... Args>
+void Fire(const std::function<void(Params...)> &event, Args &&...args) {
+    if (const auto handler = event)
+        handler(std::forward<Args>(args)...);
+}
+
+} // namespace
+
+Form::Form(Form_Kind kind, std::string name) {
+    model_.kind = kind;
+    model_.name = std::move(name);
+    model_.input = [this](const Input_Event &event) { Input(event); };
+    model_.paint = [this](platform::Canvas &canvas, const platform::Rect &clip) {
+        try {
+            Paint_Form(model_, canvas, clip);
+        } catch (...) {
+            // A message box would ask for the same painting again; the next change paints anew.
+        }
+    };
+}
+
+Form::~Form() {
+    Close();
+}
+
+void Form::Register(Control &control) {
+    control.state_.index = static_cast<int>(controls_.size());
+    controls_.push_back(&control);
+    model_.controls.push_back(&control.state_);
+}
+
+void Form::Forget(const Control &control) {
+    Close();
+    std::erase(controls_, &control);
+    std::erase(model_.controls, &control.state_);
+}
+
+void Form::Tell(Aspect aspect) {
+    if (created_)
+        platform::Form_Changed(model_, aspect);
+}
+
+void Form::Move(int left, int top) {
+    if (left == Left() && top == Top())
+        return;
+    model_.bounds.left = left;
+    model_.bounds.top = top;
+    Tell(Aspect::Bounds);
+}
+
+void Form::Resize(int width, int height) {
+    if (width == Width() && height == Height())
+        return;
+    model_.bounds.width = width;
+    model_.bounds.height = height;
+    Tell(Aspect::Bounds);
+}
+
+void Form::Show() {
+    if (created_) {
+        if (!std::exchange(model_.visible, true))
+            Tell(Aspect::Visible);
+        return;
+    }
+    // A clipped window appears in its final shape.
+    model_.visible = !clip_;
+    platform::Create_Mirror(model_);
+    created_ = true;
+    if (clip_) {
+        platform::Clip_Window(model_, *clip_);
+        model_.visible = true;
+        Tell(Aspect::Visible);
+    }
+}
+
+void Form::Hide() {
+    captured_ = nullptr;
+    if (std::exchange(model_.visible, false))
+        Tell(Aspect::Visible);
+}
+
+void Form::Close() {
+    captured_ = nullptr;
+    model_.visible = false;
+    if (std::exchange(created_, false))
+        platform::Destroy_Mirror(model_);
+}
+
+void Form::Set_Title(std::string title) {
+    if (model_.title == title)
+        return;
+    model_.title = std::move(title);
+    Tell(Aspect::Caption);
+}
+
+void Form::Set_Back_Colour(platform::Colour colour) {
+    if (std::exchange(model_.back_colour, colour) != colour)
+        Tell(Aspect::Look);
+}
+
+void Form::Set_Pointer(platform::Pointer_Shape shape) {
+    if (std::exchange(model_.pointer, shape) != shape)
+        Tell(Aspect::Pointer);
+}
+
+void Form::Set_Focus(const Control &control) {
+    // Told even when equal: the user moves the focus between native controls without the form's doing.
+    model_.focused = control.State().index;
+    Tell(Aspect::Focus);
+}
+
+void Form::Clip(std::vector<platform::Rect> rects) {
+    if (clip_ == rects)
+        return;
+    clip_ = std::move(rects);
+    if (created_)
+        platform::Clip_Window(model_, *clip_);
+}
+
+Control *Form::Control_At(platform::Point point) {
+    const auto found = std::find_if(controls_.rbegin(), controls_.rend(), [point](const Control *control) {
+        return control->Visible() && control->Bounds().Contains(point);
+    });
+    return found == controls_.rend() ? nullptr : *found;
+}
+
+void Form::Input(const Input_Event &event) {
+    Run_Guarded([this, &event] { Handle(event); });
+}
+
+void Form::Handle(const Input_Event &event) {
+    switch (event.kind) {
+    case Input_Kind::Mouse_Down:
+    case Input_Kind::Mouse_Up:
+    case Input_Kind::Mouse_Move:
+    case Input_Kind::Double_Click:
+        return Handle_Mouse(event);
+    case Input_Kind::Clicked:
+    case Input_Kind::Text_Changed:
+    case Input_Kind::Default_Action:
+        return Handle_Native(event);
+    case Input_Kind::Key_Down:
+        return Fire(On_Key_Down, event);
+    case Input_Kind::Key_Up:
+        return Fire(On_Key_Up, event);
+    case Input_Kind::Close:
+        return On_Close ? Fire(On_Close) : Close();
+    case Input_Kind::Window_Lost:
+        captured_ = nullptr;
+        created_ = false;
+        return Fire(On_Window_Lost);
+    case Input_Kind::Focus_Changed:
+        return Fire(On_Focus_Changed, event.checked);
+    case Input_Kind::Dots_Changed:
+        return Fire(On_Dots_Changed);
+    }
+}
+
+void Form::Press(Control *control, const Input_Event &event) {
+    if (captured_ == nullptr) {
+        captured_ = control;
+        captured_by_ = event.button;
+    }
+    if (control == nullptr || !control->Enabled() || !control->Visible())
+        return;
+    // A double click is the left button's; with the others the second press is one like the first.
+    if (event.kind == Input_Kind::Double_Click && event.button == Mouse_Button::Left)
+        return Fire(control->On_Double_Click);
+    const platform::Point point{event.point.x - control->Left(), event.point.y - control->Top()};
+    Fire(control->On_Mouse_Down, event.button, point);
+}
+
+void Form::Handle_Mouse(const Input_Event &event) {
+    // A press of the same button, or a move without one, shows that its release went elsewhere: into a menu
+    // or a message box.
+    const bool pressed = event.kind == Input_Kind::Mouse_Down || event.kind == Input_Kind::Double_Click;
+    const bool loose = event.kind == Input_Kind::Mouse_Move && event.button == Mouse_Button::None;
+    if (loose || (pressed && event.button == captured_by_))
+        captured_ = nullptr;
+    Control *control = captured_ != nullptr ? captured_ : Control_At(event.point);
+    if (pressed)
+        return Press(control, event);
+
+    const bool released = event.kind == Input_Kind::Mouse_Up;
+    // A release without its press belongs to something that was open over the form.
+    if (released && captured_ == nullptr)
+        return;
+    if (released && event.button == captured_by_)
+        captured_ = nullptr;
+    if (control == nullptr || !control->Enabled() || !control->Visible())
+        return;
+    const platform::Point point{event.point.x - control->Left(), event.point.y - control->Top()};
+    Fire(released ? control->On_Mouse_Up : control->On_Mouse_Move, event.button, point);
+}
+
+void Form::Handle_Native(const Input_Event &event) {
+    if (event.control < 0 || event.control >= static_cast<int>(controls_.size()))
+        return;
+    Control &control = *controls_[static_cast<std::size_t>(event.control)];
+    if (!control.Enabled() || !control.Visible())
+        return;
+    const Control_Kind kind = control.state_.kind;
+    if (event.kind == Input_Kind::Default_Action) {
+        Fire(control.On_Default_Action);
+    } else if (event.kind == Input_Kind::Text_Changed && kind == Control_Kind::Text_Box) {
+        // The native control shows the new state already, so the mirror is not told.
+        auto &box = static_cast<Text_Box &>(control);
+        std::string text = Text_Box::Without_Line_Breaks(event.text);
+        if (box.state_.caption == text)
+            return;
+        box.state_.caption = std::move(text);
+        Fire(box.On_Change);
+    } else if (event.kind == Input_Kind::Clicked && kind == Control_Kind::Check_Box) {
+        auto &box = static_cast<Check_Box &>(control);
+        box.state_.checked = event.checked;
+        Fire(box.On_Click);
+    } else if (event.kind == Input_Kind::Clicked && kind == Control_Kind::Button) {
+        Fire(static_cast<Button &>(control).On_Click);
+    }
+}

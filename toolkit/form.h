@@ -1,0 +1,83 @@
+// A form: a window with its controls, whose native window only mirrors it. Every user action enters through
+// Input.
+#pragma once
+
+#include "platform/forms.h"
+#include "toolkit/control.h"
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+/// Base of all windows of the program. A form's controls are its direct members, registered in the order in
+/// which they are declared, which is the paint and tab order.
+class Form {
+public:
+    Form(platform::Form_Kind kind, std::string name);
+    Form(const Form &) = delete;
+    Form &operator=(const Form &) = delete;
+    virtual ~Form();
+
+    const platform::Form_Model &Model() const { return model_; }
+    platform::Form_Model &Model() { return model_; }
+
+    // Place on the screen and size, in twips.
+    int Left() const { return model_.bounds.left; }
+    int Top() const { return model_.bounds.top; }
+    int Width() const { return model_.bounds.width; }
+    int Height() const { return model_.bounds.height; }
+    void Move(int left, int top);
+    void Resize(int width, int height);
+
+    bool Visible() const { return model_.visible; }
+    /// Makes the native window at the first call.
+    void Show();
+    void Hide();
+    /// Takes the native window down; the form's state stays.
+    void Close();
+    void Set_Title(std::string title);
+    platform::Colour Back_Colour() const { return model_.back_colour; }
+    void Set_Back_Colour(platform::Colour colour);
+    /// Paints the whole window anew: what it shows changed without a change of its state.
+    void Repaint() { Tell(platform::Aspect::Look); }
+    void Set_Pointer(platform::Pointer_Shape shape);
+    void Set_Focus(const Control &control);
+    /// Clips the window to these rectangles (twips on the form); also a window that is made later.
+    void Clip(std::vector<platform::Rect> rects);
+
+    /// The door of all user actions and messages to the form: hit-testing, capture and the rules of visible
+    /// and enabled are here. An exception of a handler is told to the user in a message box and goes no
+    /// further.
+    void Input(const platform::Input_Event &event);
+
+    /// The top-most visible control at the point, null where there is none.
+    Control *Control_At(platform::Point point);
+
+    // Events of the form itself.
+    std::function<void(const platform::Input_Event &)> On_Key_Down;
+    std::function<void(const platform::Input_Event &)> On_Key_Up;
+    /// The user asks the window to close.
+    std::function<void()> On_Close;
+    /// The native window is gone.
+    std::function<void()> On_Window_Lost;
+    std::function<void(bool has_focus)> On_Focus_Changed;
+    std::function<void()> On_Dots_Changed;
+
+private:
+    friend class Control;
+    void Register(Control &control);
+    void Forget(const Control &control);
+    void Tell(platform::Aspect aspect);
+    void Handle(const platform::Input_Event &event);
+    void Handle_Mouse(const platform::Input_Event &event);
+    void Press(Control *control, const platform::Input_Event &event);
+    void Handle_Native(const platform::Input_Event &event);
+
+    platform::Form_Model model_;
+    std::vector<Control *> controls_;
+    Control *captured_ = nullptr; ///< takes the mouse from button down to up
+    platform::Mouse_Button captured_by_ = platform::Mouse_Button::None;
+    std::optional<std::vector<platform::Rect>> clip_; ///< nothing: not clipped
+    bool created_ = false;                            ///< there is a native window
+};

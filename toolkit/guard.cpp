@@ -1,0 +1,58 @@
+// Turns exceptions into message boxes.
+#include "toolkit/guard.h"
+
+#include "platform/message_box.h"
+
+#include <exception>
+#include <new>
+
+namespace {
+
+/// The sentence for the exception that is being handled.
+std::string Failure_Text() {
+    try {
+        throw;
+    } catch (const std::bad_alloc &) {
+        return "There is not enough memory for this.";
+    } catch (const std::exception &error) {
+        if (*error.what() != '\0')
+            return error.what();
+    } catch (...) {
+    }
+    return "Something went wrong, and the last action was not completed.";
+}
+
+void Tell(const std::string &text) {
+    platform::Message_Box(text, "Vellatro", platform::Box_Icon::Stop);
+}
+
+} // namespace
+
+void Run_Guarded(const std::function<void()> &action) noexcept {
+    try {
+        action();
+    } catch (...) {
+        try {
+            Tell(Failure_Text());
+        } catch (...) {
+            // Not even the message can be shown; the program goes on all the same.
+        }
+    }
+}
+
+void Repeated_Guard::Run(const std::function<void()> &action) noexcept {
+    try {
+        action();
+        told_.clear();
+    } catch (...) {
+        try {
+            const std::string text = Failure_Text();
+            if (text == told_)
+                return;
+            // Remembered first: the action may run again while the box is open.
+            told_ = text;
+            Tell(text);
+        } catch (...) {
+        }
+    }
+}

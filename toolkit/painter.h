@@ -1,0 +1,7 @@
+// Paints a form of the kind Painted: its background, then its visible labels in control order.
+#pragma once
+
+#include "platform/forms.h"
+
+/// Paints what of the form lies in `clip` (twips on the form).
+void Paint_Form(const platform::Form_Model &model, platform::Canvas &canvas, const platform::Rect &clip);

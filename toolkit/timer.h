@@ -1,0 +1,25 @@
+// A timer with an interval and a switch.
+#pragma once
+
+#include "platform/message_loop.h"
+
+#include <functional>
+
+/// Calls On_Timer from the message loop every `interval` milliseconds while it is enabled. Switching it off
+/// and on begins the interval anew. A failure that comes with every tick is told to the user once.
+class Timer {
+public:
+    explicit Timer(unsigned interval_ms) : interval_(interval_ms) {}
+    Timer(const Timer &) = delete;
+    Timer &operator=(const Timer &) = delete;
+    ~Timer() { Set_Enabled(false); }
+
+    bool Enabled() const { return id_ != 0; }
+    void Set_Enabled(bool enabled);
+
+    std::function<void()> On_Timer;
+
+private:
+    unsigned interval_;
+    platform::Timer_Id id_ = 0;
+};
