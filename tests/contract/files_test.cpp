@@ -1,0 +1,92 @@
+// What platform/files.h promises: whole files, replaced whole or not at all.
+#include "platform/files.h"
+#include "tests/contract/contract.h"
+
+namespace {
+
+class Files_Contract : public Contract_Test {};
+
+using Names = std::vector<std::string>;
+
+TEST_F(Files_Contract, Keeps_Every_Byte) {
+    std::string all_bytes;
+    for (int i = 0; i < 256; ++i)
+        all_bytes += static_cast<char>(i);
+    std::string long_text;
+    for (int i = 0; i < 100'000; ++i)
+        long_text += "\"" + std::to_string(i) + "\"\r\n";
+    const std::string path = Scratch("calendar.dat");
+    // Longer after shorter and shorter after longer: nothing of the old content may stay.
+    for (const std::string &bytes :
+         {std::string("a\n\x1A"
+                      "b\r\n"),
+          all_bytes, long_text, std::string("x"), std::string(), std::string("\xEF\xBB\xBF\0", 4)}) {
+        platform::Replace_File(path, bytes);
+        EXPECT_EQ(platform::Read_File(path), bytes);
+        EXPECT_TRUE(platform::File_Exists(path));
+    }
+    EXPECT_EQ(Names_Left(), Names{"calendar.dat"});
+}
+
+TEST_F(Files_Contract, Names_Are_Found_In_Any_Case_And_Language) {
+    for (const char *name : {"Notes 1.txt", "\xD0\x94\xD0\xB5\xD0\xBD\xD1\x8C.txt", "\xE6\x97\xA5.txt"}) {
+        EXPECT_FALSE(platform::File_Exists(Scratch(name)));
+        platform::Replace_File(Scratch(name), name);
+        EXPECT_EQ(platform::Read_File(Scratch(name)), name);
+    }
+    EXPECT_EQ(platform::Read_File(Scratch("nOTES 1.TXT")), "Notes 1.txt");
+    platform::Replace_File(Scratch("NOTES 1.txt"), "new");
+    EXPECT_EQ(platform::Read_File(Scratch("Notes 1.txt")), "new");
+    EXPECT_EQ(Names_Left().size(), 3U);
+}
+
+TEST_F(Files_Contract, A_Missing_File_Is_An_Error_That_Names_It) {
+    const std::string path = Scratch("missing.dat");
+    EXPECT_FALSE(platform::Path_Exists(path));
+    try {
+        platform::Read_File(path);
+        ADD_FAILURE() << "it was read";
+    } catch (const platform::File_Error &error) {
+        EXPECT_NE(std::string(error.what()).find(path), std::string::npos) << error.what();
+        EXPECT_GT(std::string(error.what()).size(), path.size());
+    }
+    EXPECT_EQ(Names_Left(), Names{});
+}
+
+TEST_F(Files_Contract, A_Folder_Is_No_File) {
+    const std::string path = Scratch("pack");
+    Make_Folder(path);
+    EXPECT_TRUE(platform::Path_Exists(path));
+    EXPECT_FALSE(platform::File_Exists(path));
+    EXPECT_THROW(platform::Read_File(path), platform::File_Error);
+    EXPECT_THROW(platform::Replace_File(path, "x"), platform::File_Error);
+    EXPECT_TRUE(platform::Path_Exists(path));
+}
+
+TEST_F(Files_Contract, A_Protected_File_Stays) {
+    const std::string path = Scratch("calendar.dat");
+    platform::Replace_File(path, "old");
+    Protect_File(path);
+    EXPECT_THROW(platform::Replace_File(path, "new"), platform::File_Error);
+    EXPECT_EQ(platform::Read_File(path), "old");
+    EXPECT_EQ(Names_Left(), Names{"calendar.dat"});
+}
+
+TEST_F(Files_Contract, A_File_In_Other_Hands_Is_An_Error) {
+    const std::string path = Scratch("calendar.dat");
+    platform::Replace_File(path, "old");
+    Lock_File(path);
+    EXPECT_THROW(platform::Read_File(path), platform::File_Error);
+    EXPECT_THROW(platform::Replace_File(path, "new"), platform::File_Error);
+    EXPECT_TRUE(platform::File_Exists(path));
+    EXPECT_EQ(Names_Left(), Names{"calendar.dat"});
+}
+
+TEST_F(Files_Contract, The_Program_Folder_Has_No_Separator_At_Its_End) {
+    const std::string folder = platform::Program_Folder();
+    ASSERT_GE(folder.size(), 2U);
+    EXPECT_EQ(folder[1], ':');
+    EXPECT_NE(folder.back(), '\\');
+}
+
+} // namespace

@@ -1,0 +1,176 @@
+// Drawing on the buffer of a painted form, measuring text, system colours.
+#include "win32/canvas.h"
+
+#include "win32/fonts.h"
+#include "win32/units.h"
+#include "win32/wide_text.h"
+
+#include <algorithm>
+
+namespace platform {
+
+namespace {
+
+/// The longest text that one drawing call takes.
+constexpr std::size_t longest_call = 8192;
+
+COLORREF Plain(Colour colour) {
+    return static_cast<COLORREF>(Resolve_Colour(colour));
+}
+
+void Fill_Pixels(HDC dc, const RECT &rect, COLORREF colour) {
+    // An opaque empty text fills a rectangle without the making of a brush.
+    const COLORREF before = SetBkColor(dc, colour);
+    ExtTextOutW(dc, 0, 0, ETO_OPAQUE, &rect, nullptr, 0, nullptr);
+    SetBkColor(dc, before);
+}
+
+/// The first part of `text` that one call takes; a pair of surrogates stays together.
+std::wstring_view Call_Part(std::wstring_view text) {
+    if (text.size() <= longest_call)
+        return text;
+    const bool splits = (text[longest_call] & 0xFC00) == 0xDC00;
+    return text.substr(0, longest_call - (splits ? 1 : 0));
+}
+
+int Pixel_Width(HDC dc, std::wstring_view text) {
+    int width = 0;
+    while (!text.empty()) {
+        const std::wstring_view part = Call_Part(text);
+        SIZE size = {};
+        GetTextExtentPoint32W(dc, part.data(), static_cast<int>(part.size()), &size);
+        width += static_cast<int>(size.cx);
+        text.remove_prefix(part.size());
+    }
+    return width;
+}
+
+} // namespace
+
+Canvas::Canvas(const RECT &area) : area_(area) {
+    bitmap_ = win32::Make_Pixel_Bitmap(area.right - area.left, area.bottom - area.top, pixels_);
+    dc_.Reset(CreateCompatibleDC(nullptr));
+    if (!bitmap_ || !dc_) {
+        pixels_ = {};
+        return;
+    }
+    bitmap_before_ = SelectObject(dc_.Get(), bitmap_.Get());
+    font_before_ = GetCurrentObject(dc_.Get(), OBJ_FONT);
+    SetViewportOrgEx(dc_.Get(), -static_cast<int>(area.left), -static_cast<int>(area.top), nullptr);
+    SetBkMode(dc_.Get(), TRANSPARENT);
+}
+
+Canvas::~Canvas() {
+    if (bitmap_before_ != nullptr) {
+        SelectObject(dc_.Get(), bitmap_before_);
+        SelectObject(dc_.Get(), font_before_);
+    }
+}
+
+const win32::Pixel_Buffer &Canvas::Pixels() const {
+    GdiFlush();
+    return pixels_;
+}
+
+void Canvas::Put_On(HDC target) const {
+    BitBlt(target, area_.left, area_.top, area_.right - area_.left, area_.bottom - area_.top, dc_.Get(),
+           area_.left, area_.top, SRCCOPY);
+}
+
+void Fill_Rect(Canvas &canvas, const Rect &rect, Colour colour) {
+    const RECT pixels = win32::To_Pixels(rect);
+    if (pixels.left < pixels.right && pixels.top < pixels.bottom)
+        Fill_Pixels(canvas.Dc(), pixels, Plain(colour));
+}
+
+void Frame_Rect(Canvas &canvas, const Rect &rect, Colour colour, int thickness) {
+    const RECT outer = win32::To_Pixels(rect);
+    if (outer.left >= outer.right || outer.top >= outer.bottom)
+        return;
+    const LONG width = std::max(1, win32::To_Pixels(thickness));
+    const LONG left = std::min(outer.left + width, outer.right);
+    const LONG top = std::min(outer.top + width, outer.bottom);
+    const LONG right = std::max(outer.right - width, left);
+    const LONG bottom = std::max(outer.bottom - width, top);
+    const RECT sides[] = {{outer.left, outer.top, outer.right, top},
+                          {outer.left, bottom, outer.right, outer.bottom},
+                          {outer.left, top, left, bottom},
+                          {right, top, outer.right, bottom}};
+    for (const RECT &side : sides)
+        Fill_Pixels(canvas.Dc(), side, Plain(colour));
+}
+
+void Fill_Polygon(Canvas &canvas, const std::vector<Point> &corners, Colour colour) {
+    const double scale = Dots_Per_Inch() / 1440.0;
+    std::vector<win32::Smooth_Point> smooth;
+    smooth.reserve(corners.size());
+    for (const Point &corner : corners) {
+        smooth.push_back({corner.x * scale - static_cast<double>(canvas.Area().left),
+                          corner.y * scale - static_cast<double>(canvas.Area().top)});
+    }
+    win32::Fill_Smooth_Polygon(canvas.Pixels(), smooth, win32::Pixel_Colour(colour));
+}
+
+void Draw_Text(Canvas &canvas, std::string_view text, const Rect &rect, const Font &font, Colour colour,
+               Text_Align align) {
+    const RECT pixels = win32::To_Pixels(rect);
+    const std::wstring wide = win32::To_Wide(text);
+    if (wide.empty() || pixels.left >= pixels.right || pixels.top >= pixels.bottom)
+        return;
+    const HDC dc = canvas.Dc();
+    SelectObject(dc, win32::Find_Font(font).handle);
+    SetTextColor(dc, Plain(colour));
+    const std::wstring_view part = Call_Part(wide);
+    int left = static_cast<int>(pixels.left);
+    if (align != Text_Align::Left) {
+        const int room = static_cast<int>(pixels.right - pixels.left) - Pixel_Width(dc, part);
+        // A text that is too long shows its beginning.
+        left += std::max(0, align == Text_Align::Centre ? room / 2 : room);
+    }
+    ExtTextOutW(dc, left, static_cast<int>(pixels.top), ETO_CLIPPED, &pixels, part.data(),
+                static_cast<UINT>(part.size()), nullptr);
+}
+
+int Text_Width(std::string_view text, const Font &font) {
+    const std::wstring wide = win32::To_Wide(text);
+    // Up, so that a text fits where its width in twips does.
+    return win32::Scale_Up(Pixel_Width(win32::Measuring_Dc(font), wide), 1440, Dots_Per_Inch());
+}
+
+int Line_Height(const Font &font) {
+    return win32::Scale_Up(win32::Find_Font(font).line_height, 1440, Dots_Per_Inch());
+}
+
+Colour Resolve_Colour(Colour colour) {
+    const auto bits = static_cast<std::uint32_t>(colour);
+    if ((bits & 0x80000000U) == 0)
+        return static_cast<Colour>(bits & 0x00FFFFFFU);
+    return static_cast<Colour>(GetSysColor(static_cast<int>(bits & 0xFFU)));
+}
+
+} // namespace platform
+
+namespace win32 {
+
+Unique_Bitmap Make_Pixel_Bitmap(int width, int height, Pixel_Buffer &pixels) {
+    BITMAPINFO description = {};
+    description.bmiHeader.biSize = sizeof description.bmiHeader;
+    description.bmiHeader.biWidth = width;
+    description.bmiHeader.biHeight = -height;
+    description.bmiHeader.biPlanes = 1;
+    description.bmiHeader.biBitCount = 32;
+    description.bmiHeader.biCompression = BI_RGB;
+    void *bits = nullptr;
+    Unique_Bitmap bitmap(CreateDIBSection(nullptr, &description, DIB_RGB_COLORS, &bits, nullptr, 0));
+    if (bitmap)
+        pixels = {static_cast<std::uint32_t *>(bits), width, height};
+    return bitmap;
+}
+
+std::uint32_t Pixel_Colour(platform::Colour colour) {
+    const COLORREF plain = static_cast<COLORREF>(platform::Resolve_Colour(colour));
+    return (static_cast<std::uint32_t>(GetRValue(plain)) << 16) |
+           (static_cast<std::uint32_t>(GetGValue(plain)) << 8) | GetBValue(plain);
+}
+
+} // namespace win32

@@ -1,0 +1,47 @@
+// Bare native dialog windows from a template in memory.
+#include "win32/dialog_template.h"
+
+#include <cstring>
+#include <vector>
+
+namespace win32 {
+
+namespace {
+
+void Register_Dialog_Class(const std::wstring &class_name, WNDPROC procedure) {
+    const HINSTANCE instance = GetModuleHandleW(nullptr);
+    WNDCLASSEXW window_class = {};
+    window_class.cbSize = sizeof window_class;
+    if (GetClassInfoExW(instance, class_name.c_str(), &window_class))
+        return;
+    constexpr WORD arrow = 32512;
+    window_class = {};
+    window_class.cbSize = sizeof window_class;
+    window_class.lpfnWndProc = procedure;
+    window_class.cbWndExtra = DLGWINDOWEXTRA;
+    window_class.hInstance = instance;
+    window_class.hIcon = LoadIconW(instance, MAKEINTRESOURCEW(1));
+    window_class.hCursor = LoadCursorW(nullptr, MAKEINTRESOURCEW(arrow));
+    window_class.lpszClassName = class_name.c_str();
+    RegisterClassExW(&window_class);
+}
+
+} // namespace
+
+HWND Make_Dialog(const std::wstring &class_name, WNDPROC procedure) {
+    Register_Dialog_Class(class_name, procedure);
+    DLGTEMPLATE head = {};
+    head.style = WS_POPUP | WS_CAPTION | WS_SYSMENU | DS_MODALFRAME | DS_3DLOOK;
+    head.dwExtendedStyle = WS_EX_CONTROLPARENT;
+    // After the head come the menu (none), the class and the title (none), each ended by a zero.
+    const std::size_t text_bytes = (class_name.size() + 3) * sizeof(wchar_t);
+    std::vector<DWORD> bytes((sizeof head + text_bytes) / sizeof(DWORD) + 1);
+    auto *place = reinterpret_cast<unsigned char *>(bytes.data());
+    std::memcpy(place, &head, sizeof head);
+    std::memcpy(place + sizeof head + sizeof(wchar_t), class_name.data(),
+                class_name.size() * sizeof(wchar_t));
+    return CreateDialogIndirectParamW(
+        GetModuleHandleW(nullptr), reinterpret_cast<const DLGTEMPLATE *>(bytes.data()), nullptr, nullptr, 0);
+}
+
+} // namespace win32

@@ -1,0 +1,183 @@
+// Dialogs: their window, its place and its messages. The single controls are in dialog_controls.cpp.
+#include "win32/dialog_window.h"
+
+#include "win32/dialog_edit.h"
+#include "win32/dialog_template.h"
+#include "win32/units.h"
+#include "win32/wide_text.h"
+
+#include <algorithm>
+
+namespace win32 {
+
+using platform::Aspect;
+using platform::Control_State;
+using platform::Input_Event;
+using platform::Input_Kind;
+
+namespace {
+
+/// `place` moved so that it lies wholly in the work area of its nearest monitor.
+RECT On_Screen(RECT place) {
+    MONITORINFO monitor = {};
+    monitor.cbSize = sizeof monitor;
+    if (!GetMonitorInfoW(MonitorFromRect(&place, MONITOR_DEFAULTTONEAREST), &monitor))
+        return place;
+    const RECT &area = monitor.rcWork;
+    // The top left corner counts where the window is larger than the area.
+    const LONG left = std::max(area.left, std::min(place.left, area.right - (place.right - place.left)));
+    const LONG top = std::max(area.top, std::min(place.top, area.bottom - (place.bottom - place.top)));
+    OffsetRect(&place, left - place.left, top - place.top);
+    return place;
+}
+
+} // namespace
+
+void Dialog_Window::Create() {
+    window_ = Make_Dialog(L"Vellatro_" + To_Wide(Model()->name), Procedure);
+    if (window_ == nullptr)
+        return;
+    SetWindowLongPtrW(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+    SetWindowTextW(window_, To_Wide(Model()->title).c_str());
+    natives_.resize(Model()->controls.size());
+    for (const Control_State *control : Model()->controls)
+        Make_Control(*control);
+    Place();
+}
+
+LRESULT CALLBACK Dialog_Window::Procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
+    auto *mirror = reinterpret_cast<Dialog_Window *>(GetWindowLongPtrW(window, GWLP_USERDATA));
+    if (mirror == nullptr)
+        return DefDlgProcW(window, message, wparam, lparam);
+    try {
+        const std::shared_ptr<Mirror> keep = mirror->shared_from_this();
+        if (message == WM_NCDESTROY) {
+            SetWindowLongPtrW(window, GWLP_USERDATA, 0);
+            mirror->Window_Gone();
+            return DefDlgProcW(window, message, wparam, lparam);
+        }
+        if (mirror->Model() != nullptr)
+            return mirror->Handle(message, wparam, lparam);
+    } catch (...) {
+        // Only want of memory comes here. The system's code above cannot pass an exception on.
+    }
+    return DefDlgProcW(window, message, wparam, lparam);
+}
+
+LRESULT Dialog_Window::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
+    switch (message) {
+    case WM_COMMAND:
+        Command(LOWORD(wparam), HIWORD(wparam));
+        return 0;
+    case WM_CLOSE:
+        Send(Input_Kind::Close);
+        return 0;
+    case WM_ACTIVATE: {
+        // The system's part first: it gives the keyboard back to the control that had it.
+        const LRESULT result = DefDlgProcW(window_, message, wparam, lparam);
+        Input_Event event{};
+        event.kind = Input_Kind::Focus_Changed;
+        event.checked = LOWORD(wparam) != WA_INACTIVE;
+        Send(event);
+        return result;
+    }
+    case WM_DPICHANGED:
+        // The system would scale the controls by itself; they follow the calendar's screen.
+        return 0;
+    case WM_CTLCOLORSTATIC:
+        return Colour_Control(reinterpret_cast<HDC>(wparam), reinterpret_cast<HWND>(lparam),
+                              DefDlgProcW(window_, message, wparam, lparam));
+    case WM_SYSCOLORCHANGE:
+        for (Native &native : natives_)
+            native.brush.Reset();
+        break;
+    default:
+        break;
+    }
+    return DefDlgProcW(window_, message, wparam, lparam);
+}
+
+void Dialog_Window::Form_Changed(Aspect aspect) {
+    switch (aspect) {
+    case Aspect::Bounds:
+        Place();
+        break;
+    case Aspect::Visible:
+        Show_Or_Hide();
+        break;
+    case Aspect::Caption:
+        SetWindowTextW(window_, To_Wide(Model()->title).c_str());
+        break;
+    case Aspect::Focus:
+        Focus();
+        break;
+    default:
+        break;
+    }
+}
+
+void Dialog_Window::Place() {
+    const platform::Rect bounds = Model()->bounds;
+    const int dots = platform::Dots_Per_Inch();
+    const bool moved = bounds.left != placed_.left || bounds.top != placed_.top || placed_dots_ == 0;
+    RECT outer = {0, 0, To_Pixels(bounds.width), To_Pixels(bounds.height)};
+    AdjustWindowRectEx(&outer, static_cast<DWORD>(GetWindowLongW(window_, GWL_STYLE)), FALSE,
+                       static_cast<DWORD>(GetWindowLongW(window_, GWL_EXSTYLE)));
+    RECT now = {};
+    GetWindowRect(window_, &now);
+    // A window that the user has moved stays there until the form itself moves.
+    const POINT corner =
+        moved ? POINT{To_Pixels(bounds.left), To_Pixels(bounds.top)} : POINT{now.left, now.top};
+    RECT place = {corner.x, corner.y, corner.x + outer.right - outer.left,
+                  corner.y + outer.bottom - outer.top};
+    place = On_Screen(place);
+    SetWindowPos(window_, nullptr, place.left, place.top, place.right - place.left, place.bottom - place.top,
+                 SWP_NOZORDER | SWP_NOACTIVATE);
+    // The frame may be larger than told, where its screen has a scale of its own.
+    RECT client = {};
+    GetClientRect(window_, &client);
+    const LONG wider = To_Pixels(bounds.width) - client.right;
+    const LONG higher = To_Pixels(bounds.height) - client.bottom;
+    if (wider != 0 || higher != 0) {
+        SetWindowPos(window_, nullptr, 0, 0, place.right - place.left + wider,
+                     place.bottom - place.top + higher, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    }
+    placed_ = bounds;
+    placed_dots_ = dots;
+}
+
+void Dialog_Window::Show_Or_Hide() {
+    if (!Model()->visible) {
+        ShowWindow(window_, SW_HIDE);
+        return;
+    }
+    Bring_To_Front();
+    Focus();
+}
+
+void Dialog_Window::Bring_To_Front() {
+    if (IsIconic(window_))
+        ShowWindow(window_, SW_RESTORE);
+    SetWindowPos(window_, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_SHOWWINDOW);
+    SetForegroundWindow(window_);
+}
+
+void Dialog_Window::Focus() {
+    if (!IsWindowVisible(window_))
+        return;
+    HWND control = Control_Window(Model()->focused);
+    if (control == nullptr || !IsWindowEnabled(control) || !IsWindowVisible(control))
+        control = GetNextDlgTabItem(window_, nullptr, FALSE);
+    if (control != nullptr && GetFocus() != control)
+        SendMessageW(window_, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(control), TRUE);
+}
+
+void Dialog_Window::Scale_Changed() {
+    for (const Control_State *control : Model()->controls) {
+        Set_Font(*control);
+        Place_Control(*control);
+    }
+    Place();
+}
+
+} // namespace win32

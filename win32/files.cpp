@@ -1,0 +1,193 @@
+// Whole files: platform/files.h over Win32. A file is replaced through a neighbour that bears its name and
+// ".vellatro-new"; one that a killed run left behind is thrown away by the next replacement.
+#include "platform/files.h"
+
+#include "win32/handles.h"
+#include "win32/paths.h"
+#include "win32/system_error.h"
+
+#include <algorithm>
+#include <new>
+
+namespace platform {
+
+namespace {
+
+constexpr const char *New_File_Ending = ".vellatro-new";
+
+/// What a 32-bit process can surely hold twice; longer files are refused.
+constexpr DWORD Longest_File = 0x20000000;
+constexpr std::size_t Bytes_Per_Write = 0x100000;
+
+/// Virus scanners and indexers hold a file for a moment after each change: so long is the renaming tried.
+constexpr int Rename_Tries = 10;
+constexpr DWORD Milliseconds_Between_Tries = 30;
+
+[[noreturn]] void Throw(const std::string &path, DWORD code) {
+    throw File_Error(path + ": " + win32::System_Error_Text(code));
+}
+
+/// Keeps the system from asking the user for a missing disk; the call fails instead.
+class Quiet_Errors {
+public:
+    Quiet_Errors() : before_(SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX)) {}
+    ~Quiet_Errors() { SetErrorMode(before_); }
+    Quiet_Errors(const Quiet_Errors &) = delete;
+    Quiet_Errors &operator=(const Quiet_Errors &) = delete;
+
+private:
+    UINT before_;
+};
+
+DWORD Attributes_Of(const std::string &path) {
+    const Quiet_Errors quiet;
+    const std::wstring wide = win32::Path_For_Call(path);
+    return wide.empty() ? INVALID_FILE_ATTRIBUTES : GetFileAttributesW(wide.c_str());
+}
+
+/// Makes the string `size` bytes long; false when there is no memory for it.
+bool Resize(std::string &bytes, std::size_t size) {
+    try {
+        bytes.resize(size);
+        return true;
+    } catch (const std::bad_alloc &) {
+        return false;
+    }
+}
+
+/// Reads to the end of the file, wherever that is by then: others may write meanwhile. Gives an error code.
+DWORD Read_To_End(HANDLE file, std::string &bytes) {
+    DWORD high = 0;
+    const DWORD low = GetFileSize(file, &high);
+    if (low == INVALID_FILE_SIZE && GetLastError() != NO_ERROR)
+        return GetLastError();
+    std::size_t filled = 0;
+    std::size_t room = low + std::size_t{1}; // one more, so that the end is met without growing
+    for (;;) {
+        if (high != 0 || low > Longest_File || room > Longest_File || !Resize(bytes, room))
+            return ERROR_NOT_ENOUGH_MEMORY;
+        DWORD got = 0;
+        if (!ReadFile(file, bytes.data() + filled, static_cast<DWORD>(room - filled), &got, nullptr))
+            return GetLastError();
+        filled += got;
+        if (got == 0) {
+            bytes.resize(filled);
+            return NO_ERROR;
+        }
+        if (filled == room)
+            room += room / 2 + 4096;
+    }
+}
+
+/// Writes all bytes and sees them onto the disk. Gives an error code.
+DWORD Write_All(HANDLE file, std::string_view bytes) {
+    while (!bytes.empty()) {
+        const auto part = static_cast<DWORD>(std::min(bytes.size(), Bytes_Per_Write));
+        DWORD written = 0;
+        if (!WriteFile(file, bytes.data(), part, &written, nullptr))
+            return GetLastError();
+        if (written == 0)
+            return ERROR_DISK_FULL;
+        bytes.remove_prefix(written);
+    }
+    if (FlushFileBuffers(file))
+        return NO_ERROR;
+    // Some shared folders cannot be told to flush; that is no reason to save nothing.
+    const DWORD code = GetLastError();
+    return code == ERROR_INVALID_FUNCTION || code == ERROR_NOT_SUPPORTED ? DWORD{NO_ERROR} : code;
+}
+
+/// Makes the file anew with these bytes and attributes. Gives an error code.
+DWORD Write_New_File(const std::wstring &path, std::string_view bytes, DWORD attributes) {
+    const win32::Unique_File file(
+        CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, attributes, nullptr));
+    return file ? Write_All(file.Get(), bytes) : GetLastError();
+}
+
+/// Gives the file the name `to`, in whose place nothing else stays. Gives an error code.
+DWORD Rename_Over(const std::wstring &from, const std::wstring &to) {
+    for (int tries = 1;; ++tries) {
+        if (MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH))
+            return NO_ERROR;
+        const DWORD code = GetLastError();
+        const bool held = code == ERROR_SHARING_VIOLATION || code == ERROR_ACCESS_DENIED;
+        if (!held || tries == Rename_Tries)
+            return code;
+        Sleep(Milliseconds_Between_Tries);
+    }
+}
+
+void Remove_File(const std::wstring &path) {
+    // A copy that kept a write protection could never be thrown away.
+    SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_NORMAL);
+    DeleteFileW(path.c_str());
+}
+
+} // namespace
+
+std::string Program_Folder() {
+    std::wstring path(MAX_PATH, L'\0');
+    DWORD length = 0;
+    while ((length = GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size()))) >=
+           path.size())
+        path.resize(path.size() * 2);
+    path.resize(length);
+    const std::size_t separator = path.rfind(L'\\');
+    path.resize(separator == std::wstring::npos ? 0 : separator);
+    return win32::Path_From_System(path);
+}
+
+bool File_Exists(const std::string &path) {
+    const DWORD attributes = Attributes_Of(path);
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
+}
+
+bool Path_Exists(const std::string &path) {
+    return Attributes_Of(path) != INVALID_FILE_ATTRIBUTES;
+}
+
+std::string Read_File(const std::string &path) {
+    const std::wstring wide = win32::Path_For_Call(path);
+    if (wide.empty())
+        Throw(path, ERROR_INVALID_NAME);
+    const Quiet_Errors quiet;
+    const win32::Unique_File file(CreateFileW(wide.c_str(), GENERIC_READ,
+                                              FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                                              OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
+    if (!file)
+        Throw(path, GetLastError());
+    // A device's name, like that of a serial port, would keep the program waiting.
+    if (GetFileType(file.Get()) != FILE_TYPE_DISK)
+        Throw(path, ERROR_INVALID_NAME);
+    std::string bytes;
+    const DWORD code = Read_To_End(file.Get(), bytes);
+    if (code != NO_ERROR)
+        Throw(path, code);
+    return bytes;
+}
+
+void Replace_File(const std::string &path, std::string_view bytes) {
+    const std::wstring wide = win32::Path_For_Call(path);
+    const std::wstring new_file = win32::Path_For_Call(path + New_File_Ending);
+    if (wide.empty())
+        Throw(path, ERROR_INVALID_NAME);
+    const Quiet_Errors quiet;
+    DWORD attributes = GetFileAttributesW(wide.c_str());
+    if (attributes == INVALID_FILE_ATTRIBUTES)
+        attributes = 0;
+    if ((attributes & (FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY)) != 0)
+        Throw(path, ERROR_ACCESS_DENIED);
+    // A hidden file stays hidden, an encrypted one encrypted.
+    attributes &= FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_ENCRYPTED |
+                  FILE_ATTRIBUTE_NOT_CONTENT_INDEXED;
+    Remove_File(new_file);
+    DWORD code = Write_New_File(new_file, bytes, attributes | FILE_ATTRIBUTE_ARCHIVE);
+    if (code == NO_ERROR)
+        code = Rename_Over(new_file, wide);
+    if (code != NO_ERROR) {
+        Remove_File(new_file);
+        Throw(path, code);
+    }
+}
+
+} // namespace platform

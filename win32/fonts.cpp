@@ -1,0 +1,102 @@
+// Making and keeping native fonts.
+#include "win32/fonts.h"
+
+#include "win32/units.h"
+
+#include <cstddef>
+#include <vector>
+
+namespace win32 {
+
+namespace {
+
+struct Cache_Entry {
+    platform::Font font;
+    Unique_Font handle;
+    int line_height = 0;
+};
+
+struct Font_Cache {
+    int dots = 0;
+    std::vector<Cache_Entry> entries;
+    Unique_Memory_Dc measuring;
+};
+
+Font_Cache &Cache() {
+    static Font_Cache cache;
+    return cache;
+}
+
+/// The message-box font of the user's settings; its size is not used.
+LOGFONTW Message_Font() {
+    NONCLIENTMETRICSW metrics = {};
+    // The last member is unknown to systems before Windows Vista, which then refuse the whole.
+    metrics.cbSize = offsetof(NONCLIENTMETRICSW, iPaddedBorderWidth);
+    if (SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, metrics.cbSize, &metrics, 0))
+        return metrics.lfMessageFont;
+    LOGFONTW font = {};
+    GetObjectW(GetStockObject(DEFAULT_GUI_FONT), sizeof font, &font);
+    return font;
+}
+
+/// ClearType unless the user has turned smooth fonts off.
+BYTE Font_Quality() {
+    BOOL smooth = TRUE;
+    SystemParametersInfoW(SPI_GETFONTSMOOTHING, 0, &smooth, 0);
+    return smooth ? CLEARTYPE_QUALITY : DEFAULT_QUALITY;
+}
+
+HDC Any_Measuring_Dc() {
+    if (!Cache().measuring)
+        Cache().measuring.Reset(CreateCompatibleDC(nullptr));
+    return Cache().measuring.Get();
+}
+
+} // namespace
+
+Unique_Font Make_Font(const platform::Font &font, int dots) {
+    LOGFONTW description = Message_Font();
+    description.lfHeight = -Scale_Nearest(font.tenth_points, dots, 720);
+    description.lfWidth = 0;
+    description.lfWeight = font.bold ? FW_BOLD : FW_NORMAL;
+    description.lfItalic = FALSE;
+    description.lfUnderline = FALSE;
+    description.lfStrikeOut = FALSE;
+    description.lfQuality = Font_Quality();
+    return Unique_Font(CreateFontIndirectW(&description));
+}
+
+Kept_Font Find_Font(const platform::Font &font) {
+    Font_Cache &cache = Cache();
+    if (cache.dots != platform::Dots_Per_Inch()) {
+        Drop_Fonts();
+        cache.dots = platform::Dots_Per_Inch();
+    }
+    for (const Cache_Entry &entry : cache.entries) {
+        if (entry.font == font)
+            return {entry.handle.Get(), entry.line_height};
+    }
+    Cache_Entry entry{font, Make_Font(font, cache.dots), 0};
+    TEXTMETRICW metrics = {};
+    const Selected_Object selected(Any_Measuring_Dc(), entry.handle.Get());
+    GetTextMetricsW(Any_Measuring_Dc(), &metrics);
+    entry.line_height = metrics.tmHeight;
+    cache.entries.push_back(std::move(entry));
+    return {cache.entries.back().handle.Get(), cache.entries.back().line_height};
+}
+
+void Drop_Fonts() {
+    // First the one that is selected, since a selected font cannot be deleted.
+    if (Cache().measuring)
+        SelectObject(Cache().measuring.Get(), GetStockObject(SYSTEM_FONT));
+    Cache().entries.clear();
+}
+
+HDC Measuring_Dc(const platform::Font &font) {
+    const Kept_Font kept = Find_Font(font);
+    const HDC dc = Any_Measuring_Dc();
+    SelectObject(dc, kept.handle);
+    return dc;
+}
+
+} // namespace win32

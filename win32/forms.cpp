@@ -1,0 +1,151 @@
+// The native windows of forms: their list, and the calls of the program that are passed on to them.
+#include "platform/forms.h"
+
+#include "win32/dialog_window.h"
+#include "win32/fonts.h"
+#include "win32/mirror.h"
+#include "win32/painted_window.h"
+#include "win32/units.h"
+
+namespace win32 {
+
+namespace {
+
+std::vector<std::shared_ptr<Mirror>> mirrors;
+
+void Forget_Mirror(const Mirror &mirror) {
+    std::erase_if(mirrors, [&](const std::shared_ptr<Mirror> &each) { return each.get() == &mirror; });
+}
+
+} // namespace
+
+std::vector<std::shared_ptr<Mirror>> All_Mirrors() {
+    return mirrors;
+}
+
+std::shared_ptr<Mirror> Find_Mirror(const platform::Form_Model &model) {
+    for (const std::shared_ptr<Mirror> &mirror : mirrors) {
+        if (mirror->Model() == &model)
+            return mirror;
+    }
+    return nullptr;
+}
+
+platform::Form_Model *Form_Of_Window(HWND window) {
+    for (const std::shared_ptr<Mirror> &mirror : mirrors) {
+        if (mirror->Window() == window && window != nullptr)
+            return mirror->Model();
+    }
+    return nullptr;
+}
+
+HWND Window_Of_Form(const platform::Form_Model &model) {
+    const std::shared_ptr<Mirror> mirror = Find_Mirror(model);
+    return mirror ? mirror->Window() : nullptr;
+}
+
+void Mirror::Destroy() {
+    const std::shared_ptr<Mirror> keep = shared_from_this();
+    model_ = nullptr;
+    Forget_Mirror(*this);
+    if (window_ != nullptr && IsWindow(window_))
+        DestroyWindow(window_);
+    window_ = nullptr;
+}
+
+void Mirror::Send(const platform::Input_Event &event) {
+    if (model_ == nullptr || !model_->input)
+        return;
+    // A copy, because the handler may destroy the form that holds it.
+    const auto input = model_->input;
+    input(event);
+}
+
+void Mirror::Send(platform::Input_Kind kind) {
+    platform::Input_Event event{};
+    event.kind = kind;
+    Send(event);
+}
+
+void Mirror::Window_Gone() {
+    window_ = nullptr;
+    if (model_ == nullptr)
+        return;
+    const std::shared_ptr<Mirror> keep = shared_from_this();
+    const auto input = model_->input;
+    model_ = nullptr;
+    Forget_Mirror(*this);
+    platform::Input_Event event{};
+    event.kind = platform::Input_Kind::Window_Lost;
+    if (input)
+        input(event);
+}
+
+void Find_Lost_Windows() {
+    for (const std::shared_ptr<Mirror> &mirror : All_Mirrors()) {
+        if (mirror->window_ != nullptr && !IsWindow(mirror->window_))
+            mirror->Window_Gone();
+    }
+}
+
+void Check_Scale(bool fonts_changed) {
+    HWND calendar = nullptr;
+    for (const std::shared_ptr<Mirror> &mirror : mirrors) {
+        if (calendar == nullptr && mirror->Model()->kind == platform::Form_Kind::Painted)
+            calendar = mirror->Window();
+    }
+    if (fonts_changed)
+        Drop_Fonts();
+    if (!Refresh_Dots(calendar) && !fonts_changed)
+        return;
+    for (const std::shared_ptr<Mirror> &mirror : All_Mirrors()) {
+        if (mirror->Window() != nullptr)
+            mirror->Scale_Changed();
+        mirror->Send(platform::Input_Kind::Dots_Changed);
+    }
+}
+
+} // namespace win32
+
+namespace platform {
+
+void Create_Mirror(Form_Model &model) {
+    if (win32::Find_Mirror(model))
+        return;
+    std::shared_ptr<win32::Mirror> mirror;
+    if (model.kind == Form_Kind::Painted)
+        mirror = std::make_shared<win32::Painted_Window>(model);
+    else
+        mirror = std::make_shared<win32::Dialog_Window>(model);
+    win32::mirrors.push_back(mirror);
+    mirror->Create();
+    if (model.visible)
+        mirror->Form_Changed(Aspect::Visible);
+}
+
+void Destroy_Mirror(Form_Model &model) {
+    if (const std::shared_ptr<win32::Mirror> mirror = win32::Find_Mirror(model))
+        mirror->Destroy();
+}
+
+void Form_Changed(Form_Model &model, Aspect aspect) {
+    if (const std::shared_ptr<win32::Mirror> mirror = win32::Find_Mirror(model))
+        mirror->Form_Changed(aspect);
+}
+
+void Control_Changed(Form_Model &model, const Control_State &control, Aspect aspect, const Rect &before) {
+    if (const std::shared_ptr<win32::Mirror> mirror = win32::Find_Mirror(model))
+        mirror->Control_Changed(control, aspect, before);
+}
+
+void Clip_Window(Form_Model &model, const std::vector<Rect> &rects) {
+    if (const std::shared_ptr<win32::Mirror> mirror = win32::Find_Mirror(model))
+        mirror->Clip(rects);
+}
+
+void Bring_To_Front(Form_Model &model) {
+    if (const std::shared_ptr<win32::Mirror> mirror = win32::Find_Mirror(model))
+        mirror->Bring_To_Front();
+}
+
+} // namespace platform

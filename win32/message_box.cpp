@@ -1,0 +1,110 @@
+// Message boxes: platform/message_box.h over Win32.
+#include "platform/message_box.h"
+
+#include "win32/modal.h"
+#include "win32/wide_text.h"
+
+#include <algorithm>
+#include <vector>
+
+namespace platform {
+
+namespace {
+
+/// More than this fits on no screen; the system would push the buttons out of sight.
+constexpr std::size_t Longest_Text = 1000;
+constexpr std::ptrdiff_t Most_Lines = 30;
+constexpr std::size_t Longest_Title = 200;
+
+/// `text` as the box can show it: a zero would end it and becomes a blank; what is too long ends with dots.
+std::wstring Showable(const std::string &text, std::size_t longest) {
+    std::wstring wide = win32::To_Wide(text);
+    std::replace(wide.begin(), wide.end(), L'\0', L' ');
+    std::size_t end = std::min(wide.size(), longest);
+    std::ptrdiff_t lines = 1;
+    for (std::size_t i = 0; i < end; ++i) {
+        if (wide[i] == L'\n' && ++lines > Most_Lines)
+            end = i > 0 && wide[i - 1] == L'\r' ? i - 1 : i;
+    }
+    if (end == wide.size())
+        return wide;
+    if (end > 0 && wide[end - 1] >= 0xD800 && wide[end - 1] <= 0xDBFF)
+        --end;
+    return wide.substr(0, end) + L"...";
+}
+
+UINT Style_Of(Box_Icon icon, Box_Buttons buttons) {
+    constexpr UINT icons[] = {0, MB_ICONINFORMATION, MB_ICONQUESTION, MB_ICONEXCLAMATION, MB_ICONSTOP};
+    constexpr UINT button_sets[] = {MB_OK, MB_YESNO, MB_YESNOCANCEL};
+    return icons[static_cast<int>(icon)] | button_sets[static_cast<int>(buttons)] | MB_TASKMODAL |
+           MB_SETFOREGROUND;
+}
+
+/// The dialog that the user works in, else none. The calendar owns no box: it may live inside the shell's
+/// window, which the box would then lock.
+HWND Active_Dialog() {
+    const HWND window = GetActiveWindow();
+    if (window == nullptr || (GetWindowLongW(window, GWL_STYLE) & WS_CAPTION) != WS_CAPTION)
+        return nullptr;
+    return GetAncestor(window, GA_ROOT) == window ? window : nullptr;
+}
+
+/// Locks the thread's other windows for the length of a scope: a box with an owner locks only that.
+class Locked_Windows {
+public:
+    explicit Locked_Windows(HWND owner) : owner_(owner) {
+        if (owner != nullptr)
+            EnumThreadWindows(GetCurrentThreadId(), Lock, reinterpret_cast<LPARAM>(this));
+    }
+    ~Locked_Windows() {
+        for (const HWND window : windows_)
+            EnableWindow(window, TRUE);
+    }
+    Locked_Windows(const Locked_Windows &) = delete;
+    Locked_Windows &operator=(const Locked_Windows &) = delete;
+
+private:
+    static BOOL CALLBACK Lock(HWND window, LPARAM self_address) {
+        auto *self = reinterpret_cast<Locked_Windows *>(self_address);
+        if (window != self->owner_ && IsWindowVisible(window) && IsWindowEnabled(window)) {
+            self->windows_.push_back(window);
+            EnableWindow(window, FALSE);
+        }
+        return TRUE;
+    }
+
+    HWND owner_;
+    std::vector<HWND> windows_;
+};
+
+/// The system answers nothing when it has no memory for the box: then what changes least is the answer.
+Box_Answer Answer_Of(int id, Box_Buttons buttons) {
+    switch (id) {
+    case IDYES:
+        return Box_Answer::Yes;
+    case IDNO:
+        return Box_Answer::No;
+    case IDCANCEL:
+        return buttons == Box_Buttons::Yes_No_Cancel ? Box_Answer::Cancel : Box_Answer::Ok;
+    default:
+        break;
+    }
+    if (buttons == Box_Buttons::Yes_No)
+        return Box_Answer::No;
+    return buttons == Box_Buttons::Yes_No_Cancel ? Box_Answer::Cancel : Box_Answer::Ok;
+}
+
+} // namespace
+
+Box_Answer Message_Box(const std::string &text, const std::string &title, Box_Icon icon,
+                       Box_Buttons buttons) {
+    const std::wstring wide_text = Showable(text, Longest_Text);
+    const std::wstring wide_title = Showable(title, Longest_Title);
+    const HWND owner = Active_Dialog();
+    const win32::Modal_Scope modal;
+    const Locked_Windows locked(owner);
+    return Answer_Of(MessageBoxW(owner, wide_text.c_str(), wide_title.c_str(), Style_Of(icon, buttons)),
+                     buttons);
+}
+
+} // namespace platform

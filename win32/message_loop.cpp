@@ -1,0 +1,166 @@
+// The message loop, its timers, the broadcasts of the system and the one-instance claim.
+#include "platform/message_loop.h"
+
+#include "win32/handles.h"
+#include "win32/mirror.h"
+#include "win32/wide_text.h"
+
+#include <algorithm>
+#include <vector>
+
+namespace {
+
+struct Timer {
+    platform::Timer_Id id;
+    std::function<void()> tick;
+};
+
+std::vector<Timer> timers;
+platform::Timer_Id last_timer = 0;
+std::function<void(platform::Broadcast)> listener;
+HWND broadcasts = nullptr;
+
+void Tell(platform::Broadcast broadcast) {
+    const auto now = listener;
+    if (now)
+        now(broadcast);
+}
+
+void Tick(platform::Timer_Id id) {
+    // The windows inside the shell's may vanish without a message.
+    win32::Find_Lost_Windows();
+    const auto timer =
+        std::find_if(timers.begin(), timers.end(), [id](const Timer &t) { return t.id == id; });
+    if (timer == timers.end())
+        return;
+    // A copy, because the tick may stop its timer.
+    const auto tick = timer->tick;
+    tick();
+}
+
+/// Does what a message means to the program. Returns whether it was one of those.
+bool Heard(UINT message, WPARAM wparam) {
+    switch (message) {
+    case WM_TIMER:
+        Tick(wparam);
+        return true;
+    case WM_SETTINGCHANGE:
+        win32::Check_Scale(wparam == SPI_SETNONCLIENTMETRICS || wparam == SPI_SETFONTSMOOTHING ||
+                           wparam == SPI_SETFONTSMOOTHINGTYPE);
+        Tell(platform::Broadcast::Settings_Changed);
+        return true;
+    case WM_TIMECHANGE:
+        Tell(platform::Broadcast::Time_Changed);
+        return true;
+    case WM_DISPLAYCHANGE:
+        win32::Check_Scale(false);
+        Tell(platform::Broadcast::Display_Changed);
+        return true;
+    case WM_SYSCOLORCHANGE:
+    case WM_THEMECHANGED:
+        Tell(platform::Broadcast::Colours_Changed);
+        return true;
+    case WM_ENDSESSION:
+        if (wparam != FALSE)
+            Tell(platform::Broadcast::Session_Ends);
+        return true;
+    default:
+        return false;
+    }
+}
+
+LRESULT CALLBACK Broadcast_Procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
+    try {
+        if (Heard(message, wparam))
+            return 0;
+    } catch (...) {
+        // Only want of memory comes here. The system's code above cannot pass an exception on.
+        return 0;
+    }
+    return DefWindowProcW(window, message, wparam, lparam);
+}
+
+/// The hidden window, made at its first use. It is top-level, for others hear no broadcasts.
+HWND Broadcast_Window() {
+    if (broadcasts != nullptr)
+        return broadcasts;
+    WNDCLASSEXW window_class = {};
+    window_class.cbSize = sizeof window_class;
+    window_class.lpfnWndProc = Broadcast_Procedure;
+    window_class.hInstance = GetModuleHandleW(nullptr);
+    window_class.lpszClassName = L"Vellatro_Broadcasts";
+    RegisterClassExW(&window_class);
+    broadcasts = CreateWindowExW(WS_EX_TOOLWINDOW, window_class.lpszClassName, L"Vellatro", WS_POPUP, 0, 0, 0,
+                                 0, nullptr, nullptr, window_class.hInstance, nullptr);
+    return broadcasts;
+}
+
+void Dispatch(MSG &message) {
+    const HWND root = message.hwnd == nullptr ? nullptr : GetAncestor(message.hwnd, GA_ROOT);
+    const platform::Form_Model *form = win32::Form_Of_Window(root);
+    const bool in_dialog = form != nullptr && form->kind == platform::Form_Kind::Dialog;
+    if (in_dialog && IsDialogMessageW(root, &message))
+        return;
+    TranslateMessage(&message);
+    DispatchMessageW(&message);
+}
+
+} // namespace
+
+namespace platform {
+
+void Run_Message_Loop() {
+    MSG message = {};
+    while (GetMessageW(&message, nullptr, 0, 0) > 0)
+        Dispatch(message);
+}
+
+void End_Message_Loop() {
+    PostQuitMessage(0);
+}
+
+void Process_Waiting_Messages() {
+    MSG message = {};
+    while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+        if (message.message == WM_QUIT) {
+            // The loop that is really to end has to see it too.
+            PostQuitMessage(static_cast<int>(message.wParam));
+            return;
+        }
+        Dispatch(message);
+    }
+}
+
+Timer_Id Start_Timer(unsigned milliseconds, std::function<void()> tick) {
+    const Timer_Id id = ++last_timer;
+    timers.push_back({id, std::move(tick)});
+    if (SetTimer(Broadcast_Window(), id, milliseconds, nullptr) == 0) {
+        timers.pop_back();
+        return 0;
+    }
+    return id;
+}
+
+void Stop_Timer(Timer_Id id) {
+    if (std::erase_if(timers, [id](const Timer &timer) { return timer.id == id; }) > 0)
+        KillTimer(Broadcast_Window(), id);
+}
+
+void Listen_To_Broadcasts(std::function<void(Broadcast)> heard) {
+    listener = std::move(heard);
+    Broadcast_Window();
+}
+
+bool Claim_Single_Instance(const std::string &name) {
+    static win32::Unique_Kernel_Handle claim;
+    SetLastError(ERROR_SUCCESS);
+    win32::Unique_Kernel_Handle mutex(CreateMutexW(nullptr, FALSE, win32::To_Wide(name).c_str()));
+    const DWORD error = GetLastError();
+    // Refused access means that it exists too, made by the user with other rights.
+    if (error == ERROR_ALREADY_EXISTS || (!mutex && error == ERROR_ACCESS_DENIED))
+        return false;
+    claim = std::move(mutex);
+    return true;
+}
+
+} // namespace platform

@@ -1,0 +1,70 @@
+// What the native windows of forms have in common, and the list of those that exist.
+#pragma once
+
+#include "platform/forms.h"
+#include "win32/handles.h"
+
+#include <memory>
+#include <vector>
+
+namespace win32 {
+
+/// The native window of one form. A window procedure keeps its mirror alive with shared_from_this while a
+/// handler runs: handlers may close their own form, after which Model() is null.
+class Mirror : public std::enable_shared_from_this<Mirror> {
+public:
+    explicit Mirror(platform::Form_Model &model) : model_(&model) {}
+    Mirror(const Mirror &) = delete;
+    Mirror &operator=(const Mirror &) = delete;
+    virtual ~Mirror() = default;
+
+    platform::Form_Model *Model() const { return model_; }
+    HWND Window() const { return window_; }
+
+    /// Makes the window with what it shows. Called once.
+    virtual void Create() = 0;
+    virtual void Form_Changed(platform::Aspect aspect) = 0;
+    virtual void Control_Changed(const platform::Control_State &control, platform::Aspect aspect,
+                                 const platform::Rect &before) = 0;
+    virtual void Clip(const std::vector<platform::Rect> &) {}
+    virtual void Bring_To_Front() = 0;
+    /// The dots per inch or the system's fonts changed.
+    virtual void Scale_Changed() = 0;
+
+    /// Takes the window down without an event.
+    void Destroy();
+    /// Gives a user action to the form. Afterwards the form may be gone.
+    void Send(const platform::Input_Event &event);
+    void Send(platform::Input_Kind kind);
+
+protected:
+    /// The window is gone, whoever took it down: tells the form, unless Destroy did it.
+    void Window_Gone();
+    HWND window_ = nullptr;
+
+private:
+    friend void Find_Lost_Windows();
+    platform::Form_Model *model_;
+};
+
+/// All mirrors, in the order of their making. A copy, since handlers may close forms.
+std::vector<std::shared_ptr<Mirror>> All_Mirrors();
+
+/// The mirror of a form, null when it has no window.
+std::shared_ptr<Mirror> Find_Mirror(const platform::Form_Model &model);
+
+/// The form whose own native window `window` is, null for all other windows.
+platform::Form_Model *Form_Of_Window(HWND window);
+
+/// The native window of a form, null when it has none.
+HWND Window_Of_Form(const platform::Form_Model &model);
+
+/// Tells the forms whose windows vanished without a message, as they do when the process of their parent
+/// window is killed.
+void Find_Lost_Windows();
+
+/// Looks the dots per inch up again, after the screen, the window's parent or the settings changed. A change
+/// of them, or of the system's fonts, is told to all forms, which lay themselves out anew.
+void Check_Scale(bool fonts_changed);
+
+} // namespace win32

@@ -1,0 +1,290 @@
+// The painted form's window: its making, place, shape and painting. Mouse and keys are in painted_input.cpp.
+#include "win32/painted_window.h"
+
+#include "win32/accessible.h"
+#include "win32/canvas.h"
+#include "win32/units.h"
+#include "win32/wide_text.h"
+
+#include <algorithm>
+#include <string>
+
+namespace win32 {
+
+using platform::Aspect;
+using platform::Control_State;
+
+namespace {
+
+bool Is_Top_Level(HWND window) {
+    return GetAncestor(window, GA_PARENT) == GetDesktopWindow();
+}
+
+bool Equal(const std::vector<RECT> &a, const std::vector<RECT> &b) {
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                      [](const RECT &x, const RECT &y) { return EqualRect(&x, &y) != FALSE; });
+}
+
+} // namespace
+
+void Painted_Window::Create() {
+    const std::wstring class_name = L"Vellatro_" + To_Wide(Model()->name);
+    const HINSTANCE instance = GetModuleHandleW(nullptr);
+    WNDCLASSEXW window_class = {};
+    window_class.cbSize = sizeof window_class;
+    if (!GetClassInfoExW(instance, class_name.c_str(), &window_class)) {
+        window_class = {};
+        window_class.cbSize = sizeof window_class;
+        window_class.style = CS_DBLCLKS;
+        window_class.lpfnWndProc = Procedure;
+        window_class.hInstance = instance;
+        window_class.lpszClassName = class_name.c_str();
+        RegisterClassExW(&window_class);
+    }
+    const RECT place = To_Pixels(Model()->bounds);
+    window_ =
+        CreateWindowExW(WS_EX_TOOLWINDOW, class_name.c_str(), To_Wide(Model()->title).c_str(),
+                        WS_POPUP | WS_CLIPSIBLINGS | WS_CLIPCHILDREN, place.left, place.top,
+                        place.right - place.left, place.bottom - place.top, nullptr, nullptr, instance, this);
+    if (window_ == nullptr)
+        return;
+    Texts_Of_Tooltips_Changed();
+    // The window may lie on a screen with a scale of its own; the form hears of it once it is made.
+    PostMessageW(window_, Check_Dots_Message, 0, 0);
+}
+
+LRESULT CALLBACK Painted_Window::Procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
+    if (message == WM_NCCREATE) {
+        const auto *create = reinterpret_cast<const CREATESTRUCTW *>(lparam);
+        auto *mirror = static_cast<Painted_Window *>(create->lpCreateParams);
+        mirror->window_ = window;
+        SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(mirror));
+    }
+    auto *mirror = reinterpret_cast<Painted_Window *>(GetWindowLongPtrW(window, GWLP_USERDATA));
+    if (mirror == nullptr)
+        return DefWindowProcW(window, message, wparam, lparam);
+    try {
+        const std::shared_ptr<Mirror> keep = mirror->shared_from_this();
+        if (message == WM_NCDESTROY) {
+            SetWindowLongPtrW(window, GWLP_USERDATA, 0);
+            mirror->tooltips_.Window_Gone();
+            mirror->Window_Gone();
+            return DefWindowProcW(window, message, wparam, lparam);
+        }
+        if (mirror->Model() != nullptr)
+            return mirror->Handle(message, wparam, lparam);
+    } catch (...) {
+        // Only want of memory comes here. The system's code above cannot pass an exception on.
+    }
+    return DefWindowProcW(window, message, wparam, lparam);
+}
+
+LRESULT Painted_Window::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
+    LRESULT result = 0;
+    if (Handle_Input(message, wparam, lparam, result))
+        return result;
+    switch (message) {
+    case WM_ERASEBKGND:
+        return 1;
+    case WM_PAINT:
+        Paint();
+        return 0;
+    case WM_PRINTCLIENT: {
+        RECT all = {};
+        GetClientRect(window_, &all);
+        Paint_On(reinterpret_cast<HDC>(wparam), all);
+        return 0;
+    }
+    case WM_SETCURSOR:
+        if (LOWORD(lparam) != HTCLIENT)
+            break;
+        Set_Pointer();
+        return TRUE;
+    case WM_CLOSE:
+        Send(platform::Input_Kind::Close);
+        return 0;
+    case WM_DPICHANGED:
+    case Check_Dots_Message:
+        Check_Scale(false);
+        return 0;
+    case WM_GETOBJECT:
+        return Answer_Get_Object(window_, wparam, lparam);
+    case Default_Action_Message: {
+        platform::Input_Event event{};
+        event.kind = platform::Input_Kind::Default_Action;
+        event.control = static_cast<int>(wparam);
+        Send(event);
+        return 0;
+    }
+    case Update_Tooltips_Message:
+        tooltips_dirty_ = false;
+        tooltips_.Update(window_, *Model());
+        return 0;
+    default:
+        break;
+    }
+    return DefWindowProcW(window_, message, wparam, lparam);
+}
+
+void Painted_Window::Paint() {
+    PAINTSTRUCT paint = {};
+    const HDC target = BeginPaint(window_, &paint);
+    if (target == nullptr)
+        return;
+    Paint_On(target, paint.rcPaint);
+    EndPaint(window_, &paint);
+}
+
+void Painted_Window::Paint_On(HDC target, const RECT &area) {
+    if (area.left >= area.right || area.top >= area.bottom || !Model()->paint)
+        return;
+    platform::Canvas canvas(area);
+    if (!canvas.Ok())
+        return;
+    Model()->paint(canvas, To_Covering_Twips(area));
+    canvas.Put_On(target);
+}
+
+void Painted_Window::Form_Changed(Aspect aspect) {
+    switch (aspect) {
+    case Aspect::Bounds:
+        Place();
+        break;
+    case Aspect::Visible:
+        Show_Or_Hide();
+        break;
+    case Aspect::Caption:
+        SetWindowTextW(window_, To_Wide(Model()->title).c_str());
+        break;
+    case Aspect::Look:
+        InvalidateRect(window_, nullptr, FALSE);
+        break;
+    case Aspect::Pointer: {
+        POINT mouse = {};
+        GetCursorPos(&mouse);
+        if (WindowFromPoint(mouse) == window_)
+            Set_Pointer();
+        break;
+    }
+    case Aspect::Focus:
+        Tell_Focus(window_, *Model());
+        break;
+    default:
+        break;
+    }
+}
+
+void Painted_Window::Control_Changed(const Control_State &control, Aspect aspect,
+                                     const platform::Rect &before) {
+    switch (aspect) {
+    case Aspect::Bounds:
+        if (control.visible) {
+            Invalidate(before);
+            Invalidate(control.bounds);
+        }
+        break;
+    case Aspect::Visible:
+        Invalidate(control.bounds);
+        break;
+    case Aspect::Access:
+    case Aspect::Tooltip:
+    case Aspect::Pointer:
+    case Aspect::Focus:
+        break;
+    default:
+        if (control.visible)
+            Invalidate(control.bounds);
+        break;
+    }
+    const bool moves_tooltip =
+        (aspect == Aspect::Bounds || aspect == Aspect::Visible) && !control.tooltip.empty();
+    if (moves_tooltip || aspect == Aspect::Tooltip)
+        Texts_Of_Tooltips_Changed();
+    Tell_Change(window_, control, aspect);
+}
+
+void Painted_Window::Invalidate(const platform::Rect &bounds) const {
+    const RECT pixels = To_Pixels(bounds);
+    if (pixels.left < pixels.right && pixels.top < pixels.bottom)
+        InvalidateRect(window_, &pixels, FALSE);
+}
+
+void Painted_Window::Texts_Of_Tooltips_Changed() {
+    // Once for many changes: a new month changes the texts of all its days.
+    if (!tooltips_dirty_)
+        tooltips_dirty_ = PostMessageW(window_, Update_Tooltips_Message, 0, 0) != FALSE;
+}
+
+void Painted_Window::Clip(const std::vector<platform::Rect> &rects) {
+    has_clip_ = true;
+    clip_ = rects;
+    Set_Region();
+}
+
+void Painted_Window::Set_Region() {
+    std::vector<RECT> pixels;
+    pixels.reserve(clip_.size());
+    for (const platform::Rect &rect : clip_)
+        pixels.push_back(To_Pixels(rect));
+    const Unique_Region now(CreateRectRgn(0, 0, 0, 0));
+    if (Equal(pixels, region_) && GetWindowRgn(window_, now.Get()) != ERROR)
+        return;
+    Unique_Region whole(CreateRectRgn(0, 0, 0, 0));
+    const Unique_Region part(CreateRectRgn(0, 0, 0, 0));
+    for (const RECT &rect : pixels) {
+        SetRectRgn(part.Get(), rect.left, rect.top, rect.right, rect.bottom);
+        CombineRgn(whole.Get(), whole.Get(), part.Get(), RGN_OR);
+    }
+    // The system owns the region from then on, when it takes it.
+    if (!whole || SetWindowRgn(window_, whole.Get(), TRUE) == 0)
+        return;
+    whole.Release();
+    region_ = std::move(pixels);
+}
+
+void Painted_Window::Place() {
+    const RECT place = To_Pixels(Model()->bounds);
+    POINT corner = {place.left, place.top};
+    UINT flags = SWP_NOACTIVATE | SWP_NOZORDER;
+    if (!Is_Top_Level(window_)) {
+        MapWindowPoints(nullptr, GetAncestor(window_, GA_PARENT), &corner, 1);
+        // Painted anew at its place: Wine hangs when it copies pixels inside another process's window.
+        flags |= SWP_NOCOPYBITS;
+    }
+    SetWindowPos(window_, nullptr, corner.x, corner.y, place.right - place.left, place.bottom - place.top,
+                 flags);
+}
+
+void Painted_Window::Show_Or_Hide() {
+    if (!Model()->visible) {
+        ShowWindow(window_, SW_HIDE);
+        return;
+    }
+    // Under the ordinary windows, where a desktop's furniture belongs.
+    const bool to_bottom = Is_Top_Level(window_);
+    SetWindowPos(window_, HWND_BOTTOM, 0, 0, 0, 0,
+                 SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_SHOWWINDOW | (to_bottom ? 0U : SWP_NOZORDER));
+}
+
+void Painted_Window::Bring_To_Front() {
+    SetWindowPos(window_, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_SHOWWINDOW);
+    SetForegroundWindow(window_);
+    SetFocus(window_);
+}
+
+void Painted_Window::Scale_Changed() {
+    Place();
+    if (has_clip_)
+        Set_Region();
+    InvalidateRect(window_, nullptr, FALSE);
+    Texts_Of_Tooltips_Changed();
+}
+
+void Painted_Window::Set_Pointer() const {
+    constexpr WORD arrow = 32512;
+    constexpr WORD size_all = 32646;
+    const bool moves = Model()->pointer == platform::Pointer_Shape::Move;
+    SetCursor(LoadCursorW(nullptr, MAKEINTRESOURCEW(moves ? size_all : arrow)));
+}
+
+} // namespace win32

@@ -1,0 +1,16 @@
+// How the program's file names are given to the system. Nothing is opened here.
+#pragma once
+
+#include <string>
+
+namespace win32 {
+
+/// `path` for a system call: wide, and with the long form's prefix where an absolute path is longer than the
+/// plain form can be. Empty when the path holds a zero byte and so can name nothing.
+std::wstring Path_For_Call(const std::string &path);
+
+/// A path that the system gave, as text of the program. Where the process's code page lacks characters of it,
+/// the path's short form is given, so that it still names the same thing.
+std::string Path_From_System(const std::wstring &path);
+
+} // namespace win32

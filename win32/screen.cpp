@@ -1,0 +1,48 @@
+// The screen's dots per inch, its work area and the mouse.
+#include "platform/screen.h"
+
+#include "win32/system_library.h"
+#include "win32/units.h"
+
+namespace {
+
+int dots_per_inch = 0;
+
+int Look_Dots_Up(HWND window) {
+    // Systems with several scales tell those of a window; older ones have one scale for all.
+    if (window != nullptr) {
+        static const auto of_window = win32::Look_Up<UINT WINAPI(HWND)>(L"user32.dll", "GetDpiForWindow");
+        const UINT dots = of_window != nullptr ? of_window(window) : 0;
+        if (dots != 0)
+            return static_cast<int>(dots);
+    }
+    const win32::Window_Dc screen(nullptr);
+    const int dots = GetDeviceCaps(screen.Get(), LOGPIXELSX);
+    return dots > 0 ? dots : 96;
+}
+
+} // namespace
+
+bool win32::Refresh_Dots(HWND window) {
+    const int dots = Look_Dots_Up(window);
+    return std::exchange(dots_per_inch, dots) != dots;
+}
+
+int platform::Dots_Per_Inch() {
+    if (dots_per_inch == 0)
+        dots_per_inch = Look_Dots_Up(nullptr);
+    return dots_per_inch;
+}
+
+platform::Rect platform::Work_Area() {
+    RECT area = {};
+    if (!SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0))
+        area = {0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
+    return {area.left, area.top, area.right - area.left, area.bottom - area.top};
+}
+
+platform::Point platform::Mouse_Position() {
+    POINT mouse = {};
+    GetCursorPos(&mouse);
+    return {mouse.x, mouse.y};
+}

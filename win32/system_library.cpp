@@ -1,0 +1,23 @@
+// Looking functions up in system libraries.
+#include "win32/system_library.h"
+
+#include "win32/handles.h"
+
+#include <string>
+
+namespace win32 {
+
+void *System_Function(const wchar_t *library, const char *function) {
+    HMODULE module = GetModuleHandleW(library);
+    if (module == nullptr) {
+        // By its full path, so that no library of that name in the program's folder is taken.
+        wchar_t folder[MAX_PATH] = {};
+        const UINT length = GetSystemDirectoryW(folder, MAX_PATH);
+        if (length == 0 || length >= MAX_PATH)
+            return nullptr;
+        module = LoadLibraryW((std::wstring(folder, length) + L"\\" + library).c_str());
+    }
+    return module == nullptr ? nullptr : reinterpret_cast<void *>(GetProcAddress(module, function));
+}
+
+} // namespace win32

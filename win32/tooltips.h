@@ -1,0 +1,39 @@
+// The native tooltips of a painted form: one tool for each visible control with a tooltip text.
+#pragma once
+
+#include "platform/forms.h"
+#include "win32/handles.h"
+
+#include <string>
+#include <vector>
+
+namespace win32 {
+
+class Tooltips {
+public:
+    Tooltips() = default;
+    Tooltips(const Tooltips &) = delete;
+    Tooltips &operator=(const Tooltips &) = delete;
+    ~Tooltips() { Window_Gone(); }
+
+    /// Brings the tools up to date with the controls. The tooltip window is made with the first text.
+    void Update(HWND owner, const platform::Form_Model &model);
+    /// The owner's window is gone, or goes now.
+    void Window_Gone();
+
+private:
+    /// What the tooltip window knows of one control.
+    struct Tool {
+        bool present = false;
+        RECT rect = {};
+        std::string text;
+    };
+
+    bool Make_Window(HWND owner);
+    void Update_Tool(HWND owner, std::size_t index, Tool wanted);
+
+    HWND window_ = nullptr;
+    std::vector<Tool> tools_;
+};
+
+} // namespace win32
