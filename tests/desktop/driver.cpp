@@ -1,0 +1,369 @@
+// The driver's ways to look at the program and to act on it. Message boxes, MSAA, SendInput and the screen's
+// pixels work across processes; what only Wine's host knows is read from /proc.
+#include "tests/desktop/driver.h"
+
+#include <windows.h>
+
+#include <oleacc.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <winternl.h>
+
+namespace {
+
+/// All windows below `parent` at any depth; without a parent all windows.
+std::vector<HWND> Windows_Below(HWND parent) {
+    std::vector<HWND> windows;
+    for (HWND window = nullptr; (window = FindWindowExW(parent, window, nullptr, nullptr)) != nullptr;) {
+        windows.push_back(window);
+        for (const HWND child : Windows_Below(window))
+            windows.push_back(child);
+    }
+    return windows;
+}
+
+std::string Utf8(std::wstring_view wide) {
+    std::string text(3 * wide.size(), '\0');
+    text.resize(static_cast<std::size_t>(
+        WideCharToMultiByte(CP_UTF8, 0, wide.data(), static_cast<int>(wide.size()), text.data(),
+                            static_cast<int>(text.size()), nullptr, nullptr)));
+    return text;
+}
+
+/// Also of other processes' controls; nothing from a window that does not answer.
+std::string Text_Of(HWND window) {
+    wchar_t text[2000] = L"";
+    DWORD_PTR length = 0;
+    SendMessageTimeoutW(window, WM_GETTEXT, std::size(text), reinterpret_cast<LPARAM>(text), SMTO_ABORTIFHUNG,
+                        2000, &length);
+    return Utf8({text, length});
+}
+
+std::string Class_Of(HWND window) {
+    char name[100] = "";
+    GetClassNameA(window, name, std::size(name));
+    return name;
+}
+
+DWORD Process_Of(HWND window) {
+    DWORD id = 0;
+    GetWindowThreadProcessId(window, &id);
+    return id;
+}
+
+struct Release {
+    void operator()(IUnknown *object) const { object->Release(); }
+};
+
+using Accessible = std::unique_ptr<IAccessible, Release>;
+
+/// Null when the window does not answer.
+Accessible Accessible_Of(HWND window) {
+    DWORD_PTR answer = 0;
+    void *object = nullptr;
+    if (!window || !SendMessageTimeoutW(window, WM_NULL, 0, 0, SMTO_ABORTIFHUNG, 15000, &answer) ||
+        FAILED(
+            AccessibleObjectFromWindow(window, static_cast<DWORD>(OBJID_CLIENT), IID_IAccessible, &object)))
+        return nullptr;
+    return Accessible(static_cast<IAccessible *>(object));
+}
+
+std::vector<VARIANT> Children_Of(IAccessible &accessible) {
+    long count = 0;
+    accessible.get_accChildCount(&count);
+    std::vector<VARIANT> children(static_cast<std::size_t>(count));
+    if (FAILED(AccessibleChildren(&accessible, 0, count, children.data(), &count)))
+        count = 0;
+    children.resize(static_cast<std::size_t>(count));
+    return children;
+}
+
+using Text_Getter = HRESULT (STDMETHODCALLTYPE IAccessible::*)(VARIANT, BSTR *);
+
+std::string Text_Of(IAccessible &accessible, Text_Getter getter, VARIANT child) {
+    BSTR text = nullptr;
+    if (FAILED((accessible.*getter)(child, &text)) || !text)
+        return {};
+    std::string taken = Utf8({text, SysStringLen(text)});
+    SysFreeString(text);
+    return taken;
+}
+
+Item Item_Of(IAccessible &accessible, VARIANT child) {
+    Item item;
+    VARIANT number{};
+    accessible.get_accRole(child, &number);
+    item.role = number.lVal;
+    accessible.get_accState(child, &number);
+    item.state = number.lVal;
+    item.name = Text_Of(accessible, &IAccessible::get_accName, child);
+    item.value = Text_Of(accessible, &IAccessible::get_accValue, child);
+    item.action = Text_Of(accessible, &IAccessible::get_accDefaultAction, child);
+    RECT &place = item.place;
+    accessible.accLocation(&place.left, &place.top, &place.right, &place.bottom, child);
+    place.right += place.left;
+    place.bottom += place.top;
+    return item;
+}
+
+/// The stop icon is red more than blue, the one for information is not.
+bool Is_Red(HWND icon) {
+    RECT place;
+    GetWindowRect(icon, &place);
+    const Picture screen;
+    long red = 0;
+    for (LONG y = place.top; y < place.bottom; ++y)
+        for (LONG x = place.left; x < place.right; ++x)
+            red += static_cast<long>(screen.At(x, y) >> 16) - static_cast<long>(screen.At(x, y) & 0xFF);
+    return red > 0;
+}
+
+void Send_Key(WORD key, DWORD flags) {
+    INPUT input{};
+    input.type = INPUT_KEYBOARD;
+    input.ki.wVk = key;
+    input.ki.dwFlags = flags;
+    SendInput(1, &input, sizeof input);
+}
+
+void Send_Mouse(DWORD flags) {
+    INPUT input{};
+    input.type = INPUT_MOUSE;
+    input.mi.dwFlags = flags;
+    SendInput(1, &input, sizeof input);
+}
+
+} // namespace
+
+bool Wait_Until(const std::function<bool()> &holds, DWORD milliseconds) {
+    const DWORD begin = GetTickCount();
+    while (!holds()) {
+        if (GetTickCount() - begin >= milliseconds)
+            return false;
+        Sleep(20);
+    }
+    return true;
+}
+
+Picture::Picture() : width(GetSystemMetrics(SM_CXSCREEN)), height(GetSystemMetrics(SM_CYSCREEN)) {
+    BITMAPINFO info{};
+    info.bmiHeader = {sizeof info.bmiHeader, width, -height, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+    void *bits = nullptr;
+    const HDC screen = GetDC(nullptr);
+    const HDC memory = CreateCompatibleDC(screen);
+    const HBITMAP bitmap = CreateDIBSection(screen, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
+    const HGDIOBJ before = SelectObject(memory, bitmap);
+    BitBlt(memory, 0, 0, width, height, screen, 0, 0, SRCCOPY);
+    GdiFlush();
+    pixels.assign(static_cast<DWORD *>(bits), static_cast<DWORD *>(bits) + width * height);
+    for (DWORD &pixel : pixels)
+        pixel &= 0xFFFFFF;
+    SelectObject(memory, before);
+    DeleteObject(bitmap);
+    DeleteDC(memory);
+    ReleaseDC(nullptr, screen);
+}
+
+void Picture::Save(const std::wstring &path) const {
+    const DWORD size = static_cast<DWORD>(pixels.size() * sizeof(DWORD));
+    const BITMAPINFOHEADER info{sizeof info, width, -height, 1, 32, BI_RGB, size, 0, 0, 0, 0};
+    constexpr DWORD headers = 14 + sizeof info;
+    const BITMAPFILEHEADER header{0x4D42, headers + size, 0, 0, headers};
+    if (FILE *file = _wfopen(path.c_str(), L"wb")) {
+        std::fwrite(&header, sizeof header, 1, file);
+        std::fwrite(&info, sizeof info, 1, file);
+        std::fwrite(pixels.data(), sizeof(DWORD), pixels.size(), file);
+        std::fclose(file);
+    }
+}
+
+Program::Program(const std::wstring &executable, const std::wstring &folder) {
+    STARTUPINFOW start{};
+    start.cb = sizeof start;
+    PROCESS_INFORMATION process{};
+    EXPECT_TRUE(CreateProcessW(executable.c_str(), nullptr, nullptr, nullptr, FALSE, 0, nullptr,
+                               folder.c_str(), &start, &process))
+        << "error " << GetLastError();
+    CloseHandle(process.hThread);
+    process_ = process.hProcess;
+    id_ = process.dwProcessId;
+}
+
+Program::~Program() {
+    TerminateProcess(process_, 99);
+    WaitForSingleObject(process_, 5000);
+    CloseHandle(process_);
+}
+
+std::optional<DWORD> Program::Exit_Code(DWORD milliseconds) const {
+    DWORD code = 0;
+    if (WaitForSingleObject(process_, milliseconds) != WAIT_OBJECT_0 || !GetExitCodeProcess(process_, &code))
+        return std::nullopt;
+    return code;
+}
+
+void Program::Print() const {
+    std::printf("  Process %lx %s. Message box: %s\n", id_, Exit_Code(0) ? "has ended" : "runs",
+                Box().c_str());
+    for (const HWND window : Windows_Below(nullptr)) {
+        RECT at;
+        GetWindowRect(window, &at);
+        if (IsWindowVisible(window))
+            std::printf("  window %p of process %lx in %p: %s \"%s\" %ld,%ld to %ld,%ld\n",
+                        static_cast<void *>(window), Process_Of(window),
+                        static_cast<void *>(GetAncestor(window, GA_PARENT)), Class_Of(window).c_str(),
+                        Text_Of(window).c_str(), at.left, at.top, at.right, at.bottom);
+    }
+    for (const Item &item : Items())
+        std::printf("  item of role %ld, state 0x%lx: \"%s\" \"%s\" %ld,%ld to %ld,%ld\n", item.role,
+                    static_cast<unsigned long>(item.state), item.name.c_str(), item.value.c_str(),
+                    item.place.left, item.place.top, item.place.right, item.place.bottom);
+}
+
+HWND Program::Calendar() const {
+    for (const HWND window : Windows_Below(nullptr))
+        if (Process_Of(window) == id_ && Class_Of(window) == "Vellatro_Calendar" && IsWindowVisible(window))
+            return window;
+    return nullptr;
+}
+
+std::vector<Item> Program::Items() const {
+    std::vector<Item> items;
+    if (const Accessible accessible = Accessible_Of(Calendar()))
+        for (const VARIANT &child : Children_Of(*accessible))
+            items.push_back(Item_Of(*accessible, child));
+    return items;
+}
+
+std::vector<Item> Program::Items(long role) const {
+    std::vector<Item> items = Items();
+    std::erase_if(items, [role](const Item &item) { return item.role != role; });
+    return items;
+}
+
+Item Program::Named(std::string_view name) const {
+    for (const Item &item : Items())
+        if (item.name == name)
+            return item;
+    return {};
+}
+
+std::string Program::Title() const {
+    const std::vector<Item> titles = Items(ROLE_SYSTEM_STATICTEXT);
+    return titles.size() == 1 ? titles.front().name : "";
+}
+
+void Program::Do_Default(std::string_view name) const {
+    if (const Accessible accessible = Accessible_Of(Calendar()))
+        for (const VARIANT &child : Children_Of(*accessible))
+            if (Text_Of(*accessible, &IAccessible::get_accName, child) == name)
+                accessible->accDoDefaultAction(child);
+}
+
+HWND Program::Box_Window() const {
+    for (HWND box = nullptr; (box = FindWindowExW(nullptr, box, L"#32770", nullptr)) != nullptr;)
+        if (Process_Of(box) == id_ && IsWindowVisible(box))
+            return box;
+    return nullptr;
+}
+
+std::string Program::Box() const {
+    const HWND box = Box_Window();
+    if (!box)
+        return {};
+    std::string text;
+    std::string icon;
+    for (const HWND part : Windows_Below(box)) {
+        if (Class_Of(part) != "Static")
+            continue;
+        if ((GetWindowLongW(part, GWL_STYLE) & SS_TYPEMASK) == SS_ICON)
+            icon = Is_Red(part) ? "stop " : "";
+        else
+            text += Text_Of(part);
+    }
+    return icon + "[" + Text_Of(box) + "] " + text;
+}
+
+void Program::Answer() const {
+    const HWND box = Box_Window();
+    PostMessageW(box, WM_COMMAND, IDOK, 0);
+    EXPECT_TRUE(box && Wait_Until([box] { return !IsWindow(box); })) << "no box that takes an answer";
+}
+
+void Program::Click(const RECT &place) const {
+    SetCursorPos((place.left + place.right) / 2, (place.top + place.bottom) / 2);
+    Send_Mouse(MOUSEEVENTF_LEFTDOWN);
+    Send_Mouse(MOUSEEVENTF_LEFTUP);
+}
+
+void Program::Press(WORD key, bool with_alt) const {
+    const HWND calendar = Calendar();
+    if (GetForegroundWindow() != calendar)
+        Click(Named(Title()).place);
+    EXPECT_TRUE(Wait_Until([calendar] { return GetForegroundWindow() == calendar; }))
+        << "no focus by a click";
+    if (with_alt)
+        Send_Key(VK_MENU, 0);
+    Send_Key(key, 0);
+    Send_Key(key, KEYEVENTF_KEYUP);
+    if (with_alt)
+        Send_Key(VK_MENU, KEYEVENTF_KEYUP);
+}
+
+long Program::Processor_Ticks() const {
+    wchar_t path[MAX_PATH] = L"";
+    DWORD length = std::size(path);
+    QueryFullProcessImageNameW(process_, 0, path, &length);
+    WIN32_FIND_DATAW found;
+    long ticks = -1;
+    // The path is the test's own, so it tells the process from those of other runs.
+    const auto read = [&found](const wchar_t *name) {
+        char text[1000] = "";
+        if (FILE *file = _wfopen((std::wstring(L"Z:\\proc\\") + found.cFileName + name).c_str(), L"rb")) {
+            text[std::fread(text, 1, sizeof text - 1, file)] = '\0';
+            std::fclose(file);
+        }
+        return std::string(text);
+    };
+    const HANDLE search = FindFirstFileW(L"Z:\\proc\\*", &found);
+    do {
+        if (read(L"\\cmdline") != Utf8({path, length}))
+            continue;
+        const std::string stat = read(L"\\stat");
+        long user = 0;
+        long system = 0;
+        if (std::sscanf(stat.c_str() + stat.rfind(')'),
+                        ") %*c %*d %*d %*d %*d %*d %*u %*u %*u %*u %*u %ld %ld", &user, &system) == 2)
+            ticks = user + system;
+    } while (ticks < 0 && FindNextFileW(search, &found));
+    FindClose(search);
+    return ticks;
+}
+
+long Program::Gdi_Objects() const {
+    // Wine does not count them, but every process has a table of its own.
+    struct Entry {
+        ULONG64 object;
+        ULONG owner;
+        USHORT unique;
+        UCHAR type; // 0: free
+        UCHAR flags;
+        ULONG64 user;
+    };
+    constexpr std::size_t table_offset = sizeof(void *) == 4 ? 0x94 : 0xF8;
+    PROCESS_BASIC_INFORMATION information{};
+    NtQueryInformationProcess(process_, ProcessBasicInformation, &information, sizeof information, nullptr);
+    const char *place = reinterpret_cast<const char *>(information.PebBaseAddress) + table_offset;
+    const void *table = nullptr;
+    std::vector<Entry> entries(0x4000);
+    if (!ReadProcessMemory(process_, place, &table, sizeof table, nullptr) ||
+        !ReadProcessMemory(process_, table, entries.data(), entries.size() * sizeof(Entry), nullptr))
+        return -1;
+    return std::count_if(entries.begin(), entries.end(), [](const Entry &entry) { return entry.type != 0; });
+}
+
+long Program::Windows() const {
+    const std::vector<HWND> all = Windows_Below(nullptr);
+    return std::count_if(all.begin(), all.end(), [this](HWND window) { return Process_Of(window) == id_; });
+}

@@ -1,0 +1,119 @@
+// What the desktop tests do to the running program, and what they see of it, from another process: windows,
+// message boxes, what assistive technology is told, pixels, the store, files, the clock. It judges nothing.
+#pragma once
+
+#include <windows.h>
+
+#include <functional>
+#include <gtest/gtest.h>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// What the calendar tells assistive technology of one of its parts.
+struct Item {
+    long role = 0;
+    long state = 0;
+    std::string name;
+    std::string value;
+    std::string action;
+    RECT place{}; ///< on the screen, pixels
+};
+
+/// The pixels of the screen at one moment, without the mouse.
+struct Picture {
+    int width = 0;
+    int height = 0;
+    std::vector<DWORD> pixels; ///< 0xRRGGBB, from the upper left corner
+
+    Picture();
+    DWORD At(LONG x, LONG y) const { return pixels.at(static_cast<std::size_t>(y * width + x)); }
+    void Save(const std::wstring &path) const; ///< as a BMP file
+};
+
+/// Polls until `holds` gives true; false after the deadline.
+bool Wait_Until(const std::function<bool()> &holds, DWORD milliseconds = 5000);
+
+/// Polls until `read` gives `expected`; the failure tells what it gave last.
+template <typename Value, typename Read>
+::testing::AssertionResult Becomes(const Value &expected, const Read &read, DWORD milliseconds = 5000) {
+    decltype(read()) seen{};
+    if (Wait_Until([&] { return (seen = read()) == expected; }, milliseconds))
+        return ::testing::AssertionSuccess();
+    return ::testing::AssertionFailure() << "it is still " << ::testing::PrintToString(seen) << " and not "
+                                         << ::testing::PrintToString(expected);
+}
+
+/// A running copy of the program, which ends with this object.
+class Program {
+public:
+    Program(const std::wstring &executable, const std::wstring &folder);
+    ~Program();
+    Program(const Program &) = delete;
+    Program &operator=(const Program &) = delete;
+
+    /// The exit code, if the program ends in time.
+    std::optional<DWORD> Exit_Code(DWORD milliseconds = 5000) const;
+    void Print() const; ///< all there is to be seen of it
+
+    HWND Calendar() const; ///< null until it is visible
+    /// All that the calendar presents; nothing when there is no calendar or it does not answer.
+    std::vector<Item> Items() const;
+    std::vector<Item> Items(long role) const;
+    /// The item of that name, or an empty one.
+    Item Named(std::string_view name) const;
+    std::string Title() const;
+    /// Asks for an item's default action, as assistive technology does.
+    void Do_Default(std::string_view name) const;
+
+    /// The open message box as "[Vellatro] text", with "stop " before it if that is its icon; empty: none.
+    std::string Box() const;
+    void Answer() const; ///< presses OK and waits until the box is gone
+
+    void Click(const RECT &place) const;               ///< with the left button, in the middle
+    void Press(WORD key, bool with_alt = false) const; ///< makes the calendar the active window first
+
+    long Processor_Ticks() const; ///< hundredths of a second since its start; -1: not to be had
+    long Gdi_Objects() const;     ///< -1: not to be had
+    long Windows() const;
+
+private:
+    HWND Box_Window() const;
+
+    HANDLE process_ = nullptr;
+    DWORD id_ = 0;
+};
+
+/// A fresh folder with a copy of the program, an empty store, the regional settings of the United States, and
+/// the clock at 10:30 on Wednesday, 12 May 2027: a month that reaches into the last of the boxes. What the
+/// test started ends with it; when it fails, it tells what there was to be seen.
+class Desktop_Test : public ::testing::Test {
+protected:
+    void SetUp() override;
+    void TearDown() override;
+
+    Program &Start();
+    Program &Start_Calendar(); ///< and waits for the calendar, which no box may precede
+
+    void Stop_All() { programs_.clear(); }
+
+    const std::wstring &Data_Path() const { return data_path_; } ///< of calendar.dat
+    void Write_Data(std::string_view bytes) const;
+    std::string Data() const;
+
+    /// Takes a picture for people to look at, once the screen has come to rest.
+    static void Save_Picture(const std::string &name);
+    static void Set_Setting(const std::string &section, const std::string &key, const std::string &value);
+    static void Clear_Store();
+    static std::string Store(); ///< all the program's keys and values, a line each
+    static void Set_Regional(const std::string &name, const std::string &value);
+    /// Moves the clock of the test and of the program.
+    static void Set_Clock(WORD year, WORD month, WORD day, WORD hour, WORD minute, WORD second);
+
+private:
+    std::wstring folder_;
+    std::wstring data_path_;
+    std::vector<std::unique_ptr<Program>> programs_;
+};

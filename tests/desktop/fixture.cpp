@@ -1,0 +1,183 @@
+// The fixture of the desktop tests: what a test finds at its start, and the program's surroundings.
+#include "tests/desktop/driver.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+
+namespace {
+
+std::wstring Program_Path;
+std::wstring Scratch; // the tests' folders are made in it
+std::wstring Clock_Path;
+long long Clock_Offset;                     // seconds, as last given to the clock
+std::unique_ptr<const Picture> Bare_Screen; // before the first start
+
+const std::wstring Store_Key = L"Software\\Vellatro";
+
+std::wstring Wide(std::string_view text) {
+    std::wstring wide(text.size(), L'\0');
+    wide.resize(static_cast<std::size_t>(MultiByteToWideChar(
+        CP_UTF8, 0, text.data(), static_cast<int>(text.size()), wide.data(), static_cast<int>(wide.size()))));
+    return wide;
+}
+
+long long Seconds(const FILETIME &time) {
+    return (static_cast<long long>(time.dwHighDateTime) << 32 | time.dwLowDateTime) / 10'000'000;
+}
+
+long long Seconds_Now() {
+    FILETIME time;
+    GetSystemTimeAsFileTime(&time);
+    return Seconds(time);
+}
+
+void Set_Value(const std::wstring &path, const std::string &name, const std::string &value) {
+    const std::wstring text = Wide(value);
+    EXPECT_EQ(RegSetKeyValueW(HKEY_CURRENT_USER, path.c_str(), Wide(name).c_str(), REG_SZ, text.c_str(),
+                              static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t))),
+              ERROR_SUCCESS);
+}
+
+void Add_Values(const std::wstring &path, std::string &lines) {
+    HKEY key = nullptr;
+    if (RegOpenKeyExW(HKEY_CURRENT_USER, path.c_str(), 0, KEY_READ, &key) != ERROR_SUCCESS)
+        return;
+    lines += "[" + std::string(path.begin(), path.end()) + "]\n";
+    char name[300];
+    char value[1000];
+    DWORD length = std::size(name);
+    DWORD size = std::size(value);
+    for (DWORD i = 0; RegEnumValueA(key, i, name, &length, nullptr, nullptr, reinterpret_cast<BYTE *>(value),
+                                    &size) == ERROR_SUCCESS;
+         ++i, length = std::size(name), size = std::size(value))
+        lines += std::string(name) + "=" + value + "\n";
+    for (DWORD i = 0; RegEnumKeyA(key, i, name, std::size(name)) == ERROR_SUCCESS; ++i)
+        Add_Values(path + L"\\" + Wide(name), lines);
+    RegCloseKey(key);
+}
+
+std::string Test_Name() {
+    const ::testing::TestInfo &test = *::testing::UnitTest::GetInstance()->current_test_info();
+    return std::string(test.test_suite_name()) + "." + test.name();
+}
+
+} // namespace
+
+void Desktop_Test::SetUp() {
+    folder_ = Scratch + L"\\" + Wide(Test_Name());
+    CreateDirectoryW(folder_.c_str(), nullptr);
+    folder_ += L"\\Vellatro";
+    data_path_ = folder_ + L"\\calendar.dat";
+    CreateDirectoryW(folder_.c_str(), nullptr);
+    ASSERT_TRUE(CopyFileW(Program_Path.c_str(), (folder_ + L"\\vellatro.exe").c_str(), FALSE));
+    Clear_Store();
+    Set_Regional("sShortDate", "M/d/yyyy");
+    Set_Regional("iFirstDayOfWeek", "6");
+    Set_Clock(2027, 5, 12, 10, 30, 0);
+    ASSERT_TRUE(Wait_Until([] { return Picture().pixels == Bare_Screen->pixels; }))
+        << "the desktop is not bare";
+}
+
+void Desktop_Test::TearDown() {
+    if (!HasFailure())
+        return;
+    const std::string bytes = Data();
+    std::printf("What there was to be seen:\n");
+    for (const auto &program : programs_)
+        program->Print();
+    std::printf("  calendar.dat, %u bytes: %s\n  store: %s\n", static_cast<unsigned>(bytes.size()),
+                ::testing::PrintToString(bytes.substr(0, 300)).c_str(), Store().c_str());
+    Save_Picture("failed-" + Test_Name());
+}
+
+Program &Desktop_Test::Start() {
+    programs_.push_back(std::make_unique<Program>(folder_ + L"\\vellatro.exe", folder_));
+    return *programs_.back();
+}
+
+Program &Desktop_Test::Start_Calendar() {
+    Program &program = Start();
+    EXPECT_TRUE(Wait_Until([&] { return !program.Items().empty() || !program.Box().empty(); }, 15000));
+    EXPECT_EQ(program.Box(), "");
+    return program;
+}
+
+void Desktop_Test::Write_Data(std::string_view bytes) const {
+    FILE *file = _wfopen(data_path_.c_str(), L"wb");
+    ASSERT_TRUE(file && std::fwrite(bytes.data(), 1, bytes.size(), file) == bytes.size());
+    std::fclose(file);
+}
+
+std::string Desktop_Test::Data() const {
+    std::string bytes;
+    FILE *file = _wfopen(data_path_.c_str(), L"rb");
+    if (!file)
+        return bytes;
+    std::size_t got = 1;
+    for (char part[0x10000]; got > 0; bytes.append(part, got))
+        got = std::fread(part, 1, sizeof part, file);
+    std::fclose(file);
+    return bytes;
+}
+
+void Desktop_Test::Save_Picture(const std::string &name) {
+    std::vector<DWORD> last;
+    Wait_Until([&last] {
+        Sleep(100);
+        std::vector<DWORD> now = Picture().pixels;
+        std::swap(now, last);
+        return now == last;
+    });
+    Picture().Save(Scratch + L"\\" + Wide(name) + L".bmp");
+}
+
+void Desktop_Test::Set_Setting(const std::string &section, const std::string &key, const std::string &value) {
+    Set_Value(Store_Key + L"\\" + Wide(section), key, value);
+}
+
+void Desktop_Test::Clear_Store() {
+    RegDeleteTreeW(HKEY_CURRENT_USER, Store_Key.c_str());
+}
+
+std::string Desktop_Test::Store() {
+    std::string lines;
+    Add_Values(Store_Key, lines);
+    return lines;
+}
+
+void Desktop_Test::Set_Regional(const std::string &name, const std::string &value) {
+    const std::wstring path = L"Control Panel\\International";
+    RegDeleteKeyValueW(HKEY_CURRENT_USER, path.c_str(),
+                       L"iDate"); // it would overrule the order in sShortDate
+    Set_Value(path, name, value);
+}
+
+void Desktop_Test::Set_Clock(WORD year, WORD month, WORD day, WORD hour, WORD minute, WORD second) {
+    const SYSTEMTIME wanted{year, month, 0, day, hour, minute, second, 0};
+    FILETIME time;
+    SystemTimeToFileTime(&wanted, &time);
+    Clock_Offset += Seconds(time) - Seconds_Now();
+    // Over what was there, in one write: the program may read at any moment.
+    FILE *file = _wfopen(Clock_Path.c_str(), L"r+b");
+    ASSERT_TRUE(file) << "the clock's file cannot be written";
+    std::fprintf(file, "%-20lld\n", Clock_Offset);
+    std::fclose(file);
+    ASSERT_LE(std::abs(Seconds_Now() - Seconds(time)), 1) << "the clock does not move";
+}
+
+int main(int count, char **words) {
+    ::testing::InitGoogleTest(&count, words);
+    if (count != 4) {
+        std::puts(
+            "desktop_tests PROGRAM FOLDER CLOCK: full paths; CLOCK is the file that the time shim reads");
+        return 2;
+    }
+    Program_Path = Wide(words[1]);
+    Scratch = Wide(words[2]);
+    Clock_Path = Wide(words[3]);
+    SetProcessDPIAware(); // or places and pixels would be told in other units than the program's
+    CoInitialize(nullptr);
+    Bare_Screen = std::make_unique<const Picture>();
+    return RUN_ALL_TESTS();
+}

@@ -1,0 +1,143 @@
+// A month as the user and assistive technology get it: texts, boxes, pixels, regional settings; and the
+// places and texts at the screen's dots per inch, whatever they are.
+#include "tests/desktop/driver.h"
+
+#include <windows.h>
+
+#include <oleacc.h>
+
+#include <algorithm>
+
+namespace {
+
+constexpr DWORD white = 0xFFFFFF;
+constexpr DWORD light_violet = 0xC0C0FF; // today
+constexpr DWORD deep_blue = 0x1F0880;    // behind title and headers
+constexpr int inset = 4;                 // past a box's frame
+
+using Month = Desktop_Test;
+using Dots = Desktop_Test; // the tests that are run at other dots per inch too
+
+DWORD Corner_Colour(const Picture &screen, const Item &item) {
+    return screen.At(item.place.left + inset, item.place.bottom - inset);
+}
+
+/// The colours on the item's outermost pixels, or of all of them.
+std::vector<DWORD> Colours(const Picture &screen, const RECT &place, bool edge_only) {
+    std::vector<DWORD> colours;
+    for (LONG y = place.top; y < place.bottom; ++y)
+        for (LONG x = place.left; x < place.right; ++x)
+            if (!edge_only || y == place.top || y == place.bottom - 1 || x == place.left ||
+                x == place.right - 1)
+                colours.push_back(screen.At(x, y));
+    std::sort(colours.begin(), colours.end());
+    colours.erase(std::unique(colours.begin(), colours.end()), colours.end());
+    return colours;
+}
+
+TEST_F(Month, Shows_Days_And_Texts) {
+    const std::string long_text = "The quarterly meeting with everybody " + std::string(300, 'x') + " end";
+    Write_Data("\"1/5/2027=Exact\"\r\n\"25/5/9999=Every year\"\r\n\"2/5/2026=Another year\"\r\n"
+               "\"3/6/2027=Another month\"\r\n\"3/5/2027=One, two = three\"\r\n\"6/5/2027=Crème brûlée\"\r\n"
+               "\"7/5/2027=日本語の予定\"\r\n\"8/5/2027=" +
+               long_text + "\"\r\n\"9/5/2027=First\"\r\n\"9/5/2027=Second\"\r\n31/5/2027=Unquoted\r\n");
+    const Program &program = Start_Calendar();
+    EXPECT_EQ(program.Title(), "12th May - 2027");
+    const std::vector<Item> days = program.Items(ROLE_SYSTEM_CELL);
+    ASSERT_EQ(days.size(), 31U);
+    for (std::size_t i = 0; i < days.size(); ++i) {
+        const std::pair<int, std::string> texts[] = {
+            {1, "Exact"},   {3, "One, two = three"}, {6, "Crème brûlée"}, {7, "日本語の予定"},
+            {8, long_text}, {9, "Second"},           {25, "Every year"},  {31, "Unquoted"}};
+        const auto *found = std::find_if(std::begin(texts), std::end(texts), [&](const auto &text) {
+            return text.first == static_cast<int>(i) + 1;
+        });
+        EXPECT_EQ(days[i].value, found == std::end(texts) ? "" : found->second) << days[i].name;
+        EXPECT_EQ((days[i].state & STATE_SYSTEM_SELECTED) != 0, i == 11) << days[i].name;
+    }
+    EXPECT_EQ(days[0].name, "Saturday 1st May 2027");
+    EXPECT_EQ(days[11].name, "Wednesday 12th May 2027, today");
+    EXPECT_EQ(days[30].name, "Monday 31st May 2027");
+    EXPECT_EQ(Store(), "") << "a first run writes nothing";
+    Save_Picture("month");
+}
+
+TEST_F(Month, Covers_Nothing_But_Its_Boxes) {
+    const Picture before;
+    const Program &program = Start_Calendar();
+    const std::vector<Item> items = program.Items();
+    const Item today = program.Named("Wednesday 12th May 2027, today");
+    ASSERT_TRUE(Becomes(light_violet, [&] { return Corner_Colour(Picture(), today); }));
+    Save_Picture("empty");
+    const Picture after;
+    std::vector<DWORD> outside = after.pixels;
+    for (const Item &item : items) {
+        const DWORD expected = item.role != ROLE_SYSTEM_CELL ? deep_blue
+                               : item.name == today.name     ? light_violet
+                                                             : white;
+        EXPECT_EQ(Corner_Colour(after, item), expected) << item.name;
+        for (LONG y = item.place.top; y < item.place.bottom; ++y)
+            std::copy_n(&before.pixels[static_cast<std::size_t>(y * after.width + item.place.left)],
+                        item.place.right - item.place.left,
+                        &outside[static_cast<std::size_t>(y * after.width + item.place.left)]);
+    }
+    EXPECT_TRUE(outside == before.pixels) << "something is painted outside of the boxes, headers and title";
+    EXPECT_EQ(WindowFromPoint({today.place.left + inset, today.place.top + inset}), program.Calendar());
+    EXPECT_NE(WindowFromPoint({today.place.left - 1, today.place.top + inset}), program.Calendar());
+}
+
+TEST_F(Month, Follows_The_Regional_Settings) {
+    Set_Regional("sShortDate", "dd/MM/yyyy");
+    Set_Regional("iFirstDayOfWeek", "0");
+    Write_Data("\"12/5/2027=Dentist\"\r\n");
+    const Program &program = Start();
+    ASSERT_TRUE(Becomes(
+        std::string("[Vellatro] Today: 12/05/2027\r\nDentist"), [&] { return program.Box(); }, 15000));
+    program.Answer();
+    ASSERT_TRUE(Wait_Until([&] { return program.Items(ROLE_SYSTEM_CELL).size() == 31; }));
+    const std::vector<Item> headers = program.Items(ROLE_SYSTEM_COLUMNHEADER);
+    ASSERT_EQ(headers.size(), 7U);
+    EXPECT_EQ(headers.front().name, "Monday");
+    EXPECT_EQ(headers.back().name, "Sunday");
+    EXPECT_EQ(program.Named("Saturday 1st May 2027").place.left, headers[5].place.left);
+    EXPECT_EQ(program.Named("Monday 31st May 2027").place.left, headers[0].place.left);
+}
+
+TEST_F(Dots, Places_And_Texts_Fit) {
+    const HDC screen = GetDC(nullptr);
+    const int dots = GetDeviceCaps(screen, LOGPIXELSX);
+    ReleaseDC(nullptr, screen);
+    Set_Clock(2027, 9, 29, 23, 50, 0); // the widest of the titles
+    Set_Setting("Settings", "Bar Time", "True");
+    Set_Setting("Settings", "Bar Time Format", "HH:mm");
+    Set_Setting("Settings", "Bar Date Format", "Weekday - d month - yyyy");
+    for (const char *style : {"0", "1"}) {
+        Set_Setting("Settings", "Style", style);
+        Write_Data("\"1/9/2027=Ågjqy ÅÅ 日本語, a text that needs more room than there is in its box\"\r\n");
+        Program &program = Start_Calendar();
+        EXPECT_EQ(program.Title(), "23:50 - Wednesday 29th September - 2027");
+        const std::vector<Item> days = program.Items(ROLE_SYSTEM_CELL);
+        ASSERT_EQ(days.size(), 30U);
+        const std::string name = "style-" + std::string(style) + "-" + std::to_string(dots);
+        Save_Picture(name);
+        const Picture picture;
+        const LONG width = 96 * dots / 96;
+        const LONG least_height = (*style == '0' ? 34 : 76) * dots / 96;
+        for (std::size_t i = 0; i < days.size(); ++i) {
+            const RECT &place = days[i].place;
+            EXPECT_EQ(place.right - place.left, width) << days[i].name;
+            EXPECT_GE(place.bottom - place.top, least_height) << days[i].name;
+            EXPECT_EQ(place.left - days[i % 7].place.left, 0) << days[i].name; // the 1st is a Wednesday
+        }
+        for (const Item &item : program.Items()) {
+            if (item.name.ends_with(", today"))
+                continue; // its frame is at the edge
+            const DWORD back = item.role == ROLE_SYSTEM_CELL ? white : deep_blue;
+            EXPECT_EQ(Colours(picture, item.place, true), std::vector<DWORD>{back}) << item.name << " is cut";
+            EXPECT_GT(Colours(picture, item.place, false).size(), 2U) << item.name << " shows nothing";
+        }
+        Stop_All();
+    }
+}
+
+} // namespace

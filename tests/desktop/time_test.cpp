@@ -1,0 +1,98 @@
+// The program over time: midnight, rest, and many changes of the month.
+#include "tests/desktop/driver.h"
+
+#include <windows.h>
+
+#include <oleacc.h>
+
+namespace {
+
+using Time = Desktop_Test;
+
+TEST_F(Time, Date_Changes_While_It_Runs) {
+    Set_Clock(2027, 5, 31, 23, 59, 0);
+    Write_Data("\"31/5/2027=Last of May\"\r\n\"1/6/9999=First of June\"\r\n");
+    const Program &program = Start();
+    const auto title = [&] { return program.Title(); };
+    const auto box = [&] { return program.Box(); };
+    ASSERT_TRUE(Becomes(std::string("[Vellatro] Today: 5/31/2027\r\nLast of May"), box, 15000));
+    program.Answer();
+    ASSERT_TRUE(Becomes(std::string("31st May - 2027"), title));
+    program.Do_Default("Previous month");
+    ASSERT_TRUE(Becomes(std::string("April - 2027"), title));
+
+    Set_Clock(2027, 5, 31, 23, 59, 58);
+    ASSERT_TRUE(Becomes(std::string("1st June - 2027"), title));
+    SYSTEMTIME now;
+    GetSystemTime(&now);
+    EXPECT_EQ(now.wHour, 0) << "too early";
+    EXPECT_LE(now.wSecond, 2) << "too late";
+    ASSERT_TRUE(Becomes(std::string("[Vellatro] Today: 6/1/2027\r\nFirst of June"), box));
+    program.Answer();
+    EXPECT_EQ(program.Items(ROLE_SYSTEM_CELL).size(), 30U);
+    EXPECT_EQ(program.Named("Tuesday 1st June 2027, today").value, "First of June");
+
+    Set_Clock(2027, 5, 31, 12, 0, 0); // back
+    ASSERT_TRUE(Becomes(std::string("[Vellatro] Today: 5/31/2027\r\nLast of May"), box));
+    program.Answer();
+    EXPECT_TRUE(Becomes(std::string("31st May - 2027"), title));
+    Set_Clock(2028, 2, 29, 12, 0, 0); // and far ahead
+    ASSERT_TRUE(Becomes(std::string("29th February - 2028"), title));
+    EXPECT_TRUE(Becomes(std::string("Tuesday 29th February 2028, today"),
+                        [&] { return program.Items(ROLE_SYSTEM_CELL).back().name; }));
+    EXPECT_EQ(program.Box(), "");
+}
+
+TEST_F(Time, Rests_While_Nothing_Happens) {
+    Write_Data("\"1/5/2027=Text\"\r\n");
+    const Program &program = Start_Calendar();
+    Save_Picture("rest");
+    // A mark over a box, made from outside, shows a repaint; a file that cannot be opened shows a reading.
+    const RECT place = program.Named("Thursday 20th May 2027").place;
+    const POINT mark{place.left + 20, place.bottom - 20};
+    POINT in_window = mark;
+    ScreenToClient(program.Calendar(), &in_window);
+    const auto colour = [&] { return Picture().At(mark.x, mark.y); };
+    const HDC dc = GetDC(program.Calendar());
+    SetPixel(dc, in_window.x, in_window.y, RGB(255, 0, 0));
+    ReleaseDC(program.Calendar(), dc);
+    ASSERT_TRUE(Becomes(0xFF0000U, colour));
+    const HANDLE held = CreateFileW(Data_Path().c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+    const long ticks = program.Processor_Ticks();
+    ASSERT_GT(ticks, 0);
+    EXPECT_FALSE(Wait_Until([&] { return colour() != 0xFF0000U || !program.Box().empty(); }, 5000));
+    EXPECT_LE(program.Processor_Ticks() - ticks, 2);
+    // Both signs would have shown.
+    program.Press(VK_F5);
+    EXPECT_TRUE(
+        Becomes(std::string("stop [Vellatro] Error loading in data file."), [&] { return program.Box(); }));
+    program.Answer();
+    CloseHandle(held);
+    InvalidateRect(program.Calendar(), nullptr, FALSE);
+    EXPECT_TRUE(Becomes(0xFFFFFFU, colour));
+}
+
+TEST_F(Time, Leaks_Nothing) {
+    Write_Data("\"1/5/9999=May\"\r\n\"1/6/9999=June\"\r\n\"30/6/9999=A longer text in June\"\r\n");
+    const Program &program = Start_Calendar();
+    const auto round = [&] { // two months ahead and back
+        for (const char *step : {"Next month", "Next month", "Previous month", "Previous month"})
+            program.Do_Default(step);
+    };
+    const auto at_start = [&] {
+        return Becomes(std::string("12th May - 2027"), [&] { return program.Title(); });
+    };
+    round();
+    round();
+    ASSERT_TRUE(at_start());
+    const long gdi_objects = program.Gdi_Objects();
+    const long windows = program.Windows();
+    ASSERT_GT(gdi_objects, 0);
+    for (int i = 0; i < 15; ++i)
+        round();
+    ASSERT_TRUE(at_start());
+    EXPECT_TRUE(Becomes(gdi_objects, [&] { return program.Gdi_Objects(); }));
+    EXPECT_TRUE(Becomes(windows, [&] { return program.Windows(); }));
+}
+
+} // namespace

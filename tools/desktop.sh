@@ -1,0 +1,88 @@
+# shellcheck shell=bash disable=SC2119,SC2120 # the area may be left out
+# A Wine desktop with the stand-in for the shell, on the display at hand. Sourced after common.sh, display.sh
+# and wine.sh; Wine_Prefix must have run. Every program that is started later in the prefix opens in it.
+#
+#   Desktop_Start STANDIN.exe [DPI [NAME [WxH [OPTION...]]]]   96 dots per inch, "vellatro", 1024x768. A desktop named
+#                       "shell" has a task bar. The options are the stand-in's; "none" as STANDIN leaves it out.
+#                       What the stand-in writes is in DESKTOP_OUT.
+#   Desktop_Shot FILE.png [WxH+X+Y]      a picture of the desktop, or of a part of it
+#   Desktop_Settled [WxH+X+Y]            succeeds when nothing changes there for half a second
+#   Desktop_Wait_For_Calendar SECONDS JOB   until the calendar is on the desktop (stand-in with --adopt) and painted;
+#                       fails after SECONDS, or when JOB, the calendar's WINE_JOB, has ended
+#   Desktop_End                          ends it and everything else in the prefix
+
+desktop_name=
+desktop_standin_job=
+desktop_bare= # the fingerprint of the desktop before anything was started in it
+
+Desktop_Start() {
+  local standin=$1 dpi=${2:-96} size=${4:-1024x768}
+  desktop_name=${3:-vellatro}
+  shift $(($# < 4 ? $# : 4))
+  DESKTOP_OUT=$WINEPREFIX/standin.log
+  : >"$DESKTOP_OUT"
+  # The registry as well: programs that are started without naming the desktop take it from there.
+  DISPLAY='' Wine_Registry <<REG
+[HKEY_CURRENT_USER\\Control Panel\\Desktop]
+"LogPixels"=dword:$(printf %08x "$dpi")
+
+[HKEY_CURRENT_USER\\Software\\Wine\\Explorer]
+"Desktop"="$desktop_name"
+
+[HKEY_CURRENT_USER\\Software\\Wine\\Explorer\\Desktops]
+"$desktop_name"="$size"
+REG
+  Wine_Start 86400 explorer.exe "/desktop=$desktop_name,$size"
+  Wait_For 30 Desktop_Has_Window || Fail "Wine's desktop does not appear"
+  [ "$standin" != none ] || return 0
+  WINE_OUT=$DESKTOP_OUT Wine_Start 86400 "$standin" "$@"
+  desktop_standin_job=$WINE_JOB
+  Wait_For 30 Desktop_Has_Standin || Fail "The stand-in for the shell does not appear"
+  Wait_For 30 Desktop_Settled || Fail "The stand-in for the shell does not come to rest"
+  desktop_bare=$(Desktop_Print)
+}
+
+# Wine's desktop is one window of the display; its windows without a parent are windows of the display, too.
+Desktop_Window() {
+  timeout 5 xdotool search --onlyvisible --name "^$desktop_name - Wine [Dd]esktop\$" 2>/dev/null | head -n 1 || true
+}
+
+Desktop_Has_Window() { [ -n "$(Desktop_Window)" ]; }
+
+Desktop_Has_Standin() {
+  kill -0 "$desktop_standin_job" 2>/dev/null || Fail "The stand-in for the shell has ended"
+  timeout 5 xdotool search --onlyvisible --name '^Program Manager$' >/dev/null 2>&1
+}
+
+Desktop_Shot() { Display_Shot "$1" "${2:-}" "$(Desktop_Window)"; }
+
+Desktop_Print() { Display_Print "${1:-}" "$(Desktop_Window)"; }
+
+Desktop_Settled() {
+  local before
+  before=$(Desktop_Print "${1:-}")
+  sleep 0.5
+  [ "$before" = "$(Desktop_Print "${1:-}")" ]
+}
+
+# The calendar tells of today's event before it appears; nobody else is there to say OK.
+Desktop_Answer_Boxes() {
+  if timeout 5 xdotool search --onlyvisible --name '^Vellatro$' >/dev/null 2>&1; then
+    timeout 5 xdotool key Return 2>/dev/null || true
+  fi
+}
+
+Desktop_Wait_For_Calendar() {
+  local deadline=$((SECONDS + $1))
+  while [ "$SECONDS" -lt "$deadline" ] && kill -0 "$2" 2>/dev/null; do
+    if [ ! -s "$DESKTOP_OUT" ]; then
+      Desktop_Answer_Boxes
+    elif [ "$(Desktop_Print)" != "$desktop_bare" ] && Desktop_Settled; then
+      return 0
+    fi
+    sleep 0.1
+  done
+  return 1
+}
+
+Desktop_End() { Wine_End; }

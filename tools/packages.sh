@@ -1,0 +1,78 @@
+# shellcheck shell=bash disable=SC2034 # the lists are used by name
+# Installs the Debian packages that building and the Wine tests need, and only those that are missing.
+# Sourced after common.sh. Which Wine is used, and how it gets there, is wine.sh's matter.
+#
+#   Packages_Need build     compilers, CMake, test and benchmark libraries, formatter and checker
+#   Packages_Need desktop   Wine, a virtual display, its tools, fonts
+#   Apt_Allowed             succeeds when this user may install packages
+#   Apt_Install PACKAGE...  installs, trying again after refreshing the lists
+
+# A line is the file or command that shows that a package is there, and the package. The existence of one
+# file is cheaper to ask than the package database, so that a run with everything in place costs nothing.
+build_packages='
+cmake                                cmake
+ninja                                ninja-build
+g++                                  g++
+i686-w64-mingw32-g++-win32           g++-mingw-w64-i686-win32
+x86_64-w64-mingw32-g++-win32         g++-mingw-w64-x86-64-win32
+/usr/src/googletest/CMakeLists.txt   googletest
+/usr/include/gtest/gtest.h           libgtest-dev
+/usr/include/benchmark/benchmark.h   libbenchmark-dev
+clang-format                         clang-format
+clang-tidy                           clang-tidy'
+desktop_packages='
+Xvfb                                 xvfb
+xdotool                              xdotool
+/usr/bin/import                      imagemagick
+xdpyinfo                             x11-utils
+wine                                 wine
+/usr/lib/wine/wineserver64           wine64
+/usr/share/wine/fonts/marlett.ttf    fonts-wine
+/usr/share/fonts/truetype/liberation fonts-liberation
+/usr/share/fonts/truetype/dejavu     fonts-dejavu-core
+/usr/share/fonts/opentype/noto       fonts-noto-cjk
+/usr/sbin/debootstrap                debootstrap'
+
+As_Root() {
+  if [ "$(id -u)" = 0 ]; then "$@"; else sudo -n "$@"; fi
+}
+
+Apt_Allowed() {
+  command -v apt-get >/dev/null && { [ "$(id -u)" = 0 ] || sudo -n true 2>/dev/null; }
+}
+
+# The lock of another installation is waited for; the log is shown only when something went wrong.
+Apt() {
+  As_Root env DEBIAN_FRONTEND=noninteractive timeout -k 10 900 \
+    apt-get -qq -y -o DPkg::Lock::Timeout=300 -o Acquire::Retries=3 "$@" </dev/null
+}
+
+Apt_Install() {
+  local log try
+  log=$(mktemp)
+  for try in 1 2 3; do
+    if Apt install --no-install-recommends "$@" >>"$log" 2>&1; then
+      rm -f "$log"
+      return 0
+    fi
+    [ "$try" = 3 ] || { sleep 2; Apt update >>"$log" 2>&1 || true; }
+  done
+  cat "$log" >&2
+  rm -f "$log"
+  return 1
+}
+
+Packages_Need() {
+  local list=$1_packages sign package missing=()
+  while read -r sign package; do
+    case $sign in
+      '') continue ;;
+      /*) [ -e "$sign" ] || missing+=("$package") ;;
+      *) command -v "$sign" >/dev/null || missing+=("$package") ;;
+    esac
+  done <<<"${!list}"
+  [ ${#missing[@]} -gt 0 ] || return 0
+  Apt_Allowed || Fail "These packages are missing and this user may not install them: ${missing[*]}"
+  Say "Installing ${missing[*]}"
+  Apt_Install "${missing[@]}" || Fail "Could not install ${missing[*]}"
+}
