@@ -111,6 +111,7 @@ struct Form_Model {
     std::string title;
     Rect bounds; ///< on the screen, twips; of a dialog the client area's size counts
     bool visible = false;
+    bool floating = false; ///< a painted form that appears above all windows and never takes the keyboard
     Colour back_colour = System_Colour(15);
     Pointer_Shape pointer = Pointer_Shape::Arrow;
     std::vector<Control_State *> controls; ///< in paint and tab order

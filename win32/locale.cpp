@@ -5,7 +5,6 @@
 #include "win32/wide_text.h"
 
 #include <algorithm>
-#include <string_view>
 
 namespace platform {
 
@@ -37,70 +36,39 @@ int Days_From_Monday(int weekday) {
     return (weekday + 6) % 7;
 }
 
-/// Weekday of a date of the Gregorian calendar, Sunday = 0.
-int Weekday_Of(int year, int month, int day) {
-    constexpr int month_shift[12] = {0, 3, 2, 5, 0, 3, 5, 1, 4, 6, 2, 4};
-    const int y = month < 3 ? year - 1 : year;
-    return (y + y / 4 - y / 100 + y / 400 + month_shift[month - 1] + day) % 7;
-}
-
-void Append_Number(std::wstring &out, int number, std::size_t digits) {
-    const std::wstring text = std::to_wstring(number);
-    if (text.size() < digits)
-        out.append(digits - text.size(), L'0');
-    out += text;
-}
-
-/// One field of a date pattern: `letter` repeated `count` times.
-void Append_Field(std::wstring &out, wchar_t letter, std::size_t count, int year, int month, int day) {
-    const int monday_based = Days_From_Monday(Weekday_Of(year, month, day));
-    if (letter == L'y') {
-        if (count <= 2)
-            Append_Number(out, year % 100, count);
-        else
-            Append_Number(out, year, 4);
-    } else if (count <= 2) {
-        Append_Number(out, letter == L'd' ? day : month, count);
-    } else if (letter == L'd') {
-        out += Locale_Text(Entry(count == 3 ? LOCALE_SABBREVDAYNAME1 : LOCALE_SDAYNAME1, monday_based));
-    } else {
-        out += Locale_Text(Entry(count == 3 ? LOCALE_SABBREVMONTHNAME1 : LOCALE_SMONTHNAME1, month - 1));
-    }
-}
-
-/// The date in `pattern`, as the system formats the dates that it knows.
-std::wstring Format_Date(std::wstring_view pattern, int year, int month, int day) {
+/// The user's short date form with the year in it written out: "yyyy" becomes '0950', two letters or one the
+/// last two digits.
+std::wstring Form_With_Year(int year) {
+    const std::wstring form = Locale_Text(LOCALE_SSHORTDATE);
+    const std::wstring digits = win32::To_Wide(std::to_string(10000 + year).substr(1));
     std::wstring out;
-    for (std::size_t i = 0; i < pattern.size();) {
-        const wchar_t letter = pattern[i];
-        if (letter == L'\'') {
-            // A literal; two quotes in it are one.
-            for (++i; i < pattern.size(); ++i) {
-                if (pattern[i] == L'\'' && (++i >= pattern.size() || pattern[i] != L'\''))
-                    break;
-                out += pattern[i];
-            }
+    bool literal = false;
+    for (std::size_t i = 0; i < form.size();) {
+        literal = literal != (form[i] == L'\'');
+        const std::size_t end = std::min(form.find_first_not_of(form[i], i), form.size());
+        if (form[i] != L'y' || literal) {
+            out += form[i++];
             continue;
         }
-        const std::size_t end = std::min(pattern.find_first_not_of(letter, i), pattern.size());
-        if (letter == L'd' || letter == L'M' || letter == L'y')
-            Append_Field(out, letter, end - i, year, month, day);
-        else if (letter != L'g') // eras are not written
-            out += pattern.substr(i, end - i);
+        out += L'\'' + (end - i > 2 ? digits : digits.substr(2)) + L'\'';
         i = end;
     }
     return out;
 }
 
-/// The date as the system writes it, empty when it cannot.
-std::wstring System_Date(int year, int month, int day) {
+/// The date in the short form. The system formats no date before 1601: an earlier one borrows weekday and
+/// month from the same day of a later year, which the calendar repeats every 400 years.
+std::wstring Formatted_Date(int year, int month, int day) {
+    const bool early = year < First_System_Year;
+    const std::wstring form = early ? Form_With_Year(year) : std::wstring();
     SYSTEMTIME date{};
-    date.wYear = static_cast<WORD>(year);
+    date.wYear = static_cast<WORD>(early ? year + 1600 : year);
     date.wMonth = static_cast<WORD>(month);
     date.wDay = static_cast<WORD>(day);
     std::wstring text(128, L'\0');
-    const int length = GetDateFormatW(LOCALE_USER_DEFAULT, DATE_SHORTDATE, &date, nullptr, text.data(),
-                                      static_cast<int>(text.size()));
+    const int length =
+        GetDateFormatW(LOCALE_USER_DEFAULT, early ? 0 : DATE_SHORTDATE, &date, early ? form.c_str() : nullptr,
+                       text.data(), static_cast<int>(text.size()));
     text.resize(length > 0 ? static_cast<std::size_t>(length - 1) : 0);
     return text;
 }
@@ -127,10 +95,7 @@ int First_Weekday() {
 }
 
 std::string Short_Date(int year, int month, int day) {
-    std::wstring text = year >= First_System_Year ? System_Date(year, month, day) : std::wstring();
-    if (text.empty())
-        text = Format_Date(Locale_Text(LOCALE_SSHORTDATE), year, month, day);
-    return win32::From_Wide(text);
+    return win32::From_Wide(Formatted_Date(year, month, day));
 }
 
 } // namespace platform

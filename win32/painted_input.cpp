@@ -59,7 +59,7 @@ bool Painted_Window::Handle_Input(UINT message, WPARAM wparam, LPARAM lparam, LR
     // A window inside the shell's is not disabled with the others by a message box, so it holds still itself.
     const bool modal = Open_Modal_Boxes > 0;
     if (message == WM_MOUSEACTIVATE) {
-        result = modal ? MA_NOACTIVATEANDEAT : MA_ACTIVATE;
+        result = modal ? MA_NOACTIVATEANDEAT : Model()->floating ? MA_NOACTIVATE : MA_ACTIVATE;
         return true;
     }
     if (Is_Mouse(message))

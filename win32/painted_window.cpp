@@ -260,6 +260,11 @@ void Painted_Window::Show_Or_Hide() {
         ShowWindow(window_, SW_HIDE);
         return;
     }
+    if (Model()->floating) {
+        SetWindowPos(window_, HWND_TOPMOST, 0, 0, 0, 0,
+                     SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_SHOWWINDOW);
+        return;
+    }
     // Under the ordinary windows, where a desktop's furniture belongs.
     const bool to_bottom = Is_Top_Level(window_);
     SetWindowPos(window_, HWND_BOTTOM, 0, 0, 0, 0,

@@ -289,6 +289,9 @@ void Program::Answer() const {
     const HWND box = Box_Window();
     PostMessageW(box, WM_COMMAND, IDOK, 0);
     EXPECT_TRUE(box && Wait_Until([box] { return !IsWindow(box); })) << "no box that takes an answer";
+    // The focus goes to the stand-in, whose X window Wine then raises over the calendar's.
+    if (const HWND calendar = Calendar())
+        SetWindowPos(calendar, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
 }
 
 void Program::Click(const RECT &place) const {
