@@ -2,6 +2,7 @@
 #include "app/program.h"
 
 #include "calendar/main_frm.h"
+#include "editor/edit_frm.h"
 #include "platform/message_loop.h"
 #include "toolkit/guard.h"
 
@@ -9,10 +10,20 @@ int Run_Program() {
     int exit_code = 1;
     Run_Guarded([&exit_code] {
         Main_Frm main_frm;
+        Edit_Frm edit_frm(main_frm);
+        Connect_Editor(main_frm, edit_frm);
         if (!main_frm.Form_Load())
             return;
         platform::Run_Message_Loop();
+        // When the desktop is lost nobody has been asked yet, or the loop has ended under an open question.
+        edit_frm.Ask_Unsaved();
         exit_code = 0;
     });
     return exit_code;
+}
+
+void Connect_Editor(Main_Frm &calendar, Edit_Frm &editor) {
+    calendar.Open_Editor = [&editor](int index) { editor.Edit_Box(index); };
+    calendar.Ask_Unsaved = [&editor] { return editor.Ask_Unsaved(); };
+    calendar.Editor_Visible = [&editor] { return editor.Visible(); };
 }

@@ -22,13 +22,13 @@ constexpr int text_below = 2;    ///< between the text's line and the lower edge
 
 struct Style_Lengths {
     int box_width;
-    int box_height;
-    bool one_line;
+    int box_height; ///< more where the fonts need it for the lines
+    int lines;      ///< of text that surely fit below the number
 };
 
 // "Thin Box" and "Square Box".
-constexpr Style_Lengths thin_box{96, 34, true};
-constexpr Style_Lengths square_box{96, 76, false};
+constexpr Style_Lengths thin_box{96, 34, 1};
+constexpr Style_Lengths square_box{96, 76, 4};
 
 constexpr platform::Font title_font{105, true};
 constexpr platform::Font header_font{85, false};
@@ -119,8 +119,8 @@ void Main_Frm::Which_Style(std::int16_t style) {
     platform::Font number_font{number_points, false};
     const int space = Pixels(gap);
     const int width = Pixels(lengths.box_width);
-    const int text_lines =
-        Pixels(number_inset) + Line_Pixels(number_font) + Line_Pixels(text_font) + Pixels(text_below);
+    const int text_lines = Pixels(number_inset) + Line_Pixels(number_font) +
+                           lengths.lines * Line_Pixels(text_font) + Pixels(text_below);
     const int height = std::max(Pixels(lengths.box_height), text_lines);
     const int padding = Pixels(title_padding);
     const int title = std::max(Pixels(title_height), Line_Pixels(title_font) + padding);
@@ -161,7 +161,7 @@ void Main_Frm::DDD_Style(std::int16_t style) {
         const int number_bottom = box.top + Pixels(number_inset) + Line_Pixels(Box_Lbl[i].Font());
         Rect text{box.left + inset, number_bottom, box.width - 2 * inset, 0};
         // One line stands at the lower edge; several begin below the number.
-        if (Lengths_Of(style).one_line)
+        if (Lengths_Of(style).lines == 1)
             text.top = box.Bottom() - below - line;
         text.height = box.Bottom() - below - text.top;
         Box_Caption_Lbl[i].Move(In_Twips(text));
@@ -215,10 +215,8 @@ void Main_Frm::DotDotDot(Label &label, std::string_view text) {
     bool more = false;
     const std::string all = Blanks_Made_One(text, more);
     std::string_view rest = all;
-    const int line_height = std::max(platform::Line_Height(label.Font()), 1);
     std::string shown;
-    // A line that misses its full height by a rounding counts.
-    int lines_left = std::max((label.Height() + line_height / 8) / line_height, 1);
+    int lines_left = std::max(In_Pixels(label.Bounds()).height / Line_Pixels(label.Font()), 1);
     for (; lines_left > 1 && (more || !Fits(label, rest)); --lines_left) {
         const std::size_t end = Line_End(label, rest);
         if (end == 0)

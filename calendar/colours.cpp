@@ -73,7 +73,7 @@ void Main_Frm::Colour_Menus() {
     if (Cur_Settings.Menu_Col_Sorce != 0) {
         Set_Back_Colour(Cur_Settings.Col_Back);
     } else if (Icon_BackColour != -1) {
-        // Assigned twice, here and below, as it has always been; the second time changes nothing.
+        // Assigned twice, here and below; the second time changes nothing.
         Set_Back_Colour(Icon_BackColour);
         Set_Back_Colour(Icon_BackColour);
         text = Icon_TextColour;

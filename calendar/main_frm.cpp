@@ -5,6 +5,7 @@
 #include "platform/drawing.h"
 #include "platform/locale.h"
 #include "platform/message_box.h"
+#include "platform/screen.h"
 
 using platform::Broadcast;
 using platform::Mouse_Button;
@@ -40,12 +41,47 @@ void Main_Frm::Wire_Events() {
         Wire_Box(Box_Caption_Lbl[i], i);
     }
     On_Key_Up = [this](const platform::Input_Event &event) { Form_KeyUp(event); };
-    On_Close = [] { platform::End_Message_Loop(); };
+    On_Key_Down = [this](const platform::Input_Event &event) { Form_KeyDown(event); };
+    On_Focus_Changed = [this](bool has_focus) { Take_Focus(has_focus); };
+    On_Capture_Lost = [this] {
+        Hide_Balloon();
+        End_Drag();
+    };
+    On_Close = [this] { End_Program(); };
     On_Dots_Changed = [this] { Renew_Layout(); };
+    Attach_Timer.On_Timer = [this] { Attach_Timer_Timer(); };
+    // Without its window the program could only stand in the way of its next start. Nothing is asked here:
+    // the window inside the shell's goes down in the middle of the shell's own end, which waits for it.
+    On_Window_Lost = [] { platform::End_Message_Loop(); };
+    Which_Month_Lbl.On_Mouse_Down = [this](Mouse_Button button, platform::Point at) {
+        Begin_Drag(button, at);
+        if (button == Mouse_Button::Right)
+            Popup_Title_Menu(at);
+    };
+    Which_Month_Lbl.On_Mouse_Move = [this](Mouse_Button held, platform::Point at) {
+        Drag_Along(held, at);
+        Caption_Moved();
+    };
+    Which_Month_Lbl.On_Double_Click = [this] { Which_Month_Lbl_DblClick(); };
+    for (Control *label : std::initializer_list<Control *>{&Prev_Month_Lbl, &Next_Month_Lbl})
+        label->On_Mouse_Move = [this](Mouse_Button, platform::Point) { Restart_Countdown(); };
+    for (Label &header : Day_Lbl)
+        header.On_Mouse_Move = [this](Mouse_Button, platform::Point) { Restart_Countdown(); };
+    Compact_Timer.On_Timer = [this] { Compact_Timer_Timer(); };
+    Timer2.On_Timer = [this] {
+        if (!platform::Mouse_Button_Held())
+            Hide_Balloon();
+    };
+    Which_Month_Lbl.On_Mouse_Up = [this](Mouse_Button button, platform::Point) { Drop(button); };
     Dectect_Date_Timer.On_Timer = [this] { Dectect_Date_Timer_Timer(); };
 }
 
 void Main_Frm::Wire_Box(Label &label, int index) {
+    label.On_Mouse_Down = [this, index](Mouse_Button button, platform::Point) {
+        Box_Mouse_Down(button, index);
+    };
+    label.On_Mouse_Move = [this](Mouse_Button, platform::Point) { Restart_Countdown(); };
+    label.On_Mouse_Up = [this](Mouse_Button, platform::Point) { Hide_Balloon(); };
     label.On_Double_Click = [this, index] { Edit_Box(index); };
     label.On_Default_Action = [this, index] { Edit_Box(index); };
 }
@@ -74,17 +110,20 @@ bool Main_Frm::Form_Load() {
     Setup_Boxes(Cur_Month, Cur_Year);
     // A work area too high for the remembered height is told, but is no reason to show no calendar.
     placement_guard_.Run([this] { Set_Repos(); });
+    // Heard from here on: an alert may stay open for hours.
+    Hear_Broadcasts();
     Load_Dates();
     Update_Title();
     Set_Day_Headers();
     date_stamp_ = Date_Stamp(today);
+    // Not seen before it is where it belongs and has its colours.
+    Create();
     No_ShowDesktop_and_IconColours();
     Set_Colours();
     Mark_Today();
-    regional_look_ = Regional_Look();
-    platform::Listen_To_Broadcasts(
-        [this](Broadcast broadcast) { Run_Guarded([this, broadcast] { Hear(broadcast); }); });
+    Show();
     Dectect_Date_Timer.Set_Enabled(true);
+    Compact_Timer.Set_Enabled(Cur_Settings.Auto_Compact == 1);
     return true;
 }
 
@@ -113,30 +152,52 @@ void Main_Frm::Dectect_Date_Timer_Timer() {
     Which_Style(Effective_Style());
     date_stamp_ = stamp;
     if (Compacted)
-        return;
+        return TransparentForm();
     Setup_Boxes(Cur_Month, Cur_Year);
     Set_Colours();
     Mark_Today();
     Load_Dates();
 }
 
-void Main_Frm::Hear(Broadcast broadcast) {
+void Main_Frm::Hear_Broadcasts() {
+    regional_look_ = Regional_Look();
+    platform::Listen_To_Broadcasts([this](Broadcast broadcast) {
+        bool agreed = false;
+        Run_Guarded([&] { agreed = Hear(broadcast); });
+        return agreed;
+    });
+}
+
+bool Main_Frm::Hear(Broadcast broadcast) {
     switch (broadcast) {
     case Broadcast::Settings_Changed:
-        return Take_Regional_Settings();
+        Take_Regional_Settings();
+        break;
     case Broadcast::Time_Changed:
-        return Dectect_Date_Timer_Timer();
+        Dectect_Date_Timer_Timer();
+        break;
     case Broadcast::Display_Changed:
-        Position_Form(Effective_Position());
-        return placement_guard_.Run([this] { Set_Repos(); });
+        placement_guard_.Run([this] { RePosition(); });
+        break;
     case Broadcast::Colours_Changed:
         // System colours are looked up while painting; only the frame of today's box is worked out before.
         Mark_Today();
-        return Repaint();
+        Repaint();
+        break;
     case Broadcast::Session_Ends:
-        // All that the user entered is in the files already.
-        return;
+        return May_End();
     }
+    return true;
+}
+
+bool Main_Frm::May_End() const {
+    return !Ask_Unsaved || Ask_Unsaved();
+}
+
+void Main_Frm::Resume_Auto_Compact() {
+    // Nothing counts down towards a state that is reached already.
+    if (Cur_Settings.Auto_Compact == 1 && !Compacted)
+        Compact_Timer.Set_Enabled(true);
 }
 
 /// All that the month shows of the regional settings, and the measures of its fonts.
@@ -152,16 +213,15 @@ std::string Main_Frm::Regional_Look() {
 }
 
 void Main_Frm::Take_Regional_Settings() {
-    std::string look = Regional_Look();
-    if (look == regional_look_)
-        return;
-    regional_look_ = std::move(look);
-    Renew_Layout();
+    if (Regional_Look() != regional_look_)
+        Renew_Layout();
 }
 
 void Main_Frm::Renew_Layout() {
+    regional_look_ = Regional_Look();
     described_.reset();
     Which_Style(Effective_Style());
-    if (!Compacted)
-        Redraw();
+    Redraw();
+    if (Compacted)
+        TransparentForm(); // the title has another size
 }

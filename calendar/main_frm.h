@@ -1,16 +1,22 @@
 // The calendar window: the month in its boxes under a row of weekday headers and a title. Its procedures are
 // in files by topic: start-up and the date watch (main_frm.cpp), the month (month_grid.cpp), geometry and
-// text fitting (box_styles.cpp), steps and keys (navigation.cpp), colours.cpp and placement.cpp.
+// text fitting (box_styles.cpp), steps and function keys (navigation.cpp), the keyboard's mark (focus.cpp),
+// menus.cpp, tooltips.cpp with the balloon, compact.cpp, colours.cpp, placement.cpp, dragging.cpp, and the
+// place inside the shell (attachment.cpp).
 #pragma once
 
 #include "core/date.h"
 #include "core/event_store.h"
 #include "platform/message_loop.h"
+#include "platform/shell.h"
 #include "toolkit/control_array.h"
 #include "toolkit/form.h"
 #include "toolkit/guard.h"
 #include "toolkit/timer.h"
+#include "ui/balloon.h"
+#include "ui/splash_frm.h"
 
+#include <array>
 #include <cstdint>
 #include <functional>
 #include <optional>
@@ -33,14 +39,27 @@ public:
     std::int16_t Cur_Year = 0;
     bool Alert_Done = false; ///< no further alert today
     bool Compacted = false;
+    bool Timer_Compacted = false;  ///< the timer compacted it last, so the mouse over the title expands it
+    bool Mouse_Released = true;    ///< no button is held over a day box
+    std::int16_t Tooltip_Box = -1; ///< the day box of the last balloon
     Event_Store Events;
 
     // Colours of the desktop's icon labels; a background of -1 is none.
     platform::Colour Icon_BackColour = 0;
     platform::Colour Icon_TextColour = 0;
 
-    /// Opens the editor for a day box; whoever owns both windows fills it.
-    std::function<void(int index)> Open_Editor;
+    // The event editor, of which the calendar knows no more than this. Whoever owns both windows fills it;
+    // empty, there is no editor.
+    std::function<void(int index)> Open_Editor; ///< for a day box
+    std::function<bool()> Ask_Unsaved; ///< offers unsaved text for saving; false: the user wants to stay
+    std::function<bool()> Editor_Visible;
+
+    // The settings dialog, likewise.
+    std::function<void()> Open_Settings;
+    std::function<bool()> Settings_Visible;
+
+    /// Whether the program may end now; asks for unsaved text first.
+    bool May_End() const;
 
     // The month in the boxes.
 
@@ -61,6 +80,8 @@ public:
     /// Takes one record in: into its box, if it belongs to the shown month, and as an alert, if it is
     /// today's. Throws Conversion_Error or std::out_of_range for a malformed one.
     void Enter_Date(std::string_view record, const Date &today);
+    /// Shows the text that was saved for a day in its box, if that is one of the shown month.
+    void Show_Saved(const Date &date, std::string_view text);
     void Update_Title();
     /// All of the display, after the shown month changed.
     void Redraw();
@@ -89,7 +110,10 @@ public:
     /// Clips the window to its visible controls.
     void TransparentForm();
     std::int16_t Effective_Position() const;
+    /// Puts the window into the shell's desktop and takes the colours of its icon labels over; also shows the
+    /// splash window. What of the shell is missing is left out in silence.
     void No_ShowDesktop_and_IconColours();
+    void Set_Icon_Colours(platform::Shell_Window list, platform::Colour background, platform::Colour text);
 
     // Colours.
     void Set_Colours();
@@ -106,8 +130,37 @@ public:
     void Previous_Month();
     void Edit_Box(int index);
     void Show_Today_Event();
+    void Form_KeyDown(const platform::Input_Event &event);
     void Form_KeyUp(const platform::Input_Event &event);
     void Dectect_Date_Timer_Timer();
+    /// Steps to another box style; where a theme's style rules, the user is asked to turn that off first.
+    void Change_Style(int step);
+    /// Ends the program, unless unsaved text keeps the user.
+    void End_Program();
+
+    // Popup menus. With `at`, in twips on the form, they open there instead of at the mouse.
+    void Popup_Menu(int index, const platform::Point *at = nullptr);
+    void Popup_Months(const platform::Point *at = nullptr);
+    /// The years around the shown one that the calendar can show; in compact mode only "Expand".
+    void Popup_Years(const platform::Point *at = nullptr);
+    /// Deletes the event of a day box.
+    void Clear_Box(int index);
+
+    // Compact mode.
+    /// Goes into compact mode, or out of it.
+    void Which_Month_Lbl_DblClick();
+    void Compact_Timer_Timer();
+    /// Begins the countdown to compact mode anew: the user does something with the calendar.
+    void Restart_Countdown();
+
+    // The balloon.
+    bool Balloon_Showing() const { return Balloon.Visible(); }
+    /// Waits while the window's messages are processed. Ends early at midnight and at the program's end.
+    void TimeOut(float seconds);
+    void Balloon_Tooltip(int index, std::string_view message);
+    void Hide_Balloon();
+    /// Lets compact mode come again after a dialog is closed.
+    void Resume_Auto_Compact();
 
     Label Prev_Month_Lbl;
     Label Which_Month_Lbl;
@@ -117,6 +170,12 @@ public:
     Control_Array<Label, box_count> Box_Caption_Lbl;
     Label DotDotDot_Lbl; ///< never seen: texts are measured in it
     Timer Dectect_Date_Timer;
+    Timer Compact_Timer{60000};
+    Timer Attach_Timer{1000}; ///< runs while the shell does not answer
+    Splash_Frm Splash;
+    frmBalloon Balloon;
+    /// Runs only while the balloon is there, which goes when the button was released where nobody told.
+    Timer Timer2{1000};
 
 private:
     /// What the names of the boxes were made for.
@@ -131,18 +190,56 @@ private:
     bool Check_For_Multiple();
     void Wire_Events();
     void Wire_Box(Label &label, int index);
-    void Hear(platform::Broadcast broadcast);
+    void Hear_Broadcasts();
+    bool Hear(platform::Broadcast broadcast);
     static std::string Regional_Look();
     void Take_Regional_Settings();
     void Renew_Layout();
+
+    void Popup_Title_Menu(platform::Point mouse);
+    bool Still_Shown(std::int16_t month, std::int16_t year, int index);
+
+    void Compact();
+    void Expand();
+    void Caption_Moved();
+
+    void Box_Mouse_Down(platform::Mouse_Button button, int index);
+    void Box_Held(int index);
+
+    void Function_Key(int key);
+    bool Day_Key(int key);
+    void Act_On_Marked(int key);
+    void Move_Mark(int days);
+    bool Show_Mark();
+    void Update_Mark();
+    int Marked_Box();
+    void Take_Focus(bool has_focus);
 
     void Unmark(int index);
     void Describe_Boxes();
     void Describe_Arrows();
     void Set_Event_Value(int index, std::string_view text);
+    void Fill_Box(int index, std::string_view text);
+    void Show_Entered();
     void Alert(const Date &today, std::string_view text);
 
     void Remember_Height(int twips);
+
+    /// A drag by the title: where the mouse is in the title, and where the window was. Wider than the 16 bits
+    /// that a place is kept in, so that a calendar beyond them can be dragged back.
+    struct Drag {
+        platform::Point mouse;
+        platform::Point form;
+    };
+    void Begin_Drag(platform::Mouse_Button button, platform::Point mouse);
+    void Drag_Along(platform::Mouse_Button held, platform::Point mouse);
+    void Drop(platform::Mouse_Button button);
+    void End_Drag();
+    void Keep_Place(const std::optional<Drag> &drag);
+
+    /// The way into a desktop window that was found, with `patience` milliseconds for each of its answers.
+    void Move_Into(platform::Shell_Window desktop, unsigned patience);
+    void Attach_Timer_Timer();
 
     std::size_t Line_End(const Label &label, std::string_view rest);
     std::string_view Measurable(const Label &label, std::string_view text);
@@ -151,9 +248,24 @@ private:
     std::string date_stamp_;
     std::string regional_look_;
     std::optional<Described_Month> described_;
-    std::optional<Date> alert_open_; ///< the day whose alert is being shown
-    std::int16_t Desktop_Height = 0; ///< of the work area at the last placement, twips
+    /// Texts that are read and not in their boxes yet.
+    std::array<std::optional<std::string>, box_count> entered_;
+    unsigned fills_ = 0;    ///< counts the fillings: one that begins inside another puts an end to that
+    int Desktop_Height = 0; ///< of the work area at the last placement, twips
+    std::optional<Drag> drag_;
     Repeated_Guard placement_guard_;
+
+    std::int16_t mark_day_ = 0; ///< of the shown month, 0: none yet
+    bool mark_used_ = false;    ///< the keyboard has been used to go over the days
+    bool has_focus_ = false;
+    int pending_key_ = 0;           ///< went down here and acts when it comes up
+    std::optional<Date> mark_told_; ///< the day that was announced as having the focus
+
+    int held_box_ = -1;
+    unsigned holds_ = 0; ///< counts the presses that may become a balloon
+    bool waiting_ = false;
+    bool ended_ = false;
+    Repeated_Guard drop_guard_;
 };
 
 /// A day as the user reads it: Tuesday 5th March 2002.

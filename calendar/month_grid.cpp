@@ -8,6 +8,7 @@
 #include "platform/message_box.h"
 
 #include <stdexcept>
+#include <utility>
 
 namespace {
 
@@ -49,6 +50,7 @@ void Main_Frm::Reset_Boxes() {
 }
 
 void Main_Frm::Setup_Boxes(std::int16_t month, std::int16_t year) {
+    Hide_Balloon();
     Reset_Boxes();
     const std::int32_t days = DaysInMonth({year, month, 1});
     const int start = Start_Box(month, year);
@@ -56,6 +58,7 @@ void Main_Frm::Setup_Boxes(std::int16_t month, std::int16_t year) {
         Box_Lbl[start + day - 1].Set_Caption(" " + std::to_string(day));
     Hide_Misc_Boxes();
     Describe_Boxes();
+    Update_Mark();
     Position_Form(Effective_Position());
     TransparentForm();
 }
@@ -90,17 +93,26 @@ void Main_Frm::Unmark(int index) {
     box.Set_Font(font);
 }
 
-void Main_Frm::Clear_Tooltips() {
-    for (int i = 0; i < box_count; ++i) {
-        Box_Caption_Lbl[i].Set_Tooltip({});
-        Box_Lbl[i].Set_Tooltip({});
-    }
-}
-
 void Main_Frm::Load_Dates() {
     Clear_Tooltips();
     const Date today = Today();
-    Events.Load_Dates([this, &today](std::string_view record) { Enter_Date(record, today); });
+    const unsigned fill = ++fills_;
+    entered_ = {};
+    Events.Load_Dates([&](std::string_view record) {
+        if (fill == fills_)
+            Enter_Date(record, today);
+    });
+    if (fill == fills_)
+        Show_Entered();
+}
+
+/// Puts the texts that were entered since the last call into their boxes.
+void Main_Frm::Show_Entered() {
+    for (int i = 0; i < box_count; ++i) {
+        std::optional<std::string> &text = entered_[static_cast<std::size_t>(i)];
+        if (text)
+            Fill_Box(i, *std::exchange(text, {}));
+    }
 }
 
 void Main_Frm::Enter_Date(std::string_view record, const Date &today) {
@@ -109,27 +121,38 @@ void Main_Frm::Enter_Date(std::string_view record, const Date &today) {
         throw Conversion_Error("a record without \"=\"");
     const Date date = Parse_Date_Key(parts.key);
     if ((date.year == every_year || date.year == Cur_Year) && date.month == Cur_Month) {
+        // Fitting a text into its box takes longer than reading a hundred records, and of several texts of a
+        // day only the last one stays.
         const int index = Start_Box(Cur_Month, Cur_Year) + date.day - 1;
-        if (Cur_Settings.Tooltips == 1) {
-            Box_Caption_Lbl[index].Set_Tooltip(std::string(parts.text));
-            Box_Lbl[index].Set_Tooltip(std::string(parts.text));
-        }
-        DotDotDot(Box_Caption_Lbl[index], parts.text);
-        Set_Event_Value(index, parts.text);
+        if (index < 0 || index >= box_count)
+            throw std::out_of_range("There is no day " + std::to_string(date.day) + ".");
+        entered_[static_cast<std::size_t>(index)] = parts.text;
     }
     if (Cur_Settings.Show_Alerts == 1 && !Alert_Done && date.day == today.day && date.month == today.month &&
         (date.year == today.year || date.year == every_year))
         Alert(today, parts.text);
 }
 
+void Main_Frm::Show_Saved(const Date &date, std::string_view text) {
+    if (date.month == Cur_Month && date.year == Cur_Year)
+        Fill_Box(Start_Box(Cur_Month, Cur_Year) + date.day - 1, text);
+}
+
+void Main_Frm::Fill_Box(int index, std::string_view text) {
+    if (Cur_Settings.Tooltips == 1) {
+        Box_Caption_Lbl[index].Set_Tooltip(std::string(text));
+        Box_Lbl[index].Set_Tooltip(std::string(text));
+    }
+    DotDotDot(Box_Caption_Lbl[index], text);
+    Set_Event_Value(index, text);
+}
+
 void Main_Frm::Alert(const Date &today, std::string_view text) {
-    // While the box waits for the user the month may be drawn again, which must not show it once more.
-    if (alert_open_ == today)
-        return;
-    alert_open_ = today;
-    platform::Message_Box(Today_Text(today, text), "Vellatro", platform::Box_Icon::Information);
-    alert_open_.reset();
+    // Done before the user has answered: the month may be drawn again meanwhile, which must not show the
+    // alert once more, and at midnight the next day gets one of its own.
     Alert_Done = true;
+    Show_Entered();
+    platform::Message_Box(Today_Text(today, text), "Vellatro", platform::Box_Icon::Information);
 }
 
 void Main_Frm::Update_Title() {
@@ -154,7 +177,8 @@ void Main_Frm::Describe_Boxes() {
     if (described_ == wanted)
         return;
     for (int i = 0; i < box_count; ++i) {
-        if (!Box_Lbl[i].Visible())
+        // By the number and not by what is seen: in compact mode nothing is.
+        if (Box_Lbl[i].Caption().empty())
             continue;
         const Date date = Date_Of_Box(i);
         platform::Access_State access = Box_Lbl[i].Access();

@@ -1,6 +1,9 @@
-// Steps from month to month, the keys, and what a day box does on a double click.
+// Steps from month to month and from style to style, the function keys, and the way out.
 #include "calendar/main_frm.h"
+#include "core/settings.h"
 #include "platform/message_box.h"
+
+#include <utility>
 
 namespace {
 
@@ -10,11 +13,31 @@ constexpr int key_f2 = 113;
 constexpr int key_f3 = 114;
 constexpr int key_f4 = 115;
 constexpr int key_f5 = 116;
+constexpr int key_f8 = 119;
+constexpr int key_f9 = 120;
+constexpr int key_f12 = 123;
+
+constexpr int style_count = 2;
+
+constexpr const char *style_question =
+    "You can't change the box style because Use Theme Style is selected. Do you want to turn off Use Theme "
+    "Style?";
+
+/// Changes and stores a setting. Throws platform::Registry_Error, and then it is as it was.
+void Change_Setting(std::int16_t &setting, std::int16_t value, const char *key) {
+    const std::int16_t before = std::exchange(setting, value);
+    try {
+        Save_Setting(key);
+    } catch (...) {
+        setting = before;
+        throw;
+    }
+}
 
 } // namespace
 
 void Main_Frm::Next_Month() {
-    if (Cur_Year >= last_year && Cur_Month == 12)
+    if (Cur_Year > last_year || (Cur_Year == last_year && Cur_Month == 12))
         return;
     if (++Cur_Month == 13) {
         Cur_Month = 1;
@@ -35,6 +58,9 @@ void Main_Frm::Previous_Month() {
 
 void Main_Frm::Redraw() {
     Update_Title();
+    // In compact mode no box may appear; leaving it lays the month out afresh.
+    if (Compacted)
+        return;
     Set_Day_Headers();
     Setup_Boxes(Cur_Month, Cur_Year);
     Load_Dates();
@@ -45,6 +71,34 @@ void Main_Frm::Redraw() {
 void Main_Frm::Edit_Box(int index) {
     if (Open_Editor)
         Open_Editor(index);
+}
+
+void Main_Frm::End_Program() {
+    Hide_Balloon();
+    if (!May_End())
+        return;
+    ended_ = true;
+    platform::End_Message_Loop();
+}
+
+void Main_Frm::Change_Style(int step) {
+    // No and Cancel both leave all as it is: while the theme's style rules, there is no other to step to.
+    if (Cur_Settings.Use_Theme_Style == 1) {
+        if (platform::Message_Box(style_question, "Vellatro", platform::Box_Icon::Question,
+                                  platform::Box_Buttons::Yes_No_Cancel) != platform::Box_Answer::Yes)
+            return;
+        Change_Setting(Cur_Settings.Use_Theme_Style, 0, "Use Theme Style");
+    }
+    // All numbers but 0 are the same style.
+    const int style = ((Cur_Settings.Style == 0 ? 0 : 1) + step + style_count) % style_count;
+    Change_Setting(Cur_Settings.Style, static_cast<std::int16_t>(style), "Style");
+    Hide_Balloon();
+    Which_Style(Effective_Style());
+    TransparentForm();
+    Load_Dates();
+    // The window has another size now. In compact mode the title stays where it is until the month is back.
+    if (!Compacted)
+        Position_Form(Effective_Position());
 }
 
 void Main_Frm::Show_Today_Event() {
@@ -58,10 +112,18 @@ void Main_Frm::Show_Today_Event() {
 }
 
 void Main_Frm::Form_KeyUp(const platform::Input_Event &event) {
+    const bool pending = std::exchange(pending_key_, 0) == event.key;
     // Alt+F4 closes the window; its F4 is no step to the next month.
     if (event.alt)
         return;
-    switch (event.key) {
+    Function_Key(event.key);
+    if (pending)
+        Act_On_Marked(event.key);
+    Restart_Countdown();
+}
+
+void Main_Frm::Function_Key(int key) {
+    switch (key) {
     case key_f1:
         return Show_Today_Event();
     case key_f2:
@@ -71,6 +133,12 @@ void Main_Frm::Form_KeyUp(const platform::Input_Event &event) {
     case key_f3:
     case key_f5:
         return Redraw();
+    case key_f8:
+        return Change_Style(1);
+    case key_f9:
+        return Change_Style(-1);
+    case key_f12:
+        return Which_Month_Lbl_DblClick();
     default:
         return;
     }

@@ -24,11 +24,16 @@ void Main_Frm::Position_Form(std::int16_t code) {
 }
 
 void Main_Frm::Remember_Height(int twips) {
+    // Kept whole before its conversion may fail: else every tick would find another height and place the
+    // window anew, also one that is being dragged.
+    Desktop_Height = twips;
     try {
-        Desktop_Height = Fit_Int16(twips);
+        Fit_Int16(twips);
     } catch (const Conversion_Error &) {
-        throw Conversion_Error("The height of the desktop's work area, " + std::to_string(twips) +
-                               " twips, is beyond 32767: the calendar cannot follow its changes.");
+        throw Conversion_Error(
+            "The height of the desktop's work area, " + std::to_string(twips) +
+            " twips, is beyond the 32767 that are allowed for. The calendar is placed all the "
+            "same.");
     }
 }
 
@@ -50,9 +55,4 @@ void Main_Frm::TransparentForm() {
         if (control->visible)
             seen.push_back(control->bounds);
     Clip(std::move(seen));
-}
-
-void Main_Frm::No_ShowDesktop_and_IconColours() {
-    // Nothing is attached to the desktop yet: the calendar is a window of its own.
-    Show();
 }

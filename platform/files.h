@@ -21,7 +21,8 @@ std::string Program_Folder();
 /// True when `path` names an existing file (a folder is none).
 bool File_Exists(const std::string &path);
 
-/// True when anything at all bears the name `path`.
+/// False when it is certain that nothing bears the name `path`. Where the system cannot tell, as with a disk
+/// that fails or a name that can be none, it is true: reading then tells the failure.
 bool Path_Exists(const std::string &path);
 
 /// All bytes of the file. Other programs may read and write it meanwhile. Throws File_Error.

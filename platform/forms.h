@@ -35,7 +35,7 @@ struct Access_State {
 };
 
 /// Small drawn signs that a label can show instead of its caption.
-enum class Glyph : std::uint8_t { None, Arrow_Left, Arrow_Right };
+enum class Glyph : std::uint8_t { None, Arrow_Left, Arrow_Right, Information };
 
 /// All that can be seen of one control. Positions are twips on the form.
 struct Control_State {
@@ -53,6 +53,7 @@ struct Control_State {
     Colour back_colour = System_Colour(15);
     bool transparent = false; ///< draws no background of its own
     Colour frame_colour = -1; ///< -1: no frame
+    bool marked = false;      ///< bears the mark of the keyboard focus
     Text_Align align = Text_Align::Left;
     bool middle = false; ///< caption centred between top and bottom
     int padding = 0;     ///< twips between the caption and the left, right and, unless `middle`, top edge
@@ -87,6 +88,7 @@ enum class Input_Kind : std::uint8_t {
     Close,          ///< the close box or Alt+F4
     Window_Lost,    ///< the native window is gone, by whatever hand
     Focus_Changed,  ///< the form got (`checked`) or lost the keyboard
+    Capture_Lost,   ///< the mouse went elsewhere while a button was held: its release will not come
     Dots_Changed,   ///< the screen's dots per inch changed
 };
 
@@ -97,6 +99,7 @@ struct Input_Event {
     Point point;      ///< mouse, twips on the form
     Mouse_Button button = Mouse_Button::None; ///< the button that changed; in a move the one that is held
     int key = 0;                              ///< virtual key code
+    bool repeated = false;                    ///< a Key_Down of a key that was down before
     bool shift = false;
     bool control_key = false;
     bool alt = false;
@@ -137,6 +140,7 @@ enum class Aspect : std::uint8_t {
 };
 
 /// Makes the native window of a form, hidden or visible as the model says, with all its controls.
+/// Throws std::runtime_error with the system's reason when it cannot be made, and then there is none.
 void Create_Mirror(Form_Model &model);
 
 /// Takes the native window down. Does nothing when there is none.
@@ -151,6 +155,9 @@ void Control_Changed(Form_Model &model, const Control_State &control, Aspect asp
 
 /// Clips the form's window to these rectangles (twips on the form). Equal rectangles change nothing.
 void Clip_Window(Form_Model &model, const std::vector<Rect> &rects);
+
+/// Clips the form's window to a polygon (twips on the form).
+void Shape_Window(Form_Model &model, const std::vector<Point> &corners);
 
 /// Shows the form in front of the other windows and gives it the keyboard.
 void Bring_To_Front(Form_Model &model);

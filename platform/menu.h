@@ -15,6 +15,7 @@ struct Menu_Item {
     int id = 0; ///< 1 or more
     std::string text;
     Menu_Image image = Menu_Image::None;
+    bool enabled = true; ///< else greyed, and not to be chosen
 };
 
 /// Shows the items as a popup menu centred on the mouse and returns the id of the chosen one, 0 when it was

@@ -17,6 +17,9 @@ void End_Message_Loop();
 /// Dispatches the messages that wait now, and returns.
 void Process_Waiting_Messages();
 
+/// Sleeps until a message waits, at most `milliseconds`.
+void Wait_For_Messages(unsigned milliseconds);
+
 /// Identifies a running timer; 0 is none.
 using Timer_Id = std::uintptr_t;
 
@@ -31,12 +34,13 @@ enum class Broadcast {
     Time_Changed,     ///< the clock was set
     Display_Changed,  ///< the screen's size or depth
     Colours_Changed,  ///< the Windows colours
-    Session_Ends,     ///< the user logs off or shuts down; the last chance to keep something
+    Session_Ends,     ///< the user is about to log off or shut down; the last chance to keep something
 };
 
-/// Names the one listener of the broadcasts. It must not throw. A hidden top-level window hears them, because
-/// windows inside the shell's desktop do not.
-void Listen_To_Broadcasts(std::function<void(Broadcast)> listener);
+/// Names the one listener of the broadcasts. It must not throw. Its answer counts for Session_Ends: false
+/// asks the system not to end the session. A hidden top-level window hears them, because windows inside the
+/// shell's desktop do not.
+void Listen_To_Broadcasts(std::function<bool(Broadcast)> listener);
 
 /// True when this process is the first of the user's session that claims `name`; the claim ends with the
 /// process.

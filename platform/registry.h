@@ -14,7 +14,9 @@ public:
 };
 
 /// The text stored under HKEY_CURRENT_USER, `key` (parts joined by "\"), `name`; nothing when the key or the
-/// value is absent or cannot be read. A number is given as its decimal text.
+/// value is absent. A number is given as its decimal text. What is neither text nor number, or cannot be
+/// read, is given as a text in parentheses that says so: for a number or a flag its conversion fails then,
+/// and a text is taken as it is.
 std::optional<std::string> Read_User_Value(const std::string &key, const std::string &name);
 
 /// Stores a text there, making the key where it is missing. Throws Registry_Error.

@@ -11,7 +11,13 @@ int Dots_Per_Inch();
 /// The work area of the primary monitor in pixels: the screen less the task bar.
 Rect Work_Area();
 
+/// The work area of the monitor that `point` (screen pixels) is on, or is nearest to, in pixels.
+Rect Work_Area_Around(Point point);
+
 /// The mouse position in screen pixels.
 Point Mouse_Position();
+
+/// Whether any mouse button is held now, over whichever window.
+bool Mouse_Button_Held();
 
 } // namespace platform

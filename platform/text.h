@@ -7,8 +7,8 @@
 namespace platform {
 
 /// Where the character that ends just before byte `end` of `text` begins. `end` is 1 to text.size(). Bytes
-/// that are no valid character count as one character each. A mark that combines with the character before it
-/// belongs to that one.
+/// that are no valid character count as one character each. Marks that combine with the
+/// character before them, parts of a joined picture and the two letters of a flag are one character with it.
 std::size_t Previous_Character(std::string_view text, std::size_t end);
 
 } // namespace platform

@@ -1,6 +1,7 @@
 // State of the controls, and the calls that tell the form's mirror what of it changed.
 #include "toolkit/control.h"
 
+#include "platform/line_breaks.h"
 #include "toolkit/form.h"
 
 #include <utility>
@@ -63,6 +64,10 @@ void Control::Set_Frame_Colour(platform::Colour colour) {
     Store(state_.frame_colour, colour, Aspect::Look);
 }
 
+void Control::Set_Marked(bool marked) {
+    Store(state_.marked, marked, Aspect::Look);
+}
+
 void Control::Set_Font(const platform::Font &font) {
     Store(state_.font, font, Aspect::Look);
 }
@@ -123,19 +128,8 @@ Text_Box::Text_Box(Form &form, std::string name)
 void Text_Box::Set_Text(std::string text) {
     // A copy, because the handler may end the form and this text box with it.
     const auto handler = On_Change;
-    if (Store(state_.caption, Without_Line_Breaks(std::move(text)), Aspect::Caption) && handler)
+    if (Store(state_.caption, platform::Without_Line_Breaks(std::move(text)), Aspect::Caption) && handler)
         handler();
-}
-
-std::string Text_Box::Without_Line_Breaks(std::string text) {
-    std::size_t kept = 0;
-    for (std::size_t at = 0; at < text.size(); ++at) {
-        if (text[at] == '\r' && at + 1 < text.size() && text[at + 1] == '\n')
-            continue;
-        text[kept++] = text[at] == '\r' || text[at] == '\n' ? ' ' : text[at];
-    }
-    text.resize(kept);
-    return text;
 }
 
 void Text_Box::Set_Max_Length(int characters) {

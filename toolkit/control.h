@@ -42,6 +42,8 @@ public:
     void Set_Back_Colour(platform::Colour colour);
     /// -1 takes the frame away.
     void Set_Frame_Colour(platform::Colour colour);
+    /// The mark of the keyboard focus.
+    void Set_Marked(bool marked);
     const platform::Font &Font() const { return state_.font; }
     void Set_Font(const platform::Font &font);
     void Set_Transparent(bool transparent);
@@ -118,5 +120,4 @@ public:
 
 private:
     friend class Form;
-    static std::string Without_Line_Breaks(std::string text);
 };

@@ -1,6 +1,7 @@
 // Forms: their state, the life of their native window, and the way of user actions to the controls.
 #include "toolkit/form.h"
 
+#include "platform/line_breaks.h"
 #include "toolkit/guard.h"
 #include "toolkit/painter.h"
 
@@ -76,21 +77,32 @@ void Form::Resize(int width, int height) {
     Tell(Aspect::Bounds);
 }
 
-void Form::Show() {
-    if (created_) {
-        if (!std::exchange(model_.visible, true))
-            Tell(Aspect::Visible);
-        return;
+void Form::Make_Window(bool visible) {
+    model_.visible = visible;
+    try {
+        platform::Create_Mirror(model_);
+    } catch (...) {
+        model_.visible = false;
+        throw;
     }
-    // A clipped window appears in its final shape.
-    model_.visible = !clip_;
-    platform::Create_Mirror(model_);
     created_ = true;
-    if (clip_) {
+    if (clip_)
         platform::Clip_Window(model_, *clip_);
-        model_.visible = true;
+    if (!shape_.empty())
+        platform::Shape_Window(model_, shape_);
+}
+
+void Form::Create() {
+    if (!created_)
+        Make_Window(false);
+}
+
+void Form::Show() {
+    // A clipped window appears in its final shape.
+    if (!created_)
+        Make_Window(!clip_ && shape_.empty());
+    if (!std::exchange(model_.visible, true))
         Tell(Aspect::Visible);
-    }
 }
 
 void Form::Hide() {
@@ -137,6 +149,12 @@ void Form::Clip(std::vector<platform::Rect> rects) {
         platform::Clip_Window(model_, *clip_);
 }
 
+void Form::Shape(std::vector<platform::Point> corners) {
+    shape_ = std::move(corners);
+    if (created_)
+        platform::Shape_Window(model_, shape_);
+}
+
 Control *Form::Control_At(platform::Point point) {
     const auto found = std::find_if(controls_.rbegin(), controls_.rend(), [point](const Control *control) {
         return control->Visible() && control->Bounds().Contains(point);
@@ -171,6 +189,9 @@ void Form::Handle(const Input_Event &event) {
         return Fire(On_Window_Lost);
     case Input_Kind::Focus_Changed:
         return Fire(On_Focus_Changed, event.checked);
+    case Input_Kind::Capture_Lost:
+        captured_ = nullptr;
+        return Fire(On_Capture_Lost);
     case Input_Kind::Dots_Changed:
         return Fire(On_Dots_Changed);
     }
@@ -225,7 +246,7 @@ void Form::Handle_Native(const Input_Event &event) {
     } else if (event.kind == Input_Kind::Text_Changed && kind == Control_Kind::Text_Box) {
         // The native control shows the new state already, so the mirror is not told.
         auto &box = static_cast<Text_Box &>(control);
-        std::string text = Text_Box::Without_Line_Breaks(event.text);
+        std::string text = platform::Without_Line_Breaks(event.text);
         if (box.state_.caption == text)
             return;
         box.state_.caption = std::move(text);

@@ -31,7 +31,9 @@ public:
     void Resize(int width, int height);
 
     bool Visible() const { return model_.visible; }
-    /// Makes the native window at the first call.
+    /// Makes the native window, hidden, for who has to prepare it before it appears.
+    void Create();
+    /// Makes the native window, if there is none.
     void Show();
     void Hide();
     /// Takes the native window down; the form's state stays.
@@ -45,6 +47,9 @@ public:
     void Set_Focus(const Control &control);
     /// Clips the window to these rectangles (twips on the form); also a window that is made later.
     void Clip(std::vector<platform::Rect> rects);
+
+    /// Clips the window to a polygon (twips on the form) instead.
+    void Shape(std::vector<platform::Point> corners);
 
     /// The door of all user actions and messages to the form: hit-testing, capture and the rules of visible
     /// and enabled are here. An exception of a handler is told to the user in a message box and goes no
@@ -62,6 +67,8 @@ public:
     /// The native window is gone.
     std::function<void()> On_Window_Lost;
     std::function<void(bool has_focus)> On_Focus_Changed;
+    /// The release of the pressed mouse button will not come.
+    std::function<void()> On_Capture_Lost;
     std::function<void()> On_Dots_Changed;
 
 private:
@@ -69,6 +76,7 @@ private:
     void Register(Control &control);
     void Forget(const Control &control);
     void Tell(platform::Aspect aspect);
+    void Make_Window(bool visible);
     void Handle(const platform::Input_Event &event);
     void Handle_Mouse(const platform::Input_Event &event);
     void Press(Control *control, const platform::Input_Event &event);
@@ -79,5 +87,6 @@ private:
     Control *captured_ = nullptr; ///< takes the mouse from button down to up
     platform::Mouse_Button captured_by_ = platform::Mouse_Button::None;
     std::optional<std::vector<platform::Rect>> clip_; ///< nothing: not clipped
+    std::vector<platform::Point> shape_;              ///< empty: no polygon
     bool created_ = false;                            ///< there is a native window
 };

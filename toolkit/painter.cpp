@@ -2,7 +2,10 @@
 #include "toolkit/painter.h"
 
 #include <algorithm>
+#include <cmath>
+#include <numbers>
 #include <string_view>
+#include <vector>
 
 using platform::Canvas;
 using platform::Control_State;
@@ -12,7 +15,36 @@ namespace {
 
 constexpr int frame_thickness = 30; // twips: two pixels at 96 dots per inch
 
+/// The letter i on a disc of the control's colour that fills the box.
+void Paint_Information(Canvas &canvas, const Control_State &control) {
+    const Rect &box = control.bounds;
+    const int radius = std::min(box.width, box.height) / 2;
+    const int centre_x = box.left + box.width / 2;
+    const int centre_y = box.top + box.height / 2;
+    constexpr int corners = 40;
+    std::vector<platform::Point> disc;
+    for (int i = 0; i < corners; ++i) {
+        const double angle = i * 2 * std::numbers::pi / corners;
+        disc.push_back({centre_x + static_cast<int>(std::lround(radius * std::cos(angle))),
+                        centre_y + static_cast<int>(std::lround(radius * std::sin(angle)))});
+    }
+    platform::Fill_Polygon(canvas, disc, control.fore_colour);
+    // In eighths of the radius: the dot and the stem.
+    const auto fill = [&](int left, int top, int right, int bottom) {
+        const int x0 = centre_x + left * radius / 8;
+        const int x1 = centre_x + right * radius / 8;
+        const int y0 = centre_y + top * radius / 8;
+        const int y1 = centre_y + bottom * radius / 8;
+        platform::Fill_Polygon(canvas, {{x0, y0}, {x1, y0}, {x1, y1}, {x0, y1}},
+                               platform::Rgb(255, 255, 255));
+    };
+    fill(-1, -5, 1, -3);
+    fill(-1, -2, 1, 5);
+}
+
 void Paint_Glyph(Canvas &canvas, const Control_State &control) {
+    if (control.glyph == platform::Glyph::Information)
+        return Paint_Information(canvas, control);
     const Rect &box = control.bounds;
     // A triangle as high as two fifths of the box, and half as wide as high, around the box's centre.
     const int half_height = std::min(box.width, box.height) / 5;
@@ -54,8 +86,7 @@ void Paint_Caption(Canvas &canvas, const Control_State &control, const Rect &cli
 
 } // namespace
 
-void Paint_Form(const platform::Form_Model &model, Canvas &canvas, const Rect &clip) {
-    platform::Fill_Rect(canvas, clip, model.back_colour);
+void Paint_Controls(const platform::Form_Model &model, Canvas &canvas, const Rect &clip) {
     for (const Control_State *control : model.controls) {
         if (!control->visible || !control->bounds.Intersects(clip))
             continue;
@@ -63,9 +94,18 @@ void Paint_Form(const platform::Form_Model &model, Canvas &canvas, const Rect &c
             platform::Fill_Rect(canvas, control->bounds, control->back_colour);
         if (control->frame_colour != -1)
             platform::Frame_Rect(canvas, control->bounds, control->frame_colour, frame_thickness);
+        // In place of a frame, since there is no room inside of it, and in the colour of the caption, which
+        // stands out.
+        if (control->marked)
+            platform::Frame_Rect(canvas, control->bounds, control->fore_colour, frame_thickness);
         if (control->glyph != platform::Glyph::None)
             Paint_Glyph(canvas, *control);
         else
             Paint_Caption(canvas, *control, clip);
     }
+}
+
+void Paint_Form(const platform::Form_Model &model, Canvas &canvas, const Rect &clip) {
+    platform::Fill_Rect(canvas, clip, model.back_colour);
+    Paint_Controls(model, canvas, clip);
 }

@@ -3,5 +3,8 @@
 
 #include "platform/forms.h"
 
+/// Paints the visible controls of the form that lie in `clip` (twips on the form), and no background.
+void Paint_Controls(const platform::Form_Model &model, platform::Canvas &canvas, const platform::Rect &clip);
+
 /// Paints what of the form lies in `clip` (twips on the form).
 void Paint_Form(const platform::Form_Model &model, platform::Canvas &canvas, const platform::Rect &clip);

@@ -217,7 +217,7 @@ TEST_F(Lifecycle, keeps_its_place_when_the_work_area_changes_height) {
     Desktop().work_area = {0, 0, 1024, 768};
     Desktop().Advance(1000);
     EXPECT_EQ(bottom_of(28), 768 * 15 - 75);
-    Desktop().work_area.width = 1280;
+    Desktop().work_area = {0, 0, 1280, 1000};
     Desktop().Say(Broadcast::Display_Changed);
     EXPECT_EQ(form.Left() + form.Width(), 1280 * 15);
 
@@ -230,8 +230,8 @@ TEST_F(Lifecycle, keeps_its_place_when_the_work_area_changes_height) {
 TEST_F(Lifecycle, a_work_area_beyond_16_bits_is_told_once_and_the_calendar_goes_on) {
     Desktop().work_area.height = 2560;
     Fakes().Expect_Box(
-        "The height of the desktop's work area, 38400 twips, is beyond 32767: the calendar cannot "
-        "follow its changes.");
+        "The height of the desktop's work area, 38400 twips, is beyond the 32767 that are allowed for. The "
+        "calendar is placed all the same.");
     Start();
     Fakes().now.day = 6;
     Desktop().Advance(5000);

@@ -6,6 +6,7 @@
 #include "toolkit/form.h"
 
 #include <algorithm>
+#include <stdexcept>
 
 using platform::Input_Kind;
 using platform::Mouse_Button;
@@ -84,6 +85,8 @@ void Press_Key(Form &form, int key) {
 namespace platform {
 
 void Create_Mirror(Form_Model &model) {
+    if (Desktop().refuses_windows)
+        throw std::runtime_error("The window cannot be made");
     if (!Desktop().mirrors.try_emplace(&model).second)
         Fail("a second native window for " + model.name);
     Desktop().mirrors[&model].shown = model.visible;
@@ -104,7 +107,7 @@ void Form_Changed(Form_Model &model, Aspect aspect) {
     if (mirror == Desktop().mirrors.end())
         return Fail("a change without a native window");
     mirror->second.shown = model.visible;
-    if (model.visible && mirror->second.clip.empty())
+    if (model.visible && mirror->second.clip.empty() && mirror->second.shape.empty())
         mirror->second.shown_unclipped = true;
 }
 
@@ -121,6 +124,13 @@ void Clip_Window(Form_Model &model, const std::vector<Rect> &rects) {
     if (mirror == Desktop().mirrors.end())
         return Fail("a clip without a native window");
     mirror->second.clip = rects;
+}
+
+void Shape_Window(Form_Model &model, const std::vector<Point> &corners) {
+    const auto mirror = Desktop().mirrors.find(&model);
+    if (mirror == Desktop().mirrors.end())
+        return Fail("a shape without a native window");
+    mirror->second.shape = corners;
 }
 
 void Bring_To_Front(Form_Model &model) {
@@ -170,25 +180,42 @@ Rect Work_Area() {
     return Desktop().work_area;
 }
 
+Rect Work_Area_Around(Point) {
+    return Desktop().work_area;
+}
+
+bool Mouse_Button_Held() {
+    return Desktop().button_held;
+}
+
 Point Mouse_Position() {
     return Desktop().mouse;
 }
 
-int Track_Popup_Menu(Form_Model &, const std::vector<Menu_Item> &items, const Point *) {
+int Track_Popup_Menu(Form_Model &, const std::vector<Menu_Item> &items, const Point *at) {
+    Desktop().menu_at = at == nullptr ? std::nullopt : std::optional<Point>(*at);
+    if (Desktop().choose)
+        return Desktop().choose(items);
     std::vector<std::string> texts;
     std::string shown;
     for (const Menu_Item &item : items) {
-        texts.push_back(item.text);
-        shown += "[" + item.text + "]";
+        // A greyed item is told by brackets.
+        texts.push_back(item.enabled ? item.text : "(" + item.text + ")");
+        shown += "[" + texts.back() + "]";
     }
     auto &expected = Desktop().expected_menus;
     if (expected.empty() || expected.front().texts != texts) {
         Fail("an unexpected menu: " + shown);
         return 0;
     }
-    const int answer = expected.front().answer;
+    const Expected_Menu menu = expected.front();
     expected.pop_front();
-    return answer;
+    if (menu.meanwhile)
+        menu.meanwhile();
+    for (const Menu_Item &item : items)
+        if (item.id == menu.answer && !item.enabled)
+            Fail("a greyed item was chosen: " + item.text);
+    return menu.answer;
 }
 
 void Run_Message_Loop() {
@@ -203,6 +230,33 @@ void End_Message_Loop() {
 }
 
 void Process_Waiting_Messages() {
+    if (Desktop().messages.empty())
+        return;
+    const auto message = std::move(Desktop().messages.front());
+    Desktop().messages.pop_front();
+    message();
+}
+
+namespace {
+
+void Advance_Clock(unsigned milliseconds) {
+    Date_Time &now = Fakes().now;
+    const auto total = static_cast<int>(milliseconds) + now.millisecond +
+                       1000 * (now.second + 60 * (now.minute + 60 * now.hour));
+    now.millisecond = total % 1000;
+    now.second = total / 1000 % 60;
+    now.minute = total / 60'000 % 60;
+    now.hour = total / 3'600'000 % 24;
+    now.day += total / 86'400'000; // the tests keep away from the month's end
+}
+
+} // namespace
+
+void Wait_For_Messages(unsigned milliseconds) {
+    // Sleeping moves the clock on, in steps as messages would end it.
+    const unsigned step = std::min(milliseconds, 50U);
+    Advance_Clock(step);
+    Desktop().Advance(step);
 }
 
 Timer_Id Start_Timer(unsigned milliseconds, std::function<void()> tick) {
@@ -215,7 +269,7 @@ void Stop_Timer(Timer_Id id) {
     Desktop().timers.erase(id);
 }
 
-void Listen_To_Broadcasts(std::function<void(Broadcast)> listener) {
+void Listen_To_Broadcasts(std::function<bool(Broadcast)> listener) {
     Desktop().listener = std::move(listener);
 }
 

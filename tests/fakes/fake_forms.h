@@ -11,6 +11,7 @@
 #include <deque>
 #include <functional>
 #include <map>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -45,12 +46,14 @@ struct Fake_Mirror {
     bool shown = false; ///< as of the last thing told
     std::vector<platform::Rect> clip;
     bool shown_unclipped = false; ///< it was visible before it had a clip
+    std::vector<platform::Point> shape;
 };
 
 /// A popup menu that a test expects, in its turn.
 struct Expected_Menu {
-    std::vector<std::string> texts;
+    std::vector<std::string> texts; ///< greyed ones in brackets
     int answer = 0;
+    std::function<void()> meanwhile; ///< what happens while the menu is open, as timers go on then
 };
 
 struct Fake_Timer {
@@ -63,24 +66,30 @@ struct Fake_Desktop {
     int dots_per_inch = 96;
     platform::Rect work_area{0, 0, 1024, 740};
     platform::Point mouse;
+    bool button_held = false;
     bool first_instance = true;
-    int char_width = 100; ///< twips of every character
+    bool refuses_windows = false; ///< no form gets a native window
+    int char_width = 100;         ///< twips of every character
 
     std::map<const platform::Form_Model *, Fake_Mirror> mirrors;
     std::vector<Told_Change> told;
 
     std::map<platform::Timer_Id, Fake_Timer> timers;
     unsigned time = 0;
-    std::function<void(platform::Broadcast)> listener;
+    std::function<bool(platform::Broadcast)> listener;
     bool loop_ended = false;
     std::function<void()> in_the_loop; ///< what happens while the message loop runs
 
+    std::deque<std::function<void()>> messages; ///< processed one by one while the program waits
+
     std::deque<Expected_Menu> expected_menus;
-    int measured = 0; ///< calls of Text_Width
+    std::function<int(const std::vector<platform::Menu_Item> &)> choose; ///< answers all menus instead
+    std::optional<platform::Point> menu_at;                              ///< where the last menu was to open
+    int measured = 0;                                                    ///< calls of Text_Width
 
     /// Lets the time pass, with the timers' ticks in their order.
     void Advance(unsigned milliseconds);
-    void Say(platform::Broadcast broadcast) { listener(broadcast); }
+    bool Say(platform::Broadcast broadcast) { return listener(broadcast); }
 };
 
 /// The one faked desktop.

@@ -2,10 +2,14 @@
 #pragma once
 
 #include "tests/fakes/fake_forms.h"
+#include "tests/fakes/fake_shell.h"
 #include "tests/fakes/fake_test.h"
 
 class Form_Test : public Fake_Test {
 protected:
-    Form_Test() { Reset_Desktop(); }
+    Form_Test() {
+        Reset_Desktop();
+        Reset_Shell();
+    }
     ~Form_Test() override { EXPECT_TRUE(Desktop().expected_menus.empty()) << "an expected menu never came"; }
 };

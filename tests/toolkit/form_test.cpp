@@ -94,6 +94,14 @@ TEST_F(Toolkit_Form, the_mouse_goes_to_the_topmost_control_and_stays_with_it_unt
     form.Mouse(Input_Kind::Mouse_Move, 120, Mouse_Button::None);
     form.Mouse(Input_Kind::Mouse_Down, 120);
     EXPECT_EQ(form.Taken(), "Low down 20; High move 70; High down 70; ");
+
+    int lost = 0;
+    form.On_Capture_Lost = [&lost] { ++lost; };
+    form.Mouse(Input_Kind::Capture_Lost, 0);
+    form.Mouse(Input_Kind::Mouse_Move, 20);
+    form.Mouse(Input_Kind::Mouse_Up, 20);
+    EXPECT_EQ(form.Taken(), "Low move 20; ");
+    EXPECT_EQ(lost, 1);
 }
 
 TEST_F(Toolkit_Form, a_double_click_is_down_up_double_up) {
@@ -188,6 +196,17 @@ TEST_F(Toolkit_Form, a_lost_window_is_made_anew_by_the_next_show) {
     EXPECT_TRUE(lost);
     form.Show();
     EXPECT_TRUE(Desktop().mirrors.contains(&form.Model()));
+}
+
+TEST_F(Toolkit_Form, a_form_without_the_window_that_it_asked_for_is_as_before) {
+    Two_Labels form;
+    Desktop().refuses_windows = true;
+    EXPECT_THROW(form.Show(), std::runtime_error);
+    EXPECT_FALSE(form.Visible());
+    form.Set_Title("changed");
+    Desktop().refuses_windows = false;
+    form.Show();
+    EXPECT_TRUE(Desktop().mirrors.at(&form.Model()).shown);
 }
 
 TEST_F(Toolkit_Form, a_handler_may_end_its_own_form) {

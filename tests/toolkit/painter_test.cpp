@@ -66,6 +66,15 @@ TEST_F(Painter, parts_a_caption_into_lines_and_cuts_them_at_the_lower_edge) {
     EXPECT_EQ(centred.operations.at(1).align, platform::Text_Align::Centre);
 }
 
+TEST_F(Painter, marks_the_focus_over_the_frame_and_below_the_caption) {
+    form.A_Lbl.Set_Caption("a");
+    form.A_Lbl.Set_Frame_Colour(5);
+    form.A_Lbl.Set_Marked(true);
+    const auto canvas = Painted(form, {0, 0, 100, 100});
+    EXPECT_EQ(Shape(canvas), "fill @0; frame @0; frame @0; text a@0; ");
+    EXPECT_EQ(canvas.operations[3].colour, 2);
+}
+
 TEST_F(Painter, draws_an_arrow_instead_of_the_caption) {
     form.B_Lbl.Set_Caption("never seen");
     form.B_Lbl.Set_Glyph(platform::Glyph::Arrow_Left);

@@ -1,0 +1,79 @@
+// Compact mode: only the title is left of the calendar. The user goes in and out by double clicks on the
+// title; with the setting "Auto Compact" a minute without activity goes in, and the mouse over the title
+// comes out of that again.
+#include "calendar/main_frm.h"
+#include "core/settings.h"
+
+#include <string>
+
+void Main_Frm::Which_Month_Lbl_DblClick() {
+    if (Compacted)
+        Expand();
+    else
+        Compact();
+    Update_Mark();
+}
+
+void Main_Frm::Compact() {
+    Hide_Balloon();
+    // The timer's tick in compact mode would be taken for a double click and expand.
+    Compact_Timer.Set_Enabled(false);
+    for (int i = 0; i < box_count; ++i) {
+        Box_Lbl[i].Set_Visible(false);
+        Box_Caption_Lbl[i].Set_Visible(false);
+    }
+    for (Label &header : Day_Lbl)
+        header.Set_Visible(false);
+    Prev_Month_Lbl.Set_Visible(false);
+    Next_Month_Lbl.Set_Visible(false);
+    TransparentForm();
+    Compacted = true;
+}
+
+void Main_Frm::Expand() {
+    const std::string stamp = date_stamp_;
+    Box_Lbl[0].Set_Visible(true);
+    Box_Caption_Lbl[0].Set_Visible(true);
+    Hide_Misc_Boxes();
+    for (Label &header : Day_Lbl)
+        header.Set_Visible(true);
+    Prev_Month_Lbl.Set_Visible(true);
+    Next_Month_Lbl.Set_Visible(true);
+    TransparentForm();
+    Set_Day_Headers();
+    Setup_Boxes(Cur_Month, Cur_Year);
+    Load_Dates();
+    Set_Colours();
+    Mark_Today();
+    Compacted = false;
+    // The date may have changed under the alert of a new day, when the month was not to be drawn.
+    if (stamp != date_stamp_)
+        Redraw();
+    Restart_Countdown();
+}
+
+void Main_Frm::Compact_Timer_Timer() {
+    Compact_Timer.Set_Enabled(false);
+    const bool busy =
+        (Editor_Visible && Editor_Visible()) || (Settings_Visible && Settings_Visible()) || Balloon_Showing();
+    if (busy || Compacted)
+        return;
+    Timer_Compacted = true;
+    Which_Month_Lbl_DblClick();
+}
+
+void Main_Frm::Restart_Countdown() {
+    if (Compacted || Cur_Settings.Auto_Compact != 1)
+        return;
+    Compact_Timer.Set_Enabled(false);
+    Compact_Timer.Set_Enabled(true);
+}
+
+void Main_Frm::Caption_Moved() {
+    Restart_Countdown();
+    if (!Compacted || Cur_Settings.Auto_Compact != 1 || !Timer_Compacted)
+        return;
+    Which_Month_Lbl_DblClick();
+    Restart_Countdown();
+    Timer_Compacted = false;
+}

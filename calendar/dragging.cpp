@@ -1,0 +1,89 @@
+// Dragging the calendar by its title.
+#include "calendar/main_frm.h"
+#include "core/convert.h"
+#include "core/settings.h"
+#include "desktop/position.h"
+#include "platform/message_box.h"
+
+#include <string>
+
+using platform::Mouse_Button;
+using platform::Point;
+
+namespace {
+
+constexpr auto manual = static_cast<std::int16_t>(Position_Code::Manual);
+
+constexpr const char *manual_question =
+    "Manual Positioning is not selected. This means that next time the program is started or the month is "
+    "changed the program will revert back to the set position. Do you want to change the positioning mode to "
+    "manual positioning?";
+
+bool May_Drag() {
+    return Cur_Settings.Alignment == manual || Cur_Settings.Allow_Dragging != 0;
+}
+
+/// Whether the next placement would leave the calendar where it was dropped.
+bool Stays_Where_Dropped() {
+    return Cur_Settings.Alignment == manual && Cur_Settings.Use_Theme_Pos != 1;
+}
+
+} // namespace
+
+void Main_Frm::Begin_Drag(Mouse_Button button, Point mouse) {
+    if (button != Mouse_Button::Left || !May_Drag())
+        return;
+    Set_Pointer(platform::Pointer_Shape::Move);
+    drag_ = Drag{mouse, {Left(), Top()}};
+}
+
+void Main_Frm::Drag_Along(Mouse_Button held, Point mouse) {
+    if (held != Mouse_Button::Left) {
+        End_Drag(); // the release went elsewhere: into a message box that came in between
+        return;
+    }
+    if (!drag_ || !May_Drag())
+        return;
+    Move(Left() - (drag_->mouse.x - mouse.x), Top() - (drag_->mouse.y - mouse.y));
+}
+
+void Main_Frm::Drop(Mouse_Button button) {
+    const std::optional<Drag> drag = drag_;
+    if (button == Mouse_Button::Left)
+        End_Drag();
+    if (button == Mouse_Button::Right || !May_Drag())
+        return;
+    // On a wide screen the set position itself may be beyond the limit: then a click on the title, which
+    // moves nothing, is told of it once and not every time.
+    drop_guard_.Run([&] { Keep_Place(drag); });
+}
+
+void Main_Frm::End_Drag() {
+    drag_.reset();
+    Set_Pointer(platform::Pointer_Shape::Arrow);
+}
+
+void Main_Frm::Keep_Place(const std::optional<Drag> &drag) {
+    try {
+        const std::int16_t left = Fit_Int16(Left());
+        const std::int16_t top = Fit_Int16(Top());
+        Cur_Settings.Manual_PosX = left;
+        Cur_Settings.Manual_PosY = top;
+    } catch (const Conversion_Error &) {
+        throw Conversion_Error("The calendar's place on the screen, " + std::to_string(Left()) + " and " +
+                               std::to_string(Top()) +
+                               " twips, cannot be kept: it must lie between -32768 and 32767.");
+    }
+    Save_Setting("Manual_PosX");
+    Save_Setting("Manual_PosY");
+    // Only a move in both directions asks; a push along one edge is taken for a passing one.
+    if (!drag || Left() == drag->form.x || Top() == drag->form.y || Stays_Where_Dropped())
+        return;
+    if (platform::Message_Box(manual_question, "Vellatro", platform::Box_Icon::Question,
+                              platform::Box_Buttons::Yes_No) != platform::Box_Answer::Yes)
+        return;
+    Cur_Settings.Alignment = manual;
+    Cur_Settings.Use_Theme_Pos = 0;
+    Save_Setting("Alignment");
+    Save_Setting("Use Theme Pos");
+}

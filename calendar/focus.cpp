@@ -1,0 +1,165 @@
+// The keyboard's way over the days: a mark on one day box, which the arrow keys move and the other keys act
+// on. The mark is seen once the keyboard has been used for it, and while the window has the focus.
+#include "calendar/main_frm.h"
+
+#include <algorithm>
+
+using platform::Point;
+
+namespace {
+
+// Virtual key codes.
+constexpr int key_return = 13;
+constexpr int key_page_up = 33;
+constexpr int key_page_down = 34;
+constexpr int key_home = 36;
+constexpr int key_left = 37;
+constexpr int key_up = 38;
+constexpr int key_right = 39;
+constexpr int key_down = 40;
+constexpr int key_delete = 46;
+constexpr int key_menu = 93;
+constexpr int key_f10 = 121;
+
+} // namespace
+
+void Main_Frm::Form_KeyDown(const platform::Input_Event &event) {
+    // Keys come only to a window that has the focus.
+    has_focus_ = true;
+    if (event.alt || event.control_key)
+        return;
+    const bool menu = event.key == key_menu || (event.key == key_f10 && event.shift);
+    if (menu || event.key == key_return || event.key == key_delete) {
+        // These act when they come up, if they went down here: the key that closes a message box, or is held
+        // too long, does nothing to the days.
+        if (!event.repeated)
+            pending_key_ = event.key;
+    } else if (Day_Key(event.key)) {
+        Restart_Countdown();
+    }
+}
+
+bool Main_Frm::Day_Key(int key) {
+    switch (key) {
+    case key_left:
+        Move_Mark(-1);
+        return true;
+    case key_right:
+        Move_Mark(1);
+        return true;
+    case key_up:
+        Move_Mark(-days_a_week);
+        return true;
+    case key_down:
+        Move_Mark(days_a_week);
+        return true;
+    case key_page_up:
+        Previous_Month();
+        return true;
+    case key_page_down:
+        Next_Month();
+        return true;
+    case key_home: {
+        const Date today = Today();
+        mark_used_ = true;
+        mark_day_ = today.day;
+        Cur_Month = today.month;
+        Cur_Year = today.year;
+        Redraw();
+        return true;
+    }
+    default:
+        return false;
+    }
+}
+
+void Main_Frm::Act_On_Marked(int key) {
+    const bool menu = key == key_menu || key == key_f10;
+    if (Compacted) {
+        const Point below{Which_Month_Lbl.Left() + Which_Month_Lbl.Width() / 2,
+                          Which_Month_Lbl.Top() + Which_Month_Lbl.Height()};
+        if (menu)
+            Popup_Years(&below);
+        return;
+    }
+    // On a mark that was not seen before, only the menu opens: it is seen where, and harms nobody.
+    const bool seen_before = !Show_Mark();
+    const int box = Marked_Box();
+    if (menu) {
+        const Point middle{Box_Lbl[box].Left() + Box_Lbl[box].Width() / 2,
+                           Box_Lbl[box].Top() + Box_Lbl[box].Height() / 2};
+        Popup_Menu(box, &middle);
+    } else if (seen_before && key == key_return) {
+        Edit_Box(box);
+    } else if (seen_before && key == key_delete) {
+        Clear_Box(box);
+    }
+}
+
+/// Makes the mark seen; false when it was already.
+bool Main_Frm::Show_Mark() {
+    if (mark_used_)
+        return false;
+    mark_used_ = true;
+    if (mark_day_ == 0) {
+        const Date today = Today();
+        mark_day_ = today.month == Cur_Month && today.year == Cur_Year ? today.day : std::int16_t{1};
+    }
+    Update_Mark();
+    return true;
+}
+
+void Main_Frm::Move_Mark(int days) {
+    // The first key shows where the mark is before any key moves it.
+    if (Compacted || Show_Mark())
+        return;
+    const int length = DaysInMonth({Cur_Year, Cur_Month, 1});
+    const int day = mark_day_ + days;
+    if (day < 1) {
+        if (Cur_Month == 1 && Cur_Year <= first_year)
+            return;
+        const Date before = Cur_Month == 1 ? Date{static_cast<std::int16_t>(Cur_Year - 1), 12, 1}
+                                           : Date{Cur_Year, static_cast<std::int16_t>(Cur_Month - 1), 1};
+        mark_day_ = static_cast<std::int16_t>(day + DaysInMonth(before));
+        Previous_Month();
+    } else if (day > length) {
+        if (Cur_Month == 12 && Cur_Year >= last_year)
+            return;
+        mark_day_ = static_cast<std::int16_t>(day - length);
+        Next_Month();
+    } else {
+        mark_day_ = static_cast<std::int16_t>(day);
+        Update_Mark();
+    }
+}
+
+int Main_Frm::Marked_Box() {
+    return Start_Box(Cur_Month, Cur_Year) + mark_day_ - 1;
+}
+
+void Main_Frm::Take_Focus(bool has_focus) {
+    has_focus_ = has_focus;
+    pending_key_ = 0;
+    Update_Mark();
+}
+
+void Main_Frm::Update_Mark() {
+    if (mark_day_ == 0)
+        return;
+    // In a shorter month it is on the last day.
+    mark_day_ =
+        static_cast<std::int16_t>(std::min<std::int32_t>(mark_day_, DaysInMonth({Cur_Year, Cur_Month, 1})));
+    const int marked = Marked_Box();
+    for (int i = 0; i < box_count; ++i)
+        Box_Lbl[i].Set_Marked(mark_used_ && has_focus_ && !Compacted && i == marked);
+    if (!mark_used_)
+        return;
+    // Told to assistive technology only when it is another day.
+    std::optional<Date> focused;
+    if (!Compacted)
+        focused = Date_Of_Box(marked);
+    if (mark_told_ == focused)
+        return;
+    mark_told_ = focused;
+    Set_Focus(Compacted ? Which_Month_Lbl : Box_Lbl[marked]);
+}

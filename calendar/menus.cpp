@@ -1,0 +1,108 @@
+// The popup menus of a day, of the months and of the years. Timers go on while a menu is open, so what was
+// shown when it opened may not be shown any more when an item is chosen.
+#include "calendar/main_frm.h"
+#include "platform/menu.h"
+
+#include <array>
+
+using platform::Menu_Image;
+using platform::Menu_Item;
+using platform::Point;
+
+namespace {
+
+enum Day_Item { clear_item = 1, edit_item, settings_item, exit_item };
+
+constexpr std::array<const char *, 12> month_items{"Jan", "Feb", "Mar", "Apr", "May", "Jun",
+                                                   "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
+constexpr int years_around = 2;
+
+} // namespace
+
+bool Main_Frm::Still_Shown(std::int16_t month, std::int16_t year, int index) {
+    return month == Cur_Month && year == Cur_Year && !Compacted && Box_Lbl[index].Visible();
+}
+
+void Main_Frm::Popup_Menu(int index, const Point *at) {
+    const std::int16_t month = Cur_Month;
+    const std::int16_t year = Cur_Year;
+    if (!Still_Shown(month, year, index))
+        return;
+    const int start = Start_Box(month, year);
+    const int chosen = platform::Track_Popup_Menu(
+        Model(),
+        {{clear_item, "Clear", Menu_Image::Clear},
+         {edit_item, "Edit", Menu_Image::Edit},
+         {settings_item, "Settings", Menu_Image::Settings, Open_Settings != nullptr},
+         {exit_item, "Exit", Menu_Image::Exit}},
+        at);
+    // Another day may be in the box by now, which nobody meant.
+    const bool same_day = Still_Shown(month, year, index) && Start_Box(month, year) == start;
+    if (chosen == clear_item && same_day)
+        Clear_Box(index);
+    else if (chosen == edit_item && same_day)
+        Edit_Box(index);
+    else if (chosen == settings_item && Open_Settings)
+        Open_Settings();
+    else if (chosen == exit_item)
+        End_Program();
+}
+
+void Main_Frm::Clear_Box(int index) {
+    // A key of its own: an open editor keeps the day that it edits.
+    const std::string key = Date_Key(Date_Of_Box(index));
+    Events.Load_File();
+    Events.Check_For_Pre(key, "", false);
+    Box_Caption_Lbl[index].Set_Caption({});
+    Box_Caption_Lbl[index].Set_Tooltip({});
+    Box_Lbl[index].Set_Tooltip({});
+    Set_Event_Value(index, {});
+}
+
+void Main_Frm::Popup_Title_Menu(Point mouse) {
+    if (Compacted || mouse.x >= Which_Month_Lbl.Width() / 2)
+        Popup_Years();
+    else
+        Popup_Months();
+}
+
+void Main_Frm::Popup_Months(const Point *at) {
+    std::vector<Menu_Item> items;
+    for (const char *month : month_items) {
+        const int id = static_cast<int>(items.size()) + 1;
+        items.push_back({id, (id == Cur_Month ? "- " : "") + std::string(month)});
+    }
+    const int chosen = platform::Track_Popup_Menu(Model(), items, at);
+    if (chosen == 0)
+        return;
+    Cur_Month = static_cast<std::int16_t>(chosen);
+    Redraw();
+}
+
+void Main_Frm::Popup_Years(const Point *at) {
+    if (Compacted) {
+        if (platform::Track_Popup_Menu(Model(), {{1, "Expand"}}, at) != 0 && Compacted)
+            Which_Month_Lbl_DblClick();
+        return;
+    }
+    const int middle = Cur_Year;
+    std::vector<Menu_Item> items;
+    for (int position = 0; position <= 2 * years_around; ++position) {
+        const int year = middle + position - years_around;
+        if (position == years_around)
+            items.push_back({position + 1, "Current Month\\Year"});
+        else if (year >= first_year && year <= last_year)
+            items.push_back({position + 1, std::to_string(year)});
+    }
+    const int chosen = platform::Track_Popup_Menu(Model(), items, at);
+    if (chosen == 0)
+        return;
+    if (chosen == years_around + 1) {
+        const Date today = Today();
+        Cur_Month = today.month;
+        Cur_Year = today.year;
+    } else {
+        Cur_Year = static_cast<std::int16_t>(middle + chosen - 1 - years_around);
+    }
+    Redraw();
+}

@@ -1,0 +1,199 @@
+// What the event editor does, and where its controls are.
+#include "editor/edit_frm.h"
+
+#include "platform/message_box.h"
+#include "platform/screen.h"
+#include "toolkit/units.h"
+
+#include <algorithm>
+
+using platform::Box_Answer;
+using platform::Rect;
+
+namespace {
+
+// Distances as dialogs keep them, in twips: 15 are a pixel at 96 dots per inch.
+constexpr int margin = 11 * 15;
+constexpr int gap = 7 * 15;
+constexpr int small_gap = 4 * 15;
+constexpr int button_width = 75 * 15;
+constexpr int button_height = 23 * 15;
+constexpr int text_width = 370 * 15;
+constexpr int text_lines = 5; ///< room for 200 characters, also for wide ones
+constexpr int text_frame = 8 * 15;
+constexpr int check_mark = 26 * 15; ///< with its distances from the caption
+constexpr int title_bar = 40 * 15;  ///< with the frame, estimated
+
+/// Raises a flag for the length of a scope.
+class Raised {
+public:
+    explicit Raised(bool &flag) : flag_(flag) { flag_ = true; }
+    ~Raised() { flag_ = false; }
+    Raised(const Raised &) = delete;
+    Raised &operator=(const Raised &) = delete;
+
+private:
+    bool &flag_;
+};
+
+} // namespace
+
+Edit_Frm::Edit_Frm(Main_Frm &calendar)
+    : Form(platform::Form_Kind::Dialog, "Edit_Frm"), Date_Lbl(*this, "Date_Lbl"),
+      Message_Lbl(*this, "Message_Lbl"), Message_Txt(*this, "Message_Txt"),
+      Every_Year_Chk(*this, "Every_Year_Chk", "Every &year"), Ok_Btn(*this, "Ok_Btn", "OK"),
+      Cancel_Btn(*this, "Cancel_Btn", "Cancel"), Apply_Btn(*this, "Apply_Btn", "&Apply"),
+      calendar_(calendar) {
+    Set_Title("Edit event");
+    Message_Lbl.Set_Caption("&Event:");
+    Ok_Btn.Set_Default(true);
+    Cancel_Btn.Set_Cancel(true);
+    Apply_Btn.Set_Enabled(false);
+    Message_Txt.On_Change = [this] { Message_Txt_Change(); };
+    Ok_Btn.On_Click = [this] { Ok_Btn_Click(); };
+    Cancel_Btn.On_Click = [this] { Cancel_Btn_Click(); };
+    Apply_Btn.On_Click = [this] { Apply_Btn_Click(); };
+    On_Close = [this] { Form_Unload(); };
+    On_Window_Lost = [this] { Form_Unload(); };
+    On_Dots_Changed = [this] { Lay_Out(); };
+}
+
+void Edit_Frm::Edit_Box(int index) {
+    const Date day = calendar_.Date_Of_Box(index);
+    // While a question of the editor is open its answer goes first.
+    if (busy_ || day.day < 1 || day.day > DaysInMonth({day.year, day.month, 1}))
+        return;
+    if (!May_Leave())
+        return;
+    day_ = day;
+    // Only a new window starts afresh: an open one keeps the tick of its former day.
+    if (!Visible())
+        Every_Year_Chk.Set_Checked(false);
+    Fill();
+    Date_Lbl.Set_Caption(Full_Date(day_));
+    Apply_Btn.Set_Enabled(false);
+    Lay_Out();
+    Place_Near(calendar_.Box_Lbl[index]);
+    if (Visible())
+        return Stay();
+    Set_Focus(Message_Txt);
+    Show();
+}
+
+void Edit_Frm::Fill() {
+    const Raised raised(busy_);
+    Message_Txt.Set_Text({});
+    const Stored_Message message = calendar_.Events.Get_Message(Date_Key(day_));
+    if (message.every_year)
+        Every_Year_Chk.Set_Checked(true);
+    Message_Txt.Set_Text(message.text);
+}
+
+/// False: the editor stays on its day, by the user's will or because the text was refused.
+bool Edit_Frm::May_Leave() {
+    if (!Visible() || !Apply_Btn.Enabled())
+        return true;
+    Box_Answer answer{};
+    {
+        const Raised raised(busy_);
+        answer =
+            platform::Message_Box("Save changes for the " + Date_Lbl.Caption() + "?", "Desktop Wallpaper",
+                                  platform::Box_Icon::Question, platform::Box_Buttons::Yes_No_Cancel);
+    }
+    if (answer == Box_Answer::No || (answer == Box_Answer::Yes && Apply_Btn_Click()))
+        return true;
+    Stay();
+    return false;
+}
+
+bool Edit_Frm::Ask_Unsaved() {
+    if (busy_)
+        return false;
+    if (!May_Leave())
+        return false;
+    // Dropped text must not be offered once more, should something else keep the program from ending.
+    if (Visible() && Apply_Btn.Enabled())
+        Form_Unload();
+    return true;
+}
+
+/// The user goes on in the open editor.
+void Edit_Frm::Stay() {
+    platform::Bring_To_Front(Model());
+    Set_Focus(Message_Txt);
+}
+
+bool Edit_Frm::Check_Quotes() const {
+    return Message_Txt.Text().find('"') == std::string::npos;
+}
+
+bool Edit_Frm::Apply_Btn_Click() {
+    const Raised raised(busy_);
+    if (!Check_Quotes()) {
+        platform::Message_Box("Make sure you haven't used any quotation marks (\") in your entry.",
+                              "Vellatro", platform::Box_Icon::Exclamation);
+        return false;
+    }
+    const std::string text = Message_Txt.Text();
+    calendar_.Events.Load_File();
+    calendar_.Events.Check_For_Pre(Date_Key(day_), text, Every_Year_Chk.Checked());
+    calendar_.Show_Saved(day_, text);
+    Apply_Btn.Set_Enabled(false);
+    calendar_.Alert_Done = true;
+    Form_Unload();
+    return true;
+}
+
+void Edit_Frm::Ok_Btn_Click() {
+    Apply_Btn_Click();
+}
+
+void Edit_Frm::Cancel_Btn_Click() {
+    Form_Unload();
+}
+
+void Edit_Frm::Message_Txt_Change() {
+    Apply_Btn.Set_Enabled(true);
+}
+
+void Edit_Frm::Form_Unload() {
+    Close();
+    calendar_.Resume_Auto_Compact();
+}
+
+void Edit_Frm::Lay_Out() {
+    const int line = platform::Line_Height(Message_Txt.Font());
+    platform::Font bold = Message_Txt.Font();
+    bold.bold = true;
+    Date_Lbl.Set_Font(bold);
+
+    int top = margin;
+    const auto row = [&top](Control &control, int width, int height, int distance) {
+        control.Move({margin, top, width, height});
+        top += height + distance;
+    };
+    row(Date_Lbl, text_width, platform::Line_Height(bold), gap);
+    row(Message_Lbl, text_width, line, small_gap);
+    row(Message_Txt, text_width, text_lines * line + text_frame, gap);
+    row(Every_Year_Chk, platform::Text_Width("Every year", Every_Year_Chk.Font()) + check_mark,
+        std::max(line, 17 * 15), margin);
+    int left = margin + text_width;
+    for (Button *button : {&Apply_Btn, &Cancel_Btn, &Ok_Btn}) {
+        left -= button_width;
+        button->Move({left, top, button_width, button_height});
+        left -= gap;
+    }
+    Resize(2 * margin + text_width, top + button_height + margin);
+}
+
+/// Below the box, or above it where there is no room below. The platform keeps the window on the screen.
+void Edit_Frm::Place_Near(const Control &box) {
+    const Rect area = platform::Work_Area();
+    const int height = Height() + title_bar;
+    const int box_top = calendar_.Top() + box.Top();
+    const int below = calendar_.Top() + box.Bounds().Bottom() + gap;
+    const int above = box_top - gap - height;
+    const bool fits_below = below + height <= Pixels_To_Twips(area.Bottom());
+    const bool fits_above = above >= Pixels_To_Twips(area.top);
+    Move(calendar_.Left() + box.Left(), !fits_below && fits_above ? above : below);
+}

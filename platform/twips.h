@@ -1,0 +1,39 @@
+// The arithmetic between twips and pixels: 1440 twips are one inch. The dots per inch are the caller's.
+#pragma once
+
+#include <algorithm>
+#include <cstdint>
+
+namespace platform {
+
+constexpr int Twips_Per_Inch = 1440;
+
+/// `value` * `factor` / `divisor` to the nearest whole number; `factor` and `divisor` are positive. A half
+/// goes up, on both sides of zero, so that equal distances stay equal wherever they begin.
+inline int Scale_Nearest(int value, int factor, int divisor) {
+    const std::int64_t twice = 2 * static_cast<std::int64_t>(divisor);
+    const std::int64_t doubled = 2 * static_cast<std::int64_t>(value) * factor + divisor;
+    const std::int64_t quotient = doubled / twice - (doubled % twice < 0 ? 1 : 0);
+    return static_cast<int>(std::clamp<std::int64_t>(quotient, INT32_MIN, INT32_MAX));
+}
+
+/// The same rounded down.
+inline int Scale_Down(int value, int factor, int divisor) {
+    const std::int64_t product = static_cast<std::int64_t>(value) * factor;
+    return static_cast<int>(product / divisor - (product % divisor < 0 ? 1 : 0));
+}
+
+/// The same rounded up.
+inline int Scale_Up(int value, int factor, int divisor) {
+    return -Scale_Down(-value, factor, divisor);
+}
+
+/// To the nearest whole pixel and twip, at `dots` per inch.
+inline int Twips_To_Pixels(int twips, int dots) {
+    return Scale_Nearest(twips, dots, Twips_Per_Inch);
+}
+inline int Pixels_To_Twips(int pixels, int dots) {
+    return Scale_Nearest(pixels, Twips_Per_Inch, dots);
+}
+
+} // namespace platform

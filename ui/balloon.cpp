@@ -1,0 +1,120 @@
+// The balloon's contents and painting.
+#include "ui/balloon.h"
+
+#include "platform/screen.h"
+#include "toolkit/painter.h"
+#include "toolkit/units.h"
+#include "ui/wrap_text.h"
+
+#include <algorithm>
+#include <cmath>
+
+using platform::Point;
+using platform::Rect;
+
+namespace {
+
+constexpr int margin = 165;
+constexpr int icon_size = 270;
+constexpr int gap = 90;
+constexpr platform::Font title_font{90, true};
+constexpr platform::Font text_font{90, false};
+
+constexpr platform::Colour text_colour = platform::System_Colour(23);
+constexpr platform::Colour back_colour = platform::System_Colour(24);
+constexpr platform::Colour border_colour = platform::System_Colour(21);
+constexpr platform::Colour icon_colour = platform::Rgb(0x1F, 0x5F, 0xBF);
+
+Rect In_Twips(const Rect &pixels) {
+    return {Pixels_To_Twips(pixels.left), Pixels_To_Twips(pixels.top), Pixels_To_Twips(pixels.width),
+            Pixels_To_Twips(pixels.height)};
+}
+
+void Prepare(Label &label, const platform::Font &font) {
+    label.Set_Transparent(true);
+    label.Set_Font(font);
+    label.Set_Fore_Colour(text_colour);
+    platform::Access_State access;
+    access.role = platform::Access_Role::Text;
+    label.Set_Access(std::move(access));
+}
+
+} // namespace
+
+frmBalloon::frmBalloon()
+    : Form(platform::Form_Kind::Painted, "Balloon"), Icon_Lbl(*this, "Icon_Lbl"),
+      Title_Lbl(*this, "Title_Lbl"), Message_Lbl(*this, "Message_Lbl") {
+    Model().floating = true;
+    Set_Back_Colour(back_colour);
+    Icon_Lbl.Set_Transparent(true);
+    Icon_Lbl.Set_Fore_Colour(icon_colour);
+    Icon_Lbl.Set_Glyph(platform::Glyph::Information);
+    Prepare(Title_Lbl, title_font);
+    Title_Lbl.Set_Align(platform::Text_Align::Left, true);
+    Prepare(Message_Lbl, text_font);
+    Model().paint = [this](platform::Canvas &canvas, const Rect &clip) {
+        try {
+            Paint(canvas, clip);
+        } catch (...) {
+            // Want of memory: a message box would ask for the same painting again.
+        }
+    };
+}
+
+void frmBalloon::SetBalloon(const std::string &title, std::string_view text, std::string_view icon,
+                            std::string_view, int width, int height) {
+    const Point mouse = platform::Mouse_Position();
+    const Rect work = In_Twips(platform::Work_Area_Around(mouse));
+    const int line = std::max(platform::Line_Height(text_font), 1);
+    const int heading = std::max(icon_size, platform::Line_Height(title_font));
+    const int around = 2 * margin + heading + gap;
+    const auto most_lines = static_cast<std::size_t>(std::max((work.height - around) / line, 1));
+    const std::vector<std::string> lines = Wrap_Text(text, text_font, width - 2 * margin, most_lines);
+    std::string caption;
+    for (const std::string &each : lines)
+        caption += (caption.empty() ? "" : "\n") + each;
+    const int text_height = static_cast<int>(lines.size()) * line;
+    const platform::Size size{Snap(width), Snap(std::max(height - tail_length, around + text_height))};
+
+    place_ = Place_Balloon({Pixels_To_Twips(mouse.x), Pixels_To_Twips(mouse.y)}, work, size);
+    const Rect window = Window_Of(place_);
+    place_.tip = {place_.tip.x - window.left, place_.tip.y - window.top};
+    place_.body.left -= window.left;
+    place_.body.top -= window.top;
+
+    const Rect &body = place_.body;
+    const bool has_icon = icon == "i";
+    const int title_left = body.left + margin + (has_icon ? icon_size + gap : 0);
+    Set_Title(title);
+    Title_Lbl.Set_Caption(title);
+    Title_Lbl.Move({title_left, body.top + margin, body.Right() - margin - title_left, heading});
+    Icon_Lbl.Set_Visible(has_icon);
+    Icon_Lbl.Move({body.left + margin, body.top + margin + (heading - icon_size) / 2, icon_size, icon_size});
+    Message_Lbl.Set_Caption(std::move(caption));
+    Message_Lbl.Move(
+        {body.left + margin, body.top + margin + heading + gap, body.width - 2 * margin, text_height});
+    Move(window.left, window.top);
+    Resize(window.width, window.height);
+    Shape(Balloon_Outline(place_));
+}
+
+void frmBalloon::Paint(platform::Canvas &canvas, const Rect &clip) const {
+    platform::Fill_Rect(canvas, clip, back_colour);
+    // The border: a strip inside along each side of the outline, of one thickness also along a slanted tail.
+    const std::vector<Point> outline = Balloon_Outline(place_);
+    const double thickness = 1.4 * Pixels_To_Twips(1);
+    for (std::size_t i = 0; i < outline.size(); ++i) {
+        const Point from = outline[i];
+        const Point to = outline[(i + 1) % outline.size()];
+        const double across = to.x - from.x;
+        const double down = to.y - from.y;
+        const double length = std::sqrt(across * across + down * down);
+        if (length < 1)
+            continue;
+        const int x = static_cast<int>(std::lround(-down / length * thickness));
+        const int y = static_cast<int>(std::lround(across / length * thickness));
+        platform::Fill_Polygon(canvas, {from, to, {to.x + x, to.y + y}, {from.x + x, from.y + y}},
+                               border_colour);
+    }
+    Paint_Controls(Model(), canvas, clip);
+}

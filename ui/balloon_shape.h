@@ -1,0 +1,28 @@
+// Where a balloon stands beside the mouse, and its outline. Pure arithmetic in twips; painting is not here.
+#pragma once
+
+#include "platform/geometry.h"
+
+#include <vector>
+
+/// Where the balloon's body is, seen from the pointer. The tail points the other way.
+enum class Balloon_Side { Above, Below, Right, Left };
+
+struct Balloon_Place {
+    Balloon_Side side = Balloon_Side::Above;
+    platform::Rect body; ///< on the screen, whole inside of the work area when that is large enough
+    platform::Point tip; ///< of the tail, on the screen
+};
+
+/// Length of the tail between the body and its tip.
+constexpr int tail_length = 240;
+
+/// Places a body of this size beside the pointer: above it where there is room, else below, right or left of
+/// it. Where there is room on no side, the body covers the pointer.
+Balloon_Place Place_Balloon(platform::Point pointer, const platform::Rect &work_area, platform::Size body);
+
+/// The smallest rectangle that holds body and tip.
+platform::Rect Window_Of(const Balloon_Place &place);
+
+/// The outline of body and tail, clockwise, on the same plane as `place`.
+std::vector<platform::Point> Balloon_Outline(const Balloon_Place &place);

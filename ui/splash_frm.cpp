@@ -1,0 +1,83 @@
+// The splash window's look, place and life.
+#include "ui/splash_frm.h"
+
+#include "core/date.h"
+#include "platform/locale.h"
+
+namespace {
+
+constexpr platform::Colour deep_blue = platform::Rgb(31, 8, 128);
+constexpr platform::Colour violet = platform::Rgb(192, 192, 255);
+constexpr platform::Colour white = platform::Rgb(255, 255, 255);
+
+// Twips. Multiples of 60, four pixels at 96 dots per inch, are whole pixels at 120, 144 and 192 as well.
+constexpr int splash_width = 4800;
+constexpr int splash_height = 1440;
+constexpr platform::Rect ring_place{480, 180, 120, 120};
+constexpr int ring_distance = 480;
+constexpr platform::Rect leaf_head{300, 240, 960, 300};
+constexpr platform::Rect leaf_page{300, 540, 960, 660};
+constexpr platform::Rect name_place{1500, 180, 3180, 720};
+constexpr platform::Rect line_place{1500, 900, 3180, 300};
+
+constexpr platform::Font head_font{80, true};
+constexpr platform::Font page_font{220, true};
+constexpr platform::Font name_font{260, true};
+constexpr platform::Font line_font{90, false};
+
+void Dress(Label &label, const platform::Rect &place, platform::Colour back, platform::Colour fore,
+           const platform::Font &font, platform::Text_Align align) {
+    label.Move(place);
+    label.Set_Back_Colour(back);
+    label.Set_Fore_Colour(fore);
+    label.Set_Font(font);
+    label.Set_Align(align, true);
+}
+
+} // namespace
+
+Splash_Frm::Splash_Frm()
+    : Form(platform::Form_Kind::Painted, "Splash"), Frame_Lbl(*this, "Frame_Lbl"),
+      Ring_Lbl(*this, "Ring_Lbl"), Weekday_Lbl(*this, "Weekday_Lbl"), Day_Lbl(*this, "Day_Lbl"),
+      Name_Lbl(*this, "Name_Lbl"), Line_Lbl(*this, "Line_Lbl"), Start_Timer(1500) {
+    using platform::Text_Align;
+    Model().floating = true;
+    Set_Title("Vellatro");
+    Set_Back_Colour(deep_blue);
+    Resize(splash_width, splash_height);
+    Frame_Lbl.Move({0, 0, splash_width, splash_height});
+    Frame_Lbl.Set_Transparent(true);
+    Frame_Lbl.Set_Frame_Colour(violet);
+    Dress(Weekday_Lbl, leaf_head, violet, deep_blue, head_font, Text_Align::Centre);
+    Dress(Day_Lbl, leaf_page, white, deep_blue, page_font, Text_Align::Centre);
+    for (int i = 0; i < 2; ++i) {
+        platform::Rect place = ring_place;
+        place.left += i * ring_distance;
+        Ring_Lbl[i].Move(place);
+        Ring_Lbl[i].Set_Back_Colour(white);
+    }
+    Dress(Name_Lbl, name_place, deep_blue, white, name_font, Text_Align::Left);
+    Name_Lbl.Set_Caption("Vellatro");
+    platform::Access_State access;
+    access.role = platform::Access_Role::Text;
+    access.name = "Vellatro";
+    Name_Lbl.Set_Access(std::move(access));
+    Dress(Line_Lbl, line_place, deep_blue, violet, line_font, Text_Align::Left);
+    Line_Lbl.Set_Caption("Your month on the desktop");
+    Start_Timer.On_Timer = [this] { Start_Timer_Timer(); };
+}
+
+void Splash_Frm::Show_Over(const platform::Rect &calendar, int box_36_top) {
+    const Date today = Today();
+    Weekday_Lbl.Set_Caption(platform::Short_Weekday_Name(Weekday(today)));
+    Day_Lbl.Set_Caption(std::to_string(today.day));
+    // Not its middle: below the middle of the boxes by the splash's own height.
+    Move(calendar.left + (calendar.width - Width()) / 2, calendar.top + box_36_top / 2 + Height());
+    Start_Timer.Set_Enabled(true);
+    Show();
+}
+
+void Splash_Frm::Start_Timer_Timer() {
+    Start_Timer.Set_Enabled(false);
+    Close();
+}

@@ -1,0 +1,108 @@
+// Breaking a text into lines: each takes the longest beginning of the rest that fits.
+#include "ui/wrap_text.h"
+
+#include "platform/text.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr std::string_view more_sign = "...";
+
+/// No screen shows more than this.
+constexpr std::size_t longest_text = 16 * 1024;
+
+/// No line holds more bytes than this, so that a long word is not measured again and again in full.
+constexpr std::size_t longest_line = 512;
+
+class Line_Breaker {
+public:
+    Line_Breaker(const platform::Font &font, int width) : font_(font), width_(width) {}
+
+    bool Fits(std::string_view line) const { return platform::Text_Width(line, font_) <= width_; }
+
+    /// Length of the longest beginning that fits, in whole characters.
+    std::size_t Fitting(std::string_view word) const {
+        // Stepped back from behind the limit: where it lies inside of a character cannot be told from there.
+        constexpr std::size_t run_up = 64;
+        std::vector<std::size_t> ends;
+        for (std::size_t end = std::min(word.size(), longest_line + run_up); end > 0;
+             end = platform::Previous_Character(word, end))
+            ends.push_back(end);
+        const auto fitting = std::partition_point(ends.begin(), ends.end(), [&](std::size_t end) {
+            return end > longest_line || !Fits(word.substr(0, end));
+        });
+        return fitting == ends.end() ? 0 : *fitting;
+    }
+
+    /// Where a line of `rest`, which has no line breaks, ends: at a blank, or inside the first word. At least
+    /// one character is in it, be it wider than the line.
+    std::size_t Line_End(std::string_view rest) const {
+        if (rest.size() <= longest_line && Fits(rest))
+            return rest.size();
+        std::size_t end = 0;
+        for (std::size_t at = rest.find(' ');
+             at != std::string_view::npos && at <= longest_line && Fits(rest.substr(0, at));
+             at = rest.find(' ', at + 1))
+            end = at;
+        if (end == 0)
+            end = Fitting(rest);
+        if (end != 0)
+            return end;
+        for (end = 1; end < rest.size() && platform::Previous_Character(rest, end + 1) != end; ++end) {
+        }
+        return end;
+    }
+
+    /// Puts the sign for left-out text behind as much of the line as fits with it.
+    void Cut(std::string &line) const {
+        while (!line.empty() && !Fits(line + std::string(more_sign)))
+            line.resize(platform::Previous_Character(line, line.size()));
+        line.append(more_sign);
+    }
+
+private:
+    platform::Font font_;
+    int width_;
+};
+
+/// The text with "\n" for its line breaks and blanks for other control characters; none of them at its end.
+std::string With_Plain_Breaks(std::string_view text, bool &more) {
+    std::string plain;
+    more = text.size() > longest_text;
+    for (const char c : text.substr(0, longest_text)) {
+        const bool control = static_cast<unsigned char>(c) < ' ';
+        if (c == '\n' && plain.ends_with('\r'))
+            plain.pop_back();
+        plain += control && c != '\n' && c != '\r' ? ' ' : c;
+    }
+    std::replace(plain.begin(), plain.end(), '\r', '\n');
+    plain.erase(plain.find_last_not_of(" \n") + 1);
+    return plain;
+}
+
+} // namespace
+
+std::vector<std::string> Wrap_Text(std::string_view text, const platform::Font &font, int width,
+                                   std::size_t max_lines) {
+    bool more = false;
+    const std::string plain = With_Plain_Breaks(text, more);
+    const Line_Breaker breaker(font, width);
+    std::vector<std::string> lines;
+    std::string_view rest = plain;
+    while (!rest.empty() && lines.size() < max_lines) {
+        const std::string_view paragraph = rest.substr(0, rest.find('\n'));
+        const std::size_t end = breaker.Line_End(paragraph);
+        lines.emplace_back(paragraph.substr(0, end));
+        rest.remove_prefix(end);
+        if (end == paragraph.size()) {
+            rest.remove_prefix(rest.empty() ? 0 : 1); // the line break
+            continue;
+        }
+        while (rest.starts_with(' '))
+            rest.remove_prefix(1);
+    }
+    if ((more || !rest.empty()) && !lines.empty())
+        breaker.Cut(lines.back());
+    return lines;
+}

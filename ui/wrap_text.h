@@ -1,0 +1,14 @@
+// Breaking a text into lines of a given width. What a day box shows of a text is not here.
+#pragma once
+
+#include "platform/drawing.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// The lines of `text`, broken at blanks, and inside a word that is wider than a line. `width` is in twips.
+/// Line breaks of the text stay; other control characters are blanks. Of more than `max_lines` lines (1 or
+/// more) the last one ends with "..."; so does a text beyond 16 KB, which is not laid out any further.
+std::vector<std::string> Wrap_Text(std::string_view text, const platform::Font &font, int width,
+                                   std::size_t max_lines);
