@@ -4,6 +4,7 @@
 
 #include "win32/accessible_children.h"
 #include "win32/mirror.h"
+#include "win32/modal.h"
 #include "win32/painted_window.h"
 #include "win32/system_library.h"
 #include "win32/units.h"
@@ -13,6 +14,7 @@
 
 #include <algorithm>
 #include <new>
+#include <optional>
 
 namespace win32 {
 
@@ -48,10 +50,12 @@ HRESULT Give(const std::string &text, BSTR *out) {
     return *out == nullptr ? E_OUTOFMEMORY : S_OK;
 }
 
-/// Hands a number out.
-HRESULT Give(long number, VARIANT *out) {
+/// Hands a number out, if there is one.
+HRESULT Give(std::optional<long> number, VARIANT *out) {
+    if (!number)
+        return S_FALSE;
     out->vt = VT_I4;
-    out->lVal = number;
+    out->lVal = *number;
     return S_OK;
 }
 
@@ -72,7 +76,7 @@ long Role_Of(Access_Role role) {
 long State_Of(const Form_Model &form, const Control_State &control, bool window_has_focus) {
     if (!Is_Presented(control))
         return STATE_SYSTEM_INVISIBLE;
-    long state = control.enabled ? 0 : STATE_SYSTEM_UNAVAILABLE;
+    long state = control.enabled && Open_Modal_Boxes == 0 ? 0 : STATE_SYSTEM_UNAVAILABLE;
     if (control.access.current)
         state |= STATE_SYSTEM_SELECTED | STATE_SYSTEM_SELECTABLE;
     if (form.focused == control.index)
@@ -82,7 +86,9 @@ long State_Of(const Form_Model &form, const Control_State &control, bool window_
     return state;
 }
 
-class Accessible_Form final : public IAccessible {
+/// The client object of a form, and its own list of children: a client's proxy keeps the one that it has got
+/// first for all of its life, so the children are those of each call.
+class Accessible_Form final : public IAccessible, public IEnumVARIANT {
 public:
     explicit Accessible_Form(HWND window) : window_(window) {}
     Accessible_Form(const Accessible_Form &) = delete;
@@ -132,13 +138,15 @@ public:
     HRESULT STDMETHODCALLTYPE put_accName(VARIANT, BSTR) override { return DISP_E_MEMBERNOTFOUND; }
     HRESULT STDMETHODCALLTYPE put_accValue(VARIANT, BSTR) override { return DISP_E_MEMBERNOTFOUND; }
 
+    HRESULT STDMETHODCALLTYPE Next(ULONG wanted, VARIANT *children, ULONG *fetched) override;
+    HRESULT STDMETHODCALLTYPE Skip(ULONG count) override;
+    HRESULT STDMETHODCALLTYPE Reset() override;
+    HRESULT STDMETHODCALLTYPE Clone(IEnumVARIANT **copy) override;
+
 private:
     ~Accessible_Form() = default;
 
     Target Find(const VARIANT &child) const;
-    HRESULT No_Text(const VARIANT &child, BSTR *out) const;
-    /// The numbers of all children, in order; false when the form is gone.
-    bool Children(std::vector<long> &numbers) const;
 
     /// Runs a call's work; want of memory becomes its error code.
     template <typename Work>
@@ -150,29 +158,74 @@ private:
         }
     }
 
+    /// Hands out the text that `pick` has for a child.
+    template <typename Pick>
+    HRESULT Give_Text(const VARIANT &child, BSTR *out, const Pick &pick) const {
+        if (out == nullptr)
+            return E_POINTER;
+        *out = nullptr;
+        return Guarded([&]() -> HRESULT {
+            const Target target = Find(child);
+            return FAILED(target.error) ? target.error : Give(pick(target), out);
+        });
+    }
+    HRESULT No_Text(const VARIANT &child, BSTR *out) const {
+        return Give_Text(child, out, [](const Target &) { return std::string(); });
+    }
+
+    /// Hands out the number that `pick` has for a child.
+    template <typename Pick>
+    HRESULT Give_Number(const VARIANT &child, VARIANT *out, const Pick &pick) const {
+        if (out == nullptr)
+            return E_POINTER;
+        out->vt = VT_EMPTY;
+        const Target target = Find(child);
+        return FAILED(target.error) ? target.error : Give(pick(target), out);
+    }
+
+    /// Hands out the child, if any, that `pick` finds in the form.
+    template <typename Pick>
+    HRESULT Give_Child(VARIANT *out, const Pick &pick) const {
+        if (out == nullptr)
+            return E_POINTER;
+        out->vt = VT_EMPTY;
+        const Form_Model *form = Form_Of_Window(window_);
+        return form == nullptr ? CO_E_OBJNOTCONNECTED : Give(pick(*form), out);
+    }
+
+    /// Runs `work` with the numbers of all children, in order.
+    template <typename Work>
+    HRESULT With_Children(const Work &work) const {
+        return Guarded([&]() -> HRESULT {
+            const Form_Model *form = Form_Of_Window(window_);
+            if (form == nullptr)
+                return CO_E_OBJNOTCONNECTED;
+            std::vector<long> numbers;
+            for (const Control_State *control : form->controls) {
+                if (Is_Presented(*control))
+                    numbers.push_back(Child_Number(*control));
+            }
+            return work(numbers);
+        });
+    }
+
     ULONG owners_ = 1;
     HWND window_;
+    Child_Position position_;
 };
 
 HRESULT Accessible_Form::QueryInterface(REFIID id, void **object) {
     if (object == nullptr)
         return E_POINTER;
     *object = nullptr;
-    if (IsEqualIID(id, IID_IUnknown) || IsEqualIID(id, IID_IDispatch) ||
-        IsEqualIID(id, accessible_interface)) {
+    if (IsEqualIID(id, IID_IUnknown) || IsEqualIID(id, IID_IDispatch) || IsEqualIID(id, accessible_interface))
         *object = static_cast<IAccessible *>(this);
-        AddRef();
-        return S_OK;
-    }
-    if (!IsEqualIID(id, IID_IEnumVARIANT))
+    else if (IsEqualIID(id, IID_IEnumVARIANT))
+        *object = static_cast<IEnumVARIANT *>(this);
+    else
         return E_NOINTERFACE;
-    return Guarded([&] {
-        std::vector<long> numbers;
-        if (!Children(numbers))
-            return CO_E_OBJNOTCONNECTED;
-        *object = static_cast<IEnumVARIANT *>(new Child_List(std::move(numbers)));
-        return S_OK;
-    });
+    AddRef();
+    return S_OK;
 }
 
 ULONG Accessible_Form::Release() {
@@ -197,25 +250,6 @@ Target Accessible_Form::Find(const VARIANT &child) const {
     return {form, control, S_OK};
 }
 
-HRESULT Accessible_Form::No_Text(const VARIANT &child, BSTR *out) const {
-    if (out == nullptr)
-        return E_POINTER;
-    *out = nullptr;
-    const HRESULT error = Find(child).error;
-    return FAILED(error) ? error : S_FALSE;
-}
-
-bool Accessible_Form::Children(std::vector<long> &numbers) const {
-    const Form_Model *form = Form_Of_Window(window_);
-    if (form == nullptr)
-        return false;
-    for (const Control_State *control : form->controls) {
-        if (Is_Presented(*control))
-            numbers.push_back(Child_Number(*control));
-    }
-    return true;
-}
-
 HRESULT Accessible_Form::get_accParent(IDispatch **parent) {
     if (parent == nullptr)
         return E_POINTER;
@@ -232,11 +266,34 @@ HRESULT Accessible_Form::get_accChildCount(long *count) {
     if (count == nullptr)
         return E_POINTER;
     *count = 0;
-    return Guarded([&] {
-        std::vector<long> numbers;
-        if (!Children(numbers))
-            return CO_E_OBJNOTCONNECTED;
+    return With_Children([&](const std::vector<long> &numbers) {
         *count = static_cast<long>(numbers.size());
+        return S_OK;
+    });
+}
+
+HRESULT Accessible_Form::Next(ULONG wanted, VARIANT *children, ULONG *fetched) {
+    if (fetched != nullptr)
+        *fetched = 0;
+    return With_Children(
+        [&](const std::vector<long> &numbers) { return position_.Next(numbers, wanted, children, fetched); });
+}
+
+HRESULT Accessible_Form::Skip(ULONG count) {
+    return With_Children([&](const std::vector<long> &numbers) { return position_.Skip(numbers, count); });
+}
+
+HRESULT Accessible_Form::Reset() {
+    position_ = {};
+    return S_OK;
+}
+
+HRESULT Accessible_Form::Clone(IEnumVARIANT **copy) {
+    if (copy == nullptr)
+        return E_POINTER;
+    *copy = nullptr;
+    return With_Children([&](const std::vector<long> &numbers) {
+        *copy = new Child_List(numbers, position_);
         return S_OK;
     });
 }
@@ -251,94 +308,58 @@ HRESULT Accessible_Form::get_accChild(VARIANT child, IDispatch **object) {
 }
 
 HRESULT Accessible_Form::get_accName(VARIANT child, BSTR *name) {
-    if (name == nullptr)
-        return E_POINTER;
-    *name = nullptr;
-    return Guarded([&] {
-        const Target target = Find(child);
-        if (FAILED(target.error))
-            return target.error;
-        if (target.control == nullptr)
-            return Give(target.form->title, name);
-        const std::string &own = target.control->access.name;
-        return Give(own.empty() ? target.control->caption : own, name);
+    return Give_Text(child, name, [](const Target &target) {
+        return target.control == nullptr ? target.form->title : Access_Name(*target.control);
     });
 }
 
 HRESULT Accessible_Form::get_accValue(VARIANT child, BSTR *value) {
-    if (value == nullptr)
-        return E_POINTER;
-    *value = nullptr;
-    return Guarded([&] {
-        const Target target = Find(child);
-        if (FAILED(target.error))
-            return target.error;
-        return target.control == nullptr ? S_FALSE : Give(target.control->access.value, value);
+    return Give_Text(child, value, [](const Target &target) {
+        return target.control == nullptr ? std::string() : target.control->access.value;
+    });
+}
+
+HRESULT Accessible_Form::get_accDefaultAction(VARIANT child, BSTR *action) {
+    return Give_Text(child, action, [](const Target &target) {
+        return target.control == nullptr ? std::string() : target.control->access.default_action;
     });
 }
 
 HRESULT Accessible_Form::get_accRole(VARIANT child, VARIANT *role) {
-    if (role == nullptr)
-        return E_POINTER;
-    role->vt = VT_EMPTY;
-    const Target target = Find(child);
-    if (FAILED(target.error))
-        return target.error;
-    return Give(target.control == nullptr ? ROLE_SYSTEM_CLIENT : Role_Of(target.control->access.role), role);
+    return Give_Number(child, role, [](const Target &target) {
+        return target.control == nullptr ? ROLE_SYSTEM_CLIENT : Role_Of(target.control->access.role);
+    });
 }
 
 HRESULT Accessible_Form::get_accState(VARIANT child, VARIANT *state) {
-    if (state == nullptr)
-        return E_POINTER;
-    state->vt = VT_EMPTY;
-    const Target target = Find(child);
-    if (FAILED(target.error))
-        return target.error;
-    const bool focus = GetFocus() == window_;
-    if (target.control != nullptr)
-        return Give(State_Of(*target.form, *target.control, focus), state);
-    const long shown = IsWindowVisible(window_) ? 0 : STATE_SYSTEM_INVISIBLE;
-    return Give(shown | STATE_SYSTEM_FOCUSABLE | (focus ? STATE_SYSTEM_FOCUSED : 0), state);
+    return Give_Number(child, state, [this](const Target &target) {
+        const bool focus = GetFocus() == window_;
+        if (target.control != nullptr)
+            return State_Of(*target.form, *target.control, focus);
+        return (IsWindowVisible(window_) ? 0L : STATE_SYSTEM_INVISIBLE) |
+               (Open_Modal_Boxes > 0 ? STATE_SYSTEM_UNAVAILABLE : 0L) | STATE_SYSTEM_FOCUSABLE |
+               (focus ? STATE_SYSTEM_FOCUSED : 0L);
+    });
 }
 
 HRESULT Accessible_Form::get_accFocus(VARIANT *child) {
-    if (child == nullptr)
-        return E_POINTER;
-    child->vt = VT_EMPTY;
-    const Form_Model *form = Form_Of_Window(window_);
-    if (form == nullptr)
-        return CO_E_OBJNOTCONNECTED;
-    if (GetFocus() != window_)
-        return S_FALSE;
-    VARIANT number = {};
-    number.vt = VT_I4;
-    number.lVal = form->focused + 1;
-    return Give(Find(number).control != nullptr ? number.lVal : CHILDID_SELF, child);
+    return Give_Child(child, [this](const Form_Model &form) -> std::optional<long> {
+        if (GetFocus() != window_)
+            return std::nullopt;
+        VARIANT number = {};
+        number.vt = VT_I4;
+        number.lVal = form.focused + 1;
+        return Find(number).control != nullptr ? number.lVal : CHILDID_SELF;
+    });
 }
 
 HRESULT Accessible_Form::get_accSelection(VARIANT *children) {
-    if (children == nullptr)
-        return E_POINTER;
-    children->vt = VT_EMPTY;
-    const Form_Model *form = Form_Of_Window(window_);
-    if (form == nullptr)
-        return CO_E_OBJNOTCONNECTED;
-    for (const Control_State *control : form->controls) {
-        if (Is_Presented(*control) && control->access.current)
-            return Give(Child_Number(*control), children);
-    }
-    return S_FALSE;
-}
-
-HRESULT Accessible_Form::get_accDefaultAction(VARIANT child, BSTR *action) {
-    if (action == nullptr)
-        return E_POINTER;
-    *action = nullptr;
-    return Guarded([&] {
-        const Target target = Find(child);
-        if (FAILED(target.error))
-            return target.error;
-        return target.control == nullptr ? S_FALSE : Give(target.control->access.default_action, action);
+    return Give_Child(children, [](const Form_Model &form) -> std::optional<long> {
+        for (const Control_State *control : form.controls) {
+            if (Is_Presented(*control) && control->access.current)
+                return Child_Number(*control);
+        }
+        return std::nullopt;
     });
 }
 
@@ -367,18 +388,16 @@ HRESULT Accessible_Form::accNavigate(long direction, VARIANT start, VARIANT *end
     if (end == nullptr)
         return E_POINTER;
     end->vt = VT_EMPTY;
-    return Guarded([&]() -> HRESULT {
-        const Target target = Find(start);
-        std::vector<long> numbers;
-        if (FAILED(target.error) || !Children(numbers))
-            return FAILED(target.error) ? target.error : CO_E_OBJNOTCONNECTED;
-        const bool from_self = start.lVal == CHILDID_SELF;
-        if (from_self && direction == NAVDIR_FIRSTCHILD)
-            return numbers.empty() ? S_FALSE : Give(numbers.front(), end);
-        if (from_self && direction == NAVDIR_LASTCHILD)
-            return numbers.empty() ? S_FALSE : Give(numbers.back(), end);
-        if (from_self)
-            return S_FALSE;
+    return With_Children([&](const std::vector<long> &numbers) -> HRESULT {
+        const HRESULT error = Find(start).error;
+        if (FAILED(error))
+            return error;
+        if (start.lVal == CHILDID_SELF) {
+            const bool first = direction == NAVDIR_FIRSTCHILD;
+            if (numbers.empty() || (!first && direction != NAVDIR_LASTCHILD))
+                return S_FALSE;
+            return Give(first ? numbers.front() : numbers.back(), end);
+        }
         if (direction == NAVDIR_NEXT) {
             const auto next = std::upper_bound(numbers.begin(), numbers.end(), start.lVal);
             return next == numbers.end() ? S_FALSE : Give(*next, end);
@@ -392,25 +411,21 @@ HRESULT Accessible_Form::accNavigate(long direction, VARIANT start, VARIANT *end
 }
 
 HRESULT Accessible_Form::accHitTest(long x, long y, VARIANT *child) {
-    if (child == nullptr)
-        return E_POINTER;
-    child->vt = VT_EMPTY;
-    const Form_Model *form = Form_Of_Window(window_);
-    if (form == nullptr)
-        return CO_E_OBJNOTCONNECTED;
-    POINT point = {x, y};
-    ScreenToClient(window_, &point);
-    RECT all = {};
-    GetClientRect(window_, &all);
-    if (!PtInRect(&all, point))
-        return S_FALSE;
-    // The top-most first.
-    for (auto control = form->controls.rbegin(); control != form->controls.rend(); ++control) {
-        const RECT place = To_Pixels((*control)->bounds);
-        if (Is_Presented(**control) && PtInRect(&place, point))
-            return Give(Child_Number(**control), child);
-    }
-    return Give(CHILDID_SELF, child);
+    return Give_Child(child, [&](const Form_Model &form) -> std::optional<long> {
+        POINT point = {x, y};
+        ScreenToClient(window_, &point);
+        RECT all = {};
+        GetClientRect(window_, &all);
+        if (!PtInRect(&all, point))
+            return std::nullopt;
+        // The top-most first.
+        for (auto control = form.controls.rbegin(); control != form.controls.rend(); ++control) {
+            const RECT place = To_Pixels((*control)->bounds);
+            if (Is_Presented(**control) && PtInRect(&place, point))
+                return Child_Number(**control);
+        }
+        return CHILDID_SELF;
+    });
 }
 
 HRESULT Accessible_Form::accDoDefaultAction(VARIANT child) {
@@ -419,6 +434,8 @@ HRESULT Accessible_Form::accDoDefaultAction(VARIANT child) {
         return target.error;
     if (target.control == nullptr || target.control->access.default_action.empty())
         return DISP_E_MEMBERNOTFOUND;
+    if (Open_Modal_Boxes > 0)
+        return E_FAIL;
     // Later, because the action may show a dialog, and the caller would wait for its end.
     const auto index = static_cast<WPARAM>(target.control->index);
     return PostMessageW(window_, Default_Action_Message, index, 0) ? S_OK : E_FAIL;
@@ -442,7 +459,7 @@ LRESULT Answer_Get_Object(HWND window, WPARAM wparam, LPARAM lparam) {
     auto *object = new (std::nothrow) Accessible_Form(window);
     if (object == nullptr)
         return 0;
-    const LRESULT result = result_of_object(accessible_interface, wparam, object);
+    const LRESULT result = result_of_object(accessible_interface, wparam, static_cast<IAccessible *>(object));
     object->Release();
     return result;
 }

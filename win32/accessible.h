@@ -5,14 +5,33 @@
 #include "platform/forms.h"
 #include "win32/handles.h"
 
+#include <string>
+#include <vector>
+
 namespace win32 {
 
 /// The answer to WM_GETOBJECT of a painted form's window.
 LRESULT Answer_Get_Object(HWND window, WPARAM wparam, LPARAM lparam);
 
-/// Announces a change of a control, or of the control with the focus, to those that listen.
-void Tell_Change(HWND window, const platform::Control_State &control, platform::Aspect aspect);
+/// Announces the control with the focus to those that listen.
 void Tell_Focus(HWND window, const platform::Form_Model &model);
+
+/// What has been announced of a form's controls.
+class Announcements {
+public:
+    /// Announces what of the controls has appeared, gone, or another name or value since the call before.
+    /// The first call announces nothing.
+    void Update(HWND window, const platform::Form_Model &model);
+
+private:
+    /// Of the texts a fingerprint is enough to see a change.
+    struct Told {
+        bool presented;
+        std::size_t name;
+        std::size_t value;
+    };
+    std::vector<Told> told_;
+};
 
 /// A control's number among the children: its place in the control order, from 1. It never changes.
 inline long Child_Number(const platform::Control_State &control) {
@@ -21,5 +40,8 @@ inline long Child_Number(const platform::Control_State &control) {
 
 /// Whether the control is presented at all, and whether it can be seen now.
 bool Is_Presented(const platform::Control_State &control);
+
+/// Its name to assistive technology: without one of its own it is named by its caption.
+const std::string &Access_Name(const platform::Control_State &control);
 
 } // namespace win32

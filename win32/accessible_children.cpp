@@ -1,9 +1,35 @@
 // Stepping through a form's children.
 #include "win32/accessible_children.h"
 
+#include <algorithm>
 #include <new>
 
 namespace win32 {
+
+HRESULT Child_Position::Next(const std::vector<long> &numbers, ULONG wanted, VARIANT *children,
+                             ULONG *fetched) {
+    if (children == nullptr)
+        return E_POINTER;
+    ULONG given = 0;
+    auto next = std::upper_bound(numbers.begin(), numbers.end(), last);
+    for (; given < wanted && next != numbers.end(); ++given, ++next) {
+        children[given] = {};
+        children[given].vt = VT_I4;
+        children[given].lVal = last = *next;
+    }
+    if (fetched != nullptr)
+        *fetched = given;
+    return given == wanted ? S_OK : S_FALSE;
+}
+
+HRESULT Child_Position::Skip(const std::vector<long> &numbers, ULONG count) {
+    const auto next = std::upper_bound(numbers.begin(), numbers.end(), last);
+    const auto left = static_cast<ULONG>(numbers.end() - next);
+    const ULONG skipped = std::min(count, left);
+    if (skipped > 0)
+        last = next[static_cast<std::ptrdiff_t>(skipped) - 1];
+    return skipped == count ? S_OK : S_FALSE;
+}
 
 HRESULT Child_List::QueryInterface(REFIID id, void **object) {
     if (object == nullptr)
@@ -28,27 +54,15 @@ ULONG Child_List::Release() {
 }
 
 HRESULT Child_List::Next(ULONG wanted, VARIANT *children, ULONG *fetched) {
-    if (children == nullptr)
-        return E_POINTER;
-    ULONG given = 0;
-    for (; given < wanted && next_ < numbers_.size(); ++given, ++next_) {
-        children[given] = {};
-        children[given].vt = VT_I4;
-        children[given].lVal = numbers_[next_];
-    }
-    if (fetched != nullptr)
-        *fetched = given;
-    return given == wanted ? S_OK : S_FALSE;
+    return position_.Next(numbers_, wanted, children, fetched);
 }
 
 HRESULT Child_List::Skip(ULONG count) {
-    const std::size_t left = numbers_.size() - next_;
-    next_ += count < left ? count : left;
-    return count <= left ? S_OK : S_FALSE;
+    return position_.Skip(numbers_, count);
 }
 
 HRESULT Child_List::Reset() {
-    next_ = 0;
+    position_ = {};
     return S_OK;
 }
 
@@ -57,9 +71,7 @@ HRESULT Child_List::Clone(IEnumVARIANT **copy) {
         return E_POINTER;
     *copy = nullptr;
     try {
-        auto *list = new Child_List(numbers_);
-        list->next_ = next_;
-        *copy = list;
+        *copy = new Child_List(numbers_, position_);
         return S_OK;
     } catch (const std::bad_alloc &) {
         return E_OUTOFMEMORY;

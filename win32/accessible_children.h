@@ -1,4 +1,4 @@
-// The list of a form's children as assistive technology steps through it.
+// Stepping through a form's children, as assistive technology does it.
 #pragma once
 
 #include "win32/handles.h"
@@ -11,10 +11,20 @@
 
 namespace win32 {
 
-/// Steps through child numbers. It counts its owners and deletes itself after the last.
+/// A place among child numbers, which rise and may be others at the next step: behind the number `last`.
+struct Child_Position {
+    long last = 0;
+
+    /// As the procedures of IEnumVARIANT.
+    HRESULT Next(const std::vector<long> &numbers, ULONG wanted, VARIANT *children, ULONG *fetched);
+    HRESULT Skip(const std::vector<long> &numbers, ULONG count);
+};
+
+/// Steps through child numbers as they were. It counts its owners and deletes itself after the last.
 class Child_List final : public IEnumVARIANT {
 public:
-    explicit Child_List(std::vector<long> numbers) : numbers_(std::move(numbers)) {}
+    Child_List(std::vector<long> numbers, Child_Position position)
+        : position_(position), numbers_(std::move(numbers)) {}
     Child_List(const Child_List &) = delete;
     Child_List &operator=(const Child_List &) = delete;
 
@@ -31,7 +41,7 @@ private:
     ~Child_List() = default;
 
     ULONG owners_ = 1;
-    std::size_t next_ = 0;
+    Child_Position position_;
     std::vector<long> numbers_;
 };
 

@@ -1,35 +1,52 @@
 // Announcing changes of painted forms to assistive technology.
 #include "win32/accessible.h"
+#include "win32/system_library.h"
+
+#include <functional>
+#include <utility>
 
 namespace win32 {
 
-using platform::Aspect;
+namespace {
+
+void Announce(DWORD event, HWND window, long child) {
+    // Systems that cannot say whether somebody listens are told everything.
+    static const auto is_heard = Look_Up<BOOL WINAPI(DWORD)>(L"user32.dll", "IsWinEventHookInstalled");
+    if (is_heard == nullptr || is_heard(event))
+        NotifyWinEvent(event, window, OBJID_CLIENT, child);
+}
+
+} // namespace
 
 bool Is_Presented(const platform::Control_State &control) {
     return control.access.role != platform::Access_Role::None && control.visible;
 }
 
-void Tell_Change(HWND window, const platform::Control_State &control, Aspect aspect) {
-    if (control.access.role == platform::Access_Role::None)
-        return;
-    const long child = Child_Number(control);
-    switch (aspect) {
-    case Aspect::Visible:
-        NotifyWinEvent(control.visible ? EVENT_OBJECT_SHOW : EVENT_OBJECT_HIDE, window, OBJID_CLIENT, child);
-        break;
-    case Aspect::Access:
-        if (!control.visible)
-            break;
-        NotifyWinEvent(EVENT_OBJECT_NAMECHANGE, window, OBJID_CLIENT, child);
-        NotifyWinEvent(EVENT_OBJECT_VALUECHANGE, window, OBJID_CLIENT, child);
-        break;
-    case Aspect::Caption:
-        // A control without a name of its own is named by its caption.
-        if (control.visible && control.access.name.empty())
-            NotifyWinEvent(EVENT_OBJECT_NAMECHANGE, window, OBJID_CLIENT, child);
-        break;
-    default:
-        break;
+const std::string &Access_Name(const platform::Control_State &control) {
+    return control.access.name.empty() ? control.caption : control.access.name;
+}
+
+void Announcements::Update(HWND window, const platform::Form_Model &model) {
+    const bool first = told_.empty();
+    told_.resize(model.controls.size());
+    for (const platform::Control_State *control : model.controls) {
+        if (control->access.role == platform::Access_Role::None)
+            continue;
+        const std::hash<std::string> fingerprint;
+        const Told now = {control->visible, fingerprint(Access_Name(*control)),
+                          fingerprint(control->access.value)};
+        const Told before = std::exchange(told_[static_cast<std::size_t>(control->index)], now);
+        if (first)
+            continue;
+        const long child = Child_Number(*control);
+        if (now.presented != before.presented)
+            Announce(now.presented ? EVENT_OBJECT_SHOW : EVENT_OBJECT_HIDE, window, child);
+        if (!now.presented || !before.presented)
+            continue;
+        if (now.name != before.name)
+            Announce(EVENT_OBJECT_NAMECHANGE, window, child);
+        if (now.value != before.value)
+            Announce(EVENT_OBJECT_VALUECHANGE, window, child);
     }
 }
 
@@ -38,7 +55,7 @@ void Tell_Focus(HWND window, const platform::Form_Model &model) {
         return;
     const platform::Control_State &control = *model.controls[static_cast<std::size_t>(model.focused)];
     if (Is_Presented(control))
-        NotifyWinEvent(EVENT_OBJECT_FOCUS, window, OBJID_CLIENT, Child_Number(control));
+        Announce(EVENT_OBJECT_FOCUS, window, Child_Number(control));
 }
 
 } // namespace win32

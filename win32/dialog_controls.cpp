@@ -70,14 +70,12 @@ void Dialog_Window::Make_Control(const Control_State &control) {
     const RECT place = To_Pixels(control.bounds);
     const bool text_box = control.kind == Control_Kind::Text_Box;
     const auto id = static_cast<INT_PTR>(first_id + control.index);
-    native.window = CreateWindowExW(text_box ? WS_EX_CLIENTEDGE : 0, Class_Of(control.kind),
-                                    Native_Caption(control).c_str(),
-                                    WS_CHILD | Style_Of(control) | (control.visible ? WS_VISIBLE : 0U) |
-                                        (control.enabled ? 0U : WS_DISABLED),
-                                    place.left, place.top, place.right - place.left, place.bottom - place.top,
-                                    window_, reinterpret_cast<HMENU>(id), GetModuleHandleW(nullptr), nullptr);
-    if (native.window == nullptr)
-        return;
+    native.window = Made(CreateWindowExW(
+        text_box ? WS_EX_CLIENTEDGE : 0, Class_Of(control.kind), Native_Caption(control).c_str(),
+        WS_CHILD | Style_Of(control) | (control.visible ? WS_VISIBLE : 0U) |
+            (control.enabled ? 0U : WS_DISABLED),
+        place.left, place.top, place.right - place.left, place.bottom - place.top, window_,
+        reinterpret_cast<HMENU>(id), GetModuleHandleW(nullptr), nullptr));
     if (text_box)
         Make_Text_Box(native.window);
     if (control.checked)

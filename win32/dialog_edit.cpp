@@ -1,6 +1,8 @@
 // The ways of the native text box, by a window procedure before the system's own.
 #include "win32/dialog_edit.h"
 
+#include "platform/line_breaks.h"
+
 #include <algorithm>
 #include <string_view>
 
@@ -100,15 +102,8 @@ void Make_Text_Box(HWND edit) {
 }
 
 std::wstring Without_Breaks(std::wstring text) {
-    std::size_t end = 0;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        const bool pair = text[i] == L'\r' && i + 1 < text.size() && text[i + 1] == L'\n';
-        const bool blank = text[i] == L'\r' || text[i] == L'\n' || text[i] == L'\0';
-        text[end++] = blank ? L' ' : text[i];
-        i += pair ? 1 : 0;
-    }
-    text.resize(end);
-    return text;
+    std::replace(text.begin(), text.end(), L'\0', L' ');
+    return platform::Without_Line_Breaks(std::move(text));
 }
 
 std::wstring Window_Text(HWND window) {

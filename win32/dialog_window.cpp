@@ -34,10 +34,7 @@ RECT On_Screen(RECT place) {
 } // namespace
 
 void Dialog_Window::Create() {
-    window_ = Make_Dialog(L"Vellatro_" + To_Wide(Model()->name), Procedure);
-    if (window_ == nullptr)
-        return;
-    SetWindowLongPtrW(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+    Adopt(Make_Dialog(L"Vellatro_" + To_Wide(Model()->name), Procedure));
     SetWindowTextW(window_, To_Wide(Model()->title).c_str());
     natives_.resize(Model()->controls.size());
     for (const Control_State *control : Model()->controls)
@@ -46,22 +43,7 @@ void Dialog_Window::Create() {
 }
 
 LRESULT CALLBACK Dialog_Window::Procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
-    auto *mirror = reinterpret_cast<Dialog_Window *>(GetWindowLongPtrW(window, GWLP_USERDATA));
-    if (mirror == nullptr)
-        return DefDlgProcW(window, message, wparam, lparam);
-    try {
-        const std::shared_ptr<Mirror> keep = mirror->shared_from_this();
-        if (message == WM_NCDESTROY) {
-            SetWindowLongPtrW(window, GWLP_USERDATA, 0);
-            mirror->Window_Gone();
-            return DefDlgProcW(window, message, wparam, lparam);
-        }
-        if (mirror->Model() != nullptr)
-            return mirror->Handle(message, wparam, lparam);
-    } catch (...) {
-        // Only want of memory comes here. The system's code above cannot pass an exception on.
-    }
-    return DefDlgProcW(window, message, wparam, lparam);
+    return Receive(window, message, wparam, lparam, DefDlgProcW);
 }
 
 LRESULT Dialog_Window::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
@@ -118,8 +100,7 @@ void Dialog_Window::Form_Changed(Aspect aspect) {
 
 void Dialog_Window::Place() {
     const platform::Rect bounds = Model()->bounds;
-    const int dots = platform::Dots_Per_Inch();
-    const bool moved = bounds.left != placed_.left || bounds.top != placed_.top || placed_dots_ == 0;
+    const bool moved = bounds.left != placed_.left || bounds.top != placed_.top || !is_placed_;
     RECT outer = {0, 0, To_Pixels(bounds.width), To_Pixels(bounds.height)};
     AdjustWindowRectEx(&outer, static_cast<DWORD>(GetWindowLongW(window_, GWL_STYLE)), FALSE,
                        static_cast<DWORD>(GetWindowLongW(window_, GWL_EXSTYLE)));
@@ -143,7 +124,7 @@ void Dialog_Window::Place() {
                      place.bottom - place.top + higher, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
     }
     placed_ = bounds;
-    placed_dots_ = dots;
+    is_placed_ = true;
 }
 
 void Dialog_Window::Show_Or_Hide() {

@@ -27,7 +27,7 @@ private:
     };
 
     static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam);
-    LRESULT Handle(UINT message, WPARAM wparam, LPARAM lparam);
+    LRESULT Handle(UINT message, WPARAM wparam, LPARAM lparam) override;
     void Command(int id, int code);
     void Cancel();
     void Click(const platform::Control_State &control);
@@ -47,7 +47,7 @@ private:
 
     std::vector<Native> natives_;
     platform::Rect placed_; ///< the form's bounds when the window was placed last
-    int placed_dots_ = 0;
+    bool is_placed_ = false;
     bool updating_ = false; ///< the program changes a text, which is no user's doing
 };
 

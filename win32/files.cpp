@@ -39,10 +39,14 @@ private:
     UINT before_;
 };
 
-DWORD Attributes_Of(const std::string &path) {
-    const Quiet_Errors quiet;
+/// Takes the attributes of whatever bears the name. Gives an error code.
+DWORD Query(const std::string &path, DWORD &attributes) {
     const std::wstring wide = win32::Path_For_Call(path);
-    return wide.empty() ? INVALID_FILE_ATTRIBUTES : GetFileAttributesW(wide.c_str());
+    if (wide.empty())
+        return ERROR_INVALID_NAME;
+    const Quiet_Errors quiet;
+    attributes = GetFileAttributesW(wide.c_str());
+    return attributes == INVALID_FILE_ATTRIBUTES ? GetLastError() : DWORD{NO_ERROR};
 }
 
 /// Makes the string `size` bytes long; false when there is no memory for it.
@@ -138,12 +142,14 @@ std::string Program_Folder() {
 }
 
 bool File_Exists(const std::string &path) {
-    const DWORD attributes = Attributes_Of(path);
-    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
+    DWORD attributes = 0;
+    return Query(path, attributes) == NO_ERROR && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
 }
 
 bool Path_Exists(const std::string &path) {
-    return Attributes_Of(path) != INVALID_FILE_ATTRIBUTES;
+    DWORD attributes = 0;
+    const DWORD code = Query(path, attributes);
+    return code != ERROR_FILE_NOT_FOUND && code != ERROR_PATH_NOT_FOUND;
 }
 
 std::string Read_File(const std::string &path) {

@@ -5,7 +5,10 @@
 #include "win32/fonts.h"
 #include "win32/mirror.h"
 #include "win32/painted_window.h"
+#include "win32/system_error.h"
 #include "win32/units.h"
+
+#include <stdexcept>
 
 namespace win32 {
 
@@ -42,6 +45,35 @@ platform::Form_Model *Form_Of_Window(HWND window) {
 HWND Window_Of_Form(const platform::Form_Model &model) {
     const std::shared_ptr<Mirror> mirror = Find_Mirror(model);
     return mirror ? mirror->Window() : nullptr;
+}
+
+HWND Mirror::Made(HWND window) {
+    if (window == nullptr)
+        throw std::runtime_error("The window cannot be made: " + System_Error_Text(GetLastError()));
+    return window;
+}
+
+void Mirror::Adopt(HWND window) {
+    window_ = Made(window);
+    SetWindowLongPtrW(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+}
+
+LRESULT Mirror::Receive(HWND window, UINT message, WPARAM wparam, LPARAM lparam, WNDPROC usual) {
+    auto *mirror = reinterpret_cast<Mirror *>(GetWindowLongPtrW(window, GWLP_USERDATA));
+    if (mirror == nullptr)
+        return usual(window, message, wparam, lparam);
+    try {
+        const std::shared_ptr<Mirror> keep = mirror->shared_from_this();
+        if (message == WM_NCDESTROY) {
+            SetWindowLongPtrW(window, GWLP_USERDATA, 0);
+            mirror->Window_Gone();
+        } else if (mirror->Model() != nullptr) {
+            return mirror->Handle(message, wparam, lparam);
+        }
+    } catch (...) {
+        // Only want of memory comes here. The system's code above cannot pass an exception on.
+    }
+    return usual(window, message, wparam, lparam);
 }
 
 void Mirror::Destroy() {
@@ -91,7 +123,8 @@ void Find_Lost_Windows() {
 void Check_Scale(bool fonts_changed) {
     HWND calendar = nullptr;
     for (const std::shared_ptr<Mirror> &mirror : mirrors) {
-        if (calendar == nullptr && mirror->Model()->kind == platform::Form_Kind::Painted)
+        const platform::Form_Model &form = *mirror->Model();
+        if (calendar == nullptr && form.kind == platform::Form_Kind::Painted && !form.floating)
             calendar = mirror->Window();
     }
     if (fonts_changed)
@@ -118,9 +151,14 @@ void Create_Mirror(Form_Model &model) {
     else
         mirror = std::make_shared<win32::Dialog_Window>(model);
     win32::mirrors.push_back(mirror);
-    mirror->Create();
-    if (model.visible)
-        mirror->Form_Changed(Aspect::Visible);
+    try {
+        mirror->Create();
+        if (model.visible)
+            mirror->Form_Changed(Aspect::Visible);
+    } catch (...) {
+        mirror->Destroy();
+        throw;
+    }
 }
 
 void Destroy_Mirror(Form_Model &model) {
@@ -141,6 +179,11 @@ void Control_Changed(Form_Model &model, const Control_State &control, Aspect asp
 void Clip_Window(Form_Model &model, const std::vector<Rect> &rects) {
     if (const std::shared_ptr<win32::Mirror> mirror = win32::Find_Mirror(model))
         mirror->Clip(rects);
+}
+
+void Shape_Window(Form_Model &model, const std::vector<Point> &corners) {
+    if (const std::shared_ptr<win32::Mirror> mirror = win32::Find_Mirror(model))
+        mirror->Shape(corners);
 }
 
 void Bring_To_Front(Form_Model &model) {

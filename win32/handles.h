@@ -67,10 +67,6 @@ struct Menu_Kind : Null_Kind<HMENU> {
     static void Close(HMENU handle) { DestroyMenu(handle); }
 };
 
-struct Icon_Kind : Null_Kind<HICON> {
-    static void Close(HICON handle) { DestroyIcon(handle); }
-};
-
 struct Key_Kind : Null_Kind<HKEY> {
     static void Close(HKEY handle) { RegCloseKey(handle); }
 };
@@ -86,28 +82,15 @@ struct File_Kind {
     static void Close(HANDLE handle) { CloseHandle(handle); }
 };
 
-struct Find_Kind {
-    using Value = HANDLE;
-    static Value None() { return INVALID_HANDLE_VALUE; }
-    static void Close(HANDLE handle) { FindClose(handle); }
-};
-
-struct Library_Kind : Null_Kind<HMODULE> {
-    static void Close(HMODULE handle) { FreeLibrary(handle); }
-};
-
 using Unique_Font = Unique_Handle<Gdi_Kind<HFONT>>;
 using Unique_Brush = Unique_Handle<Gdi_Kind<HBRUSH>>;
 using Unique_Bitmap = Unique_Handle<Gdi_Kind<HBITMAP>>;
 using Unique_Region = Unique_Handle<Gdi_Kind<HRGN>>;
 using Unique_Memory_Dc = Unique_Handle<Memory_Dc_Kind>;
 using Unique_Menu = Unique_Handle<Menu_Kind>;
-using Unique_Icon = Unique_Handle<Icon_Kind>;
 using Unique_Key = Unique_Handle<Key_Kind>;
 using Unique_Kernel_Handle = Unique_Handle<Kernel_Kind>;
 using Unique_File = Unique_Handle<File_Kind>;
-using Unique_Find = Unique_Handle<Find_Kind>;
-using Unique_Library = Unique_Handle<Library_Kind>;
 
 /// A device context borrowed from a window, or from the screen with a null window.
 class Window_Dc {

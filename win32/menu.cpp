@@ -3,21 +3,12 @@
 
 #include "win32/menu_images.h"
 #include "win32/mirror.h"
-#include "win32/system_library.h"
 #include "win32/units.h"
 #include "win32/wide_text.h"
 
 namespace platform {
 
 namespace {
-
-/// Before Windows Vista menus draw bitmaps without regard to transparency, and so does Wine.
-bool Menus_Know_Transparency() {
-    OSVERSIONINFOW version = {};
-    version.dwOSVersionInfoSize = sizeof version;
-    const bool wine = win32::System_Function(L"ntdll.dll", "wine_get_version") != nullptr;
-    return !wine && GetVersionExW(&version) && version.dwMajorVersion >= 6;
-}
 
 /// The images take the place of the check marks, so that there is no empty column before them.
 void Share_Check_Column(HMENU menu) {
@@ -32,7 +23,8 @@ void Insert_Item(HMENU menu, UINT position, const Menu_Item &item, HBITMAP image
     std::wstring text = win32::To_Wide(item.text);
     MENUITEMINFOW info = {};
     info.cbSize = sizeof info;
-    info.fMask = MIIM_ID | MIIM_STRING | (image != nullptr ? MIIM_BITMAP : 0U);
+    info.fMask = MIIM_ID | MIIM_STRING | MIIM_STATE | (image != nullptr ? MIIM_BITMAP : 0U);
+    info.fState = item.enabled ? MFS_ENABLED : MFS_GRAYED;
     info.wID = static_cast<UINT>(item.id);
     info.dwTypeData = text.data();
     info.hbmpItem = image;
@@ -49,9 +41,8 @@ int Track_Popup_Menu(Form_Model &owner, const std::vector<Menu_Item> &items, con
     if (window == nullptr || !menu)
         return 0;
     Share_Check_Column(menu.Get());
-    const bool opaque = !Menus_Know_Transparency();
     for (const Menu_Item &item : items) {
-        images.push_back(win32::Draw_Menu_Image(item.image, opaque));
+        images.push_back(win32::Draw_Menu_Image(item.image));
         Insert_Item(menu.Get(), static_cast<UINT>(images.size() - 1), item, images.back().Get());
     }
     POINT place = {};

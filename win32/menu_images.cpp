@@ -100,7 +100,7 @@ void Draw_Exit(const Field &field) {
 
 } // namespace
 
-Unique_Bitmap Draw_Menu_Image(Menu_Image image, bool opaque) {
+Unique_Bitmap Draw_Menu_Image(Menu_Image image) {
     if (image == Menu_Image::None)
         return {};
     const int size = Scale_Nearest(16, platform::Dots_Per_Inch(), 96);
@@ -109,8 +109,7 @@ Unique_Bitmap Draw_Menu_Image(Menu_Image image, bool opaque) {
     if (!bitmap)
         return {};
     const Field field(pixels);
-    if (opaque)
-        field.Fill({{0, 0}, {16, 0}, {16, 16}, {0, 16}}, Pixel_Colour(platform::System_Colour(COLOR_MENU)));
+    field.Fill({{0, 0}, {16, 0}, {16, 16}, {0, 16}}, Pixel_Colour(platform::System_Colour(COLOR_MENU)));
     if (image == Menu_Image::Clear)
         Draw_Clear(field);
     else if (image == Menu_Image::Edit)

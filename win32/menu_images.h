@@ -6,8 +6,8 @@
 
 namespace win32 {
 
-/// A new 32-bit bitmap of the picture with smooth edges; null for Menu_Image::None. `opaque` puts it on the
-/// menu's colour, for systems whose menus know no transparency.
-Unique_Bitmap Draw_Menu_Image(platform::Menu_Image image, bool opaque);
+/// A new 32-bit bitmap of the picture with smooth edges; null for Menu_Image::None. It lies on the menu's
+/// colour, since not all systems' menus know transparency.
+Unique_Bitmap Draw_Menu_Image(platform::Menu_Image image);
 
 } // namespace win32

@@ -77,6 +77,23 @@ private:
     std::vector<HWND> windows_;
 };
 
+/// Gives the keyboard back at the end of a scope to a window that had it, if there is one.
+class Returned_Focus {
+public:
+    explicit Returned_Focus(HWND window) : window_(window) {}
+    ~Returned_Focus() {
+        if (window_ == nullptr || !IsWindow(window_))
+            return;
+        SetForegroundWindow(window_);
+        SetFocus(window_);
+    }
+    Returned_Focus(const Returned_Focus &) = delete;
+    Returned_Focus &operator=(const Returned_Focus &) = delete;
+
+private:
+    HWND window_;
+};
+
 /// The system answers nothing when it has no memory for the box: then what changes least is the answer.
 Box_Answer Answer_Of(int id, Box_Buttons buttons) {
     switch (id) {
@@ -101,6 +118,8 @@ Box_Answer Message_Box(const std::string &text, const std::string &title, Box_Ic
     const std::wstring wide_text = Showable(text, Longest_Text);
     const std::wstring wide_title = Showable(title, Longest_Title);
     const HWND owner = Active_Dialog();
+    // The system returns the keyboard to an owner alone.
+    const Returned_Focus focus(owner == nullptr ? GetFocus() : nullptr);
     const win32::Modal_Scope modal;
     const Locked_Windows locked(owner);
     return Answer_Of(MessageBoxW(owner, wide_text.c_str(), wide_title.c_str(), Style_Of(icon, buttons)),

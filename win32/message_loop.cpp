@@ -17,13 +17,13 @@ struct Timer {
 
 std::vector<Timer> timers;
 platform::Timer_Id last_timer = 0;
-std::function<void(platform::Broadcast)> listener;
+std::function<bool(platform::Broadcast)> listener;
 HWND broadcasts = nullptr;
 
-void Tell(platform::Broadcast broadcast) {
+/// The listener's answer.
+bool Tell(platform::Broadcast broadcast) {
     const auto now = listener;
-    if (now)
-        now(broadcast);
+    return !now || now(broadcast);
 }
 
 void Tick(platform::Timer_Id id) {
@@ -38,6 +38,11 @@ void Tick(platform::Timer_Id id) {
     tick();
 }
 
+bool Concerns_Fonts(WPARAM setting) {
+    return setting == SPI_SETNONCLIENTMETRICS || setting == SPI_SETFONTSMOOTHING ||
+           setting == SPI_SETFONTSMOOTHINGTYPE;
+}
+
 /// Does what a message means to the program. Returns whether it was one of those.
 bool Heard(UINT message, WPARAM wparam) {
     switch (message) {
@@ -45,9 +50,13 @@ bool Heard(UINT message, WPARAM wparam) {
         Tick(wparam);
         return true;
     case WM_SETTINGCHANGE:
-        win32::Check_Scale(wparam == SPI_SETNONCLIENTMETRICS || wparam == SPI_SETFONTSMOOTHING ||
-                           wparam == SPI_SETFONTSMOOTHINGTYPE);
-        Tell(platform::Broadcast::Settings_Changed);
+        // Fonts are no other setting besides: of them all forms hear, which then lay themselves out once.
+        if (Concerns_Fonts(wparam)) {
+            win32::Check_Scale(true);
+        } else {
+            win32::Check_Scale(false);
+            Tell(platform::Broadcast::Settings_Changed);
+        }
         return true;
     case WM_TIMECHANGE:
         Tell(platform::Broadcast::Time_Changed);
@@ -60,10 +69,6 @@ bool Heard(UINT message, WPARAM wparam) {
     case WM_THEMECHANGED:
         Tell(platform::Broadcast::Colours_Changed);
         return true;
-    case WM_ENDSESSION:
-        if (wparam != FALSE)
-            Tell(platform::Broadcast::Session_Ends);
-        return true;
     default:
         return false;
     }
@@ -71,11 +76,14 @@ bool Heard(UINT message, WPARAM wparam) {
 
 LRESULT CALLBACK Broadcast_Procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
     try {
+        // The end itself, WM_ENDSESSION, leaves no time for a question: whoever agrees has to be done here.
+        if (message == WM_QUERYENDSESSION)
+            return Tell(platform::Broadcast::Session_Ends) ? TRUE : FALSE;
         if (Heard(message, wparam))
             return 0;
     } catch (...) {
         // Only want of memory comes here. The system's code above cannot pass an exception on.
-        return 0;
+        return message == WM_QUERYENDSESSION ? TRUE : 0;
     }
     return DefWindowProcW(window, message, wparam, lparam);
 }
@@ -131,6 +139,10 @@ void Process_Waiting_Messages() {
     }
 }
 
+void Wait_For_Messages(unsigned milliseconds) {
+    MsgWaitForMultipleObjects(0, nullptr, FALSE, milliseconds, QS_ALLINPUT);
+}
+
 Timer_Id Start_Timer(unsigned milliseconds, std::function<void()> tick) {
     const Timer_Id id = ++last_timer;
     timers.push_back({id, std::move(tick)});
@@ -146,9 +158,10 @@ void Stop_Timer(Timer_Id id) {
         KillTimer(Broadcast_Window(), id);
 }
 
-void Listen_To_Broadcasts(std::function<void(Broadcast)> heard) {
+void Listen_To_Broadcasts(std::function<bool(Broadcast)> heard) {
     listener = std::move(heard);
-    Broadcast_Window();
+    if (listener)
+        Broadcast_Window();
 }
 
 bool Claim_Single_Instance(const std::string &name) {

@@ -21,12 +21,13 @@ public:
     platform::Form_Model *Model() const { return model_; }
     HWND Window() const { return window_; }
 
-    /// Makes the window with what it shows. Called once.
+    /// Makes the window with what it shows. Called once. Throws std::runtime_error when the system refuses.
     virtual void Create() = 0;
     virtual void Form_Changed(platform::Aspect aspect) = 0;
     virtual void Control_Changed(const platform::Control_State &control, platform::Aspect aspect,
                                  const platform::Rect &before) = 0;
     virtual void Clip(const std::vector<platform::Rect> &) {}
+    virtual void Shape(const std::vector<platform::Point> &) {}
     virtual void Bring_To_Front() = 0;
     /// The dots per inch or the system's fonts changed.
     virtual void Scale_Changed() = 0;
@@ -38,8 +39,16 @@ public:
     void Send(platform::Input_Kind kind);
 
 protected:
+    /// A window that the system has just been asked for. Throws std::runtime_error when there is none.
+    static HWND Made(HWND window);
+    /// Takes a window that has just been made as this mirror's; from then on its messages arrive.
+    void Adopt(HWND window);
+    /// What the window procedures do: gives the messages of adopted windows to their mirrors, and all others
+    /// to the `usual` procedure.
+    static LRESULT Receive(HWND window, UINT message, WPARAM wparam, LPARAM lparam, WNDPROC usual);
+    virtual LRESULT Handle(UINT message, WPARAM wparam, LPARAM lparam) = 0;
     /// The window is gone, whoever took it down: tells the form, unless Destroy did it.
-    void Window_Gone();
+    virtual void Window_Gone();
     HWND window_ = nullptr;
 
 private:

@@ -4,6 +4,8 @@
 #include "win32/painted_window.h"
 #include "win32/units.h"
 
+#include <utility>
+
 namespace win32 {
 
 using platform::Input_Event;
@@ -68,7 +70,9 @@ bool Painted_Window::Handle_Input(UINT message, WPARAM wparam, LPARAM lparam, LR
         return modal || Handle_Key(message, wparam, lparam);
     switch (message) {
     case WM_CAPTURECHANGED:
-        held_buttons_ = 0;
+        // Our own giving it back comes when no button is held any more.
+        if (std::exchange(held_buttons_, 0U) != 0)
+            Send(Input_Kind::Capture_Lost);
         return true;
     case WM_CONTEXTMENU:
         // The mouse's comes as its button; a parent of another process must not see either. Asked for by
@@ -139,7 +143,7 @@ bool Painted_Window::Handle_Mouse(UINT message, WPARAM wparam, LPARAM lparam) {
 void Painted_Window::Button_Down(Mouse_Button button, Input_Event event) {
     held_buttons_ |= Bit(button);
     SetCapture(window_);
-    if (GetFocus() != window_)
+    if (!Model()->floating && GetFocus() != window_)
         SetFocus(window_);
     event.button = button;
     Send(event);
@@ -165,7 +169,7 @@ void Painted_Window::Mouse_Moved(Input_Event event, WPARAM held) {
     Send(event);
 }
 
-bool Painted_Window::Handle_Key(UINT message, WPARAM wparam, LPARAM) {
+bool Painted_Window::Handle_Key(UINT message, WPARAM wparam, LPARAM lparam) {
     // System keys are not passed on either: inside the shell's window they would close the shell.
     if (message == WM_SYSCHAR)
         return true;
@@ -176,6 +180,7 @@ bool Painted_Window::Handle_Key(UINT message, WPARAM wparam, LPARAM) {
     }
     Input_Event event = Event_Of(down ? Input_Kind::Key_Down : Input_Kind::Key_Up);
     event.key = static_cast<int>(wparam);
+    event.repeated = down && (HIWORD(lparam) & KF_REPEAT) != 0;
     Send(event);
     return true;
 }

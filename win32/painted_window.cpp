@@ -3,6 +3,7 @@
 
 #include "win32/accessible.h"
 #include "win32/canvas.h"
+#include "win32/modal.h"
 #include "win32/units.h"
 #include "win32/wide_text.h"
 
@@ -42,47 +43,31 @@ void Painted_Window::Create() {
         RegisterClassExW(&window_class);
     }
     const RECT place = To_Pixels(Model()->bounds);
-    window_ =
-        CreateWindowExW(WS_EX_TOOLWINDOW, class_name.c_str(), To_Wide(Model()->title).c_str(),
-                        WS_POPUP | WS_CLIPSIBLINGS | WS_CLIPCHILDREN, place.left, place.top,
-                        place.right - place.left, place.bottom - place.top, nullptr, nullptr, instance, this);
-    if (window_ == nullptr)
-        return;
-    Texts_Of_Tooltips_Changed();
+    Adopt(CreateWindowExW(WS_EX_TOOLWINDOW, class_name.c_str(), To_Wide(Model()->title).c_str(),
+                          WS_POPUP | WS_CLIPSIBLINGS | WS_CLIPCHILDREN, place.left, place.top,
+                          place.right - place.left, place.bottom - place.top, nullptr, nullptr, instance,
+                          nullptr));
+    Texts_Changed();
     // The window may lie on a screen with a scale of its own; the form hears of it once it is made.
     PostMessageW(window_, Check_Dots_Message, 0, 0);
 }
 
 LRESULT CALLBACK Painted_Window::Procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
-    if (message == WM_NCCREATE) {
-        const auto *create = reinterpret_cast<const CREATESTRUCTW *>(lparam);
-        auto *mirror = static_cast<Painted_Window *>(create->lpCreateParams);
-        mirror->window_ = window;
-        SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(mirror));
-    }
-    auto *mirror = reinterpret_cast<Painted_Window *>(GetWindowLongPtrW(window, GWLP_USERDATA));
-    if (mirror == nullptr)
-        return DefWindowProcW(window, message, wparam, lparam);
-    try {
-        const std::shared_ptr<Mirror> keep = mirror->shared_from_this();
-        if (message == WM_NCDESTROY) {
-            SetWindowLongPtrW(window, GWLP_USERDATA, 0);
-            mirror->tooltips_.Window_Gone();
-            mirror->Window_Gone();
-            return DefWindowProcW(window, message, wparam, lparam);
-        }
-        if (mirror->Model() != nullptr)
-            return mirror->Handle(message, wparam, lparam);
-    } catch (...) {
-        // Only want of memory comes here. The system's code above cannot pass an exception on.
-    }
-    return DefWindowProcW(window, message, wparam, lparam);
+    return Receive(window, message, wparam, lparam, DefWindowProcW);
+}
+
+void Painted_Window::Window_Gone() {
+    tooltips_.Window_Gone();
+    Mirror::Window_Gone();
 }
 
 LRESULT Painted_Window::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
     LRESULT result = 0;
     if (Handle_Input(message, wparam, lparam, result))
         return result;
+    // Nothing is done beside an open message box, whoever asks for it.
+    if (Open_Modal_Boxes > 0 && (message == WM_CLOSE || message == Default_Action_Message))
+        return 0;
     switch (message) {
     case WM_ERASEBKGND:
         return 1;
@@ -95,6 +80,16 @@ LRESULT Painted_Window::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
         Paint_On(reinterpret_cast<HDC>(wparam), all);
         return 0;
     }
+    case WM_WINDOWPOSCHANGING:
+        // Painted anew after every change of place or region: Wine hangs when it copies pixels inside another
+        // process's window.
+        if (!Is_Top_Level(window_))
+            reinterpret_cast<WINDOWPOS *>(lparam)->flags |= SWP_NOCOPYBITS;
+        break;
+    case WM_SIZE:
+        if (wparam == SIZE_RESTORED && has_clip_)
+            Set_Region();
+        break;
     case WM_SETCURSOR:
         if (LOWORD(lparam) != HTCLIENT)
             break;
@@ -116,9 +111,10 @@ LRESULT Painted_Window::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
         Send(event);
         return 0;
     }
-    case Update_Tooltips_Message:
-        tooltips_dirty_ = false;
+    case Update_Texts_Message:
+        texts_dirty_ = false;
         tooltips_.Update(window_, *Model());
+        announcements_.Update(window_, *Model());
         return 0;
     default:
         break;
@@ -198,9 +194,9 @@ void Painted_Window::Control_Changed(const Control_State &control, Aspect aspect
     }
     const bool moves_tooltip =
         (aspect == Aspect::Bounds || aspect == Aspect::Visible) && !control.tooltip.empty();
-    if (moves_tooltip || aspect == Aspect::Tooltip)
-        Texts_Of_Tooltips_Changed();
-    Tell_Change(window_, control, aspect);
+    const bool announced = aspect == Aspect::Visible || aspect == Aspect::Access || aspect == Aspect::Caption;
+    if (moves_tooltip || aspect == Aspect::Tooltip || announced)
+        Texts_Changed();
 }
 
 void Painted_Window::Invalidate(const platform::Rect &bounds) const {
@@ -209,10 +205,10 @@ void Painted_Window::Invalidate(const platform::Rect &bounds) const {
         InvalidateRect(window_, &pixels, FALSE);
 }
 
-void Painted_Window::Texts_Of_Tooltips_Changed() {
+void Painted_Window::Texts_Changed() {
     // Once for many changes: a new month changes the texts of all its days.
-    if (!tooltips_dirty_)
-        tooltips_dirty_ = PostMessageW(window_, Update_Tooltips_Message, 0, 0) != FALSE;
+    if (!texts_dirty_)
+        texts_dirty_ = PostMessageW(window_, Update_Texts_Message, 0, 0) != FALSE;
 }
 
 void Painted_Window::Clip(const std::vector<platform::Rect> &rects) {
@@ -222,6 +218,9 @@ void Painted_Window::Clip(const std::vector<platform::Rect> &rects) {
 }
 
 void Painted_Window::Set_Region() {
+    // A minimised window keeps its region until it is restored.
+    if (IsIconic(window_))
+        return;
     std::vector<RECT> pixels;
     pixels.reserve(clip_.size());
     for (const platform::Rect &rect : clip_)
@@ -242,17 +241,24 @@ void Painted_Window::Set_Region() {
     region_ = std::move(pixels);
 }
 
+void Painted_Window::Shape(const std::vector<platform::Point> &corners) {
+    shape_ = corners;
+    std::vector<POINT> pixels;
+    pixels.reserve(corners.size());
+    for (const platform::Point &corner : corners)
+        pixels.push_back({To_Pixels(corner.x), To_Pixels(corner.y)});
+    Unique_Region region(CreatePolygonRgn(pixels.data(), static_cast<int>(pixels.size()), WINDING));
+    if (region && SetWindowRgn(window_, region.Get(), TRUE) != 0)
+        region.Release();
+}
+
 void Painted_Window::Place() {
     const RECT place = To_Pixels(Model()->bounds);
     POINT corner = {place.left, place.top};
-    UINT flags = SWP_NOACTIVATE | SWP_NOZORDER;
-    if (!Is_Top_Level(window_)) {
+    if (!Is_Top_Level(window_))
         MapWindowPoints(nullptr, GetAncestor(window_, GA_PARENT), &corner, 1);
-        // Painted anew at its place: Wine hangs when it copies pixels inside another process's window.
-        flags |= SWP_NOCOPYBITS;
-    }
     SetWindowPos(window_, nullptr, corner.x, corner.y, place.right - place.left, place.bottom - place.top,
-                 flags);
+                 SWP_NOACTIVATE | SWP_NOZORDER);
 }
 
 void Painted_Window::Show_Or_Hide() {
@@ -281,8 +287,10 @@ void Painted_Window::Scale_Changed() {
     Place();
     if (has_clip_)
         Set_Region();
+    if (!shape_.empty())
+        Shape(shape_);
     InvalidateRect(window_, nullptr, FALSE);
-    Texts_Of_Tooltips_Changed();
+    Texts_Changed();
 }
 
 void Painted_Window::Set_Pointer() const {

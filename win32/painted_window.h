@@ -1,6 +1,7 @@
 // The native window of a painted form: borderless, shaped by a region, painted from a buffer.
 #pragma once
 
+#include "win32/accessible.h"
 #include "win32/mirror.h"
 #include "win32/tooltips.h"
 
@@ -17,12 +18,14 @@ public:
     void Control_Changed(const platform::Control_State &control, platform::Aspect aspect,
                          const platform::Rect &before) override;
     void Clip(const std::vector<platform::Rect> &rects) override;
+    void Shape(const std::vector<platform::Point> &corners) override;
     void Bring_To_Front() override;
     void Scale_Changed() override;
 
 private:
     static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam);
-    LRESULT Handle(UINT message, WPARAM wparam, LPARAM lparam);
+    LRESULT Handle(UINT message, WPARAM wparam, LPARAM lparam) override;
+    void Window_Gone() override;
     /// The messages of the mouse and the keyboard. Returns whether `message` was one, then with its result.
     bool Handle_Input(UINT message, WPARAM wparam, LPARAM lparam, LRESULT &result);
     bool Handle_Mouse(UINT message, WPARAM wparam, LPARAM lparam);
@@ -38,19 +41,22 @@ private:
     void Show_Or_Hide();
     void Set_Pointer() const;
     void Invalidate(const platform::Rect &bounds) const;
-    void Texts_Of_Tooltips_Changed();
+    /// What tooltips and assistive technology tell of the controls is to be brought up to date.
+    void Texts_Changed();
 
     Tooltips tooltips_;
-    bool tooltips_dirty_ = false;
+    Announcements announcements_;
+    bool texts_dirty_ = false;
     bool has_clip_ = false;
     std::vector<platform::Rect> clip_;
     std::vector<RECT> region_; ///< the clip in the pixels of the window's region
+    std::vector<platform::Point> shape_;
     unsigned held_buttons_ = 0;
     POINT last_mouse_ = {-1, -1};
 };
 
 /// Messages of painted windows to themselves.
-constexpr UINT Update_Tooltips_Message = WM_APP + 1;
+constexpr UINT Update_Texts_Message = WM_APP + 1;
 constexpr UINT Default_Action_Message = WM_APP + 2; ///< wparam: the control's index
 constexpr UINT Check_Dots_Message = WM_APP + 3;
 

@@ -18,20 +18,23 @@ struct Raw_Value {
     std::vector<BYTE> data;
 };
 
-/// The value's bytes; nothing when it cannot be read. Another program may lengthen it between two calls.
-std::optional<Raw_Value> Query(HKEY key, const std::wstring &name) {
-    Raw_Value value;
-    value.data.resize(256);
-    for (;;) {
-        DWORD size = static_cast<DWORD>(value.data.size());
-        const LONG result =
-            RegQueryValueExW(key, name.c_str(), nullptr, &value.type, value.data.data(), &size);
-        if (result != ERROR_SUCCESS && result != ERROR_MORE_DATA)
-            return std::nullopt;
+/// Takes the value's bytes. Another program may lengthen it between two calls. Gives an error code.
+LONG Query(HKEY key, const std::wstring &name, Raw_Value &value) {
+    LONG result = ERROR_SUCCESS;
+    DWORD size = 256;
+    do {
         value.data.resize(size);
-        if (result == ERROR_SUCCESS)
-            return value;
-    }
+        result = RegQueryValueExW(key, name.c_str(), nullptr, &value.type, value.data.data(), &size);
+    } while (result == ERROR_MORE_DATA);
+    value.data.resize(result == ERROR_SUCCESS ? size : 0);
+    return result;
+}
+
+/// What a value that is there but cannot be read is given as; nothing for one that is absent.
+std::optional<std::string> Unread(LONG code) {
+    if (code == ERROR_FILE_NOT_FOUND)
+        return std::nullopt;
+    return "(" + win32::System_Error_Text(static_cast<unsigned long>(code)) + ")";
 }
 
 /// The text of stored wide characters, which need not end with a zero.
@@ -51,19 +54,20 @@ std::string Text_Of(const std::vector<BYTE> &data) {
 
 std::optional<std::string> Read_User_Value(const std::string &key, const std::string &name) {
     HKEY opened = nullptr;
-    if (RegOpenKeyExW(HKEY_CURRENT_USER, win32::To_Wide(key).c_str(), 0, KEY_QUERY_VALUE, &opened) !=
-        ERROR_SUCCESS)
-        return std::nullopt;
+    LONG result = RegOpenKeyExW(HKEY_CURRENT_USER, win32::To_Wide(key).c_str(), 0, KEY_QUERY_VALUE, &opened);
+    if (result != ERROR_SUCCESS)
+        return Unread(result);
     const win32::Unique_Key owner(opened);
-    const std::optional<Raw_Value> value = Query(opened, win32::To_Wide(name));
-    if (!value)
-        return std::nullopt;
-    if (value->type == REG_SZ || value->type == REG_EXPAND_SZ)
-        return Text_Of(value->data);
+    Raw_Value value;
+    result = Query(opened, win32::To_Wide(name), value);
+    if (result != ERROR_SUCCESS)
+        return Unread(result);
+    if (value.type == REG_SZ || value.type == REG_EXPAND_SZ)
+        return Text_Of(value.data);
     std::int32_t number = 0;
-    if (value->type != REG_DWORD || value->data.size() != sizeof number)
-        return std::nullopt;
-    std::memcpy(&number, value->data.data(), sizeof number);
+    if (value.type != REG_DWORD || value.data.size() != sizeof number)
+        return "(binary data)";
+    std::memcpy(&number, value.data.data(), sizeof number);
     return std::to_string(number);
 }
 

@@ -41,6 +41,23 @@ platform::Rect platform::Work_Area() {
     return {area.left, area.top, area.right - area.left, area.bottom - area.top};
 }
 
+platform::Rect platform::Work_Area_Around(Point point) {
+    MONITORINFO monitor = {};
+    monitor.cbSize = sizeof monitor;
+    if (!GetMonitorInfoW(MonitorFromPoint({point.x, point.y}, MONITOR_DEFAULTTONEAREST), &monitor))
+        return Work_Area();
+    const RECT &area = monitor.rcWork;
+    return {area.left, area.top, area.right - area.left, area.bottom - area.top};
+}
+
+bool platform::Mouse_Button_Held() {
+    for (const int button : {VK_LBUTTON, VK_RBUTTON, VK_MBUTTON}) {
+        if ((static_cast<unsigned>(GetAsyncKeyState(button)) & 0x8000U) != 0)
+            return true;
+    }
+    return false;
+}
+
 platform::Point platform::Mouse_Position() {
     POINT mouse = {};
     GetCursorPos(&mouse);

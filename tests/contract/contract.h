@@ -8,6 +8,10 @@
 #include <string>
 #include <vector>
 
+inline std::string Scratch_Key() {
+    return "Software\\Vellatro contract test";
+}
+
 #ifdef _WIN32
 #include "win32/handles.h"
 #include "win32/wide_text.h"
@@ -26,7 +30,13 @@ protected:
     }
     ~Contract_Test() override {
         locks_.clear();
-        Remove_Folder(folder_);
+        for (const std::string &name : Names_Left()) {
+            const std::wstring path = win32::To_Wide(Scratch(name));
+            SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_NORMAL);
+            if (!DeleteFileW(path.c_str()))
+                RemoveDirectoryW(path.c_str());
+        }
+        RemoveDirectoryW(folder_.c_str());
         RegDeleteKeyW(HKEY_CURRENT_USER, win32::To_Wide(Scratch_Key() + "\\Below").c_str());
         RegDeleteKeyW(HKEY_CURRENT_USER, win32::To_Wide(Scratch_Key()).c_str());
         if (!short_date_before_.empty())
@@ -38,12 +48,9 @@ protected:
     void Make_Folder(const std::string &path) { CreateDirectoryW(win32::To_Wide(path).c_str(), nullptr); }
 
     /// Another program has the file for itself, until the test's end.
-    void Lock_File(const std::string &path) { Hold_File(path, 0); }
-
-    /// Another program has the file open and lets others read it.
-    void Hold_File(const std::string &path, DWORD sharing) {
-        locks_.emplace_back(CreateFileW(win32::To_Wide(path).c_str(), GENERIC_READ, sharing, nullptr,
-                                        OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+    void Lock_File(const std::string &path) {
+        locks_.emplace_back(CreateFileW(win32::To_Wide(path).c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING,
+                                        FILE_ATTRIBUTE_NORMAL, nullptr));
         ASSERT_TRUE(static_cast<bool>(locks_.back()));
     }
 
@@ -55,11 +62,12 @@ protected:
     std::vector<std::string> Names_Left() const {
         std::vector<std::string> names;
         WIN32_FIND_DATAW found;
-        const win32::Unique_Find find(FindFirstFileW((folder_ + L"\\*").c_str(), &found));
+        const HANDLE find = FindFirstFileW((folder_ + L"\\*").c_str(), &found);
         do {
             if (found.cFileName[0] != L'.')
                 names.push_back(win32::From_Wide(found.cFileName));
-        } while (FindNextFileW(find.Get(), &found));
+        } while (FindNextFileW(find, &found));
+        FindClose(find);
         std::sort(names.begin(), names.end());
         return names;
     }
@@ -76,22 +84,7 @@ protected:
         ASSERT_TRUE(SetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_SSHORTDATE, wide.c_str()));
     }
 
-    static std::string Scratch_Key() { return "Software\\Vellatro contract test"; }
-
 private:
-    static void Remove_Folder(const std::wstring &folder) {
-        WIN32_FIND_DATAW found;
-        win32::Unique_Find find(FindFirstFileW((folder + L"\\*").c_str(), &found));
-        while (find && FindNextFileW(find.Get(), &found)) {
-            const std::wstring path = folder + L"\\" + found.cFileName;
-            SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_NORMAL);
-            if (found.cFileName[0] != L'.' && !DeleteFileW(path.c_str()))
-                Remove_Folder(path);
-        }
-        find.Reset();
-        RemoveDirectoryW(folder.c_str());
-    }
-
     std::wstring folder_;
     std::wstring short_date_before_;
     std::vector<win32::Unique_File> locks_;
@@ -124,7 +117,5 @@ protected:
     }
 
     static void Use_Short_Date(const std::string &pattern) { Fakes().short_date_pattern = pattern; }
-
-    static std::string Scratch_Key() { return "Software\\Vellatro contract test"; }
 };
 #endif

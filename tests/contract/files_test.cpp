@@ -10,17 +10,12 @@ using Names = std::vector<std::string>;
 
 TEST_F(Files_Contract, Keeps_Every_Byte) {
     std::string all_bytes;
-    for (int i = 0; i < 256; ++i)
-        all_bytes += static_cast<char>(i);
-    std::string long_text;
-    for (int i = 0; i < 100'000; ++i)
-        long_text += "\"" + std::to_string(i) + "\"\r\n";
+    for (int i = 0; i < 300'000; ++i)
+        all_bytes += static_cast<char>(i + i / 4096);
     const std::string path = Scratch("calendar.dat");
     // Longer after shorter and shorter after longer: nothing of the old content may stay.
-    for (const std::string &bytes :
-         {std::string("a\n\x1A"
-                      "b\r\n"),
-          all_bytes, long_text, std::string("x"), std::string(), std::string("\xEF\xBB\xBF\0", 4)}) {
+    for (const std::string &bytes : {std::string("\n\x1A\r\n"), all_bytes, std::string("x"), std::string(),
+                                     std::string("\xEF\xBB\xBF\0", 4)}) {
         platform::Replace_File(path, bytes);
         EXPECT_EQ(platform::Read_File(path), bytes);
         EXPECT_TRUE(platform::File_Exists(path));
@@ -60,33 +55,22 @@ TEST_F(Files_Contract, A_Folder_Is_No_File) {
     EXPECT_FALSE(platform::File_Exists(path));
     EXPECT_THROW(platform::Read_File(path), platform::File_Error);
     EXPECT_THROW(platform::Replace_File(path, "x"), platform::File_Error);
-    EXPECT_TRUE(platform::Path_Exists(path));
 }
 
-TEST_F(Files_Contract, A_Protected_File_Stays) {
-    const std::string path = Scratch("calendar.dat");
-    platform::Replace_File(path, "old");
-    Protect_File(path);
-    EXPECT_THROW(platform::Replace_File(path, "new"), platform::File_Error);
-    EXPECT_EQ(platform::Read_File(path), "old");
-    EXPECT_EQ(Names_Left(), Names{"calendar.dat"});
-}
-
-TEST_F(Files_Contract, A_File_In_Other_Hands_Is_An_Error) {
-    const std::string path = Scratch("calendar.dat");
-    platform::Replace_File(path, "old");
-    Lock_File(path);
-    EXPECT_THROW(platform::Read_File(path), platform::File_Error);
-    EXPECT_THROW(platform::Replace_File(path, "new"), platform::File_Error);
-    EXPECT_TRUE(platform::File_Exists(path));
-    EXPECT_EQ(Names_Left(), Names{"calendar.dat"});
-}
-
-TEST_F(Files_Contract, The_Program_Folder_Has_No_Separator_At_Its_End) {
-    const std::string folder = platform::Program_Folder();
-    ASSERT_GE(folder.size(), 2U);
-    EXPECT_EQ(folder[1], ':');
-    EXPECT_NE(folder.back(), '\\');
+TEST_F(Files_Contract, A_File_That_Cannot_Be_Replaced_Stays) {
+    const std::string held = Scratch("held.dat");
+    const std::string kept = Scratch("kept.dat");
+    for (const std::string &path : {held, kept})
+        platform::Replace_File(path, "old");
+    Lock_File(held);
+    Protect_File(kept);
+    for (const std::string &path : {held, kept}) {
+        EXPECT_THROW(platform::Replace_File(path, "new"), platform::File_Error);
+        EXPECT_TRUE(platform::File_Exists(path));
+    }
+    EXPECT_THROW(platform::Read_File(held), platform::File_Error);
+    EXPECT_EQ(platform::Read_File(kept), "old");
+    EXPECT_EQ(Names_Left(), (Names{"held.dat", "kept.dat"}));
 }
 
 } // namespace

@@ -1,46 +1,23 @@
-// What platform/clock.h, locale.h and text.h promise: sensible times, names, the short date form, and whole
-// characters.
-#include "platform/clock.h"
+// What platform/locale.h and text.h promise: names, the short date form, and whole characters.
 #include "platform/locale.h"
 #include "platform/text.h"
 #include "tests/contract/contract.h"
 
-#include <set>
-#include <tuple>
-
 namespace {
 
-class Clock_Contract : public Contract_Test {};
 class Locale_Contract : public Contract_Test {};
 class Text_Contract : public Contract_Test {};
 
-TEST_F(Clock_Contract, The_Time_Is_A_Time_And_Never_Goes_Back) {
-    const auto moment = [](const platform::Date_Time &t) {
-        return std::tuple(t.year, t.month, t.day, t.hour, t.minute, t.second, t.millisecond);
-    };
-    platform::Date_Time before = platform::Now();
-    for (int i = 0; i < 1000; ++i) {
-        const platform::Date_Time now = platform::Now();
-        EXPECT_GE(moment(now), moment(before));
-        EXPECT_TRUE(now.year >= 2000 && now.year <= 9999 && now.month >= 1 && now.month <= 12);
-        EXPECT_TRUE(now.day >= 1 && now.day <= 31 && now.hour >= 0 && now.hour <= 23);
-        EXPECT_TRUE(now.minute >= 0 && now.minute <= 59 && now.second >= 0 && now.second <= 59);
-        EXPECT_TRUE(now.millisecond >= 0 && now.millisecond <= 999);
-        before = now;
-    }
-}
-
 TEST_F(Locale_Contract, Names_Are_Those_Of_The_Language) {
     // The tests run with English settings, here as there.
-    const char *weekdays[] = {"Sunday", "Monday", "Tuesday", "Wednesday", "Thursday", "Friday", "Saturday"};
-    for (int weekday = 0; weekday < 7; ++weekday) {
-        EXPECT_EQ(platform::Weekday_Name(weekday), weekdays[weekday]);
-        EXPECT_EQ(platform::Short_Weekday_Name(weekday), std::string(weekdays[weekday]).substr(0, 3));
-    }
-    const char *months[] = {"January", "February", "March",     "April",   "May",      "June",
-                            "July",    "August",   "September", "October", "November", "December"};
+    std::string names;
+    for (int weekday = 0; weekday < 7; ++weekday)
+        names += platform::Weekday_Name(weekday) + " " + platform::Short_Weekday_Name(weekday) + " ";
     for (int month = 1; month <= 12; ++month)
-        EXPECT_EQ(platform::Month_Name(month), months[month - 1]);
+        names += platform::Month_Name(month) + " ";
+    EXPECT_EQ(names,
+              "Sunday Sun Monday Mon Tuesday Tue Wednesday Wed Thursday Thu Friday Fri Saturday Sat "
+              "January February March April May June July August September October November December ");
     EXPECT_EQ(platform::First_Weekday(), 0);
 }
 
@@ -52,12 +29,9 @@ TEST_F(Locale_Contract, Short_Dates_Follow_The_Pattern_In_All_Years) {
     };
     const Case cases[] = {
         {"d/m/yyyy", 2002, 3, 5, "5/3/2002"},      {"d/m/yyyy", 9999, 12, 31, "31/12/9999"},
-        {"m/d/yyyy", 2002, 3, 5, "3/5/2002"},      {"dd.mm.yyyy", 2002, 3, 5, "05.03.2002"},
-        {"yyyy-mm-dd", 2002, 3, 5, "2002-03-05"},  {"d. m. yyyy", 2002, 11, 25, "25. 11. 2002"},
+        {"m/d/yyyy", 2000, 2, 29, "2/29/2000"},    {"yyyy-mm-dd", 100, 1, 1, "0100-01-01"},
         {"d/m/yyyy", 1601, 1, 1, "1/1/1601"},      {"d/m/yyyy", 1600, 12, 31, "31/12/1600"},
-        {"dd.mm.yyyy", 1066, 10, 4, "04.10.1066"}, {"yyyy-mm-dd", 100, 1, 1, "0100-01-01"},
-        {"d/m/yyyy", 2000, 2, 29, "29/2/2000"},    {"d. m. yyyy", 999, 2, 28, "28. 2. 0999"},
-    };
+        {"dd.mm.yyyy", 1066, 10, 4, "04.10.1066"}, {"d. m. yyyy", 999, 2, 28, "28. 2. 0999"}};
     for (const Case &c : cases) {
         Use_Short_Date(c.pattern);
         EXPECT_EQ(platform::Short_Date(c.year, c.month, c.day), c.expected) << c.pattern;
@@ -74,7 +48,13 @@ TEST_F(Text_Contract, Stepping_Back_Keeps_Characters_Whole) {
         {"\xF0\x9F\x91\x8D\xF0\x9F\x8F\xBD", "!"}, // a skin tone
         {"1\xEF\xB8\x8F\xE2\x83\xA3", "2"},        // a keycap
         {"-", "\xF0\x9F\x91\xA9\xE2\x80\x8D\xF0\x9F\x91\xA9\xE2\x80\x8D\xF0\x9F\x91\xA7",
-         "-"},                                         // a joined family
+         "-"},                                                        // a joined family
+        {"\xD7\xA9\xD7\x81\xD6\xB0", "\xD8\xA8\xD9\x8F"},             // Hebrew and Arabic points
+        {"\xE0\xA4\x95\xE0\xA5\x8D", "\xE0\xA4\xB7\xE0\xA4\xBF"},     // Indic signs
+        {"\xE0\xB8\x97\xE0\xB8\xB5\xE0\xB9\x88", "^", "`"},           // Thai signs; marks of their own
+        {"\xE3\x81\x8B\xE3\x82\x99", "\xE8\xBE\xBB\xF3\xA0\x84\x80"}, // a voiced kana, a chosen shape
+        {"\xF0\x9F\x87\xA9\xF0\x9F\x87\xAA", "\xF0\x9F\x87\xAB\xF0\x9F\x87\xB7", "\xF0\x9F\x87\xAC",
+         "z"},                                         // two flags and a half
         {"a", "\xE9", "b", "\x80", "\xBF"},            // bytes of another code page
         {"\xE6", "\x97", "a", "\xF0", "\x9F", "\x93"}, // cut short
         {"\xC0", "\x80", "\xED", "\xA0", "\x80", "\xF4", "\x90", "\x80",

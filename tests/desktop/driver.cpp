@@ -289,13 +289,25 @@ void Program::Answer() const {
     const HWND box = Box_Window();
     PostMessageW(box, WM_COMMAND, IDOK, 0);
     EXPECT_TRUE(box && Wait_Until([box] { return !IsWindow(box); })) << "no box that takes an answer";
-    // The focus goes to the stand-in, whose X window Wine then raises over the calendar's.
-    if (const HWND calendar = Calendar())
-        SetWindowPos(calendar, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+}
+
+bool Program::Uncover(POINT point) const {
+    // On Windows nothing gets below the shell. Wine raises the X window of whatever gets the focus, the
+    // stand-in's too, without knowing it itself: so the calendar has to change its place for it, too.
+    const HWND calendar = Calendar();
+    return Wait_Until([calendar, point] {
+        if (Picture().At(point.x, point.y) != Bare_Screen->At(point.x, point.y))
+            return true;
+        for (const HWND place : {HWND_TOPMOST, HWND_NOTOPMOST})
+            SetWindowPos(calendar, place, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+        return false;
+    });
 }
 
 void Program::Click(const RECT &place) const {
-    SetCursorPos((place.left + place.right) / 2, (place.top + place.bottom) / 2);
+    const POINT middle{(place.left + place.right) / 2, (place.top + place.bottom) / 2};
+    EXPECT_TRUE(Uncover(middle)) << "there is nothing to click";
+    SetCursorPos(middle.x, middle.y);
     Send_Mouse(MOUSEEVENTF_LEFTDOWN);
     Send_Mouse(MOUSEEVENTF_LEFTUP);
 }
@@ -344,7 +356,7 @@ long Program::Processor_Ticks() const {
     return ticks;
 }
 
-long Program::Gdi_Objects() const {
+std::ptrdiff_t Program::Gdi_Objects() const {
     // Wine does not count them, but every process has a table of its own.
     struct Entry {
         ULONG64 object;
@@ -366,7 +378,7 @@ long Program::Gdi_Objects() const {
     return std::count_if(entries.begin(), entries.end(), [](const Entry &entry) { return entry.type != 0; });
 }
 
-long Program::Windows() const {
+std::ptrdiff_t Program::Windows() const {
     const std::vector<HWND> all = Windows_Below(nullptr);
     return std::count_if(all.begin(), all.end(), [this](HWND window) { return Process_Of(window) == id_; });
 }

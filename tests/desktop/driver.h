@@ -33,6 +33,9 @@ struct Picture {
     void Save(const std::wstring &path) const; ///< as a BMP file
 };
 
+/// The desktop before the first start.
+inline std::unique_ptr<const Picture> Bare_Screen;
+
 /// Polls until `holds` gives true; false after the deadline.
 bool Wait_Until(const std::function<bool()> &holds, DWORD milliseconds = 5000);
 
@@ -72,12 +75,14 @@ public:
     std::string Box() const;
     void Answer() const; ///< presses OK and waits until the box is gone
 
+    /// Brings the calendar over the stand-in; false when nothing appears at the point.
+    bool Uncover(POINT point) const;
     void Click(const RECT &place) const;               ///< with the left button, in the middle
     void Press(WORD key, bool with_alt = false) const; ///< makes the calendar the active window first
 
-    long Processor_Ticks() const; ///< hundredths of a second since its start; -1: not to be had
-    long Gdi_Objects() const;     ///< -1: not to be had
-    long Windows() const;
+    long Processor_Ticks() const;       ///< hundredths of a second since its start; -1: not to be had
+    std::ptrdiff_t Gdi_Objects() const; ///< -1: not to be had
+    std::ptrdiff_t Windows() const;
 
 private:
     HWND Box_Window() const;

@@ -10,8 +10,7 @@ namespace {
 std::wstring Program_Path;
 std::wstring Scratch; // the tests' folders are made in it
 std::wstring Clock_Path;
-long long Clock_Offset;                     // seconds, as last given to the clock
-std::unique_ptr<const Picture> Bare_Screen; // before the first start
+long long Clock_Offset; // seconds, as last given to the clock
 
 const std::wstring Store_Key = L"Software\\Vellatro";
 
@@ -75,6 +74,8 @@ void Desktop_Test::SetUp() {
     Set_Regional("sShortDate", "M/d/yyyy");
     Set_Regional("iFirstDayOfWeek", "6");
     Set_Clock(2027, 5, 12, 10, 30, 0);
+    SetCursorPos(1, GetSystemMetrics(SM_CYSCREEN) - 2); // over none of the windows
+    Wait_Until([] { return GetForegroundWindow() == FindWindowA("Progman", nullptr); }, 1000);
     ASSERT_TRUE(Wait_Until([] { return Picture().pixels == Bare_Screen->pixels; }))
         << "the desktop is not bare";
 }
@@ -100,6 +101,8 @@ Program &Desktop_Test::Start_Calendar() {
     Program &program = Start();
     EXPECT_TRUE(Wait_Until([&] { return !program.Items().empty() || !program.Box().empty(); }, 15000));
     EXPECT_EQ(program.Box(), "");
+    const RECT title = program.Named(program.Title()).place;
+    EXPECT_TRUE(program.Uncover({title.left, title.top})) << "the title is not seen";
     return program;
 }
 

@@ -113,7 +113,8 @@ TEST_F(Dots, Places_And_Texts_Fit) {
     Set_Setting("Settings", "Bar Date Format", "Weekday - d month - yyyy");
     for (const char *style : {"0", "1"}) {
         Set_Setting("Settings", "Style", style);
-        Write_Data("\"1/9/2027=Ågjqy ÅÅ 日本語, a text that needs more room than there is in its box\"\r\n");
+        Write_Data("\"1/9/2027=Ågjqy ÅÅ 日本語, a text that needs more room than there is in its box or in "
+                   "any other\"\r\n");
         Program &program = Start_Calendar();
         EXPECT_EQ(program.Title(), "23:50 - Wednesday 29th September - 2027");
         const std::vector<Item> days = program.Items(ROLE_SYSTEM_CELL);
