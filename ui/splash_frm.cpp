@@ -42,7 +42,7 @@ Splash_Frm::Splash_Frm()
       Name_Lbl(*this, "Name_Lbl"), Line_Lbl(*this, "Line_Lbl"), Start_Timer(1500) {
     using platform::Text_Align;
     Model().floating = true;
-    Set_Title("Vellatro");
+    Set_Title("Welcome to Vellatro");
     Set_Back_Colour(deep_blue);
     Resize(splash_width, splash_height);
     Frame_Lbl.Move({0, 0, splash_width, splash_height});

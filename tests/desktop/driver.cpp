@@ -292,11 +292,17 @@ void Program::Answer() const {
 }
 
 bool Program::Uncover(POINT point) const {
-    // On Windows nothing gets below the shell. Wine raises the X window of whatever gets the focus, the
-    // stand-in's too, without knowing it itself: so the calendar has to change its place for it, too.
+    // On Windows nothing gets below the shell. Under Wine the stand-in comes up in two ways: the X window of
+    // whatever gets the focus is raised, which Wine itself does not know; and Wine puts the window that X has
+    // found below the mouse, some time ago, above the others. So both are asked, and the calendar is moved
+    // twice, since a window that stays where it is is not raised.
     const HWND calendar = Calendar();
-    return Wait_Until([calendar, point] {
-        if (Picture().At(point.x, point.y) != Bare_Screen->At(point.x, point.y))
+    const HWND standin = FindWindowA("Progman", nullptr);
+    return Wait_Until([&] {
+        DWORD_PTR answer = 0; // which comes after what X has told the stand-in
+        SendMessageTimeoutW(standin, WM_NULL, 0, 0, SMTO_NORMAL, 2000, &answer);
+        if (Picture().At(point.x, point.y) != Bare_Screen->At(point.x, point.y) &&
+            WindowFromPoint(point) == calendar)
             return true;
         for (const HWND place : {HWND_TOPMOST, HWND_NOTOPMOST})
             SetWindowPos(calendar, place, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
@@ -306,8 +312,8 @@ bool Program::Uncover(POINT point) const {
 
 void Program::Click(const RECT &place) const {
     const POINT middle{(place.left + place.right) / 2, (place.top + place.bottom) / 2};
-    EXPECT_TRUE(Uncover(middle)) << "there is nothing to click";
     SetCursorPos(middle.x, middle.y);
+    EXPECT_TRUE(Uncover(middle)) << "there is nothing to click";
     Send_Mouse(MOUSEEVENTF_LEFTDOWN);
     Send_Mouse(MOUSEEVENTF_LEFTUP);
 }

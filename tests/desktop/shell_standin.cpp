@@ -31,6 +31,7 @@ namespace {
 
 constexpr char X_Window_Property[] = "__wine_x11_whole_window";
 constexpr char Calendar_Class[] = "Vellatro_Calendar";
+constexpr char Splash_Class[] = "Vellatro_Splash";
 
 HWND Shell_Window;
 HWND View_Window;
@@ -130,6 +131,8 @@ void Adopt_Calendar() {
     HWND calendar = FindWindowExA(View_Window, nullptr, Calendar_Class, nullptr);
     if (!calendar)
         calendar = FindWindowA(Calendar_Class, nullptr); // one that has not attached itself to the shell
+    if (IsWindowVisible(FindWindowA(Splash_Class, nullptr)))
+        return; // it still hides a part of the calendar
     if (!IsWindowVisible(calendar) || !GetWindowRect(calendar, &place) || EqualRect(&place, &told))
         return;
     told = place;
