@@ -16,7 +16,12 @@ int Run_Program() {
             return;
         platform::Run_Message_Loop();
         // When the desktop is lost nobody has been asked yet, or the loop has ended under an open question.
-        edit_frm.Ask_Unsaved();
+        // Who answers Cancel, or whose text is refused, gets the editor back; it alone keeps the program
+        // then.
+        edit_frm.On_Unload = [] { platform::End_Message_Loop(); };
+        while (!edit_frm.Ask_Unsaved() && edit_frm.Visible())
+            platform::Run_Message_Loop();
+        edit_frm.On_Unload = nullptr;
         exit_code = 0;
     });
     return exit_code;

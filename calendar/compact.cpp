@@ -4,13 +4,12 @@
 #include "calendar/main_frm.h"
 #include "core/settings.h"
 
-#include <string>
-
 void Main_Frm::Which_Month_Lbl_DblClick() {
     if (Compacted)
         Expand();
     else
         Compact();
+    Describe_Heading();
     Update_Mark();
 }
 
@@ -31,7 +30,7 @@ void Main_Frm::Compact() {
 }
 
 void Main_Frm::Expand() {
-    const std::string stamp = date_stamp_;
+    stale_ = false;
     Box_Lbl[0].Set_Visible(true);
     Box_Caption_Lbl[0].Set_Visible(true);
     Hide_Misc_Boxes();
@@ -46,9 +45,10 @@ void Main_Frm::Expand() {
     Set_Colours();
     Mark_Today();
     Compacted = false;
-    // The date may have changed under the alert of a new day, when the month was not to be drawn.
-    if (stamp != date_stamp_)
+    // The month, the week or the fonts may have changed under an alert, when no month was to be drawn.
+    if (stale_)
         Redraw();
+    // Going in has stopped the countdown, and nobody may move the mouse after a double click.
     Restart_Countdown();
 }
 

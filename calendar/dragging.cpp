@@ -64,26 +64,24 @@ void Main_Frm::End_Drag() {
 }
 
 void Main_Frm::Keep_Place(const std::optional<Drag> &drag) {
+    std::int16_t left = 0;
+    std::int16_t top = 0;
     try {
-        const std::int16_t left = Fit_Int16(Left());
-        const std::int16_t top = Fit_Int16(Top());
-        Cur_Settings.Manual_PosX = left;
-        Cur_Settings.Manual_PosY = top;
+        left = Fit_Int16(Left());
+        top = Fit_Int16(Top());
     } catch (const Conversion_Error &) {
         throw Conversion_Error("The calendar's place on the screen, " + std::to_string(Left()) + " and " +
                                std::to_string(Top()) +
                                " twips, cannot be kept: it must lie between -32768 and 32767.");
     }
-    Save_Setting("Manual_PosX");
-    Save_Setting("Manual_PosY");
+    Change_Setting(Cur_Settings.Manual_PosX, left, "Manual_PosX");
+    Change_Setting(Cur_Settings.Manual_PosY, top, "Manual_PosY");
     // Only a move in both directions asks; a push along one edge is taken for a passing one.
     if (!drag || Left() == drag->form.x || Top() == drag->form.y || Stays_Where_Dropped())
         return;
     if (platform::Message_Box(manual_question, "Vellatro", platform::Box_Icon::Question,
                               platform::Box_Buttons::Yes_No) != platform::Box_Answer::Yes)
         return;
-    Cur_Settings.Alignment = manual;
-    Cur_Settings.Use_Theme_Pos = 0;
-    Save_Setting("Alignment");
-    Save_Setting("Use Theme Pos");
+    Change_Setting(Cur_Settings.Alignment, manual, "Alignment");
+    Change_Setting(Cur_Settings.Use_Theme_Pos, 0, "Use Theme Pos");
 }

@@ -18,6 +18,8 @@ constexpr int key_up = 38;
 constexpr int key_right = 39;
 constexpr int key_down = 40;
 constexpr int key_delete = 46;
+constexpr int key_m = 77;
+constexpr int key_y = 89;
 constexpr int key_menu = 93;
 constexpr int key_f10 = 121;
 
@@ -26,7 +28,12 @@ constexpr int key_f10 = 121;
 void Main_Frm::Form_KeyDown(const platform::Input_Event &event) {
     // Keys come only to a window that has the focus.
     has_focus_ = true;
-    if (event.alt || event.control_key)
+    stray_key_ = false;
+    if (event.alt)
+        return;
+    if (event.control_key && (event.key == key_page_up || event.key == key_page_down))
+        return Step_Year(event.key == key_page_up ? -1 : 1);
+    if (event.control_key)
         return;
     const bool menu = event.key == key_menu || (event.key == key_f10 && event.shift);
     if (menu || event.key == key_return || event.key == key_delete) {
@@ -59,13 +66,19 @@ bool Main_Frm::Day_Key(int key) {
     case key_page_down:
         Next_Month();
         return true;
-    case key_home: {
-        const Date today = Today();
+    case key_home:
         mark_used_ = true;
-        mark_day_ = today.day;
-        Cur_Month = today.month;
-        Cur_Year = today.year;
+        mark_day_ = Take_Today().day;
         Redraw();
+        return true;
+    case key_m:
+    case key_y: {
+        const Point below{Which_Month_Lbl.Left() + Which_Month_Lbl.Width() / 2,
+                          Which_Month_Lbl.Top() + Which_Month_Lbl.Height()};
+        if (Compacted || key == key_y)
+            Popup_Years(&below);
+        else
+            Popup_Months(&below);
         return true;
     }
     default:
@@ -140,6 +153,7 @@ int Main_Frm::Marked_Box() {
 void Main_Frm::Take_Focus(bool has_focus) {
     has_focus_ = has_focus;
     pending_key_ = 0;
+    stray_key_ = has_focus;
     Update_Mark();
 }
 

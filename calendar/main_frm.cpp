@@ -17,7 +17,7 @@ Main_Frm::Main_Frm()
       DotDotDot_Lbl(*this, "DotDotDot_Lbl"), Dectect_Date_Timer(1000) {
     Set_Title("Vellatro");
     DotDotDot_Lbl.Set_Visible(false);
-    Describe_Arrows();
+    Describe_Heading();
     Wire_Events();
 }
 
@@ -52,7 +52,11 @@ void Main_Frm::Wire_Events() {
     Attach_Timer.On_Timer = [this] { Attach_Timer_Timer(); };
     // Without its window the program could only stand in the way of its next start. Nothing is asked here:
     // the window inside the shell's goes down in the middle of the shell's own end, which waits for it.
-    On_Window_Lost = [] { platform::End_Message_Loop(); };
+    Which_Month_Lbl.On_Default_Action = [this] { Which_Month_Lbl_DblClick(); };
+    On_Window_Lost = [this] {
+        ended_ = true;
+        platform::End_Message_Loop();
+    };
     Which_Month_Lbl.On_Mouse_Down = [this](Mouse_Button button, platform::Point at) {
         Begin_Drag(button, at);
         if (button == Mouse_Button::Right)
@@ -104,18 +108,16 @@ bool Main_Frm::Form_Load() {
     }
     Get_Wallpaper_Stuff();
     Which_Style(Effective_Style());
-    const Date today = Today();
-    Cur_Month = today.month;
-    Cur_Year = today.year;
+    const Date today = Take_Today();
     Setup_Boxes(Cur_Month, Cur_Year);
     // A work area too high for the remembered height is told, but is no reason to show no calendar.
     placement_guard_.Run([this] { Set_Repos(); });
-    // Heard from here on: an alert may stay open for hours.
+    // Heard from here on, with the day's stamp: an alert may stay open for hours.
+    date_stamp_ = Date_Stamp(today);
     Hear_Broadcasts();
     Load_Dates();
     Update_Title();
     Set_Day_Headers();
-    date_stamp_ = Date_Stamp(today);
     // Not seen before it is where it belongs and has its colours.
     Create();
     No_ShowDesktop_and_IconColours();
@@ -136,6 +138,13 @@ std::int16_t Main_Frm::Effective_Style() const {
     return Cur_Settings.Style;
 }
 
+Date Main_Frm::Take_Today() {
+    const Date today = Today();
+    Cur_Month = today.month;
+    Cur_Year = today.year;
+    return today;
+}
+
 void Main_Frm::Dectect_Date_Timer_Timer() {
     placement_guard_.Run([this] { RePosition(); });
     Update_Title();
@@ -144,15 +153,16 @@ void Main_Frm::Dectect_Date_Timer_Timer() {
     if (stamp == date_stamp_)
         return;
     Alert_Done = false;
-    Cur_Month = today.month;
-    Cur_Year = today.year;
+    Take_Today();
     Update_Title();
     Set_Day_Headers();
     Get_Wallpaper_Stuff();
     Which_Style(Effective_Style());
     date_stamp_ = stamp;
-    if (Compacted)
+    if (Compacted) {
+        stale_ = true;
         return TransparentForm();
+    }
     Setup_Boxes(Cur_Month, Cur_Year);
     Set_Colours();
     Mark_Today();
@@ -186,6 +196,13 @@ bool Main_Frm::Hear(Broadcast broadcast) {
         break;
     case Broadcast::Session_Ends:
         return May_End();
+    case Broadcast::Session_Over:
+        ended_ = true;
+        platform::End_Message_Loop();
+        break;
+    case Broadcast::Close_Request:
+        End_Program();
+        break;
     }
     return true;
 }

@@ -83,6 +83,8 @@ public:
     /// Shows the text that was saved for a day in its box, if that is one of the shown month.
     void Show_Saved(const Date &date, std::string_view text);
     void Update_Title();
+    /// Makes today's month the shown one, without drawing it. Gives today.
+    Date Take_Today();
     /// All of the display, after the shown month changed.
     void Redraw();
 
@@ -128,6 +130,7 @@ public:
     // What the user and the time do.
     void Next_Month();
     void Previous_Month();
+    void Step_Year(int years);
     void Edit_Box(int index);
     void Show_Today_Event();
     void Form_KeyDown(const platform::Input_Event &event);
@@ -217,7 +220,7 @@ private:
 
     void Unmark(int index);
     void Describe_Boxes();
-    void Describe_Arrows();
+    void Describe_Heading();
     void Set_Event_Value(int index, std::string_view text);
     void Fill_Box(int index, std::string_view text);
     void Show_Entered();
@@ -250,8 +253,10 @@ private:
     std::optional<Described_Month> described_;
     /// Texts that are read and not in their boxes yet.
     std::array<std::optional<std::string>, box_count> entered_;
-    unsigned fills_ = 0;    ///< counts the fillings: one that begins inside another puts an end to that
-    int Desktop_Height = 0; ///< of the work area at the last placement, twips
+    bool stale_ = false; ///< what was laid out is not what the month shows now: it changed in compact mode
+    platform::Point placed_; ///< where Position_Form put the window last
+    unsigned fills_ = 0;     ///< counts the fillings: one that begins inside another puts an end to that
+    int Desktop_Height = 0;  ///< of the work area at the last placement, twips
     std::optional<Drag> drag_;
     Repeated_Guard placement_guard_;
 
@@ -259,6 +264,7 @@ private:
     bool mark_used_ = false;    ///< the keyboard has been used to go over the days
     bool has_focus_ = false;
     int pending_key_ = 0;           ///< went down here and acts when it comes up
+    bool stray_key_ = false;        ///< a key that comes up now went down in another window
     std::optional<Date> mark_told_; ///< the day that was announced as having the focus
 
     int held_box_ = -1;

@@ -50,9 +50,12 @@ void Main_Frm::Popup_Menu(int index, const Point *at) {
 
 void Main_Frm::Clear_Box(int index) {
     // A key of its own: an open editor keeps the day that it edits.
-    const std::string key = Date_Key(Date_Of_Box(index));
+    const Date date = Date_Of_Box(index);
     Events.Load_File();
-    Events.Check_For_Pre(key, "", false);
+    Events.Check_For_Pre(Date_Key(date), "", false);
+    // Midnight may have come while a failure was told, and the box may be another day's.
+    if (date != Date_Of_Box(index))
+        return;
     Box_Caption_Lbl[index].Set_Caption({});
     Box_Caption_Lbl[index].Set_Tooltip({});
     Box_Lbl[index].Set_Tooltip({});
@@ -67,6 +70,7 @@ void Main_Frm::Popup_Title_Menu(Point mouse) {
 }
 
 void Main_Frm::Popup_Months(const Point *at) {
+    const std::int16_t year = Cur_Year;
     std::vector<Menu_Item> items;
     for (const char *month : month_items) {
         const int id = static_cast<int>(items.size()) + 1;
@@ -76,6 +80,7 @@ void Main_Frm::Popup_Months(const Point *at) {
     if (chosen == 0)
         return;
     Cur_Month = static_cast<std::int16_t>(chosen);
+    Cur_Year = year; // also when the year has changed under the menu
     Redraw();
 }
 
@@ -98,9 +103,7 @@ void Main_Frm::Popup_Years(const Point *at) {
     if (chosen == 0)
         return;
     if (chosen == years_around + 1) {
-        const Date today = Today();
-        Cur_Month = today.month;
-        Cur_Year = today.year;
+        Take_Today();
     } else {
         Cur_Year = static_cast<std::int16_t>(middle + chosen - 1 - years_around);
     }

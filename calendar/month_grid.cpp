@@ -191,9 +191,10 @@ void Main_Frm::Describe_Boxes() {
     described_ = wanted;
 }
 
-void Main_Frm::Describe_Arrows() {
+void Main_Frm::Describe_Heading() {
     platform::Access_State access;
     access.role = platform::Access_Role::Title;
+    access.default_action = Compacted ? "Expand" : "Compact";
     Which_Month_Lbl.Set_Access(access);
     access.role = platform::Access_Role::Button;
     access.default_action = "Press";

@@ -23,17 +23,6 @@ constexpr const char *style_question =
     "You can't change the box style because Use Theme Style is selected. Do you want to turn off Use Theme "
     "Style?";
 
-/// Changes and stores a setting. Throws platform::Registry_Error, and then it is as it was.
-void Change_Setting(std::int16_t &setting, std::int16_t value, const char *key) {
-    const std::int16_t before = std::exchange(setting, value);
-    try {
-        Save_Setting(key);
-    } catch (...) {
-        setting = before;
-        throw;
-    }
-}
-
 } // namespace
 
 void Main_Frm::Next_Month() {
@@ -56,9 +45,18 @@ void Main_Frm::Previous_Month() {
     Redraw();
 }
 
+void Main_Frm::Step_Year(int years) {
+    const int year = Cur_Year + years;
+    if (year < first_year || year > last_year)
+        return;
+    Cur_Year = static_cast<std::int16_t>(year);
+    Redraw();
+}
+
 void Main_Frm::Redraw() {
     Update_Title();
     // In compact mode no box may appear; leaving it lays the month out afresh.
+    stale_ = Compacted;
     if (Compacted)
         return;
     Set_Day_Headers();
@@ -93,12 +91,14 @@ void Main_Frm::Change_Style(int step) {
     const int style = ((Cur_Settings.Style == 0 ? 0 : 1) + step + style_count) % style_count;
     Change_Setting(Cur_Settings.Style, static_cast<std::int16_t>(style), "Style");
     Hide_Balloon();
+    // The window gets another size. One that stands at its set position keeps to it, so that it neither runs
+    // off the screen nor floats; one that was dragged away, or is only its title, stays where it is.
+    const bool stands = !Compacted && placed_ == platform::Point{Left(), Top()};
     Which_Style(Effective_Style());
+    if (stands)
+        Position_Form(Effective_Position());
     TransparentForm();
     Load_Dates();
-    // The window has another size now. In compact mode the title stays where it is until the month is back.
-    if (!Compacted)
-        Position_Form(Effective_Position());
 }
 
 void Main_Frm::Show_Today_Event() {
@@ -113,8 +113,8 @@ void Main_Frm::Show_Today_Event() {
 
 void Main_Frm::Form_KeyUp(const platform::Input_Event &event) {
     const bool pending = std::exchange(pending_key_, 0) == event.key;
-    // Alt+F4 closes the window; its F4 is no step to the next month.
-    if (event.alt)
+    // Alt+F4 closes a window, this one or another; its F4 is no step to the next month.
+    if (event.alt || std::exchange(stray_key_, false))
         return;
     Function_Key(event.key);
     if (pending)

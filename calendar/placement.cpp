@@ -19,8 +19,10 @@ void Main_Frm::Position_Form(std::int16_t code) {
     placement.form = {Width(), Height()};
     placement.lowest_box_bottom = lowest.Top() + lowest.Height();
     placement.manual = {Cur_Settings.Manual_PosX, Cur_Settings.Manual_PosY};
-    if (const auto place = Position_Of(code, placement))
+    if (const auto place = Position_Of(code, placement)) {
         Move(place->x, place->y);
+        placed_ = {Left(), Top()};
+    }
 }
 
 void Main_Frm::Remember_Height(int twips) {

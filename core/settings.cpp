@@ -8,6 +8,7 @@
 
 #include <array>
 #include <type_traits>
+#include <utility>
 
 Settings Cur_Settings;
 
@@ -126,4 +127,14 @@ void Load_Settings() {
 void Save_Setting(std::string_view key) {
     const Setting_Row &row = Setting_Row_Of(key);
     platform::Write_User_Value(Store_Key(row), row.key, Setting_Text(Cur_Settings, row));
+}
+
+void Change_Setting(std::int16_t &variable, std::int16_t value, std::string_view key) {
+    const std::int16_t before = std::exchange(variable, value);
+    try {
+        Save_Setting(key);
+    } catch (...) {
+        variable = before;
+        throw;
+    }
 }

@@ -75,5 +75,9 @@ std::string Setting_Text(const Settings &settings, const Setting_Row &row);
 /// Converts `text` and puts it into the variable of a row. Throws Conversion_Error.
 void Set_From_Text(Settings &settings, const Setting_Row &row, std::string_view text);
 
+/// Changes a variable of Cur_Settings and stores it under its key. Throws platform::Registry_Error, and then
+/// the variable is as it was.
+void Change_Setting(std::int16_t &variable, std::int16_t value, std::string_view key);
+
 /// Stores the present value of the setting `key` of Cur_Settings. Throws platform::Registry_Error.
 void Save_Setting(std::string_view key);

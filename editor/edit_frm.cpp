@@ -159,6 +159,8 @@ void Edit_Frm::Message_Txt_Change() {
 void Edit_Frm::Form_Unload() {
     Close();
     calendar_.Resume_Auto_Compact();
+    if (On_Unload)
+        On_Unload();
 }
 
 void Edit_Frm::Lay_Out() {
@@ -188,7 +190,9 @@ void Edit_Frm::Lay_Out() {
 
 /// Below the box, or above it where there is no room below. The platform keeps the window on the screen.
 void Edit_Frm::Place_Near(const Control &box) {
-    const Rect area = platform::Work_Area();
+    const Rect area =
+        platform::Work_Area_Around({Twips_To_Pixels(calendar_.Left() + box.Left() + box.Width() / 2),
+                                    Twips_To_Pixels(calendar_.Top() + box.Top() + box.Height() / 2)});
     const int height = Height() + title_bar;
     const int box_top = calendar_.Top() + box.Top();
     const int below = calendar_.Top() + box.Bounds().Bottom() + gap;

@@ -6,6 +6,8 @@
 #include "core/date.h"
 #include "toolkit/form.h"
 
+#include <functional>
+
 /// Edits one day at a time. That day stays the editor's own while it is open, whatever month the calendar
 /// shows meanwhile.
 class Edit_Frm : public Form {
@@ -29,6 +31,9 @@ public:
     void Ok_Btn_Click();
     void Cancel_Btn_Click();
     void Message_Txt_Change();
+
+    /// After the editor was closed, by whatever way.
+    std::function<void()> On_Unload;
 
     Label Date_Lbl;
     Label Message_Lbl; ///< names the text box

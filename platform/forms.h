@@ -114,7 +114,9 @@ struct Form_Model {
     std::string title;
     Rect bounds; ///< on the screen, twips; of a dialog the client area's size counts
     bool visible = false;
-    bool floating = false; ///< a painted form that appears above all windows and never takes the keyboard
+    /// A painted form that appears above all windows and never takes the keyboard. It has no owner: the
+    /// calendar may be inside a window of the shell's process, which an owned window would be tied to.
+    bool floating = false;
     Colour back_colour = System_Colour(15);
     Pointer_Shape pointer = Pointer_Shape::Arrow;
     std::vector<Control_State *> controls; ///< in paint and tab order

@@ -8,7 +8,7 @@
 
 namespace platform {
 
-/// Dispatches messages until End_Message_Loop is called. To be called once, from the program's start.
+/// Dispatches messages until End_Message_Loop is called. Not from inside a handler.
 void Run_Message_Loop();
 
 /// Makes Run_Message_Loop return after the current message.
@@ -35,6 +35,8 @@ enum class Broadcast {
     Display_Changed,  ///< the screen's size or depth
     Colours_Changed,  ///< the Windows colours
     Session_Ends,     ///< the user is about to log off or shut down; the last chance to keep something
+    Session_Over,     ///< the session ends now, whatever the program says
+    Close_Request,    ///< somebody asks the program to close, as a task manager does
 };
 
 /// Names the one listener of the broadcasts. It must not throw. Its answer counts for Session_Ends: false

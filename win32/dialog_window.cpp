@@ -151,6 +151,13 @@ void Dialog_Window::Focus() {
         control = GetNextDlgTabItem(window_, nullptr, FALSE);
     if (control != nullptr && GetFocus() != control)
         SendMessageW(window_, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(control), TRUE);
+    // Behind the text and not over all of it, where the first key typed would wipe it out.
+    const int index = Model()->focused;
+    if (index >= 0 && control == Control_Window(index) &&
+        Model()->controls[static_cast<std::size_t>(index)]->kind == platform::Control_Kind::Text_Box) {
+        const auto end = static_cast<WPARAM>(GetWindowTextLengthW(control));
+        SendMessageW(control, EM_SETSEL, end, static_cast<LPARAM>(end));
+    }
 }
 
 void Dialog_Window::Scale_Changed() {

@@ -79,6 +79,13 @@ LRESULT CALLBACK Broadcast_Procedure(HWND window, UINT message, WPARAM wparam, L
         // The end itself, WM_ENDSESSION, leaves no time for a question: whoever agrees has to be done here.
         if (message == WM_QUERYENDSESSION)
             return Tell(platform::Broadcast::Session_Ends) ? TRUE : FALSE;
+        if (message == WM_ENDSESSION && wparam != FALSE)
+            Tell(platform::Broadcast::Session_Over);
+        if (message == WM_CLOSE) {
+            // Not the window's end: the timers and the broadcasts live in it.
+            Tell(platform::Broadcast::Close_Request);
+            return 0;
+        }
         if (Heard(message, wparam))
             return 0;
     } catch (...) {

@@ -219,6 +219,7 @@ int Track_Popup_Menu(Form_Model &, const std::vector<Menu_Item> &items, const Po
 }
 
 void Run_Message_Loop() {
+    Desktop().loop_ended = false;
     if (Desktop().in_the_loop)
         Desktop().in_the_loop();
     if (!Desktop().loop_ended)
