@@ -4,6 +4,7 @@
 #include "platform/drawing.h"
 #include "platform/text.h"
 #include "toolkit/units.h"
+#include "ui/wrap_text.h"
 
 #include <algorithm>
 
@@ -54,21 +55,8 @@ int Line_Pixels(const platform::Font &font) {
     return std::max(Twips_To_Pixels(platform::Line_Height(font)), 1);
 }
 
-/// Converts edge by edge: sums of lengths that were rounded to twips would drift off the pixels.
-Rect In_Twips(const Rect &pixels) {
-    const int left = Pixels_To_Twips(pixels.left);
-    const int top = Pixels_To_Twips(pixels.top);
-    return {left, top, Pixels_To_Twips(pixels.Right()) - left, Pixels_To_Twips(pixels.Bottom()) - top};
-}
-
-Rect In_Pixels(const Rect &twips) {
-    const int left = Twips_To_Pixels(twips.left);
-    const int top = Twips_To_Pixels(twips.top);
-    return {left, top, Twips_To_Pixels(twips.Right()) - left, Twips_To_Pixels(twips.Bottom()) - top};
-}
-
 void Place_Heading(Label &label, const Rect &pixels, const platform::Font &font) {
-    label.Move(In_Twips(pixels));
+    label.Move(Pixels_To_Twips(pixels));
     label.Set_Font(font);
     label.Set_Align(platform::Text_Align::Centre, true);
     label.Set_Transparent(true);
@@ -141,14 +129,15 @@ void Main_Frm::Which_Style(std::int16_t style) {
         const int row = i / days_a_week;
         const int column = i % days_a_week;
         Label &box = Box_Lbl[i];
-        box.Move(In_Twips({column * (width + space), boxes_top + row * (height + space), width, height}));
+        box.Move(Pixels_To_Twips(
+            Rect{column * (width + space), boxes_top + row * (height + space), width, height}));
         number_font.bold = box.Font().bold; // today's stays bold
         box.Set_Font(number_font);
         box.Set_Padding(Pixels_To_Twips(Pixels(number_inset)));
     }
     DDD_Style(style);
-    const Rect last = In_Pixels(Box_Lbl[box_count - 1].Bounds());
-    const Rect whole = In_Twips({0, 0, full_width, last.Bottom()});
+    const Rect last = Twips_To_Pixels(Box_Lbl[box_count - 1].Bounds());
+    const Rect whole = Pixels_To_Twips(Rect{0, 0, full_width, last.Bottom()});
     Resize(whole.width, whole.height);
 }
 
@@ -157,14 +146,14 @@ void Main_Frm::DDD_Style(std::int16_t style) {
     const int below = Pixels(text_below);
     const int line = Line_Pixels(text_font);
     for (int i = 0; i < box_count; ++i) {
-        const Rect box = In_Pixels(Box_Lbl[i].Bounds());
+        const Rect box = Twips_To_Pixels(Box_Lbl[i].Bounds());
         const int number_bottom = box.top + Pixels(number_inset) + Line_Pixels(Box_Lbl[i].Font());
         Rect text{box.left + inset, number_bottom, box.width - 2 * inset, 0};
         // One line stands at the lower edge; several begin below the number.
         if (Lengths_Of(style).lines == 1)
             text.top = box.Bottom() - below - line;
         text.height = box.Bottom() - below - text.top;
-        Box_Caption_Lbl[i].Move(In_Twips(text));
+        Box_Caption_Lbl[i].Move(Pixels_To_Twips(text));
         Box_Caption_Lbl[i].Set_Font(text_font);
         Box_Caption_Lbl[i].Set_Transparent(true);
     }
@@ -198,33 +187,24 @@ std::string_view Main_Frm::Measurable(const Label &label, std::string_view text)
     return text;
 }
 
-/// Where the line of `rest` ends that fits the label: at a blank, or inside a word that is wider than a line.
-std::size_t Main_Frm::Line_End(const Label &label, std::string_view rest) {
-    std::size_t end = 0;
-    for (std::size_t at = rest.find(' '); at != std::string_view::npos && Fits(label, rest.substr(0, at));
-         at = rest.find(' ', at + 1))
-        end = at;
-    if (end != 0)
-        return end;
-    DotDotDot_Lbl.Set_Caption(std::string(Measurable(label, rest)));
-    Get_Line(label);
-    return DotDotDot_Lbl.Caption().size();
-}
-
 void Main_Frm::DotDotDot(Label &label, std::string_view text) {
     bool more = false;
     const std::string all = Blanks_Made_One(text, more);
     std::string_view rest = all;
+    const int lines = std::max(Twips_To_Pixels(label.Bounds()).height / Line_Pixels(label.Font()), 1);
     std::string shown;
-    int lines_left = std::max(In_Pixels(label.Bounds()).height / Line_Pixels(label.Font()), 1);
-    for (; lines_left > 1 && (more || !Fits(label, rest)); --lines_left) {
-        const std::size_t end = Line_End(label, rest);
-        if (end == 0)
-            break;
-        shown.append(rest.substr(0, end)).append("\n");
-        rest.remove_prefix(end);
-        if (rest.starts_with(' '))
-            rest.remove_prefix(1);
+    // All lines but the last one, in which "..." may have to stand. Where not one character fits there are
+    // none.
+    if (more || !Fits(label, rest)) {
+        const std::vector<std::string> taken =
+            Take_Lines(rest, DotDotDot_Lbl.Font(), label.Width() - 1, static_cast<std::size_t>(lines - 1));
+        if (!taken.empty() && !Fits(label, taken.front()))
+            rest = all;
+        else
+            for (const std::string &line : taken)
+                shown.append(shown.empty() ? "" : "\n").append(line);
+        if (!shown.empty() && (more || !rest.empty()))
+            shown += '\n';
     }
     if (!more && Fits(label, rest)) {
         shown.append(rest);

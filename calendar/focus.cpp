@@ -1,29 +1,11 @@
 // The keyboard's way over the days: a mark on one day box, which the arrow keys move and the other keys act
 // on. The mark is seen once the keyboard has been used for it, and while the window has the focus.
 #include "calendar/main_frm.h"
+#include "toolkit/keys.h"
 
 #include <algorithm>
 
 using platform::Point;
-
-namespace {
-
-// Virtual key codes.
-constexpr int key_return = 13;
-constexpr int key_page_up = 33;
-constexpr int key_page_down = 34;
-constexpr int key_home = 36;
-constexpr int key_left = 37;
-constexpr int key_up = 38;
-constexpr int key_right = 39;
-constexpr int key_down = 40;
-constexpr int key_delete = 46;
-constexpr int key_m = 77;
-constexpr int key_y = 89;
-constexpr int key_menu = 93;
-constexpr int key_f10 = 121;
-
-} // namespace
 
 void Main_Frm::Form_KeyDown(const platform::Input_Event &event) {
     // Keys come only to a window that has the focus.
@@ -31,12 +13,12 @@ void Main_Frm::Form_KeyDown(const platform::Input_Event &event) {
     stray_key_ = false;
     if (event.alt)
         return;
-    if (event.control_key && (event.key == key_page_up || event.key == key_page_down))
-        return Step_Year(event.key == key_page_up ? -1 : 1);
+    if (event.control_key && (event.key == Key_Page_Up || event.key == Key_Page_Down))
+        return Step_Year(event.key == Key_Page_Up ? -1 : 1);
     if (event.control_key)
         return;
-    const bool menu = event.key == key_menu || (event.key == key_f10 && event.shift);
-    if (menu || event.key == key_return || event.key == key_delete) {
+    const bool menu = event.key == Key_Menu || (event.key == Key_F10 && event.shift);
+    if (menu || event.key == Key_Return || event.key == Key_Delete) {
         // These act when they come up, if they went down here: the key that closes a message box, or is held
         // too long, does nothing to the days.
         if (!event.repeated)
@@ -48,34 +30,34 @@ void Main_Frm::Form_KeyDown(const platform::Input_Event &event) {
 
 bool Main_Frm::Day_Key(int key) {
     switch (key) {
-    case key_left:
+    case Key_Left:
         Move_Mark(-1);
         return true;
-    case key_right:
+    case Key_Right:
         Move_Mark(1);
         return true;
-    case key_up:
+    case Key_Up:
         Move_Mark(-days_a_week);
         return true;
-    case key_down:
+    case Key_Down:
         Move_Mark(days_a_week);
         return true;
-    case key_page_up:
+    case Key_Page_Up:
         Previous_Month();
         return true;
-    case key_page_down:
+    case Key_Page_Down:
         Next_Month();
         return true;
-    case key_home:
+    case Key_Home:
         mark_used_ = true;
         mark_day_ = Take_Today().day;
         Redraw();
         return true;
-    case key_m:
-    case key_y: {
+    case Key_M:
+    case Key_Y: {
         const Point below{Which_Month_Lbl.Left() + Which_Month_Lbl.Width() / 2,
                           Which_Month_Lbl.Top() + Which_Month_Lbl.Height()};
-        if (Compacted || key == key_y)
+        if (Compacted || key == Key_Y)
             Popup_Years(&below);
         else
             Popup_Months(&below);
@@ -87,7 +69,7 @@ bool Main_Frm::Day_Key(int key) {
 }
 
 void Main_Frm::Act_On_Marked(int key) {
-    const bool menu = key == key_menu || key == key_f10;
+    const bool menu = key == Key_Menu || key == Key_F10;
     if (Compacted) {
         const Point below{Which_Month_Lbl.Left() + Which_Month_Lbl.Width() / 2,
                           Which_Month_Lbl.Top() + Which_Month_Lbl.Height()};
@@ -102,9 +84,9 @@ void Main_Frm::Act_On_Marked(int key) {
         const Point middle{Box_Lbl[box].Left() + Box_Lbl[box].Width() / 2,
                            Box_Lbl[box].Top() + Box_Lbl[box].Height() / 2};
         Popup_Menu(box, &middle);
-    } else if (seen_before && key == key_return) {
+    } else if (seen_before && key == Key_Return) {
         Edit_Box(box);
-    } else if (seen_before && key == key_delete) {
+    } else if (seen_before && key == Key_Delete) {
         Clear_Box(box);
     }
 }

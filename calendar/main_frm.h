@@ -244,7 +244,6 @@ private:
     void Move_Into(platform::Shell_Window desktop, unsigned patience);
     void Attach_Timer_Timer();
 
-    std::size_t Line_End(const Label &label, std::string_view rest);
     std::string_view Measurable(const Label &label, std::string_view text);
     bool Fits(const Label &label, std::string_view text);
 

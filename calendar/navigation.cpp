@@ -2,20 +2,11 @@
 #include "calendar/main_frm.h"
 #include "core/settings.h"
 #include "platform/message_box.h"
+#include "toolkit/keys.h"
 
 #include <utility>
 
 namespace {
-
-// Virtual key codes.
-constexpr int key_f1 = 112;
-constexpr int key_f2 = 113;
-constexpr int key_f3 = 114;
-constexpr int key_f4 = 115;
-constexpr int key_f5 = 116;
-constexpr int key_f8 = 119;
-constexpr int key_f9 = 120;
-constexpr int key_f12 = 123;
 
 constexpr int style_count = 2;
 
@@ -124,20 +115,20 @@ void Main_Frm::Form_KeyUp(const platform::Input_Event &event) {
 
 void Main_Frm::Function_Key(int key) {
     switch (key) {
-    case key_f1:
+    case Key_F1:
         return Show_Today_Event();
-    case key_f2:
+    case Key_F2:
         return Previous_Month();
-    case key_f4:
+    case Key_F4:
         return Next_Month();
-    case key_f3:
-    case key_f5:
+    case Key_F3:
+    case Key_F5:
         return Redraw();
-    case key_f8:
+    case Key_F8:
         return Change_Style(1);
-    case key_f9:
+    case Key_F9:
         return Change_Style(-1);
-    case key_f12:
+    case Key_F12:
         return Which_Month_Lbl_DblClick();
     default:
         return;

@@ -18,3 +18,15 @@ int Snap(int twips) {
     const int pixels = Twips_To_Pixels(twips);
     return Pixels_To_Twips(twips > 0 ? std::max(pixels, 1) : pixels);
 }
+
+platform::Rect Twips_To_Pixels(const platform::Rect &twips) {
+    const int left = Twips_To_Pixels(twips.left);
+    const int top = Twips_To_Pixels(twips.top);
+    return {left, top, Twips_To_Pixels(twips.Right()) - left, Twips_To_Pixels(twips.Bottom()) - top};
+}
+
+platform::Rect Pixels_To_Twips(const platform::Rect &pixels) {
+    const int left = Pixels_To_Twips(pixels.left);
+    const int top = Pixels_To_Twips(pixels.top);
+    return {left, top, Pixels_To_Twips(pixels.Right()) - left, Pixels_To_Twips(pixels.Bottom()) - top};
+}

@@ -25,11 +25,6 @@ constexpr platform::Colour back_colour = platform::System_Colour(24);
 constexpr platform::Colour border_colour = platform::System_Colour(21);
 constexpr platform::Colour icon_colour = platform::Rgb(0x1F, 0x5F, 0xBF);
 
-Rect In_Twips(const Rect &pixels) {
-    return {Pixels_To_Twips(pixels.left), Pixels_To_Twips(pixels.top), Pixels_To_Twips(pixels.width),
-            Pixels_To_Twips(pixels.height)};
-}
-
 void Prepare(Label &label, const platform::Font &font) {
     label.Set_Transparent(true);
     label.Set_Font(font);
@@ -64,7 +59,7 @@ frmBalloon::frmBalloon()
 void frmBalloon::SetBalloon(const std::string &title, std::string_view text, std::string_view icon,
                             std::string_view, int width, int height) {
     const Point mouse = platform::Mouse_Position();
-    const Rect work = In_Twips(platform::Work_Area_Around(mouse));
+    const Rect work = Pixels_To_Twips(platform::Work_Area_Around(mouse));
     const int line = std::max(platform::Line_Height(text_font), 1);
     const int heading = std::max(icon_size, platform::Line_Height(title_font));
     const int around = 2 * margin + heading + gap;

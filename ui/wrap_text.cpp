@@ -83,13 +83,10 @@ std::string With_Plain_Breaks(std::string_view text, bool &more) {
 
 } // namespace
 
-std::vector<std::string> Wrap_Text(std::string_view text, const platform::Font &font, int width,
-                                   std::size_t max_lines) {
-    bool more = false;
-    const std::string plain = With_Plain_Breaks(text, more);
+std::vector<std::string> Take_Lines(std::string_view &rest, const platform::Font &font, int width,
+                                    std::size_t max_lines) {
     const Line_Breaker breaker(font, width);
     std::vector<std::string> lines;
-    std::string_view rest = plain;
     while (!rest.empty() && lines.size() < max_lines) {
         const std::string_view paragraph = rest.substr(0, rest.find('\n'));
         const std::size_t end = breaker.Line_End(paragraph);
@@ -102,7 +99,16 @@ std::vector<std::string> Wrap_Text(std::string_view text, const platform::Font &
         while (rest.starts_with(' '))
             rest.remove_prefix(1);
     }
+    return lines;
+}
+
+std::vector<std::string> Wrap_Text(std::string_view text, const platform::Font &font, int width,
+                                   std::size_t max_lines) {
+    bool more = false;
+    const std::string plain = With_Plain_Breaks(text, more);
+    std::string_view rest = plain;
+    std::vector<std::string> lines = Take_Lines(rest, font, width, max_lines);
     if ((more || !rest.empty()) && !lines.empty())
-        breaker.Cut(lines.back());
+        Line_Breaker(font, width).Cut(lines.back());
     return lines;
 }

@@ -7,6 +7,11 @@
 #include <string_view>
 #include <vector>
 
+/// Takes lines off the beginning of `rest`, at most `max_lines` of them, as Wrap_Text breaks them; each ends
+/// at a "\n" or where no more fits into `width` twips.
+std::vector<std::string> Take_Lines(std::string_view &rest, const platform::Font &font, int width,
+                                    std::size_t max_lines);
+
 /// The lines of `text`, broken at blanks, and inside a word that is wider than a line. `width` is in twips.
 /// Line breaks of the text stay; other control characters are blanks. Of more than `max_lines` lines (1 or
 /// more) the last one ends with "..."; so does a text beyond 16 KB, which is not laid out any further.
