@@ -77,6 +77,9 @@ long State_Of(const Form_Model &form, const Control_State &control, bool window_
     if (!Is_Presented(control))
         return STATE_SYSTEM_INVISIBLE;
     long state = control.enabled && Open_Modal_Boxes == 0 ? 0 : STATE_SYSTEM_UNAVAILABLE;
+    // The keyboard reaches every day.
+    if (control.access.role == Access_Role::Cell)
+        state |= STATE_SYSTEM_FOCUSABLE | STATE_SYSTEM_SELECTABLE;
     if (control.access.current)
         state |= STATE_SYSTEM_SELECTED | STATE_SYSTEM_SELECTABLE;
     if (form.focused == control.index)

@@ -2,6 +2,7 @@
 #include "win32/dialog_edit.h"
 #include "win32/dialog_window.h"
 #include "win32/fonts.h"
+#include "win32/modal.h"
 #include "win32/units.h"
 #include "win32/wide_text.h"
 
@@ -171,6 +172,8 @@ void Dialog_Window::Command(int id, int code) {
 }
 
 void Dialog_Window::Cancel() {
+    if (Open_Modal_Boxes > 0)
+        return;
     for (const Control_State *control : Model()->controls) {
         if (!control->is_cancel)
             continue;
@@ -182,6 +185,12 @@ void Dialog_Window::Cancel() {
 }
 
 void Dialog_Window::Click(const Control_State &control) {
+    if (Open_Modal_Boxes > 0) {
+        // A check box has changed by itself already.
+        SendMessageW(Control_Window(control.index), BM_SETCHECK,
+                     control.checked ? BST_CHECKED : BST_UNCHECKED, 0);
+        return;
+    }
     Input_Event event{};
     event.kind = Input_Kind::Clicked;
     event.control = control.index;

@@ -3,6 +3,7 @@
 
 #include "win32/dialog_edit.h"
 #include "win32/dialog_template.h"
+#include "win32/modal.h"
 #include "win32/units.h"
 #include "win32/wide_text.h"
 
@@ -52,7 +53,9 @@ LRESULT Dialog_Window::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
         Command(LOWORD(wparam), HIWORD(wparam));
         return 0;
     case WM_CLOSE:
-        Send(Input_Kind::Close);
+        // Nothing is done beside an open message box, whoever asks for it.
+        if (Open_Modal_Boxes == 0)
+            Send(Input_Kind::Close);
         return 0;
     case WM_ACTIVATE: {
         // The system's part first: it gives the keyboard back to the control that had it.

@@ -3,6 +3,7 @@
 
 #include "win32/dialog_window.h"
 #include "win32/fonts.h"
+#include "win32/menu_images.h"
 #include "win32/mirror.h"
 #include "win32/painted_window.h"
 #include "win32/system_error.h"
@@ -67,6 +68,8 @@ LRESULT Mirror::Receive(HWND window, UINT message, WPARAM wparam, LPARAM lparam,
         if (message == WM_NCDESTROY) {
             SetWindowLongPtrW(window, GWLP_USERDATA, 0);
             mirror->Window_Gone();
+        } else if (Answer_Menu_Image(message, lparam)) {
+            return TRUE;
         } else if (mirror->Model() != nullptr) {
             return mirror->Handle(message, wparam, lparam);
         }

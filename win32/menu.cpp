@@ -10,24 +10,24 @@ namespace platform {
 
 namespace {
 
-/// The images take the place of the check marks, so that there is no empty column before them.
-void Share_Check_Column(HMENU menu) {
+/// No item is ever checked: without the column for check marks the images stand at the edge.
+void Leave_Check_Column_Out(HMENU menu) {
     MENUINFO info = {};
     info.cbSize = sizeof info;
     info.fMask = MIM_STYLE;
-    info.dwStyle = MNS_CHECKORBMP;
+    info.dwStyle = MNS_NOCHECK;
     SetMenuInfo(menu, &info);
 }
 
-void Insert_Item(HMENU menu, UINT position, const Menu_Item &item, HBITMAP image) {
+void Insert_Item(HMENU menu, UINT position, const Menu_Item &item) {
     std::wstring text = win32::To_Wide(item.text);
     MENUITEMINFOW info = {};
     info.cbSize = sizeof info;
-    info.fMask = MIIM_ID | MIIM_STRING | MIIM_STATE | (image != nullptr ? MIIM_BITMAP : 0U);
+    info.fMask = MIIM_ID | MIIM_STRING | MIIM_STATE;
     info.fState = item.enabled ? MFS_ENABLED : MFS_GRAYED;
     info.wID = static_cast<UINT>(item.id);
     info.dwTypeData = text.data();
-    info.hbmpItem = image;
+    win32::Set_Menu_Image(info, item.image);
     InsertMenuItemW(menu, position, TRUE, &info);
 }
 
@@ -35,16 +35,13 @@ void Insert_Item(HMENU menu, UINT position, const Menu_Item &item, HBITMAP image
 
 int Track_Popup_Menu(Form_Model &owner, const std::vector<Menu_Item> &items, const Point *at) {
     const HWND window = win32::Window_Of_Form(owner);
-    // A menu does not own its bitmaps: they are declared first, to go after it.
-    std::vector<win32::Unique_Bitmap> images;
     const win32::Unique_Menu menu(CreatePopupMenu());
     if (window == nullptr || !menu)
         return 0;
-    Share_Check_Column(menu.Get());
-    for (const Menu_Item &item : items) {
-        images.push_back(win32::Draw_Menu_Image(item.image));
-        Insert_Item(menu.Get(), static_cast<UINT>(images.size() - 1), item, images.back().Get());
-    }
+    Leave_Check_Column_Out(menu.Get());
+    UINT position = 0;
+    for (const Menu_Item &item : items)
+        Insert_Item(menu.Get(), position++, item);
     POINT place = {};
     GetCursorPos(&place);
     if (at != nullptr) {

@@ -1,8 +1,9 @@
-// Drawing the pictures of menu items from polygons on a field of 16 by 16 units.
+// Drawing the pictures of menu items from polygons on a field of 16 by 16 units, when the menus ask for it.
 #include "win32/menu_images.h"
 
 #include "win32/canvas.h"
 #include "win32/smooth_polygon.h"
+#include "win32/system_library.h"
 #include "win32/units.h"
 
 #include <cmath>
@@ -14,6 +15,10 @@ namespace {
 
 using platform::Menu_Image;
 using Corners = std::vector<Smooth_Point>;
+
+/// In pixels at 96 dots per inch: the pictures' sides, and the room between them and the texts.
+constexpr int image_size = 16;
+constexpr int gap = 4;
 
 constexpr std::uint32_t blue = 0x1F0880;
 constexpr std::uint32_t violet = 0x8A7FD6;
@@ -98,18 +103,7 @@ void Draw_Exit(const Field &field) {
     field.Fill({{5.4, 7}, {10.4, 7}, {10.4, 4.4}, {14.6, 8}, {10.4, 11.6}, {10.4, 9}, {5.4, 9}}, violet);
 }
 
-} // namespace
-
-Unique_Bitmap Draw_Menu_Image(Menu_Image image) {
-    if (image == Menu_Image::None)
-        return {};
-    const int size = Scale_Nearest(16, platform::Dots_Per_Inch(), 96);
-    Pixel_Buffer pixels;
-    Unique_Bitmap bitmap = Make_Pixel_Bitmap(size, size, pixels);
-    if (!bitmap)
-        return {};
-    const Field field(pixels);
-    field.Fill({{0, 0}, {16, 0}, {16, 16}, {0, 16}}, Pixel_Colour(platform::System_Colour(COLOR_MENU)));
+void Draw(const Field &field, Menu_Image image) {
     if (image == Menu_Image::Clear)
         Draw_Clear(field);
     else if (image == Menu_Image::Edit)
@@ -118,7 +112,59 @@ Unique_Bitmap Draw_Menu_Image(Menu_Image image) {
         Draw_Settings(field);
     else
         Draw_Exit(field);
-    return bitmap;
+}
+
+int Size_In_Pixels(int at_96_dots) {
+    return Scale_Nearest(at_96_dots, platform::Dots_Per_Inch(), 96);
+}
+
+/// Lays the picture over the item's background, whichever that is.
+void Draw_Item(const DRAWITEMSTRUCT &item) {
+    static const auto blend =
+        Look_Up<BOOL WINAPI(HDC, int, int, int, int, HDC, int, int, int, int, BLENDFUNCTION)>(L"msimg32.dll",
+                                                                                              "AlphaBlend");
+    const int size = Size_In_Pixels(image_size);
+    Pixel_Buffer pixels;
+    const Unique_Bitmap bitmap = Make_Pixel_Bitmap(size, size, pixels);
+    const Unique_Memory_Dc source(CreateCompatibleDC(nullptr));
+    if (blend == nullptr || !bitmap || !source)
+        return;
+    Draw(Field(pixels), static_cast<Menu_Image>(item.itemData));
+    const Selected_Object selected(source.Get(), bitmap.Get());
+    const bool greyed = (item.itemState & (ODS_GRAYED | ODS_DISABLED)) != 0;
+    const BLENDFUNCTION over = {AC_SRC_OVER, 0, static_cast<BYTE>(greyed ? 96 : 255), AC_SRC_ALPHA};
+    const int top = static_cast<int>(item.rcItem.top + item.rcItem.bottom) / 2 - size / 2;
+    blend(item.hDC, static_cast<int>(item.rcItem.left), top, size, size, source.Get(), 0, 0, size, size,
+          over);
+}
+
+} // namespace
+
+void Set_Menu_Image(MENUITEMINFOW &item, Menu_Image image) {
+    if (image == Menu_Image::None)
+        return;
+    item.fMask |= MIIM_BITMAP | MIIM_DATA;
+    item.hbmpItem = HBMMENU_CALLBACK;
+    item.dwItemData = static_cast<ULONG_PTR>(image);
+}
+
+bool Answer_Menu_Image(UINT message, LPARAM lparam) {
+    // Native controls ask for the like, of themselves.
+    if (message == WM_MEASUREITEM) {
+        auto *item = reinterpret_cast<MEASUREITEMSTRUCT *>(lparam);
+        if (item->CtlType != ODT_MENU)
+            return false;
+        item->itemWidth = static_cast<UINT>(Size_In_Pixels(image_size + gap));
+        item->itemHeight = static_cast<UINT>(Size_In_Pixels(image_size));
+        return true;
+    }
+    if (message != WM_DRAWITEM)
+        return false;
+    const auto *item = reinterpret_cast<const DRAWITEMSTRUCT *>(lparam);
+    if (item->CtlType != ODT_MENU)
+        return false;
+    Draw_Item(*item);
+    return true;
 }
 
 } // namespace win32

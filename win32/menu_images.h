@@ -6,8 +6,11 @@
 
 namespace win32 {
 
-/// A new 32-bit bitmap of the picture with smooth edges; null for Menu_Image::None. It lies on the menu's
-/// colour, since not all systems' menus know transparency.
-Unique_Bitmap Draw_Menu_Image(platform::Menu_Image image);
+/// Gives a menu item its picture; does nothing with Menu_Image::None. The menu's owner, which has to be a
+/// form's window, is asked to draw it: not all systems' menus show a bitmap's transparency.
+void Set_Menu_Image(MENUITEMINFOW &item, platform::Menu_Image image);
+
+/// Whether `message` is a menu's question for the size or the drawing of such a picture. It is then answered.
+bool Answer_Menu_Image(UINT message, LPARAM lparam);
 
 } // namespace win32

@@ -65,8 +65,7 @@ LRESULT Painted_Window::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
     LRESULT result = 0;
     if (Handle_Input(message, wparam, lparam, result))
         return result;
-    // Nothing is done beside an open message box, whoever asks for it.
-    if (Open_Modal_Boxes > 0 && (message == WM_CLOSE || message == Default_Action_Message))
+    if (Handle_Posted(message, wparam))
         return 0;
     switch (message) {
     case WM_ERASEBKGND:
@@ -96,30 +95,46 @@ LRESULT Painted_Window::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
         Set_Pointer();
         return TRUE;
     case WM_CLOSE:
-        Send(platform::Input_Kind::Close);
+        if (Open_Modal_Boxes == 0)
+            Send(platform::Input_Kind::Close);
         return 0;
     case WM_DPICHANGED:
-    case Check_Dots_Message:
         Check_Scale(false);
         return 0;
     case WM_GETOBJECT:
         return Answer_Get_Object(window_, wparam, lparam);
+    case WM_NOTIFY:
+        if (tooltips_.Answer(*reinterpret_cast<NMHDR *>(lparam)))
+            return 0;
+        break;
+    default:
+        break;
+    }
+    return DefWindowProcW(window_, message, wparam, lparam);
+}
+
+bool Painted_Window::Handle_Posted(UINT message, WPARAM wparam) {
+    switch (message) {
+    case Check_Dots_Message:
+        Check_Scale(false);
+        return true;
     case Default_Action_Message: {
         platform::Input_Event event{};
         event.kind = platform::Input_Kind::Default_Action;
         event.control = static_cast<int>(wparam);
-        Send(event);
-        return 0;
+        // Nothing is done beside an open message box, whoever asks for it.
+        if (Open_Modal_Boxes == 0)
+            Send(event);
+        return true;
     }
     case Update_Texts_Message:
         texts_dirty_ = false;
         tooltips_.Update(window_, *Model());
         announcements_.Update(window_, *Model());
-        return 0;
+        return true;
     default:
-        break;
+        return false;
     }
-    return DefWindowProcW(window_, message, wparam, lparam);
 }
 
 void Painted_Window::Paint() {

@@ -28,6 +28,8 @@ private:
     void Window_Gone() override;
     /// The messages of the mouse and the keyboard. Returns whether `message` was one, then with its result.
     bool Handle_Input(UINT message, WPARAM wparam, LPARAM lparam, LRESULT &result);
+    /// The window's messages to itself. Returns whether `message` was one.
+    bool Handle_Posted(UINT message, WPARAM wparam);
     bool Handle_Mouse(UINT message, WPARAM wparam, LPARAM lparam);
     bool Handle_Key(UINT message, WPARAM wparam, LPARAM lparam);
     void Button_Down(platform::Mouse_Button button, platform::Input_Event event);

@@ -6,22 +6,89 @@
 
 #include <commctrl.h>
 
+#include <algorithm>
+#include <string_view>
+
 namespace win32 {
 
 namespace {
 
-/// A text that fills the screen helps nobody, and laying it out takes time.
-constexpr std::size_t longest_text = 4000;
+/// More fits on no screen, and laying it out takes time.
+constexpr std::size_t longest_text = 32000;
 
-constexpr int width_at_96_dots = 300;
+/// In pixels at 96 dots per inch: a tip's width as long as its text is short, and what a tip needs besides
+/// its text.
+constexpr int usual_width = 300;
+constexpr int border = 16;
 
-std::wstring Tip_Text(const std::string &text) {
-    std::wstring wide = To_Wide(text);
-    if (wide.size() > longest_text) {
-        wide.resize(longest_text - ((wide[longest_text] & 0xFC00) == 0xDC00 ? 1 : 0));
-        wide += L"...";
+/// The first `length` units of the text or one less: a pair of surrogates stays together.
+std::size_t Whole_Characters(std::wstring_view text, std::size_t length) {
+    const bool splits = length < text.size() && length > 0 && (text[length] & 0xFC00) == 0xDC00;
+    return length - (splits ? 1 : 0);
+}
+
+void Cut(std::wstring &text, std::size_t length) {
+    text.resize(Whole_Characters(text, length));
+    text += L"...";
+}
+
+/// The size that the text takes, wrapped at `width`; wider only when a word is.
+SIZE Measured(HDC dc, const std::wstring &text, LONG width) {
+    RECT rect = {0, 0, width, 0};
+    DrawTextW(dc, text.c_str(), static_cast<int>(text.size()), &rect,
+              DT_CALCRECT | DT_WORDBREAK | DT_NOPREFIX | DT_EXTERNALLEADING);
+    return {rect.right, rect.bottom};
+}
+
+/// The text with line breaks in the words that are wider than `width`: the system does not wrap those.
+std::wstring With_Broken_Words(HDC dc, std::wstring_view text, LONG width) {
+    std::wstring broken;
+    while (!text.empty()) {
+        const std::size_t end = text.find_first_of(L" \t\r\n");
+        const std::wstring_view word = text.substr(0, end == text.npos ? end : end + 1);
+        // No line is longer.
+        const std::size_t looked_at = std::min<std::size_t>(word.size(), 4096);
+        int fitting = 0;
+        SIZE size = {};
+        GetTextExtentExPointW(dc, word.data(), static_cast<int>(looked_at), static_cast<int>(width), &fitting,
+                              nullptr, &size);
+        // The blank behind a word needs no room.
+        const auto taken = static_cast<std::size_t>(std::max(fitting, 2));
+        if (taken + 1 >= word.size()) {
+            broken += word;
+            text.remove_prefix(word.size());
+        } else {
+            const std::size_t part = Whole_Characters(word, taken);
+            (broken += word.substr(0, part)) += L'\n';
+            text.remove_prefix(part);
+        }
     }
-    return wide;
+    return broken;
+}
+
+/// Makes the text fit on a screen with `room`: it is wrapped, and only what is too long for the whole screen
+/// is cut. Returns the width to wrap it at.
+LONG Fit(HDC dc, std::wstring &text, const SIZE &room) {
+    if (text.size() > longest_text)
+        Cut(text, longest_text);
+    LONG width = std::min<LONG>(Scale_Nearest(usual_width, platform::Dots_Per_Inch(), 96), room.cx);
+    SIZE size = Measured(dc, text, width);
+    if (size.cx > room.cx) {
+        text = With_Broken_Words(dc, text, room.cx);
+        width = room.cx;
+        size = Measured(dc, text, width);
+    }
+    while (size.cy > room.cy && width < room.cx) {
+        width = std::min(width + width / 2, room.cx);
+        size = Measured(dc, text, width);
+    }
+    while (size.cy > room.cy && room.cy > 0 && text.size() > 64) {
+        // A little less than in proportion, so that it is done soon.
+        Cut(text,
+            text.size() * static_cast<std::size_t>(room.cy) / static_cast<std::size_t>(size.cy) * 15 / 16);
+        size = Measured(dc, text, width);
+    }
+    return width;
 }
 
 TTTOOLINFOW Tool_Of(HWND owner, std::size_t index) {
@@ -31,6 +98,8 @@ TTTOOLINFOW Tool_Of(HWND owner, std::size_t index) {
     tool.uFlags = TTF_SUBCLASS;
     tool.hwnd = owner;
     tool.uId = index + 1;
+    // Asked for when the tip appears, for each wants a width of its own.
+    tool.lpszText = LPSTR_TEXTCALLBACKW;
     return tool;
 }
 
@@ -58,8 +127,6 @@ void Tooltips::Update(HWND owner, const platform::Form_Model &model) {
         return;
     if (!Make_Window(owner))
         return;
-    SendMessageW(window_, TTM_SETMAXTIPWIDTH, 0,
-                 Scale_Nearest(width_at_96_dots, platform::Dots_Per_Inch(), 96));
     tools_.resize(model.controls.size());
     for (std::size_t i = 0; i < tools_.size(); ++i) {
         const platform::Control_State &control = *model.controls[i];
@@ -81,21 +148,33 @@ void Tooltips::Update_Tool(HWND owner, std::size_t index, Tool wanted) {
         if (known.present)
             SendMessageW(window_, TTM_DELTOOLW, 0, pointer);
     } else if (!known.present) {
-        std::wstring text = Tip_Text(wanted.text);
         tool.rect = wanted.rect;
-        tool.lpszText = text.data();
         wanted.present = SendMessageW(window_, TTM_ADDTOOLW, 0, pointer) != FALSE;
     } else {
         tool.rect = wanted.rect;
         if (!EqualRect(&known.rect, &wanted.rect))
             SendMessageW(window_, TTM_NEWTOOLRECTW, 0, pointer);
-        if (known.text != wanted.text) {
-            std::wstring text = Tip_Text(wanted.text);
-            tool.lpszText = text.data();
+        if (std::exchange(known.text, wanted.text) != wanted.text)
             SendMessageW(window_, TTM_UPDATETIPTEXTW, 0, pointer);
-        }
     }
     known = std::move(wanted);
+}
+
+bool Tooltips::Answer(NMHDR &notice) {
+    if (notice.hwndFrom != window_ || window_ == nullptr || notice.code != TTN_GETDISPINFOW)
+        return false;
+    const std::size_t index = notice.idFrom - 1;
+    if (index >= tools_.size())
+        return false;
+    shown_ = To_Wide(tools_[index].text);
+    const platform::Rect area = platform::Work_Area_Around(platform::Mouse_Position());
+    const int around = Scale_Nearest(border, platform::Dots_Per_Inch(), 96);
+    const Window_Dc dc(window_);
+    const Selected_Object font(dc.Get(), reinterpret_cast<HFONT>(SendMessageW(window_, WM_GETFONT, 0, 0)));
+    const LONG width = Fit(dc.Get(), shown_, {area.width - around, area.height - around});
+    SendMessageW(window_, TTM_SETMAXTIPWIDTH, 0, width);
+    reinterpret_cast<NMTTDISPINFOW &>(notice).lpszText = shown_.data();
+    return true;
 }
 
 void Tooltips::Window_Gone() {

@@ -18,6 +18,8 @@ public:
 
     /// Brings the tools up to date with the controls. The tooltip window is made with the first text.
     void Update(HWND owner, const platform::Form_Model &model);
+    /// What the owner's window is told by WM_NOTIFY: gives the tip its text. Returns whether that was asked.
+    bool Answer(NMHDR &notice);
     /// The owner's window is gone, or goes now.
     void Window_Gone();
 
@@ -34,6 +36,7 @@ private:
 
     HWND window_ = nullptr;
     std::vector<Tool> tools_;
+    std::wstring shown_; ///< the text of the tip that appeared last, which the system reads from here
 };
 
 } // namespace win32
