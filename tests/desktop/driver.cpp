@@ -127,10 +127,14 @@ void Send_Key(WORD key, DWORD flags) {
     SendInput(1, &input, sizeof input);
 }
 
-void Send_Mouse(DWORD flags) {
+/// Place and button in one event: what X tells late of an earlier place would move a mouse that is there
+/// already.
+void Send_Mouse(POINT point, DWORD button) {
     INPUT input{};
     input.type = INPUT_MOUSE;
-    input.mi.dwFlags = flags;
+    input.mi.dx = (point.x * 65536 + 65535) / GetSystemMetrics(SM_CXSCREEN);
+    input.mi.dy = (point.y * 65536 + 65535) / GetSystemMetrics(SM_CYSCREEN);
+    input.mi.dwFlags = MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE | button;
     SendInput(1, &input, sizeof input);
 }
 
@@ -292,38 +296,45 @@ void Program::Answer() const {
 }
 
 bool Program::Uncover(POINT point) const {
-    // On Windows nothing gets below the shell. Under Wine the stand-in comes up in two ways: the X window of
-    // whatever gets the focus is raised, which Wine itself does not know; and Wine puts the window that X has
-    // found below the mouse, some time ago, above the others. So both are asked, and the calendar is moved
-    // twice, since a window that stays where it is is not raised.
+    // Inside the stand-in the calendar is painted in its view only (see shell_standin.cpp). And a calendar
+    // that is a window of its own may get below the stand-in, which on Windows nothing can: Wine raises the X
+    // window of whatever gets the focus, without knowing it, and puts what X has found below the mouse, some
+    // time ago, above the others. So both are asked, and the calendar is moved twice, as what stays in its
+    // place is not raised.
     const HWND calendar = Calendar();
     const HWND standin = FindWindowA("Progman", nullptr);
     return Wait_Until([&] {
         DWORD_PTR answer = 0; // which comes after what X has told the stand-in
         SendMessageTimeoutW(standin, WM_NULL, 0, 0, SMTO_NORMAL, 2000, &answer);
+        if (GetAncestor(calendar, GA_PARENT) == standin)
+            SetParent(calendar, FindWindowExA(standin, nullptr, "SHELLDLL_DefView", nullptr));
         if (Picture().At(point.x, point.y) != Bare_Screen->At(point.x, point.y) &&
             WindowFromPoint(point) == calendar)
             return true;
-        for (const HWND place : {HWND_TOPMOST, HWND_NOTOPMOST})
-            SetWindowPos(calendar, place, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+        if (GetAncestor(calendar, GA_PARENT) == GetDesktopWindow())
+            for (const HWND place : {HWND_TOPMOST, HWND_NOTOPMOST})
+                SetWindowPos(calendar, place, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
         return false;
     });
 }
 
 void Program::Click(const RECT &place) const {
     const POINT middle{(place.left + place.right) / 2, (place.top + place.bottom) / 2};
-    SetCursorPos(middle.x, middle.y);
     EXPECT_TRUE(Uncover(middle)) << "there is nothing to click";
-    Send_Mouse(MOUSEEVENTF_LEFTDOWN);
-    Send_Mouse(MOUSEEVENTF_LEFTUP);
+    Send_Mouse(middle, MOUSEEVENTF_LEFTDOWN);
+    Send_Mouse(middle, MOUSEEVENTF_LEFTUP);
 }
 
 void Program::Press(WORD key, bool with_alt) const {
     const HWND calendar = Calendar();
-    if (GetForegroundWindow() != calendar)
+    const auto has_keyboard = [calendar] {
+        GUITHREADINFO state{};
+        state.cbSize = sizeof state;
+        return GetGUIThreadInfo(0, &state) && state.hwndFocus == calendar;
+    };
+    if (!has_keyboard())
         Click(Named(Title()).place);
-    EXPECT_TRUE(Wait_Until([calendar] { return GetForegroundWindow() == calendar; }))
-        << "no focus by a click";
+    EXPECT_TRUE(Wait_Until(has_keyboard)) << "no keyboard by a click";
     if (with_alt)
         Send_Key(VK_MENU, 0);
     Send_Key(key, 0);
@@ -384,7 +395,9 @@ std::ptrdiff_t Program::Gdi_Objects() const {
     return std::count_if(entries.begin(), entries.end(), [](const Entry &entry) { return entry.type != 0; });
 }
 
-std::ptrdiff_t Program::Windows() const {
+std::ptrdiff_t Program::Windows(bool only_visible) const {
     const std::vector<HWND> all = Windows_Below(nullptr);
-    return std::count_if(all.begin(), all.end(), [this](HWND window) { return Process_Of(window) == id_; });
+    return std::count_if(all.begin(), all.end(), [&](HWND window) {
+        return Process_Of(window) == id_ && (!only_visible || IsWindowVisible(window));
+    });
 }

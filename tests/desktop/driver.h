@@ -82,7 +82,7 @@ public:
 
     long Processor_Ticks() const;       ///< hundredths of a second since its start; -1: not to be had
     std::ptrdiff_t Gdi_Objects() const; ///< -1: not to be had
-    std::ptrdiff_t Windows() const;
+    std::ptrdiff_t Windows(bool only_visible) const;
 
 private:
     HWND Box_Window() const;

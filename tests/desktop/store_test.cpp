@@ -23,9 +23,9 @@ TEST_F(Stored, Malformed_Setting_Ends_The_Program) {
         Set_Setting(section, key, value);
         const std::string before = Store();
         const Program &program = Start();
-        EXPECT_TRUE(Wait_Until([&] { return !program.Box().empty(); }, 15000)) << key;
-        const std::string box = program.Box();
-        EXPECT_TRUE(box.starts_with("stop [Vellatro] ")) << box;
+        std::string box;
+        EXPECT_TRUE(Wait_Until([&] { return (box = program.Box()).starts_with("stop [Vellatro] "); }, 15000))
+            << key << ": " << box;
         for (const char *part : {section, key, value})
             EXPECT_NE(box.find(part), std::string::npos) << box;
         program.Answer();
