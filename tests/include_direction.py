@@ -7,29 +7,15 @@ import os
 import re
 import sys
 
-# From the top down: a folder includes itself and those in the lines below its own.
-LEVELS = (
-    ('app',),
-    ('editor', 'settings'),
-    ('transfer',),
-    ('calendar',),
-    ('ui',),
-    ('themes', 'desktop'),
-    ('toolkit',),
-    ('core',),
-    ('platform',),
-)
-LEVEL_OF = {folder: level for level, folders in enumerate(LEVELS) for folder in folders}
+# From the top down: a folder includes itself and those in the groups after its own.
+LEVELS = ('app', 'editor settings', 'transfer', 'calendar', 'ui', 'themes desktop', 'toolkit', 'core', 'platform')
+LEVEL_OF = {folder: level for level, folders in enumerate(LEVELS) for folder in folders.split()}
 FREE = ('tests', 'bench', 'fuzz')
 WITHOUT_SOURCES = ('build', 'cmake', 'tools', 'packs', 'docs')
-
 SEES_WINDOWS = ('win32/', 'tests/desktop/', 'tests/contract/')
-WINDOWS_HEADERS = {
-    'windows.h', 'windowsx.h', 'windef.h', 'winbase.h', 'winuser.h', 'wingdi.h', 'winreg.h', 'winnls.h',
-    'commctrl.h', 'commdlg.h', 'objbase.h', 'ole2.h', 'oleauto.h', 'olectl.h', 'oleacc.h', 'shellapi.h',
-    'shlobj.h', 'shlwapi.h', 'tchar.h', 'tlhelp32.h', 'psapi.h', 'uxtheme.h', 'io.h', 'direct.h',
-}
-SOURCE_ENDINGS = ('.h', '.hpp', '.inc', '.cpp', '.cc', '.c', '.rc')
+WINDOWS_HEADER = re.compile(
+    r'(win(dows|dowsx|def|base|user|gdi|reg|nls)|comm(ctrl|dlg)|objbase|ole(2|auto|ctl|acc)|shellapi|shlobj|'
+    r'shlwapi|tchar|tlhelp32|psapi|uxtheme|io|direct)\.h', re.IGNORECASE)
 INCLUDE = re.compile(r'\s*#\s*include\s*(?:"([^"]*)"|<([^>]*)>)')
 
 
@@ -40,65 +26,46 @@ def sources(root):
         folders[:] = sorted(f for f in folders
                             if not f.startswith('.') and not (below == '.' and f in WITHOUT_SOURCES))
         for name in sorted(files):
-            if name.endswith(SOURCE_ENDINGS):
+            if name.endswith(('.h', '.hpp', '.inc', '.cpp', '.cc', '.c', '.rc')):
                 yield os.path.normpath(os.path.join(below, name)).replace(os.sep, '/')
 
 
 def wrong_direction(folder, target):
-    """Why a file of the top folder `folder` may not include one of `target`; None when it may."""
+    """Whether a file of the top folder `folder` may not include one of `target`."""
     if folder == target or folder in FREE:
-        return None
+        return False
     if folder == 'win32':
-        return None if target == 'platform' else 'win32/ includes platform/ and itself only'
-    if folder not in LEVEL_OF:
-        return f'{folder}/ has no place in the list of folders'
-    if target not in LEVEL_OF:
-        return f'{folder}/ may not include {target}/'
-    if LEVEL_OF[target] <= LEVEL_OF[folder]:
-        return f'{folder}/ stands below or beside {target}/'
-    return None
+        return target != 'platform'
+    return LEVEL_OF.get(folder, len(LEVELS)) >= LEVEL_OF.get(target, -1)
 
 
 def offence(root, path, quoted, angled):
     """What is wrong with one include of the file `path`; None when nothing is."""
+    if angled and WINDOWS_HEADER.fullmatch(angled) and not path.startswith(SEES_WINDOWS):
+        return f'<{angled}> outside of ' + ', '.join(SEES_WINDOWS)
     if angled:
-        if angled.lower() in WINDOWS_HEADERS and not path.startswith(SEES_WINDOWS):
-            return f'<{angled}> outside of ' + ', '.join(SEES_WINDOWS)
-        if os.path.isfile(os.path.join(root, angled)):
-            return f'<{angled}> is a file of the project: write it in quotes'
-        return None
-    if not os.path.isfile(os.path.join(root, quoted)):
-        return f'"{quoted}" is no file, seen from the source folder'
-    if '..' in quoted.split('/') or '/' not in quoted:
-        return f'"{quoted}" is not written from the source folder'
-    return wrong_direction(path.split('/')[0], quoted.split('/')[0])
+        return f'<{angled}> is a file of the project' if os.path.isfile(os.path.join(root, angled)) else None
+    if not os.path.isfile(os.path.join(root, quoted)) or '..' in quoted.split('/') or '/' not in quoted:
+        return f'"{quoted}" is no file, written from the source folder'
+    if wrong_direction(path.split('/')[0], quoted.split('/')[0]):
+        return f'"{quoted}" is not below this folder'
+    return None
 
 
-def check(root):
-    """All offences as lines, and the number of includes looked at."""
-    offences, count = [], 0
+def main(root):
+    count = offences = 0
     for path in sources(root):
         with open(os.path.join(root, path), encoding='utf-8', errors='replace') as file:
             for number, line in enumerate(file, 1):
-                match = INCLUDE.match(line)
-                if match:
+                if match := INCLUDE.match(line):
                     count += 1
-                    what = offence(root, path, *match.groups())
-                    if what:
-                        offences.append(f'{path}:{number}: {what}')
-    return offences, count
-
-
-def main(arguments):
-    if len(arguments) != 1 or not os.path.isdir(arguments[0]):
-        sys.exit(__doc__)
-    offences, count = check(arguments[0])
-    for line in offences:
-        print(line)
-    print(f'{count} includes, {len(offences)} offences')
+                    if what := offence(root, path, *match.groups()):
+                        offences += 1
+                        print(f'{path}:{number}: {what}')
+    print(f'{count} includes, {offences} offences')
     # No include at all means that the folder is not the project's.
     sys.exit(1 if offences or count == 0 else 0)
 
 
 if __name__ == '__main__':
-    main(sys.argv[1:])
+    main(sys.argv[1])

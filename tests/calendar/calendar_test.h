@@ -9,12 +9,17 @@
 
 class Calendar_Test : public Form_Test {
 protected:
+    static std::string &Data_File() { return Fakes().files["C:\\Vellatro\\calendar.dat"]; }
+
+    static std::string &Stored(const std::string &key) {
+        return Fakes().registry["Software\\Vellatro\\Settings\\" + key];
+    }
+
     /// Makes the data file hold these records.
     static void Events(const std::vector<std::string> &records) {
-        std::string bytes;
+        Data_File().clear();
         for (const std::string &record : records)
-            bytes += "\"" + record + "\"\r\n";
-        Fakes().files["C:\\Vellatro\\calendar.dat"] = bytes;
+            Data_File() += "\"" + record + "\"\r\n";
     }
 
     void Start() { ASSERT_TRUE(form.Form_Load()); }
@@ -25,6 +30,15 @@ protected:
         form.Redraw();
     }
 
+    void Send(platform::Input_Kind kind, platform::Point point = {},
+              platform::Mouse_Button button = platform::Mouse_Button::None) {
+        platform::Input_Event event{};
+        event.kind = kind;
+        event.point = point;
+        event.button = button;
+        form.Input(event);
+    }
+
     /// The event text that a day of the shown month shows.
     std::string Text_Of(int day) {
         return form.Box_Caption_Lbl[Main_Frm::Start_Box(form.Cur_Month, form.Cur_Year) + day - 1].Caption();
@@ -32,6 +46,15 @@ protected:
 
     Label &Box_Of(int day) {
         return form.Box_Lbl[Main_Frm::Start_Box(form.Cur_Month, form.Cur_Year) + day - 1];
+    }
+
+    /// The places of all visible controls.
+    std::vector<platform::Rect> Seen() const {
+        std::vector<platform::Rect> seen;
+        for (const platform::Control_State *control : form.Model().controls)
+            if (control->visible)
+                seen.push_back(control->bounds);
+        return seen;
     }
 
     Main_Frm form;

@@ -1,8 +1,7 @@
-// Windows, canvas, timers, screen and menus without a screen.
+// Windows, canvas, timers, screen, menus and the shell without a screen.
 #include "tests/fakes/fake_forms.h"
 
 #include "platform/text.h"
-#include "tests/fakes/fakes.h"
 #include "toolkit/form.h"
 
 #include <algorithm>
@@ -18,6 +17,15 @@ Fake_Desktop &Desktop() {
 
 void Reset_Desktop() {
     Desktop() = Fake_Desktop{};
+}
+
+Fake_Shell &Shell() {
+    static Fake_Shell shell;
+    return shell;
+}
+
+void Reset_Shell() {
+    Shell() = Fake_Shell{};
 }
 
 void Fake_Desktop::Advance(unsigned milliseconds) {
@@ -50,6 +58,12 @@ void Mouse(Form &form, Input_Kind kind, const Control &control, Mouse_Button but
     event.button = button;
     event.point = {control.Left() + control.Width() / 2, control.Top() + control.Height() / 2};
     form.Model().input(event);
+}
+
+/// The native window that something is told to or done with: there must be one.
+Fake_Mirror &Mirror_Of(const platform::Form_Model &model) {
+    Require(Desktop().mirrors.contains(&model), "a native window that is not there: " + model.name);
+    return Desktop().mirrors[&model];
 }
 
 } // namespace
@@ -87,55 +101,40 @@ namespace platform {
 void Create_Mirror(Form_Model &model) {
     if (Desktop().refuses_windows)
         throw std::runtime_error("The window cannot be made");
-    if (!Desktop().mirrors.try_emplace(&model).second)
-        Fail("a second native window for " + model.name);
-    Desktop().mirrors[&model].shown = model.visible;
-    Desktop().mirrors[&model].shown_unclipped = model.visible;
+    Require(!Desktop().mirrors.contains(&model), "a second native window for " + model.name);
+    Desktop().mirrors[&model] = {model.visible, {}, model.visible, {}};
 }
 
 void Destroy_Mirror(Form_Model &model) {
     // A real window reads the controls while it goes down: they must still be there.
     for (const Control_State *control : model.controls)
-        if (control->name.empty())
-            Fail("a control without a name in " + model.name);
+        Require(!control->name.empty(), "a control without a name in " + model.name);
     Desktop().mirrors.erase(&model);
 }
 
 void Form_Changed(Form_Model &model, Aspect aspect) {
     Desktop().told.push_back({"", aspect});
-    const auto mirror = Desktop().mirrors.find(&model);
-    if (mirror == Desktop().mirrors.end())
-        return Fail("a change without a native window");
-    mirror->second.shown = model.visible;
-    if (model.visible && mirror->second.clip.empty() && mirror->second.shape.empty())
-        mirror->second.shown_unclipped = true;
+    Fake_Mirror &mirror = Mirror_Of(model);
+    mirror.shown = model.visible;
+    mirror.shown_unclipped |= model.visible && mirror.clip.empty() && mirror.shape.empty();
 }
 
 void Control_Changed(Form_Model &model, const Control_State &control, Aspect aspect, const Rect &before) {
-    if (!Desktop().mirrors.contains(&model))
-        Fail("a change without a native window");
-    if (aspect == Aspect::Bounds && before == control.bounds)
-        Fail("a move that moves nothing");
+    Mirror_Of(model);
+    Require(aspect != Aspect::Bounds || before != control.bounds, "a move that moves nothing");
     Desktop().told.push_back({control.name, aspect});
 }
 
 void Clip_Window(Form_Model &model, const std::vector<Rect> &rects) {
-    const auto mirror = Desktop().mirrors.find(&model);
-    if (mirror == Desktop().mirrors.end())
-        return Fail("a clip without a native window");
-    mirror->second.clip = rects;
+    Mirror_Of(model).clip = rects;
 }
 
 void Shape_Window(Form_Model &model, const std::vector<Point> &corners) {
-    const auto mirror = Desktop().mirrors.find(&model);
-    if (mirror == Desktop().mirrors.end())
-        return Fail("a shape without a native window");
-    mirror->second.shape = corners;
+    Mirror_Of(model).shape = corners;
 }
 
 void Bring_To_Front(Form_Model &model) {
-    if (!Desktop().mirrors.contains(&model))
-        Fail("a missing window brought to the front");
+    Mirror_Of(model);
 }
 
 void Fill_Rect(Canvas &canvas, const Rect &rect, Colour colour) {
@@ -193,7 +192,7 @@ Point Mouse_Position() {
 }
 
 int Track_Popup_Menu(Form_Model &, const std::vector<Menu_Item> &items, const Point *at) {
-    Desktop().menu_at = at == nullptr ? std::nullopt : std::optional<Point>(*at);
+    Desktop().menu_at = at == nullptr ? std::nullopt : std::optional(*at);
     if (Desktop().choose)
         return Desktop().choose(items);
     std::vector<std::string> texts;
@@ -205,7 +204,7 @@ int Track_Popup_Menu(Form_Model &, const std::vector<Menu_Item> &items, const Po
     }
     auto &expected = Desktop().expected_menus;
     if (expected.empty() || expected.front().texts != texts) {
-        Fail("an unexpected menu: " + shown);
+        Require(false, "an unexpected menu: " + shown);
         return 0;
     }
     const Expected_Menu menu = expected.front();
@@ -213,8 +212,7 @@ int Track_Popup_Menu(Form_Model &, const std::vector<Menu_Item> &items, const Po
     if (menu.meanwhile)
         menu.meanwhile();
     for (const Menu_Item &item : items)
-        if (item.id == menu.answer && !item.enabled)
-            Fail("a greyed item was chosen: " + item.text);
+        Require(item.id != menu.answer || item.enabled, "a greyed item was chosen: " + item.text);
     return menu.answer;
 }
 
@@ -222,8 +220,7 @@ void Run_Message_Loop() {
     Desktop().loop_ended = false;
     if (Desktop().in_the_loop)
         Desktop().in_the_loop();
-    if (!Desktop().loop_ended)
-        Fail("the message loop never ends");
+    Require(Desktop().loop_ended, "the message loop never ends");
 }
 
 void End_Message_Loop() {
@@ -238,25 +235,19 @@ void Process_Waiting_Messages() {
     message();
 }
 
-namespace {
-
-void Advance_Clock(unsigned milliseconds) {
-    Date_Time &now = Fakes().now;
-    const auto total = static_cast<int>(milliseconds) + now.millisecond +
-                       1000 * (now.second + 60 * (now.minute + 60 * now.hour));
-    now.millisecond = total % 1000;
-    now.second = total / 1000 % 60;
-    now.minute = total / 60'000 % 60;
-    now.hour = total / 3'600'000 % 24;
-    now.day += total / 86'400'000; // the tests keep away from the month's end
-}
-
-} // namespace
-
 void Wait_For_Messages(unsigned milliseconds) {
     // Sleeping moves the clock on, in steps as messages would end it.
     const unsigned step = std::min(milliseconds, 50U);
-    Advance_Clock(step);
+    const auto carry = [](int &low, int count, int &high) {
+        high += low / count;
+        low %= count;
+    };
+    Date_Time &now = Fakes().now;
+    now.millisecond += static_cast<int>(step);
+    carry(now.millisecond, 1000, now.second);
+    carry(now.second, 60, now.minute);
+    carry(now.minute, 60, now.hour);
+    carry(now.hour, 24, now.day); // the tests keep away from the month's end
     Desktop().Advance(step);
 }
 
@@ -276,6 +267,37 @@ void Listen_To_Broadcasts(std::function<bool(Broadcast)> listener) {
 
 bool Claim_Single_Instance(const std::string &) {
     return Desktop().first_instance;
+}
+
+Shell_Window Find_Desktop_Window() {
+    return Shell().desktop;
+}
+
+Shell_Window Find_Shell_View(Shell_Window desktop) {
+    Require(desktop != 0 && desktop == Shell().desktop, "a view in no desktop window");
+    return Shell().view;
+}
+
+Shell_Window Find_Icon_List(Shell_Window view) {
+    Require(view != 0 && view == Shell().view, "an icon list in no view");
+    return Shell().list;
+}
+
+std::optional<Label_Colours> Icon_Label_Colours(Shell_Window list, unsigned) {
+    Require(list != 0 && list == Shell().list, "no icon list asked for its colours");
+    return Shell().colours;
+}
+
+void Attach_To_Desktop(Form_Model &model, Shell_Window desktop) {
+    Require(desktop != 0 && desktop == Shell().desktop, "a window attached to no desktop");
+    Shell().attached = &model;
+    Shell().attached_hidden = !Mirror_Of(model).shown;
+    if (Shell().dots_inside == 0 || Shell().dots_inside == Desktop().dots_per_inch)
+        return;
+    Desktop().dots_per_inch = Shell().dots_inside;
+    Input_Event event{};
+    event.kind = Input_Kind::Dots_Changed;
+    model.input(event);
 }
 
 } // namespace platform

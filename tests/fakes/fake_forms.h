@@ -1,5 +1,5 @@
-// The faked windows, canvas, timers, screen and menus: what the program told the mirrors is recorded, and a
-// test moves the time and the mouse by hand. The rest of the faked system is in fakes.h.
+// The faked windows, canvas, timers, screen, menus and shell: what the program told the mirrors is recorded,
+// and a test moves the time and the mouse by hand. The rest of the faked system is in fakes.h.
 #pragma once
 
 #include "platform/drawing.h"
@@ -7,14 +7,8 @@
 #include "platform/menu.h"
 #include "platform/message_loop.h"
 #include "platform/screen.h"
-
-#include <deque>
-#include <functional>
-#include <map>
-#include <optional>
-#include <string>
-#include <string_view>
-#include <vector>
+#include "platform/shell.h"
+#include "tests/fakes/fakes.h"
 
 class Control;
 class Form;
@@ -57,8 +51,7 @@ struct Expected_Menu {
 };
 
 struct Fake_Timer {
-    unsigned interval = 0;
-    unsigned due = 0;
+    unsigned interval = 0, due = 0;
     std::function<void()> tick;
 };
 
@@ -95,6 +88,20 @@ struct Fake_Desktop {
 /// The one faked desktop.
 Fake_Desktop &Desktop();
 void Reset_Desktop();
+
+/// The faked shell: which of its windows there are, what its icon list answers, and what was attached to it.
+struct Fake_Shell {
+    platform::Shell_Window desktop = 0, view = 0, list = 0; ///< none is there unless a test says so
+    std::optional<platform::Label_Colours> colours;         ///< nothing: the shell hangs
+    int dots_inside = 0; ///< dots per inch that a window has inside the desktop; 0: the same as outside
+
+    const platform::Form_Model *attached = nullptr;
+    bool attached_hidden = false; ///< it was not to be seen when it was attached
+};
+
+/// The one faked shell.
+Fake_Shell &Shell();
+void Reset_Shell();
 
 /// Paints the form as its window would.
 platform::Canvas Painted(const Form &form, const platform::Rect &clip);

@@ -11,7 +11,7 @@ class Fake_Test : public ::testing::Test {
 protected:
     Fake_Test() {
         Reset_Fakes();
-        Set_Failure_Hook([](const std::string &message) { ADD_FAILURE() << message; });
+        Fakes().on_failure = [](const std::string &message) { ADD_FAILURE() << message; };
         Cur_Settings = Settings{};
     }
 
@@ -19,6 +19,5 @@ protected:
     ~Fake_Test() override {
         for (const Expected_Box &box : Fakes().expected_boxes)
             ADD_FAILURE() << "this message box never came: " << box.text;
-        Set_Failure_Hook(nullptr);
     }
 };

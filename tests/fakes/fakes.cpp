@@ -1,25 +1,22 @@
-// The faked system as a whole: its one instance, and the way of its failures. The platform's procedures are
-// in files per topic.
+// The faked system: clock, regional settings, text, files, registry and message
+// boxes. Forms, screen and shell are in fake_forms.cpp.
 #include "tests/fakes/fakes.h"
 
+#include "platform/characters.h"
+#include "platform/files.h"
+#include "platform/locale.h"
+#include "platform/registry.h"
+#include "platform/text.h"
+
 #include <algorithm>
+#include <cctype>
 #include <cstdio>
 #include <cstdlib>
-#include <utility>
 
-namespace {
-
-Failure_Hook failure_hook = nullptr;
-
-char Lower(char c) {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
-} // namespace
-
-bool Name_Less::operator()(std::string_view a, std::string_view b) const {
-    return std::lexicographical_compare(a.begin(), a.end(), b.begin(), b.end(),
-                                        [](char x, char y) { return Lower(x) < Lower(y); });
+bool Name_Less::operator()(const std::string &a, const std::string &b) const {
+    return std::lexicographical_compare(a.begin(), a.end(), b.begin(), b.end(), [](char x, char y) {
+        return std::tolower(static_cast<unsigned char>(x)) < std::tolower(static_cast<unsigned char>(y));
+    });
 }
 
 Fake_System &Fakes() {
@@ -31,19 +28,117 @@ void Reset_Fakes() {
     Fakes() = Fake_System{};
 }
 
-void Set_Failure_Hook(Failure_Hook hook) {
-    failure_hook = hook;
-}
-
-void Fail(const std::string &message) {
-    if (failure_hook != nullptr) {
-        failure_hook(message);
+void Require(bool met, const std::string &message) {
+    if (met)
         return;
-    }
+    if (Fakes().on_failure)
+        return Fakes().on_failure(message);
     std::fprintf(stderr, "%s\n", message.c_str());
     std::abort();
 }
 
-void Fake_System::Expect_Box(std::string text, platform::Box_Answer answer, std::function<void()> meanwhile) {
-    expected_boxes.push_back({std::move(text), answer, std::move(meanwhile)});
+namespace platform {
+
+Date_Time Now() {
+    return Fakes().now;
 }
+
+std::string Month_Name(int month) {
+    return Fakes().months.at(static_cast<std::size_t>(month - 1));
+}
+
+std::string Weekday_Name(int weekday) {
+    return Fakes().weekdays.at(static_cast<std::size_t>(weekday));
+}
+
+std::string Short_Weekday_Name(int weekday) {
+    return Weekday_Name(weekday).substr(0, 3);
+}
+
+int First_Weekday() {
+    return Fakes().first_weekday;
+}
+
+std::string Short_Date(int year, int month, int day) {
+    const std::string &pattern = Fakes().short_date_pattern;
+    std::string text;
+    for (std::size_t i = 0, end = 0; i < pattern.size(); i = end) {
+        const char letter = pattern[i];
+        end = std::min(pattern.find_first_not_of(letter, i), pattern.size());
+        std::string part = pattern.substr(i, end - i);
+        if (letter == 'd' || letter == 'm' || letter == 'y')
+            part = std::to_string(letter == 'd' ? day : letter == 'm' ? month : year);
+        text.append(end - i - std::min(part.size(), end - i), '0');
+        text += part;
+    }
+    return text;
+}
+
+// UTF-8, whatever the building machine's own encoding is.
+std::size_t Previous_Character(std::string_view text, std::size_t end) {
+    return Character_Begin(text, end, Step_Back_Utf8);
+}
+
+std::string Program_Folder() {
+    return "C:\\Vellatro";
+}
+
+bool File_Exists(const std::string &path) {
+    return Fakes().files.contains(path);
+}
+
+bool Path_Exists(const std::string &path) {
+    return File_Exists(path) || Fakes().folders.contains(path);
+}
+
+std::string Read_File(const std::string &path) {
+    ++Fakes().reads;
+    const auto file = Fakes().files.find(path);
+    if (file == Fakes().files.end() || Fakes().unreadable.contains(path))
+        throw File_Error(path + " cannot be read");
+    return file->second;
+}
+
+void Replace_File(const std::string &path, std::string_view bytes) {
+    ++Fakes().writes;
+    if (Fakes().folders.contains(path) || Fakes().unwritable.contains(path))
+        throw File_Error(path + " cannot be written");
+    Fakes().files[path] = bytes;
+}
+
+std::optional<std::string> Read_User_Value(const std::string &key, const std::string &name) {
+    const auto value = Fakes().registry.find(key + "\\" + name);
+    return value == Fakes().registry.end() ? std::nullopt : std::optional(value->second);
+}
+
+void Write_User_Value(const std::string &key, const std::string &name, const std::string &text) {
+    ++Fakes().registry_writes;
+    if (Fakes().registry_refuses_writes)
+        throw Registry_Error(key + " cannot be written");
+    Fakes().registry[key + "\\" + name] = text;
+}
+
+Box_Answer Message_Box(const std::string &text, const std::string &title, Box_Icon icon,
+                       Box_Buttons buttons) {
+    Fake_System &system = Fakes();
+    system.boxes.push_back({text, title, icon, buttons});
+    // The answer with the least consequences, for boxes that no test expects.
+    const Box_Answer safest = buttons == Box_Buttons::Ok       ? Box_Answer::Ok
+                              : buttons == Box_Buttons::Yes_No ? Box_Answer::No
+                                                               : Box_Answer::Cancel;
+    const std::string next = system.expected_boxes.empty() ? "none" : system.expected_boxes.front().text;
+    if (next != text) {
+        Require(system.any_box, "unexpected message box: " + text + "\nexpected: " + next);
+        return safest;
+    }
+    const Expected_Box expected = system.expected_boxes.front();
+    system.expected_boxes.pop_front();
+    const bool offered = (expected.answer == Box_Answer::Ok) == (buttons == Box_Buttons::Ok) &&
+                         (expected.answer != Box_Answer::Cancel || buttons == Box_Buttons::Yes_No_Cancel);
+    Require(offered, "the expected answer is no button of this message box: " + text);
+    if (expected.meanwhile)
+        expected.meanwhile();
+    return expected.answer;
+}
+
+} // namespace platform

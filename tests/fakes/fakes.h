@@ -1,6 +1,6 @@
 // The state behind the faked clock, regional settings, files, registry and message boxes, which tests set and
-// read. Forms, drawing, timers, screen and menus have a header of their own. No test framework is needed
-// here: benchmarks and fuzz targets link the same fakes.
+// read. Forms, drawing, timers, screen, menus and shell have a header of their own. No test framework is
+// needed here: benchmarks and fuzz targets link the same fakes.
 #pragma once
 
 #include "platform/clock.h"
@@ -12,13 +12,11 @@
 #include <map>
 #include <set>
 #include <string>
-#include <string_view>
 #include <vector>
 
 /// Orders names as Windows does: ASCII letters count alike in both cases.
 struct Name_Less {
-    using is_transparent = void;
-    bool operator()(std::string_view a, std::string_view b) const;
+    bool operator()(const std::string &a, const std::string &b) const;
 };
 
 /// A message box that a test expects, in its turn.
@@ -30,10 +28,9 @@ struct Expected_Box {
 
 /// A message box that was shown.
 struct Shown_Box {
-    std::string text;
-    std::string title;
-    platform::Box_Icon icon = platform::Box_Icon::None;
-    platform::Box_Buttons buttons = platform::Box_Buttons::Ok;
+    std::string text, title;
+    platform::Box_Icon icon;
+    platform::Box_Buttons buttons;
 };
 
 struct Fake_System {
@@ -45,11 +42,9 @@ struct Fake_System {
                                        "July",    "August",   "September", "October", "November", "December"};
     std::array<std::string, 7> weekdays{"Sunday",   "Monday", "Tuesday", "Wednesday",
                                         "Thursday", "Friday", "Saturday"};
-    std::array<std::string, 7> short_weekdays{"Sun", "Mon", "Tue", "Wed", "Thu", "Fri", "Sat"};
     /// Of d, dd, m, mm and yyyy; all else stands for itself.
     std::string short_date_pattern = "d/m/yyyy";
 
-    std::string program_folder = "C:\\Vellatro";
     std::map<std::string, std::string, Name_Less> files; ///< path to bytes
     std::set<std::string, Name_Less> folders;
     std::set<std::string, Name_Less> unreadable; ///< files that others have locked against reading
@@ -66,9 +61,13 @@ struct Fake_System {
     std::vector<Shown_Box> boxes; ///< all that were shown
     bool any_box = false;         ///< unexpected boxes are no failure; they get the answer that changes least
 
+    std::function<void(const std::string &message)> on_failure; ///< takes what the fakes find wrong
+
     /// Says that the next message box after those expected already shows `text`, and how it is answered.
     void Expect_Box(std::string text, platform::Box_Answer answer = platform::Box_Answer::Ok,
-                    std::function<void()> meanwhile = nullptr);
+                    std::function<void()> meanwhile = nullptr) {
+        expected_boxes.push_back({std::move(text), answer, std::move(meanwhile)});
+    }
 };
 
 /// The one faked system.
@@ -77,9 +76,5 @@ Fake_System &Fakes();
 /// Makes it new: an empty disk, an empty registry, the told values above.
 void Reset_Fakes();
 
-/// Takes the failures that fakes find. Without a hook a failure ends the process.
-using Failure_Hook = void (*)(const std::string &message);
-void Set_Failure_Hook(Failure_Hook hook);
-
-/// For fakes: reports a failure.
-void Fail(const std::string &message);
+/// For fakes: a requirement that is not met goes to `on_failure`; where nobody takes it, it ends the process.
+void Require(bool met, const std::string &message);

@@ -2,7 +2,6 @@
 #pragma once
 
 #include "tests/fakes/fake_forms.h"
-#include "tests/fakes/fake_shell.h"
 #include "tests/fakes/fake_test.h"
 
 class Form_Test : public Fake_Test {
