@@ -58,10 +58,9 @@ struct Control_State {
     bool middle = false; ///< caption centred between top and bottom
     int padding = 0;     ///< twips between the caption and the left, right and, unless `middle`, top edge
     Glyph glyph = Glyph::None;
-    bool checked = false;        ///< check boxes
-    bool is_default = false;     ///< the button that Enter presses
-    bool is_cancel = false;      ///< the button that Esc presses
-    std::int32_t max_length = 0; ///< characters a text box takes; 0: no limit
+    bool checked = false;    ///< check boxes
+    bool is_default = false; ///< the button that Enter presses
+    bool is_cancel = false;  ///< the button that Esc presses
     Access_State access;
 };
 

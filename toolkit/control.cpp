@@ -131,7 +131,3 @@ void Text_Box::Set_Text(std::string text) {
     if (Store(state_.caption, platform::Without_Line_Breaks(std::move(text)), Aspect::Caption) && handler)
         handler();
 }
-
-void Text_Box::Set_Max_Length(int characters) {
-    Store(state_.max_length, characters, Aspect::Look);
-}

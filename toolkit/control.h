@@ -113,8 +113,6 @@ public:
     Text_Box(Form &form, std::string name);
     const std::string &Text() const { return state_.caption; }
     void Set_Text(std::string text);
-    /// In characters; 0 is no limit.
-    void Set_Max_Length(int characters);
     /// Every change of the text, by the user or by Set_Text.
     std::function<void()> On_Change;
 

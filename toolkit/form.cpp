@@ -105,12 +105,6 @@ void Form::Show() {
         Tell(Aspect::Visible);
 }
 
-void Form::Hide() {
-    captured_ = nullptr;
-    if (std::exchange(model_.visible, false))
-        Tell(Aspect::Visible);
-}
-
 void Form::Close() {
     captured_ = nullptr;
     model_.visible = false;

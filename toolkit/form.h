@@ -35,7 +35,6 @@ public:
     void Create();
     /// Makes the native window, if there is none.
     void Show();
-    void Hide();
     /// Takes the native window down; the form's state stays.
     void Close();
     void Set_Title(std::string title);

@@ -91,7 +91,7 @@ void Dialog_Window::Look_Changed(const Control_State &control) {
     native.brush.Reset();
     Set_Font(control);
     if (control.kind == Control_Kind::Text_Box)
-        SendMessageW(native.window, EM_LIMITTEXT, static_cast<WPARAM>(control.max_length), 0);
+        SendMessageW(native.window, EM_LIMITTEXT, 0, 0);
     InvalidateRect(native.window, nullptr, TRUE);
 }
 
