@@ -16,8 +16,9 @@ if(CMAKE_SIZEOF_VOID_P EQUAL 4)
 endif()
 target_link_libraries(vellatro PRIVATE vellatro_options
     comctl32 comdlg32 gdi32 user32 advapi32 shell32 ole32 oleaut32 oleacc uuid)
-target_link_options(vellatro PRIVATE -Os -flto -flto-partition=none -static -s -Wl,--gc-sections -Wl,--nxcompat -Wl,--dynamicbase
-    -Wl,--no-insert-timestamp)
+# One partition: with several GCC 12 breaks off while it links.
+target_link_options(vellatro PRIVATE -Os -flto -flto-partition=none -static -s -Wl,--gc-sections -Wl,--nxcompat
+    -Wl,--dynamicbase -Wl,--no-insert-timestamp)
 file(GLOB desktop_test_list CONFIGURE_DEPENDS tests/desktop/CMakeLists.txt)
 if(desktop_test_list)
     add_subdirectory(tests/desktop)
