@@ -54,27 +54,29 @@ bool Main_Frm::Day_Key(int key) {
         Redraw();
         return true;
     case Key_M:
-    case Key_Y: {
-        const Point below{Which_Month_Lbl.Left() + Which_Month_Lbl.Width() / 2,
-                          Which_Month_Lbl.Top() + Which_Month_Lbl.Height()};
-        if (Compacted || key == Key_Y)
-            Popup_Years(&below);
-        else
-            Popup_Months(&below);
+    case Key_Y:
+        Popup_Below_Title(key == Key_M && !Compacted);
         return true;
-    }
     default:
         return false;
     }
 }
 
+/// The menu of the months or of the years, where the keyboard opens it.
+void Main_Frm::Popup_Below_Title(bool months) {
+    const Point below{Which_Month_Lbl.Left() + Which_Month_Lbl.Width() / 2,
+                      Which_Month_Lbl.Top() + Which_Month_Lbl.Height()};
+    if (months)
+        Popup_Months(&below);
+    else
+        Popup_Years(&below);
+}
+
 void Main_Frm::Act_On_Marked(int key) {
     const bool menu = key == Key_Menu || key == Key_F10;
     if (Compacted) {
-        const Point below{Which_Month_Lbl.Left() + Which_Month_Lbl.Width() / 2,
-                          Which_Month_Lbl.Top() + Which_Month_Lbl.Height()};
         if (menu)
-            Popup_Years(&below);
+            Popup_Below_Title(false);
         return;
     }
     // On a mark that was not seen before, only the menu opens: it is seen where, and harms nobody.

@@ -211,6 +211,7 @@ private:
 
     void Function_Key(int key);
     bool Day_Key(int key);
+    void Popup_Below_Title(bool months);
     void Act_On_Marked(int key);
     void Move_Mark(int days);
     bool Show_Mark();

@@ -7,7 +7,6 @@
 #include "platform/locale.h"
 #include "platform/message_box.h"
 
-#include <stdexcept>
 #include <utility>
 
 namespace {
@@ -124,9 +123,7 @@ void Main_Frm::Enter_Date(std::string_view record, const Date &today) {
         // Fitting a text into its box takes longer than reading a hundred records, and of several texts of a
         // day only the last one stays.
         const int index = Start_Box(Cur_Month, Cur_Year) + date.day - 1;
-        if (index < 0 || index >= box_count)
-            throw std::out_of_range("There is no day " + std::to_string(date.day) + ".");
-        entered_[static_cast<std::size_t>(index)] = parts.text;
+        entered_.at(static_cast<std::size_t>(index)) = parts.text;
     }
     if (Cur_Settings.Show_Alerts == 1 && !Alert_Done && date.day == today.day && date.month == today.month &&
         (date.year == today.year || date.year == every_year))

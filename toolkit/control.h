@@ -71,7 +71,6 @@ protected:
         return true;
     }
     void Tell(platform::Aspect aspect);
-    Form &Owner() { return form_; }
 
     platform::Control_State state_;
 

@@ -82,23 +82,9 @@ LRESULT Dialog_Window::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
     return DefDlgProcW(window_, message, wparam, lparam);
 }
 
-void Dialog_Window::Form_Changed(Aspect aspect) {
-    switch (aspect) {
-    case Aspect::Bounds:
-        Place();
-        break;
-    case Aspect::Visible:
-        Show_Or_Hide();
-        break;
-    case Aspect::Caption:
-        SetWindowTextW(window_, To_Wide(Model()->title).c_str());
-        break;
-    case Aspect::Focus:
+void Dialog_Window::Own_Aspect_Changed(Aspect aspect) {
+    if (aspect == Aspect::Focus)
         Focus();
-        break;
-    default:
-        break;
-    }
 }
 
 void Dialog_Window::Place() {

@@ -12,7 +12,6 @@ public:
     using Mirror::Mirror;
 
     void Create() override;
-    void Form_Changed(platform::Aspect aspect) override;
     void Control_Changed(const platform::Control_State &control, platform::Aspect aspect,
                          const platform::Rect &before) override;
     void Bring_To_Front() override;
@@ -40,8 +39,9 @@ private:
     void Set_Caption(const platform::Control_State &control);
     void Place_Control(const platform::Control_State &control);
     void Enable_Control(const platform::Control_State &control);
-    void Place();
-    void Show_Or_Hide();
+    void Place() override;
+    void Show_Or_Hide() override;
+    void Own_Aspect_Changed(platform::Aspect aspect) override;
     void Focus();
     HWND Control_Window(int index) const;
 

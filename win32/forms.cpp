@@ -8,6 +8,7 @@
 #include "win32/painted_window.h"
 #include "win32/system_error.h"
 #include "win32/units.h"
+#include "win32/wide_text.h"
 
 #include <stdexcept>
 
@@ -77,6 +78,20 @@ LRESULT Mirror::Receive(HWND window, UINT message, WPARAM wparam, LPARAM lparam,
         // Only want of memory comes here. The system's code above cannot pass an exception on.
     }
     return usual(window, message, wparam, lparam);
+}
+
+void Mirror::Form_Changed(platform::Aspect aspect) {
+    switch (aspect) {
+    case platform::Aspect::Bounds:
+        return Place();
+    case platform::Aspect::Visible:
+        return Show_Or_Hide();
+    case platform::Aspect::Caption:
+        SetWindowTextW(window_, To_Wide(Model()->title).c_str());
+        return;
+    default:
+        return Own_Aspect_Changed(aspect);
+    }
 }
 
 void Mirror::Destroy() {

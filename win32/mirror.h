@@ -23,7 +23,7 @@ public:
 
     /// Makes the window with what it shows. Called once. Throws std::runtime_error when the system refuses.
     virtual void Create() = 0;
-    virtual void Form_Changed(platform::Aspect aspect) = 0;
+    void Form_Changed(platform::Aspect aspect);
     virtual void Control_Changed(const platform::Control_State &control, platform::Aspect aspect,
                                  const platform::Rect &before) = 0;
     virtual void Clip(const std::vector<platform::Rect> &) {}
@@ -47,6 +47,11 @@ protected:
     /// to the `usual` procedure.
     static LRESULT Receive(HWND window, UINT message, WPARAM wparam, LPARAM lparam, WNDPROC usual);
     virtual LRESULT Handle(UINT message, WPARAM wparam, LPARAM lparam) = 0;
+    /// Brings the window to where the model says, and shows or hides it.
+    virtual void Place() = 0;
+    virtual void Show_Or_Hide() = 0;
+    /// The aspects of a form that each kind of window has its own way with.
+    virtual void Own_Aspect_Changed(platform::Aspect aspect) = 0;
     /// The window is gone, whoever took it down: tells the form, unless Destroy did it.
     virtual void Window_Gone();
     HWND window_ = nullptr;

@@ -156,17 +156,8 @@ void Painted_Window::Paint_On(HDC target, const RECT &area) {
     canvas.Put_On(target);
 }
 
-void Painted_Window::Form_Changed(Aspect aspect) {
+void Painted_Window::Own_Aspect_Changed(Aspect aspect) {
     switch (aspect) {
-    case Aspect::Bounds:
-        Place();
-        break;
-    case Aspect::Visible:
-        Show_Or_Hide();
-        break;
-    case Aspect::Caption:
-        SetWindowTextW(window_, To_Wide(Model()->title).c_str());
-        break;
     case Aspect::Look:
         InvalidateRect(window_, nullptr, FALSE);
         break;

@@ -14,7 +14,6 @@ public:
     using Mirror::Mirror;
 
     void Create() override;
-    void Form_Changed(platform::Aspect aspect) override;
     void Control_Changed(const platform::Control_State &control, platform::Aspect aspect,
                          const platform::Rect &before) override;
     void Clip(const std::vector<platform::Rect> &rects) override;
@@ -38,9 +37,10 @@ private:
 
     void Paint();
     void Paint_On(HDC target, const RECT &area);
-    void Place();
+    void Place() override;
     void Set_Region();
-    void Show_Or_Hide();
+    void Show_Or_Hide() override;
+    void Own_Aspect_Changed(platform::Aspect aspect) override;
     void Set_Pointer() const;
     void Invalidate(const platform::Rect &bounds) const;
     /// What tooltips and assistive technology tell of the controls is to be brought up to date.
