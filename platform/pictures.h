@@ -1,0 +1,40 @@
+// Pictures as pixels: reading one from a file, and drawing one. Writing them is the business of who keeps
+// them.
+#pragma once
+
+#include "platform/drawing.h"
+#include "platform/geometry.h"
+
+#include <cstdint>
+#include <memory>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace platform {
+
+/// A picture could not be read. what() names the file and the reason.
+class Picture_Error : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+/// Pixels of three bytes (blue, green, red), rows from top to bottom without a gap. Copies share the pixels.
+struct Picture {
+    int width = 0; ///< pixels; 0: there is no picture
+    int height = 0;
+    std::shared_ptr<const std::vector<std::uint8_t>> pixels;
+    friend bool operator==(const Picture &, const Picture &) = default;
+};
+
+/// The largest picture that is read, in pixels: as large as any screen that a wallpaper can fill.
+constexpr std::int64_t most_picture_pixels = 64LL * 1024 * 1024;
+
+/// Reads a JPEG picture. Throws Picture_Error when there is none, it is damaged, or larger than
+/// most_picture_pixels; the size is known before memory is taken for the pixels.
+Picture Load_Picture(const std::string &path);
+
+/// Draws the picture scaled to `rect` (twips), smoothly.
+void Draw_Picture(Canvas &canvas, const Picture &picture, const Rect &rect);
+
+} // namespace platform
