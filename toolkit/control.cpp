@@ -2,7 +2,10 @@
 #include "toolkit/control.h"
 
 #include "platform/line_breaks.h"
+#include "toolkit/fire.h"
 #include "toolkit/form.h"
+#include "toolkit/list_controls.h"
+#include "toolkit/painter.h"
 
 #include <utility>
 
@@ -96,7 +99,22 @@ void Control::Set_Access(platform::Access_State access) {
     Store(state_.access, std::move(access), Aspect::Access);
 }
 
-Label::Label(Form &form, std::string name) : Control(form, platform::Control_Kind::Label, std::move(name)) {
+void Control::Set_Container(const Frame &frame) {
+    state_.container = frame.State().index;
+}
+
+void Control::Take(const platform::Input_Event &event) {
+    if (event.kind == platform::Input_Kind::Clicked)
+        Fire(On_Click);
+}
+
+Label::Label(Form &form, std::string name, std::string caption)
+    : Control(form, platform::Control_Kind::Label, std::move(name)) {
+    state_.caption = std::move(caption);
+}
+
+void Label::Set_Painted() {
+    Paint_Itself(state_, nullptr);
 }
 
 Button::Button(Form &form, std::string name, std::string caption)
@@ -121,6 +139,13 @@ void Check_Box::Set_Checked(bool checked) {
     Store(state_.checked, checked, Aspect::Checked);
 }
 
+void Check_Box::Take(const platform::Input_Event &event) {
+    // The native control shows the new state already, so the mirror is not told.
+    if (event.kind == platform::Input_Kind::Clicked)
+        state_.checked = event.checked;
+    Control::Take(event);
+}
+
 Text_Box::Text_Box(Form &form, std::string name)
     : Control(form, platform::Control_Kind::Text_Box, std::move(name)) {
 }
@@ -130,4 +155,19 @@ void Text_Box::Set_Text(std::string text) {
     const auto handler = On_Change;
     if (Store(state_.caption, platform::Without_Line_Breaks(std::move(text)), Aspect::Caption) && handler)
         handler();
+}
+
+void Text_Box::Set_Display_Only() {
+    state_.single_line = true;
+    state_.read_only = true;
+}
+
+void Text_Box::Take(const platform::Input_Event &event) {
+    if (event.kind != platform::Input_Kind::Text_Changed)
+        return;
+    std::string text = platform::Without_Line_Breaks(event.text);
+    if (state_.caption == text)
+        return;
+    state_.caption = std::move(text);
+    Fire(On_Change);
 }

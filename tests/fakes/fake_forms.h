@@ -15,7 +15,7 @@ class Form;
 
 /// One drawing operation. Fields that do not belong to it stay empty.
 struct Canvas_Operation {
-    enum class Kind { Fill, Frame, Polygon, Text };
+    enum class Kind { Fill, Frame, Polygon, Text, Picture };
     Kind kind;
     platform::Rect rect;
     platform::Colour colour = 0;
@@ -113,3 +113,12 @@ void Release(Form &form, const Control &control,
 void Click(Form &form, const Control &control, platform::Mouse_Button button = platform::Mouse_Button::Left);
 void Double_Click(Form &form, const Control &control);
 void Press_Key(Form &form, int key);
+
+// The same for the native controls of dialogs. A disabled or hidden one takes nothing, as in a real window.
+void Push(Form &form, const Control &control, bool checked = false);
+void Enter_Text(Form &form, const Control &control, const std::string &text);
+/// Of a slider the value; kind Scrolled while it is moved.
+void Choose(Form &form, const Control &control, int item,
+            platform::Input_Kind kind = platform::Input_Kind::Selected);
+/// A double click on the chosen item.
+void Activate(Form &form, const Control &control);
