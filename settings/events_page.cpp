@@ -5,7 +5,6 @@
 #include "toolkit/keys.h"
 
 #include <algorithm>
-#include <initializer_list>
 #include <string>
 #include <utility>
 
@@ -34,14 +33,10 @@ Events_Page::Events_Page(Form &dialog, const Frame &frame, Main_Frm &calendar)
       Before_Lbl(dialog, "Before_Lbl"), After_Lbl(dialog, "After_Lbl"),
       Yearview_Fra(dialog, "Yearview_Fra", "This Year"), Month_Count_Lbl(dialog, "Month_Count_Lbl"),
       calendar_(calendar) {
-    for (Control *control : std::initializer_list<Control *>{&Overview_Opt, &Stats_Opt, &Overview_Fra,
-                                                             &Events_Fra, &Yearview_Fra})
-        control->Set_Container(frame);
-    for (Control *control : std::initializer_list<Control *>{
-             &Sort_Lbl, &Sort_Cbo, &Events_Lst_Lbl, &Events_Lst, &Countdown_Name_Lbl, &Countdown_Lbl})
-        control->Set_Container(Overview_Fra);
-    for (Label *label : {&Total_All_Lbl, &Total_Year_Lbl, &Before_Lbl, &After_Lbl})
-        label->Set_Container(Events_Fra);
+    Put_Into(frame, {&Overview_Opt, &Stats_Opt, &Overview_Fra, &Events_Fra, &Yearview_Fra});
+    Put_Into(Overview_Fra,
+             {&Sort_Lbl, &Sort_Cbo, &Events_Lst_Lbl, &Events_Lst, &Countdown_Name_Lbl, &Countdown_Lbl});
+    Put_Into(Events_Fra, {&Total_All_Lbl, &Total_Year_Lbl, &Before_Lbl, &After_Lbl});
     for (Label &label : Month_Count_Lbl)
         label.Set_Container(Yearview_Fra);
     Sort_Cbo.Set_Items({"Ascending Date", "Descending Date", "Date Added"});

@@ -3,12 +3,10 @@
 // and event_overview.h.
 #pragma once
 
-#include "calendar/main_frm.h"
 #include "settings/event_overview.h"
 #include "settings/event_statistics.h"
+#include "settings/page.h"
 #include "toolkit/control_array.h"
-#include "toolkit/form.h"
-#include "toolkit/list_controls.h"
 
 #include <vector>
 
@@ -23,9 +21,6 @@ public:
     void Get_Stats();
     /// Shows the overview by ascending dates, whatever was chosen before.
     void Open_Overview();
-
-    /// Places the controls, anew where the screen's dots per inch have changed.
-    void Lay_Out();
 
     void Overview_Opt_Click();
     void Stats_Opt_Click();
@@ -68,6 +63,7 @@ private:
     void List_Events();
     void Events_Lst_KeyDown(const platform::Input_Event &event);
     void Show_Change(int index);
+    void Lay_Out();
     void Lay_Out_Overview();
     void Lay_Out_Statistics();
 

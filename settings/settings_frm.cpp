@@ -29,7 +29,8 @@ constexpr int window_frame = 8 * 15; ///< left and right of the dialog, estimate
 
 Settings_Frm::Settings_Frm(Main_Frm &calendar)
     : Form(platform::Form_Kind::Dialog, "Settings_Frm"), TabStrip1(*this, "TabStrip1"),
-      Settings_Fra(*this, "Settings_Fra"), General(*this, Settings_Fra[general_fra], calendar),
+      Settings_Fra(*this, "Settings_Fra"), Events(*this, Settings_Fra[events_fra], calendar),
+      General(*this, Settings_Fra[general_fra], calendar),
       Tooltips(*this, Settings_Fra[tooltips_fra], calendar), About(*this, Settings_Fra[about_fra]),
       Ok_Btn(*this, "Ok_Btn", "OK"), Cancel_Btn(*this, "Cancel_Btn", "Cancel"),
       Apply_Btn(*this, "Apply_Btn", "&Apply"), calendar_(calendar) {
@@ -65,7 +66,9 @@ Settings_Frm::~Settings_Frm() {
 void Settings_Frm::Form_Load() {
     // What cannot be shown of one page is told, and keeps nobody from the others.
     const std::initializer_list<std::function<void()>> steps = {
+        [this] { Events.Write_Month_Titles(); },
         [this] { Load_Settings(); },
+        [this] { Events.Get_Stats(); },
         [this] {
             Resize(dialog_width, tabs.Bottom() + below_tabs);
             Position_Frames();
@@ -73,6 +76,7 @@ void Settings_Frm::Form_Load() {
         },
         [this] { Tooltips.Select(Cur_Settings.Tooltips); },
         [this] { Load_General_Settings(); },
+        [this] { Events.Open_Overview(); },
     };
     for (const auto &step : steps)
         Run_Guarded(step);

@@ -4,6 +4,7 @@
 
 #include "calendar/main_frm.h"
 #include "settings/about_page.h"
+#include "settings/events_page.h"
 #include "settings/general_page.h"
 #include "settings/page.h"
 #include "settings/tooltips_page.h"
@@ -60,6 +61,7 @@ public:
 
     Tab_Strip TabStrip1;
     Control_Array<Frame, page_count> Settings_Fra;
+    Events_Page Events;
     General_Page General;
     Tooltips_Page Tooltips;
     About_Page About;
