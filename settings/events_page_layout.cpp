@@ -1,7 +1,6 @@
 // Where the controls of the Events page are.
-#include "settings/events_page.h"
-
 #include "platform/drawing.h"
+#include "settings/events_page.h"
 
 using namespace layout;
 
