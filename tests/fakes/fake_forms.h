@@ -15,13 +15,14 @@ class Form;
 
 /// One drawing operation. Fields that do not belong to it stay empty.
 struct Canvas_Operation {
-    enum class Kind { Fill, Frame, Polygon, Text };
+    enum class Kind { Fill, Frame, Polygon, Text, Picture };
     Kind kind;
     platform::Rect rect;
     platform::Colour colour = 0;
     std::string text;
     std::vector<platform::Point> corners;
     platform::Text_Align align = platform::Text_Align::Left;
+    platform::Picture picture = {};
 };
 
 struct platform::Canvas {
