@@ -186,7 +186,13 @@ void Fill_Polygon(Canvas &canvas, const std::vector<Point> &corners, Colour colo
 
 void Draw_Text(Canvas &canvas, std::string_view text, const Rect &rect, const Font &, Colour colour,
                Text_Align align) {
-    canvas.operations.push_back({Canvas_Operation::Kind::Text, rect, colour, std::string(text), {}, align});
+    canvas.operations.push_back(
+        {Canvas_Operation::Kind::Text, rect, colour, std::string(text), {}, align, {}});
+}
+
+void Draw_Picture(Canvas &canvas, const Picture &picture, const Rect &rect) {
+    canvas.operations.push_back(
+        {Canvas_Operation::Kind::Picture, rect, 0, {}, {}, Text_Align::Left, picture});
 }
 
 void Draw_Picture(Canvas &canvas, const Picture &, const Rect &rect) {

@@ -22,6 +22,7 @@ struct Canvas_Operation {
     std::string text;
     std::vector<platform::Point> corners;
     platform::Text_Align align = platform::Text_Align::Left;
+    platform::Picture picture = {};
 };
 
 struct platform::Canvas {
