@@ -195,10 +195,6 @@ void Draw_Picture(Canvas &canvas, const Picture &picture, const Rect &rect) {
         {Canvas_Operation::Kind::Picture, rect, 0, {}, {}, Text_Align::Left, picture});
 }
 
-void Draw_Picture(Canvas &canvas, const Picture &, const Rect &rect) {
-    canvas.operations.push_back({Canvas_Operation::Kind::Picture, rect, {}, {}, {}, {}});
-}
-
 int Text_Width(std::string_view text, const Font &) {
     ++Desktop().measured;
     int width = 0;
