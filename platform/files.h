@@ -19,6 +19,9 @@ public:
 /// The folder that holds the running program, without a separator at its end.
 std::string Program_Folder();
 
+/// The running program's file name without ".exe".
+std::string Program_Name();
+
 /// True when `path` names an existing file (a folder is none).
 bool File_Exists(const std::string &path);
 

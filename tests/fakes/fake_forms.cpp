@@ -109,6 +109,12 @@ void Press_Key(Form &form, int key) {
     form.Model().input(event);
 }
 
+void Tell(Form &form, Input_Kind kind) {
+    platform::Input_Event event{};
+    event.kind = kind;
+    form.Model().input(event);
+}
+
 void Push(Form &form, const Control &control, bool checked) {
     platform::Input_Event event = Event_Of(control, Input_Kind::Clicked);
     event.checked = checked;

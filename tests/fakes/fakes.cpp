@@ -83,6 +83,10 @@ std::string Program_Folder() {
     return "C:\\Vellatro";
 }
 
+std::string Program_Name() {
+    return "vellatro";
+}
+
 bool File_Exists(const std::string &path) {
     return Fakes().files.contains(path);
 }
