@@ -198,6 +198,9 @@ bool Main_Frm::Hear(Broadcast broadcast) {
         return May_End();
     case Broadcast::Session_Over:
         ended_ = true;
+        // The process may go at once: the dialog keeps its tab now.
+        if (Close_Settings)
+            Close_Settings();
         platform::End_Message_Loop();
         break;
     case Broadcast::Close_Request:

@@ -56,6 +56,7 @@ public:
 
     // The settings dialog, likewise.
     std::function<void()> Open_Settings;
+    std::function<void()> Close_Settings; ///< at the end, whatever is in it
     std::function<bool()> Settings_Visible;
 
     /// Whether the program may end now; asks for unsaved text first.

@@ -343,4 +343,8 @@ void Attach_To_Desktop(Form_Model &model, Shell_Window desktop) {
     model.input(event);
 }
 
+void Open_Web_Page(const char *address) {
+    Shell().web_pages.emplace_back(address);
+}
+
 } // namespace platform

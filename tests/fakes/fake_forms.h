@@ -94,6 +94,7 @@ void Reset_Desktop();
 struct Fake_Shell {
     platform::Shell_Window desktop = 0, view = 0, list = 0; ///< none is there unless a test says so
     std::optional<platform::Label_Colours> colours;         ///< nothing: the shell hangs
+    std::vector<std::string> web_pages;                     ///< that were opened
     int dots_inside = 0; ///< dots per inch that a window has inside the desktop; 0: the same as outside
 
     const platform::Form_Model *attached = nullptr;
