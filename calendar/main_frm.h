@@ -1,8 +1,8 @@
 // The calendar window: the month in its boxes under a row of weekday headers and a title. Its procedures are
 // in files by topic: start-up and the date watch (main_frm.cpp), the month (month_grid.cpp), geometry and
 // text fitting (box_styles.cpp), steps and function keys (navigation.cpp), the keyboard's mark (focus.cpp),
-// menus.cpp, tooltips.cpp with the balloon, compact.cpp, colours.cpp, placement.cpp, dragging.cpp, and the
-// place inside the shell (attachment.cpp).
+// menus.cpp, tooltips.cpp with the balloon, compact.cpp, colours.cpp, themes.cpp, placement.cpp,
+// dragging.cpp, and the place inside the shell (attachment.cpp).
 #pragma once
 
 #include "core/date.h"
@@ -112,6 +112,7 @@ public:
     void RePosition();
     /// Clips the window to its visible controls.
     void TransparentForm();
+    /// The position code in use.
     std::int16_t Effective_Position() const;
     /// Puts the window into the shell's desktop and takes the colours of its icon labels over; also shows the
     /// splash window. What of the shell is missing is left out in silence.
@@ -125,8 +126,19 @@ public:
     void Colour_Texts();
     void Colour_Menus();
 
-    // Themes.
-    void Get_Wallpaper_Stuff();
+    // Themes. The two steps throw what goes wrong with the month's picture (themes/theme_pack.h), and
+    // Conversion_Error for a number in the pack that is none.
+
+    /// Where themes are in use: hangs today's picture of the pack up, and takes its box style and position
+    /// over as far as the settings want them.
+    void Get_Wallpaper_Stuff(const std::string &pack);
+    /// The same for any month, whether themes are in use or not.
+    void Preview_Wallpaper_Stuff(const std::string &pack, std::int16_t month);
+    /// The value text of a month, or Theme_Error; a missing pack ends the use of themes.
+    static std::string Get_Paper_Details(std::int16_t month, const std::string &pack);
+    /// What the pack told last; nothing before that.
+    std::optional<std::int16_t> Theme_BoxStyle;
+    std::optional<std::int16_t> Theme_Pos;
 
     // What the user and the time do.
     void Next_Month();

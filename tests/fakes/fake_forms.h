@@ -22,6 +22,7 @@ struct Canvas_Operation {
     std::string text;
     std::vector<platform::Point> corners;
     platform::Text_Align align = platform::Text_Align::Left;
+    platform::Picture picture = {};
 };
 
 struct platform::Canvas {
@@ -115,6 +116,8 @@ void Release(Form &form, const Control &control,
 void Click(Form &form, const Control &control, platform::Mouse_Button button = platform::Mouse_Button::Left);
 void Double_Click(Form &form, const Control &control);
 void Press_Key(Form &form, int key);
+/// What has no place: the close box, a lost window and the like.
+void Tell(Form &form, platform::Input_Kind kind);
 
 // The same for the native controls of dialogs. A disabled or hidden one takes nothing, as in a real window.
 void Push(Form &form, const Control &control, bool checked = false);
