@@ -232,7 +232,6 @@ private:
     int Marked_Box();
     void Take_Focus(bool has_focus);
 
-    void Unmark(int index);
     void Describe_Boxes();
     void Describe_Heading();
     void Set_Event_Value(int index, std::string_view text);
@@ -289,9 +288,6 @@ private:
 
 /// A day as the user reads it: Tuesday 5th March 2002.
 std::string Full_Date(const Date &date);
-
-/// A colour that stands out from `colour` and is of its hue.
-platform::Colour Strong_Shade(platform::Colour colour);
 
 /// The text that tells of today's event.
 std::string Today_Text(const Date &today, std::string_view text);

@@ -1,6 +1,7 @@
 // The page "Tooltips": its texts, its examples, and where its controls are.
 #include "settings/tooltips_page.h"
 
+#include "calendar/box_layout.h"
 #include "core/settings.h"
 #include "platform/locale.h"
 

@@ -222,6 +222,10 @@ int Dots_Per_Inch() {
     return Desktop().dots_per_inch;
 }
 
+Size Screen_Size() {
+    return Desktop().screen;
+}
+
 Rect Work_Area() {
     return Desktop().work_area;
 }

@@ -58,6 +58,7 @@ struct Fake_Timer {
 
 struct Fake_Desktop {
     int dots_per_inch = 96;
+    platform::Size screen{1024, 768};
     platform::Rect work_area{0, 0, 1024, 740};
     platform::Point mouse;
     bool button_held = false;
