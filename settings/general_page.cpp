@@ -3,6 +3,7 @@
 
 #include "core/title.h"
 #include "platform/clock.h"
+#include "platform/registry.h"
 
 using namespace layout;
 
@@ -39,6 +40,13 @@ General_Page::General_Page(Form &dialog, Frame &frame, Main_Frm &calendar)
     }
     preview_timer_.On_Timer = show;
     Lay_Out();
+}
+
+void General_Page::Get_Startup_Value() {
+    constexpr const char *absent = "BLANK";
+    const platform::Registry_Value entry = platform::Registry_Read(
+        "HKLM", "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Run", "Vellatro", 'S', std::string(absent));
+    Startup_Chk.Set_Checked(entry != platform::Registry_Value(std::string(absent)));
 }
 
 void General_Page::Show_Preview() {

@@ -9,6 +9,9 @@ class General_Page {
 public:
     General_Page(Form &dialog, Frame &frame, Main_Frm &calendar);
 
+    /// Ticks the start-up box where the system has a start-up entry, also an empty one: unticking leaves such
+    /// a one behind, so that the box is ticked again at the next opening.
+    void Get_Startup_Value();
     /// Shows the title as it would be now.
     void Show_Preview();
     /// Whether the page can be seen: only then a shown time goes on.

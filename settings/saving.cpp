@@ -1,6 +1,8 @@
 // What the settings dialog saves: its pages' choices go into the settings, the store and the calendar. A
 // choice that is what the setting holds already is not written, but for those that are always.
 #include "core/settings.h"
+#include "platform/files.h"
+#include "platform/registry.h"
 #include "settings/settings_frm.h"
 
 #include <utility>
@@ -36,6 +38,10 @@ void Settings_Frm::Save_General_Settings() {
     // The boxes have the standard tooltips or have them not.
     if (Save_Changed(Cur_Settings.Tooltips, Tooltips.Selected(), "Tooltips"))
         calendar_.Load_Dates();
+    // Emptied and not deleted where the box is not ticked.
+    const std::string program = platform::Program_Folder() + "\\" + platform::Program_Name() + ".exe";
+    platform::Registry_Write("HKLM", "Software\\Microsoft\\Windows\\CurrentVersion\\Run", "Vellatro", 'S',
+                             General.Startup_Chk.Checked() ? program : std::string());
 }
 
 void Settings_Frm::Save_Other_DM() {

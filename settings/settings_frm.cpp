@@ -77,10 +77,12 @@ void Settings_Frm::Form_Load() {
         [this] { Tooltips.Select(Cur_Settings.Tooltips); },
         [this] { Load_General_Settings(); },
         [this] { Events.Open_Overview(); },
+        [this] { General.Get_Startup_Value(); },
     };
     for (const auto &step : steps)
         Run_Guarded(step);
     Place_Beside_Calendar();
+    Set_Focus(TabStrip1);
     Show();
     open_ = true;
     calendar_.Set_Blocked_By(this);

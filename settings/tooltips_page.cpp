@@ -124,7 +124,7 @@ void Tooltips_Page::Example_Tooltip() {
 }
 
 void Tooltips_Page::Lay_Out() {
-    constexpr int notes_lines = 6;
+    constexpr int notes_lines = 5;
     constexpr int example_width = 100 * 15;
     constexpr int box_size = 60 * 15;
     const int line = platform::Line_Height(TipsNotes_Lbl.Font());

@@ -50,6 +50,19 @@ TEST_F(Saving, a_store_that_refuses_is_not_told_and_the_settings_hold) {
     EXPECT_FALSE(form.Settings_Visible());
 }
 
+TEST_F(Saving, the_start_up_entry_is_emptied_and_not_deleted) {
+    auto &values = Fakes().other_values;
+    const std::string entry = "HKLM\\Software\\Microsoft\\Windows\\CurrentVersion\\Run\\Vellatro";
+    Check_Box General_Page::*const box = &General_Page::Startup_Chk;
+    EXPECT_FALSE((Open(Settings_Frm::general_fra).General.*box).Checked());
+    for (const bool ticked : {false, true, false}) {
+        Push(*dialog, dialog->General.*box, ticked);
+        Push(*dialog, dialog->Apply_Btn);
+        EXPECT_EQ(values[entry], platform::Registry_Value(ticked ? "C:\\Vellatro\\vellatro.exe" : ""));
+        EXPECT_TRUE((Open(Settings_Frm::general_fra).General.*box).Checked());
+    }
+}
+
 TEST_F(Saving, the_boxes_get_the_chosen_kind_of_tooltip) {
     Events({"6/3/2002=Dentist"});
     form.Redraw();
