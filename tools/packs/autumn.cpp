@@ -173,7 +173,7 @@ void October(Canvas &canvas) {
         Hill(canvas, slope.ridge, Mix(Rgb(0x5a3c22), air, slope.haze), Mix(Rgb(0x4a3a26), air, slope.haze),
              60, 0.1f);
         // Rows of crowns down the slope, the lower ones in front.
-        for (float down = 0; down < 150 + slope.size; down += slope.size * 0.36f)
+        for (float down = 0; down < 240 + slope.size; down += slope.size * 0.36f)
             for (float x = -40; x < 1960; x += slope.spacing * random.Between(0.7f, 1.5f)) {
                 const float grove = Fractal(x / (slope.size * 9), down / (slope.size * 5), 1020 + n, 3),
                             pick = grove * 4.5f + random.Between(0, 3.2f);

@@ -87,13 +87,13 @@ void Leafy_Tree(Canvas &canvas, Random &random, float x, float foot, float heigh
     struct Lump {
         float x, y, radius;
     };
-    std::vector<Lump> lumps;
-    const int count = height < 40 ? 5 : 19;
+    std::vector<Lump> lumps{{0, 0, wide * 0.5f}};
+    const int count = height < 40 ? 5 : 21;
     for (int i = 0; i < count; ++i) {
-        const float angle = (static_cast<float>(i) + random.Next()) / static_cast<float>(count) * 2 * pi,
-                    far = random.Between(0.25f, 0.78f);
-        lumps.push_back({std::cos(angle) * far * wide, std::sin(angle) * far * height * 0.42f,
-                         wide * random.Between(0.24f, 0.46f)});
+        const float angle = (static_cast<float>(i) + random.Next()) / static_cast<float>(count) * 2 * pi;
+        const float far = random.Between(0.3f, 0.88f), low = std::sin(angle) > 0 ? 0.3f : 0.42f;
+        lumps.push_back({std::cos(angle) * far * wide, std::sin(angle) * far * height * low,
+                         wide * random.Between(0.22f, 0.4f)});
     }
     std::stable_sort(lumps.begin(), lumps.end(), [](const Lump &a, const Lump &b) { return a.y > b.y; });
     const float size = std::max(height * (height < 40 ? 0.05f : 0.012f), 0.7f);

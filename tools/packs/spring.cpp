@@ -257,7 +257,7 @@ void April(Canvas &canvas) {
             return grass * ((0.46f + 0.62f * sun) * (1 + 0.17f * texture));
         });
         for (int tree = 0; tree < 150; ++tree) {
-            const float x = random.Between(-20, 1940), down = 60 * random.Next() * random.Next(),
+            const float x = random.Between(-20, 1940), down = 7 * random.Next(),
                         grove = Noise(x / 150 + down / 60, k, 450);
             if (i == 3 || grove < 0.1f)
                 continue;
@@ -348,9 +348,9 @@ void May(Canvas &canvas) {
         canvas.Curve(x - 14, 1120, x + 22, 1000, x, y, 6, 4, Rgb(0x4b7a2c), 1, 3);
         Poppy(canvas, random, x, y, size, 0, 3.5f);
     }
-    for (int i = 0; i < 130; ++i) {
+    for (int i = 0; i < 60; ++i) {
         const float near = random.Next() * random.Next();
-        canvas.Disc(random.Between(0, 1920), 470 + 560 * random.Next(), 1 + 5 * near, Rgb(0xfff6cf),
+        canvas.Disc(random.Between(0, 1920), 470 + 560 * random.Next(), 1 + 3 * near, Rgb(0xfff6cf),
                     0.55f - 0.4f * near, 1.5f + 6 * near);
     }
     canvas.Bloom(0.75f, 50, 0.3f);

@@ -244,7 +244,8 @@ void August(Canvas &canvas) {
     // A lone oak on the near hill.
     const Ridge near{905, 50, 1100, 829};
     Hill(canvas, near, Rgb(0x0a1424), Rgb(0x1c2430), 90, 0.1f);
-    Leafy_Tree(canvas, random, 300, near(300) + 8, 290, Rgb(0x060c18), Rgb(0x1d2c42), 0.8f);
+    Random oak(8); // of its own, so that it keeps its shape
+    Leafy_Tree(canvas, oak, 300, near(300) + 8, 320, Rgb(0x060c18), Rgb(0x1d2c42), 0.8f);
     // Wheat: stalks with ears, touched by the light of the horizon.
     for (int i = 0; i < 4200; ++i) {
         const float z = static_cast<float>(i) / 4200, x = random.Between(-20, 1940), foot = 960 + 230 * z,

@@ -181,7 +181,6 @@ void February(Canvas &canvas) {
     Random random(202);
     constexpr float horizon = 640;
     Sky(canvas, {{0, 0x040a20}, {0.5f, 0x0a1c3f}, {0.85f, 0x15375a}, {1, 0x2a5a70}}, horizon + 10);
-    Stars(canvas, random, 1900, [](float, float y) { return Ramp(horizon, 200, y) * 0.9f; });
     const Coarse<Colour> aurora(
         3, [](float x, float y) { return y < horizon ? Aurora_At(x, y, horizon) : Colour{}; });
     canvas.Each([&](float x, float y, Colour &pixel) { pixel = pixel + aurora.At(x, y); }, 0, horizon);
@@ -199,6 +198,8 @@ void February(Canvas &canvas) {
         near, [](float, float, float) { return Rgb(0x07131f); }, horizon);
     Conifers(canvas, random, near, -10, 1930, 7, 8, 38, 12, {Rgb(0x07131f), {}, 0});
     Water(canvas, {horizon, picture_height, 0.02f, Rgb(0x123149), 0.45f, 68});
+    // Behind nothing but air, and too faint for the ice to mirror.
+    Stars(canvas, random, 1900, [](float, float y) { return y < 540 ? Ramp(horizon, 200, y) * 0.9f : 0; });
     // The ice: drifted snow with a dull sheen.
     canvas.Each(
         [&](float x, float y, Colour &pixel) {
