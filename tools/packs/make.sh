@@ -21,6 +21,7 @@ Paint_Month() {
     [ "$(stat -c %s "$work/$1.jpg")" -ge "$largest" ] || break
   done
   rm "$work/$1.ppm"
+  [ "$(stat -c %s "$work/$1.jpg")" -lt "$largest" ] || { echo "$1.jpg stays too large" >&2; return 1; }
   mv "$work/$1.jpg" "$folder/$1.jpg"
   echo "$1.jpg: $(stat -c %s "$folder/$1.jpg") bytes, quality $quality"
 }
