@@ -30,7 +30,8 @@ constexpr int window_frame = 8 * 15; ///< left and right of the dialog, estimate
 Settings_Frm::Settings_Frm(Main_Frm &calendar)
     : Form(platform::Form_Kind::Dialog, "Settings_Frm"), TabStrip1(*this, "TabStrip1"),
       Settings_Fra(*this, "Settings_Fra"), Events(*this, Settings_Fra[events_fra], calendar),
-      General(*this, Settings_Fra[general_fra], calendar),
+      Colours(*this, Settings_Fra[colours_fra], calendar),
+      General(*this, Settings_Fra[general_fra], calendar), Style(*this, Settings_Fra[style_fra], calendar),
       Tooltips(*this, Settings_Fra[tooltips_fra], calendar), About(*this, Settings_Fra[about_fra]),
       Ok_Btn(*this, "Ok_Btn", "OK"), Cancel_Btn(*this, "Cancel_Btn", "Cancel"),
       Apply_Btn(*this, "Apply_Btn", "&Apply"), calendar_(calendar) {
@@ -51,6 +52,7 @@ Settings_Frm::Settings_Frm(Main_Frm &calendar)
     Apply_Btn.On_Click = [this] { Apply_Btn_Click(); };
     On_Close = [this] { Form_Unload(); };
     On_Window_Lost = [this] { Form_Unload(); };
+    On_Dots_Changed = [this] { Lay_Out(); };
     On_Capture_Lost = [this] { Tooltips.Release(); };
     Model().input = [this](const platform::Input_Event &event) {
         ++events_;
@@ -78,6 +80,7 @@ void Settings_Frm::Form_Load() {
         [this] { Load_General_Settings(); },
         [this] { Events.Open_Overview(); },
         [this] { General.Get_Startup_Value(); },
+        [this] { Style.Preview_Position(); },
     };
     for (const auto &step : steps)
         Run_Guarded(step);
@@ -88,7 +91,19 @@ void Settings_Frm::Form_Load() {
     calendar_.Set_Blocked_By(this);
 }
 
+/// The pages measure their texts, which are a little wider or narrower at other dots per inch.
+void Settings_Frm::Lay_Out() {
+    Events.Lay_Out();
+    Colours.Lay_Out();
+    General.Lay_Out();
+    Style.Lay_Out();
+    Tooltips.Lay_Out();
+    About.Lay_Out();
+}
+
 void Settings_Frm::Load_Settings() {
+    Colours.Load_Settings();
+    Style.Load_Settings();
 }
 
 void Settings_Frm::Load_General_Settings() {
