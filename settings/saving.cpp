@@ -80,10 +80,22 @@ void Settings_Frm::Save_General_Settings() {
 }
 
 void Settings_Frm::Save_Other_DM() {
+    Cur_Settings.Use_Other_Display_Mode = Wallpaper.Other_Display_Chk.Checked();
+    Store_Setting("Use Other Display Mode");
+    // A number that the list does not have shows as none and stays, as long as no other is chosen.
+    if (Wallpaper.Display_Cbo.Selected() != -1)
+        Cur_Settings.Other_Display_Mode = static_cast<std::int16_t>(Wallpaper.Display_Cbo.Selected());
+    Store_Setting("Other Display Mode");
 }
 
 void Settings_Frm::Save_Theme() {
     const std::int16_t style_before = calendar_.Effective_Style();
+    Save_Changed(Cur_Settings.Use_Themes, Wallpaper.Theme_Use_Chk, "Use Themes");
+    Save_Changed(Cur_Settings.Use_Theme_Pos, Wallpaper.Theme_Pos_Chk, "Use Theme Pos");
+    Save_Changed(Cur_Settings.Use_Theme_Style, Wallpaper.Theme_Style_Chk, "Use Theme Style");
+    // None is selected where the pack of the settings is missing: it may come back.
+    if (!Wallpaper.Packs_Cbo.Text().empty())
+        Save_Changed(Cur_Settings.Pack_Name, Wallpaper.Packs_Cbo.Text(), "Pack Name");
     Cur_Settings.Style = Style.Style1_Opt.Checked() ? 0 : 1;
     Store_Setting("Style");
     // A pack that cannot be read is told, and keeps nothing else from being saved. Whoever gives themes up

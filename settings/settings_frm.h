@@ -10,6 +10,7 @@
 #include "settings/page.h"
 #include "settings/style_page.h"
 #include "settings/tooltips_page.h"
+#include "settings/wallpaper_page.h"
 #include "toolkit/control_array.h"
 #include "toolkit/form.h"
 #include "toolkit/list_controls.h"
@@ -68,6 +69,7 @@ public:
     General_Page General;
     Style_Page Style;
     Tooltips_Page Tooltips;
+    Wallpaper_Page Wallpaper;
     About_Page About;
     Button Ok_Btn;
     Button Cancel_Btn;
