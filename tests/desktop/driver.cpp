@@ -98,16 +98,20 @@ Item Item_Of(IAccessible &accessible, VARIANT child) {
     return item;
 }
 
-/// The stop icon is red more than blue, the one for information is not.
-bool Is_Red(HWND icon) {
+/// The stop icon is red, the exclamation yellow; the others are not named.
+std::string Icon_Of(HWND icon) {
     RECT place;
     GetWindowRect(icon, &place);
     const Picture screen;
-    long red = 0;
+    long red = 0; // than blue
+    long green = 0;
     for (LONG y = place.top; y < place.bottom; ++y)
-        for (LONG x = place.left; x < place.right; ++x)
-            red += static_cast<long>(screen.At(x, y) >> 16) - static_cast<long>(screen.At(x, y) & 0xFF);
-    return red > 0;
+        for (LONG x = place.left; x < place.right; ++x) {
+            const auto blue = static_cast<long>(screen.At(x, y) & 0xFF);
+            red += static_cast<long>(screen.At(x, y) >> 16) - blue;
+            green += static_cast<long>(screen.At(x, y) >> 8 & 0xFF) - blue;
+        }
+    return red <= 0 ? "" : green > red / 2 ? "warning " : "stop ";
 }
 
 } // namespace
@@ -259,7 +263,7 @@ std::string Program::Box() const {
         if (Class_Of(part) != "Static")
             continue;
         if ((GetWindowLongW(part, GWL_STYLE) & SS_TYPEMASK) == SS_ICON)
-            icon = Is_Red(part) ? "stop " : "";
+            icon = Icon_Of(part);
         else
             text += Text_Of(part);
     }

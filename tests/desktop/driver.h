@@ -38,11 +38,12 @@ inline std::unique_ptr<const Picture> Bare_Screen;
 
 // What a hand does, wherever the mouse and the keyboard are.
 POINT Middle(const RECT &place);
-void Send_Mouse(POINT point, DWORD flags); ///< MOUSEEVENTF_LEFTDOWN and its like; 0: moves only
-void Send_Key(WORD key);                   ///< down and up
+void Send_Mouse(POINT point, DWORD flags);      ///< MOUSEEVENTF_LEFTDOWN and its like; 0: moves only
+void Send_Key(WORD key, bool with_alt = false); ///< down and up
 void Send_Text(std::string_view ascii);
-/// Clicks into the middle of a window of any program, once nothing covers it.
-void Click_On(HWND window);
+/// Clicks into the middle of a dialog's control, once nothing covers it, and waits for the effect.
+void Click_On(HWND window, const std::function<bool()> &done);
+bool Has_Keyboard(HWND window);
 std::string Text_Of(HWND window); ///< also of a control; nothing from a window that does not answer
 
 /// Polls until `holds` gives true; false after the deadline.
@@ -81,7 +82,8 @@ public:
     /// Asks for an item's default action, as assistive technology does.
     void Do_Default(std::string_view name) const;
 
-    /// The open message box as "[Vellatro] text", with "stop " before it if that is its icon; empty: none.
+    /// The open message box as "[Vellatro] text", with "stop " or "warning " before it if that is its icon;
+    /// empty: none.
     std::string Box() const;
     HWND Box_Window() const;
     void Answer(WORD button = IDOK) const; ///< presses it and waits until the box is gone

@@ -13,7 +13,19 @@ void Send_Key_Event(WORD key, DWORD flags) {
     SendInput(1, &input, sizeof input);
 }
 
+/// Over all others. Moved twice, as what stays in its place is not raised.
+void Raise(HWND window) {
+    for (const HWND place : {HWND_TOPMOST, HWND_NOTOPMOST})
+        SetWindowPos(window, place, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+}
+
 } // namespace
+
+bool Has_Keyboard(HWND window) {
+    GUITHREADINFO state{};
+    state.cbSize = sizeof state;
+    return GetGUIThreadInfo(0, &state) && state.hwndFocus == window;
+}
 
 POINT Middle(const RECT &place) {
     return {(place.left + place.right) / 2, (place.top + place.bottom) / 2};
@@ -30,9 +42,13 @@ void Send_Mouse(POINT point, DWORD flags) {
     SendInput(1, &input, sizeof input);
 }
 
-void Send_Key(WORD key) {
+void Send_Key(WORD key, bool with_alt) {
+    if (with_alt)
+        Send_Key_Event(VK_MENU, 0);
     Send_Key_Event(key, 0);
     Send_Key_Event(key, KEYEVENTF_KEYUP);
+    if (with_alt)
+        Send_Key_Event(VK_MENU, KEYEVENTF_KEYUP);
 }
 
 void Send_Text(std::string_view ascii) {
@@ -46,27 +62,39 @@ void Send_Text(std::string_view ascii) {
         }
 }
 
-void Click_On(HWND window) {
-    RECT place{};
-    EXPECT_TRUE(Wait_Until([&] {
-        return GetWindowRect(window, &place) && WindowFromPoint(Middle(place)) == window;
-    })) << "there is nothing to click";
-    Send_Mouse(Middle(place), MOUSEEVENTF_LEFTDOWN);
-    Send_Mouse(Middle(place), MOUSEEVENTF_LEFTUP);
+void Click_On(HWND window, const std::function<bool()> &done) {
+    // Wine loses a click while X changes the focus, after a message box for instance.
+    for (int i = 0; i < 3 && !done(); ++i) {
+        RECT place{};
+        EXPECT_TRUE(Wait_Until([&] {
+            GetWindowRect(window, &place);
+            const HWND seen = WindowFromPoint(Middle(place));
+            // Wine may have raised the stand-in, see below.
+            if (seen != window && GetAncestor(seen, GA_ROOT) == FindWindowA("Progman", nullptr))
+                Raise(GetAncestor(window, GA_ROOT));
+            return seen == window;
+        })) << "there is nothing to click";
+        Send_Mouse(Middle(place), MOUSEEVENTF_LEFTDOWN);
+        Send_Mouse(Middle(place), MOUSEEVENTF_LEFTUP);
+        Wait_Until(done, 2000);
+    }
+    EXPECT_TRUE(done()) << "no effect of a click";
 }
 
 void Program::Answer(WORD button) const {
     const HWND box = Box_Window();
     PostMessageW(box, WM_COMMAND, button, 0);
     EXPECT_TRUE(box && Wait_Until([box] { return !IsWindow(box); })) << "no box that takes an answer";
+    // The program takes nothing else until it has seen the answer, and then it is back in its loop.
+    DWORD_PTR answer = 0;
+    SendMessageTimeoutW(Calendar(), WM_NULL, 0, 0, SMTO_NORMAL, 2000, &answer);
 }
 
 bool Program::Uncover(POINT point) const {
     // Inside the stand-in the calendar is painted in its view only (see shell_standin.cpp). And a calendar
     // that is a window of its own may get below the stand-in, which on Windows nothing can: Wine raises the X
     // window of whatever gets the focus, without knowing it, and puts what X has found below the mouse, some
-    // time ago, above the others. So both are asked, and the calendar is moved twice, as what stays in its
-    // place is not raised.
+    // time ago, above the others. So both are asked.
     const HWND calendar = Calendar();
     const HWND standin = FindWindowA("Progman", nullptr);
     return Wait_Until([&] {
@@ -78,8 +106,7 @@ bool Program::Uncover(POINT point) const {
             WindowFromPoint(point) == calendar)
             return true;
         if (GetAncestor(calendar, GA_PARENT) == GetDesktopWindow())
-            for (const HWND place : {HWND_TOPMOST, HWND_NOTOPMOST})
-                SetWindowPos(calendar, place, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+            Raise(calendar);
         return false;
     });
 }
@@ -101,17 +128,8 @@ void Program::Choose(std::initializer_list<WORD> keys) const {
 
 void Program::Press(WORD key, bool with_alt) const {
     const HWND calendar = Calendar();
-    const auto has_keyboard = [calendar] {
-        GUITHREADINFO state{};
-        state.cbSize = sizeof state;
-        return GetGUIThreadInfo(0, &state) && state.hwndFocus == calendar;
-    };
-    if (!has_keyboard())
+    if (!Has_Keyboard(calendar))
         Click(Named(Title()).place);
-    EXPECT_TRUE(Wait_Until(has_keyboard)) << "no keyboard by a click";
-    if (with_alt)
-        Send_Key_Event(VK_MENU, 0);
-    Send_Key(key);
-    if (with_alt)
-        Send_Key_Event(VK_MENU, KEYEVENTF_KEYUP);
+    EXPECT_TRUE(Wait_Until([calendar] { return Has_Keyboard(calendar); })) << "no keyboard by a click";
+    Send_Key(key, with_alt);
 }
