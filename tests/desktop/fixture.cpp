@@ -142,8 +142,6 @@ Program &Desktop_Test::Start_Calendar() {
     EXPECT_TRUE(Wait_Until([&] { return program.Windows(true) == 1; })) << "the splash window stays";
     const RECT title = program.Named(program.Title()).place;
     EXPECT_TRUE(program.Uncover({title.left, title.top})) << "the title is not seen";
-    if (HasFailure())
-        Save_Picture("DBG"), program.Print();
     return program;
 }
 

@@ -1,13 +1,10 @@
-// A day's use of the calendar: function keys, all menus, compact mode, tooltips and balloon by mouse and
-// keyboard, and hundreds of random actions, which leave nothing behind.
+// A day's use of the calendar by mouse and keyboard: function keys, all menus, compact mode, tooltips and
+// balloon.
 #include "tests/desktop/driver.h"
 
 #include <windows.h>
 
 #include <oleacc.h>
-
-#include <map>
-#include <random>
 
 namespace {
 
@@ -50,8 +47,10 @@ TEST_F(Use, Function_Keys) {
     program.Press(VK_F1);
     ASSERT_TRUE(Becomes(std::string("[Vellatro] Today: 5/12/2027\r\nEvery year"), box));
     program.Answer();
-    const std::pair<WORD, const char *> steps[] = {
-        {VK_F4, "June - 2027"}, {VK_F2, "12th May - 2027"}, {VK_F2, "April - 2027"}, {VK_F4, "12th May - 2027"}};
+    const std::pair<WORD, const char *> steps[] = {{VK_F4, "June - 2027"},
+                                                   {VK_F2, "12th May - 2027"},
+                                                   {VK_F2, "April - 2027"},
+                                                   {VK_F4, "12th May - 2027"}};
     for (const auto &[key, title] : steps) {
         program.Press(key);
         ASSERT_TRUE(Shows(program, title));
@@ -93,7 +92,8 @@ TEST_F(Use, Every_Item_Of_The_Menus) {
         ASSERT_TRUE(Shows(program, std::string(months[i]) + " - 2027"));
     }
     // From December 2027; each row goes on from the one before, by one item more each time.
-    const char *titles[] = {"December - 2025", "December - 2024", "12th May - 2027", "May - 2028", "May - 2030"};
+    const char *titles[] = {"December - 2025", "December - 2024", "12th May - 2027", "May - 2028",
+                            "May - 2030"};
     for (int i = 0; i < 5; ++i) {
         program.Click(Half(program, true), right_button);
         ASSERT_TRUE(Wait_Until([&] { return program.Window("#32768") != nullptr; }));
