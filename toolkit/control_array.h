@@ -25,6 +25,8 @@ public:
 
     auto begin() { return controls_.begin(); }
     auto end() { return controls_.end(); }
+    auto begin() const { return controls_.begin(); }
+    auto end() const { return controls_.end(); }
 
 private:
     static std::string Element_Name(const std::string &name, int index) {

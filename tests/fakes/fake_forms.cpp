@@ -109,6 +109,12 @@ void Press_Key(Form &form, int key) {
     form.Model().input(event);
 }
 
+void Tell(Form &form, Input_Kind kind) {
+    platform::Input_Event event{};
+    event.kind = kind;
+    form.Model().input(event);
+}
+
 void Push(Form &form, const Control &control, bool checked) {
     platform::Input_Event event = Event_Of(control, Input_Kind::Clicked);
     event.checked = checked;
@@ -186,11 +192,13 @@ void Fill_Polygon(Canvas &canvas, const std::vector<Point> &corners, Colour colo
 
 void Draw_Text(Canvas &canvas, std::string_view text, const Rect &rect, const Font &, Colour colour,
                Text_Align align) {
-    canvas.operations.push_back({Canvas_Operation::Kind::Text, rect, colour, std::string(text), {}, align});
+    canvas.operations.push_back(
+        {Canvas_Operation::Kind::Text, rect, colour, std::string(text), {}, align, {}});
 }
 
-void Draw_Picture(Canvas &canvas, const Picture &, const Rect &rect) {
-    canvas.operations.push_back({Canvas_Operation::Kind::Picture, rect, {}, {}, {}, {}});
+void Draw_Picture(Canvas &canvas, const Picture &picture, const Rect &rect) {
+    canvas.operations.push_back(
+        {Canvas_Operation::Kind::Picture, rect, 0, {}, {}, Text_Align::Left, picture});
 }
 
 int Text_Width(std::string_view text, const Font &) {
@@ -212,6 +220,10 @@ Colour Resolve_Colour(Colour colour) {
 
 int Dots_Per_Inch() {
     return Desktop().dots_per_inch;
+}
+
+Size Screen_Size() {
+    return Desktop().screen;
 }
 
 Rect Work_Area() {
@@ -337,6 +349,10 @@ void Attach_To_Desktop(Form_Model &model, Shell_Window desktop) {
     Input_Event event{};
     event.kind = Input_Kind::Dots_Changed;
     model.input(event);
+}
+
+void Open_Web_Page(const char *address) {
+    Shell().web_pages.emplace_back(address);
 }
 
 } // namespace platform
