@@ -29,7 +29,8 @@ constexpr int window_frame = 8 * 15; ///< left and right of the dialog, estimate
 
 Settings_Frm::Settings_Frm(Main_Frm &calendar)
     : Form(platform::Form_Kind::Dialog, "Settings_Frm"), TabStrip1(*this, "TabStrip1"),
-      Settings_Fra(*this, "Settings_Fra"), General(*this, Settings_Fra[general_fra], calendar),
+      Settings_Fra(*this, "Settings_Fra"), Colours(*this, Settings_Fra[colours_fra], calendar),
+      General(*this, Settings_Fra[general_fra], calendar), Style(*this, Settings_Fra[style_fra], calendar),
       Tooltips(*this, Settings_Fra[tooltips_fra], calendar), About(*this, Settings_Fra[about_fra]),
       Ok_Btn(*this, "Ok_Btn", "OK"), Cancel_Btn(*this, "Cancel_Btn", "Cancel"),
       Apply_Btn(*this, "Apply_Btn", "&Apply"), calendar_(calendar) {
@@ -83,6 +84,8 @@ void Settings_Frm::Form_Load() {
 }
 
 void Settings_Frm::Load_Settings() {
+    Colours.Load_Settings();
+    Style.Load_Settings();
 }
 
 void Settings_Frm::Load_General_Settings() {

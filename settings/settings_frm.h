@@ -4,8 +4,10 @@
 
 #include "calendar/main_frm.h"
 #include "settings/about_page.h"
+#include "settings/colours_page.h"
 #include "settings/general_page.h"
 #include "settings/page.h"
+#include "settings/style_page.h"
 #include "settings/tooltips_page.h"
 #include "toolkit/control_array.h"
 #include "toolkit/form.h"
@@ -60,7 +62,9 @@ public:
 
     Tab_Strip TabStrip1;
     Control_Array<Frame, page_count> Settings_Fra;
+    Colours_Page Colours;
     General_Page General;
+    Style_Page Style;
     Tooltips_Page Tooltips;
     About_Page About;
     Button Ok_Btn;
