@@ -12,7 +12,8 @@ namespace {
 /// The author's page, as long as it has no address of its own: a name that is reserved for examples.
 constexpr const char *web_page = "https://vellatro.example/";
 
-constexpr platform::Colour link_colour = platform::System_Colour(26);
+/// Readable on light and on dark backgrounds, which the system's own colour of links is not everywhere.
+constexpr platform::Colour link_colour = platform::Rgb(0x00, 0x66, 0xCC);
 constexpr platform::Font name_font{200, true};
 
 } // namespace

@@ -93,7 +93,8 @@ void Dialog_Window::Set_Font(const Control_State &control) {
     SendMessageW(native.window, WM_SETFONT, reinterpret_cast<WPARAM>(font.Get()), TRUE);
     // Only now may the one before go.
     native.font = std::move(font);
-    if (Has_Items(control))
+    // While the controls are made there are no items yet.
+    if (Has_Items(control) && !updating_)
         Fit_Widest_Item(native.window, control);
 }
 
@@ -130,14 +131,30 @@ void Dialog_Window::Place_Control(const Control_State &control) {
         Set_Combo_Heights(window, height, control);
 }
 
-void Dialog_Window::Place_Held(const Control_State &frame) {
+void Dialog_Window::Place_Held(const Control_State &changed, const platform::Rect &before) {
     for (const Control_State *control : Model()->controls) {
-        if (Control_Window(control->index) == nullptr || !Holds(frame, *control))
-            continue;
-        Place_Control(*control);
-        if (control == &frame)
-            Raise_Over_Painted(frame);
+        if (Control_Window(control->index) != nullptr && Holds(changed, *control))
+            Place_Control(*control);
     }
+    if (changed.kind != Control_Kind::Frame) {
+        if (Control_Window(changed.index) != nullptr)
+            Raise_Over_Painted(changed);
+        return;
+    }
+    // The inside of a frame is not the frame's own to paint.
+    platform::Rect place = platform::Place_On_Form(*Model(), changed);
+    Redraw(place);
+    place.left += before.left - changed.bounds.left;
+    place.top += before.top - changed.bounds.top;
+    place.width = before.width;
+    place.height = before.height;
+    Redraw(place);
+}
+
+/// Has a part of the dialog painted anew, all at once when the program waits again.
+void Dialog_Window::Redraw(const platform::Rect &place) {
+    const RECT pixels = To_Pixels(place);
+    RedrawWindow(window_, &pixels, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }
 
 void Dialog_Window::Fill(const Control_State &control) {
@@ -155,17 +172,45 @@ void Dialog_Window::Fill(const Control_State &control) {
     }
 }
 
+void Dialog_Window::Show_Check(const Control_State &control) {
+    const HWND window = Control_Window(control.index);
+    const LRESULT wanted = control.checked ? BST_CHECKED : BST_UNCHECKED;
+    if (SendMessageW(window, BM_GETCHECK, 0, 0) != wanted)
+        SendMessageW(window, BM_SETCHECK, static_cast<WPARAM>(wanted), 0);
+    if (control.kind == Control_Kind::Option_Button)
+        Set_Group_Stop(control.container);
+}
+
+/// The Tab key reaches the checked option button of a frame, or the first one when none is: the keyboard
+/// checks where it arrives.
+void Dialog_Window::Set_Group_Stop(int container) {
+    const Control_State *stop = nullptr;
+    for (const Control_State *control : Model()->controls) {
+        if (control->kind == Control_Kind::Option_Button && control->container == container &&
+            (stop == nullptr || (control->checked && !stop->checked)))
+            stop = control;
+    }
+    for (const Control_State *control : Model()->controls) {
+        const HWND window = Control_Window(control->index);
+        if (control->kind != Control_Kind::Option_Button || control->container != container ||
+            window == nullptr)
+            continue;
+        const LONG style = GetWindowLongW(window, GWL_STYLE);
+        const LONG with_stop = style | WS_TABSTOP;
+        const LONG wanted = control == stop ? with_stop : with_stop ^ WS_TABSTOP;
+        if (style != wanted)
+            SetWindowLongW(window, GWL_STYLE, wanted);
+    }
+}
+
 void Dialog_Window::Show_Choice(const Control_State &control) {
     const Updating_Scope updating(updating_);
     Native &native = natives_[static_cast<std::size_t>(control.index)];
     switch (control.kind) {
     case Control_Kind::Check_Box:
-    case Control_Kind::Option_Button: {
-        const LRESULT wanted = control.checked ? BST_CHECKED : BST_UNCHECKED;
-        if (SendMessageW(native.window, BM_GETCHECK, 0, 0) != wanted)
-            SendMessageW(native.window, BM_SETCHECK, static_cast<WPARAM>(wanted), 0);
+    case Control_Kind::Option_Button:
+        Show_Check(control);
         break;
-    }
     case Control_Kind::Combo_Box:
     case Control_Kind::List_Box:
     case Control_Kind::Tab_Strip:
@@ -230,10 +275,9 @@ void Dialog_Window::Update_Held(const Control_State &changed) {
     }
     if (moves != nullptr)
         EndDeferWindowPos(moves);
-    // Painted all at once when the program waits again, and with it what another page shows meanwhile.
-    const RECT place = To_Pixels(platform::Place_On_Form(*Model(), changed));
+    // Together with what another page shows meanwhile.
     if (shown_or_hidden)
-        RedrawWindow(window_, &place, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+        Redraw(platform::Place_On_Form(*Model(), changed));
 }
 
 void Dialog_Window::Update_Tooltips() {
@@ -244,10 +288,11 @@ void Dialog_Window::Update_Tooltips() {
     tooltips_.Update(window_, *Model(), windows);
 }
 
-void Dialog_Window::Control_Changed(const Control_State &control, Aspect aspect, const platform::Rect &) {
+void Dialog_Window::Control_Changed(const Control_State &control, Aspect aspect,
+                                    const platform::Rect &before) {
     // These concern what a frame holds too, even when it has no window itself.
     if (aspect == Aspect::Bounds)
-        return Place_Held(control);
+        return Place_Held(control, before);
     if (aspect == Aspect::Visible || aspect == Aspect::Enabled)
         return Update_Held(control);
     const HWND window = Control_Window(control.index);

@@ -25,8 +25,15 @@ void Dialog_Window::Tell(const Control_State &control, Input_Event event) {
     if (Open_Modal_Boxes == 0)
         Send(event);
     // The handler may have closed the dialog.
-    if (Model() != nullptr)
-        Show_Choice(control);
+    if (Model() == nullptr)
+        return;
+    Show_Choice(control);
+    // An option button has unchecked its neighbours, too.
+    for (const Control_State *other : Model()->controls) {
+        if (control.kind == Control_Kind::Option_Button && other->kind == control.kind &&
+            other->container == control.container)
+            Show_Choice(*other);
+    }
 }
 
 void Dialog_Window::Tell(const Control_State &control, Input_Kind kind, int selected) {
@@ -79,17 +86,15 @@ void Dialog_Window::Cancel() {
 
 void Dialog_Window::Click(const Control_State &control) {
     Input_Event event = Event_Of(Input_Kind::Clicked);
-    // A check box has changed by itself, an option button has not.
-    event.checked = control.kind == Control_Kind::Option_Button ||
-                    SendMessageW(Control_Window(control.index), BM_GETCHECK, 0, 0) == BST_CHECKED;
+    event.checked = SendMessageW(Control_Window(control.index), BM_GETCHECK, 0, 0) == BST_CHECKED;
     Tell(control, std::move(event));
 }
 
 void Dialog_Window::Text_Edited(const Control_State &control) {
-    Input_Event event = Event_Of(Input_Kind::Text_Changed);
-    event.text = From_Wide(Without_Breaks(Window_Text(Control_Window(control.index))));
     if (updating_)
         return;
+    Input_Event event = Event_Of(Input_Kind::Text_Changed);
+    event.text = From_Wide(Without_Breaks(Window_Text(Control_Window(control.index))));
     event.control = control.index;
     Send(event);
 }

@@ -129,6 +129,8 @@ void Set_Combo_Heights(HWND combo, int pixels, const Control_State &control) {
     if (around > 0 && wanted != field_height)
         SendMessageW(combo, CB_SETITEMHEIGHT, field, wanted);
     // The height that a combo box is given is the one with the open list.
+    // Newer systems show as many items as they are told here, and thirty otherwise.
+    SendMessageW(combo, CB_SETMINVISIBLE, most_items_shown, 0);
     const int shown = std::clamp(static_cast<int>(control.items.size()), 1, most_items_shown);
     const auto item_height = static_cast<int>(SendMessageW(combo, CB_GETITEMHEIGHT, 0, 0));
     const int whole =

@@ -38,8 +38,7 @@ DWORD Style_Of(const Control_State &control) {
     case Control_Kind::Check_Box:
         return WS_TABSTOP | BS_AUTOCHECKBOX;
     case Control_Kind::Option_Button:
-        // Not the automatic kind: the form unchecks the others, and knows which these are.
-        return WS_TABSTOP | BS_RADIOBUTTON;
+        return WS_TABSTOP | BS_AUTORADIOBUTTON;
     case Control_Kind::Text_Box:
         return Text_Box_Style(control);
     case Control_Kind::Combo_Box:

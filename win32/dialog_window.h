@@ -48,11 +48,13 @@ private:
     void Look_Changed(const Control_State &control);
     void Set_Font(const Control_State &control);
     void Set_Caption(const Control_State &control);
-    void Set_Window_Text(const Control_State &control, const std::wstring &text);
     void Place_Control(const Control_State &control);
-    void Place_Held(const Control_State &frame);
+    void Place_Held(const Control_State &changed, const platform::Rect &before);
+    void Redraw(const platform::Rect &place);
     void Fill(const Control_State &control);
     void Show_Choice(const Control_State &control);
+    void Show_Check(const Control_State &control);
+    void Set_Group_Stop(int container);
     void Update_Held(const Control_State &changed);
     void Leave_Focus(const Control_State &changed);
     void Update_Tooltips();

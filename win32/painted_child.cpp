@@ -5,8 +5,6 @@
 #include "win32/modal.h"
 #include "win32/units.h"
 
-#include <algorithm>
-
 namespace win32 {
 
 using platform::Control_State;
@@ -120,7 +118,7 @@ void Painted_Child::Mouse(UINT message, WPARAM wparam, LPARAM lparam) {
         return;
     const bool pressed = event.kind == Input_Kind::Mouse_Down || event.kind == Input_Kind::Double_Click;
     if (pressed && Control().tab_stop && GetFocus() != window_)
-        SetFocus(window_);
+        SendMessageW(GetParent(window_), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(window_), TRUE);
     event.control = index_;
     owner_->Send(event);
 }

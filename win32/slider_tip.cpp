@@ -3,7 +3,6 @@
 
 #include <commctrl.h>
 
-#include <algorithm>
 #include <utility>
 
 namespace win32 {
@@ -37,7 +36,7 @@ void Slider_Tip::Show(HWND slider, std::wstring text) {
     SendMessageW(window_, TTM_TRACKACTIVATE, TRUE, pointer);
     RECT tip = {};
     GetWindowRect(window_, &tip);
-    const LONG left = std::max(0L, (thumb.left + thumb.right - (tip.right - tip.left)) / 2);
+    const LONG left = (thumb.left + thumb.right - (tip.right - tip.left)) / 2;
     const LONG top = thumb.top - (tip.bottom - tip.top) - (thumb.bottom - thumb.top) / 4;
     SendMessageW(window_, TTM_TRACKPOSITION, 0, MAKELPARAM(left, top));
 }

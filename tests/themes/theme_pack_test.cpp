@@ -71,6 +71,7 @@ TEST_F(Theme_Pack, A_Missing_Pack_Ends_The_Use_Of_Themes) {
         Fakes().registry.clear();
         Fakes().Expect_Box("Missing Theme " + std::string(pack) + ". Themes will now be disabled.");
         EXPECT_EQ(Details(3, pack), "ERROR");
+        ASSERT_FALSE(Fakes().boxes.empty());
         EXPECT_EQ(Fakes().boxes.back().icon, platform::Box_Icon::Stop);
         EXPECT_EQ(Fakes().registry["Software\\Vellatro\\Settings\\Use Themes"], "0");
         EXPECT_EQ(Cur_Settings.Use_Themes, 0);
