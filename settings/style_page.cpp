@@ -107,6 +107,7 @@ void Style_Page::Load_Settings() {
 
 void Style_Page::Set_Theme(const Theme_Look &look) {
     theme_ = look;
+    Pos_Hint_Lbl.Set_Enabled(!look.use_position);
     Style_Preview();
     Show_Position();
 }
@@ -203,6 +204,8 @@ void Style_Page::Paint_Miniature(platform::Canvas &canvas) {
     for (int row = 0; row <= last_cell; ++row) {
         for (int column = 0; column <= last_cell; ++column) {
             const bool marked = chosen == Point{column, row};
+            if (theme_.use_position && !marked)
+                continue; // not to be chosen now
             const Rect cell = miniature.Cell(column, row, size);
             const int side = marked ? marker_size + 4 * one_pixel : marker_size;
             const Rect marker{Snap(cell.left + (cell.width - side) / 2),
