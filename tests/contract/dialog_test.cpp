@@ -136,13 +136,10 @@ TEST_F(Dialog_Contract, The_Form_Hears_What_The_User_Does) {
         {[this] { Press_Tab(1); }, "selected 0 1; "},
         {[this] { Type(List, VK_TAB, true); }, "selected 0 2; "},
         {[this] { Type(Check, VK_NEXT, true); }, "selected 0 0; "},
+        // Let go where it was.
+        {[this] { Send(Thumb, WM_KEYDOWN, VK_LEFT), Send(Thumb, WM_KEYUP, VK_LEFT); }, ""},
         {[this] { Send(Thumb, WM_KEYDOWN, VK_RIGHT), Send(Thumb, WM_KEYUP, VK_RIGHT); },
          "scroll 9 2; selected 9 2; "},
-        {[this] {
-             Notify(Thumb, 0),
-                 SendMessageW(window_, WM_HSCROLL, TB_ENDTRACK, reinterpret_cast<LPARAM>(Native(Thumb)));
-         },
-         ""},
         {[this] {
              Send(Picture, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(4, 3)),
                  Send(Picture, WM_LBUTTONUP, 0, MAKELPARAM(6, 3));
