@@ -6,6 +6,7 @@
 #include "platform/screen.h"
 #include "platform/twips.h"
 #include "tests/contract/contract.h"
+#include "win32/mirror.h"
 #include "win32/modal.h"
 
 #include <windows.h>
@@ -178,6 +179,14 @@ TEST_F(Dialog_Contract, Its_Own_Changes_Show_And_Are_Not_Told) {
                 Send(List, LB_GETCURSEL) == 3);
     EXPECT_TRUE(Send(Thumb, TBM_GETPOS) == 40 && Send(Bar, PBM_GETPOS) == 60);
     EXPECT_TRUE(Send(Opt_1, BM_GETCHECK) == BST_CHECKED && Send(Check, BM_GETCHECK) == BST_CHECKED);
+}
+
+TEST_F(Dialog_Contract, New_Fonts_Of_The_System_Reach_All_Controls) {
+    const LRESULT before = Send(List, WM_GETFONT);
+    win32::Check_Scale(true);
+    EXPECT_EQ(GetObjectType(reinterpret_cast<HGDIOBJ>(Send(List, WM_GETFONT))), DWORD{OBJ_FONT});
+    EXPECT_TRUE(Send(List, WM_GETFONT) == Send(Check, WM_GETFONT) && Send(List, WM_GETFONT) != before);
+    EXPECT_EQ(Heard(), "");
 }
 
 TEST_F(Dialog_Contract, A_Frame_Takes_All_It_Holds_Along) {
