@@ -146,6 +146,8 @@ void Settings_Frm::None_Vis() {
 }
 
 void Settings_Frm::TabStrip1_Click() {
+    // The other pages must not see the settings of a preview.
+    Wallpaper.End_Preview();
     None_Vis();
     const int page = Which_Tab() - 1;
     Settings_Fra[page].Set_Visible(true);

@@ -358,7 +358,8 @@ Settings Wallpaper_Page::Choices() const {
     choices.Use_Theme_Style = Theme_Style_Chk.Checked() ? 1 : 0;
     choices.Use_Theme_Pos = Theme_Pos_Chk.Checked() ? 1 : 0;
     choices.Use_Other_Display_Mode = Other_Display_Chk.Checked();
-    choices.Other_Display_Mode = static_cast<std::int16_t>(Display_Cbo.Selected());
+    if (Display_Cbo.Selected() != -1)
+        choices.Other_Display_Mode = static_cast<std::int16_t>(Display_Cbo.Selected());
     return choices;
 }
 
