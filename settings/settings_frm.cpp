@@ -106,6 +106,7 @@ void Settings_Frm::Lay_Out() {
     General.Lay_Out();
     Style.Lay_Out();
     Tooltips.Lay_Out();
+    Wallpaper.Lay_Out();
     About.Lay_Out();
 }
 
