@@ -4,6 +4,7 @@
 #include "calendar/main_frm.h"
 #include "editor/edit_frm.h"
 #include "platform/message_loop.h"
+#include "settings/settings_frm.h"
 #include "toolkit/guard.h"
 
 int Run_Program() {
@@ -12,9 +13,12 @@ int Run_Program() {
         Main_Frm main_frm;
         Edit_Frm edit_frm(main_frm);
         Connect_Editor(main_frm, edit_frm);
+        std::unique_ptr<Settings_Frm> settings_frm;
+        Connect_Settings(main_frm, settings_frm);
         if (!main_frm.Form_Load())
             return;
         platform::Run_Message_Loop();
+        main_frm.Close_Settings();
         // When the desktop is lost nobody has been asked yet, or the loop has ended under an open question.
         // Who answers Cancel, or whose text is refused, gets the editor back; it alone keeps the program
         // then.
@@ -31,4 +35,21 @@ void Connect_Editor(Main_Frm &calendar, Edit_Frm &editor) {
     calendar.Open_Editor = [&editor](int index) { editor.Edit_Box(index); };
     calendar.Ask_Unsaved = [&editor] { return editor.Ask_Unsaved(); };
     calendar.Editor_Visible = [&editor] { return editor.Visible(); };
+}
+
+void Connect_Settings(Main_Frm &calendar, std::unique_ptr<Settings_Frm> &settings) {
+    calendar.Open_Settings = [&calendar, &settings] {
+        if (settings && settings->Visible())
+            return platform::Bring_To_Front(settings->Model());
+        // A former dialog whose last event still waits for something must not go from under it.
+        if (settings && settings->Busy())
+            return;
+        settings = std::make_unique<Settings_Frm>(calendar);
+        settings->Form_Load();
+    };
+    calendar.Close_Settings = [&settings] {
+        if (settings)
+            settings->Form_Unload();
+    };
+    calendar.Settings_Visible = [&settings] { return settings && settings->Visible(); };
 }

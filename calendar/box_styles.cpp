@@ -1,5 +1,6 @@
-// The two box styles: sizes and places of boxes, headers and title, and the fitting of event texts into the
-// boxes. Lengths are worked out in pixels, so that all columns are equally wide at any dots per inch.
+// The two box styles on the calendar, and the fitting of event texts into the boxes. The measures of the
+// styles are in box_layout.h.
+#include "calendar/box_layout.h"
 #include "calendar/main_frm.h"
 #include "platform/drawing.h"
 #include "platform/text.h"
@@ -12,54 +13,17 @@ using platform::Rect;
 
 namespace {
 
-// Lengths in pixels at 96 dots per inch.
-constexpr int gap = 3;
-constexpr int title_height = 26;
-constexpr int header_height = 20;
-constexpr int text_inset = 5;    ///< between a box's sides and its text
-constexpr int number_inset = 2;  ///< less than that: the number's caption begins with a blank
-constexpr int title_padding = 6; ///< above and below the line of title and headers, together
-constexpr int text_below = 2;    ///< between the text's line and the lower edge
-
-struct Style_Lengths {
-    int box_width;
-    int box_height; ///< more where the fonts need it for the lines
-    int lines;      ///< of text that surely fit below the number
-};
-
-// "Thin Box" and "Square Box".
-constexpr Style_Lengths thin_box{96, 34, 1};
-constexpr Style_Lengths square_box{96, 76, 4};
-
-constexpr platform::Font title_font{105, true};
-constexpr platform::Font header_font{85, false};
-constexpr std::int16_t number_points = 90;
-constexpr platform::Font text_font{80, false};
-
 /// No box shows more of a text than this, in bytes, so that a text of any length costs the same.
 constexpr std::size_t longest_shown = 1024;
 
 constexpr std::string_view more_sign = "...";
 
-const Style_Lengths &Lengths_Of(std::int16_t style) {
-    return style == 0 ? thin_box : square_box;
-}
-
-/// Whole pixels, at least one, for a length in pixels at 96 dots per inch.
-int Pixels(int at_96) {
-    constexpr int twips_at_96 = 15;
-    return std::max(Twips_To_Pixels(at_96 * twips_at_96), 1);
-}
-
 int Line_Pixels(const platform::Font &font) {
     return std::max(Twips_To_Pixels(platform::Line_Height(font)), 1);
 }
 
-void Place_Heading(Label &label, const Rect &pixels, const platform::Font &font) {
+void Place(Label &label, const Rect &pixels) {
     label.Move(Pixels_To_Twips(pixels));
-    label.Set_Font(font);
-    label.Set_Align(platform::Text_Align::Centre, true);
-    label.Set_Transparent(true);
 }
 
 /// Length of the longest beginning of `text` that ends with a whole character and has at most `limit` bytes.
@@ -103,63 +67,36 @@ std::string Blanks_Made_One(std::string_view text, bool &more) {
 } // namespace
 
 void Main_Frm::Which_Style(std::int16_t style) {
-    const Style_Lengths &lengths = Lengths_Of(style);
-    platform::Font number_font{number_points, false};
-    const int space = Pixels(gap);
-    const int width = Pixels(lengths.box_width);
-    const int text_lines = Pixels(number_inset) + Line_Pixels(number_font) +
-                           lengths.lines * Line_Pixels(text_font) + Pixels(text_below);
-    const int height = std::max(Pixels(lengths.box_height), text_lines);
-    const int padding = Pixels(title_padding);
-    const int title = std::max(Pixels(title_height), Line_Pixels(title_font) + padding);
-    const int header = std::max(Pixels(header_height), Line_Pixels(header_font) + padding / 2);
-    const int full_width = days_a_week * width + (days_a_week - 1) * space;
-
-    Place_Heading(Prev_Month_Lbl, {0, 0, title, title}, title_font);
+    const Box_Layout layout(style);
+    Place(Prev_Month_Lbl, layout.Previous());
+    Place(Which_Month_Lbl, layout.Month());
+    Place(Next_Month_Lbl, layout.Next());
+    for (Label *label : {&Prev_Month_Lbl, &Which_Month_Lbl, &Next_Month_Lbl})
+        Dress_Heading(*label, Box_Layout::title_font);
     Prev_Month_Lbl.Set_Glyph(platform::Glyph::Arrow_Left);
-    Place_Heading(Which_Month_Lbl, {title + space, 0, full_width - 2 * (title + space), title}, title_font);
-    Place_Heading(Next_Month_Lbl, {full_width - title, 0, title, title}, title_font);
     Next_Month_Lbl.Set_Glyph(platform::Glyph::Arrow_Right);
-    const int headers_top = title + space;
-    for (int i = 0; i < days_a_week; ++i)
-        Place_Heading(Day_Lbl[i], {i * (width + space), headers_top, width, header}, header_font);
-
-    const int boxes_top = headers_top + header + space;
+    for (int i = 0; i < days_a_week; ++i) {
+        Place(Day_Lbl[i], layout.Header(i));
+        Dress_Heading(Day_Lbl[i], Box_Layout::header_font);
+    }
     for (int i = 0; i < box_count; ++i) {
-        const int row = i / days_a_week;
-        const int column = i % days_a_week;
-        Label &box = Box_Lbl[i];
-        box.Move(Pixels_To_Twips(
-            Rect{column * (width + space), boxes_top + row * (height + space), width, height}));
-        number_font.bold = box.Font().bold; // today's stays bold
-        box.Set_Font(number_font);
-        box.Set_Padding(Pixels_To_Twips(Pixels(number_inset)));
+        Place(Box_Lbl[i], layout.Box(i));
+        Dress_Number(Box_Lbl[i]);
     }
     DDD_Style(style);
-    const Rect last = Twips_To_Pixels(Box_Lbl[box_count - 1].Bounds());
-    const Rect whole = Pixels_To_Twips(Rect{0, 0, full_width, last.Bottom()});
+    const Rect whole = Pixels_To_Twips(Rect{0, 0, layout.Whole().width, layout.Whole().height});
     Resize(whole.width, whole.height);
 }
 
 void Main_Frm::DDD_Style(std::int16_t style) {
-    const int inset = Pixels(text_inset);
-    const int below = Pixels(text_below);
-    const int line = Line_Pixels(text_font);
+    const Box_Layout layout(style);
     for (int i = 0; i < box_count; ++i) {
-        const Rect box = Twips_To_Pixels(Box_Lbl[i].Bounds());
-        const int number_bottom = box.top + Pixels(number_inset) + Line_Pixels(Box_Lbl[i].Font());
-        Rect text{box.left + inset, number_bottom, box.width - 2 * inset, 0};
-        // One line stands at the lower edge; several begin below the number.
-        if (Lengths_Of(style).lines == 1)
-            text.top = box.Bottom() - below - line;
-        text.height = box.Bottom() - below - text.top;
-        Box_Caption_Lbl[i].Move(Pixels_To_Twips(text));
-        Box_Caption_Lbl[i].Set_Font(text_font);
-        Box_Caption_Lbl[i].Set_Transparent(true);
+        Place(Box_Caption_Lbl[i], layout.Text(i));
+        Dress_Text(Box_Caption_Lbl[i]);
     }
     // The measuring label is as wide as a line that is followed by "...".
-    const int room = Box_Caption_Lbl[0].Width() - platform::Text_Width(more_sign, text_font);
-    DotDotDot_Lbl.Set_Font(text_font);
+    const int room = Box_Caption_Lbl[0].Width() - platform::Text_Width(more_sign, Box_Layout::text_font);
+    DotDotDot_Lbl.Set_Font(Box_Layout::text_font);
     DotDotDot_Lbl.Move({0, 0, std::max(room, 0), Box_Caption_Lbl[0].Height()});
 }
 

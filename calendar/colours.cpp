@@ -1,48 +1,7 @@
 // The colours of boxes, numbers, texts, title and headers.
+#include "calendar/box_layout.h"
 #include "calendar/main_frm.h"
 #include "core/settings.h"
-
-#include <algorithm>
-
-namespace {
-
-/// Background behind the title where the desktop draws its labels without one.
-constexpr platform::Colour dark_grey = 4934475;
-
-/// Least difference in brightness, of 255, between today's box and its frame.
-constexpr int frame_contrast = 90;
-
-struct Channels {
-    int red;
-    int green;
-    int blue;
-
-    int Brightness() const { return (30 * red + 59 * green + 11 * blue) / 100; }
-    template <typename Change>
-    Channels Each(Change change) const {
-        return {change(red), change(green), change(blue)};
-    }
-};
-
-} // namespace
-
-platform::Colour Strong_Shade(platform::Colour colour) {
-    const auto value = static_cast<std::uint32_t>(platform::Resolve_Colour(colour));
-    const Channels base{static_cast<int>(value & 0xFFU), static_cast<int>((value >> 8U) & 0xFFU),
-                        static_cast<int>((value >> 16U) & 0xFFU)};
-    const int brightness = base.Brightness();
-    // The same hue with twice the colour in it, then darker, or lighter on a dark box, until it stands out.
-    const int top = std::max({base.red, base.green, base.blue});
-    Channels shade = base.Each([top](int channel) { return std::max(top - 2 * (top - channel), 0); });
-    if (brightness >= frame_contrast + 10) {
-        while (shade.Brightness() > brightness - frame_contrast)
-            shade = shade.Each([](int channel) { return channel * 4 / 5; });
-    } else {
-        while (shade.Brightness() < brightness + frame_contrast)
-            shade = shade.Each([](int channel) { return 255 - (255 - channel) * 4 / 5; });
-    }
-    return platform::Rgb(shade.red, shade.green, shade.blue);
-}
 
 void Main_Frm::Set_Colours() {
     Colour_Boxes();
@@ -54,7 +13,7 @@ void Main_Frm::Set_Colours() {
 void Main_Frm::Colour_Boxes() {
     for (int i = 0; i < box_count; ++i) {
         Box_Lbl[i].Set_Back_Colour(Cur_Settings.Col_Normal);
-        Unmark(i);
+        Undress_Today(Box_Lbl[i]);
     }
 }
 

@@ -106,7 +106,8 @@ bool Main_Frm::Form_Load() {
         platform::Message_Box(error.what(), "Vellatro", platform::Box_Icon::Stop);
         return false;
     }
-    Get_Wallpaper_Stuff();
+    // A pack that is damaged, its month's picture above all, is told; it is no reason to show no calendar.
+    Run_Guarded([this] { Get_Wallpaper_Stuff(Cur_Settings.Pack_Name); });
     Which_Style(Effective_Style());
     const Date today = Take_Today();
     Setup_Boxes(Cur_Month, Cur_Year);
@@ -129,15 +130,6 @@ bool Main_Frm::Form_Load() {
     return true;
 }
 
-void Main_Frm::Get_Wallpaper_Stuff() {
-    // There are no theme packs yet, so there is no picture to apply.
-}
-
-std::int16_t Main_Frm::Effective_Style() const {
-    // A theme pack's own style would go first; there are none yet.
-    return Cur_Settings.Style;
-}
-
 Date Main_Frm::Take_Today() {
     const Date today = Today();
     Cur_Month = today.month;
@@ -156,9 +148,10 @@ void Main_Frm::Dectect_Date_Timer_Timer() {
     Take_Today();
     Update_Title();
     Set_Day_Headers();
-    Get_Wallpaper_Stuff();
-    Which_Style(Effective_Style());
+    // Before anything is told: this timer goes on while a message is open, and once a day is enough.
     date_stamp_ = stamp;
+    Run_Guarded([this] { Get_Wallpaper_Stuff(Cur_Settings.Pack_Name); });
+    Which_Style(Effective_Style());
     if (Compacted) {
         stale_ = true;
         return TransparentForm();
@@ -198,6 +191,9 @@ bool Main_Frm::Hear(Broadcast broadcast) {
         return May_End();
     case Broadcast::Session_Over:
         ended_ = true;
+        // The process may go at once: the dialog keeps its tab now.
+        if (Close_Settings)
+            Close_Settings();
         platform::End_Message_Loop();
         break;
     case Broadcast::Close_Request:

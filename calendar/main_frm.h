@@ -1,8 +1,8 @@
 // The calendar window: the month in its boxes under a row of weekday headers and a title. Its procedures are
 // in files by topic: start-up and the date watch (main_frm.cpp), the month (month_grid.cpp), geometry and
 // text fitting (box_styles.cpp), steps and function keys (navigation.cpp), the keyboard's mark (focus.cpp),
-// menus.cpp, tooltips.cpp with the balloon, compact.cpp, colours.cpp, placement.cpp, dragging.cpp, and the
-// place inside the shell (attachment.cpp).
+// menus.cpp, tooltips.cpp with the balloon, compact.cpp, colours.cpp, themes.cpp, placement.cpp,
+// dragging.cpp, and the place inside the shell (attachment.cpp).
 #pragma once
 
 #include "core/date.h"
@@ -56,6 +56,7 @@ public:
 
     // The settings dialog, likewise.
     std::function<void()> Open_Settings;
+    std::function<void()> Close_Settings; ///< at the end, whatever is in it
     std::function<bool()> Settings_Visible;
 
     /// Whether the program may end now; asks for unsaved text first.
@@ -111,6 +112,7 @@ public:
     void RePosition();
     /// Clips the window to its visible controls.
     void TransparentForm();
+    /// The position code in use.
     std::int16_t Effective_Position() const;
     /// Puts the window into the shell's desktop and takes the colours of its icon labels over; also shows the
     /// splash window. What of the shell is missing is left out in silence.
@@ -124,8 +126,19 @@ public:
     void Colour_Texts();
     void Colour_Menus();
 
-    // Themes.
-    void Get_Wallpaper_Stuff();
+    // Themes. The two steps throw what goes wrong with the month's picture (themes/theme_pack.h), and
+    // Conversion_Error for a number in the pack that is none.
+
+    /// Where themes are in use: hangs today's picture of the pack up, and takes its box style and position
+    /// over as far as the settings want them.
+    void Get_Wallpaper_Stuff(const std::string &pack);
+    /// The same for any month, whether themes are in use or not.
+    void Preview_Wallpaper_Stuff(const std::string &pack, std::int16_t month);
+    /// The value text of a month, or Theme_Error; a missing pack ends the use of themes.
+    static std::string Get_Paper_Details(std::int16_t month, const std::string &pack);
+    /// What the pack told last; nothing before that.
+    std::optional<std::int16_t> Theme_BoxStyle;
+    std::optional<std::int16_t> Theme_Pos;
 
     // What the user and the time do.
     void Next_Month();
@@ -219,7 +232,6 @@ private:
     int Marked_Box();
     void Take_Focus(bool has_focus);
 
-    void Unmark(int index);
     void Describe_Boxes();
     void Describe_Heading();
     void Set_Event_Value(int index, std::string_view text);
@@ -276,9 +288,6 @@ private:
 
 /// A day as the user reads it: Tuesday 5th March 2002.
 std::string Full_Date(const Date &date);
-
-/// A colour that stands out from `colour` and is of its hue.
-platform::Colour Strong_Shade(platform::Colour colour);
 
 /// The text that tells of today's event.
 std::string Today_Text(const Date &today, std::string_view text);

@@ -1,5 +1,6 @@
 // The month in the day boxes: numbers, hidden boxes, today, events, the alert, and what assistive technology
 // is told of the boxes.
+#include "calendar/box_layout.h"
 #include "calendar/main_frm.h"
 #include "core/convert.h"
 #include "core/settings.h"
@@ -44,7 +45,7 @@ void Main_Frm::Reset_Boxes() {
         Box_Lbl[i].Set_Caption({});
         Box_Caption_Lbl[i].Set_Caption({});
         Set_Event_Value(i, {});
-        Unmark(i);
+        Undress_Today(Box_Lbl[i]);
     }
 }
 
@@ -76,20 +77,7 @@ void Main_Frm::Mark_Today() {
     Describe_Boxes();
     if (today.month != Cur_Month || today.year != Cur_Year)
         return;
-    Label &box = Box_Lbl[Start_Box(Cur_Month, Cur_Year) + today.day - 1];
-    box.Set_Back_Colour(Cur_Settings.Col_Today);
-    box.Set_Frame_Colour(Strong_Shade(Cur_Settings.Col_Today));
-    platform::Font font = box.Font();
-    font.bold = true;
-    box.Set_Font(font);
-}
-
-void Main_Frm::Unmark(int index) {
-    Label &box = Box_Lbl[index];
-    box.Set_Frame_Colour(-1);
-    platform::Font font = box.Font();
-    font.bold = false;
-    box.Set_Font(font);
+    Dress_Today(Box_Lbl[Start_Box(Cur_Month, Cur_Year) + today.day - 1], Cur_Settings.Col_Today);
 }
 
 void Main_Frm::Load_Dates() {

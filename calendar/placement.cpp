@@ -7,11 +7,6 @@
 #include <string>
 #include <vector>
 
-std::int16_t Main_Frm::Effective_Position() const {
-    // A theme pack's own position would go first; there are none yet.
-    return Cur_Settings.Alignment;
-}
-
 void Main_Frm::Position_Form(std::int16_t code) {
     Label &lowest = Box_Lbl[35].Visible() ? Box_Lbl[35] : Box_Lbl[28];
     Placement placement;

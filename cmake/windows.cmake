@@ -19,6 +19,10 @@ target_link_libraries(vellatro PRIVATE vellatro_options
 # One partition: with several GCC 12 breaks off while it links.
 target_link_options(vellatro PRIVATE -Os -flto -flto-partition=none -static -s -Wl,--gc-sections -Wl,--nxcompat
     -Wl,--dynamicbase -Wl,--no-insert-timestamp)
+add_custom_target(package
+    COMMAND ${CMAKE_COMMAND} -D PROGRAM=$<TARGET_FILE:vellatro> -D SOURCES=${CMAKE_SOURCE_DIR}
+        -D OUT=${CMAKE_BINARY_DIR} -P ${CMAKE_SOURCE_DIR}/cmake/package.cmake
+    DEPENDS vellatro VERBATIM)
 file(GLOB desktop_test_list CONFIGURE_DEPENDS tests/desktop/CMakeLists.txt)
 if(desktop_test_list)
     add_subdirectory(tests/desktop)

@@ -48,6 +48,11 @@ std::int32_t DaysInMonth(const Date &date) {
     return static_cast<std::int32_t>(static_cast<unsigned>(last));
 }
 
+std::int32_t Day_Number(const Date &date) {
+    constexpr std::chrono::sys_days day_0 = std::chrono::year(1899) / std::chrono::December / 30;
+    return static_cast<std::int32_t>((std::chrono::sys_days(Calendar_Day(date)) - day_0).count());
+}
+
 std::string Date_Key(const Date &date) {
     return std::to_string(date.day) + "/" + std::to_string(date.month) + "/" + std::to_string(date.year);
 }

@@ -29,6 +29,9 @@ int Weekday(const Date &date);
 /// Number of days in the month of `date`, 28 to 31.
 std::int32_t DaysInMonth(const Date &date);
 
+/// Days from 30 December 1899, which is day 0, to a date; less than 0 for an earlier one.
+std::int32_t Day_Number(const Date &date);
+
 /// The exact key of a date: 5/3/2002.
 std::string Date_Key(const Date &date);
 

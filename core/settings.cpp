@@ -138,3 +138,10 @@ void Change_Setting(std::int16_t &variable, std::int16_t value, std::string_view
         throw;
     }
 }
+
+void Store_Setting(std::string_view key) {
+    try {
+        Save_Setting(key);
+    } catch (const platform::Registry_Error &) { // the user has what he chose, but not for the next start
+    }
+}

@@ -81,3 +81,6 @@ void Change_Setting(std::int16_t &variable, std::int16_t value, std::string_view
 
 /// Stores the present value of the setting `key` of Cur_Settings. Throws platform::Registry_Error.
 void Save_Setting(std::string_view key);
+
+/// The same, but a store that refuses is no error: the value holds until the program's end.
+void Store_Setting(std::string_view key);

@@ -187,14 +187,6 @@ std::string Date_Text(const std::string &date_format, const platform::Date_Time 
     const std::string day = std::to_string(now.day) + Ordinal_Suffix(now.day) + " " + month_and_year;
     if (date_format == "d Month - yyyy")
         return day;
-    if (date_format != weekday_form) {
-        // The variable first: with it repaired, a store that refuses is asked once and not at every title.
-        Cur_Settings.Bar_Date_Format = weekday_form;
-        try {
-            Save_Setting("Bar Date Format");
-        } catch (const platform::Registry_Error &) { // the title is right all the same
-        }
-    }
     const Date today{static_cast<std::int16_t>(now.year), static_cast<std::int16_t>(now.month),
                      static_cast<std::int16_t>(now.day)};
     return platform::Weekday_Name(Weekday(today)) + " " + day;
@@ -202,10 +194,28 @@ std::string Date_Text(const std::string &date_format, const platform::Date_Time 
 
 } // namespace
 
+const std::vector<std::string> &Bar_Date_Formats() {
+    static const std::vector<std::string> formats{"mm/yyyy", "dd/mm/yyyy", "Month - yyyy", "d Month - yyyy",
+                                                  weekday_form};
+    return formats;
+}
+
+std::string Title_Of_Today(bool show_time, const std::string &time_format, const std::string &date_format,
+                           const platform::Date_Time &now) {
+    const std::string time = show_time ? Format_Pattern(time_format, now) + " - " : std::string();
+    return time + Date_Text(date_format, now);
+}
+
 std::string Bar_Date_Text(bool show_time, const std::string &time_format, const std::string &date_format,
                           std::int16_t month, std::int16_t year, const platform::Date_Time &now) {
     if (month != now.month || year != now.year)
         return platform::Month_Name(month) + " - " + std::to_string(year);
-    const std::string time = show_time ? Format_Pattern(time_format, now) + " - " : std::string();
-    return time + Date_Text(date_format, now);
+    std::string title = Title_Of_Today(show_time, time_format, date_format, now);
+    const auto &formats = Bar_Date_Formats();
+    if (std::find(formats.begin(), formats.end(), date_format) == formats.end()) {
+        // The variable first: with it repaired, a store that refuses is asked once and not at every title.
+        Cur_Settings.Bar_Date_Format = weekday_form;
+        Store_Setting("Bar Date Format");
+    }
+    return title;
 }

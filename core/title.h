@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 /// Formats a time by a pattern of these fields; all else stands for itself:
 ///   H, HH, h, hh  the hour; with an AM/PM or A/P anywhere in the pattern 1 to 12, else 0 to 23
@@ -20,8 +21,16 @@
 /// 510 bytes.
 std::string Format_Pattern(std::string_view pattern, const platform::Date_Time &time);
 
-/// The title of a calendar that shows `month` of `year` at the time `now`. An unknown `date_format` counts as
-/// "Weekday - d month - yyyy", and that name is written back to the setting "Bar Date Format": to
+/// The date formats of the title.
+const std::vector<std::string> &Bar_Date_Formats();
+
+/// The title of a calendar that shows the month of `now`. An unknown `date_format` counts as "Weekday - d
+/// month - yyyy".
+std::string Title_Of_Today(bool show_time, const std::string &time_format, const std::string &date_format,
+                           const platform::Date_Time &now);
+
+/// The title of a calendar that shows `month` of `year` at the time `now`. In place of an unknown
+/// `date_format` the name "Weekday - d month - yyyy" is written back to the setting "Bar Date Format": to
 /// Cur_Settings and to the store. A store that refuses keeps its name, which is repaired again at the next
 /// start; that is no error of the title.
 std::string Bar_Date_Text(bool show_time, const std::string &time_format, const std::string &date_format,

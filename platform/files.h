@@ -1,10 +1,11 @@
-// Whole files: reading one, replacing one, asking for one. There is no way to write into the middle of a
-// file.
+// Whole files: reading one, replacing one, deleting one, asking for one or for all in a folder. There is no
+// way to write into the middle of a file.
 #pragma once
 
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace platform {
 
@@ -18,8 +19,19 @@ public:
 /// The folder that holds the running program, without a separator at its end.
 std::string Program_Folder();
 
+/// The running program's file name without ".exe".
+std::string Program_Name();
+
 /// True when `path` names an existing file (a folder is none).
 bool File_Exists(const std::string &path);
+
+/// True when `path` names an existing folder.
+bool Folder_Exists(const std::string &path);
+
+/// The names, without the folder's, of the plain files in a folder, or of the folders in it, in no certain
+/// order. None where the folder cannot be read.
+enum class Listed { Files, Folders };
+std::vector<std::string> Names_In_Folder(const std::string &folder, Listed listed);
 
 /// False when it is certain that nothing bears the name `path`. Where the system cannot tell, as with a disk
 /// that fails or a name that can be none, it is true: reading then tells the failure.
@@ -32,5 +44,8 @@ std::string Read_File(const std::string &path);
 /// flushed to the disk, and the new file takes the name over. Throws File_Error, and then the old file is as
 /// it was.
 void Replace_File(const std::string &path, std::string_view bytes);
+
+/// Deletes a plain file, also one that is hidden, but none that is write-protected. Throws File_Error.
+void Delete_File(const std::string &path);
 
 } // namespace platform

@@ -14,11 +14,20 @@
 
 namespace platform {
 
+/// A label or a picture box with `painted` draws itself; all else in a dialog is a native control.
 enum class Control_Kind : std::uint8_t {
     Label,
     Button,
     Check_Box,
-    Text_Box, ///< several wrapped lines, without line breaks
+    Text_Box, ///< without line breaks; several wrapped lines, unless `single_line`
+    Option_Button,
+    Combo_Box, ///< a drop-down list, or with `editable` a text box with one
+    List_Box,
+    Tab_Strip,
+    Slider,
+    Frame, ///< holds other controls; with a caption it is drawn around them
+    Picture_Box,
+    Progress_Bar,
 };
 
 /// What a control is to assistive technology.
@@ -37,10 +46,11 @@ struct Access_State {
 /// Small drawn signs that a label can show instead of its caption.
 enum class Glyph : std::uint8_t { None, Arrow_Left, Arrow_Right, Information };
 
-/// All that can be seen of one control. Positions are twips on the form.
+/// All that can be seen of one control. Positions are twips on the form, or on the frame that holds it.
 struct Control_State {
     Control_Kind kind = Control_Kind::Label;
-    int index = 0; ///< place in the form's control order
+    int index = 0;      ///< place in the form's control order
+    int container = -1; ///< index of the frame that holds it, which comes before it; -1: the form
     std::string name;
     Rect bounds;
     bool visible = true;
@@ -58,9 +68,25 @@ struct Control_State {
     bool middle = false; ///< caption centred between top and bottom
     int padding = 0;     ///< twips between the caption and the left, right and, unless `middle`, top edge
     Glyph glyph = Glyph::None;
-    bool checked = false;    ///< check boxes
+    bool checked = false;    ///< check boxes and option buttons
     bool is_default = false; ///< the button that Enter presses
     bool is_cancel = false;  ///< the button that Esc presses
+
+    std::vector<std::string> items; ///< of combo and list boxes and tab strips
+    int selected = -1;              ///< the chosen one of `items`, -1: none
+    int minimum = 0;                ///< sliders and progress bars
+    int maximum = 100;
+    int value = 0;
+    bool editable = false;    ///< combo boxes: any text can be typed
+    bool single_line = false; ///< text boxes
+    bool read_only = false;   ///< text boxes
+
+    bool painted = false;  ///< in a dialog: draws itself with `paint`, and tells of the mouse
+    bool tab_stop = false; ///< a painted control that takes the keyboard and tells of keys
+    /// Paints a painted control of a dialog, in twips from its own top left corner. Never throws. The mirror
+    /// adds the dotted rectangle of the keyboard focus.
+    std::function<void(Canvas &canvas, const Rect &clip)> paint;
+
     Access_State access;
 };
 
@@ -81,8 +107,13 @@ enum class Input_Kind : std::uint8_t {
     Double_Click, ///< instead of the second Mouse_Down
     Key_Down,
     Key_Up,
-    Clicked,        ///< a native button or check box was pressed; `checked` is its new state
-    Text_Changed,   ///< the user changed a native text box to `text`
+    Clicked,        ///< a button, check box or option button was pressed (`checked` is its new state), or the
+                    ///< space bar on a painted control
+    Text_Changed,   ///< the user changed a native text box or the text of a combo box to `text`
+    Selected,       ///< the user chose item `selected` of a combo box, list box or tab strip (of one that was
+                    ///< chosen already, too), or let a slider go at that value
+    Scrolled,       ///< the user is moving a slider, which is at the value `selected`
+    Item_Activated, ///< a double click on the chosen item of a list box
     Default_Action, ///< assistive technology asks for the control's default action
     Close,          ///< the close box or Alt+F4
     Window_Lost,    ///< the native window is gone, by whatever hand
@@ -94,8 +125,10 @@ enum class Input_Kind : std::uint8_t {
 /// One user action. Fields that do not belong to the kind stay at their defaults.
 struct Input_Event {
     Input_Kind kind;
-    int control = -1; ///< index of a native control or of the control assistive technology means
-    Point point;      ///< mouse, twips on the form
+    /// Index of the control of a dialog that the event is about, with keys the focused one; in painted forms
+    /// the control that assistive technology means.
+    int control = -1;
+    Point point; ///< mouse, twips on the form; where `control` names one, on that
     Mouse_Button button = Mouse_Button::None; ///< the button that changed; in a move the one that is held
     int key = 0;                              ///< virtual key code
     bool repeated = false;                    ///< a Key_Down of a key that was down before
@@ -103,6 +136,7 @@ struct Input_Event {
     bool control_key = false;
     bool alt = false;
     bool checked = false;
+    int selected = -1;
     std::string text;
 };
 
@@ -136,9 +170,36 @@ enum class Aspect : std::uint8_t {
     Look,
     Access,
     Checked,
+    Items,    ///< `items`, and with them `selected`; the range of sliders and progress bars
+    Selected, ///< `selected` or `value`
     Pointer,
     Focus
 };
+
+/// The control's place on the form: its frames' places are added.
+inline Rect Place_On_Form(const Form_Model &model, const Control_State &control) {
+    Rect place = control.bounds;
+    for (int frame = control.container; frame != -1;) {
+        const Control_State &holder = *model.controls[static_cast<std::size_t>(frame)];
+        place.left += holder.bounds.left;
+        place.top += holder.bounds.top;
+        frame = holder.container;
+    }
+    return place;
+}
+
+/// Whether the control and all its frames are visible.
+inline bool Is_Shown(const Form_Model &model, const Control_State &control) {
+    return control.visible && (control.container == -1 ||
+                               Is_Shown(model, *model.controls[static_cast<std::size_t>(control.container)]));
+}
+
+/// Whether the control and all its frames are enabled.
+inline bool Is_Usable(const Form_Model &model, const Control_State &control) {
+    return control.enabled &&
+           (control.container == -1 ||
+            Is_Usable(model, *model.controls[static_cast<std::size_t>(control.container)]));
+}
 
 /// Makes the native window of a form, hidden or visible as the model says, with all its controls.
 /// Throws std::runtime_error with the system's reason when it cannot be made, and then there is none.
@@ -150,7 +211,8 @@ void Destroy_Mirror(Form_Model &model);
 /// Tells the mirror that the form's own state changed. Does nothing without a native window.
 void Form_Changed(Form_Model &model, Aspect aspect);
 
-/// Tells the mirror that a control's state changed; `before` is the control's rectangle before a change of
+/// Tells the mirror that a control's state changed, which for the place, Visible and Enabled of a frame
+/// concerns all that it holds; `before` is the control's rectangle before a change of
 /// Bounds.
 void Control_Changed(Form_Model &model, const Control_State &control, Aspect aspect, const Rect &before);
 

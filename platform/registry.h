@@ -1,9 +1,11 @@
-// The user's part of the registry.
+// The registry: the user's part of it as texts, which the settings are, and single values anywhere in it.
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <stdexcept>
 #include <string>
+#include <variant>
 
 namespace platform {
 
@@ -21,5 +23,27 @@ std::optional<std::string> Read_User_Value(const std::string &key, const std::st
 
 /// Stores a text there, making the key where it is missing. Throws Registry_Error.
 void Write_User_Value(const std::string &key, const std::string &name, const std::string &text);
+
+// Values of the system, for the few places that touch them directly. Failures are silent.
+
+/// A handle of a root key; 0: none. The names are HKCU, HKLM, HKU, HKDD, HKCC and HKCR.
+using Registry_Root = std::uintptr_t;
+Registry_Root Find_Registry_Root(const std::string &name);
+
+/// By its type letter: "S" a text (REG_SZ), "B" a flag (REG_BINARY of two bytes), "D" a number (REG_DWORD).
+using Registry_Value = std::variant<std::string, bool, std::int32_t>;
+
+/// The value of that type, `standard` when there is none or it cannot be read. The letter's case is free.
+Registry_Value Registry_Read(const std::string &root_name, const std::string &key, const std::string &name,
+                             char type_letter, const Registry_Value &standard);
+
+/// Makes the key where it is missing and sets the value, whose type the capital letter tells; another letter
+/// or value sets nothing.
+void Registry_Write(const std::string &root_name, const std::string &key, const std::string &name,
+                    char type_letter, const Registry_Value &value);
+
+/// Sets a text in a key that exists, and has it written to the disk.
+void Registry_Write_String(Registry_Root root, const std::string &key, const std::string &name,
+                           const std::string &text);
 
 } // namespace platform

@@ -1,4 +1,4 @@
-// The screen: its dots per inch, the work area and the mouse.
+// The screen: its dots per inch, its size, the work area and the mouse.
 #pragma once
 
 #include "platform/geometry.h"
@@ -7,6 +7,9 @@ namespace platform {
 
 /// Dots per inch of the screen that shows the calendar, 96 at normal size.
 int Dots_Per_Inch();
+
+/// The size of the primary monitor in pixels. Its left top corner is (0, 0).
+Size Screen_Size();
 
 /// The work area of the primary monitor in pixels: the screen less the task bar.
 Rect Work_Area();

@@ -1,5 +1,5 @@
-// The shell's windows of the desktop: finding them, the colours of their icon labels, and putting a form's
-// window into them.
+// The shell: finding its windows of the desktop, the colours of their icon labels, putting a form's window
+// into them, and the way to the user's browser.
 #pragma once
 
 #include "platform/colour.h"
@@ -35,5 +35,8 @@ std::optional<Label_Colours> Icon_Label_Colours(Shell_Window list, unsigned pati
 /// screen; then looks the dots per inch up again. When the desktop window has gone in the meantime, the
 /// form's window stays where it was. Does nothing without a native window.
 void Attach_To_Desktop(Form_Model &model, Shell_Window desktop);
+
+/// Opens a page of the web in the user's browser. A failure is silent.
+void Open_Web_Page(const char *address);
 
 } // namespace platform

@@ -2,15 +2,20 @@
 #include "toolkit/control.h"
 
 #include "platform/line_breaks.h"
+#include "toolkit/fire.h"
 #include "toolkit/form.h"
+#include "toolkit/list_controls.h"
+#include "toolkit/painter.h"
 
 #include <utility>
 
 using platform::Aspect;
 
-Control::Control(Form &form, platform::Control_Kind kind, std::string name) : form_(form) {
+Control::Control(Form &form, platform::Control_Kind kind, std::string_view name, std::string_view caption)
+    : form_(form) {
     state_.kind = kind;
-    state_.name = std::move(name);
+    state_.name = name;
+    state_.caption = caption;
     form.Register(*this);
 }
 
@@ -96,12 +101,25 @@ void Control::Set_Access(platform::Access_State access) {
     Store(state_.access, std::move(access), Aspect::Access);
 }
 
-Label::Label(Form &form, std::string name) : Control(form, platform::Control_Kind::Label, std::move(name)) {
+void Control::Set_Container(const Frame &frame) {
+    state_.container = frame.State().index;
 }
 
-Button::Button(Form &form, std::string name, std::string caption)
-    : Control(form, platform::Control_Kind::Button, std::move(name)) {
-    state_.caption = std::move(caption);
+void Control::Take(const platform::Input_Event &event) {
+    if (event.kind == platform::Input_Kind::Clicked)
+        Fire(On_Click);
+}
+
+Label::Label(Form &form, std::string_view name, std::string_view caption)
+    : Control(form, platform::Control_Kind::Label, name, caption) {
+}
+
+void Label::Set_Painted() {
+    Paint_Itself(state_, nullptr);
+}
+
+Button::Button(Form &form, std::string_view name, std::string_view caption)
+    : Control(form, platform::Control_Kind::Button, name, caption) {
 }
 
 void Button::Set_Default(bool is_default) {
@@ -112,17 +130,23 @@ void Button::Set_Cancel(bool is_cancel) {
     Store(state_.is_cancel, is_cancel, Aspect::Look);
 }
 
-Check_Box::Check_Box(Form &form, std::string name, std::string caption)
-    : Control(form, platform::Control_Kind::Check_Box, std::move(name)) {
-    state_.caption = std::move(caption);
+Check_Box::Check_Box(Form &form, std::string_view name, std::string_view caption)
+    : Control(form, platform::Control_Kind::Check_Box, name, caption) {
 }
 
 void Check_Box::Set_Checked(bool checked) {
     Store(state_.checked, checked, Aspect::Checked);
 }
 
-Text_Box::Text_Box(Form &form, std::string name)
-    : Control(form, platform::Control_Kind::Text_Box, std::move(name)) {
+void Check_Box::Take(const platform::Input_Event &event) {
+    // The native control shows the new state already, so the mirror is not told.
+    if (event.kind == platform::Input_Kind::Clicked)
+        state_.checked = event.checked;
+    Control::Take(event);
+}
+
+Text_Box::Text_Box(Form &form, std::string_view name)
+    : Control(form, platform::Control_Kind::Text_Box, name) {
 }
 
 void Text_Box::Set_Text(std::string text) {
@@ -130,4 +154,19 @@ void Text_Box::Set_Text(std::string text) {
     const auto handler = On_Change;
     if (Store(state_.caption, platform::Without_Line_Breaks(std::move(text)), Aspect::Caption) && handler)
         handler();
+}
+
+void Text_Box::Set_Display_Only() {
+    state_.single_line = true;
+    state_.read_only = true;
+}
+
+void Text_Box::Take(const platform::Input_Event &event) {
+    if (event.kind != platform::Input_Kind::Text_Changed)
+        return;
+    std::string text = platform::Without_Line_Breaks(event.text);
+    if (state_.caption == text)
+        return;
+    state_.caption = std::move(text);
+    Fire(On_Change);
 }

@@ -6,17 +6,21 @@
 
 #include <functional>
 #include <string>
+#include <string_view>
 
 class Form;
 
-/// A place, a look and events. Positions and sizes are twips on the form.
+class Frame;
+
+/// A place, a look and events. Positions and sizes are twips on the form, or on the frame that holds it. What
+/// the program itself changes raises no event, except the change of a text box.
 class Control {
 public:
-    Control(Form &form, platform::Control_Kind kind, std::string name);
+    Control(Form &form, platform::Control_Kind kind, std::string_view name, std::string_view caption = {});
     Control(const Control &) = delete;
     Control &operator=(const Control &) = delete;
     /// Takes the form's native window down: it must not outlive the controls that it mirrors.
-    ~Control();
+    virtual ~Control();
 
     const platform::Control_State &State() const { return state_; }
     const std::string &Name() const { return state_.name; }
@@ -52,15 +56,27 @@ public:
     void Set_Glyph(platform::Glyph glyph);
     const platform::Access_State &Access() const { return state_.access; }
     void Set_Access(platform::Access_State access);
+    /// Puts the control into a frame that was declared before it: it moves, hides and is disabled with it.
+    /// To be called before there is a native window.
+    void Set_Container(const Frame &frame);
 
     // Events. The point is relative to the control's top left corner.
+    /// A button of any kind pressed, a painted control clicked with the left button.
+    std::function<void()> On_Click;
     std::function<void(platform::Mouse_Button, platform::Point)> On_Mouse_Down;
     std::function<void(platform::Mouse_Button, platform::Point)> On_Mouse_Up;
     std::function<void(platform::Mouse_Button, platform::Point)> On_Mouse_Move;
     std::function<void()> On_Double_Click;
     std::function<void()> On_Default_Action;
+    /// A key while a control of a dialog has the keyboard.
+    std::function<void(const platform::Input_Event &)> On_Key_Down;
 
 protected:
+    friend class Form;
+    /// Takes what a native control tells of; the point where the kinds of controls differ. The handler may
+    /// end the form: it comes last.
+    virtual void Take(const platform::Input_Event &event);
+
     /// Stores `value` in `field` and tells the mirror, if that is a change. Returns whether it was.
     template <typename T>
     bool Store(T &field, T value, platform::Aspect aspect) {
@@ -74,47 +90,48 @@ protected:
 
     platform::Control_State state_;
 
-private:
-    friend class Form;
     Form &form_;
 };
 
 /// A text, or in a painted form a box of colour with a text.
 class Label : public Control {
 public:
-    Label(Form &form, std::string name);
+    Label(Form &form, std::string_view name, std::string_view caption = {});
+    /// In a dialog: draws itself as a painted form draws its labels, and takes the mouse.
+    void Set_Painted();
 };
 
 /// A push button. `On_Click` comes from the mouse, the keyboard, the access key, and Enter or Esc where it
 /// stands for them.
 class Button : public Control {
 public:
-    Button(Form &form, std::string name, std::string caption);
+    Button(Form &form, std::string_view name, std::string_view caption);
     void Set_Default(bool is_default);
     void Set_Cancel(bool is_cancel);
-    std::function<void()> On_Click;
 };
 
 class Check_Box : public Control {
 public:
-    Check_Box(Form &form, std::string name, std::string caption);
+    Check_Box(Form &form, std::string_view name, std::string_view caption);
     bool Checked() const { return state_.checked; }
     void Set_Checked(bool checked);
-    std::function<void()> On_Click;
 
 private:
-    friend class Form;
+    void Take(const platform::Input_Event &event) override;
 };
 
-/// A text box of several wrapped lines that holds no line break: a pasted one becomes a blank.
+/// A text box that holds no line break: a pasted one becomes a blank.
 class Text_Box : public Control {
 public:
-    Text_Box(Form &form, std::string name);
+    Text_Box(Form &form, std::string_view name);
     const std::string &Text() const { return state_.caption; }
     void Set_Text(std::string text);
+    /// One line in place of several wrapped ones, to be read and copied only. Before there is a native
+    /// window.
+    void Set_Display_Only();
     /// Every change of the text, by the user or by Set_Text.
     std::function<void()> On_Change;
 
 private:
-    friend class Form;
+    void Take(const platform::Input_Event &event) override;
 };

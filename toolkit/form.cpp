@@ -1,7 +1,7 @@
 // Forms: their state, the life of their native window, and the way of user actions to the controls.
 #include "toolkit/form.h"
 
-#include "platform/line_breaks.h"
+#include "toolkit/fire.h"
 #include "toolkit/guard.h"
 #include "toolkit/painter.h"
 
@@ -14,18 +14,6 @@ using platform::Form_Kind;
 using platform::Input_Event;
 using platform::Input_Kind;
 using platform::Mouse_Button;
-
-namespace {
-
-/// Calls an event's handler, if it has one. The handler may end the form that holds it, so it is a copy that
-/// runs, and the callers touch nothing of the form afterwards.
-template <typename... Params, typename... Args>
-void Fire(const std::function<void(Params...)> &event, Args &&...args) {
-    if (const auto handler = event)
-        handler(std::forward<Args>(args)...);
-}
-
-} // namespace
 
 Form::Form(Form_Kind kind, std::string name) {
     model_.kind = kind;
@@ -156,8 +144,37 @@ Control *Form::Control_At(platform::Point point) {
     return found == controls_.rend() ? nullptr : *found;
 }
 
+void Form::Set_Blocked_By(Form *modal) {
+    modal_ = modal;
+    captured_ = nullptr;
+}
+
+bool Form::Blocked(const Input_Event &event) {
+    if (modal_ == nullptr)
+        return false;
+    switch (event.kind) {
+    case Input_Kind::Mouse_Down:
+    case Input_Kind::Double_Click:
+    case Input_Kind::Key_Down:
+    case Input_Kind::Default_Action:
+        platform::Bring_To_Front(modal_->model_);
+        return true;
+    case Input_Kind::Close:
+    case Input_Kind::Window_Lost:
+    case Input_Kind::Focus_Changed:
+    case Input_Kind::Capture_Lost:
+    case Input_Kind::Dots_Changed:
+        return false;
+    default:
+        return true;
+    }
+}
+
 void Form::Input(const Input_Event &event) {
-    Run_Guarded([this, &event] { Handle(event); });
+    Run_Guarded([this, &event] {
+        if (!Blocked(event))
+            Handle(event);
+    });
 }
 
 void Form::Handle(const Input_Event &event) {
@@ -169,10 +186,15 @@ void Form::Handle(const Input_Event &event) {
         return Handle_Mouse(event);
     case Input_Kind::Clicked:
     case Input_Kind::Text_Changed:
+    case Input_Kind::Selected:
+    case Input_Kind::Scrolled:
+    case Input_Kind::Item_Activated:
     case Input_Kind::Default_Action:
         return Handle_Native(event);
-    case Input_Kind::Key_Down:
-        return Fire(On_Key_Down, event);
+    case Input_Kind::Key_Down: {
+        const Control *control = Control_Of(event);
+        return Fire(control != nullptr && control->On_Key_Down ? control->On_Key_Down : On_Key_Down, event);
+    }
     case Input_Kind::Key_Up:
         return Fire(On_Key_Up, event);
     case Input_Kind::Close:
@@ -191,17 +213,27 @@ void Form::Handle(const Input_Event &event) {
     }
 }
 
-void Form::Press(Control *control, const Input_Event &event) {
+Control *Form::Control_Of(const Input_Event &event) const {
+    return event.control < 0 || event.control >= static_cast<int>(controls_.size())
+               ? nullptr
+               : controls_[static_cast<std::size_t>(event.control)];
+}
+
+bool Form::Takes_Input(const Control *control) const {
+    return control != nullptr && platform::Is_Usable(model_, control->state_) &&
+           platform::Is_Shown(model_, control->state_);
+}
+
+void Form::Press(Control *control, const Input_Event &event, platform::Point point) {
     if (captured_ == nullptr) {
         captured_ = control;
         captured_by_ = event.button;
     }
-    if (control == nullptr || !control->Enabled() || !control->Visible())
+    if (!Takes_Input(control))
         return;
     // A double click is the left button's; with the others the second press is one like the first.
     if (event.kind == Input_Kind::Double_Click && event.button == Mouse_Button::Left)
         return Fire(control->On_Double_Click);
-    const platform::Point point{event.point.x - control->Left(), event.point.y - control->Top()};
     Fire(control->On_Mouse_Down, event.button, point);
 }
 
@@ -212,9 +244,15 @@ void Form::Handle_Mouse(const Input_Event &event) {
     const bool loose = event.kind == Input_Kind::Mouse_Move && event.button == Mouse_Button::None;
     if (loose || (pressed && event.button == captured_by_))
         captured_ = nullptr;
-    Control *control = captured_ != nullptr ? captured_ : Control_At(event.point);
+    const bool own_window = event.control >= 0;
+    Control *control = captured_ != nullptr ? captured_
+                       : own_window         ? Control_Of(event)
+                                            : Control_At(event.point);
+    platform::Point point = event.point;
+    if (control != nullptr && !own_window)
+        point = {point.x - control->Left(), point.y - control->Top()};
     if (pressed)
-        return Press(control, event);
+        return Press(control, event, point);
 
     const bool released = event.kind == Input_Kind::Mouse_Up;
     // A release without its press belongs to something that was open over the form.
@@ -222,34 +260,22 @@ void Form::Handle_Mouse(const Input_Event &event) {
         return;
     if (released && event.button == captured_by_)
         captured_ = nullptr;
-    if (control == nullptr || !control->Enabled() || !control->Visible())
+    if (!Takes_Input(control))
         return;
-    const platform::Point point{event.point.x - control->Left(), event.point.y - control->Top()};
-    Fire(released ? control->On_Mouse_Up : control->On_Mouse_Move, event.button, point);
+    if (!released)
+        return Fire(control->On_Mouse_Move, event.button, point);
+    const bool clicked = event.button == Mouse_Button::Left &&
+                         platform::Rect{0, 0, control->Width(), control->Height()}.Contains(point);
+    const auto on_click = clicked ? control->On_Click : nullptr;
+    Fire(control->On_Mouse_Up, event.button, point);
+    Fire(on_click);
 }
 
 void Form::Handle_Native(const Input_Event &event) {
-    if (event.control < 0 || event.control >= static_cast<int>(controls_.size()))
+    Control *control = Control_Of(event);
+    if (!Takes_Input(control))
         return;
-    Control &control = *controls_[static_cast<std::size_t>(event.control)];
-    if (!control.Enabled() || !control.Visible())
-        return;
-    const Control_Kind kind = control.state_.kind;
-    if (event.kind == Input_Kind::Default_Action) {
-        Fire(control.On_Default_Action);
-    } else if (event.kind == Input_Kind::Text_Changed && kind == Control_Kind::Text_Box) {
-        // The native control shows the new state already, so the mirror is not told.
-        auto &box = static_cast<Text_Box &>(control);
-        std::string text = platform::Without_Line_Breaks(event.text);
-        if (box.state_.caption == text)
-            return;
-        box.state_.caption = std::move(text);
-        Fire(box.On_Change);
-    } else if (event.kind == Input_Kind::Clicked && kind == Control_Kind::Check_Box) {
-        auto &box = static_cast<Check_Box &>(control);
-        box.state_.checked = event.checked;
-        Fire(box.On_Click);
-    } else if (event.kind == Input_Kind::Clicked && kind == Control_Kind::Button) {
-        Fire(static_cast<Button &>(control).On_Click);
-    }
+    if (event.kind == Input_Kind::Default_Action)
+        return Fire(control->On_Default_Action);
+    control->Take(event);
 }

@@ -44,6 +44,11 @@ public:
     void Repaint() { Tell(platform::Aspect::Look); }
     void Set_Pointer(platform::Pointer_Shape shape);
     void Set_Focus(const Control &control);
+    /// Lets another form, which is modal to this one, take all that the user does here: pressing a mouse
+    /// button or a key brings it to the front instead. Null ends that.
+    void Set_Blocked_By(Form *modal);
+    /// All controls in paint and tab order.
+    const std::vector<Control *> &Controls() const { return controls_; }
     /// Clips the window to these rectangles (twips on the form); also a window that is made later.
     void Clip(std::vector<platform::Rect> rects);
 
@@ -78,8 +83,11 @@ private:
     void Make_Window(bool visible);
     void Handle(const platform::Input_Event &event);
     void Handle_Mouse(const platform::Input_Event &event);
-    void Press(Control *control, const platform::Input_Event &event);
+    void Press(Control *control, const platform::Input_Event &event, platform::Point point);
     void Handle_Native(const platform::Input_Event &event);
+    bool Blocked(const platform::Input_Event &event);
+    Control *Control_Of(const platform::Input_Event &event) const;
+    bool Takes_Input(const Control *control) const;
 
     platform::Form_Model model_;
     std::vector<Control *> controls_;
@@ -88,4 +96,5 @@ private:
     std::optional<std::vector<platform::Rect>> clip_; ///< nothing: not clipped
     std::vector<platform::Point> shape_;              ///< empty: no polygon
     bool created_ = false;                            ///< there is a native window
+    Form *modal_ = nullptr;                           ///< takes what the user does here
 };

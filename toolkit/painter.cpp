@@ -5,6 +5,7 @@
 #include <cmath>
 #include <numbers>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 using platform::Canvas;
@@ -84,28 +85,47 @@ void Paint_Caption(Canvas &canvas, const Control_State &control, const Rect &cli
     }
 }
 
+void Paint_Control(const Control_State &control, Canvas &canvas, const Rect &clip) {
+    if (!control.transparent)
+        platform::Fill_Rect(canvas, control.bounds, control.back_colour);
+    if (control.frame_colour != -1)
+        platform::Frame_Rect(canvas, control.bounds, control.frame_colour, frame_thickness);
+    // In place of a frame, since there is no room inside of it, and in the colour of the caption, which
+    // stands out.
+    if (control.marked)
+        platform::Frame_Rect(canvas, control.bounds, control.fore_colour, frame_thickness);
+    if (control.glyph != platform::Glyph::None)
+        Paint_Glyph(canvas, control);
+    else
+        Paint_Caption(canvas, control, clip);
+}
+
 } // namespace
 
 void Paint_Controls(const platform::Form_Model &model, Canvas &canvas, const Rect &clip) {
-    for (const Control_State *control : model.controls) {
-        if (!control->visible || !control->bounds.Intersects(clip))
-            continue;
-        if (!control->transparent)
-            platform::Fill_Rect(canvas, control->bounds, control->back_colour);
-        if (control->frame_colour != -1)
-            platform::Frame_Rect(canvas, control->bounds, control->frame_colour, frame_thickness);
-        // In place of a frame, since there is no room inside of it, and in the colour of the caption, which
-        // stands out.
-        if (control->marked)
-            platform::Frame_Rect(canvas, control->bounds, control->fore_colour, frame_thickness);
-        if (control->glyph != platform::Glyph::None)
-            Paint_Glyph(canvas, *control);
-        else
-            Paint_Caption(canvas, *control, clip);
-    }
+    for (const Control_State *control : model.controls)
+        if (control->visible && control->bounds.Intersects(clip))
+            Paint_Control(*control, canvas, clip);
 }
 
 void Paint_Form(const platform::Form_Model &model, Canvas &canvas, const Rect &clip) {
     platform::Fill_Rect(canvas, clip, model.back_colour);
     Paint_Controls(model, canvas, clip);
+}
+
+void Paint_Itself(Control_State &control, std::function<void(Canvas &)> more) {
+    control.painted = true;
+    control.paint = [&control, more = std::move(more)](Canvas &canvas, const Rect &clip) {
+        try {
+            Control_State here = control;
+            here.bounds.left = 0;
+            here.bounds.top = 0;
+            // Of a transparent one the mirror has drawn the dialog's background.
+            Paint_Control(here, canvas, clip);
+            if (more)
+                more(canvas);
+        } catch (...) {
+            // A message box would ask for the same painting again; the next change paints anew.
+        }
+    };
 }

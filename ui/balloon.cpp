@@ -57,8 +57,9 @@ frmBalloon::frmBalloon()
 }
 
 void frmBalloon::SetBalloon(const std::string &title, std::string_view text, std::string_view icon,
-                            std::string_view, int width, int height) {
-    const Point mouse = platform::Mouse_Position();
+                            std::string_view, int width, int height, const Point *at) {
+    const Point mouse =
+        at == nullptr ? platform::Mouse_Position() : Point{Twips_To_Pixels(at->x), Twips_To_Pixels(at->y)};
     const Rect work = Pixels_To_Twips(platform::Work_Area_Around(mouse));
     const int line = std::max(platform::Line_Height(text_font), 1);
     const int heading = std::max(icon_size, platform::Line_Height(title_font));

@@ -1,7 +1,9 @@
-// Drawing on the buffer of a painted form, measuring text, system colours.
+// Drawing on the buffer of a painted form, pictures too; measuring text, system colours.
 #include "win32/canvas.h"
 
+#include "platform/pictures.h"
 #include "win32/fonts.h"
+#include "win32/picture_scaling.h"
 #include "win32/units.h"
 #include "win32/wide_text.h"
 
@@ -129,6 +131,14 @@ void Draw_Text(Canvas &canvas, std::string_view text, const Rect &rect, const Fo
     }
     ExtTextOutW(dc, left, static_cast<int>(pixels.top), ETO_CLIPPED, &pixels, part.data(),
                 static_cast<UINT>(part.size()), nullptr);
+}
+
+void Draw_Picture(Canvas &canvas, const Picture &picture, const Rect &rect) {
+    RECT to = win32::To_Pixels(rect);
+    OffsetRect(&to, -static_cast<int>(canvas.Area().left), -static_cast<int>(canvas.Area().top));
+    win32::Scale_Picture(canvas.Pixels(), picture,
+                         {static_cast<int>(to.left), static_cast<int>(to.top),
+                          static_cast<int>(to.right - to.left), static_cast<int>(to.bottom - to.top)});
 }
 
 int Text_Width(std::string_view text, const Font &font) {

@@ -1,62 +1,51 @@
-// The native controls of dialogs: their making, their state, and what the user does with them.
+// The native controls of dialogs show the state of the form's controls. Their making is in dialog_make.cpp,
+// what the user does with them in dialog_events.cpp.
 #include "win32/dialog_edit.h"
+#include "win32/dialog_lists.h"
 #include "win32/dialog_window.h"
 #include "win32/fonts.h"
-#include "win32/modal.h"
 #include "win32/units.h"
 #include "win32/wide_text.h"
+
+#include <commctrl.h>
+
+#include <utility>
 
 namespace win32 {
 
 using platform::Aspect;
 using platform::Control_Kind;
 using platform::Control_State;
-using platform::Input_Event;
-using platform::Input_Kind;
 
 namespace {
 
-/// Native identifiers of the controls: this and the index. The lower ones have meanings to the system.
-constexpr int first_id = 100;
-
-constexpr platform::Colour usual_fore_colour = platform::System_Colour(18);
-constexpr platform::Colour usual_back_colour = platform::System_Colour(15);
-
-DWORD Label_Style(const Control_State &control) {
-    constexpr DWORD aligned[] = {SS_LEFT, SS_CENTER, SS_RIGHT};
-    return aligned[static_cast<int>(control.align)] | (control.middle ? SS_CENTERIMAGE : 0U) |
-           (control.frame_colour != -1 ? WS_BORDER : 0U);
+bool Has_Items(const Control_State &control) {
+    return control.kind == Control_Kind::Combo_Box || control.kind == Control_Kind::List_Box ||
+           control.kind == Control_Kind::Tab_Strip;
 }
 
-/// A text box of more than two lines has a scroll bar.
-DWORD Text_Box_Style(const Control_State &control) {
-    const bool tall = control.bounds.height > 3 * platform::Line_Height(control.font);
-    return WS_TABSTOP | ES_MULTILINE | ES_AUTOVSCROLL | (tall ? WS_VSCROLL : 0U);
-}
-
-DWORD Style_Of(const Control_State &control) {
-    switch (control.kind) {
-    case Control_Kind::Button:
-        return WS_TABSTOP | (control.is_default ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON);
-    case Control_Kind::Check_Box:
-        return WS_TABSTOP | BS_AUTOCHECKBOX;
-    case Control_Kind::Text_Box:
-        return Text_Box_Style(control);
-    default:
-        return Label_Style(control);
-    }
-}
-
-const wchar_t *Class_Of(Control_Kind kind) {
-    if (kind == Control_Kind::Label)
-        return L"STATIC";
-    return kind == Control_Kind::Text_Box ? L"EDIT" : L"BUTTON";
-}
-
+/// What the window has for its text. That of a painted control is only for assistive technology.
 std::wstring Native_Caption(const Control_State &control) {
+    if (control.painted)
+        return To_Wide(control.access.name.empty() ? control.caption : control.access.name);
     std::wstring text = To_Wide(control.caption);
-    return control.kind == Control_Kind::Text_Box ? Without_Breaks(std::move(text)) : text;
+    return control.kind == Control_Kind::Text_Box || control.kind == Control_Kind::Combo_Box
+               ? Without_Breaks(std::move(text))
+               : text;
 }
+
+/// Marks the program's changes for the length of a scope.
+class Updating_Scope {
+public:
+    explicit Updating_Scope(bool &updating) : updating_(updating), before_(std::exchange(updating, true)) {}
+    ~Updating_Scope() { updating_ = before_; }
+    Updating_Scope(const Updating_Scope &) = delete;
+    Updating_Scope &operator=(const Updating_Scope &) = delete;
+
+private:
+    bool &updating_;
+    bool before_;
+};
 
 } // namespace
 
@@ -66,33 +55,36 @@ HWND Dialog_Window::Control_Window(int index) const {
                : natives_[static_cast<std::size_t>(index)].window;
 }
 
-void Dialog_Window::Make_Control(const Control_State &control) {
-    Native &native = natives_[static_cast<std::size_t>(control.index)];
-    const RECT place = To_Pixels(control.bounds);
-    const bool text_box = control.kind == Control_Kind::Text_Box;
-    const auto id = static_cast<INT_PTR>(first_id + control.index);
-    native.window = Made(CreateWindowExW(
-        text_box ? WS_EX_CLIENTEDGE : 0, Class_Of(control.kind), Native_Caption(control).c_str(),
-        WS_CHILD | Style_Of(control) | (control.visible ? WS_VISIBLE : 0U) |
-            (control.enabled ? 0U : WS_DISABLED),
-        place.left, place.top, place.right - place.left, place.bottom - place.top, window_,
-        reinterpret_cast<HMENU>(id), GetModuleHandleW(nullptr), nullptr));
-    if (text_box)
-        Make_Text_Box(native.window);
-    if (control.checked)
-        SendMessageW(native.window, BM_SETCHECK, BST_CHECKED, 0);
-    if (control.is_default)
-        SendMessageW(window_, DM_SETDEFID, static_cast<WPARAM>(id), 0);
-    Look_Changed(control);
+const Control_State *Dialog_Window::Control_Of(HWND window) const {
+    const int index = GetDlgCtrlID(window) - First_Control_Id;
+    return window != nullptr && Control_Window(index) == window
+               ? Model()->controls[static_cast<std::size_t>(index)]
+               : nullptr;
+}
+
+const Control_State *Dialog_Window::Tab_Strip() const {
+    for (const Control_State *control : Model()->controls)
+        if (control->kind == Control_Kind::Tab_Strip)
+            return control;
+    return nullptr;
+}
+
+bool Dialog_Window::Holds(const Control_State &holder, const Control_State &control) const {
+    for (const Control_State *each = &control;;
+         each = Model()->controls[static_cast<std::size_t>(each->container)]) {
+        if (each == &holder)
+            return true;
+        if (each->container == -1)
+            return false;
+    }
 }
 
 void Dialog_Window::Look_Changed(const Control_State &control) {
     Native &native = natives_[static_cast<std::size_t>(control.index)];
     native.brush.Reset();
-    Set_Font(control);
-    if (control.kind == Control_Kind::Text_Box)
-        SendMessageW(native.window, EM_LIMITTEXT, 0, 0);
-    InvalidateRect(native.window, nullptr, TRUE);
+    if (!control.painted)
+        Set_Font(control);
+    InvalidateRect(native.window, nullptr, !control.painted);
 }
 
 void Dialog_Window::Set_Font(const Control_State &control) {
@@ -101,127 +93,241 @@ void Dialog_Window::Set_Font(const Control_State &control) {
     SendMessageW(native.window, WM_SETFONT, reinterpret_cast<WPARAM>(font.Get()), TRUE);
     // Only now may the one before go.
     native.font = std::move(font);
+    // While the controls are made there are no items yet.
+    if (Has_Items(control) && !updating_)
+        Fit_Widest_Item(native.window, control);
 }
 
 void Dialog_Window::Set_Caption(const Control_State &control) {
     const HWND window = Control_Window(control.index);
+    if (control.kind == Control_Kind::Slider) {
+        if (slider_tip_.Is_Over(window))
+            slider_tip_.Show(window, To_Wide(control.caption));
+        return;
+    }
+    if (Has_Items(control) && !control.editable)
+        return;
     const std::wstring text = Native_Caption(control);
     // An equal text is not written again: it would take the caret to the beginning.
     if (Window_Text(window) == text)
         return;
-    updating_ = true;
+    const Updating_Scope updating(updating_);
     SetWindowTextW(window, text.c_str());
-    updating_ = false;
 }
 
 void Dialog_Window::Place_Control(const Control_State &control) {
-    const RECT place = To_Pixels(control.bounds);
-    SetWindowPos(Control_Window(control.index), nullptr, place.left, place.top, place.right - place.left,
-                 place.bottom - place.top, SWP_NOZORDER | SWP_NOACTIVATE);
+    const HWND window = Control_Window(control.index);
+    const platform::Rect bounds = platform::Place_On_Form(*Model(), control);
+    const RECT place = To_Pixels(bounds);
+    int width = place.right - place.left;
+    int height = place.bottom - place.top;
+    if (control.painted) {
+        // It paints from its own corner.
+        width = To_Pixels(bounds.width);
+        height = To_Pixels(bounds.height);
+    }
+    SetWindowPos(window, nullptr, place.left, place.top, width, height, SWP_NOZORDER | SWP_NOACTIVATE);
+    if (control.kind == Control_Kind::Combo_Box)
+        Set_Combo_Heights(window, height, control);
 }
 
-void Dialog_Window::Enable_Control(const Control_State &control) {
-    const HWND window = Control_Window(control.index);
-    // A disabled control would keep the keyboard and swallow it.
-    if (!control.enabled && GetFocus() == window)
-        SendMessageW(window_, WM_NEXTDLGCTL, 0, FALSE);
-    EnableWindow(window, control.enabled);
-}
-
-void Dialog_Window::Control_Changed(const Control_State &control, Aspect aspect, const platform::Rect &) {
-    const HWND window = Control_Window(control.index);
-    if (window == nullptr)
+void Dialog_Window::Place_Held(const Control_State &changed, const platform::Rect &before) {
+    for (const Control_State *control : Model()->controls) {
+        if (Control_Window(control->index) != nullptr && Holds(changed, *control))
+            Place_Control(*control);
+    }
+    if (changed.kind != Control_Kind::Frame) {
+        if (Control_Window(changed.index) != nullptr)
+            Raise_Over_Painted(changed);
         return;
-    switch (aspect) {
-    case Aspect::Bounds:
-        Place_Control(control);
+    }
+    // The inside of a frame is not the frame's own to paint.
+    platform::Rect place = platform::Place_On_Form(*Model(), changed);
+    Redraw(place);
+    place.left += before.left - changed.bounds.left;
+    place.top += before.top - changed.bounds.top;
+    place.width = before.width;
+    place.height = before.height;
+    Redraw(place);
+}
+
+/// Has a part of the dialog painted anew, all at once when the program waits again.
+void Dialog_Window::Redraw(const platform::Rect &place) {
+    const RECT pixels = To_Pixels(place);
+    RedrawWindow(window_, &pixels, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+}
+
+void Dialog_Window::Fill(const Control_State &control) {
+    const Updating_Scope updating(updating_);
+    const HWND window = Control_Window(control.index);
+    if (control.kind == Control_Kind::Slider) {
+        SendMessageW(window, TBM_SETRANGEMIN, FALSE, control.minimum);
+        SendMessageW(window, TBM_SETRANGEMAX, TRUE, control.maximum);
+    } else if (control.kind == Control_Kind::Progress_Bar) {
+        SendMessageW(window, PBM_SETRANGE32, static_cast<WPARAM>(control.minimum), control.maximum);
+    } else if (Has_Items(control)) {
+        Fill_List(window, control);
+        if (control.kind == Control_Kind::Combo_Box)
+            Place_Control(control);
+    }
+}
+
+void Dialog_Window::Show_Check(const Control_State &control) {
+    const HWND window = Control_Window(control.index);
+    const LRESULT wanted = control.checked ? BST_CHECKED : BST_UNCHECKED;
+    if (SendMessageW(window, BM_GETCHECK, 0, 0) != wanted)
+        SendMessageW(window, BM_SETCHECK, static_cast<WPARAM>(wanted), 0);
+    if (control.kind == Control_Kind::Option_Button)
+        Set_Group_Stop(control.container);
+}
+
+/// The Tab key reaches the checked option button of a frame, or the first one when none is: the keyboard
+/// checks where it arrives.
+void Dialog_Window::Set_Group_Stop(int container) {
+    const Control_State *stop = nullptr;
+    for (const Control_State *control : Model()->controls) {
+        if (control->kind == Control_Kind::Option_Button && control->container == container &&
+            (stop == nullptr || (control->checked && !stop->checked)))
+            stop = control;
+    }
+    for (const Control_State *control : Model()->controls) {
+        const HWND window = Control_Window(control->index);
+        if (control->kind != Control_Kind::Option_Button || control->container != container ||
+            window == nullptr)
+            continue;
+        const LONG style = GetWindowLongW(window, GWL_STYLE);
+        const LONG with_stop = style | WS_TABSTOP;
+        const LONG wanted = control == stop ? with_stop : with_stop ^ WS_TABSTOP;
+        if (style != wanted)
+            SetWindowLongW(window, GWL_STYLE, wanted);
+    }
+}
+
+void Dialog_Window::Show_Choice(const Control_State &control) {
+    const Updating_Scope updating(updating_);
+    Native &native = natives_[static_cast<std::size_t>(control.index)];
+    switch (control.kind) {
+    case Control_Kind::Check_Box:
+    case Control_Kind::Option_Button:
+        Show_Check(control);
         break;
-    case Aspect::Visible:
-        ShowWindow(window, control.visible ? SW_SHOWNA : SW_HIDE);
+    case Control_Kind::Combo_Box:
+    case Control_Kind::List_Box:
+    case Control_Kind::Tab_Strip:
+        if (Selected_Item(native.window, control) != control.selected)
+            Select_Item(native.window, control, control.selected);
         break;
-    case Aspect::Enabled:
-        Enable_Control(control);
+    case Control_Kind::Slider:
+        if (SendMessageW(native.window, TBM_GETPOS, 0, 0) != control.value)
+            SendMessageW(native.window, TBM_SETPOS, TRUE, control.value);
         break;
-    case Aspect::Caption:
-        Set_Caption(control);
-        break;
-    case Aspect::Look:
-        Look_Changed(control);
-        break;
-    case Aspect::Checked:
-        SendMessageW(window, BM_SETCHECK, control.checked ? BST_CHECKED : BST_UNCHECKED, 0);
+    case Control_Kind::Progress_Bar:
+        SendMessageW(native.window, PBM_SETPOS, static_cast<WPARAM>(control.value), 0);
         break;
     default:
         break;
     }
 }
 
-void Dialog_Window::Command(int id, int code) {
-    if (id == IDCANCEL)
-        return Cancel();
-    const int index = id - first_id;
-    if (Control_Window(index) == nullptr)
+/// The keyboard leaves what cannot take it any more: a control that is hidden or disabled would keep it, and
+/// swallow it.
+void Dialog_Window::Leave_Focus(const Control_State &changed) {
+    HWND focus = GetFocus();
+    if (focus == nullptr || !IsChild(window_, focus))
         return;
-    const Control_State &control = *Model()->controls[static_cast<std::size_t>(index)];
-    if (control.kind == Control_Kind::Text_Box) {
-        if (code == EN_CHANGE && !updating_)
-            Text_Edited(control);
-    } else if (control.kind != Control_Kind::Label && code == BN_CLICKED) {
-        Click(control);
-    }
+    // The text box inside a combo box has the keyboard for that.
+    while (GetParent(focus) != window_)
+        focus = GetParent(focus);
+    const Control_State *control = Control_Of(focus);
+    if (control == nullptr || !Holds(changed, *control))
+        return;
+    const Control_State *tabs = Tab_Strip();
+    // With its page the keyboard goes to the tabs.
+    if (changed.kind == Control_Kind::Frame && tabs != nullptr &&
+        IsWindowEnabled(Control_Window(tabs->index)))
+        SendMessageW(window_, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(Control_Window(tabs->index)), TRUE);
+    else
+        SendMessageW(window_, WM_NEXTDLGCTL, 0, FALSE);
 }
 
-void Dialog_Window::Cancel() {
-    if (Open_Modal_Boxes > 0)
-        return;
+void Dialog_Window::Update_Held(const Control_State &changed) {
+    if (!changed.visible || !changed.enabled)
+        Leave_Focus(changed);
+    HDWP moves = BeginDeferWindowPos(16);
+    bool shown_or_hidden = false;
     for (const Control_State *control : Model()->controls) {
-        if (!control->is_cancel)
+        const HWND window = Control_Window(control->index);
+        if (window == nullptr || !Holds(changed, *control))
             continue;
-        if (control->enabled && control->visible)
-            Click(*control);
-        return;
-    }
-    Send(Input_Kind::Close);
-}
-
-void Dialog_Window::Click(const Control_State &control) {
-    if (Open_Modal_Boxes > 0) {
-        // A check box has changed by itself already.
-        SendMessageW(Control_Window(control.index), BM_SETCHECK,
-                     control.checked ? BST_CHECKED : BST_UNCHECKED, 0);
-        return;
-    }
-    Input_Event event{};
-    event.kind = Input_Kind::Clicked;
-    event.control = control.index;
-    event.checked = SendMessageW(Control_Window(control.index), BM_GETCHECK, 0, 0) == BST_CHECKED;
-    Send(event);
-}
-
-void Dialog_Window::Text_Edited(const Control_State &control) {
-    Input_Event event{};
-    event.kind = Input_Kind::Text_Changed;
-    event.control = control.index;
-    event.text = From_Wide(Without_Breaks(Window_Text(Control_Window(control.index))));
-    Send(event);
-}
-
-LRESULT Dialog_Window::Colour_Control(HDC dc, HWND window, LRESULT usual) {
-    for (const Control_State *control : Model()->controls) {
-        Native &native = natives_[static_cast<std::size_t>(control->index)];
-        if (native.window != window || control->kind != Control_Kind::Label)
+        const bool usable = platform::Is_Usable(*Model(), *control);
+        if (usable != (IsWindowEnabled(window) != FALSE))
+            EnableWindow(window, usable);
+        const bool visible = platform::Is_Shown(*Model(), *control);
+        if (visible == ((GetWindowLongW(window, GWL_STYLE) & WS_VISIBLE) != 0))
             continue;
-        if (control->fore_colour != usual_fore_colour)
-            SetTextColor(dc, static_cast<COLORREF>(platform::Resolve_Colour(control->fore_colour)));
-        if (control->back_colour == usual_back_colour || control->transparent)
-            return usual;
-        const auto back = static_cast<COLORREF>(platform::Resolve_Colour(control->back_colour));
-        if (!native.brush)
-            native.brush.Reset(CreateSolidBrush(back));
-        SetBkColor(dc, back);
-        return reinterpret_cast<LRESULT>(native.brush.Get());
+        shown_or_hidden = true;
+        const UINT flags = SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOREDRAW |
+                           (visible ? SWP_SHOWWINDOW : SWP_HIDEWINDOW);
+        if (moves != nullptr)
+            moves = DeferWindowPos(moves, window, nullptr, 0, 0, 0, 0, flags);
+        else
+            SetWindowPos(window, nullptr, 0, 0, 0, 0, flags);
     }
-    return usual;
+    if (moves != nullptr)
+        EndDeferWindowPos(moves);
+    // Together with what another page shows meanwhile.
+    if (shown_or_hidden)
+        Redraw(platform::Place_On_Form(*Model(), changed));
+}
+
+void Dialog_Window::Update_Tooltips() {
+    std::vector<HWND> windows;
+    windows.reserve(natives_.size());
+    for (const Native &native : natives_)
+        windows.push_back(native.window);
+    tooltips_.Update(window_, *Model(), windows);
+}
+
+void Dialog_Window::Control_Changed(const Control_State &control, Aspect aspect,
+                                    const platform::Rect &before) {
+    // These concern what a frame holds too, even when it has no window itself.
+    if (aspect == Aspect::Bounds)
+        return Place_Held(control, before);
+    if (aspect == Aspect::Visible || aspect == Aspect::Enabled)
+        return Update_Held(control);
+    const HWND window = Control_Window(control.index);
+    if (window == nullptr)
+        return;
+    switch (aspect) {
+    case Aspect::Caption:
+    case Aspect::Access:
+        Set_Caption(control);
+        if (control.painted)
+            InvalidateRect(window, nullptr, FALSE);
+        break;
+    case Aspect::Look:
+        Look_Changed(control);
+        if (control.kind == Control_Kind::Combo_Box)
+            Place_Control(control);
+        break;
+    case Aspect::Items:
+        Fill(control);
+        Set_Caption(control);
+        Show_Choice(control);
+        natives_[static_cast<std::size_t>(control.index)].rested = control.value;
+        break;
+    case Aspect::Checked:
+    case Aspect::Selected:
+        Show_Choice(control);
+        Set_Caption(control);
+        natives_[static_cast<std::size_t>(control.index)].rested = control.value;
+        break;
+    case Aspect::Tooltip:
+        Update_Tooltips();
+        break;
+    default:
+        break;
+    }
 }
 
 } // namespace win32

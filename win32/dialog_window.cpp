@@ -1,8 +1,7 @@
-// Dialogs: their window, its place and its messages. The single controls are in dialog_controls.cpp.
+// Dialogs: their window, its place and its messages. The single controls are in
+// dialog_make.cpp, dialog_controls.cpp and dialog_events.cpp.
 #include "win32/dialog_window.h"
 
-#include "win32/dialog_edit.h"
-#include "win32/dialog_template.h"
 #include "win32/modal.h"
 #include "win32/units.h"
 #include "win32/wide_text.h"
@@ -34,15 +33,6 @@ RECT On_Screen(RECT place) {
 
 } // namespace
 
-void Dialog_Window::Create() {
-    Adopt(Make_Dialog(L"Vellatro_" + To_Wide(Model()->name), Procedure));
-    SetWindowTextW(window_, To_Wide(Model()->title).c_str());
-    natives_.resize(Model()->controls.size());
-    for (const Control_State *control : Model()->controls)
-        Make_Control(*control);
-    Place();
-}
-
 LRESULT CALLBACK Dialog_Window::Procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
     return Receive(window, message, wparam, lparam, DefDlgProcW);
 }
@@ -69,17 +59,37 @@ LRESULT Dialog_Window::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
     case WM_DPICHANGED:
         // The system would scale the controls by itself; they follow the calendar's screen.
         return 0;
+    case WM_HSCROLL:
+    case WM_VSCROLL:
+        if (const Control_State *slider = Control_Of(reinterpret_cast<HWND>(lparam)))
+            Slider_Moved(*slider, LOWORD(wparam));
+        return 0;
+    case WM_NOTIFY:
+        if (Notified(*reinterpret_cast<NMHDR *>(lparam)))
+            return 0;
+        break;
+    case WM_ERASEBKGND:
+        if (Erase(reinterpret_cast<HDC>(wparam)))
+            return 1;
+        break;
     case WM_CTLCOLORSTATIC:
-        return Colour_Control(reinterpret_cast<HDC>(wparam), reinterpret_cast<HWND>(lparam),
+    case WM_CTLCOLORBTN:
+        return Colour_Control(message, reinterpret_cast<HDC>(wparam), reinterpret_cast<HWND>(lparam),
                               DefDlgProcW(window_, message, wparam, lparam));
     case WM_SYSCOLORCHANGE:
-        for (Native &native : natives_)
-            native.brush.Reset();
+    case WM_THEMECHANGED:
+        Colours_Changed(message, wparam, lparam);
         break;
     default:
         break;
     }
     return DefDlgProcW(window_, message, wparam, lparam);
+}
+
+void Dialog_Window::Window_Gone() {
+    tooltips_.Window_Gone();
+    slider_tip_.Hide();
+    Mirror::Window_Gone();
 }
 
 void Dialog_Window::Own_Aspect_Changed(Aspect aspect) {
@@ -142,8 +152,10 @@ void Dialog_Window::Focus() {
         SendMessageW(window_, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(control), TRUE);
     // Behind the text and not over all of it, where the first key typed would wipe it out.
     const int index = Model()->focused;
-    if (index >= 0 && control == Control_Window(index) &&
-        Model()->controls[static_cast<std::size_t>(index)]->kind == platform::Control_Kind::Text_Box) {
+    if (index < 0 || control != Control_Window(index))
+        return;
+    const Control_State &focused = *Model()->controls[static_cast<std::size_t>(index)];
+    if (focused.kind == platform::Control_Kind::Text_Box && !focused.read_only) {
         const auto end = static_cast<WPARAM>(GetWindowTextLengthW(control));
         SendMessageW(control, EM_SETSEL, end, static_cast<LPARAM>(end));
     }
@@ -151,9 +163,12 @@ void Dialog_Window::Focus() {
 
 void Dialog_Window::Scale_Changed() {
     for (const Control_State *control : Model()->controls) {
-        Set_Font(*control);
+        if (Control_Window(control->index) == nullptr)
+            continue;
+        Look_Changed(*control);
         Place_Control(*control);
     }
+    Find_Page_Colour();
     Place();
 }
 

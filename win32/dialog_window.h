@@ -2,7 +2,11 @@
 #pragma once
 
 #include "win32/mirror.h"
+#include "win32/painted_child.h"
+#include "win32/slider_tip.h"
+#include "win32/tooltips.h"
 
+#include <memory>
 #include <vector>
 
 namespace win32 {
@@ -16,39 +20,88 @@ public:
                          const platform::Rect &before) override;
     void Bring_To_Front() override;
     void Scale_Changed() override;
+    bool Take_First(const MSG &message) override;
 
 private:
-    /// The native side of one control.
+    using Control_State = platform::Control_State;
+
+    /// The native side of one control. A frame without a caption has no window.
     struct Native {
         HWND window = nullptr;
         Unique_Font font;
         Unique_Brush brush; ///< of a background colour of its own
+        std::unique_ptr<Painted_Child> painted;
+        int rested = 0; ///< of a slider: its value when it was at rest last
     };
 
     static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam);
     LRESULT Handle(UINT message, WPARAM wparam, LPARAM lparam) override;
+    void Window_Gone() override;
+
+    // The making of the controls (dialog_make.cpp).
+    void Make_Control(const Control_State &control);
+    HWND Make_Native(const Control_State &control);
+    DWORD Group_Style(const Control_State &control) const;
+    void Raise_Over_Painted(const Control_State &control);
+
+    // Their state (dialog_controls.cpp).
+    void Look_Changed(const Control_State &control);
+    void Set_Font(const Control_State &control);
+    void Set_Caption(const Control_State &control);
+    void Place_Control(const Control_State &control);
+    void Place_Held(const Control_State &changed, const platform::Rect &before);
+    void Redraw(const platform::Rect &place);
+    void Fill(const Control_State &control);
+    void Show_Choice(const Control_State &control);
+    void Show_Check(const Control_State &control);
+    void Set_Group_Stop(int container);
+    void Update_Held(const Control_State &changed);
+    void Leave_Focus(const Control_State &changed);
+    void Update_Tooltips();
+    bool Holds(const Control_State &holder, const Control_State &control) const;
+
+    // What the user does with them (dialog_events.cpp).
     void Command(int id, int code);
     void Cancel();
-    void Click(const platform::Control_State &control);
-    void Text_Edited(const platform::Control_State &control);
-    LRESULT Colour_Control(HDC dc, HWND window, LRESULT usual);
+    void Tell(const Control_State &control, platform::Input_Kind kind, int selected = -1);
+    void Tell(const Control_State &control, platform::Input_Event event);
+    void Click(const Control_State &control);
+    void Text_Edited(const Control_State &control);
+    void List_Command(const Control_State &control, int code);
+    void Combo_Command(const Control_State &control, int code);
+    void Combo_Closed(const Control_State &control);
+    void Slider_Moved(const Control_State &control, int code);
+    bool Notified(NMHDR &notice);
+    bool Turn_Page(int step);
 
-    void Make_Control(const platform::Control_State &control);
-    void Look_Changed(const platform::Control_State &control);
-    void Set_Font(const platform::Control_State &control);
-    void Set_Caption(const platform::Control_State &control);
-    void Place_Control(const platform::Control_State &control);
-    void Enable_Control(const platform::Control_State &control);
+    // The background of the tab page, which is not always the dialog's (dialog_background.cpp).
+    void Find_Page_Colour();
+    RECT Page_Of(const Control_State &tab_strip) const;
+    bool On_Page(const Control_State &control) const;
+    bool Erase(HDC dc);
+    LRESULT Colour_Control(UINT message, HDC dc, HWND window, LRESULT usual);
+    void Colours_Changed(UINT message, WPARAM wparam, LPARAM lparam);
+
     void Place() override;
     void Show_Or_Hide() override;
     void Own_Aspect_Changed(platform::Aspect aspect) override;
     void Focus();
     HWND Control_Window(int index) const;
+    /// The control whose native window this is, null for others.
+    const Control_State *Control_Of(HWND window) const;
+    const Control_State *Tab_Strip() const;
 
     std::vector<Native> natives_;
+    Tooltips tooltips_;
+    Slider_Tip slider_tip_;
+    COLORREF page_colour_ = 0;
+    Unique_Brush page_brush_;
     platform::Rect placed_; ///< the form's bounds when the window was placed last
     bool is_placed_ = false;
-    bool updating_ = false; ///< the program changes a text, which is no user's doing
+    bool updating_ = false; ///< the program changes a control, which is no user's doing
 };
+
+/// Native identifiers of the controls: this and the index. The lower ones have meanings to the system.
+constexpr int First_Control_Id = 100;
 
 } // namespace win32

@@ -5,6 +5,7 @@
 #include "win32/handles.h"
 #include "win32/paths.h"
 #include "win32/system_error.h"
+#include "win32/wide_text.h"
 
 #include <algorithm>
 #include <new>
@@ -127,23 +128,61 @@ void Remove_File(const std::wstring &path) {
     DeleteFileW(path.c_str());
 }
 
-} // namespace
-
-std::string Program_Folder() {
+std::wstring Program_Path() {
     std::wstring path(MAX_PATH, L'\0');
     DWORD length = 0;
     while ((length = GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size()))) >=
            path.size())
         path.resize(path.size() * 2);
     path.resize(length);
+    return path;
+}
+
+} // namespace
+
+std::string Program_Folder() {
+    std::wstring path = Program_Path();
     const std::size_t separator = path.rfind(L'\\');
     path.resize(separator == std::wstring::npos ? 0 : separator);
     return win32::Path_From_System(path);
 }
 
+std::string Program_Name() {
+    std::wstring name = Program_Path();
+    name.erase(0, name.rfind(L'\\') + 1);
+    return win32::From_Wide(name.substr(0, name.rfind(L'.')));
+}
+
 bool File_Exists(const std::string &path) {
     DWORD attributes = 0;
     return Query(path, attributes) == NO_ERROR && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
+}
+
+bool Folder_Exists(const std::string &path) {
+    DWORD attributes = 0;
+    return Query(path, attributes) == NO_ERROR && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+}
+
+std::vector<std::string> Names_In_Folder(const std::string &folder, Listed listed) {
+    std::vector<std::string> names;
+    const std::wstring pattern = win32::Path_For_Call(folder + "\\*");
+    const Quiet_Errors quiet;
+    WIN32_FIND_DATAW found = {};
+    const win32::Unique_Find find(pattern.empty() ? INVALID_HANDLE_VALUE
+                                                  : FindFirstFileW(pattern.c_str(), &found));
+    if (!find)
+        return names;
+    do {
+        const std::wstring name = found.cFileName;
+        const bool is_folder = (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+        if (is_folder != (listed == Listed::Folders) || name == L"." || name == L"..")
+            continue;
+        // One that the process's code page cannot say would name something else.
+        std::string text = win32::From_Wide(name);
+        if (win32::To_Wide(text) == name)
+            names.push_back(std::move(text));
+    } while (FindNextFileW(find.Get(), &found));
+    return names;
 }
 
 bool Path_Exists(const std::string &path) {
@@ -194,6 +233,15 @@ void Replace_File(const std::string &path, std::string_view bytes) {
         Remove_File(new_file);
         Throw(path, code);
     }
+}
+
+void Delete_File(const std::string &path) {
+    const std::wstring wide = win32::Path_For_Call(path);
+    if (wide.empty())
+        Throw(path, ERROR_INVALID_NAME);
+    const Quiet_Errors quiet;
+    if (!DeleteFileW(wide.c_str()))
+        Throw(path, GetLastError());
 }
 
 } // namespace platform

@@ -82,6 +82,10 @@ struct File_Kind {
     static void Close(HANDLE handle) { CloseHandle(handle); }
 };
 
+struct Find_Kind : File_Kind {
+    static void Close(HANDLE handle) { FindClose(handle); }
+};
+
 using Unique_Font = Unique_Handle<Gdi_Kind<HFONT>>;
 using Unique_Brush = Unique_Handle<Gdi_Kind<HBRUSH>>;
 using Unique_Bitmap = Unique_Handle<Gdi_Kind<HBITMAP>>;
@@ -91,6 +95,7 @@ using Unique_Menu = Unique_Handle<Menu_Kind>;
 using Unique_Key = Unique_Handle<Key_Kind>;
 using Unique_Kernel_Handle = Unique_Handle<Kernel_Kind>;
 using Unique_File = Unique_Handle<File_Kind>;
+using Unique_Find = Unique_Handle<Find_Kind>;
 
 /// A device context borrowed from a window, or from the screen with a null window.
 class Window_Dc {

@@ -113,9 +113,12 @@ HWND Broadcast_Window() {
 void Dispatch(MSG &message) {
     const HWND root = message.hwnd == nullptr ? nullptr : GetAncestor(message.hwnd, GA_ROOT);
     const platform::Form_Model *form = win32::Form_Of_Window(root);
-    const bool in_dialog = form != nullptr && form->kind == platform::Form_Kind::Dialog;
-    if (in_dialog && IsDialogMessageW(root, &message))
-        return;
+    if (form != nullptr && form->kind == platform::Form_Kind::Dialog) {
+        // Kept, because what it does may close the dialog.
+        const std::shared_ptr<win32::Mirror> dialog = win32::Find_Mirror(*form);
+        if (dialog->Take_First(message) || IsDialogMessageW(root, &message))
+            return;
+    }
     TranslateMessage(&message);
     DispatchMessageW(&message);
 }

@@ -31,6 +31,8 @@ public:
     virtual void Bring_To_Front() = 0;
     /// The dots per inch or the system's fonts changed.
     virtual void Scale_Changed() = 0;
+    /// Looks at a message before the system does what is usual with it. Returns whether that was all.
+    virtual bool Take_First(const MSG &) { return false; }
 
     /// Takes the window down without an event.
     void Destroy();

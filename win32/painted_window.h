@@ -3,6 +3,7 @@
 
 #include "win32/accessible.h"
 #include "win32/mirror.h"
+#include "win32/mouse_input.h"
 #include "win32/tooltips.h"
 
 #include <vector>
@@ -31,9 +32,6 @@ private:
     bool Handle_Posted(UINT message, WPARAM wparam);
     bool Handle_Mouse(UINT message, WPARAM wparam, LPARAM lparam);
     bool Handle_Key(UINT message, WPARAM wparam, LPARAM lparam);
-    void Button_Down(platform::Mouse_Button button, platform::Input_Event event);
-    void Button_Up(platform::Mouse_Button button, platform::Input_Event event);
-    void Mouse_Moved(platform::Input_Event event, WPARAM held);
 
     void Paint();
     void Paint_On(HDC target, const RECT &area);
@@ -53,8 +51,7 @@ private:
     std::vector<platform::Rect> clip_;
     std::vector<RECT> region_; ///< the clip in the pixels of the window's region
     std::vector<platform::Point> shape_;
-    unsigned held_buttons_ = 0;
-    POINT last_mouse_ = {-1, -1};
+    Mouse_Input mouse_;
 };
 
 /// Messages of painted windows to themselves.

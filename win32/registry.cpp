@@ -1,4 +1,4 @@
-// The user's part of the registry: platform/registry.h over Win32. Texts are stored as REG_SZ.
+// The registry: platform/registry.h over Win32. Texts are stored as REG_SZ.
 #include "platform/registry.h"
 
 #include "win32/handles.h"
@@ -45,6 +45,37 @@ std::string Text_Of(const std::vector<BYTE> &data) {
     return win32::From_Wide(text.c_str());
 }
 
+LONG Set_Value(HKEY key, const std::string &name, DWORD type, const void *data, std::size_t size) {
+    return RegSetValueExW(key, win32::To_Wide(name).c_str(), 0, type, static_cast<const BYTE *>(data),
+                          static_cast<DWORD>(size));
+}
+
+LONG Set_Text(HKEY key, const std::string &name, const std::string &text) {
+    const std::wstring wide = win32::To_Wide(text);
+    return Set_Value(key, name, REG_SZ, wide.c_str(), (wide.size() + 1) * sizeof(wchar_t));
+}
+
+HKEY Key_Of(Registry_Root root) {
+    return reinterpret_cast<HKEY>(root);
+}
+
+win32::Unique_Key Open_Key(Registry_Root root, const std::string &key, REGSAM access) {
+    HKEY opened = nullptr;
+    if (root == 0 ||
+        RegOpenKeyExW(Key_Of(root), win32::To_Wide(key).c_str(), 0, access, &opened) != ERROR_SUCCESS)
+        opened = nullptr;
+    return win32::Unique_Key(opened);
+}
+
+/// Copies the bytes of a stored value of that type and exactly that size into `number`.
+template <typename Number>
+bool Take_Number(const Raw_Value &value, DWORD type, Number &number) {
+    if (value.type != type || value.data.size() != sizeof number)
+        return false;
+    std::memcpy(&number, value.data.data(), sizeof number);
+    return true;
+}
+
 [[noreturn]] void Throw(const std::string &key, LONG code) {
     throw Registry_Error("HKEY_CURRENT_USER\\" + key + ": " +
                          win32::System_Error_Text(static_cast<unsigned long>(code)));
@@ -65,9 +96,8 @@ std::optional<std::string> Read_User_Value(const std::string &key, const std::st
     if (value.type == REG_SZ || value.type == REG_EXPAND_SZ)
         return Text_Of(value.data);
     std::int32_t number = 0;
-    if (value.type != REG_DWORD || value.data.size() != sizeof number)
+    if (!Take_Number(value, REG_DWORD, number))
         return "(binary data)";
-    std::memcpy(&number, value.data.data(), sizeof number);
     return std::to_string(number);
 }
 
@@ -78,13 +108,69 @@ void Write_User_Value(const std::string &key, const std::string &name, const std
     if (result != ERROR_SUCCESS)
         Throw(key, result);
     const win32::Unique_Key owner(opened);
-    const std::wstring wide = win32::To_Wide(text);
-    std::vector<BYTE> data((wide.size() + 1) * sizeof(wchar_t));
-    std::memcpy(data.data(), wide.c_str(), data.size());
-    result = RegSetValueExW(opened, win32::To_Wide(name).c_str(), 0, REG_SZ, data.data(),
-                            static_cast<DWORD>(data.size()));
+    result = Set_Text(opened, name, text);
     if (result != ERROR_SUCCESS)
         Throw(key, result);
+}
+
+Registry_Root Find_Registry_Root(const std::string &name) {
+    const struct {
+        const char *name;
+        HKEY key;
+    } roots[] = {{"HKCU", HKEY_CURRENT_USER}, {"HKLM", HKEY_LOCAL_MACHINE},  {"HKU", HKEY_USERS},
+                 {"HKDD", HKEY_DYN_DATA},     {"HKCC", HKEY_CURRENT_CONFIG}, {"HKCR", HKEY_CLASSES_ROOT}};
+    for (const auto &root : roots)
+        if (name == root.name)
+            return reinterpret_cast<Registry_Root>(root.key);
+    return 0;
+}
+
+Registry_Value Registry_Read(const std::string &root_name, const std::string &key, const std::string &name,
+                             char type_letter, const Registry_Value &standard) {
+    const win32::Unique_Key opened = Open_Key(Find_Registry_Root(root_name), key, KEY_QUERY_VALUE);
+    Raw_Value value;
+    if (!opened || Query(opened.Get(), win32::To_Wide(name), value) != ERROR_SUCCESS)
+        return standard;
+    std::int16_t flag = 0;
+    std::int32_t number = 0;
+    if ((type_letter == 'S' || type_letter == 's') && value.type == REG_SZ)
+        return Text_Of(value.data);
+    if ((type_letter == 'B' || type_letter == 'b') && Take_Number(value, REG_BINARY, flag))
+        return flag != 0;
+    if ((type_letter == 'D' || type_letter == 'd') && Take_Number(value, REG_DWORD, number))
+        return number;
+    return standard;
+}
+
+void Registry_Write(const std::string &root_name, const std::string &key, const std::string &name,
+                    char type_letter, const Registry_Value &value) {
+    const Registry_Root root = Find_Registry_Root(root_name);
+    HKEY opened = nullptr;
+    wchar_t no_class[] = L"";
+    if (root == 0 ||
+        RegCreateKeyExW(Key_Of(root), win32::To_Wide(key).c_str(), 0, no_class, REG_OPTION_NON_VOLATILE,
+                        KEY_SET_VALUE | KEY_CREATE_SUB_KEY, nullptr, &opened, nullptr) != ERROR_SUCCESS)
+        return;
+    const win32::Unique_Key owner(opened);
+    const auto *text = std::get_if<std::string>(&value);
+    const auto *flag = std::get_if<bool>(&value);
+    const auto *number = std::get_if<std::int32_t>(&value);
+    const std::int16_t flag_bits = flag != nullptr && *flag ? -1 : 0; // a true flag has all bits set
+    if (type_letter == 'S' && text != nullptr)
+        Set_Text(opened, name, *text);
+    else if (type_letter == 'B' && flag != nullptr)
+        Set_Value(opened, name, REG_BINARY, &flag_bits, sizeof flag_bits);
+    else if (type_letter == 'D' && number != nullptr)
+        Set_Value(opened, name, REG_DWORD, number, sizeof *number);
+}
+
+void Registry_Write_String(Registry_Root root, const std::string &key, const std::string &name,
+                           const std::string &text) {
+    const win32::Unique_Key opened = Open_Key(root, key, KEY_SET_VALUE);
+    if (!opened)
+        return;
+    Set_Text(opened.Get(), name, text);
+    RegFlushKey(opened.Get());
 }
 
 } // namespace platform

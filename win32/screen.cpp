@@ -34,10 +34,14 @@ int platform::Dots_Per_Inch() {
     return dots_per_inch;
 }
 
+platform::Size platform::Screen_Size() {
+    return {GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
+}
+
 platform::Rect platform::Work_Area() {
     RECT area = {};
     if (!SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0))
-        area = {0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
+        return {0, 0, Screen_Size().width, Screen_Size().height};
     return {area.left, area.top, area.right - area.left, area.bottom - area.top};
 }
 

@@ -1,7 +1,11 @@
-// The shell's windows: platform/shell.h over Win32.
+// The shell: platform/shell.h over Win32.
 #include "platform/shell.h"
 
 #include "win32/mirror.h"
+
+#include <windows.h>
+
+#include <shellapi.h>
 
 namespace platform {
 
@@ -73,6 +77,10 @@ void Attach_To_Desktop(Form_Model &model, Shell_Window desktop) {
     SetWindowPos(window, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     win32::Check_Scale(false);
     Form_Changed(model, Aspect::Bounds);
+}
+
+void Open_Web_Page(const char *address) {
+    ShellExecuteA(nullptr, nullptr, address, nullptr, "C:\\", SW_SHOWNORMAL);
 }
 
 } // namespace platform

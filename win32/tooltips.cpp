@@ -1,10 +1,8 @@
-// Native tooltips over the controls of painted forms.
+// Native tooltips over the controls of forms.
 #include "win32/tooltips.h"
 
 #include "win32/units.h"
 #include "win32/wide_text.h"
-
-#include <commctrl.h>
 
 #include <algorithm>
 #include <string_view>
@@ -91,19 +89,23 @@ LONG Fit(HDC dc, std::wstring &text, const SIZE &room) {
     return width;
 }
 
-TTTOOLINFOW Tool_Of(HWND owner, std::size_t index) {
+} // namespace
+
+TTTOOLINFOW Tooltips::Tool_Of(HWND owner, std::size_t index) const {
     TTTOOLINFOW tool = {};
     // The first version's size is the one that all versions of the common controls take.
     tool.cbSize = TTTOOLINFOW_V1_SIZE;
     tool.uFlags = TTF_SUBCLASS;
     tool.hwnd = owner;
     tool.uId = index + 1;
+    if (!windows_.empty()) {
+        tool.uFlags |= TTF_IDISHWND;
+        tool.uId = reinterpret_cast<UINT_PTR>(windows_[index]);
+    }
     // Asked for when the tip appears, for each wants a width of its own.
     tool.lpszText = LPSTR_TEXTCALLBACKW;
     return tool;
 }
-
-} // namespace
 
 bool Tooltips::Make_Window(HWND owner) {
     if (window_ != nullptr && IsWindow(window_))
@@ -119,7 +121,8 @@ bool Tooltips::Make_Window(HWND owner) {
     return window_ != nullptr;
 }
 
-void Tooltips::Update(HWND owner, const platform::Form_Model &model) {
+void Tooltips::Update(HWND owner, const platform::Form_Model &model, std::vector<HWND> windows) {
+    windows_ = std::move(windows);
     bool any = false;
     for (const platform::Control_State *control : model.controls)
         any = any || (control->visible && !control->tooltip.empty());
@@ -131,7 +134,9 @@ void Tooltips::Update(HWND owner, const platform::Form_Model &model) {
     for (std::size_t i = 0; i < tools_.size(); ++i) {
         const platform::Control_State &control = *model.controls[i];
         Tool wanted;
-        wanted.present = control.visible && !control.tooltip.empty();
+        // A hidden window hides its tool by itself.
+        wanted.present =
+            !control.tooltip.empty() && (windows_.empty() ? control.visible : windows_[i] != nullptr);
         if (wanted.present) {
             wanted.rect = To_Pixels(control.bounds);
             wanted.text = control.tooltip;
@@ -163,7 +168,9 @@ void Tooltips::Update_Tool(HWND owner, std::size_t index, Tool wanted) {
 bool Tooltips::Answer(NMHDR &notice) {
     if (notice.hwndFrom != window_ || window_ == nullptr || notice.code != TTN_GETDISPINFOW)
         return false;
-    const std::size_t index = notice.idFrom - 1;
+    const auto window = std::find(windows_.begin(), windows_.end(), reinterpret_cast<HWND>(notice.idFrom));
+    const std::size_t index =
+        windows_.empty() ? notice.idFrom - 1 : static_cast<std::size_t>(window - windows_.begin());
     if (index >= tools_.size())
         return false;
     shown_ = To_Wide(tools_[index].text);

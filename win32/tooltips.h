@@ -1,8 +1,10 @@
-// The native tooltips of a painted form: one tool for each visible control with a tooltip text.
+// The native tooltips of a form: one tool for each visible control with a tooltip text.
 #pragma once
 
 #include "platform/forms.h"
 #include "win32/handles.h"
+
+#include <commctrl.h>
 
 #include <string>
 #include <vector>
@@ -17,7 +19,8 @@ public:
     ~Tooltips() { Window_Gone(); }
 
     /// Brings the tools up to date with the controls. The tooltip window is made with the first text.
-    void Update(HWND owner, const platform::Form_Model &model);
+    /// Controls that are windows themselves have theirs in `windows`.
+    void Update(HWND owner, const platform::Form_Model &model, std::vector<HWND> windows = {});
     /// What the owner's window is told by WM_NOTIFY: gives the tip its text. Returns whether that was asked.
     bool Answer(NMHDR &notice);
     /// The owner's window is gone, or goes now.
@@ -33,8 +36,10 @@ private:
 
     bool Make_Window(HWND owner);
     void Update_Tool(HWND owner, std::size_t index, Tool wanted);
+    TTTOOLINFOW Tool_Of(HWND owner, std::size_t index) const;
 
     HWND window_ = nullptr;
+    std::vector<HWND> windows_;
     std::vector<Tool> tools_;
     std::wstring shown_; ///< the text of the tip that appeared last, which the system reads from here
 };

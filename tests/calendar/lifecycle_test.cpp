@@ -1,4 +1,5 @@
 // Start-up, the date watch, the system's broadcasts, steps, keys, colours and placement.
+#include "calendar/box_layout.h"
 #include "tests/calendar/calendar_test.h"
 
 #include <utility>

@@ -73,4 +73,22 @@ TEST_F(Files_Contract, A_File_That_Cannot_Be_Replaced_Stays) {
     EXPECT_EQ(Names_Left(), (Names{"held.dat", "kept.dat"}));
 }
 
+TEST_F(Files_Contract, Folders_Are_Listed_And_Files_Deleted) {
+    Make_Folder(Scratch("pack"));
+    for (const char *name : {"pack.bmp", "kept.bmp", "\xD0\xB4.bmp"})
+        platform::Replace_File(Scratch(name), "x");
+    Protect_File(Scratch("kept.bmp"));
+    platform::Delete_File(Scratch("PACK.bmp"));
+    for (const char *name : {"pack.bmp", "kept.bmp", "pack"})
+        EXPECT_THROW(platform::Delete_File(Scratch(name)), platform::File_Error) << name;
+    const std::string folder = Scratch("").substr(0, Scratch("").size() - 1);
+    Names files = platform::Names_In_Folder(folder, platform::Listed::Files);
+    std::sort(files.begin(), files.end());
+    EXPECT_EQ(files, (Names{"kept.bmp", "\xD0\xB4.bmp"}));
+    EXPECT_EQ(platform::Names_In_Folder(folder, platform::Listed::Folders), Names{"pack"});
+    EXPECT_EQ(platform::Names_In_Folder(Scratch("none"), platform::Listed::Files), Names{});
+    EXPECT_TRUE(platform::Folder_Exists(folder) && platform::Folder_Exists(Scratch("Pack")));
+    EXPECT_FALSE(platform::Folder_Exists(Scratch("none")) || platform::Folder_Exists(Scratch("kept.bmp")));
+}
+
 } // namespace

@@ -1,14 +1,18 @@
-// What only Windows has to show: file attributes and sharing, long names, kinds of registry values, the
-// native message box, and dates beside the system's own. In the native test program this file holds no tests.
+// What only Windows has to show: file attributes and sharing, long names, kinds of registry values, pictures,
+// the native message box, and dates beside the system's own. In the native test program this file holds no
+// tests.
 #ifdef _WIN32
 #include "platform/clock.h"
 #include "platform/files.h"
 #include "platform/locale.h"
 #include "platform/message_box.h"
+#include "platform/pictures.h"
 #include "platform/registry.h"
 #include "tests/contract/contract.h"
+#include "tests/contract/small_jpeg.h"
 #include "win32/modal.h"
 #include "win32/paths.h"
+#include "win32/picture_scaling.h"
 
 #include <windows.h>
 
@@ -205,6 +209,48 @@ TEST_F(Windows_Only, Message_Boxes_Show_Their_Text_And_Answer) {
     EXPECT_EQ(win32::Open_Modal_Boxes, 0);
     DestroyWindow(dialog);
     DestroyWindow(bystander);
+}
+
+TEST_F(Windows_Only, Pictures_Are_Loaded_Whole_Or_Not_At_All) {
+    const std::string path = Scratch("3.jpg");
+    const std::string whole = Small_Jpeg(5);
+    platform::Replace_File(path, whole);
+    const platform::Picture picture = platform::Load_Picture(path);
+    EXPECT_EQ(picture.width * 100 + picture.height, 1006);
+    ASSERT_TRUE(picture.pixels);
+    EXPECT_EQ(*picture.pixels, std::vector<std::uint8_t>(std::size_t{180}, 168));
+    std::string huge = whole;
+    huge.replace(76, 4, "\xFF\xFF\xFF\xFF");
+    std::string no_scan = whole;
+    no_scan.erase(no_scan.size() - 14, 12);
+    const std::pair<const char *, std::string> cases[] = {{"text", "This is no picture.\r\n"},
+                                                          {"empty", ""},
+                                                          {"cut", whole.substr(0, whole.size() - 3)},
+                                                          {"huge", huge},
+                                                          {"without a scan", no_scan}};
+    for (const auto &[what, bytes] : cases) {
+        platform::Replace_File(path, bytes);
+        try {
+            platform::Load_Picture(path);
+            ADD_FAILURE() << what;
+        } catch (const platform::Picture_Error &error) {
+            EXPECT_TRUE(std::string(error.what()).starts_with(path + ": ")) << error.what();
+        }
+    }
+    EXPECT_THROW(platform::Load_Picture(Scratch("4.jpg")), platform::Picture_Error);
+}
+
+TEST_F(Windows_Only, Pictures_Are_Scaled_By_Means_And_Clipped) {
+    std::vector<std::uint8_t> pixels; // four by two: 0, 10, 20, 30 and 40, 50, 60, 70 of blue
+    for (int i = 0; i < 8; ++i)
+        pixels.insert(pixels.end(), {static_cast<std::uint8_t>(10 * i), 2, 3});
+    const platform::Picture picture{4, 2, std::make_shared<const std::vector<std::uint8_t>>(pixels)};
+    std::vector<std::uint32_t> buffer(3 * 2);
+    win32::Scale_Picture({buffer.data(), 3, 2}, picture, {1, 0, 2, 1});
+    EXPECT_EQ(buffer, (std::vector<std::uint32_t>{0, 0x30219, 0x3022D, 0, 0, 0}));
+    win32::Scale_Picture({buffer.data(), 3, 2}, picture, {-5, -2, 8, 4});
+    EXPECT_EQ(buffer, (std::vector<std::uint32_t>{0x3023C, 0x30246, 0x30246, 0x3023C, 0x30246, 0x30246}));
+    win32::Scale_Picture({buffer.data(), 3, 2}, {}, {0, 0, 3, 2});
 }
 
 } // namespace

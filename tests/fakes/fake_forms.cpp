@@ -1,6 +1,7 @@
 // Windows, canvas, timers, screen, menus and the shell without a screen.
 #include "tests/fakes/fake_forms.h"
 
+#include "platform/pictures.h"
 #include "platform/text.h"
 #include "toolkit/form.h"
 
@@ -56,8 +57,20 @@ void Mouse(Form &form, Input_Kind kind, const Control &control, Mouse_Button but
     platform::Input_Event event{};
     event.kind = kind;
     event.button = button;
-    event.point = {control.Left() + control.Width() / 2, control.Top() + control.Height() / 2};
+    event.point = {control.Width() / 2, control.Height() / 2};
+    // Controls of dialogs have windows of their own.
+    if (form.Model().kind == platform::Form_Kind::Dialog)
+        event.control = control.State().index;
+    else
+        event.point = {event.point.x + control.Left(), event.point.y + control.Top()};
     form.Model().input(event);
+}
+
+platform::Input_Event Event_Of(const Control &control, Input_Kind kind) {
+    platform::Input_Event event{};
+    event.kind = kind;
+    event.control = control.State().index;
+    return event;
 }
 
 /// The native window that something is told to or done with: there must be one.
@@ -94,6 +107,34 @@ void Press_Key(Form &form, int key) {
     form.Model().input(event);
     event.kind = Input_Kind::Key_Up;
     form.Model().input(event);
+}
+
+void Tell(Form &form, Input_Kind kind) {
+    platform::Input_Event event{};
+    event.kind = kind;
+    form.Model().input(event);
+}
+
+void Push(Form &form, const Control &control, bool checked) {
+    platform::Input_Event event = Event_Of(control, Input_Kind::Clicked);
+    event.checked = checked;
+    form.Model().input(event);
+}
+
+void Enter_Text(Form &form, const Control &control, const std::string &text) {
+    platform::Input_Event event = Event_Of(control, Input_Kind::Text_Changed);
+    event.text = text;
+    form.Model().input(event);
+}
+
+void Choose(Form &form, const Control &control, int item, Input_Kind kind) {
+    platform::Input_Event event = Event_Of(control, kind);
+    event.selected = item;
+    form.Model().input(event);
+}
+
+void Activate(Form &form, const Control &control) {
+    form.Model().input(Event_Of(control, Input_Kind::Item_Activated));
 }
 
 namespace platform {
@@ -151,7 +192,13 @@ void Fill_Polygon(Canvas &canvas, const std::vector<Point> &corners, Colour colo
 
 void Draw_Text(Canvas &canvas, std::string_view text, const Rect &rect, const Font &, Colour colour,
                Text_Align align) {
-    canvas.operations.push_back({Canvas_Operation::Kind::Text, rect, colour, std::string(text), {}, align});
+    canvas.operations.push_back(
+        {Canvas_Operation::Kind::Text, rect, colour, std::string(text), {}, align, {}});
+}
+
+void Draw_Picture(Canvas &canvas, const Picture &picture, const Rect &rect) {
+    canvas.operations.push_back(
+        {Canvas_Operation::Kind::Picture, rect, 0, {}, {}, Text_Align::Left, picture});
 }
 
 int Text_Width(std::string_view text, const Font &) {
@@ -173,6 +220,10 @@ Colour Resolve_Colour(Colour colour) {
 
 int Dots_Per_Inch() {
     return Desktop().dots_per_inch;
+}
+
+Size Screen_Size() {
+    return Desktop().screen;
 }
 
 Rect Work_Area() {
@@ -298,6 +349,10 @@ void Attach_To_Desktop(Form_Model &model, Shell_Window desktop) {
     Input_Event event{};
     event.kind = Input_Kind::Dots_Changed;
     model.input(event);
+}
+
+void Open_Web_Page(const char *address) {
+    Shell().web_pages.emplace_back(address);
 }
 
 } // namespace platform

@@ -15,13 +15,14 @@ class Form;
 
 /// One drawing operation. Fields that do not belong to it stay empty.
 struct Canvas_Operation {
-    enum class Kind { Fill, Frame, Polygon, Text };
+    enum class Kind { Fill, Frame, Polygon, Text, Picture };
     Kind kind;
     platform::Rect rect;
     platform::Colour colour = 0;
     std::string text;
     std::vector<platform::Point> corners;
     platform::Text_Align align = platform::Text_Align::Left;
+    platform::Picture picture = {};
 };
 
 struct platform::Canvas {
@@ -57,6 +58,7 @@ struct Fake_Timer {
 
 struct Fake_Desktop {
     int dots_per_inch = 96;
+    platform::Size screen{1024, 768};
     platform::Rect work_area{0, 0, 1024, 740};
     platform::Point mouse;
     bool button_held = false;
@@ -93,6 +95,7 @@ void Reset_Desktop();
 struct Fake_Shell {
     platform::Shell_Window desktop = 0, view = 0, list = 0; ///< none is there unless a test says so
     std::optional<platform::Label_Colours> colours;         ///< nothing: the shell hangs
+    std::vector<std::string> web_pages;                     ///< that were opened
     int dots_inside = 0; ///< dots per inch that a window has inside the desktop; 0: the same as outside
 
     const platform::Form_Model *attached = nullptr;
@@ -113,3 +116,14 @@ void Release(Form &form, const Control &control,
 void Click(Form &form, const Control &control, platform::Mouse_Button button = platform::Mouse_Button::Left);
 void Double_Click(Form &form, const Control &control);
 void Press_Key(Form &form, int key);
+/// What has no place: the close box, a lost window and the like.
+void Tell(Form &form, platform::Input_Kind kind);
+
+// The same for the native controls of dialogs. A disabled or hidden one takes nothing, as in a real window.
+void Push(Form &form, const Control &control, bool checked = false);
+void Enter_Text(Form &form, const Control &control, const std::string &text);
+/// Of a slider the value; kind Scrolled while it is moved.
+void Choose(Form &form, const Control &control, int item,
+            platform::Input_Kind kind = platform::Input_Kind::Selected);
+/// A double click on the chosen item.
+void Activate(Form &form, const Control &control);

@@ -1,12 +1,12 @@
-// The faked system: clock, regional settings, text, files, registry and message
-// boxes. Forms, screen and shell are in fake_forms.cpp.
+// The faked system: clock, regional settings, text, files, pictures, registry, wallpaper and message boxes.
+// Forms, screen and shell are in fake_forms.cpp.
 #include "tests/fakes/fakes.h"
 
 #include "platform/characters.h"
 #include "platform/files.h"
 #include "platform/locale.h"
-#include "platform/registry.h"
 #include "platform/text.h"
+#include "platform/wallpaper.h"
 
 #include <algorithm>
 #include <cctype>
@@ -83,8 +83,52 @@ std::string Program_Folder() {
     return "C:\\Vellatro";
 }
 
+std::string Program_Name() {
+    return "vellatro";
+}
+
 bool File_Exists(const std::string &path) {
     return Fakes().files.contains(path);
+}
+
+bool Folder_Exists(const std::string &path) {
+    return Fakes().folders.contains(path) || !Names_In_Folder(path, Listed::Files).empty();
+}
+
+std::vector<std::string> Names_In_Folder(const std::string &folder, Listed listed) {
+    std::set<std::string, Name_Less> names;
+    const auto add = [&](const std::string &path, bool is_folder) {
+        const std::string begin = folder + "\\";
+        if (path.size() <= begin.size() || Name_Less()(path.substr(0, begin.size()), begin) ||
+            Name_Less()(begin, path.substr(0, begin.size())))
+            return;
+        const std::size_t separator = path.find('\\', begin.size());
+        is_folder = is_folder || separator != std::string::npos;
+        if (is_folder == (listed == Listed::Folders))
+            names.insert(path.substr(begin.size(), separator - begin.size()));
+    };
+    for (const auto &[path, bytes] : Fakes().files)
+        add(path, false);
+    for (const std::string &path : Fakes().folders)
+        add(path, true);
+    return {names.begin(), names.end()};
+}
+
+void Delete_File(const std::string &path) {
+    if (Fakes().unwritable.contains(path) || Fakes().files.erase(path) == 0)
+        throw File_Error(path + " cannot be deleted");
+}
+
+Picture Load_Picture(const std::string &path) {
+    ++Fakes().loads;
+    const auto picture = Fakes().pictures.find(path);
+    if (picture == Fakes().pictures.end())
+        throw Picture_Error(path + " cannot be loaded");
+    return picture->second;
+}
+
+void Set_Wallpaper(const std::string &path) {
+    Fakes().wallpapers.push_back(path);
 }
 
 bool Path_Exists(const std::string &path) {
@@ -116,6 +160,53 @@ void Write_User_Value(const std::string &key, const std::string &name, const std
     if (Fakes().registry_refuses_writes)
         throw Registry_Error(key + " cannot be written");
     Fakes().registry[key + "\\" + name] = text;
+}
+
+namespace {
+
+constexpr const char *root_names[] = {"", "HKCU", "HKLM", "HKU", "HKDD", "HKCC", "HKCR"};
+
+void Store(const std::string &root, const std::string &value, const Registry_Value &content) {
+    const auto *text = std::get_if<std::string>(&content);
+    Fakes().other_values.erase(root + "\\" + value);
+    if (root != "HKCU" || text == nullptr)
+        Fakes().other_values[root + "\\" + value] = content;
+    if (root == "HKCU" && text != nullptr)
+        Fakes().registry[value] = *text;
+    else if (root == "HKCU")
+        Fakes().registry.erase(value);
+}
+
+} // namespace
+
+Registry_Root Find_Registry_Root(const std::string &name) {
+    const auto *const root = std::find(std::begin(root_names), std::end(root_names), name);
+    return root == std::end(root_names) ? 0 : static_cast<Registry_Root>(root - root_names);
+}
+
+Registry_Value Registry_Read(const std::string &root_name, const std::string &key, const std::string &name,
+                             char type_letter, const Registry_Value &standard) {
+    const std::size_t type = std::string("SBD").find(static_cast<char>(std::toupper(type_letter)));
+    const auto value = Fakes().other_values.find(root_name + "\\" + key + "\\" + name);
+    if (value != Fakes().other_values.end())
+        return value->second.index() == type ? value->second : standard;
+    const std::optional<std::string> text = Read_User_Value(key, name);
+    return root_name == "HKCU" && type == 0 && text ? Registry_Value(*text) : standard;
+}
+
+void Registry_Write(const std::string &root_name, const std::string &key, const std::string &name,
+                    char type_letter, const Registry_Value &value) {
+    if (Find_Registry_Root(root_name) == 0 || Fakes().registry_refuses_writes)
+        return;
+    Fakes().registry_keys.insert(root_name + "\\" + key);
+    if (type_letter == "SBD"[value.index()])
+        Store(root_name, key + "\\" + name, value);
+}
+
+void Registry_Write_String(Registry_Root root, const std::string &key, const std::string &name,
+                           const std::string &text) {
+    if (root != 0 && Fakes().registry_keys.contains(std::string(root_names[root]) + "\\" + key))
+        Store(root_names[root], key + "\\" + name, text);
 }
 
 Box_Answer Message_Box(const std::string &text, const std::string &title, Box_Icon icon,

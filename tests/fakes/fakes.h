@@ -1,10 +1,12 @@
-// The state behind the faked clock, regional settings, files, registry and message boxes, which tests set and
-// read. Forms, drawing, timers, screen, menus and shell have a header of their own. No test framework is
-// needed here: benchmarks and fuzz targets link the same fakes.
+// The state behind the faked clock, regional settings, files, pictures, registry, wallpaper and message
+// boxes, which tests set and read. Forms, drawing, timers, screen, menus and shell have a header of their
+// own. No test framework is needed here: benchmarks and fuzz targets link the same fakes.
 #pragma once
 
 #include "platform/clock.h"
 #include "platform/message_box.h"
+#include "platform/pictures.h"
+#include "platform/registry.h"
 
 #include <array>
 #include <deque>
@@ -52,8 +54,15 @@ struct Fake_System {
     int reads = 0;                               ///< calls of Read_File, failed ones too
     int writes = 0;                              ///< calls of Replace_File, failed ones too
 
-    /// Key, "\" and value name to text.
+    std::map<std::string, platform::Picture, Name_Less> pictures; ///< path to what is loaded from it
+    int loads = 0;                                                ///< calls of Load_Picture
+    std::vector<std::string> wallpapers;                          ///< all that were set
+
+    /// Texts of HKEY_CURRENT_USER: key, "\" and value name to text.
     std::map<std::string, std::string, Name_Less> registry;
+    /// All other values, with the root's name and "\" before; and keys that are there without any.
+    std::map<std::string, platform::Registry_Value, Name_Less> other_values;
+    std::set<std::string, Name_Less> registry_keys{"HKCU\\Control Panel\\Desktop"};
     bool registry_refuses_writes = false;
     int registry_writes = 0; ///< calls of Write_User_Value, failed ones too
 

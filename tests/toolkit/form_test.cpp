@@ -16,7 +16,7 @@ namespace {
 /// Two labels that overlap between x = 50 and 100, and native controls.
 struct Test_Form : Form {
     Test_Form()
-        : Form(platform::Form_Kind::Dialog, "Test"), Low(*this, "Low"), High(*this, "High"),
+        : Form(platform::Form_Kind::Painted, "Test"), Low(*this, "Low"), High(*this, "High"),
           Ok_Btn(*this, "Ok_Btn", "OK"), Text_Txt(*this, "Text_Txt") {
         Low.Move({0, 0, 100, 100});
         High.Move({50, 0, 100, 100});

@@ -1,0 +1,62 @@
+// What a theme pack gives the calendar: the wallpaper of the month, the box style and the position.
+#include "calendar/main_frm.h"
+#include "core/convert.h"
+#include "core/settings.h"
+#include "desktop/wallpaper.h"
+#include "themes/theme_pack.h"
+
+#include <string>
+
+namespace {
+
+/// A part of a month's value text as a number. Throws Conversion_Error that says where it stands.
+std::int16_t Theme_Number(const std::string &text, const char *what, const std::string &pack,
+                          std::int16_t month) {
+    try {
+        return To_Int16(text);
+    } catch (const Conversion_Error &expected) {
+        throw Conversion_Error("In " + Pack_File(pack, "settings.ini") + " the " + what + " of month " +
+                               std::to_string(month) + " is \"" + text.substr(0, 60) + "\", but must be " +
+                               expected.what() + ".");
+    }
+}
+
+} // namespace
+
+std::string Main_Frm::Get_Paper_Details(std::int16_t month, const std::string &pack) {
+    return ::Get_Paper_Details(month, pack, [] { Set_Word_Wallpaper("", ""); });
+}
+
+void Main_Frm::Get_Wallpaper_Stuff(const std::string &pack) {
+    if (Cur_Settings.Use_Themes != 0)
+        Preview_Wallpaper_Stuff(pack, Today().month);
+}
+
+void Main_Frm::Preview_Wallpaper_Stuff(const std::string &pack, std::int16_t month) {
+    const std::string details = Get_Paper_Details(month, pack);
+    if (details == Theme_Error)
+        return;
+    if (Cur_Settings.Use_Theme_Style == 1)
+        Theme_BoxStyle = Theme_Number(Get_Paper_BoxStyle(details), "box style", pack, month);
+    if (Cur_Settings.Use_Theme_Pos == 1)
+        Theme_Pos = Theme_Number(Get_Paper_Pos(details), "position", pack, month);
+    const std::string path = Get_Paper_Path(month, pack);
+    if (path == Theme_Error)
+        return;
+    Set_Display_Mode_Wallpaper(
+        path, Cur_Settings.Use_Other_Display_Mode
+                  ? Cur_Settings.Other_Display_Mode
+                  : Theme_Number(Get_Paper_DisplayMode(details), "display mode", pack, month));
+}
+
+// As long as no pack has told its own, the user's choice is the nearest.
+
+std::int16_t Main_Frm::Effective_Style() const {
+    const bool by_theme = Cur_Settings.Use_Themes == 1 && Cur_Settings.Use_Theme_Style == 1;
+    return by_theme ? Theme_BoxStyle.value_or(Cur_Settings.Style) : Cur_Settings.Style;
+}
+
+std::int16_t Main_Frm::Effective_Position() const {
+    const bool by_theme = Cur_Settings.Use_Themes == 1 && Cur_Settings.Use_Theme_Pos == 1;
+    return by_theme ? Theme_Pos.value_or(Cur_Settings.Alignment) : Cur_Settings.Alignment;
+}

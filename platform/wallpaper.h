@@ -1,0 +1,12 @@
+// The picture behind the desktop.
+#pragma once
+
+#include <string>
+
+namespace platform {
+
+/// Makes the Windows bitmap at `path` the wallpaper, for now and for the user's next sessions; empty: none.
+/// Returns at once; of several calls that follow each other quickly the last one counts. Failures are silent.
+void Set_Wallpaper(const std::string &path);
+
+} // namespace platform

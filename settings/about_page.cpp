@@ -1,0 +1,85 @@
+// The page "About": its drawing, its link, and where its controls are.
+#include "settings/about_page.h"
+
+#include "platform/shell.h"
+
+using namespace layout;
+using platform::Rect;
+using platform::Rgb;
+
+namespace {
+
+/// The author's page, as long as it has no address of its own: a name that is reserved for examples.
+constexpr const char *web_page = "https://vellatro.example/";
+
+/// Readable on light and on dark backgrounds, which the system's own colour of links is not everywhere.
+constexpr platform::Colour link_colour = platform::Rgb(0x00, 0x66, 0xCC);
+constexpr platform::Font name_font{200, true};
+
+} // namespace
+
+About_Page::About_Page(Form &dialog, Frame &frame)
+    : Logo_Pic(dialog, "Logo_Pic"), Name_Lbl(dialog, "Name_Lbl", "Vellatro"),
+      Version_Lbl(dialog, "Version_Lbl", "v0.3b"),
+      Designed_Lbl(dialog, "Designed_Lbl", "Designed for Win 98 and 2k."), Link_Lbl(dialog, "Link_Lbl") {
+    Put_Into(frame, {&Logo_Pic, &Name_Lbl, &Version_Lbl, &Designed_Lbl, &Link_Lbl});
+    Logo_Pic.Set_Transparent(true);
+    Logo_Pic.On_Paint = [this](platform::Canvas &canvas) { Paint_Logo(canvas); };
+    Name_Lbl.Set_Font(name_font);
+    for (Label *label : {&Name_Lbl, &Version_Lbl, &Designed_Lbl})
+        label->Set_Align(platform::Text_Align::Centre, false);
+    Link_Lbl.Set_Caption(web_page);
+    Link_Lbl.Set_Fore_Colour(link_colour);
+    Link_Lbl.Set_Transparent(true);
+    Link_Lbl.Set_Align(platform::Text_Align::Centre, false);
+    Link_Lbl.Set_Tab_Stop();
+    platform::Access_State access;
+    access.role = platform::Access_Role::Button;
+    access.name = web_page;
+    access.default_action = "Open";
+    Link_Lbl.Set_Access(std::move(access));
+    Link_Lbl.On_Paint = [this](platform::Canvas &canvas) {
+        const int line = platform::Line_Height(Link_Lbl.Font());
+        platform::Fill_Rect(canvas, {0, line - 15, Link_Lbl.Width(), 15}, link_colour);
+    };
+    Link_Lbl.On_Click = [] { gotoweb(); };
+    Link_Lbl.On_Default_Action = [] { gotoweb(); };
+    Lay_Out();
+}
+
+void About_Page::gotoweb() {
+    platform::Open_Web_Page(web_page);
+}
+
+/// A sheet of a month: a heading over rows of days, of which one is marked.
+void About_Page::Paint_Logo(platform::Canvas &canvas) const {
+    constexpr int columns = 5;
+    constexpr int rows = 4;
+    constexpr int marked = 11;
+    const int cell = Logo_Pic.Width() / (columns + 1);
+    const Rect sheet{0, 0, Logo_Pic.Width(), Logo_Pic.Height()};
+    platform::Fill_Rect(canvas, sheet, Rgb(255, 255, 255));
+    platform::Fill_Rect(canvas, {0, 0, sheet.width, cell + cell / 4}, Rgb(0x1F, 0x08, 0x80));
+    const int top = sheet.height - rows * cell - cell / 2;
+    for (int i = 0; i < columns * rows; ++i)
+        platform::Fill_Rect(
+            canvas, {cell / 2 + i % columns * cell + 15, top + i / columns * cell + 15, cell - 30, cell - 30},
+            i == marked ? Rgb(0xFF, 0x60, 0x60) : Rgb(0xC8, 0xCC, 0xDC));
+    platform::Frame_Rect(canvas, sheet, Rgb(0x80, 0x80, 0x90), 15);
+}
+
+void About_Page::Lay_Out() {
+    constexpr int logo_width = 78 * 15;
+    int top = 40 * 15;
+    const auto centred = [&top](Control &control, int width, int height, int distance) {
+        control.Move({(page_width - width) / 2, top, width, height});
+        top += height + distance;
+    };
+    centred(Logo_Pic, logo_width, logo_width, 2 * margin);
+    const int line = platform::Line_Height(Version_Lbl.Font());
+    centred(Name_Lbl, page_width, platform::Line_Height(name_font), gap);
+    centred(Version_Lbl, page_width, line, 2 * margin);
+    centred(Designed_Lbl, page_width, line, margin);
+    // No wider than its text: beside it nothing is clicked.
+    centred(Link_Lbl, platform::Text_Width(web_page, Link_Lbl.Font()), line + small_gap, 0);
+}

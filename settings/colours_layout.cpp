@@ -1,0 +1,130 @@
+// Where the controls of the page "Colours" are.
+#include "calendar/box_layout.h"
+#include "settings/colours_page.h"
+#include "settings/palette.h"
+#include "toolkit/units.h"
+
+#include <algorithm>
+
+using namespace layout;
+using platform::Rect;
+
+namespace {
+
+constexpr int left_width = 2400; ///< of the column with the swatches
+constexpr int swatch_row = 19 * 15;
+constexpr int swatch_height = 17 * 15;
+constexpr int swatch_width = 36 * 15;
+constexpr int group_gap = 5 * 15; ///< between group boxes, which have room at their tops
+constexpr int group_bottom = 7 * 15;
+constexpr int button_height = 23 * 15;
+constexpr int value_label_width = 45 * 15;
+constexpr int gradient_width = 16 * 15;
+constexpr int value_rows = 3;
+
+/// A rectangle of the calendar's layout with its left top corner elsewhere.
+Rect Moved(Rect pixels, const Rect &from, int left, int top) {
+    pixels.left += Twips_To_Pixels(left) - from.left;
+    pixels.top += Twips_To_Pixels(top) - from.top;
+    return Pixels_To_Twips(pixels);
+}
+
+} // namespace
+
+void Colours_Page::Lay_Out() {
+    Lay_Out_Left();
+    Lay_Out_Palette();
+    Lay_Out_Preview();
+}
+
+void Colours_Page::Lay_Out_Swatches(int first, int last, int top) {
+    constexpr int label_left = margin + swatch_width + gap;
+    for (int i = first; i <= last; ++i) {
+        const Swatch &swatch = swatches_[static_cast<std::size_t>(i)];
+        swatch.picture->Move({margin, top, swatch_width, swatch_height});
+        swatch.label->Move({label_left, top, left_width - label_left - small_gap, swatch_height});
+        top += swatch_row;
+    }
+}
+
+void Colours_Page::Lay_Out_Left() {
+    constexpr int boxes_height = group_top + 4 * swatch_row + group_bottom;
+    Boxes_Fra.Move({0, 0, left_width, boxes_height});
+    Lay_Out_Swatches(0, 3, group_top);
+
+    constexpr int options_height = 2 * check_height + small_gap;
+    constexpr int menu_height = group_top + options_height + 2 * swatch_row + group_bottom;
+    Menu_Fra.Move({0, boxes_height + group_gap, left_width, menu_height});
+    constexpr int option_width = left_width - margin - small_gap;
+    Col_Sys_Opt.Move({margin, group_top, option_width, check_height});
+    Col_Other_Opt.Move({margin, group_top + check_height, option_width, check_height});
+    Lay_Out_Swatches(4, 5, group_top + options_height);
+    Default_Cols_Btn.Move({0, Menu_Fra.Bounds().Bottom() + gap, left_width, button_height});
+}
+
+void Colours_Page::Lay_Out_Palette() {
+    const int left = left_width + gap;
+    const int width = page_width - left;
+    const int height = Default_Cols_Btn.Bounds().Bottom();
+    Palette_Fra.Move({left, 0, width, height});
+
+    // From the bottom up; the palette has what is left.
+    const int line = platform::Line_Height(Names_Lbl.Font());
+    const int value_left = margin + value_label_width;
+    const int value_width = width - value_left - margin;
+    int top = height - margin - row_height;
+    const auto row = [&](Label &label, Control &value) {
+        label.Move({margin, top + (row_height - line) / 2, value_label_width - small_gap, line});
+        value.Move({value_left, top, value_width, row_height});
+        top -= row_height + small_gap;
+    };
+    row(Names_Lbl, Names_Cbo);
+    for (int i = value_rows - 1; i >= 0; --i)
+        row(txCol_Lbl[i], txCol[i]);
+    const int bottom = top + row_height;
+    const int pal_height = Snap(bottom - group_top - small_gap);
+    const int pal_width = Snap(width - 2 * margin - gradient_width - small_gap);
+    Pal.Move({margin, group_top, pal_width, pal_height});
+    Gradient_Pic.Move({width - margin - gradient_width, group_top, gradient_width, pal_height});
+
+    const platform::Size size{Twips_To_Pixels(pal_width), Twips_To_Pixels(pal_height)};
+    if (palette_.width == size.width && palette_.height == size.height)
+        return;
+    palette_ = Palette_Picture(size);
+    Move_Cross({size.width / 2, size.height / 2});
+}
+
+void Colours_Page::Lay_Out_Preview() {
+    const int top = Default_Cols_Btn.Bounds().Bottom() + group_gap;
+    const Box_Layout thin(0);
+    const Box_Layout square(1);
+    const int height = Pixels_To_Twips(square.Box(0).height);
+    Preview_Fra.Move({0, top, page_width, group_top + height + 2 * backdrop + group_bottom});
+
+    // Title, today's box and a thin one stand as in the calendar, and the square one at the right edge.
+    const Rect origin = thin.Previous();
+    const int first_left = margin + backdrop;
+    const int first_top = group_top + backdrop;
+    Preview_Prev_Lbl.Move(Moved(origin, origin, first_left, first_top));
+    Rect month = thin.Month();
+    month.width = thin.Box(1).Right() - month.left;
+    Preview_Month_Lbl.Move(Moved(month, origin, first_left, first_top));
+    const int boxes_top = first_top + Pixels_To_Twips(origin.Bottom() + thin.Gap());
+    const int second_left = first_left + Pixels_To_Twips(thin.Box(1).left);
+    const int third_left = margin + inner_width - backdrop - Pixels_To_Twips(square.Box(0).width);
+    Preview_Back_Pic.Move({margin, group_top, inner_width, height + 2 * backdrop});
+    const auto place = [](const Box_Layout &style, Label &number, Label &text, int left, int box_top) {
+        number.Move(Moved(style.Box(0), style.Box(0), left, box_top));
+        text.Move(Moved(style.Text(0), style.Box(0), left, box_top));
+        Dress_Number(number);
+        Dress_Text(text);
+        text.Set_Transparent(false);
+    };
+    place(thin, Preview_Today_Lbl, Preview_Caption_Today_Lbl, first_left, boxes_top);
+    place(thin, Preview_Style0_Lbl, Preview_Caption0_Lbl, second_left, boxes_top);
+    place(square, Preview_Style1_Lbl, Preview_Caption1_Lbl, third_left, first_top);
+    for (Label *heading : {&Preview_Prev_Lbl, &Preview_Month_Lbl}) {
+        Dress_Heading(*heading, Box_Layout::title_font);
+        heading->Set_Transparent(false);
+    }
+}

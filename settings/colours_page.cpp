@@ -1,0 +1,386 @@
+// The page "Colours": its swatches, the picking of a colour, and the preview. Where its controls are is in
+// colours_layout.cpp.
+#include "settings/colours_page.h"
+
+#include "calendar/box_layout.h"
+#include "core/settings.h"
+#include "platform/locale.h"
+#include "platform/message_loop.h"
+#include "settings/named_colours.h"
+#include "settings/palette.h"
+#include "toolkit/keys.h"
+#include "toolkit/units.h"
+
+#include <algorithm>
+#include <charconv>
+#include <string>
+#include <utility>
+#include <vector>
+
+using platform::Colour;
+using platform::Mouse_Button;
+using platform::Point;
+using platform::Rect;
+
+namespace {
+
+constexpr int first_menu_swatch = 4; ///< Back and Fore: those of the title and the headers
+constexpr int one_pixel = 15;        ///< twips at 96 dots per inch
+constexpr int big_step = 10;         ///< pixels of the cross-hair with the Shift key
+
+// System colours.
+constexpr Colour face = platform::System_Colour(15);
+constexpr Colour shadow = platform::System_Colour(16);
+constexpr Colour grey_text = platform::System_Colour(17);
+constexpr Colour text = platform::System_Colour(18);
+
+struct Rgb_Parts {
+    int red;
+    int green;
+    int blue;
+};
+
+Rgb_Parts Parts_Of(Colour colour) {
+    const int blue = colour / 65536;
+    const int green = (colour - blue * 65536) / 256;
+    return {colour - blue * 65536 - green * 256, green, blue};
+}
+
+/// One part of the web-style text. Uneven on purpose: one digit is filled up with a zero, one letter is not.
+std::string Web_Part(int part) {
+    constexpr const char *digits = "0123456789ABCDEF";
+    if (part >= 16)
+        return {digits[part / 16], digits[part % 16]};
+    return part < 10 ? std::string{'0', digits[part]} : std::string{digits[part]};
+}
+
+std::string Web_Text(Colour colour) {
+    const Rgb_Parts parts = Parts_Of(colour);
+    return "#" + Web_Part(parts.red) + Web_Part(parts.green) + Web_Part(parts.blue);
+}
+
+} // namespace
+
+Colours_Page::Colours_Page(Form &dialog, Frame &frame, Main_Frm &calendar)
+    : Boxes_Fra(dialog, "Boxes_Fra", "Boxes"), Col_Today_Pic(dialog, "Col_Today_Pic"),
+      Col_Today_Lbl(dialog, "Col_Today_Lbl", "Today's box"), Col_Normal_Pic(dialog, "Col_Normal_Pic"),
+      Col_Normal_Lbl(dialog, "Col_Normal_Lbl", "Normal boxes"), Col_Num_Pic(dialog, "Col_Num_Pic"),
+      Col_Num_Lbl(dialog, "Col_Num_Lbl", "Day numbers"), Col_Text_Pic(dialog, "Col_Text_Pic"),
+      Col_Text_Lbl(dialog, "Col_Text_Lbl", "Event texts"), Menu_Fra(dialog, "Menu_Fra", "Top Menu"),
+      Col_Sys_Opt(dialog, "Col_Sys_Opt", "Use System Colours"),
+      Col_Other_Opt(dialog, "Col_Other_Opt", "Use &Other Colours"), Col_Back_Pic(dialog, "Col_Back_Pic"),
+      Col_Back_Lbl(dialog, "Col_Back_Lbl", "Background"), Col_Fore_Pic(dialog, "Col_Fore_Pic"),
+      Col_Fore_Lbl(dialog, "Col_Fore_Lbl", "Text"),
+      Default_Cols_Btn(dialog, "Default_Cols_Btn", "&Default Colours"),
+      Palette_Fra(dialog, "Palette_Fra", "Palette"), Pal(dialog, "Pal"), Gradient_Pic(dialog, "Gradient_Pic"),
+      txCol_Lbl(dialog, "txCol_Lbl"), txCol(dialog, "txCol"), Names_Lbl(dialog, "Names_Lbl", "&Name:"),
+      Names_Cbo(dialog, "Names_Cbo"), Preview_Fra(dialog, "Preview_Fra", "Preview"),
+      Preview_Back_Pic(dialog, "Preview_Back_Pic"), Preview_Prev_Lbl(dialog, "Preview_Prev_Lbl"),
+      Preview_Month_Lbl(dialog, "Preview_Month_Lbl"), Preview_Today_Lbl(dialog, "Preview_Today_Lbl"),
+      Preview_Caption_Today_Lbl(dialog, "Preview_Caption_Today_Lbl"),
+      Preview_Style0_Lbl(dialog, "Preview_Style0_Lbl"), Preview_Caption0_Lbl(dialog, "Preview_Caption0_Lbl"),
+      Preview_Style1_Lbl(dialog, "Preview_Style1_Lbl"), Preview_Caption1_Lbl(dialog, "Preview_Caption1_Lbl"),
+      calendar_(calendar), swatches_{{{&Col_Today_Lbl, &Col_Today_Pic, &Settings::Col_Today},
+                                      {&Col_Normal_Lbl, &Col_Normal_Pic, &Settings::Col_Normal},
+                                      {&Col_Num_Lbl, &Col_Num_Pic, &Settings::Col_Num},
+                                      {&Col_Text_Lbl, &Col_Text_Pic, &Settings::Col_Text},
+                                      {&Col_Back_Lbl, &Col_Back_Pic, &Settings::Col_Back},
+                                      {&Col_Fore_Lbl, &Col_Fore_Pic, &Settings::Col_Fore}}} {
+    Put_Into_Frames(frame);
+    for (int i = 0; i < colour_count; ++i)
+        Wire_Swatch(i);
+    Col_Sys_Opt.On_Click = [this] { Col_Sys_Opt_Click(); };
+    Col_Other_Opt.On_Click = [this] { Col_Other_Opt_Click(); };
+    Default_Cols_Btn.On_Click = [this] { Default_Cols_Btn_Click(); };
+    Wire_Palette();
+    std::vector<std::string> names;
+    for (const Named_Colour &named : Named_Colours())
+        names.emplace_back(named.name);
+    Names_Cbo.Set_Items(std::move(names));
+    Names_Cbo.On_Click = [this] { Names_Cbo_Click(); };
+    constexpr std::array shown_as{"Value:", "Web:", "RGB:"};
+    for (int i = 0; i < static_cast<int>(shown_as.size()); ++i) {
+        txCol_Lbl[i].Set_Caption(shown_as[static_cast<std::size_t>(i)]);
+        txCol[i].Set_Display_Only();
+    }
+    Dress_Preview();
+    Lay_Out();
+}
+
+void Colours_Page::Put_Into_Frames(const Frame &frame) {
+    Put_Into(frame, {&Boxes_Fra, &Menu_Fra, &Default_Cols_Btn, &Palette_Fra, &Preview_Fra});
+    for (int i = 0; i < colour_count; ++i) {
+        const Swatch &swatch = swatches_[static_cast<std::size_t>(i)];
+        Put_Into(i < first_menu_swatch ? Boxes_Fra : Menu_Fra, {swatch.label, swatch.picture});
+    }
+    Put_Into(Menu_Fra, {&Col_Sys_Opt, &Col_Other_Opt});
+    Put_Into(Palette_Fra, {&Pal, &Gradient_Pic, &Names_Lbl, &Names_Cbo});
+    for (int i = 0; i < 3; ++i)
+        Put_Into(Palette_Fra, {&txCol_Lbl[i], &txCol[i]});
+    Put_Into(Preview_Fra, {&Preview_Back_Pic, &Preview_Prev_Lbl, &Preview_Month_Lbl, &Preview_Today_Lbl,
+                           &Preview_Caption_Today_Lbl, &Preview_Style0_Lbl, &Preview_Caption0_Lbl,
+                           &Preview_Style1_Lbl, &Preview_Caption1_Lbl});
+}
+
+void Colours_Page::Wire_Swatch(int index) {
+    const Swatch &swatch = swatches_[static_cast<std::size_t>(index)];
+    swatch.label->Set_Painted();
+    swatch.label->Set_Transparent(true);
+    swatch.label->Set_Align(platform::Text_Align::Left, true);
+    swatch.picture->Set_Tab_Stop();
+    swatch.picture->On_Paint = [this, index](platform::Canvas &canvas) { Paint_Swatch(index, canvas); };
+    swatch.label->On_Click = [this, index] { Select(index); };
+    swatch.picture->On_Click = swatch.label->On_Click;
+    swatch.picture->On_Default_Action = swatch.label->On_Click;
+}
+
+void Colours_Page::Wire_Palette() {
+    Gradient_Pic.Set_Visible(false);
+    Pal.Set_Tab_Stop();
+    Pal.Set_Access({platform::Access_Role::Button, false, "Palette", {}, "Pick"});
+    Pal.On_Paint = [this](platform::Canvas &canvas) { Paint_Palette(canvas); };
+    Gradient_Pic.On_Paint = [this](platform::Canvas &canvas) { Paint_Gradient(canvas); };
+    Pal.On_Mouse_Move = [this](Mouse_Button held, Point at) { Pal_MouseMove(held, at); };
+    // A press can come without a move before it.
+    Pal.On_Mouse_Down = [this](Mouse_Button, Point at) {
+        Move_Cross(Pixel_At(at));
+        ShowGradient(Cross_Colour());
+    };
+    Pal.On_Mouse_Up = [this](Mouse_Button, Point at) {
+        Move_Cross(Pixel_At(at));
+        ShowColors(Cross_Colour());
+    };
+    // From the mouse, which has taken the cross-hair along, or from the keyboard.
+    Pal.On_Click = [this] {
+        ShowColors(Cross_Colour());
+        Pal_Click();
+    };
+    Pal.On_Default_Action = Pal.On_Click;
+    Pal.On_Key_Down = [this](const platform::Input_Event &event) { Key_Over_Palette(event); };
+}
+
+void Colours_Page::Load_Settings() {
+    for (int i = 0; i < colour_count; ++i)
+        Set_Swatch(i, Cur_Settings.*swatches_[static_cast<std::size_t>(i)].setting);
+    if (Cur_Settings.Menu_Col_Sorce == 0) {
+        Col_Sys_Opt.Set_Checked(true);
+        Col_Sys_Opt_Click();
+    } else {
+        Col_Other_Opt.Set_Checked(true);
+        Col_Other_Opt_Click();
+    }
+    Select(selector_);
+}
+
+void Colours_Page::Reset_Labels() {
+    for (const Swatch &swatch : swatches_) {
+        platform::Font font = swatch.label->Font();
+        font.bold = false;
+        swatch.label->Set_Font(font);
+        swatch.picture->Repaint();
+    }
+}
+
+void Colours_Page::Select(int index) {
+    Reset_Labels();
+    const Swatch &swatch = swatches_[static_cast<std::size_t>(index)];
+    platform::Font font = swatch.label->Font();
+    font.bold = true;
+    swatch.label->Set_Font(font);
+    selector_ = static_cast<std::int16_t>(index);
+    ShowColors(swatch.picture->Back_Colour());
+}
+
+void Colours_Page::Set_Swatch(int index, Colour colour) {
+    const Swatch &swatch = swatches_[static_cast<std::size_t>(index)];
+    swatch.picture->Set_Back_Colour(colour);
+    swatch.picture->Set_Access({platform::Access_Role::Button, false, swatch.label->Caption(),
+                                Web_Text(platform::Resolve_Colour(colour)), "Select"});
+}
+
+void Colours_Page::ShowColors(Colour colour) {
+    Gradient_Pic.Set_Visible(false);
+    colour = platform::Resolve_Colour(colour);
+    const Rgb_Parts parts = Parts_Of(colour);
+    txCol[0].Set_Text(std::to_string(colour));
+    txCol[1].Set_Text(Web_Text(colour));
+    txCol[2].Set_Text(std::to_string(parts.red) + "," + std::to_string(parts.green) + "," +
+                      std::to_string(parts.blue));
+    // A colour with two names keeps the one that was chosen.
+    const auto names = Named_Colours();
+    const int chosen = Names_Cbo.Selected();
+    if (chosen == -1 || names[static_cast<std::size_t>(chosen)].Colour() != colour)
+        Names_Cbo.Select(Index_Of_Colour(colour));
+}
+
+void Colours_Page::ShowGradient(Colour colour) {
+    ShowColors(colour);
+    gradient_ = colour;
+    Gradient_Pic.Set_Visible(true);
+    Gradient_Pic.Repaint();
+}
+
+Point Colours_Page::Pixel_At(Point at) {
+    return {Twips_To_Pixels(at.x), Twips_To_Pixels(at.y)};
+}
+
+Colour Colours_Page::Cross_Colour() const {
+    return Palette_Colour(cross_, {palette_.width, palette_.height});
+}
+
+void Colours_Page::Move_Cross(Point pixel) {
+    cross_ = {std::clamp(pixel.x, 0, palette_.width - 1), std::clamp(pixel.y, 0, palette_.height - 1)};
+    Pal.Repaint();
+}
+
+void Colours_Page::Pal_MouseMove(Mouse_Button held, Point at) {
+    if (held == Mouse_Button::None) {
+        ShowColors(Palette_Colour(Pixel_At(at), {palette_.width, palette_.height}));
+    } else {
+        Move_Cross(Pixel_At(at));
+        ShowGradient(Cross_Colour());
+    }
+    // Not again for the moves that come up then: while the mouse moves fast there would be no end. What is
+    // done may end the page, too, so nothing of it is used afterwards.
+    const std::shared_ptr<bool> pending = pending_;
+    if (std::exchange(*pending, true))
+        return;
+    platform::Process_Waiting_Messages();
+    *pending = false;
+}
+
+void Colours_Page::Key_Over_Palette(const platform::Input_Event &event) {
+    const int step = event.shift ? big_step : 1;
+    Point to = cross_;
+    switch (event.key) {
+    case Key_Left:
+        to.x -= step;
+        break;
+    case Key_Right:
+        to.x += step;
+        break;
+    case Key_Up:
+        to.y -= step;
+        break;
+    case Key_Down:
+        to.y += step;
+        break;
+    case Key_Return:
+        return Pal.On_Click();
+    default:
+        return;
+    }
+    Move_Cross(to);
+    ShowColors(Cross_Colour());
+}
+
+void Colours_Page::Pal_Click() {
+    const std::string &shown = txCol[0].Text();
+    Colour colour = 0;
+    if (std::from_chars(shown.data(), shown.data() + shown.size(), colour).ec != std::errc{})
+        return; // nothing has been shown yet
+    Set_Swatch(selector_, colour);
+    Recolour_Preview();
+}
+
+/// A name gives its colour to the selected swatch, as a click on the palette does.
+void Colours_Page::Names_Cbo_Click() {
+    ShowColors(Named_Colours()[static_cast<std::size_t>(Names_Cbo.Selected())].Colour());
+    Pal_Click();
+}
+
+void Colours_Page::Col_Sys_Opt_Click() {
+    Enable_Menu_Swatches(false);
+}
+
+void Colours_Page::Col_Other_Opt_Click() {
+    Enable_Menu_Swatches(true);
+}
+
+void Colours_Page::Enable_Menu_Swatches(bool enabled) {
+    for (std::size_t i = first_menu_swatch; i < swatches_.size(); ++i) {
+        swatches_[i].label->Set_Enabled(enabled);
+        swatches_[i].label->Set_Fore_Colour(enabled ? text : grey_text);
+        swatches_[i].picture->Set_Enabled(enabled);
+        swatches_[i].picture->Repaint();
+    }
+    // The palette writes to no swatch that cannot be selected.
+    if (!enabled && selector_ >= first_menu_swatch)
+        Select(0);
+    Recolour_Preview();
+}
+
+void Colours_Page::Default_Cols_Btn_Click() {
+    const Settings first_run;
+    for (int i = 0; i < colour_count; ++i)
+        Set_Swatch(i, first_run.*swatches_[static_cast<std::size_t>(i)].setting);
+    Recolour_Preview();
+}
+
+void Colours_Page::Dress_Preview() {
+    for (Label *label :
+         {&Preview_Prev_Lbl, &Preview_Month_Lbl, &Preview_Today_Lbl, &Preview_Caption_Today_Lbl,
+          &Preview_Style0_Lbl, &Preview_Caption0_Lbl, &Preview_Style1_Lbl, &Preview_Caption1_Lbl})
+        label->Set_Painted();
+    Preview_Back_Pic.Set_Back_Colour(desktop_colour);
+    Preview_Prev_Lbl.Set_Glyph(platform::Glyph::Arrow_Left);
+    const Date today = Today();
+    Preview_Month_Lbl.Set_Caption(platform::Month_Name(today.month));
+    Preview_Today_Lbl.Set_Caption(" " + std::to_string(today.day));
+    Preview_Style0_Lbl.Set_Caption(" 12");
+    Preview_Style1_Lbl.Set_Caption(" 26");
+    for (Label *caption : {&Preview_Caption_Today_Lbl, &Preview_Caption0_Lbl, &Preview_Caption1_Lbl})
+        caption->Set_Caption("Event");
+}
+
+void Colours_Page::Recolour_Preview() {
+    const Colour num = Col_Num_Pic.Back_Colour();
+    const Colour normal = Col_Normal_Pic.Back_Colour();
+    const Colour today = Col_Today_Pic.Back_Colour();
+    Dress_Today(Preview_Today_Lbl, today);
+    Preview_Style0_Lbl.Set_Back_Colour(normal);
+    Preview_Style1_Lbl.Set_Back_Colour(normal);
+    for (Label *box : {&Preview_Today_Lbl, &Preview_Style0_Lbl, &Preview_Style1_Lbl})
+        box->Set_Fore_Colour(num);
+    // The texts lie over their boxes as windows of their own, which nothing shines through.
+    Preview_Caption_Today_Lbl.Set_Back_Colour(today);
+    Preview_Caption0_Lbl.Set_Back_Colour(normal);
+    Preview_Caption1_Lbl.Set_Back_Colour(normal);
+    for (Label *caption : {&Preview_Caption_Today_Lbl, &Preview_Caption0_Lbl, &Preview_Caption1_Lbl})
+        caption->Set_Fore_Colour(Col_Text_Pic.Back_Colour());
+    const bool own = Col_Other_Opt.Checked();
+    for (Label *heading : {&Preview_Prev_Lbl, &Preview_Month_Lbl}) {
+        heading->Set_Back_Colour(own ? Col_Back_Pic.Back_Colour() : dark_grey);
+        heading->Set_Fore_Colour(own ? Col_Fore_Pic.Back_Colour() : calendar_.Icon_TextColour);
+    }
+}
+
+void Colours_Page::Paint_Swatch(int index, platform::Canvas &canvas) {
+    const Picture_Box &picture = *swatches_[static_cast<std::size_t>(index)].picture;
+    const Rect all{0, 0, picture.Width(), picture.Height()};
+    // Half of a colour that is not in use is covered.
+    if (!picture.Enabled())
+        platform::Fill_Polygon(canvas, {{all.width, 0}, {all.width, all.height}, {0, all.height}}, face);
+    const bool selected = index == selector_;
+    platform::Frame_Rect(canvas, all, selected ? text : shadow, selected ? 2 * one_pixel : one_pixel);
+}
+
+void Colours_Page::Paint_Palette(platform::Canvas &canvas) {
+    platform::Draw_Picture(canvas, palette_, {0, 0, Pal.Width(), Pal.Height()});
+    // The cross-hair: a dark frame around a light one, which leaves the pixel itself to be seen.
+    int reach = 4;
+    for (const Colour colour : {platform::Rgb(0, 0, 0), platform::Rgb(255, 255, 255)}) {
+        const Rect frame{cross_.x - reach, cross_.y - reach, 2 * reach + 1, 2 * reach + 1};
+        platform::Frame_Rect(canvas, Pixels_To_Twips(frame), colour, one_pixel);
+        --reach;
+    }
+}
+
+void Colours_Page::Paint_Gradient(platform::Canvas &canvas) {
+    // From white above, as the palette is.
+    const int last = std::max(Twips_To_Pixels(Gradient_Pic.Height()) - 1, 1);
+    const int width = Twips_To_Pixels(Gradient_Pic.Width());
+    for (int y = 0; y <= last; ++y)
+        platform::Fill_Rect(canvas, Pixels_To_Twips(Rect{0, y, width, 1}),
+                            Gradient_Colour(gradient_, last - y, last));
+}

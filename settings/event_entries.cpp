@@ -1,0 +1,64 @@
+// Taking records apart, and the walk over the data file.
+#include "settings/event_entries.h"
+
+#include "core/convert.h"
+#include "core/event_store.h"
+#include "core/sequential.h"
+#include "platform/files.h"
+
+#include <algorithm>
+#include <exception>
+#include <string>
+
+namespace {
+
+constexpr std::int16_t leap_year = 2000;
+constexpr std::string_view yearly_year = "/yyyy";
+
+} // namespace
+
+bool Read_Entry(std::string_view record, Event_Entry &entry) {
+    Event_Record parts;
+    if (!Part_Record(record, parts))
+        return false;
+    entry.key = parts.key;
+    entry.text = parts.text;
+    try {
+        entry.date = parts.key.ends_with(yearly_year) ? Parse_Date_Key(Every_Year_Key(std::string(parts.key)))
+                                                      : Parse_Date_Key(parts.key);
+    } catch (const Conversion_Error &) {
+        return false;
+    }
+    entry.yearly = entry.date.year == every_year;
+    const Date &date = entry.date;
+    if (date.year < first_year || date.month < 1 || date.month > 12 || date.day < 1)
+        return false;
+    return date.day <= DaysInMonth({entry.yearly ? leap_year : date.year, date.month, 1});
+}
+
+Reading Read_Entries(const std::function<void(const Event_Entry &)> &take) {
+    const std::string path = Event_Store::Data_File();
+    if (!platform::File_Exists(path))
+        return Reading::No_File;
+    try {
+        const std::string bytes = platform::Read_File(path);
+        Sequential_Reader reader(bytes);
+        Event_Entry entry;
+        for (std::string_view item; reader.Next(item);)
+            if (Read_Entry(item, entry))
+                take(entry);
+    } catch (const platform::File_Error &) {
+        return Reading::Incomplete;
+    } catch (const Sequential_Error &) {
+        return Reading::Incomplete;
+    }
+    return Reading::Complete;
+}
+
+Date Day_In_Year(const Event_Entry &entry, std::int16_t year) {
+    if (!entry.yearly)
+        return entry.date;
+    const Date first{year, entry.date.month, 1};
+    const auto last = static_cast<std::int16_t>(DaysInMonth(first));
+    return {year, entry.date.month, std::min(entry.date.day, last)};
+}

@@ -1,0 +1,33 @@
+// The data file read one event at a time for the Events page: silently, and past malformed records. The
+// calendar's own reading, which tells of failures, is in core/event_store.h.
+#pragma once
+
+#include "core/date.h"
+
+#include <functional>
+#include <string_view>
+
+/// One event of the data file. The views last for the call that gets it.
+struct Event_Entry {
+    std::string_view key; ///< as it is written in the file
+    std::string_view text;
+    Date date; ///< of a yearly event the year is `every_year`
+    bool yearly = false;
+};
+
+/// Takes a record apart; false for a malformed one: without "=" or with a key that is no day of the years
+/// that the calendar shows. The year of a yearly event is "9999" or "yyyy"; it can be on 29 February.
+bool Read_Entry(std::string_view record, Event_Entry &entry);
+
+enum class Reading {
+    No_File,
+    Incomplete, ///< the file, or the rest of it, cannot be read
+    Complete
+};
+
+/// Calls `take` for each event of the data file in file order. Shows no message.
+Reading Read_Entries(const std::function<void(const Event_Entry &)> &take);
+
+/// The day of an event's date, of a yearly one in `year`. In a year without a 29 February its events are on
+/// the 28th: the event stays in its month, where it is counted too.
+Date Day_In_Year(const Event_Entry &entry, std::int16_t year);

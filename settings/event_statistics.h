@@ -1,0 +1,31 @@
+// The counts of events on the Events page, and the lines that show them. Their labels are in events_page.h.
+#pragma once
+
+#include "core/date.h"
+#include "settings/event_entries.h"
+
+#include <array>
+#include <cstdint>
+#include <string>
+
+/// How many events there are. A counter that is full stays at its greatest value.
+struct Event_Statistics {
+    std::int16_t total = 0; ///< this and the next three count no yearly events
+    std::int16_t this_year = 0;
+    std::int16_t future = 0; ///< later than today
+    std::int16_t past = 0;
+    std::array<std::int16_t, 12> months{}; ///< of this year, with all yearly events
+    friend bool operator==(const Event_Statistics &, const Event_Statistics &) = default;
+};
+
+/// Counts one event in.
+void Workout_Stats(Event_Statistics &statistics, const Event_Entry &entry, const Date &today);
+
+// The lines of the counters. "Before" and "After" are meant as seen from the events: today is before the
+// future ones.
+std::string Total_Line(const Event_Statistics &statistics);
+std::string Year_Line(const Event_Statistics &statistics);
+std::string Before_Line(const Event_Statistics &statistics);
+std::string After_Line(const Event_Statistics &statistics);
+/// For month index 0 to 11.
+std::string Month_Line(const Event_Statistics &statistics, int month);

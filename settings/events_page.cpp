@@ -1,0 +1,177 @@
+// What the Events page does. Where its controls are is in events_page_layout.cpp.
+#include "settings/events_page.h"
+
+#include "platform/message_box.h"
+#include "toolkit/keys.h"
+
+#include <algorithm>
+#include <string>
+#include <utility>
+
+namespace {
+
+constexpr const char *overview_title = "Events";
+constexpr const char *statistics_title = "Events";
+
+/// A list or counts that are not whole must not look so. There is no message box for it: every choice on the
+/// page reads the file, and each would bring another one.
+void Title_Frame(Frame &frame, const char *title, Reading reading) {
+    frame.Set_Caption(reading == Reading::Incomplete ? "Error loading in data file." : title);
+}
+
+} // namespace
+
+Events_Page::Events_Page(Form &dialog, const Frame &frame, Main_Frm &calendar)
+    : Overview_Opt(dialog, "Overview_Opt", "Events &Overview"),
+      Stats_Opt(dialog, "Stats_Opt", "General &Statstics"),
+      Overview_Fra(dialog, "Overview_Fra", overview_title), Sort_Lbl(dialog, "Sort_Lbl", "Sort &by:"),
+      Sort_Cbo(dialog, "Sort_Cbo"),
+      Events_Lst_Lbl(dialog, "Events_Lst_Lbl", "&Events (double-click or Delete removes one):"),
+      Events_Lst(dialog, "Events_Lst"), Countdown_Name_Lbl(dialog, "Countdown_Name_Lbl", "Countdown:"),
+      Countdown_Lbl(dialog, "Countdown_Lbl"), Events_Fra(dialog, "Events_Fra", statistics_title),
+      Total_All_Lbl(dialog, "Total_All_Lbl"), Total_Year_Lbl(dialog, "Total_Year_Lbl"),
+      Before_Lbl(dialog, "Before_Lbl"), After_Lbl(dialog, "After_Lbl"),
+      Yearview_Fra(dialog, "Yearview_Fra", "This Year"), Month_Count_Lbl(dialog, "Month_Count_Lbl"),
+      calendar_(calendar) {
+    Put_Into(frame, {&Overview_Opt, &Stats_Opt, &Overview_Fra, &Events_Fra, &Yearview_Fra});
+    Put_Into(Overview_Fra,
+             {&Sort_Lbl, &Sort_Cbo, &Events_Lst_Lbl, &Events_Lst, &Countdown_Name_Lbl, &Countdown_Lbl});
+    Put_Into(Events_Fra, {&Total_All_Lbl, &Total_Year_Lbl, &Before_Lbl, &After_Lbl});
+    for (Label &label : Month_Count_Lbl)
+        label.Set_Container(Yearview_Fra);
+    Sort_Cbo.Set_Items({"Ascending Date", "Descending Date", "Date Added"});
+    Sort_Cbo.Select(0);
+    Write_Labels();
+    Overview_Opt.Set_Checked(true);
+    Show_View(true);
+    Wire_Events();
+    Lay_Out();
+}
+
+void Events_Page::Wire_Events() {
+    Overview_Opt.On_Click = [this] { Overview_Opt_Click(); };
+    Stats_Opt.On_Click = [this] { Stats_Opt_Click(); };
+    Sort_Cbo.On_Click = [this] { Sort_Cbo_Click(); };
+    Events_Lst.On_Click = [this] { Events_Lst_Click(); };
+    Events_Lst.On_Double_Click = [this] { Events_Lst_DblClick(); };
+    Events_Lst.On_Key_Down = [this](const platform::Input_Event &event) { Events_Lst_KeyDown(event); };
+}
+
+void Events_Page::Write_Month_Titles() {
+    for (int i = 0; i < 12; ++i)
+        Month_Count_Lbl[i].Set_Caption(Month_Line(statistics_, i));
+}
+
+void Events_Page::Get_Stats() {
+    Reset_Vars();
+    Title_Frame(Events_Fra, statistics_title, Load_Dates());
+}
+
+void Events_Page::Reset_Vars() {
+    statistics_ = {};
+}
+
+Reading Events_Page::Load_Dates() {
+    const Date today = Today();
+    const Reading reading =
+        Read_Entries([&](const Event_Entry &entry) { Workout_Stats(statistics_, entry, today); });
+    if (reading != Reading::No_File)
+        Write_Labels();
+    return reading;
+}
+
+void Events_Page::Write_Labels() {
+    Total_All_Lbl.Set_Caption(Total_Line(statistics_));
+    Total_Year_Lbl.Set_Caption(Year_Line(statistics_));
+    Before_Lbl.Set_Caption(Before_Line(statistics_));
+    After_Lbl.Set_Caption(After_Line(statistics_));
+    Write_Month_Titles();
+}
+
+void Events_Page::Open_Overview() {
+    Sort_Cbo.Set_Text("Ascending Date");
+    Overview_Opt.Set_Checked(true);
+    Overview_Opt_Click();
+}
+
+void Events_Page::Show_View(bool overview) {
+    Overview_Fra.Set_Visible(overview);
+    Yearview_Fra.Set_Visible(!overview);
+    Events_Fra.Set_Visible(!overview);
+}
+
+void Events_Page::Overview_Opt_Click() {
+    Show_View(true);
+    List_Events();
+}
+
+void Events_Page::Stats_Opt_Click() {
+    Show_View(false);
+}
+
+void Events_Page::Sort_Cbo_Click() {
+    List_Events();
+}
+
+void Events_Page::List_Events() {
+    Title_Frame(Overview_Fra, overview_title, Loadin_Data());
+    Sort_List();
+}
+
+Reading Events_Page::Loadin_Data() {
+    const auto order = static_cast<Sort_Order>(std::max(Sort_Cbo.Selected(), 0));
+    return Load_Entries(Dates_Lst, order, Today());
+}
+
+void Events_Page::Sort_List() {
+    std::vector<std::string> lines;
+    lines.reserve(Dates_Lst.size());
+    for (const Sort_Entry &entry : Dates_Lst)
+        lines.push_back(Overview_Line(entry));
+    Events_Lst.Set_Items(std::move(lines));
+    Events_Lst_Click();
+}
+
+void Events_Page::Events_Lst_Click() {
+    // The line's own record knows its date: no short form has to be read back, which may hold blanks and only
+    // two digits of the year.
+    const int index = Events_Lst.Selected();
+    Countdown_Lbl.Set_Caption(
+        index == -1 ? std::string() : Countdown_Text(Dates_Lst[static_cast<std::size_t>(index)], Today()));
+}
+
+void Events_Page::Events_Lst_KeyDown(const platform::Input_Event &event) {
+    if ((event.key == Key_Delete || event.key == Key_Return) && !event.repeated)
+        Events_Lst_DblClick();
+}
+
+void Events_Page::Events_Lst_DblClick() {
+    const int index = Events_Lst.Selected();
+    if (index == -1)
+        return;
+    const auto line = static_cast<std::size_t>(index);
+    // The key as the record has it: of a yearly event that of no single day, which would also match another
+    // event. A key of its own, too: an open editor keeps the day that it edits.
+    const std::string key = Dates_Lst[line].key;
+    const platform::Box_Answer answer =
+        platform::Message_Box("Do you really want to remove the event..\r\n\r\n" + Events_Lst.Items()[line],
+                              "Vellatro", platform::Box_Icon::Question, platform::Box_Buttons::Yes_No_Cancel);
+    if (answer != platform::Box_Answer::Yes)
+        return;
+    calendar_.Events.Load_File();
+    calendar_.Events.Check_For_Pre(key, "", false);
+    Show_Change(index);
+    // A compact calendar shows no event; it lays its month out anew when it expands.
+    if (!calendar_.Compacted)
+        calendar_.Redraw();
+}
+
+/// Shows the events after the one of line `index` was removed. They are read again, so that a removal that
+/// failed leaves its line. The line that is in its place now is the selected one, for who goes on by
+/// keyboard.
+void Events_Page::Show_Change(int index) {
+    List_Events();
+    Events_Lst.Select(std::min(index, static_cast<int>(Events_Lst.Items().size()) - 1));
+    Events_Lst_Click();
+    Get_Stats();
+}

@@ -1,0 +1,73 @@
+// The "Events" page of the settings dialog: the overview of all events, of which any can be removed, and
+// their statistics. How events are read, counted, sorted and worded is in event_entries.h, event_statistics.h
+// and event_overview.h.
+#pragma once
+
+#include "settings/event_overview.h"
+#include "settings/event_statistics.h"
+#include "settings/page.h"
+#include "toolkit/control_array.h"
+
+#include <vector>
+
+class Events_Page {
+public:
+    /// `frame` is the page's frame on `dialog`. All three must outlive the page.
+    Events_Page(Form &dialog, const Frame &frame, Main_Frm &calendar);
+    /// Places the controls, also after a change of the dots per inch.
+    void Lay_Out();
+
+    // What the opening dialog does, in this order.
+    void Write_Month_Titles();
+    /// Counts the events. Without a data file the labels stay as they are.
+    void Get_Stats();
+    /// Shows the overview by ascending dates, whatever was chosen before.
+    void Open_Overview();
+
+    void Overview_Opt_Click();
+    void Stats_Opt_Click();
+    void Sort_Cbo_Click();
+    void Events_Lst_Click();
+    /// Offers to remove the selected event.
+    void Events_Lst_DblClick();
+
+    /// The events in the order of the lines of Events_Lst.
+    std::vector<Sort_Entry> Dates_Lst;
+
+    Option_Button Overview_Opt;
+    Option_Button Stats_Opt;
+
+    Frame Overview_Fra;
+    Label Sort_Lbl; ///< names the combo box
+    Combo_Box Sort_Cbo;
+    Label Events_Lst_Lbl; ///< names the list
+    List_Box Events_Lst;
+    Label Countdown_Name_Lbl;
+    Label Countdown_Lbl;
+
+    Frame Events_Fra;
+    Label Total_All_Lbl;
+    Label Total_Year_Lbl;
+    Label Before_Lbl;
+    Label After_Lbl;
+
+    Frame Yearview_Fra;
+    Control_Array<Label, 12> Month_Count_Lbl;
+
+private:
+    void Wire_Events();
+    void Show_View(bool overview);
+    void Reset_Vars();
+    Reading Load_Dates();
+    void Write_Labels();
+    Reading Loadin_Data();
+    void Sort_List();
+    void List_Events();
+    void Events_Lst_KeyDown(const platform::Input_Event &event);
+    void Show_Change(int index);
+    void Lay_Out_Overview();
+    void Lay_Out_Statistics();
+
+    Main_Frm &calendar_;
+    Event_Statistics statistics_;
+};

@@ -1,0 +1,199 @@
+// The settings dialog from its opening to its end, its tabs and its buttons.
+#include "settings/settings_frm.h"
+
+#include "core/settings.h"
+#include "platform/screen.h"
+#include "toolkit/guard.h"
+#include "toolkit/units.h"
+
+#include <algorithm>
+#include <functional>
+#include <initializer_list>
+#include <utility>
+
+using platform::Rect;
+
+namespace {
+
+constexpr int dialog_width = 5730;
+constexpr Rect tabs{105, 75, 5520, 6195};
+constexpr int below_tabs = 420; ///< for the buttons
+constexpr int page_left = 225;
+constexpr int page_top = 765;
+constexpr int button_width = 75 * 15;
+constexpr int button_height = 22 * 15;
+constexpr int gap = 7 * 15;
+constexpr int window_frame = 8 * 15; ///< left and right of the dialog, estimated
+
+} // namespace
+
+Settings_Frm::Settings_Frm(Main_Frm &calendar)
+    : Form(platform::Form_Kind::Dialog, "Settings_Frm"), TabStrip1(*this, "TabStrip1"),
+      Settings_Fra(*this, "Settings_Fra"), Events(*this, Settings_Fra[events_fra], calendar),
+      Colours(*this, Settings_Fra[colours_fra], calendar),
+      General(*this, Settings_Fra[general_fra], calendar), Style(*this, Settings_Fra[style_fra], calendar),
+      Tooltips(*this, Settings_Fra[tooltips_fra], calendar),
+      Wallpaper(*this, Settings_Fra[wallpaper_fra], calendar, Style), About(*this, Settings_Fra[about_fra]),
+      Ok_Btn(*this, "Ok_Btn", "OK"), Cancel_Btn(*this, "Cancel_Btn", "Cancel"),
+      Apply_Btn(*this, "Apply_Btn", "&Apply"), calendar_(calendar) {
+    Set_Title("Settings");
+    TabStrip1.Set_Items({"Events", "Colours", "Settings", "Style && Position", "Tooltips", "Wallpaper",
+                         "Import\\Export", "About"});
+    TabStrip1.Move(tabs);
+    Ok_Btn.Set_Default(true);
+    Cancel_Btn.Set_Cancel(true);
+    int left = tabs.Right() - 3 * button_width - 2 * gap;
+    for (Button *button : {&Ok_Btn, &Cancel_Btn, &Apply_Btn}) {
+        button->Move({left, tabs.Bottom() + (below_tabs - button_height) / 2, button_width, button_height});
+        left += button_width + gap;
+    }
+    TabStrip1.On_Click = [this] { TabStrip1_Click(); };
+    Ok_Btn.On_Click = [this] { Ok_Btn_Click(); };
+    Cancel_Btn.On_Click = [this] { Cancel_Btn_Click(); };
+    Apply_Btn.On_Click = [this] { Apply_Btn_Click(); };
+    On_Close = [this] { Form_Unload(); };
+    On_Window_Lost = [this] { Form_Unload(); };
+    On_Dots_Changed = [this] { Lay_Out(); };
+    On_Capture_Lost = [this] { Tooltips.Release(); };
+    Model().input = [this](const platform::Input_Event &event) {
+        ++events_;
+        Input(event);
+        --events_;
+    };
+}
+
+Settings_Frm::~Settings_Frm() {
+    Form_Unload();
+}
+
+void Settings_Frm::Form_Load() {
+    // What cannot be shown of one page is told, and keeps nobody from the others.
+    const std::initializer_list<std::function<void()>> steps = {
+        [this] { Events.Write_Month_Titles(); },
+        [this] { Load_Settings(); },
+        [this] { Events.Get_Stats(); },
+        [this] {
+            Resize(dialog_width, tabs.Bottom() + below_tabs);
+            Position_Frames();
+            Select_Stored_Tab();
+        },
+        [this] { Tooltips.Select(Cur_Settings.Tooltips); },
+        [this] { Load_General_Settings(); },
+        [this] { Events.Open_Overview(); },
+        [this] {
+            Wallpaper.Other_Display_Chk.Set_Checked(Cur_Settings.Use_Other_Display_Mode);
+            Wallpaper.Display_Cbo.Select(Cur_Settings.Other_Display_Mode);
+        },
+        [this] { General.Get_Startup_Value(); },
+        [this] { Wallpaper.Get_Papers(); },
+        [this] { Wallpaper.Get_Themes(); },
+        [this] { Wallpaper.Get_Wallpaper(); },
+        [this] { Style.Preview_Position(); },
+    };
+    for (const auto &step : steps)
+        Run_Guarded(step);
+    Place_Beside_Calendar();
+    Set_Focus(TabStrip1);
+    Show();
+    open_ = true;
+    calendar_.Set_Blocked_By(this);
+}
+
+/// The pages measure their texts, which are a little wider or narrower at other dots per inch.
+void Settings_Frm::Lay_Out() {
+    Events.Lay_Out();
+    Colours.Lay_Out();
+    General.Lay_Out();
+    Style.Lay_Out();
+    Tooltips.Lay_Out();
+    About.Lay_Out();
+}
+
+void Settings_Frm::Load_Settings() {
+    Colours.Load_Settings();
+    Style.Load_Settings();
+}
+
+void Settings_Frm::Load_General_Settings() {
+    General.Alert_Chk.Set_Checked(Cur_Settings.Show_Alerts != 0);
+    General.Auto_Compact_Chk.Set_Checked(Cur_Settings.Auto_Compact != 0);
+    General.Allow_Dragging_Chk.Set_Checked(Cur_Settings.Allow_Dragging != 0);
+    General.Bar_Time_Cbo.Set_Text(Cur_Settings.Bar_Time_Format);
+    General.Bar_Date_Cbo.Set_Text(Cur_Settings.Bar_Date_Format);
+    General.Bar_Time_Chk.Set_Checked(Cur_Settings.Bar_Time);
+    General.Show_Preview();
+}
+
+void Settings_Frm::Position_Frames() {
+    for (Frame &frame : Settings_Fra)
+        frame.Move({page_left, page_top, layout::page_width, layout::page_height});
+}
+
+void Settings_Frm::Select_Stored_Tab() {
+    // A number that is no tab, which only another hand can have stored, opens the first one.
+    const int tab = Cur_Settings.Settings_Tab;
+    TabStrip1.Select(tab >= 1 && tab <= page_count ? tab - 1 : 0);
+    TabStrip1_Click();
+}
+
+std::int16_t Settings_Frm::Which_Tab() const {
+    return static_cast<std::int16_t>(TabStrip1.Selected() + 1);
+}
+
+void Settings_Frm::None_Vis() {
+    for (Frame &frame : Settings_Fra)
+        frame.Set_Visible(false);
+}
+
+void Settings_Frm::TabStrip1_Click() {
+    None_Vis();
+    const int page = Which_Tab() - 1;
+    Settings_Fra[page].Set_Visible(true);
+    General.Set_Watched(page == general_fra);
+}
+
+void Settings_Frm::Ok_Btn_Click() {
+    Apply_Btn_Click();
+    Form_Unload();
+}
+
+void Settings_Frm::Cancel_Btn_Click() {
+    // The page promises that Esc ends its preview.
+    if (Wallpaper.End_Preview())
+        return;
+    Form_Unload();
+}
+
+void Settings_Frm::Apply_Btn_Click() {
+    // It keeps the settings that it will put back.
+    Wallpaper.End_Preview();
+    for (const auto save :
+         {&Settings_Frm::Save_Colours, &Settings_Frm::Save_General_Settings, &Settings_Frm::Save_Other_DM,
+          &Settings_Frm::Save_Theme, &Settings_Frm::Save_Bar_Settings})
+        Run_Guarded([this, save] { (this->*save)(); });
+}
+
+void Settings_Frm::Form_Unload() {
+    if (!std::exchange(open_, false))
+        return;
+    Wallpaper.End_Preview();
+    Tooltips.Release();
+    General.Set_Watched(false);
+    calendar_.Set_Blocked_By(nullptr);
+    Cur_Settings.Settings_Tab = Which_Tab();
+    Store_Setting("Settings Tab");
+    Close();
+    calendar_.Resume_Auto_Compact();
+}
+
+/// To the right of the calendar, or to its left where there is more room. The platform keeps the window on
+/// the screen.
+void Settings_Frm::Place_Beside_Calendar() {
+    const Rect area = Pixels_To_Twips(platform::Work_Area_Around(
+        {Twips_To_Pixels(calendar_.Left() + calendar_.Width() / 2), Twips_To_Pixels(calendar_.Top())}));
+    const int width = Width() + 2 * window_frame;
+    const int right = calendar_.Left() + calendar_.Width() + gap;
+    const int left = calendar_.Left() - gap - width;
+    const bool room_right = area.Right() - right >= calendar_.Left() - area.left;
+    Move(room_right ? std::min(right, area.Right() - width) : std::max(left, area.left), calendar_.Top());
+}

@@ -1,0 +1,89 @@
+// The settings dialog: its tabs and buttons, its opening and its end, and the saving of what its pages hold
+// (saving.cpp). What is on the pages is in files of their own.
+#pragma once
+
+#include "calendar/main_frm.h"
+#include "settings/about_page.h"
+#include "settings/colours_page.h"
+#include "settings/events_page.h"
+#include "settings/general_page.h"
+#include "settings/page.h"
+#include "settings/style_page.h"
+#include "settings/tooltips_page.h"
+#include "settings/wallpaper_page.h"
+#include "toolkit/control_array.h"
+#include "toolkit/form.h"
+#include "toolkit/list_controls.h"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+/// Modal to the calendar. An object serves one opening, so that nothing of a former one can survive in it;
+/// after its end it must stay until its last event has returned (Busy).
+class Settings_Frm : public Form {
+public:
+    static constexpr int page_count = 8;
+    enum Page {
+        events_fra,
+        colours_fra,
+        general_fra,
+        style_fra,
+        tooltips_fra,
+        wallpaper_fra,
+        transfer_fra,
+        about_fra
+    };
+
+    /// `calendar` must outlive the dialog.
+    explicit Settings_Frm(Main_Frm &calendar);
+    ~Settings_Frm() override;
+
+    /// Fills all pages from the settings and opens the dialog.
+    void Form_Load();
+    /// Keeps the tab, takes the dialog down and lets the calendar go on. Does nothing when that is done.
+    void Form_Unload();
+    /// An event of the dialog has not returned yet.
+    bool Busy() const { return events_ > 0; }
+
+    /// Number of the selected tab, counted from 1.
+    std::int16_t Which_Tab() const;
+    void None_Vis();
+    void TabStrip1_Click();
+    void Ok_Btn_Click();
+    void Cancel_Btn_Click();
+    void Apply_Btn_Click();
+
+    // Each carries a part of the pages into the settings, the store and the calendar. A store that refuses is
+    // not told: the setting holds until the program's end all the same.
+    void Save_Colours();
+    void Save_General_Settings();
+    void Save_Other_DM();
+    void Save_Theme();
+    void Save_Bar_Settings();
+
+    Tab_Strip TabStrip1;
+    Control_Array<Frame, page_count> Settings_Fra;
+    Events_Page Events;
+    Colours_Page Colours;
+    General_Page General;
+    Style_Page Style;
+    Tooltips_Page Tooltips;
+    Wallpaper_Page Wallpaper;
+    About_Page About;
+    Button Ok_Btn;
+    Button Cancel_Btn;
+    Button Apply_Btn;
+
+private:
+    void Lay_Out();
+    void Load_Settings();
+    void Load_General_Settings();
+    void Position_Frames();
+    void Select_Stored_Tab();
+    void Place_Beside_Calendar();
+
+    Main_Frm &calendar_;
+    int events_ = 0; ///< that have not returned yet
+    bool open_ = false;
+};

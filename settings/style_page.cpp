@@ -1,0 +1,262 @@
+// The page "Style & Position": its choices, and where its controls are.
+#include "settings/style_page.h"
+
+#include "calendar/box_layout.h"
+#include "core/settings.h"
+#include "desktop/position.h"
+#include "settings/screen_miniature.h"
+#include "settings/theme_names.h"
+#include "toolkit/keys.h"
+#include "toolkit/units.h"
+
+#include <algorithm>
+#include <string>
+
+using namespace layout;
+using platform::Colour;
+using platform::Mouse_Button;
+using platform::Point;
+using platform::Rect;
+
+namespace {
+
+constexpr int group_gap = 5 * 15;
+constexpr int group_bottom = 8 * 15;
+constexpr int options_width = 118 * 15; ///< column left of the miniature
+constexpr int hint_lines = 4;
+constexpr int coordinate_lines = 2;
+constexpr int option_mark = 18 * 15; ///< before the caption
+constexpr int marker_size = 7 * 15;
+constexpr int one_pixel = 15;
+constexpr int last_cell = 2;
+
+/// The position codes as they lie on the screen.
+constexpr std::int16_t places[last_cell + 1][last_cell + 1] = {{6, 5, 4}, {9, 3, 8}, {2, 1, 0}};
+
+constexpr auto manual = static_cast<std::int16_t>(Position_Code::Manual);
+
+/// Column and row of a code.
+Point Cell_Of(std::int16_t code) {
+    for (int row = 0; row <= last_cell; ++row)
+        for (int column = 0; column <= last_cell; ++column)
+            if (places[row][column] == code)
+                return {column, row};
+    return {-1, -1};
+}
+
+platform::Size Size_Of(const Control &control) {
+    return {control.Width(), control.Height()};
+}
+
+} // namespace
+
+Style_Page::Style_Page(Form &dialog, Frame &frame, Main_Frm &calendar)
+    : Style_Fra(dialog, "Style_Fra", "Box Style"), Style1_Opt(dialog, "Style1_Opt", Box_Style_Name(0)),
+      Style2_Opt(dialog, "Style2_Opt", Box_Style_Name(1)), Backdrop1_Pic(dialog, "Backdrop1_Pic"),
+      Backdrop2_Pic(dialog, "Backdrop2_Pic"), Example1_Lbl(dialog, "Example1_Lbl", " 12"),
+      Example2_Lbl(dialog, "Example2_Lbl", "Event"), Example3_Lbl(dialog, "Example3_Lbl", " 12"),
+      Example4_Lbl(dialog, "Example4_Lbl", "Event"), Position_Fra(dialog, "Position_Fra", "Position"),
+      Pos_Set_Opt(dialog, "Pos_Set_Opt", "&Set position"),
+      Pos_Hint_Lbl(dialog, "Pos_Hint_Lbl", "Click a place on the screen, or choose it with the arrow keys."),
+      Pos_Manual_Opt(dialog, "Pos_Manual_Opt", "&Manual position"), Manual_Lbl(dialog, "Manual_Lbl"),
+      Pos_Preview_Img(dialog, "Pos_Preview_Img"), Position_Lbl(dialog, "Position_Lbl"), calendar_(calendar) {
+    Put_Into(frame, {&Style_Fra, &Position_Fra});
+    Put_Into(Style_Fra, {&Style1_Opt, &Style2_Opt, &Backdrop1_Pic, &Backdrop2_Pic, &Example1_Lbl,
+                         &Example2_Lbl, &Example3_Lbl, &Example4_Lbl});
+    Put_Into(Position_Fra,
+             {&Pos_Set_Opt, &Pos_Hint_Lbl, &Pos_Manual_Opt, &Manual_Lbl, &Pos_Preview_Img, &Position_Lbl});
+    Wire_Examples();
+    Style1_Opt.On_Click = [this] { Choose_Style(Style1_Opt); };
+    Style2_Opt.On_Click = [this] { Choose_Style(Style2_Opt); };
+    Pos_Set_Opt.On_Click = [this] { Show_Position(); };
+    Pos_Manual_Opt.On_Click = [this] { Show_Position(); };
+    Pos_Preview_Img.Set_Tab_Stop();
+    Pos_Preview_Img.On_Paint = [this](platform::Canvas &canvas) { Paint_Miniature(canvas); };
+    Pos_Preview_Img.On_Mouse_Down = [this](Mouse_Button button, Point at) {
+        if (button == Mouse_Button::Left)
+            Click_At(at);
+    };
+    Pos_Preview_Img.On_Key_Down = [this](const platform::Input_Event &event) { Key_Over_Miniature(event); };
+    Position_Lbl.Set_Painted();
+    Position_Lbl.Set_Transparent(true);
+    Position_Lbl.Set_Align(platform::Text_Align::Centre, true);
+    Lay_Out();
+}
+
+void Style_Page::Wire_Examples() {
+    for (Label *label : {&Example1_Lbl, &Example2_Lbl, &Example3_Lbl, &Example4_Lbl})
+        label->Set_Painted();
+    for (Control *control : std::initializer_list<Control *>{&Backdrop1_Pic, &Example1_Lbl, &Example2_Lbl})
+        control->On_Click = [this] { Choose_Style(Style1_Opt); };
+    for (Control *control : std::initializer_list<Control *>{&Backdrop2_Pic, &Example3_Lbl, &Example4_Lbl})
+        control->On_Click = [this] { Choose_Style(Style2_Opt); };
+    for (Picture_Box *backdrop_pic : {&Backdrop1_Pic, &Backdrop2_Pic})
+        backdrop_pic->Set_Back_Colour(desktop_colour);
+}
+
+void Style_Page::Load_Settings() {
+    // The calendar shows every number but 0 as the square box.
+    (Cur_Settings.Style == 0 ? Style1_Opt : Style2_Opt).Set_Checked(true);
+    (Cur_Settings.Alignment == manual ? Pos_Manual_Opt : Pos_Set_Opt).Set_Checked(true);
+    set_position_ = Cell_Of(Cur_Settings.Alignment).x == -1 ? std::int16_t{0} : Cur_Settings.Alignment;
+    Manual_Lbl.Set_Caption("X: " + std::to_string(Cur_Settings.Manual_PosX) + " twips\n" +
+                           "Y: " + std::to_string(Cur_Settings.Manual_PosY) + " twips");
+    Style_Preview();
+    Show_Position();
+}
+
+void Style_Page::Set_Theme(const Theme_Look &look) {
+    theme_ = look;
+    Pos_Hint_Lbl.Set_Enabled(!look.use_position);
+    Style_Preview();
+    Show_Position();
+}
+
+void Style_Page::Choose_Style(Option_Button &option) {
+    if (!option.Enabled())
+        return;
+    option.Set_Checked(true);
+    Style_Preview();
+}
+
+void Style_Page::Choose_Position(int column, int row) {
+    if (!Pos_Set_Opt.Enabled())
+        return;
+    set_position_ = places[std::clamp(row, 0, last_cell)][std::clamp(column, 0, last_cell)];
+    Pos_Set_Opt.Set_Checked(true);
+    Show_Position();
+}
+
+void Style_Page::Click_At(Point at) {
+    const Screen_Miniature miniature(calendar_);
+    const Rect middle = miniature.Cell(1, 1, Size_Of(Pos_Preview_Img));
+    // What is outside the work area belongs to the nearest place.
+    const auto part = [](int where, int begin, int end) { return where < begin ? 0 : where < end ? 1 : 2; };
+    Choose_Position(part(at.x, middle.left, middle.Right()), part(at.y, middle.top, middle.Bottom()));
+}
+
+void Style_Page::Key_Over_Miniature(const platform::Input_Event &event) {
+    Point cell = Cell_Of(set_position_);
+    switch (event.key) {
+    case Key_Left:
+        --cell.x;
+        break;
+    case Key_Right:
+        ++cell.x;
+        break;
+    case Key_Up:
+        --cell.y;
+        break;
+    case Key_Down:
+        ++cell.y;
+        break;
+    default:
+        return;
+    }
+    Choose_Position(cell.x, cell.y);
+}
+
+std::int16_t Style_Page::Shown_Style() const {
+    if (theme_.use_style)
+        return theme_.style;
+    return Style1_Opt.Checked() ? 0 : 1;
+}
+
+std::int16_t Style_Page::Shown_Position() const {
+    if (theme_.use_position)
+        return theme_.position;
+    return Pos_Manual_Opt.Checked() ? manual : set_position_;
+}
+
+void Style_Page::Show_Position() {
+    Preview_Position();
+    Position_Boxes();
+}
+
+void Style_Page::Style_Preview() {
+    for (Label *box : {&Example1_Lbl, &Example3_Lbl})
+        box->Set_Fore_Colour(Cur_Settings.Col_Num);
+    for (Label *label : {&Example1_Lbl, &Example2_Lbl, &Example3_Lbl, &Example4_Lbl})
+        label->Set_Back_Colour(Cur_Settings.Col_Normal);
+    for (Label *text : {&Example2_Lbl, &Example4_Lbl})
+        text->Set_Fore_Colour(Cur_Settings.Col_Text);
+    Pos_Preview_Img.Repaint();
+}
+
+void Style_Page::Preview_Position() {
+    Pos_Preview_Img.Repaint();
+}
+
+void Style_Page::Position_Boxes() {
+    const std::int16_t code = Shown_Position();
+    const std::string name = code == manual ? "Manual" : Position_Name(code);
+    Position_Lbl.Set_Caption(name);
+    Pos_Preview_Img.Set_Access({platform::Access_Role::Button, false, "Position", name, {}});
+    Pos_Preview_Img.Repaint();
+}
+
+void Style_Page::Paint_Miniature(platform::Canvas &canvas) {
+    const platform::Size size = Size_Of(Pos_Preview_Img);
+    Screen_Miniature miniature(calendar_);
+    miniature.Place_Calendar(Shown_Style(), Shown_Position());
+    miniature.Paint(canvas, theme_.picture, size);
+    const Point chosen = Cell_Of(Shown_Position());
+    for (int row = 0; row <= last_cell; ++row) {
+        for (int column = 0; column <= last_cell; ++column) {
+            const bool marked = chosen == Point{column, row};
+            if (theme_.use_position && !marked)
+                continue; // not to be chosen now
+            const Rect cell = miniature.Cell(column, row, size);
+            const int side = marked ? marker_size + 4 * one_pixel : marker_size;
+            const Rect marker{Snap(cell.left + (cell.width - side) / 2),
+                              Snap(cell.top + (cell.height - side) / 2), side, side};
+            platform::Fill_Rect(canvas, marker,
+                                marked ? platform::System_Colour(13) : platform::Rgb(255, 255, 255));
+            platform::Frame_Rect(canvas, marker, platform::Rgb(64, 64, 64), one_pixel);
+        }
+    }
+}
+
+void Style_Page::Lay_Out() {
+    const Box_Layout styles[] = {Box_Layout(0), Box_Layout(1)};
+    constexpr int column_width = page_width / 2;
+    constexpr int box_top = group_top + check_height + backdrop;
+    const auto example = [](const Box_Layout &style, Option_Button &option, Picture_Box &desktop,
+                            Label &number, Label &text, int left) {
+        option.Move({left, group_top, column_width - margin, check_height});
+        const Rect corner = style.Box(0);
+        const int box_left = left + option_mark + backdrop;
+        const auto place = [&](Rect pixels) {
+            pixels.left += Twips_To_Pixels(box_left) - corner.left;
+            pixels.top += Twips_To_Pixels(box_top) - corner.top;
+            return Pixels_To_Twips(pixels);
+        };
+        number.Move(place(corner));
+        desktop.Move({number.Left() - backdrop, number.Top() - backdrop, number.Width() + 2 * backdrop,
+                      number.Height() + 2 * backdrop});
+        text.Move(place(style.Text(0)));
+        Dress_Number(number);
+        Dress_Text(text);
+        text.Set_Transparent(false);
+    };
+    example(styles[0], Style1_Opt, Backdrop1_Pic, Example1_Lbl, Example2_Lbl, margin);
+    example(styles[1], Style2_Opt, Backdrop2_Pic, Example3_Lbl, Example4_Lbl, column_width);
+    Style_Fra.Move({0, 0, page_width, Backdrop2_Pic.Bounds().Bottom() + group_bottom});
+
+    const int top = Style_Fra.Height() + group_gap;
+    Position_Fra.Move({0, top, page_width, page_height - top});
+    const int line = platform::Line_Height(Manual_Lbl.Font());
+    const int text_width = options_width - option_mark;
+    Pos_Set_Opt.Move({margin, group_top, options_width, check_height});
+    Pos_Hint_Lbl.Move({margin + option_mark, group_top + check_height, text_width, hint_lines * line});
+    Pos_Manual_Opt.Move({margin, Pos_Hint_Lbl.Bounds().Bottom() + gap, options_width, check_height});
+    Manual_Lbl.Move(
+        {margin + option_mark, Pos_Manual_Opt.Bounds().Bottom(), text_width, coordinate_lines * line});
+
+    const int left = margin + options_width + gap;
+    const platform::Size room{page_width - left - margin,
+                              Position_Fra.Height() - group_top - margin - line - small_gap};
+    const platform::Size size = Screen_Miniature(calendar_).Fit(room);
+    Pos_Preview_Img.Move({left + (room.width - size.width) / 2, group_top, size.width, size.height});
+    Position_Lbl.Move({left, Pos_Preview_Img.Bounds().Bottom() + small_gap, room.width, line});
+}

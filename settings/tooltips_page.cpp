@@ -1,0 +1,148 @@
+// The page "Tooltips": its texts, its examples, and where its controls are.
+#include "settings/tooltips_page.h"
+
+#include "calendar/box_layout.h"
+#include "core/settings.h"
+#include "platform/locale.h"
+
+#include <array>
+
+using namespace layout;
+using platform::Mouse_Button;
+
+namespace {
+
+constexpr std::uint16_t not_held = 65535;
+constexpr float hold_time = 0.3F; // seconds
+constexpr int balloons = 2;
+constexpr int balloon_width = 4680;
+constexpr int balloon_height = 1620;
+constexpr const char *example = "This is an example.";
+
+// From the dialog's corner to the page's, and over the window's frame and title.
+constexpr int page_left = 315;
+constexpr int page_top = 1050;
+
+struct Kind {
+    const char *caption, *trigger, *tooltip, *notes;
+};
+
+constexpr std::array<Kind, 3> kinds{{
+    {"&Don't use Tooltips", "", "", "Neither of the two Tooltip styles will be used."},
+    {"Use '&Standard' Tooltips", "Hover Over...", example,
+     "The standard Tooltips appear when you hover your mouse over it for a short length of time. The problem "
+     "with the standard Tooltips is that they are only one line high. This means if the event is too long "
+     "then it might get cut off."},
+    {"Use '&Balloon' Tooltips", "Hold Left Mouse Button", "",
+     "These balloon Tooltips don't pop up when you hover over them like the standard tooltips do. For these "
+     "to appear you have to hold down the left mouse button for about half a second over the the box."},
+}};
+
+} // namespace
+
+Tooltips_Page::Tooltips_Page(Form &dialog, Frame &frame, Main_Frm &calendar)
+    : Tips_Opt(dialog, "Tips_Opt"), TipsNotes_Lbl(dialog, "TipsNotes_Lbl"),
+      Preview_Fra(dialog, "Preview_Fra", "Preview"), TipsTrigger_Lbl(dialog, "TipsTrigger_Lbl"),
+      TipExample_Lbl(dialog, "TipExample_Lbl", "Example"), TipBoxExample_Lbl(dialog, "TipBoxExample_Lbl"),
+      dialog_(dialog), frame_(frame), calendar_(calendar) {
+    for (int i = 0; i < static_cast<int>(kinds.size()); ++i) {
+        Tips_Opt[i].Set_Container(frame);
+        Tips_Opt[i].Set_Caption(kinds[static_cast<std::size_t>(i)].caption);
+        Tips_Opt[i].On_Click = [this, i] { Tips_Opt_Click(i); };
+    }
+    Put_Into(frame, {&TipsNotes_Lbl, &Preview_Fra});
+    Put_Into(Preview_Fra, {&TipsTrigger_Lbl, &TipExample_Lbl, &TipBoxExample_Lbl});
+    for (Label *label : {&TipExample_Lbl, &TipBoxExample_Lbl}) {
+        label->Set_Painted();
+        label->On_Mouse_Down = [this](Mouse_Button button, platform::Point) { Example_Mouse_Down(button); };
+        label->On_Mouse_Up = [this](Mouse_Button, platform::Point) { Release(); };
+    }
+    TipExample_Lbl.Set_Transparent(true);
+    TipExample_Lbl.Set_Align(platform::Text_Align::Centre, true);
+    // Today's box, as the calendar draws it.
+    TipBoxExample_Lbl.Set_Caption(std::to_string(Today().day));
+    TipBoxExample_Lbl.Set_Back_Colour(Cur_Settings.Col_Today);
+    TipBoxExample_Lbl.Set_Fore_Colour(Cur_Settings.Col_Num);
+    TipBoxExample_Lbl.Set_Frame_Colour(Strong_Shade(Cur_Settings.Col_Today));
+    platform::Font bold;
+    bold.bold = true;
+    TipBoxExample_Lbl.Set_Font(bold);
+    TipBoxExample_Lbl.Set_Padding(small_gap);
+    Lay_Out();
+}
+
+void Tooltips_Page::Select(std::int16_t kind) {
+    const int index = kind >= 0 && kind <= balloons ? kind : 1;
+    Tips_Opt[index].Set_Checked(true);
+    Tips_Opt_Click(index);
+}
+
+std::int16_t Tooltips_Page::Selected() const {
+    std::int16_t index = 0;
+    for (const Option_Button &option : Tips_Opt) {
+        if (option.Checked())
+            return index;
+        ++index;
+    }
+    return 0;
+}
+
+void Tooltips_Page::Tips_Opt_Click(int index) {
+    const Kind &kind = kinds[static_cast<std::size_t>(index)];
+    TipsTrigger_Lbl.Set_Caption(kind.trigger);
+    TipExample_Lbl.Set_Tooltip(kind.tooltip);
+    TipBoxExample_Lbl.Set_Tooltip(kind.tooltip);
+    TipsNotes_Lbl.Set_Caption(kind.notes);
+}
+
+void Tooltips_Page::Example_Mouse_Down(Mouse_Button button) {
+    if (button != Mouse_Button::Left)
+        return;
+    held_ = Tips_Opt[balloons].Checked() ? 0 : not_held;
+    if (held_ == not_held)
+        return;
+    calendar_.TimeOut(hold_time);
+    if (held_ < not_held)
+        Example_Tooltip();
+}
+
+void Tooltips_Page::Release() {
+    held_ = not_held;
+    calendar_.Hide_Balloon();
+}
+
+void Tooltips_Page::Example_Tooltip() {
+    const Date today = Today();
+    // The tail points to the lower edge of the example, in its middle.
+    const platform::Point place{
+        dialog_.Left() + page_left + Preview_Fra.Left() + TipExample_Lbl.Left() + TipExample_Lbl.Width() / 2,
+        dialog_.Top() + page_top + Preview_Fra.Top() + TipExample_Lbl.Top() + TipExample_Lbl.Height()};
+    calendar_.Balloon.SetBalloon(platform::Short_Date(today.year, today.month, today.day), example, "i",
+                                 "Tahoma, if exists", balloon_width, balloon_height, &place);
+    calendar_.Balloon.Show();
+    calendar_.Timer2.Set_Enabled(true);
+}
+
+void Tooltips_Page::Lay_Out() {
+    constexpr int notes_lines = 5;
+    constexpr int example_width = 100 * 15;
+    constexpr int box_size = 60 * 15;
+    const int line = platform::Line_Height(TipsNotes_Lbl.Font());
+    int top = 0;
+    for (Option_Button &option : Tips_Opt) {
+        option.Move({margin, top, inner_width, check_height});
+        top += check_height + small_gap;
+    }
+    top += gap - small_gap;
+    TipsNotes_Lbl.Move({margin, top, inner_width, notes_lines * line});
+    top += notes_lines * line + gap;
+
+    int row = group_top;
+    TipsTrigger_Lbl.Move({margin, row, inner_width, line});
+    row += line + gap;
+    const int both = example_width + margin + box_size;
+    const int left = (page_width - both) / 2;
+    TipExample_Lbl.Move({left, row + (box_size - row_height) / 2, example_width, row_height});
+    TipBoxExample_Lbl.Move({left + example_width + margin, row, box_size, box_size});
+    Preview_Fra.Move({0, top, page_width, row + box_size + margin});
+}

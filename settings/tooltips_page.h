@@ -1,0 +1,38 @@
+// The page "Tooltips" of the settings dialog: the choice between the kinds of tooltips, with examples of
+// them.
+#pragma once
+
+#include "settings/page.h"
+#include "toolkit/control_array.h"
+
+#include <cstdint>
+
+class Tooltips_Page {
+public:
+    Tooltips_Page(Form &dialog, Frame &frame, Main_Frm &calendar);
+    /// Places the controls, also after a change of the dots per inch.
+    void Lay_Out();
+
+    /// Selects a kind: 0 none, 1 standard, 2 balloons. Another number is the standard kind.
+    void Select(std::int16_t kind);
+    std::int16_t Selected() const;
+    /// The button is not held any more, by whatever way: an example balloon goes, or does not come.
+    void Release();
+
+    Control_Array<Option_Button, 3> Tips_Opt;
+    Label TipsNotes_Lbl;
+    Frame Preview_Fra;
+    Label TipsTrigger_Lbl;
+    Label TipExample_Lbl;
+    Label TipBoxExample_Lbl;
+
+private:
+    void Tips_Opt_Click(int index);
+    void Example_Mouse_Down(platform::Mouse_Button button);
+    void Example_Tooltip();
+
+    Form &dialog_;
+    const Frame &frame_;
+    Main_Frm &calendar_;
+    std::uint16_t held_ = 65535; ///< 0 while an example is held that shows a balloon, else all bits set
+};

@@ -1,0 +1,182 @@
+// The Events page: what it counts, lists and removes, and that it copes with any data file.
+#include "settings/events_page.h"
+#include "tests/calendar/calendar_test.h"
+#include "toolkit/keys.h"
+
+using platform::Box_Answer;
+
+namespace {
+
+struct Page_Frm : Form {
+    explicit Page_Frm(Main_Frm &calendar)
+        : Form(platform::Form_Kind::Dialog, "Page_Frm"), Frame0(*this, "Frame0"),
+          page(*this, Frame0, calendar) {}
+    Frame Frame0;
+    Events_Page page;
+};
+
+class Events_Page_Test : public Calendar_Test {
+protected:
+    Events_Page_Test() { Show_Month(3, 2002); } // today is 5 March 2002
+
+    void Open() {
+        page.Write_Month_Titles();
+        page.Get_Stats();
+        page.Open_Overview();
+    }
+    std::string Lines() const {
+        std::string lines;
+        for (const std::string &line : page.Events_Lst.Items())
+            lines += line + "|";
+        return lines;
+    }
+    std::string Totals() {
+        std::string totals;
+        for (const Label *label :
+             {&page.Total_All_Lbl, &page.Total_Year_Lbl, &page.Before_Lbl, &page.After_Lbl})
+            totals += label->Caption() + "|";
+        for (const Label &label : page.Month_Count_Lbl)
+            totals += label.Caption().ends_with(" 0") ? "" : label.Caption() + "|";
+        return totals;
+    }
+    /// Double-clicks or keys the line and answers the question.
+    void Remove(int line, Box_Answer answer, int key = 0, std::function<void()> meanwhile = nullptr) {
+        Choose(dialog, page.Events_Lst, line);
+        Fakes().Expect_Box("Do you really want to remove the event..\r\n\r\n" +
+                               page.Events_Lst.Items().at(static_cast<std::size_t>(line)),
+                           answer, std::move(meanwhile));
+        if (key == 0)
+            return Activate(dialog, page.Events_Lst);
+        platform::Input_Event event{};
+        event.kind = platform::Input_Kind::Key_Down;
+        event.control = page.Events_Lst.State().index;
+        event.key = key;
+        dialog.Input(event);
+        event.repeated = true; // a key that is held asks once
+        dialog.Input(event);
+    }
+
+    Page_Frm dialog{form};
+    Events_Page &page = dialog.page;
+};
+
+TEST_F(Events_Page_Test, counts_events) {
+    const std::string none = "Total Events: 0|Events This Year: 0|No. Before Today: 0|No. After Today: 0|";
+    Open();
+    EXPECT_EQ(Totals(), none);
+    EXPECT_EQ(page.Month_Count_Lbl[6].Caption(), "July: 0");
+    Events({"5/3/2002=today", "1/1/2003=next", "7/4/2002=soon", "31/12/9998=last", "1/2/2001=past",
+            "6/3/2002=a=b", "4/3/2002=yesterday", "29/2/9999=leap", "7/3/yyyy=every", "1/1/0100=early",
+            // None of these is an event.
+            "", "no key", "1/13/2002=x", "0/3/2002=x", "31/4/2002=x", "30/2/9999=x", "a/b/c=x", "5/3/99=x",
+            "5/3/40000=x", "yyyy=x"});
+    Open();
+    EXPECT_EQ(Totals(), "Total Events: 8|Events This Year: 4|No. Before Today: 4|No. After Today: 3|"
+                        "Feb: 1|Mar: 4|Apr: 1|");
+    EXPECT_EQ(page.Events_Lst.Items().size(), 10U);
+    Data_File().clear();
+    for (int i = 0; i < 33'000; ++i)
+        Data_File() += "1/1/2003=x\r\n";
+    page.Get_Stats();
+    EXPECT_TRUE(Totals().starts_with("Total Events: 32767|")) << Totals();
+}
+
+TEST_F(Events_Page_Test, lists_events_in_each_order_and_short_date) {
+    Events({"9/3/2002=b", "1/1/1600=old", "6/3/9999=a\r\nb\t=\xC3\xA9", "2/2/9998=far", "9/3/2002=c",
+            "29/2/yyyy=leap"});
+    struct {
+        int order;
+        const char *pattern, *lines;
+    } const rows[] = {
+        {0, "d/m/yyyy",
+         "1/1/1600  -  old|28/2/2002 (every year)  -  leap|6/3/2002 (every year)  -  a b =\xC3\xA9|"
+         "9/3/2002  -  b|9/3/2002  -  c|2/2/9998  -  far|"},
+        {1, "d. m. yyyy",
+         "2. 2. 9998  -  far|9. 3. 2002  -  c|9. 3. 2002  -  b|6. 3. 2002 (every year)  -  a b =\xC3\xA9|"
+         "28. 2. 2002 (every year)  -  leap|1. 1. 1600  -  old|"},
+        {2, "m/d/yyyy",
+         "3/9/2002  -  b|1/1/1600  -  old|3/6/2002 (every year)  -  a b =\xC3\xA9|2/2/9998  -  far|"
+         "3/9/2002  -  c|2/28/2002 (every year)  -  leap|"},
+    };
+    Open();
+    for (const auto &row : rows) {
+        Fakes().short_date_pattern = row.pattern;
+        Choose(dialog, page.Sort_Cbo, row.order);
+        EXPECT_EQ(Lines(), row.lines);
+    }
+    for (const char *pattern : {"d/m/yyyy", "m/d/yyyy", "yyyy-mm-dd", "d.m.yyyy", "d. m. yyyy"}) {
+        Fakes().short_date_pattern = pattern;
+        Open(); // by ascending dates again
+        std::string countdowns;
+        for (int line = 0; line < 4; ++line) {
+            Choose(dialog, page.Events_Lst, line);
+            countdowns += page.Countdown_Lbl.Caption() + "|";
+        }
+        EXPECT_EQ(countdowns, "-146891 days|-5 days|1 days|4 days|") << pattern;
+    }
+    Push(dialog, page.Stats_Opt);
+    EXPECT_TRUE(page.Events_Fra.Visible() && page.Yearview_Fra.Visible() && !page.Overview_Fra.Visible());
+    Events({"6/3/2002=new"});
+    Push(dialog, page.Overview_Opt);
+    EXPECT_TRUE(!page.Events_Fra.Visible() && !page.Yearview_Fra.Visible() && page.Overview_Fra.Visible());
+    EXPECT_EQ(Lines() + page.Countdown_Lbl.Caption(), "6. 3. 2002  -  new|");
+}
+
+TEST_F(Events_Page_Test, removes_the_event_of_the_line) {
+    const std::vector<std::string> all{"6/3/2002=exact", "6/3/9999=every", "29/2/9999=leap",
+                                       "8/03/9999=hand"};
+    Events(all);
+    const std::string before = Data_File();
+    Open();
+    for (const Box_Answer answer : {Box_Answer::No, Box_Answer::Cancel})
+        Remove(0, answer);
+    EXPECT_EQ(Data_File(), before);
+    struct {
+        int line, key;
+        std::size_t record;
+    } const rows[] = {{0, Key_Delete, 2}, {1, 0, 0}, {2, Key_Return, 1}, {3, 0, 3}};
+    for (const auto &row : rows) {
+        for (const bool compact : {false, true}) {
+            Events(all);
+            Open();
+            form.Redraw();
+            form.Compacted = compact;
+            form.Which_Month_Lbl.Set_Caption("stale");
+            Remove(row.line, Box_Answer::Yes, row.key);
+            auto rest = all;
+            rest.erase(rest.begin() + static_cast<std::ptrdiff_t>(row.record));
+            const std::string after = Data_File();
+            Events(rest);
+            EXPECT_EQ(after, Data_File()) << row.line;
+            EXPECT_EQ(page.Events_Lst.Items().size(), 3U);
+            EXPECT_EQ(page.Events_Lst.Selected(), std::min(row.line, 2));
+            EXPECT_EQ(form.Which_Month_Lbl.Caption() == "stale", compact);
+            EXPECT_EQ(Text_Of(8).empty(), row.record == 3 && !compact);
+        }
+        form.Compacted = false;
+    }
+    EXPECT_EQ(page.Month_Count_Lbl[2].Caption(), "Mar: 2"); // counted anew after the removal
+}
+
+TEST_F(Events_Page_Test, bears_a_file_that_fails_or_changes_behind_it) {
+    Events({"6/3/2002=a", "7/3/2002=b"});
+    Open();
+    Remove(0, Box_Answer::Yes, 0, [] { Events({"7/3/2002=b"}); }); // someone else was quicker
+    EXPECT_EQ(Lines(), "7/3/2002  -  b|");
+    Fakes().unwritable.insert("C:\\Vellatro\\calendar.dat");
+    Choose(dialog, page.Events_Lst, 0);
+    Remove(0, Box_Answer::Yes, 0, [] { Fakes().Expect_Box("Error saving data file."); });
+    EXPECT_EQ(Lines(), "7/3/2002  -  b|");
+    Data_File() += "\"8/3/2002=unclosed";
+    Open();
+    EXPECT_EQ(Lines() + page.Overview_Fra.Caption(), "7/3/2002  -  b|Error loading in data file.");
+    Fakes().unreadable.insert("C:\\Vellatro\\calendar.dat");
+    Open();
+    EXPECT_EQ(Lines() + page.Events_Fra.Caption(), "Error loading in data file.");
+    Activate(dialog, page.Events_Lst); // no line, no question
+    Fakes().files.clear();
+    Open();
+    EXPECT_EQ(Lines() + page.Overview_Fra.Caption(), "Events");
+}
+
+} // namespace

@@ -1,0 +1,152 @@
+// The settings dialog as a window: its tabs, its life beside the calendar, and its own small pages.
+#include "tests/settings/settings_test.h"
+#include "toolkit/keys.h"
+
+using platform::Broadcast;
+using platform::Input_Kind;
+using platform::Mouse_Button;
+
+namespace {
+
+class Settings_Window : public Settings_Dialog {
+protected:
+    /// The numbers of the pages that can be seen.
+    std::string Pages() {
+        std::string pages;
+        for (int i = 0; i < Settings_Frm::page_count; ++i)
+            pages += dialog->Settings_Fra[i].Visible() ? std::to_string(i) : "";
+        return pages;
+    }
+};
+
+TEST_F(Settings_Window, opens_at_the_stored_tab_and_stores_the_last_one_however_it_ends) {
+    const std::pair<std::function<void()>, const char *> ends[] = {
+        {[this] { Push(*dialog, dialog->Ok_Btn); }, "OK"},
+        {[this] { Push(*dialog, dialog->Cancel_Btn); }, "Cancel"},
+        {[this] { Tell(*dialog, Input_Kind::Close); }, "close box"},
+        {[this] {
+             Desktop().mirrors.erase(&dialog->Model());
+             Tell(*dialog, Input_Kind::Window_Lost);
+         },
+         "lost"},
+        {[] { Desktop().Say(Broadcast::Session_Over); }, "session"},
+        {[this] { form.Close_Settings(); }, "program"},
+    };
+    std::int16_t tab = 1;
+    for (const auto &[end, name] : ends) {
+        SCOPED_TRACE(name);
+        Stored("Settings Tab") = "?";
+        form.Compact_Timer.Set_Enabled(false);
+        Cur_Settings.Auto_Compact = tab % 2 == 0;
+        form.Compacted = tab == 4;
+        Cur_Settings.Settings_Tab = tab;
+        form.Open_Settings();
+        EXPECT_EQ(Pages(), std::to_string(tab - 1));
+        Choose(*dialog, dialog->TabStrip1, tab);
+        EXPECT_EQ(Pages(), std::to_string(tab));
+        EXPECT_TRUE(form.Settings_Visible());
+        // The calendar is blocked and its countdown sees the dialog.
+        Press_Key(form, Key_F2);
+        form.Compact_Timer_Timer();
+        EXPECT_TRUE(form.Cur_Month == 3 && !form.Timer_Compacted);
+        end();
+        EXPECT_EQ(Stored("Settings Tab"), std::to_string(++tab));
+        EXPECT_EQ(form.Compact_Timer.Enabled(), Cur_Settings.Auto_Compact == 1 && !form.Compacted);
+        EXPECT_FALSE(form.Settings_Visible() || Desktop().mirrors.contains(&dialog->Model()));
+        Press_Key(form, Key_F2);
+        EXPECT_EQ(form.Cur_Month, 2);
+        Press_Key(form, Key_F4);
+    }
+    for (const int odd : {-5, 0, 9, 32767}) {
+        Cur_Settings.Settings_Tab = static_cast<std::int16_t>(odd);
+        form.Open_Settings();
+        EXPECT_EQ(Pages(), "0");
+        form.Close_Settings();
+    }
+}
+
+TEST_F(Settings_Window, is_one_and_a_new_one_has_nothing_of_the_former) {
+    Open(Settings_Frm::about_fra);
+    const Settings_Frm *first = dialog.get();
+    Push(*dialog, dialog->General.Alert_Chk, true);
+    form.Open_Settings();
+    EXPECT_EQ(dialog.get(), first);
+    Choose(*dialog, dialog->TabStrip1, Settings_Frm::general_fra);
+    Push(*dialog, dialog->General.Alert_Chk, true);
+    EXPECT_TRUE(dialog->General.Alert_Chk.Checked());
+    form.Close_Settings();
+    form.Open_Settings();
+    EXPECT_EQ(Pages(), "2");
+    EXPECT_FALSE(dialog->General.Alert_Chk.Checked());
+    for (int i = 0; i < Settings_Frm::page_count; ++i)
+        EXPECT_EQ(dialog->Settings_Fra[i].Left(), 225);
+    EXPECT_TRUE(dialog->Width() == 5730 && dialog->Height() == dialog->TabStrip1.Bounds().Bottom() + 420);
+}
+
+TEST_F(Settings_Window, previews_the_title_without_touching_a_setting) {
+    General_Page &page = Open(Settings_Frm::general_fra).General;
+    const int writes = Fakes().registry_writes;
+    EXPECT_EQ(page.Bar_Preview_Lbl.Caption(), "5th March - 2002");
+    Choose(*dialog, page.Bar_Time_Cbo, 5); // without the time
+    EXPECT_EQ(page.Bar_Preview_Lbl.Caption(), "5th March - 2002");
+    Push(*dialog, page.Bar_Time_Chk, true);
+    EXPECT_EQ(page.Bar_Preview_Lbl.Caption(), "10:30:00 AM - 5th March - 2002");
+    Enter_Text(*dialog, page.Bar_Time_Cbo, "H.mm:ss");
+    Enter_Text(*dialog, page.Bar_Date_Cbo, "no format");
+    EXPECT_EQ(page.Bar_Preview_Lbl.Caption(), "10.30:00 - Tuesday 5th March - 2002");
+    Fakes().now.second = 7;
+    Desktop().Advance(1000);
+    EXPECT_EQ(page.Bar_Preview_Lbl.Caption(), "10.30:07 - Tuesday 5th March - 2002");
+    Choose(*dialog, dialog->TabStrip1, Settings_Frm::about_fra);
+    Fakes().now.second = 8;
+    Desktop().Advance(1000);
+    EXPECT_EQ(page.Bar_Preview_Lbl.Caption(), "10.30:07 - Tuesday 5th March - 2002");
+    EXPECT_EQ(Fakes().registry_writes, writes);
+    EXPECT_EQ(Cur_Settings.Bar_Date_Format, "d Month - yyyy");
+}
+
+TEST_F(Settings_Window, shows_the_example_balloon_while_the_left_button_is_held) {
+    const auto close = [this] {
+        Push(*dialog, dialog->Cancel_Btn);
+        form.Open_Settings(); // must not put a new one into the place of one that still waits
+        EXPECT_FALSE(form.Settings_Visible());
+    };
+    const struct {
+        int kind;
+        Mouse_Button button;
+        bool shows, tooltip;
+        std::function<void()> meanwhile;
+    } rows[] = {
+        {0, Mouse_Button::Left, false, false, nullptr},
+        {1, Mouse_Button::Left, false, true, nullptr},
+        {2, Mouse_Button::Right, false, false, nullptr},
+        {2, Mouse_Button::Left, true, false, nullptr},
+        {2, Mouse_Button::Left, false, false, [this] { Release(*dialog, dialog->Tooltips.TipExample_Lbl); }},
+        {2, Mouse_Button::Left, false, false, close},
+    };
+    for (Label Tooltips_Page::*label : {&Tooltips_Page::TipExample_Lbl, &Tooltips_Page::TipBoxExample_Lbl})
+        for (const auto &row : rows) {
+            SCOPED_TRACE(row.kind);
+            Tooltips_Page &now = Open(Settings_Frm::tooltips_fra).Tooltips;
+            Label &example = now.*label;
+            Push(*dialog, now.Tips_Opt[row.kind], true);
+            EXPECT_EQ(example.Tooltip(), row.tooltip ? "This is an example." : "");
+            if (row.meanwhile)
+                Desktop().messages.push_back(row.meanwhile);
+            Press(*dialog, example, row.button);
+            EXPECT_EQ(form.Balloon_Showing(), row.shows);
+            EXPECT_EQ(form.Balloon.Title_Lbl.Caption(), row.shows ? "5/3/2002" : "");
+            Tell(*dialog, Input_Kind::Capture_Lost);
+            EXPECT_FALSE(form.Balloon_Showing());
+            form.Balloon.Title_Lbl.Set_Caption("");
+        }
+}
+
+TEST_F(Settings_Window, opens_the_authors_page_by_mouse_and_keyboard) {
+    About_Page &page = Open(Settings_Frm::about_fra).About;
+    Click(*dialog, page.Link_Lbl);
+    Push(*dialog, page.Link_Lbl); // the space bar
+    EXPECT_EQ(Shell().web_pages.size(), 2U);
+}
+
+} // namespace

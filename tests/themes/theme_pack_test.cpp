@@ -1,0 +1,123 @@
+// Theme packs: names, lookups in settings.ini, and the one bitmap that is made of a month's picture.
+#include "platform/files.h"
+#include "tests/fakes/fake_test.h"
+#include "themes/theme_pack.h"
+
+namespace {
+
+class Theme_Pack : public Fake_Test {
+protected:
+    static std::string In_Pack(const std::string &name) { return "C:\\Vellatro\\Hills\\" + name; }
+
+    static bool Has(const std::string &name) { return Fakes().files.contains(In_Pack(name)); }
+
+    std::string Details(std::int16_t month, const std::string &pack = "Hills") {
+        return Get_Paper_Details(month, pack, [this] { ++removals; });
+    }
+
+    int removals = 0;
+};
+
+TEST_F(Theme_Pack, Names_Lead_Nowhere_Else) {
+    for (const char *name : {"Default", "a", "A b.c",
+                             "\xC3\x9C"
+                             "bung",
+                             "COM", "COM10", "Console", "xCON"})
+        EXPECT_TRUE(Is_Pack_Name(name)) << name;
+    for (const char *name :
+         {"",    ".",       "..",     " a",   "a ",       ".a",          "a.",    "a\\b", "a/b",
+          "C:",  "C:a",     "a*",     "a?",   "a\"",      "a<",          "a|",    "a\nb", "\x7F",
+          "con", "NUL.txt", "Aux .x", "lpt0", "COM9.a.b", "COM\xC2\xB2", "conin$"})
+        EXPECT_FALSE(Is_Pack_Name(name)) << name;
+    for (const char *name : {"b", "A", "c\\more", "none"})
+        Fakes().files[std::string("C:\\Vellatro\\") + name + "\\settings.ini"] = "";
+    Fakes().files.erase("C:\\Vellatro\\none\\settings.ini");
+    Fakes().folders = {"C:\\Vellatro\\none", "C:\\Vellatro\\d", "C:\\Vellatro\\d\\settings.ini"};
+    EXPECT_EQ(Find_Packs(), (std::vector<std::string>{"A", "b"}));
+}
+
+TEST_F(Theme_Pack, Details_Are_Read_Field_By_Field) {
+    const struct {
+        const char *bytes, *march;
+    } cases[] = {{"3=2-4-1\r\n3=1-0-2\r\n", "1-0-2"},
+                 {"1=a,3=b,\"3=c,d\"\n13=e", "c,d"},
+                 {"[x]\r\n3=1-1-1\r\n", ""},
+                 {"3=1-1-1\r\n\r\n3=2-2-2", "1-1-1"},
+                 {"\xEF\xBB\xBF 03 =1=2,three=x", "1=2"},
+                 {"33=1-1-1,3x=1", ""},
+                 {"", ""}};
+    for (const auto &[bytes, march] : cases) {
+        Fakes().files[In_Pack("settings.ini")] = bytes;
+        EXPECT_EQ(Details(3), march) << bytes;
+    }
+    const struct {
+        const char *value, *style, *position, *mode;
+    } values[] = {{"2-4-1", "2", "4", "1"},     {"", "", "", ""},
+                  {"2", "2", "", ""},           {"--", "", "", ""},
+                  {"1-7-2-3", "1", "7", "2-3"}, {"1-12", "1", "12", ""}};
+    for (const auto &[value, style, position, mode] : values) {
+        EXPECT_EQ(Get_Paper_BoxStyle(value), style) << value;
+        EXPECT_EQ(Get_Paper_Pos(value), position) << value;
+        EXPECT_EQ(Get_Paper_DisplayMode(value), mode) << value;
+    }
+}
+
+TEST_F(Theme_Pack, A_Missing_Pack_Ends_The_Use_Of_Themes) {
+    for (const char *pack : {"..", "", "Hills\\..\\Hills", "Gone"}) {
+        // As the system would, it finds a folder under the first three names.
+        if (pack != std::string("Gone"))
+            Fakes().files["C:\\Vellatro\\" + std::string(pack) + "\\settings.ini"] = "3=1-1-1";
+        Cur_Settings.Use_Themes = 1;
+        Fakes().registry.clear();
+        Fakes().Expect_Box("Missing Theme " + std::string(pack) + ". Themes will now be disabled.");
+        EXPECT_EQ(Details(3, pack), "ERROR");
+        ASSERT_FALSE(Fakes().boxes.empty());
+        EXPECT_EQ(Fakes().boxes.back().icon, platform::Box_Icon::Stop);
+        EXPECT_EQ(Fakes().registry["Software\\Vellatro\\Settings\\Use Themes"], "0");
+        EXPECT_EQ(Cur_Settings.Use_Themes, 0);
+    }
+    EXPECT_EQ(removals, 4);
+    EXPECT_EQ(Get_Paper_Path(3, "Hills\\..\\Hills"), "ERROR");
+}
+
+TEST_F(Theme_Pack, A_Settings_File_That_Cannot_Be_Read_Leaves_Themes_On) {
+    Fakes().folders = {"C:\\Vellatro\\Hills"};
+    const auto is_told = [this](const char *what) {
+        Fakes().Expect_Box("Error loading in Settings file...\r\n\r\n" + In_Pack("settings.ini"));
+        EXPECT_EQ(Details(3), "ERROR") << what;
+    };
+    is_told("missing");
+    Fakes().files[In_Pack("settings.ini")] = "3=1-1-1,\"4=1-1-1";
+    is_told("open quote");
+    Fakes().unreadable = {In_Pack("settings.ini")};
+    is_told("held");
+    EXPECT_EQ(Fakes().registry_writes + removals, 0);
+}
+
+TEST_F(Theme_Pack, One_Bitmap_At_A_Time_Is_Made_Of_A_Picture) {
+    const auto pixels = std::make_shared<const std::vector<std::uint8_t>>(
+        std::vector<std::uint8_t>{1, 2, 3, 4, 5, 6, 11, 12, 13, 14, 15, 16});
+    for (const char *name : {"3.jpg", "4.jpg"})
+        Fakes().pictures[In_Pack(name)] = {2, 2, pixels};
+    for (const char *name : {"2.bmp", "held.bmp", "x.BMP", "bmp", "4.jpg", "deeper\\1.bmp"})
+        Fakes().files[In_Pack(name)] = "old";
+    Fakes().unwritable = {In_Pack("held.bmp")};
+    for (int i = 0; i < 2; ++i)
+        EXPECT_EQ(Get_Paper_Path(3, "Hills"), In_Pack("3.bmp"));
+    EXPECT_EQ(Fakes().loads, 1);
+    const std::string &bytes = Fakes().files[In_Pack("3.bmp")];
+    ASSERT_EQ(bytes.size(), 70U);
+    EXPECT_EQ(bytes.substr(0, 14), std::string("BM\x46\0\0\0\0\0\0\0\x36\0\0\0", 14));
+    EXPECT_EQ(bytes.substr(14, 16), std::string("\x28\0\0\0\2\0\0\0\2\0\0\0\1\0\x18\0", 16));
+    EXPECT_EQ(bytes.substr(54), std::string("\xB\xC\xD\xE\xF\x10\0\0\1\2\3\4\5\6\0\0", 16));
+    EXPECT_FALSE(Has("2.bmp"));
+    for (const char *name : {"held.bmp", "x.BMP", "bmp", "4.jpg", "deeper\\1.bmp"})
+        EXPECT_TRUE(Has(name)) << name;
+    Get_Paper_Path(4, "Hills");
+    EXPECT_TRUE(Has("4.bmp") && !Has("3.bmp"));
+    EXPECT_THROW(Get_Paper_Path(5, "Hills"), platform::Picture_Error);
+    Fakes().unwritable = {In_Pack("3.bmp")};
+    EXPECT_THROW(Get_Paper_Path(3, "Hills"), platform::File_Error);
+}
+
+} // namespace

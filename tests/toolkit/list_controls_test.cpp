@@ -1,0 +1,137 @@
+// The controls of larger dialogs: what they make of the user's and of the program's choices, in their frames.
+#include "tests/fakes/form_test.h"
+#include "toolkit/form.h"
+#include "toolkit/list_controls.h"
+
+using platform::Input_Kind;
+using platform::Mouse_Button;
+
+namespace {
+
+struct Dialog : Form {
+    explicit Dialog(platform::Form_Kind kind = platform::Form_Kind::Dialog) : Form(kind, "Dialog") {
+        for (Control *control : std::initializer_list<Control *>{&inner, &second, &box})
+            control->Set_Container(outer);
+        for (Control *control : std::initializer_list<Control *>{&third, &fourth, &list, &picture})
+            control->Set_Container(inner);
+        for (Control *control : Controls())
+            control->On_Click = [this, control] { heard += control->Name() + " "; };
+        box.On_Change = [this] { heard += "box=" + box.Text() + " "; };
+        picture.Move({0, 0, 300, 300});
+    }
+    std::string heard;
+    Option_Button first{*this, "first"};
+    Frame outer{*this, "outer"};
+    Option_Button second{*this, "second"};
+    Combo_Box box{*this, "box"};
+    Frame inner{*this, "inner"};
+    Option_Button third{*this, "third"}, fourth{*this, "fourth"};
+    List_Box list{*this, "list"};
+    Picture_Box picture{*this, "picture"};
+};
+
+class List_Controls : public Form_Test {
+protected:
+    void Mouse_Up_At(platform::Point point) {
+        platform::Input_Event event{};
+        event.kind = Input_Kind::Mouse_Up;
+        event.button = Mouse_Button::Left;
+        event.control = form.picture.State().index;
+        event.point = point;
+        form.Input(event);
+    }
+    Dialog form;
+};
+
+TEST_F(List_Controls, options_exclude_each_other_in_their_frame_only) {
+    for (Option_Button *option : {&form.first, &form.second, &form.third})
+        option->Set_Checked(true);
+    EXPECT_EQ(form.heard, "");
+    Push(form, form.fourth, true);
+    EXPECT_EQ(form.heard, "fourth ");
+    EXPECT_TRUE(form.first.Checked() && form.second.Checked() && form.fourth.Checked());
+    EXPECT_FALSE(form.third.Checked());
+}
+
+TEST_F(List_Controls, a_combo_box_keeps_text_and_item_together) {
+    for (const bool editable : {false, true}) {
+        Dialog dialog;
+        if (editable)
+            dialog.box.Set_Editable();
+        dialog.box.Set_Items({"a", "b", "c"});
+        const auto is = [&](const char *text, int selected) {
+            return dialog.box.Text() == text && dialog.box.Selected() == selected;
+        };
+        dialog.box.Set_Text("b");
+        EXPECT_TRUE(is("b", 1));
+        dialog.box.Set_Text("other");
+        EXPECT_TRUE(editable ? is("other", -1) : is("b", 1));
+        EXPECT_EQ(dialog.heard, "");
+        Choose(dialog, dialog.box, 2);
+        EXPECT_TRUE(is("c", 2));
+        Choose(dialog, dialog.box, 3); // is none
+        Enter_Text(dialog, dialog.box, "a");
+        EXPECT_TRUE(editable ? is("a", -1) : is("c", 2));
+        EXPECT_EQ(dialog.heard, editable ? "box box=a " : "box ");
+        dialog.box.Set_Items({"x"});
+        EXPECT_TRUE(is(editable ? "a" : "", -1));
+    }
+}
+
+TEST_F(List_Controls, hidden_and_disabled_frames_take_nothing_for_what_they_hold) {
+    form.list.Set_Items({"a", "b"});
+    const auto use = [this] {
+        form.heard.clear();
+        Push(form, form.third, true);
+        Choose(form, form.list, 1);
+        Click(form, form.picture);
+        return form.heard;
+    };
+    EXPECT_EQ(use(), "third list picture ");
+    for (Frame *frame : {&form.outer, &form.inner}) {
+        frame->Set_Visible(false);
+        EXPECT_EQ(use(), "");
+        frame->Set_Visible(true);
+        frame->Set_Enabled(false);
+        EXPECT_EQ(use(), "");
+        frame->Set_Enabled(true);
+    }
+}
+
+TEST_F(List_Controls, a_painted_control_is_clicked_where_it_is_released_inside) {
+    for (const platform::Point point : {platform::Point{0, 0}, {299, 299}, {300, 10}, {-1, 10}}) {
+        form.heard.clear();
+        Press(form, form.picture);
+        Mouse_Up_At(point);
+        EXPECT_EQ(form.heard, point.x >= 0 && point.x < 300 ? "picture " : "") << point.x;
+    }
+    form.heard.clear();
+    Mouse_Up_At({10, 10}); // without its press
+    Click(form, form.picture, Mouse_Button::Right);
+    EXPECT_EQ(form.heard, "");
+}
+
+TEST_F(List_Controls, a_blocked_form_takes_nothing_but_what_the_system_says) {
+    form.Show();
+    Dialog blocked(platform::Form_Kind::Painted);
+    blocked.Show();
+    std::string &heard = blocked.heard;
+    blocked.picture.Move({0, 0, 300, 300});
+    blocked.On_Key_Down = [&](const platform::Input_Event &) { heard += "key "; };
+    blocked.On_Dots_Changed = [&] { heard += "dots "; };
+    blocked.On_Close = [&] { heard += "close "; };
+    const auto use = [&] {
+        heard.clear();
+        Click(blocked, blocked.picture);
+        Press_Key(blocked, 13);
+        for (const Input_Kind kind : {Input_Kind::Dots_Changed, Input_Kind::Close})
+            Tell(blocked, kind);
+        return heard;
+    };
+    blocked.Set_Blocked_By(&form);
+    EXPECT_EQ(use(), "dots close ");
+    blocked.Set_Blocked_By(nullptr);
+    EXPECT_EQ(use(), "picture key dots close ");
+}
+
+} // namespace

@@ -1,0 +1,165 @@
+// The lookups in a theme pack, and its bitmaps.
+#include "themes/theme_pack.h"
+
+#include "core/convert.h"
+#include "core/sequential.h"
+#include "core/settings.h"
+#include "platform/files.h"
+#include "platform/message_box.h"
+#include "platform/pictures.h"
+#include "themes/bitmap.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+namespace {
+
+constexpr const char *settings_file = "settings.ini";
+constexpr std::string_view bitmap_ending = ".bmp";
+
+char Capital(char c) {
+    return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
+}
+
+std::string Capitals(std::string_view text) {
+    std::string capitals(text);
+    std::transform(capitals.begin(), capitals.end(), capitals.begin(), Capital);
+    return capitals;
+}
+
+/// Whether the system takes the name for a device, in every folder and with any ending.
+bool Is_Device(std::string_view name) {
+    std::string base = Capitals(name.substr(0, name.find('.')));
+    base.erase(base.find_last_not_of(' ') + 1);
+    if (base.starts_with("COM") || base.starts_with("LPT")) {
+        // Small raised digits count too.
+        constexpr std::array<std::string_view, 13> numbers{
+            "0", "1", "2", "3", "4", "5", "6", "7", "8", "9", "\xC2\xB9", "\xC2\xB2", "\xC2\xB3"};
+        return std::find(numbers.begin(), numbers.end(), std::string_view(base).substr(3)) != numbers.end();
+    }
+    constexpr std::array<std::string_view, 6> devices{"CON", "PRN", "AUX", "NUL", "CONIN$", "CONOUT$"};
+    return std::find(devices.begin(), devices.end(), base) != devices.end();
+}
+
+std::string Pack_Folder(const std::string &pack) {
+    return platform::Program_Folder() + "\\" + pack;
+}
+
+/// What is not like the other settings' whole numbers is no month.
+bool Is_Month(std::string_view key, std::int16_t month) {
+    try {
+        return To_Int32(key) == month;
+    } catch (const Conversion_Error &) {
+        return false;
+    }
+}
+
+std::string Tell_Missing_Pack(const std::string &pack, const std::function<void()> &remove_wallpaper) {
+    platform::Message_Box("Missing Theme " + pack + ". Themes will now be disabled.", "Vellatro",
+                          platform::Box_Icon::Stop);
+    // Also where the store takes no change, so that it is not told again until the next start.
+    Cur_Settings.Use_Themes = 0;
+    remove_wallpaper();
+    Save_Setting("Use Themes");
+    return Theme_Error;
+}
+
+} // namespace
+
+bool Is_Pack_Name(std::string_view name) {
+    const auto is_edge = [](char c) { return c == ' ' || c == '.'; };
+    const auto is_bad = [](char c) {
+        return (c >= 0 && c < ' ') || c == '\x7F' ||
+               std::string_view("\\/:*?\"<>|").find(c) != std::string_view::npos;
+    };
+    return !name.empty() && !is_edge(name.front()) && !is_edge(name.back()) &&
+           std::none_of(name.begin(), name.end(), is_bad) && !Is_Device(name);
+}
+
+std::vector<std::string> Find_Packs() {
+    std::vector<std::string> packs =
+        platform::Names_In_Folder(platform::Program_Folder(), platform::Listed::Folders);
+    std::erase_if(packs, [](const std::string &name) {
+        return !Is_Pack_Name(name) || !platform::File_Exists(Pack_File(name, settings_file));
+    });
+    std::sort(packs.begin(), packs.end(), [](const std::string &a, const std::string &b) {
+        return std::pair(Capitals(a), a) < std::pair(Capitals(b), b);
+    });
+    return packs;
+}
+
+std::string Pack_File(const std::string &pack, const std::string &name) {
+    return Pack_Folder(pack) + "\\" + name;
+}
+
+std::string Month_Details(std::string_view bytes, std::int16_t month) {
+    std::string_view details;
+    Sequential_Reader reader(bytes);
+    for (std::string_view item; reader.Next(item);) {
+        const std::size_t equals = item.find('=');
+        if (equals == std::string_view::npos)
+            break;
+        if (Is_Month(item.substr(0, equals), month))
+            details = item.substr(equals + 1);
+    }
+    return std::string(details);
+}
+
+std::string Get_Paper_Details(std::int16_t month, const std::string &pack,
+                              const std::function<void()> &remove_wallpaper) {
+    if (!Is_Pack_Name(pack) || !platform::Folder_Exists(Pack_Folder(pack)))
+        return Tell_Missing_Pack(pack, remove_wallpaper);
+    const std::string path = Pack_File(pack, settings_file);
+    try {
+        if (platform::File_Exists(path))
+            return Month_Details(platform::Read_File(path), month);
+    } catch (const platform::File_Error &) {
+        // To the user a file that cannot be read is as good as missing.
+    } catch (const Sequential_Error &) {
+    }
+    platform::Message_Box("Error loading in Settings file...\r\n\r\n" + path, "Vellatro",
+                          platform::Box_Icon::Stop);
+    return Theme_Error;
+}
+
+std::string Get_Paper_BoxStyle(std::string_view details) {
+    return std::string(details.substr(0, details.find('-')));
+}
+
+std::string Get_Paper_Pos(std::string_view details) {
+    const std::size_t first = details.find('-');
+    return first == std::string_view::npos ? std::string() : Get_Paper_BoxStyle(details.substr(first + 1));
+}
+
+std::string Get_Paper_DisplayMode(std::string_view details) {
+    const std::size_t first = details.find('-');
+    const std::size_t second = first == std::string_view::npos ? first : details.find('-', first + 1);
+    return second == std::string_view::npos ? std::string() : std::string(details.substr(second + 1));
+}
+
+std::string Get_Paper_Path(std::int16_t month, const std::string &pack) {
+    if (!Is_Pack_Name(pack))
+        return Theme_Error;
+    const std::string number = std::to_string(month);
+    const std::string path = Pack_File(pack, number + std::string(bitmap_ending));
+    if (platform::File_Exists(path))
+        return path;
+    Delete_Old_Bmps(pack);
+    platform::Replace_File(path, Bitmap_Bytes(platform::Load_Picture(Pack_File(pack, number + ".jpg"))));
+    return path;
+}
+
+void Delete_Old_Bmps(const std::string &pack) {
+    if (!Is_Pack_Name(pack))
+        return;
+    for (const std::string &name : platform::Names_In_Folder(Pack_Folder(pack), platform::Listed::Files)) {
+        if (!name.ends_with(bitmap_ending))
+            continue;
+        try {
+            platform::Delete_File(Pack_File(pack, name));
+        } catch (const platform::File_Error &) {
+            // One that another program holds goes the next time.
+        }
+    }
+}

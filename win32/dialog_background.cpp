@@ -1,0 +1,121 @@
+// The colours behind the native controls of dialogs. The body of a tab strip need not have the dialog's
+// colour: what lies on it takes the colour that the system gives the body.
+#include "win32/canvas.h"
+#include "win32/dialog_window.h"
+#include "win32/units.h"
+
+#include <commctrl.h>
+
+namespace win32 {
+
+using platform::Control_Kind;
+using platform::Control_State;
+
+namespace {
+
+constexpr platform::Colour usual_fore_colour = platform::System_Colour(18);
+constexpr platform::Colour usual_back_colour = platform::System_Colour(15);
+
+/// The kinds that show what is behind them.
+bool Shows_Background(const Control_State &control) {
+    switch (control.kind) {
+    case Control_Kind::Text_Box:
+    case Control_Kind::Combo_Box:
+    case Control_Kind::List_Box:
+    case Control_Kind::Tab_Strip:
+    case Control_Kind::Progress_Bar:
+        return false;
+    default:
+        return true;
+    }
+}
+
+} // namespace
+
+RECT Dialog_Window::Page_Of(const Control_State &tab_strip) const {
+    RECT page = To_Pixels(platform::Place_On_Form(*Model(), tab_strip));
+    SendMessageW(Control_Window(tab_strip.index), TCM_ADJUSTRECT, FALSE, reinterpret_cast<LPARAM>(&page));
+    return page;
+}
+
+void Dialog_Window::Find_Page_Colour() {
+    page_colour_ = GetSysColor(COLOR_BTNFACE);
+    page_brush_.Reset();
+    const Control_State *tabs = Tab_Strip();
+    if (tabs == nullptr)
+        return;
+    // The tab strip paints itself where only the middle of its body lands on a bitmap.
+    const RECT place = To_Pixels(platform::Place_On_Form(*Model(), *tabs));
+    const RECT page = Page_Of(*tabs);
+    const int x = static_cast<int>((page.left + page.right) / 2 - place.left);
+    const int y = static_cast<int>((page.top + page.bottom) / 2 - place.top);
+    Pixel_Buffer pixels;
+    const Unique_Bitmap bitmap = Make_Pixel_Bitmap(1, 1, pixels);
+    const Unique_Memory_Dc dc(CreateCompatibleDC(nullptr));
+    if (!bitmap || !dc)
+        return;
+    const Selected_Object selected(dc.Get(), bitmap.Get());
+    SetPixel(dc.Get(), 0, 0, page_colour_);
+    SetViewportOrgEx(dc.Get(), -x, -y, nullptr);
+    SendMessageW(Control_Window(tabs->index), WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc.Get()),
+                 PRF_CLIENT | PRF_ERASEBKGND);
+    page_colour_ = GetPixel(dc.Get(), x, y);
+    page_brush_.Reset(CreateSolidBrush(page_colour_));
+}
+
+bool Dialog_Window::On_Page(const Control_State &control) const {
+    const Control_State *tabs = Tab_Strip();
+    if (tabs == nullptr || tabs == &control || !page_brush_ || !platform::Is_Shown(*Model(), *tabs))
+        return false;
+    const RECT page = Page_Of(*tabs);
+    const RECT place = To_Pixels(platform::Place_On_Form(*Model(), control));
+    return PtInRect(&page, {(place.left + place.right) / 2, (place.top + place.bottom) / 2}) != FALSE;
+}
+
+bool Dialog_Window::Erase(HDC dc) {
+    const Control_State *tabs = Tab_Strip();
+    if (tabs == nullptr || !page_brush_ || !platform::Is_Shown(*Model(), *tabs))
+        return false;
+    const RECT page = Page_Of(*tabs);
+    FillRect(dc, &page, page_brush_.Get());
+    const int before = SaveDC(dc);
+    ExcludeClipRect(dc, page.left, page.top, page.right, page.bottom);
+    DefDlgProcW(window_, WM_ERASEBKGND, reinterpret_cast<WPARAM>(dc), 0);
+    RestoreDC(dc, before);
+    return true;
+}
+
+LRESULT Dialog_Window::Colour_Control(UINT message, HDC dc, HWND window, LRESULT usual) {
+    const Control_State *control = Control_Of(window);
+    if (control == nullptr || !Shows_Background(*control))
+        return usual;
+    const bool label = control->kind == Control_Kind::Label && message == WM_CTLCOLORSTATIC;
+    if (label && control->fore_colour != usual_fore_colour)
+        SetTextColor(dc, static_cast<COLORREF>(platform::Resolve_Colour(control->fore_colour)));
+    if (!label || control->painted || control->back_colour == usual_back_colour || control->transparent) {
+        if (!On_Page(*control))
+            return usual;
+        SetBkColor(dc, page_colour_);
+        return reinterpret_cast<LRESULT>(page_brush_.Get());
+    }
+    Native &native = natives_[static_cast<std::size_t>(control->index)];
+    const auto back = static_cast<COLORREF>(platform::Resolve_Colour(control->back_colour));
+    if (!native.brush)
+        native.brush.Reset(CreateSolidBrush(back));
+    SetBkColor(dc, back);
+    return reinterpret_cast<LRESULT>(native.brush.Get());
+}
+
+void Dialog_Window::Colours_Changed(UINT message, WPARAM wparam, LPARAM lparam) {
+    for (Native &native : natives_) {
+        native.brush.Reset();
+        // The system tells the dialog alone; the common controls keep colours too. A new theme is told to
+        // all.
+        if (message == WM_SYSCOLORCHANGE && native.window != nullptr && !native.painted)
+            SendMessageW(native.window, message, wparam, lparam);
+    }
+    Find_Page_Colour();
+    RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN | RDW_FRAME);
+}
+
+} // namespace win32

@@ -1,0 +1,193 @@
+// Painting, mouse and keyboard of controls of a dialog that paint themselves.
+#include "win32/painted_child.h"
+
+#include "win32/canvas.h"
+#include "win32/modal.h"
+#include "win32/units.h"
+
+namespace win32 {
+
+using platform::Control_State;
+using platform::Input_Event;
+using platform::Input_Kind;
+
+namespace {
+
+constexpr wchar_t class_name[] = L"Vellatro_Painted";
+
+void Register_Class(WNDPROC procedure) {
+    WNDCLASSEXW window_class = {};
+    window_class.cbSize = sizeof window_class;
+    const HINSTANCE instance = GetModuleHandleW(nullptr);
+    if (GetClassInfoExW(instance, class_name, &window_class))
+        return;
+    constexpr WORD arrow = 32512;
+    window_class = {};
+    window_class.cbSize = sizeof window_class;
+    window_class.style = CS_DBLCLKS;
+    window_class.lpfnWndProc = procedure;
+    window_class.hInstance = instance;
+    window_class.hCursor = LoadCursorW(nullptr, MAKEINTRESOURCEW(arrow));
+    window_class.lpszClassName = class_name;
+    RegisterClassExW(&window_class);
+}
+
+} // namespace
+
+HWND Painted_Child::Make(HWND parent, int id) {
+    Register_Class(Procedure);
+    window_ = CreateWindowExW(0, class_name, nullptr, WS_CHILD, 0, 0, 0, 0, parent,
+                              reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), GetModuleHandleW(nullptr),
+                              nullptr);
+    if (window_ != nullptr)
+        SetWindowLongPtrW(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+    return window_;
+}
+
+LRESULT CALLBACK Painted_Child::Procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
+    auto *child = reinterpret_cast<Painted_Child *>(GetWindowLongPtrW(window, GWLP_USERDATA));
+    if (child == nullptr || child->owner_->Model() == nullptr)
+        return DefWindowProcW(window, message, wparam, lparam);
+    try {
+        // A handler may close the dialog.
+        const std::shared_ptr<Mirror> keep = child->owner_->shared_from_this();
+        return child->Handle(message, wparam, lparam);
+    } catch (...) {
+        // Only want of memory comes here. The system's code above cannot pass an exception on.
+    }
+    return DefWindowProcW(window, message, wparam, lparam);
+}
+
+const Control_State &Painted_Child::Control() const {
+    return *owner_->Model()->controls[static_cast<std::size_t>(index_)];
+}
+
+LRESULT Painted_Child::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
+    if (Handle_Input(message, wparam, lparam))
+        return 0;
+    switch (message) {
+    case WM_ERASEBKGND:
+        return 1;
+    case WM_PAINT:
+        Paint();
+        return 0;
+    case WM_PRINTCLIENT: {
+        RECT all = {};
+        GetClientRect(window_, &all);
+        Paint_On(reinterpret_cast<HDC>(wparam), all);
+        return 0;
+    }
+    case WM_GETDLGCODE:
+        return Control().tab_stop ? DLGC_WANTARROWS : DLGC_STATIC;
+    case WM_SETFOCUS:
+    case WM_KILLFOCUS:
+    case WM_ENABLE:
+    case WM_UPDATEUISTATE:
+        InvalidateRect(window_, nullptr, FALSE);
+        break;
+    default:
+        break;
+    }
+    return DefWindowProcW(window_, message, wparam, lparam);
+}
+
+bool Painted_Child::Handle_Input(UINT message, WPARAM wparam, LPARAM lparam) {
+    // A message box does not disable the calendar's other windows everywhere, so each holds still itself.
+    const bool modal = Open_Modal_Boxes > 0;
+    if (Mouse_Input::Is_Mouse(message)) {
+        if (!modal)
+            Mouse(message, wparam, lparam);
+        return true;
+    }
+    if (message == WM_KEYDOWN) {
+        if (!modal)
+            Key_Down(wparam, lparam);
+        return true;
+    }
+    if (message == WM_CAPTURECHANGED) {
+        if (mouse_.Capture_Lost())
+            owner_->Send(Input_Kind::Capture_Lost);
+        return true;
+    }
+    return false;
+}
+
+void Painted_Child::Mouse(UINT message, WPARAM wparam, LPARAM lparam) {
+    Input_Event event{};
+    if (!mouse_.Take(window_, message, wparam, lparam, event))
+        return;
+    const bool pressed = event.kind == Input_Kind::Mouse_Down || event.kind == Input_Kind::Double_Click;
+    if (pressed && Control().tab_stop && GetFocus() != window_)
+        SendMessageW(GetParent(window_), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(window_), TRUE);
+    event.control = index_;
+    owner_->Send(event);
+}
+
+void Painted_Child::Key_Down(WPARAM wparam, LPARAM lparam) {
+    Input_Event event = Key_Event(true, wparam, lparam);
+    event.control = index_;
+    if (wparam == VK_SPACE) {
+        if (event.repeated)
+            return;
+        event = Event_Of(Input_Kind::Clicked);
+        event.control = index_;
+    }
+    owner_->Send(event);
+}
+
+void Painted_Child::Paint() {
+    PAINTSTRUCT paint = {};
+    const HDC target = BeginPaint(window_, &paint);
+    if (target == nullptr)
+        return;
+    Leave_Later_Ones_Out(target);
+    Paint_On(target, paint.rcPaint);
+    EndPaint(window_, &paint);
+}
+
+/// The controls that lie over this one are windows beside it, and would flicker.
+void Painted_Child::Leave_Later_Ones_Out(HDC target) const {
+    const platform::Form_Model &model = *owner_->Model();
+    const Control_State &self = Control();
+    const HWND parent = GetParent(window_);
+    for (std::size_t i = static_cast<std::size_t>(index_) + 1; i < model.controls.size(); ++i) {
+        const Control_State &other = *model.controls[i];
+        if (other.container != self.container || !other.visible || !other.bounds.Intersects(self.bounds))
+            continue;
+        const HWND window = GetDlgItem(parent, GetDlgCtrlID(window_) - index_ + static_cast<int>(i));
+        RECT place = {};
+        if (window == nullptr || !GetWindowRect(window, &place))
+            continue;
+        MapWindowPoints(nullptr, window_, reinterpret_cast<POINT *>(&place), 2);
+        ExcludeClipRect(target, place.left, place.top, place.right, place.bottom);
+    }
+}
+
+void Painted_Child::Paint_On(HDC target, const RECT &area) {
+    if (area.left >= area.right || area.top >= area.bottom)
+        return;
+    platform::Canvas canvas(area);
+    if (!canvas.Ok())
+        return;
+    // The dialog tells its background, as it does to the system's own controls.
+    const LRESULT brush =
+        SendMessageW(GetParent(window_), WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(canvas.Dc()),
+                     reinterpret_cast<LPARAM>(window_));
+    FillRect(canvas.Dc(), &area, reinterpret_cast<HBRUSH>(brush));
+    SetBkMode(canvas.Dc(), TRANSPARENT);
+    const Control_State &control = Control();
+    if (control.paint)
+        control.paint(canvas, To_Covering_Twips(area));
+    const auto cues = static_cast<unsigned>(SendMessageW(window_, WM_QUERYUISTATE, 0, 0));
+    if (GetFocus() == window_ && (cues & UISF_HIDEFOCUS) == 0) {
+        RECT inside = {};
+        GetClientRect(window_, &inside);
+        InflateRect(&inside, -1, -1);
+        SetTextColor(canvas.Dc(), RGB(0, 0, 0));
+        SetBkColor(canvas.Dc(), RGB(255, 255, 255));
+        DrawFocusRect(canvas.Dc(), &inside);
+    }
+    canvas.Put_On(target);
+}
+
+} // namespace win32

@@ -1,0 +1,37 @@
+// The window of a control of a dialog that paints itself. The painting and the answers are the control's.
+#pragma once
+
+#include "platform/forms.h"
+#include "win32/mirror.h"
+#include "win32/mouse_input.h"
+
+namespace win32 {
+
+class Painted_Child {
+public:
+    /// Of the control with this index in the form of `owner`, which lives longer.
+    Painted_Child(Mirror &owner, int index) : owner_(&owner), index_(index) {}
+    Painted_Child(const Painted_Child &) = delete;
+    Painted_Child &operator=(const Painted_Child &) = delete;
+
+    /// Makes the window, hidden and without a place. Null when the system refuses.
+    HWND Make(HWND parent, int id);
+
+private:
+    static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam);
+    LRESULT Handle(UINT message, WPARAM wparam, LPARAM lparam);
+    bool Handle_Input(UINT message, WPARAM wparam, LPARAM lparam);
+    void Mouse(UINT message, WPARAM wparam, LPARAM lparam);
+    void Key_Down(WPARAM wparam, LPARAM lparam);
+    void Paint();
+    void Paint_On(HDC target, const RECT &area);
+    void Leave_Later_Ones_Out(HDC target) const;
+    const platform::Control_State &Control() const;
+
+    Mirror *owner_;
+    int index_;
+    HWND window_ = nullptr;
+    Mouse_Input mouse_;
+};
+
+} // namespace win32

@@ -1,0 +1,29 @@
+// The text that floats beside a slider's thumb while it is moved.
+#pragma once
+
+#include "win32/handles.h"
+
+#include <string>
+
+namespace win32 {
+
+class Slider_Tip {
+public:
+    Slider_Tip() = default;
+    Slider_Tip(const Slider_Tip &) = delete;
+    Slider_Tip &operator=(const Slider_Tip &) = delete;
+    ~Slider_Tip() { Hide(); }
+
+    /// Shows the text above the slider's thumb, or moves it there. An empty text is none.
+    void Show(HWND slider, std::wstring text);
+    void Hide();
+    /// Whether it floats over this slider.
+    bool Is_Over(HWND slider) const { return window_ != nullptr && slider_ == slider; }
+
+private:
+    HWND window_ = nullptr; ///< made for one movement
+    HWND slider_ = nullptr;
+    std::wstring text_;
+};
+
+} // namespace win32
