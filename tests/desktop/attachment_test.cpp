@@ -71,8 +71,9 @@ TEST_F(Attachment, Takes_Place_And_Colours_From_What_There_Is_Of_The_Shell) {
         bool splash_seen = false;
         ASSERT_TRUE(Wait_Until(
             [&] {
+                const bool there = program.Calendar() != nullptr; // the splash window comes first and stays
                 splash_seen = splash_seen || program.Window("Vellatro_Splash");
-                return program.Calendar() != nullptr;
+                return there;
             },
             15000));
         EXPECT_EQ(splash_seen, splash);
