@@ -79,7 +79,7 @@ public:
     /// Puts the events of the shown month into their boxes and alerts the user of today's.
     void Load_Dates();
     /// Takes one record in: into its box, if it belongs to the shown month, and as an alert, if it is
-    /// today's. Throws Conversion_Error or std::out_of_range for a malformed one.
+    /// today's. Throws Conversion_Error or another std::exception for a malformed one.
     void Enter_Date(std::string_view record, const Date &today);
     /// Shows the text that was saved for a day in its box, if that is one of the shown month.
     void Show_Saved(const Date &date, std::string_view text);

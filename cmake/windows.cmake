@@ -1,7 +1,7 @@
 # The program and, for the desktop tests, the programs that drive it.
 enable_language(RC)
 
-add_executable(vellatro WIN32 ${portable_sources} app/main.cpp)
+add_executable(vellatro WIN32 ${portable_sources} app/main.cpp app/cxx_runtime.cpp)
 file(GLOB win32_sources CONFIGURE_DEPENDS win32/*.cpp)
 target_sources(vellatro PRIVATE ${win32_sources} win32/vellatro.rc)
 set_source_files_properties(win32/vellatro.rc PROPERTIES

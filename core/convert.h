@@ -1,15 +1,16 @@
 // Conversion of stored texts to the program's types and back. What does not fit is an error, never a wrap.
 #pragma once
 
+#include "platform/error.h"
+
 #include <cstdint>
-#include <stdexcept>
 #include <string>
 #include <string_view>
 
 /// A text is no value of the wanted type. what() says what was expected.
-class Conversion_Error : public std::runtime_error {
+class Conversion_Error : public platform::Error {
 public:
-    using std::runtime_error::runtime_error;
+    using Error::Error;
 };
 
 /// Decimal text, with a sign and blanks around it allowed, as a 16-bit or 32-bit integer. Throws

@@ -2,14 +2,15 @@
 // items.
 #pragma once
 
-#include <stdexcept>
+#include "platform/error.h"
+
 #include <string>
 #include <string_view>
 
 /// A quoted item has no closing quote, or an item cannot be written.
-class Sequential_Error : public std::runtime_error {
+class Sequential_Error : public platform::Error {
 public:
-    using std::runtime_error::runtime_error;
+    using Error::Error;
 };
 
 /// Walks over the bytes of a file once. An item ends at a comma or a line end (CR LF, LF or CR); blanks

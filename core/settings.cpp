@@ -71,7 +71,7 @@ const Setting_Row &Setting_Row_Of(std::string_view key) {
     for (const Setting_Row &row : rows)
         if (row.key == key)
             return row;
-    throw std::out_of_range("there is no setting \"" + std::string(key) + "\"");
+    throw platform::Error("there is no setting \"" + std::string(key) + "\"");
 }
 
 std::string Setting_Text(const Settings &settings, const Setting_Row &row) {

@@ -3,10 +3,10 @@
 #pragma once
 
 #include "platform/colour.h"
+#include "platform/error.h"
 
 #include <cstdint>
 #include <span>
-#include <stdexcept>
 #include <string>
 #include <variant>
 
@@ -56,13 +56,13 @@ struct Setting_Row {
 /// The 25 rows in reading order.
 std::span<const Setting_Row> Setting_Rows();
 
-/// The row of a key. Throws std::out_of_range for an unknown key.
+/// The row of a key. Throws platform::Error for an unknown key.
 const Setting_Row &Setting_Row_Of(std::string_view key);
 
 /// A stored value is not of its key's type. what() names section, key, value and what was expected.
-class Setting_Error : public std::runtime_error {
+class Setting_Error : public platform::Error {
 public:
-    using std::runtime_error::runtime_error;
+    using Error::Error;
 };
 
 /// Reads all keys into Cur_Settings, absent ones with their defaults. Writes nothing. Throws Setting_Error at

@@ -2,7 +2,8 @@
 // way to write into the middle of a file.
 #pragma once
 
-#include <stdexcept>
+#include "platform/error.h"
+
 #include <string>
 #include <string_view>
 #include <vector>
@@ -11,9 +12,9 @@ namespace platform {
 
 /// A file could not be read or written. what() names the file and the system's reason, in the user's
 /// language.
-class File_Error : public std::runtime_error {
+class File_Error : public Error {
 public:
-    using std::runtime_error::runtime_error;
+    using Error::Error;
 };
 
 /// The folder that holds the running program, without a separator at its end.

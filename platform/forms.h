@@ -5,6 +5,7 @@
 
 #include "platform/colour.h"
 #include "platform/drawing.h"
+#include "platform/error.h"
 #include "platform/geometry.h"
 
 #include <cstdint>
@@ -202,7 +203,7 @@ inline bool Is_Usable(const Form_Model &model, const Control_State &control) {
 }
 
 /// Makes the native window of a form, hidden or visible as the model says, with all its controls.
-/// Throws std::runtime_error with the system's reason when it cannot be made, and then there is none.
+/// Throws Error with the system's reason when it cannot be made, and then there is none.
 void Create_Mirror(Form_Model &model);
 
 /// Takes the native window down. Does nothing when there is none.

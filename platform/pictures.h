@@ -3,20 +3,20 @@
 #pragma once
 
 #include "platform/drawing.h"
+#include "platform/error.h"
 #include "platform/geometry.h"
 
 #include <cstdint>
 #include <memory>
-#include <stdexcept>
 #include <string>
 #include <vector>
 
 namespace platform {
 
 /// A picture could not be read. what() names the file and the reason.
-class Picture_Error : public std::runtime_error {
+class Picture_Error : public Error {
 public:
-    using std::runtime_error::runtime_error;
+    using Error::Error;
 };
 
 /// Pixels of three bytes (blue, green, red), rows from top to bottom without a gap. Copies share the pixels.

@@ -1,18 +1,19 @@
 // The registry: the user's part of it as texts, which the settings are, and single values anywhere in it.
 #pragma once
 
+#include "platform/error.h"
+
 #include <cstdint>
 #include <optional>
-#include <stdexcept>
 #include <string>
 #include <variant>
 
 namespace platform {
 
 /// A registry key could not be written. what() names the key and the system's reason.
-class Registry_Error : public std::runtime_error {
+class Registry_Error : public Error {
 public:
-    using std::runtime_error::runtime_error;
+    using Error::Error;
 };
 
 /// The text stored under HKEY_CURRENT_USER, `key` (parts joined by "\"), `name`; nothing when the key or the

@@ -1,11 +1,11 @@
 // Controls of one kind that share a name and are told apart by an index: Box_Lbl(0), Box_Lbl(1) ...
 #pragma once
 
+#include "platform/error.h"
 #include "toolkit/control.h"
 
 #include <cstddef>
 #include <deque>
-#include <stdexcept>
 #include <string>
 #include <string_view>
 
@@ -18,10 +18,10 @@ public:
             controls_.emplace_back(form, Element_Name(static_cast<int>(controls_.size())));
     }
 
-    /// Throws std::out_of_range for an index outside 0 to Count - 1.
+    /// Throws platform::Error for an index outside 0 to Count - 1.
     Control_Type &operator[](int index) {
         if (index < 0 || index >= static_cast<int>(Count))
-            throw std::out_of_range("There is no " + Element_Name(index) + ".");
+            throw platform::Error("There is no " + Element_Name(index) + ".");
         return controls_[static_cast<std::size_t>(index)];
     }
 

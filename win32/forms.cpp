@@ -1,6 +1,7 @@
 // The native windows of forms: their list, and the calls of the program that are passed on to them.
 #include "platform/forms.h"
 
+#include "platform/error.h"
 #include "win32/dialog_window.h"
 #include "win32/fonts.h"
 #include "win32/menu_images.h"
@@ -9,8 +10,6 @@
 #include "win32/system_error.h"
 #include "win32/units.h"
 #include "win32/wide_text.h"
-
-#include <stdexcept>
 
 namespace win32 {
 
@@ -51,7 +50,7 @@ HWND Window_Of_Form(const platform::Form_Model &model) {
 
 HWND Mirror::Made(HWND window) {
     if (window == nullptr)
-        throw std::runtime_error("The window cannot be made: " + System_Error_Text(GetLastError()));
+        throw platform::Error("The window cannot be made: " + System_Error_Text(GetLastError()));
     return window;
 }
 
@@ -65,7 +64,7 @@ LRESULT Mirror::Receive(HWND window, UINT message, WPARAM wparam, LPARAM lparam,
     if (mirror == nullptr)
         return usual(window, message, wparam, lparam);
     try {
-        const std::shared_ptr<Mirror> keep = mirror->shared_from_this();
+        const std::shared_ptr<Mirror> keep = mirror->weak_from_this().lock();
         if (message == WM_NCDESTROY) {
             SetWindowLongPtrW(window, GWLP_USERDATA, 0);
             mirror->Window_Gone();
@@ -95,7 +94,7 @@ void Mirror::Form_Changed(platform::Aspect aspect) {
 }
 
 void Mirror::Destroy() {
-    const std::shared_ptr<Mirror> keep = shared_from_this();
+    const std::shared_ptr<Mirror> keep = weak_from_this().lock();
     model_ = nullptr;
     Forget_Mirror(*this);
     if (window_ != nullptr && IsWindow(window_))
@@ -121,7 +120,7 @@ void Mirror::Window_Gone() {
     window_ = nullptr;
     if (model_ == nullptr)
         return;
-    const std::shared_ptr<Mirror> keep = shared_from_this();
+    const std::shared_ptr<Mirror> keep = weak_from_this().lock();
     const auto input = model_->input;
     model_ = nullptr;
     Forget_Mirror(*this);

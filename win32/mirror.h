@@ -9,8 +9,8 @@
 
 namespace win32 {
 
-/// The native window of one form. A window procedure keeps its mirror alive with shared_from_this while a
-/// handler runs: handlers may close their own form, after which Model() is null.
+/// The native window of one form. A window procedure keeps its mirror alive with weak_from_this().lock()
+/// while a handler runs: handlers may close their own form, after which Model() is null.
 class Mirror : public std::enable_shared_from_this<Mirror> {
 public:
     explicit Mirror(platform::Form_Model &model) : model_(&model) {}
@@ -21,7 +21,7 @@ public:
     platform::Form_Model *Model() const { return model_; }
     HWND Window() const { return window_; }
 
-    /// Makes the window with what it shows. Called once. Throws std::runtime_error when the system refuses.
+    /// Makes the window with what it shows. Called once. Throws platform::Error when the system refuses.
     virtual void Create() = 0;
     void Form_Changed(platform::Aspect aspect);
     virtual void Control_Changed(const platform::Control_State &control, platform::Aspect aspect,
@@ -41,7 +41,7 @@ public:
     void Send(platform::Input_Kind kind);
 
 protected:
-    /// A window that the system has just been asked for. Throws std::runtime_error when there is none.
+    /// A window that the system has just been asked for. Throws platform::Error when there is none.
     static HWND Made(HWND window);
     /// Takes a window that has just been made as this mirror's; from then on its messages arrive.
     void Adopt(HWND window);

@@ -50,7 +50,7 @@ LRESULT CALLBACK Painted_Child::Procedure(HWND window, UINT message, WPARAM wpar
         return DefWindowProcW(window, message, wparam, lparam);
     try {
         // A handler may close the dialog.
-        const std::shared_ptr<Mirror> keep = child->owner_->shared_from_this();
+        const std::shared_ptr<Mirror> keep = child->owner_->weak_from_this().lock();
         return child->Handle(message, wparam, lparam);
     } catch (...) {
         // Only want of memory comes here. The system's code above cannot pass an exception on.

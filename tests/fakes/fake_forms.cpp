@@ -6,7 +6,6 @@
 #include "toolkit/form.h"
 
 #include <algorithm>
-#include <stdexcept>
 
 using platform::Input_Kind;
 using platform::Mouse_Button;
@@ -141,7 +140,7 @@ namespace platform {
 
 void Create_Mirror(Form_Model &model) {
     if (Desktop().refuses_windows)
-        throw std::runtime_error("The window cannot be made");
+        throw Error("The window cannot be made");
     Require(!Desktop().mirrors.contains(&model), "a second native window for " + model.name);
     Desktop().mirrors[&model] = {model.visible, {}, model.visible, {}};
 }

@@ -122,7 +122,7 @@ TEST_F(Form_Test, the_mirror_is_told_of_the_program_s_changes_only_and_only_whil
 TEST_F(Form_Test, a_window_that_was_lost_or_refused_is_made_by_the_next_show) {
     Test_Form form;
     Desktop().refuses_windows = true;
-    EXPECT_THROW(form.Show(), std::runtime_error);
+    EXPECT_THROW(form.Show(), platform::Error);
     EXPECT_FALSE(form.Visible());
     form.Set_Title("nobody is told");
     Desktop().refuses_windows = false;
@@ -151,8 +151,8 @@ TEST_F(Form_Test, a_handler_may_end_its_own_form) {
 TEST_F(Form_Test, an_exception_of_a_handler_is_told_and_goes_no_further) {
     constexpr const char *unnamed = "Something went wrong, and the last action was not completed.";
     const std::pair<std::function<void()>, const char *> rows[] = {
-        {[] { throw std::runtime_error("It broke."); }, "It broke."},
-        {[] { throw std::runtime_error(""); }, unnamed},
+        {[] { throw platform::Error("It broke."); }, "It broke."},
+        {[] { throw platform::Error(""); }, unnamed},
         {[] { throw 7; }, unnamed},
         {[] { throw std::bad_alloc(); }, "There is not enough memory for this."},
     };

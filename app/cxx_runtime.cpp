@@ -1,0 +1,50 @@
+// What the program answers in the place of the C++ runtime, whose own versions bring 120 KB that it never
+// needs: the decoding of names for a text on a console, and exceptions that hold their text in a string class
+// of old. The linker takes these and leaves the library's out.
+#include "platform/error.h"
+
+#include <cstdlib>
+#include <new>
+
+namespace __gnu_cxx {
+
+void __verbose_terminate_handler();
+void __verbose_terminate_handler() {
+    std::abort();
+}
+
+} // namespace __gnu_cxx
+
+// Where std::string, std::vector and std::function find that they are used wrongly.
+namespace std {
+
+void __throw_length_error(const char *what) {
+    throw platform::Error(what);
+}
+
+void __throw_logic_error(const char *what) {
+    throw platform::Error(what);
+}
+
+void __throw_out_of_range(const char *what) {
+    throw platform::Error(what);
+}
+
+/// The text stays as it is written, without the numbers.
+void __throw_out_of_range_fmt(const char *what, ...) {
+    throw platform::Error(what);
+}
+
+void __throw_bad_function_call() {
+    throw platform::Error("bad_function_call");
+}
+
+void __throw_bad_alloc() {
+    throw std::bad_alloc();
+}
+
+void __throw_bad_array_new_length() {
+    throw std::bad_alloc();
+}
+
+} // namespace std
