@@ -10,22 +10,23 @@
 int Run_Program() {
     int exit_code = 1;
     Run_Guarded([&exit_code] {
-        Main_Frm main_frm;
-        Edit_Frm edit_frm(main_frm);
-        Connect_Editor(main_frm, edit_frm);
+        // The forms are too large for the stack, whose frames stay below a page.
+        const auto main_frm = std::make_unique<Main_Frm>();
+        const auto edit_frm = std::make_unique<Edit_Frm>(*main_frm);
+        Connect_Editor(*main_frm, *edit_frm);
         std::unique_ptr<Settings_Frm> settings_frm;
-        Connect_Settings(main_frm, settings_frm);
-        if (!main_frm.Form_Load())
+        Connect_Settings(*main_frm, settings_frm);
+        if (!main_frm->Form_Load())
             return;
         platform::Run_Message_Loop();
-        main_frm.Close_Settings();
+        main_frm->Close_Settings();
         // When the desktop is lost nobody has been asked yet, or the loop has ended under an open question.
         // Who answers Cancel, or whose text is refused, gets the editor back; it alone keeps the program
         // then.
-        edit_frm.On_Unload = [] { platform::End_Message_Loop(); };
-        while (!edit_frm.Ask_Unsaved() && edit_frm.Visible())
+        edit_frm->On_Unload = [] { platform::End_Message_Loop(); };
+        while (!edit_frm->Ask_Unsaved() && edit_frm->Visible())
             platform::Run_Message_Loop();
-        edit_frm.On_Unload = nullptr;
+        edit_frm->On_Unload = nullptr;
         exit_code = 0;
     });
     return exit_code;

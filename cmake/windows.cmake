@@ -9,15 +9,23 @@ set_source_files_properties(win32/vellatro.rc PROPERTIES
 target_include_directories(vellatro PRIVATE ${CMAKE_SOURCE_DIR}/win32)
 target_compile_definitions(vellatro PRIVATE _WIN32_WINNT=0x0601 WINVER=0x0601 _WIN32_IE=0x0700 NOMINMAX)
 target_compile_options(vellatro PRIVATE
-    $<$<COMPILE_LANGUAGE:CXX>:-Os -flto -ffunction-sections -fdata-sections -fno-rtti -fmerge-all-constants>)
-# On x86_64 exceptions need these tables; without them the compiler takes another model, or breaks off.
+    $<$<COMPILE_LANGUAGE:CXX>:-Oz -flto -ffunction-sections -fdata-sections -fno-rtti -fmerge-all-constants
+        # Or each file keeps constructors of its own that no linker can merge.
+        -fno-declone-ctor-dtor>)
 if(CMAKE_SIZEOF_VOID_P EQUAL 4)
-    target_compile_options(vellatro PRIVATE $<$<COMPILE_LANGUAGE:CXX>:-fno-asynchronous-unwind-tables>)
+    # On x86_64 exceptions need these tables; without them the compiler takes another model, or breaks off.
+    set(size_options -fno-asynchronous-unwind-tables)
+    # Parameters are pushed, on a stack that is aligned as the system aligns it. Pushing needs the stack unprobed,
+    # which is safe as long as no function's frame leaps over a page.
+    list(APPEND size_options -mno-stack-arg-probe -mno-accumulate-outgoing-args -mpreferred-stack-boundary=2
+        -Werror=frame-larger-than=4000)
+    target_compile_options(vellatro PRIVATE "$<$<COMPILE_LANGUAGE:CXX>:${size_options}>")
+    target_link_options(vellatro PRIVATE ${size_options})
 endif()
 target_link_libraries(vellatro PRIVATE vellatro_options
     comctl32 comdlg32 gdi32 user32 advapi32 shell32 ole32 oleaut32 oleacc uuid)
 # One partition: with several GCC 12 breaks off while it links.
-target_link_options(vellatro PRIVATE -Os -flto -flto-partition=none -static -s -Wl,--gc-sections -Wl,--nxcompat
+target_link_options(vellatro PRIVATE -Oz -flto -flto-partition=none -static -s -Wl,--gc-sections -Wl,--nxcompat
     -Wl,--dynamicbase -Wl,--no-insert-timestamp)
 add_custom_target(package
     COMMAND ${CMAKE_COMMAND} -D PROGRAM=$<TARGET_FILE:vellatro> -D SOURCES=${CMAKE_SOURCE_DIR}
