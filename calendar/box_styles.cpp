@@ -108,7 +108,7 @@ void Main_Frm::Get_Line(const Label &label) {
     while (!DotDotDot_Lbl.Caption().empty() && !Fits(label, DotDotDot_Lbl.Caption())) {
         std::string caption = DotDotDot_Lbl.Caption();
         caption.resize(platform::Previous_Character(caption, caption.size()));
-        DotDotDot_Lbl.Set_Caption(std::move(caption));
+        DotDotDot_Lbl.Set_Caption(caption);
     }
 }
 
@@ -146,12 +146,12 @@ void Main_Frm::DotDotDot(Label &label, std::string_view text) {
     if (!more && Fits(label, rest)) {
         shown.append(rest);
     } else {
-        DotDotDot_Lbl.Set_Caption(std::string(Measurable(DotDotDot_Lbl, rest)));
+        DotDotDot_Lbl.Set_Caption(Measurable(DotDotDot_Lbl, rest));
         Get_Line(DotDotDot_Lbl);
         std::string_view line = DotDotDot_Lbl.Caption();
         while (line.ends_with(' '))
             line.remove_suffix(1);
         shown.append(line).append(more_sign);
     }
-    label.Set_Caption(std::move(shown));
+    label.Set_Caption(shown);
 }

@@ -125,8 +125,8 @@ void Main_Frm::Show_Saved(const Date &date, std::string_view text) {
 
 void Main_Frm::Fill_Box(int index, std::string_view text) {
     if (Cur_Settings.Tooltips == 1) {
-        Box_Caption_Lbl[index].Set_Tooltip(std::string(text));
-        Box_Lbl[index].Set_Tooltip(std::string(text));
+        Box_Caption_Lbl[index].Set_Tooltip(text);
+        Box_Lbl[index].Set_Tooltip(text);
     }
     DotDotDot(Box_Caption_Lbl[index], text);
     Set_Event_Value(index, text);

@@ -6,8 +6,6 @@
 #include "core/date.h"
 #include "toolkit/form.h"
 
-#include <functional>
-
 /// Edits one day at a time. That day stays the editor's own while it is open, whatever month the calendar
 /// shows meanwhile.
 class Edit_Frm : public Form {
@@ -33,7 +31,7 @@ public:
     void Message_Txt_Change();
 
     /// After the editor was closed, by whatever way.
-    std::function<void()> On_Unload;
+    Handler<> On_Unload;
 
     Label Date_Lbl;
     Label Message_Lbl; ///< names the text box

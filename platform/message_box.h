@@ -1,7 +1,7 @@
 // Message boxes.
 #pragma once
 
-#include <string>
+#include <string_view>
 
 namespace platform {
 
@@ -12,7 +12,7 @@ enum class Box_Answer { Ok, Yes, No, Cancel };
 /// Shows a message box in front of the program's windows and waits for the answer. Meanwhile timers go on,
 /// and no other window of the program takes clicks or keys. The close box and Esc answer Cancel where there
 /// is that button, else Ok.
-Box_Answer Message_Box(const std::string &text, const std::string &title, Box_Icon icon,
+Box_Answer Message_Box(std::string_view text, std::string_view title, Box_Icon icon,
                        Box_Buttons buttons = Box_Buttons::Ok);
 
 } // namespace platform

@@ -5,7 +5,7 @@
 #include "platform/registry.h"
 #include "platform/wallpaper.h"
 #include "themes/theme_pack.h"
-#include "toolkit/fire.h"
+#include "toolkit/handler.h"
 #include "toolkit/guard.h"
 
 #include <utility>

@@ -7,7 +7,6 @@
 #include "toolkit/timer.h"
 
 #include <cstdint>
-#include <functional>
 #include <optional>
 #include <string>
 
@@ -30,7 +29,7 @@ public:
     void End() noexcept;
 
     /// It has ended, and all is put back; `pack_failed`: because the pack could not be read.
-    std::function<void(bool pack_failed)> On_End;
+    Handler<bool> On_End;
 
 private:
     /// What the preview changes.

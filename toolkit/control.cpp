@@ -2,8 +2,8 @@
 #include "toolkit/control.h"
 
 #include "platform/line_breaks.h"
-#include "toolkit/fire.h"
 #include "toolkit/form.h"
+#include "toolkit/handler.h"
 #include "toolkit/list_controls.h"
 #include "toolkit/painter.h"
 
@@ -11,7 +11,7 @@
 
 using platform::Aspect;
 
-Control::Control(Form &form, platform::Control_Kind kind, std::string_view name, std::string_view caption)
+Control::Control(Form &form, platform::Control_Kind kind, const char *name, const char *caption)
     : form_(form) {
     state_.kind = kind;
     state_.name = name;
@@ -49,12 +49,12 @@ void Control::Set_Enabled(bool enabled) {
     Store(state_.enabled, enabled, Aspect::Enabled);
 }
 
-void Control::Set_Caption(std::string caption) {
-    Store(state_.caption, std::move(caption), Aspect::Caption);
+void Control::Set_Caption(std::string_view caption) {
+    Store(state_.caption, caption, Aspect::Caption);
 }
 
-void Control::Set_Tooltip(std::string tooltip) {
-    Store(state_.tooltip, std::move(tooltip), Aspect::Tooltip);
+void Control::Set_Tooltip(std::string_view tooltip) {
+    Store(state_.tooltip, tooltip, Aspect::Tooltip);
 }
 
 void Control::Set_Fore_Colour(platform::Colour colour) {
@@ -110,7 +110,7 @@ void Control::Take(const platform::Input_Event &event) {
         Fire(On_Click);
 }
 
-Label::Label(Form &form, std::string_view name, std::string_view caption)
+Label::Label(Form &form, const char *name, const char *caption)
     : Control(form, platform::Control_Kind::Label, name, caption) {
 }
 
@@ -118,7 +118,7 @@ void Label::Set_Painted() {
     Paint_Itself(state_, nullptr);
 }
 
-Button::Button(Form &form, std::string_view name, std::string_view caption)
+Button::Button(Form &form, const char *name, const char *caption)
     : Control(form, platform::Control_Kind::Button, name, caption) {
 }
 
@@ -130,7 +130,7 @@ void Button::Set_Cancel(bool is_cancel) {
     Store(state_.is_cancel, is_cancel, Aspect::Look);
 }
 
-Check_Box::Check_Box(Form &form, std::string_view name, std::string_view caption)
+Check_Box::Check_Box(Form &form, const char *name, const char *caption)
     : Control(form, platform::Control_Kind::Check_Box, name, caption) {
 }
 
@@ -145,8 +145,7 @@ void Check_Box::Take(const platform::Input_Event &event) {
     Control::Take(event);
 }
 
-Text_Box::Text_Box(Form &form, std::string_view name)
-    : Control(form, platform::Control_Kind::Text_Box, name) {
+Text_Box::Text_Box(Form &form, const char *name) : Control(form, platform::Control_Kind::Text_Box, name) {
 }
 
 void Text_Box::Set_Text(std::string text) {

@@ -3,10 +3,11 @@
 #pragma once
 
 #include "platform/forms.h"
+#include "toolkit/handler.h"
 
-#include <functional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 class Form;
 
@@ -16,7 +17,7 @@ class Frame;
 /// the program itself changes raises no event, except the change of a text box.
 class Control {
 public:
-    Control(Form &form, platform::Control_Kind kind, std::string_view name, std::string_view caption = {});
+    Control(Form &form, platform::Control_Kind kind, const char *name, const char *caption = "");
     Control(const Control &) = delete;
     Control &operator=(const Control &) = delete;
     /// Takes the form's native window down: it must not outlive the controls that it mirrors.
@@ -37,9 +38,9 @@ public:
     bool Enabled() const { return state_.enabled; }
     void Set_Enabled(bool enabled);
     const std::string &Caption() const { return state_.caption; }
-    void Set_Caption(std::string caption);
+    void Set_Caption(std::string_view caption);
     const std::string &Tooltip() const { return state_.tooltip; }
-    void Set_Tooltip(std::string tooltip);
+    void Set_Tooltip(std::string_view tooltip);
     platform::Colour Fore_Colour() const { return state_.fore_colour; }
     void Set_Fore_Colour(platform::Colour colour);
     platform::Colour Back_Colour() const { return state_.back_colour; }
@@ -62,14 +63,14 @@ public:
 
     // Events. The point is relative to the control's top left corner.
     /// A button of any kind pressed, a painted control clicked with the left button.
-    std::function<void()> On_Click;
-    std::function<void(platform::Mouse_Button, platform::Point)> On_Mouse_Down;
-    std::function<void(platform::Mouse_Button, platform::Point)> On_Mouse_Up;
-    std::function<void(platform::Mouse_Button, platform::Point)> On_Mouse_Move;
-    std::function<void()> On_Double_Click;
-    std::function<void()> On_Default_Action;
+    Handler<> On_Click;
+    Handler<platform::Mouse_Button, platform::Point> On_Mouse_Down;
+    Handler<platform::Mouse_Button, platform::Point> On_Mouse_Up;
+    Handler<platform::Mouse_Button, platform::Point> On_Mouse_Move;
+    Handler<> On_Double_Click;
+    Handler<> On_Default_Action;
     /// A key while a control of a dialog has the keyboard.
-    std::function<void(const platform::Input_Event &)> On_Key_Down;
+    Handler<const platform::Input_Event &> On_Key_Down;
 
 protected:
     friend class Form;
@@ -78,11 +79,11 @@ protected:
     virtual void Take(const platform::Input_Event &event);
 
     /// Stores `value` in `field` and tells the mirror, if that is a change. Returns whether it was.
-    template <typename T>
-    bool Store(T &field, T value, platform::Aspect aspect) {
+    template <typename Field, typename Value>
+    bool Store(Field &field, Value &&value, platform::Aspect aspect) {
         if (field == value)
             return false;
-        field = std::move(value);
+        field = std::forward<Value>(value);
         Tell(aspect);
         return true;
     }
@@ -96,7 +97,7 @@ protected:
 /// A text, or in a painted form a box of colour with a text.
 class Label : public Control {
 public:
-    Label(Form &form, std::string_view name, std::string_view caption = {});
+    Label(Form &form, const char *name, const char *caption = "");
     /// In a dialog: draws itself as a painted form draws its labels, and takes the mouse.
     void Set_Painted();
 };
@@ -105,14 +106,14 @@ public:
 /// stands for them.
 class Button : public Control {
 public:
-    Button(Form &form, std::string_view name, std::string_view caption);
+    Button(Form &form, const char *name, const char *caption);
     void Set_Default(bool is_default);
     void Set_Cancel(bool is_cancel);
 };
 
 class Check_Box : public Control {
 public:
-    Check_Box(Form &form, std::string_view name, std::string_view caption);
+    Check_Box(Form &form, const char *name, const char *caption);
     bool Checked() const { return state_.checked; }
     void Set_Checked(bool checked);
 
@@ -123,14 +124,14 @@ private:
 /// A text box that holds no line break: a pasted one becomes a blank.
 class Text_Box : public Control {
 public:
-    Text_Box(Form &form, std::string_view name);
+    Text_Box(Form &form, const char *name);
     const std::string &Text() const { return state_.caption; }
     void Set_Text(std::string text);
     /// One line in place of several wrapped ones, to be read and copied only. Before there is a native
     /// window.
     void Set_Display_Only();
     /// Every change of the text, by the user or by Set_Text.
-    std::function<void()> On_Change;
+    Handler<> On_Change;
 
 private:
     void Take(const platform::Input_Event &event) override;

@@ -1,38 +1,56 @@
 // Controls of one kind that share a name and are told apart by an index: Box_Lbl(0), Box_Lbl(1) ...
 #pragma once
 
-#include "platform/error.h"
 #include "toolkit/control.h"
 
+#include <array>
 #include <cstddef>
-#include <deque>
+#include <memory>
 #include <string>
 #include <string_view>
+
+/// The name of one control of an array.
+std::string Element_Name(std::string_view array, int index);
+
+/// Throws the platform::Error for an index that an array does not have.
+[[noreturn]] void Throw_No_Element(const Control &first, int index);
 
 /// `Count` controls, registered with their form in index order.
 template <typename Control_Type, std::size_t Count>
 class Control_Array {
+    using Storage = std::array<std::unique_ptr<Control_Type>, Count>;
+
 public:
-    Control_Array(Form &form, std::string_view name) : name_(name) {
-        while (controls_.size() < Count)
-            controls_.emplace_back(form, Element_Name(static_cast<int>(controls_.size())));
+    /// Walks over the controls themselves.
+    class Iterator {
+    public:
+        explicit Iterator(typename Storage::const_iterator at) : at_(at) {}
+        Control_Type &operator*() const { return **at_; }
+        Iterator &operator++() {
+            ++at_;
+            return *this;
+        }
+        bool operator==(const Iterator &) const = default;
+
+    private:
+        typename Storage::const_iterator at_;
+    };
+
+    Control_Array(Form &form, std::string_view name) {
+        for (int index = 0; auto &control : controls_)
+            control = std::make_unique<Control_Type>(form, Element_Name(name, index++).c_str());
     }
 
     /// Throws platform::Error for an index outside 0 to Count - 1.
     Control_Type &operator[](int index) {
         if (index < 0 || index >= static_cast<int>(Count))
-            throw platform::Error("There is no " + Element_Name(index) + ".");
-        return controls_[static_cast<std::size_t>(index)];
+            Throw_No_Element(*controls_.front(), index);
+        return *controls_[static_cast<std::size_t>(index)];
     }
 
-    auto begin() { return controls_.begin(); }
-    auto end() { return controls_.end(); }
-    auto begin() const { return controls_.begin(); }
-    auto end() const { return controls_.end(); }
+    Iterator begin() const { return Iterator(controls_.begin()); }
+    Iterator end() const { return Iterator(controls_.end()); }
 
 private:
-    std::string Element_Name(int index) const { return name_ + "(" + std::to_string(index) + ")"; }
-
-    std::string name_;
-    std::deque<Control_Type> controls_; ///< its elements stay in their places
+    Storage controls_;
 };

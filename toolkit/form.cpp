@@ -1,8 +1,8 @@
 // Forms: their state, the life of their native window, and the way of user actions to the controls.
 #include "toolkit/form.h"
 
-#include "toolkit/fire.h"
 #include "toolkit/guard.h"
+#include "toolkit/handler.h"
 #include "toolkit/painter.h"
 
 #include <algorithm>
@@ -15,9 +15,9 @@ using platform::Input_Event;
 using platform::Input_Kind;
 using platform::Mouse_Button;
 
-Form::Form(Form_Kind kind, std::string name) {
+Form::Form(Form_Kind kind, const char *name) {
     model_.kind = kind;
-    model_.name = std::move(name);
+    model_.name = name;
     model_.input = [this](const Input_Event &event) { Input(event); };
     model_.paint = [this](platform::Canvas &canvas, const platform::Rect &clip) {
         try {
@@ -100,10 +100,10 @@ void Form::Close() {
         platform::Destroy_Mirror(model_);
 }
 
-void Form::Set_Title(std::string title) {
+void Form::Set_Title(std::string_view title) {
     if (model_.title == title)
         return;
-    model_.title = std::move(title);
+    model_.title = title;
     Tell(Aspect::Caption);
 }
 

@@ -5,7 +5,6 @@
 #include "platform/forms.h"
 #include "toolkit/control.h"
 
-#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -14,7 +13,7 @@
 /// which they are declared, which is the paint and tab order.
 class Form {
 public:
-    Form(platform::Form_Kind kind, std::string name);
+    Form(platform::Form_Kind kind, const char *name);
     Form(const Form &) = delete;
     Form &operator=(const Form &) = delete;
     virtual ~Form();
@@ -37,7 +36,7 @@ public:
     void Show();
     /// Takes the native window down; the form's state stays.
     void Close();
-    void Set_Title(std::string title);
+    void Set_Title(std::string_view title);
     platform::Colour Back_Colour() const { return model_.back_colour; }
     void Set_Back_Colour(platform::Colour colour);
     /// Paints the whole window anew: what it shows changed without a change of its state.
@@ -64,16 +63,16 @@ public:
     Control *Control_At(platform::Point point);
 
     // Events of the form itself.
-    std::function<void(const platform::Input_Event &)> On_Key_Down;
-    std::function<void(const platform::Input_Event &)> On_Key_Up;
+    Handler<const platform::Input_Event &> On_Key_Down;
+    Handler<const platform::Input_Event &> On_Key_Up;
     /// The user asks the window to close.
-    std::function<void()> On_Close;
+    Handler<> On_Close;
     /// The native window is gone.
-    std::function<void()> On_Window_Lost;
-    std::function<void(bool has_focus)> On_Focus_Changed;
+    Handler<> On_Window_Lost;
+    Handler<bool> On_Focus_Changed; ///< whether it has the focus now
     /// The release of the pressed mouse button will not come.
-    std::function<void()> On_Capture_Lost;
-    std::function<void()> On_Dots_Changed;
+    Handler<> On_Capture_Lost;
+    Handler<> On_Dots_Changed;
 
 private:
     friend class Control;

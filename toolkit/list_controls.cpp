@@ -1,8 +1,8 @@
 // State and events of the controls of larger dialogs.
 #include "toolkit/list_controls.h"
 
-#include "toolkit/fire.h"
 #include "toolkit/form.h"
+#include "toolkit/handler.h"
 #include "toolkit/painter.h"
 
 #include <algorithm>
@@ -15,11 +15,11 @@ using platform::Input_Event;
 using platform::Input_Kind;
 using platform::Rect;
 
-Frame::Frame(Form &form, std::string_view name, std::string_view caption)
+Frame::Frame(Form &form, const char *name, const char *caption)
     : Control(form, Control_Kind::Frame, name, caption) {
 }
 
-Option_Button::Option_Button(Form &form, std::string_view name, std::string_view caption)
+Option_Button::Option_Button(Form &form, const char *name, const char *caption)
     : Control(form, Control_Kind::Option_Button, name, caption) {
 }
 
@@ -74,7 +74,7 @@ void Item_Control::Take(const Input_Event &event) {
     Fire(On_Click);
 }
 
-Combo_Box::Combo_Box(Form &form, std::string_view name) : Item_Control(form, Control_Kind::Combo_Box, name) {
+Combo_Box::Combo_Box(Form &form, const char *name) : Item_Control(form, Control_Kind::Combo_Box, name) {
 }
 
 void Combo_Box::Set_Editable() {
@@ -102,7 +102,7 @@ void Combo_Box::Take(const Input_Event &event) {
     Fire(On_Change);
 }
 
-List_Box::List_Box(Form &form, std::string_view name) : Item_Control(form, Control_Kind::List_Box, name) {
+List_Box::List_Box(Form &form, const char *name) : Item_Control(form, Control_Kind::List_Box, name) {
 }
 
 void List_Box::Remove_Item(int index) {
@@ -119,10 +119,10 @@ void List_Box::Take(const Input_Event &event) {
     Item_Control::Take(event);
 }
 
-Tab_Strip::Tab_Strip(Form &form, std::string_view name) : Item_Control(form, Control_Kind::Tab_Strip, name) {
+Tab_Strip::Tab_Strip(Form &form, const char *name) : Item_Control(form, Control_Kind::Tab_Strip, name) {
 }
 
-Slider::Slider(Form &form, std::string_view name, int minimum, int maximum)
+Slider::Slider(Form &form, const char *name, int minimum, int maximum)
     : Control(form, Control_Kind::Slider, name) {
     state_.minimum = minimum;
     state_.maximum = maximum;
@@ -140,7 +140,7 @@ void Slider::Take(const Input_Event &event) {
     Fire(event.kind == Input_Kind::Selected ? On_Change : On_Scroll);
 }
 
-Picture_Box::Picture_Box(Form &form, std::string_view name) : Control(form, Control_Kind::Picture_Box, name) {
+Picture_Box::Picture_Box(Form &form, const char *name) : Control(form, Control_Kind::Picture_Box, name) {
     Paint_Itself(state_, [this](platform::Canvas &canvas) { Paint_Content(canvas); });
 }
 
@@ -162,8 +162,7 @@ void Picture_Box::Paint_Content(platform::Canvas &canvas) const {
     Fire(On_Paint, canvas);
 }
 
-Progress_Bar::Progress_Bar(Form &form, std::string_view name)
-    : Control(form, Control_Kind::Progress_Bar, name) {
+Progress_Bar::Progress_Bar(Form &form, const char *name) : Control(form, Control_Kind::Progress_Bar, name) {
 }
 
 void Progress_Bar::Set_Value(int value) {

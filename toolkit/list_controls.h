@@ -5,7 +5,6 @@
 #include "platform/pictures.h"
 #include "toolkit/control.h"
 
-#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -13,14 +12,14 @@
 /// Holds other controls (Control::Set_Container). With a caption it is drawn as a box around them.
 class Frame : public Control {
 public:
-    Frame(Form &form, std::string_view name, std::string_view caption = {});
+    Frame(Form &form, const char *name, const char *caption = "");
 };
 
 /// One of several choices: of all the option buttons in one frame (or on the form itself) at most one is
 /// checked.
 class Option_Button : public Control {
 public:
-    Option_Button(Form &form, std::string_view name, std::string_view caption = {});
+    Option_Button(Form &form, const char *name, const char *caption = "");
     bool Checked() const { return state_.checked; }
     /// Checking one unchecks the others.
     void Set_Checked(bool checked);
@@ -49,7 +48,7 @@ protected:
 /// A drop-down list whose text is the selected item's, or an editable one, whose text can be any.
 class Combo_Box : public Item_Control {
 public:
-    Combo_Box(Form &form, std::string_view name);
+    Combo_Box(Form &form, const char *name);
     /// Any text can be typed. To be called before there is a native window.
     void Set_Editable();
     const std::string &Text() const { return state_.caption; }
@@ -57,7 +56,7 @@ public:
     /// item selected, and another one stays as it is.
     void Set_Text(const std::string &text);
     /// The user typed. Choosing an item is On_Click.
-    std::function<void()> On_Change;
+    Handler<> On_Change;
 
 private:
     void Take(const platform::Input_Event &event) override;
@@ -66,7 +65,7 @@ private:
 /// A list with one column. `On_Click` comes with every selection by the user, by mouse or keyboard.
 class List_Box : public Item_Control {
 public:
-    List_Box(Form &form, std::string_view name);
+    List_Box(Form &form, const char *name);
     void Remove_Item(int index);
 
 private:
@@ -76,20 +75,20 @@ private:
 /// Tabs above pages that the form shows and hides by itself. `On_Click` comes with every change by the user.
 class Tab_Strip : public Item_Control {
 public:
-    Tab_Strip(Form &form, std::string_view name);
+    Tab_Strip(Form &form, const char *name);
 };
 
 /// A slider over whole numbers, with a mark for each.
 class Slider : public Control {
 public:
-    Slider(Form &form, std::string_view name, int minimum, int maximum);
+    Slider(Form &form, const char *name, int minimum, int maximum);
     int Value() const { return state_.value; }
     /// Takes the nearest value within the range.
     void Set_Value(int value);
     /// The text that floats beside the thumb while it is moved.
-    void Set_Text(std::string text) { Set_Caption(std::move(text)); }
-    std::function<void()> On_Change; ///< the user left it at another value
-    std::function<void()> On_Scroll; ///< the user is moving it
+    void Set_Text(std::string_view text) { Set_Caption(text); }
+    Handler<> On_Change; ///< the user left it at another value
+    Handler<> On_Scroll; ///< the user is moving it
 
 private:
     void Take(const platform::Input_Event &event) override;
@@ -99,7 +98,7 @@ private:
 /// On_Paint adds.
 class Picture_Box : public Control {
 public:
-    Picture_Box(Form &form, std::string_view name);
+    Picture_Box(Form &form, const char *name);
     /// A picture with the width 0 is none.
     void Set_Picture(platform::Picture picture);
     /// Makes the keyboard reach it: it gets On_Key_Down, and the space bar clicks it. Before there is a
@@ -108,7 +107,7 @@ public:
     /// Paints it anew: what On_Paint draws has changed.
     void Repaint() { Tell(platform::Aspect::Look); }
     /// Paints on the background and the picture, in twips from the top left corner of the box.
-    std::function<void(platform::Canvas &)> On_Paint;
+    Handler<platform::Canvas &> On_Paint;
 
 private:
     void Paint_Content(platform::Canvas &canvas) const;
@@ -119,7 +118,7 @@ private:
 /// How far a long piece of work has come.
 class Progress_Bar : public Control {
 public:
-    Progress_Bar(Form &form, std::string_view name);
+    Progress_Bar(Form &form, const char *name);
     /// Per cent, 0 to 100.
     void Set_Value(int value);
 };

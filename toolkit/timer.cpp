@@ -16,7 +16,7 @@ void Timer::Set_Enabled(bool enabled) {
             const auto kept = guard;
             const auto handler = On_Timer;
             if (handler)
-                kept->Run(handler);
+                kept->Run([&handler] { handler(); });
         });
     } else {
         platform::Stop_Timer(std::exchange(id_, 0));

@@ -2,8 +2,7 @@
 #pragma once
 
 #include "platform/message_loop.h"
-
-#include <functional>
+#include "toolkit/handler.h"
 
 /// Calls On_Timer from the message loop every `interval` milliseconds while it is enabled. Switching it off
 /// and on begins the interval anew. A failure that comes with every tick is told to the user once.
@@ -17,7 +16,7 @@ public:
     bool Enabled() const { return id_ != 0; }
     void Set_Enabled(bool enabled);
 
-    std::function<void()> On_Timer;
+    Handler<> On_Timer;
 
 private:
     unsigned interval_;

@@ -86,7 +86,7 @@ void frmBalloon::SetBalloon(const std::string &title, std::string_view text, std
     Title_Lbl.Move({title_left, body.top + margin, body.Right() - margin - title_left, heading});
     Icon_Lbl.Set_Visible(has_icon);
     Icon_Lbl.Move({body.left + margin, body.top + margin + (heading - icon_size) / 2, icon_size, icon_size});
-    Message_Lbl.Set_Caption(std::move(caption));
+    Message_Lbl.Set_Caption(caption);
     Message_Lbl.Move(
         {body.left + margin, body.top + margin + heading + gap, body.width - 2 * margin, text_height});
     Move(window.left, window.top);

@@ -17,7 +17,7 @@ constexpr std::ptrdiff_t Most_Lines = 30;
 constexpr std::size_t Longest_Title = 200;
 
 /// `text` as the box can show it: a zero would end it and becomes a blank; what is too long ends with dots.
-std::wstring Showable(const std::string &text, std::size_t longest) {
+std::wstring Showable(std::string_view text, std::size_t longest) {
     std::wstring wide = win32::To_Wide(text);
     std::replace(wide.begin(), wide.end(), L'\0', L' ');
     std::size_t end = std::min(wide.size(), longest);
@@ -113,8 +113,7 @@ Box_Answer Answer_Of(int id, Box_Buttons buttons) {
 
 } // namespace
 
-Box_Answer Message_Box(const std::string &text, const std::string &title, Box_Icon icon,
-                       Box_Buttons buttons) {
+Box_Answer Message_Box(std::string_view text, std::string_view title, Box_Icon icon, Box_Buttons buttons) {
     const std::wstring wide_text = Showable(text, Longest_Text);
     const std::wstring wide_title = Showable(title, Longest_Title);
     const HWND owner = Active_Dialog();

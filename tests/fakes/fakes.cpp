@@ -209,24 +209,23 @@ void Registry_Write_String(Registry_Root root, const std::string &key, const std
         Store(root_names[root], key + "\\" + name, text);
 }
 
-Box_Answer Message_Box(const std::string &text, const std::string &title, Box_Icon icon,
-                       Box_Buttons buttons) {
+Box_Answer Message_Box(std::string_view text, std::string_view title, Box_Icon icon, Box_Buttons buttons) {
     Fake_System &system = Fakes();
-    system.boxes.push_back({text, title, icon, buttons});
+    system.boxes.push_back({std::string(text), std::string(title), icon, buttons});
     // The answer with the least consequences, for boxes that no test expects.
     const Box_Answer safest = buttons == Box_Buttons::Ok       ? Box_Answer::Ok
                               : buttons == Box_Buttons::Yes_No ? Box_Answer::No
                                                                : Box_Answer::Cancel;
     const std::string next = system.expected_boxes.empty() ? "none" : system.expected_boxes.front().text;
     if (next != text) {
-        Require(system.any_box, "unexpected message box: " + text + "\nexpected: " + next);
+        Require(system.any_box, "unexpected message box: " + std::string(text) + "\nexpected: " + next);
         return safest;
     }
     const Expected_Box expected = system.expected_boxes.front();
     system.expected_boxes.pop_front();
     const bool offered = (expected.answer == Box_Answer::Ok) == (buttons == Box_Buttons::Ok) &&
                          (expected.answer != Box_Answer::Cancel || buttons == Box_Buttons::Yes_No_Cancel);
-    Require(offered, "the expected answer is no button of this message box: " + text);
+    Require(offered, "the expected answer is no button of this message box: " + std::string(text));
     if (expected.meanwhile)
         expected.meanwhile();
     return expected.answer;
