@@ -1,6 +1,6 @@
 // The "Events" page of the settings dialog: the overview of all events, of which any can be removed, and
-// their statistics. How events are read, counted, sorted and worded is in event_entries.h, event_statistics.h
-// and event_overview.h.
+// their statistics. How events are read and sorted is in core/event_entries.h, how they are counted and worded
+// in event_statistics.h and event_overview.h.
 #pragma once
 
 #include "settings/event_overview.h"
