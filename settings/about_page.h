@@ -6,6 +6,8 @@
 class About_Page {
 public:
     About_Page(Form &dialog, Frame &frame);
+    /// Places the controls, also after a change of the dots per inch.
+    void Lay_Out();
 
     /// Opens the author's page in the user's browser. A failure is not told.
     static void gotoweb();
@@ -18,5 +20,4 @@ public:
 
 private:
     void Paint_Logo(platform::Canvas &canvas) const;
-    void Lay_Out();
 };

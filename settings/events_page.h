@@ -14,6 +14,8 @@ class Events_Page {
 public:
     /// `frame` is the page's frame on `dialog`. All three must outlive the page.
     Events_Page(Form &dialog, const Frame &frame, Main_Frm &calendar);
+    /// Places the controls, also after a change of the dots per inch.
+    void Lay_Out();
 
     // What the opening dialog does, in this order.
     void Write_Month_Titles();
@@ -63,7 +65,6 @@ private:
     void List_Events();
     void Events_Lst_KeyDown(const platform::Input_Event &event);
     void Show_Change(int index);
-    void Lay_Out();
     void Lay_Out_Overview();
     void Lay_Out_Statistics();
 

@@ -8,15 +8,15 @@
 using namespace layout;
 
 General_Page::General_Page(Form &dialog, Frame &frame, Main_Frm &calendar)
-    : Title_Bar_Fra(dialog, "Title_Bar_Fra", "Title Bar"), Bar_Time_Chk(dialog, "Bar_Time_Chk", "Time:"),
+    : Title_Bar_Fra(dialog, "Title_Bar_Fra", "Title Bar"), Bar_Time_Chk(dialog, "Bar_Time_Chk", "&Time:"),
       Bar_Time_Lbl(dialog, "Bar_Time_Lbl", "Time:"), Bar_Time_Cbo(dialog, "Bar_Time_Cbo"),
-      Bar_Date_Lbl(dialog, "Bar_Date_Lbl", "Date:"), Bar_Date_Cbo(dialog, "Bar_Date_Cbo"),
+      Bar_Date_Lbl(dialog, "Bar_Date_Lbl", "&Date:"), Bar_Date_Cbo(dialog, "Bar_Date_Cbo"),
       Bar_Preview_Lbl(dialog, "Bar_Preview_Lbl", "13:56:21 - 11th May - 2002"),
       General_Fra(dialog, "General_Fra", "General Settings"),
-      Auto_Compact_Chk(dialog, "Auto_Compact_Chk", "Switch into Compact Mode when not in use"),
-      Allow_Dragging_Chk(dialog, "Allow_Dragging_Chk", "Allow dragging when Manual Position is not selected"),
-      Alert_Chk(dialog, "Alert_Chk", "Alert me when a date Comes up"),
-      Startup_Chk(dialog, "Startup_Chk", "Run at Startup") {
+      Auto_Compact_Chk(dialog, "Auto_Compact_Chk", "Switch into &Compact Mode when not in use"),
+      Allow_Dragging_Chk(dialog, "Allow_Dragging_Chk", "Allow d&ragging when Manual Position is not selected"),
+      Alert_Chk(dialog, "Alert_Chk", "A&lert me when a date Comes up"),
+      Startup_Chk(dialog, "Startup_Chk", "Run at &Startup") {
     Put_Into(frame, {&Title_Bar_Fra, &General_Fra});
     Put_Into(Title_Bar_Fra,
              {&Bar_Time_Chk, &Bar_Time_Lbl, &Bar_Time_Cbo, &Bar_Date_Lbl, &Bar_Date_Cbo, &Bar_Preview_Lbl});

@@ -8,6 +8,8 @@
 class General_Page {
 public:
     General_Page(Form &dialog, Frame &frame, Main_Frm &calendar);
+    /// Places the controls, also after a change of the dots per inch.
+    void Lay_Out();
 
     /// Ticks the start-up box where the system has a start-up entry, also an empty one: unticking leaves such
     /// a one behind, so that the box is ticked again at the next opening.
@@ -31,8 +33,6 @@ public:
     Check_Box Startup_Chk;
 
 private:
-    void Lay_Out();
-
     bool watched_ = false;
     Timer preview_timer_{1000};
 };

@@ -1,13 +1,17 @@
 // What the settings dialog saves: its pages' choices go into the settings, the store and the calendar. A
 // choice that is what the setting holds already is not written, but for those that are always.
 #include "core/settings.h"
+#include "desktop/position.h"
 #include "platform/files.h"
 #include "platform/registry.h"
 #include "settings/settings_frm.h"
+#include "toolkit/guard.h"
 
 #include <utility>
 
 namespace {
+
+constexpr auto manual = static_cast<std::int16_t>(Position_Code::Manual);
 
 /// Takes a choice over, if it is another one. Returns whether it was.
 template <typename T>
@@ -28,6 +32,37 @@ bool Save_Changed(std::int16_t &variable, const Check_Box &box, std::string_view
 } // namespace
 
 void Settings_Frm::Save_Colours() {
+    struct Row {
+        const Picture_Box &swatch;
+        platform::Colour &variable;
+        const char *key;
+        void (Main_Frm::*redraw)();
+    };
+    const Row rows[] = {
+        {Colours.Col_Normal_Pic, Cur_Settings.Col_Normal, "Normal", &Main_Frm::Colour_Boxes},
+        {Colours.Col_Today_Pic, Cur_Settings.Col_Today, "Today", &Main_Frm::Mark_Today},
+        {Colours.Col_Num_Pic, Cur_Settings.Col_Num, "Num", &Main_Frm::Colour_Nums},
+        {Colours.Col_Text_Pic, Cur_Settings.Col_Text, "Text", &Main_Frm::Colour_Texts},
+        {Colours.Col_Back_Pic, Cur_Settings.Col_Back, "Back", &Main_Frm::Colour_Menus},
+        {Colours.Col_Fore_Pic, Cur_Settings.Col_Fore, "Fore", &Main_Frm::Colour_Menus},
+    };
+    for (const Row &row : rows) {
+        if (!Save_Changed(row.variable, row.swatch.Back_Colour(), row.key))
+            continue;
+        (calendar_.*row.redraw)();
+        // Colouring the boxes takes today's mark away.
+        if (row.redraw == &Main_Frm::Colour_Boxes)
+            calendar_.Mark_Today();
+    }
+    const std::int16_t source = Colours.Col_Sys_Opt.Checked() ? 0 : 1;
+    if (!Save_Changed(Cur_Settings.Menu_Col_Sorce, source, "Menu Colour Source"))
+        return;
+    if (source == 1)
+        for (const Row &row : {rows[4], rows[5]}) {
+            row.variable = row.swatch.Back_Colour();
+            Store_Setting(row.key);
+        }
+    calendar_.Colour_Menus();
 }
 
 void Settings_Frm::Save_General_Settings() {
@@ -45,9 +80,38 @@ void Settings_Frm::Save_General_Settings() {
 }
 
 void Settings_Frm::Save_Other_DM() {
+    Cur_Settings.Use_Other_Display_Mode = Wallpaper.Other_Display_Chk.Checked();
+    Store_Setting("Use Other Display Mode");
+    // A number that the list does not have shows as none and stays, as long as no other is chosen.
+    if (Wallpaper.Display_Cbo.Selected() != -1)
+        Cur_Settings.Other_Display_Mode = static_cast<std::int16_t>(Wallpaper.Display_Cbo.Selected());
+    Store_Setting("Other Display Mode");
 }
 
 void Settings_Frm::Save_Theme() {
+    const std::int16_t style_before = calendar_.Effective_Style();
+    Save_Changed(Cur_Settings.Use_Themes, Wallpaper.Theme_Use_Chk, "Use Themes");
+    Save_Changed(Cur_Settings.Use_Theme_Pos, Wallpaper.Theme_Pos_Chk, "Use Theme Pos");
+    Save_Changed(Cur_Settings.Use_Theme_Style, Wallpaper.Theme_Style_Chk, "Use Theme Style");
+    // None is selected where the pack of the settings is missing: it may come back.
+    if (!Wallpaper.Packs_Cbo.Text().empty())
+        Save_Changed(Cur_Settings.Pack_Name, Wallpaper.Packs_Cbo.Text(), "Pack Name");
+    Cur_Settings.Style = Style.Style1_Opt.Checked() ? 0 : 1;
+    Store_Setting("Style");
+    // A pack that cannot be read is told, and keeps nothing else from being saved. Whoever gives themes up
+    // keeps the last wallpaper: there is no telling which one was there before.
+    if (Cur_Settings.Use_Themes == 1)
+        Run_Guarded([this] { calendar_.Get_Wallpaper_Stuff(Cur_Settings.Pack_Name); });
+    calendar_.Which_Style(calendar_.Effective_Style());
+    calendar_.TransparentForm();
+    if (Cur_Settings.Use_Themes != 1 || Cur_Settings.Use_Theme_Pos != 1) {
+        Cur_Settings.Alignment = Style.Pos_Manual_Opt.Checked() ? manual : Style.Get_Set_Position();
+        Store_Setting("Alignment");
+    }
+    calendar_.Position_Form(calendar_.Effective_Position());
+    // The boxes have room for other texts.
+    if (calendar_.Effective_Style() != style_before)
+        calendar_.Load_Dates();
 }
 
 void Settings_Frm::Save_Bar_Settings() {

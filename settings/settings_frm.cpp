@@ -30,8 +30,10 @@ constexpr int window_frame = 8 * 15; ///< left and right of the dialog, estimate
 Settings_Frm::Settings_Frm(Main_Frm &calendar)
     : Form(platform::Form_Kind::Dialog, "Settings_Frm"), TabStrip1(*this, "TabStrip1"),
       Settings_Fra(*this, "Settings_Fra"), Events(*this, Settings_Fra[events_fra], calendar),
-      General(*this, Settings_Fra[general_fra], calendar),
-      Tooltips(*this, Settings_Fra[tooltips_fra], calendar), About(*this, Settings_Fra[about_fra]),
+      Colours(*this, Settings_Fra[colours_fra], calendar),
+      General(*this, Settings_Fra[general_fra], calendar), Style(*this, Settings_Fra[style_fra], calendar),
+      Tooltips(*this, Settings_Fra[tooltips_fra], calendar),
+      Wallpaper(*this, Settings_Fra[wallpaper_fra], calendar, Style), About(*this, Settings_Fra[about_fra]),
       Ok_Btn(*this, "Ok_Btn", "OK"), Cancel_Btn(*this, "Cancel_Btn", "Cancel"),
       Apply_Btn(*this, "Apply_Btn", "&Apply"), calendar_(calendar) {
     Set_Title("Settings");
@@ -51,6 +53,7 @@ Settings_Frm::Settings_Frm(Main_Frm &calendar)
     Apply_Btn.On_Click = [this] { Apply_Btn_Click(); };
     On_Close = [this] { Form_Unload(); };
     On_Window_Lost = [this] { Form_Unload(); };
+    On_Dots_Changed = [this] { Lay_Out(); };
     On_Capture_Lost = [this] { Tooltips.Release(); };
     Model().input = [this](const platform::Input_Event &event) {
         ++events_;
@@ -77,7 +80,15 @@ void Settings_Frm::Form_Load() {
         [this] { Tooltips.Select(Cur_Settings.Tooltips); },
         [this] { Load_General_Settings(); },
         [this] { Events.Open_Overview(); },
+        [this] {
+            Wallpaper.Other_Display_Chk.Set_Checked(Cur_Settings.Use_Other_Display_Mode);
+            Wallpaper.Display_Cbo.Select(Cur_Settings.Other_Display_Mode);
+        },
         [this] { General.Get_Startup_Value(); },
+        [this] { Wallpaper.Get_Papers(); },
+        [this] { Wallpaper.Get_Themes(); },
+        [this] { Wallpaper.Get_Wallpaper(); },
+        [this] { Style.Preview_Position(); },
     };
     for (const auto &step : steps)
         Run_Guarded(step);
@@ -88,7 +99,19 @@ void Settings_Frm::Form_Load() {
     calendar_.Set_Blocked_By(this);
 }
 
+/// The pages measure their texts, which are a little wider or narrower at other dots per inch.
+void Settings_Frm::Lay_Out() {
+    Events.Lay_Out();
+    Colours.Lay_Out();
+    General.Lay_Out();
+    Style.Lay_Out();
+    Tooltips.Lay_Out();
+    About.Lay_Out();
+}
+
 void Settings_Frm::Load_Settings() {
+    Colours.Load_Settings();
+    Style.Load_Settings();
 }
 
 void Settings_Frm::Load_General_Settings() {
@@ -135,10 +158,15 @@ void Settings_Frm::Ok_Btn_Click() {
 }
 
 void Settings_Frm::Cancel_Btn_Click() {
+    // The page promises that Esc ends its preview.
+    if (Wallpaper.End_Preview())
+        return;
     Form_Unload();
 }
 
 void Settings_Frm::Apply_Btn_Click() {
+    // It keeps the settings that it will put back.
+    Wallpaper.End_Preview();
     for (const auto save :
          {&Settings_Frm::Save_Colours, &Settings_Frm::Save_General_Settings, &Settings_Frm::Save_Other_DM,
           &Settings_Frm::Save_Theme, &Settings_Frm::Save_Bar_Settings})
@@ -148,6 +176,7 @@ void Settings_Frm::Apply_Btn_Click() {
 void Settings_Frm::Form_Unload() {
     if (!std::exchange(open_, false))
         return;
+    Wallpaper.End_Preview();
     Tooltips.Release();
     General.Set_Watched(false);
     calendar_.Set_Blocked_By(nullptr);

@@ -4,10 +4,13 @@
 
 #include "calendar/main_frm.h"
 #include "settings/about_page.h"
+#include "settings/colours_page.h"
 #include "settings/events_page.h"
 #include "settings/general_page.h"
 #include "settings/page.h"
+#include "settings/style_page.h"
 #include "settings/tooltips_page.h"
+#include "settings/wallpaper_page.h"
 #include "toolkit/control_array.h"
 #include "toolkit/form.h"
 #include "toolkit/list_controls.h"
@@ -62,14 +65,18 @@ public:
     Tab_Strip TabStrip1;
     Control_Array<Frame, page_count> Settings_Fra;
     Events_Page Events;
+    Colours_Page Colours;
     General_Page General;
+    Style_Page Style;
     Tooltips_Page Tooltips;
+    Wallpaper_Page Wallpaper;
     About_Page About;
     Button Ok_Btn;
     Button Cancel_Btn;
     Button Apply_Btn;
 
 private:
+    void Lay_Out();
     void Load_Settings();
     void Load_General_Settings();
     void Position_Frames();

@@ -103,11 +103,6 @@ void Style_Page::Load_Settings() {
 
 void Style_Page::Set_Theme(const Theme_Look &look) {
     theme_ = look;
-    for (Control *control : std::initializer_list<Control *>{&Style1_Opt, &Style2_Opt, &Example1_Lbl,
-                                                             &Example2_Lbl, &Example3_Lbl, &Example4_Lbl})
-        control->Set_Enabled(!look.use_style);
-    for (Control *control : std::initializer_list<Control *>{&Pos_Set_Opt, &Pos_Manual_Opt, &Pos_Preview_Img})
-        control->Set_Enabled(!look.use_position);
     Style_Preview();
     Show_Position();
 }
@@ -118,6 +113,8 @@ void Style_Page::Choose_Style(Option_Button &option) {
 }
 
 void Style_Page::Choose_Position(int column, int row) {
+    if (!Pos_Set_Opt.Enabled())
+        return;
     set_position_ = places[std::clamp(row, 0, last_cell)][std::clamp(column, 0, last_cell)];
     Pos_Set_Opt.Set_Checked(true);
     Show_Position();

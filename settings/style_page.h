@@ -7,21 +7,25 @@
 
 #include <cstdint>
 
+/// What a theme pack decides in place of the page.
+struct Theme_Look {
+    bool use_style = false;
+    bool use_position = false;
+    std::int16_t style = 0;
+    std::int16_t position = 0; ///< 7 is the manual position
+    platform::Picture picture; ///< the wallpaper; none: the desktop's own colour is shown
+};
+
 class Style_Page {
 public:
-    /// What a theme pack decides in place of this page.
-    struct Theme_Look {
-        bool use_style = false;    ///< the pack's style rules: the page's choice of styles is disabled
-        bool use_position = false; ///< likewise its position
-        std::int16_t style = 0;
-        std::int16_t position = 0; ///< 7 is the manual position
-        platform::Picture picture; ///< the wallpaper; none: the desktop's own colour is shown
-    };
+    using Theme_Look = ::Theme_Look;
 
     Style_Page(Form &dialog, Frame &frame, Main_Frm &calendar);
 
     /// Shows style and position of the settings. A position that is no code is shown as the first one.
     void Load_Settings();
+    /// Shows what a theme pack decides. Who says so enables and disables the choices, too; the miniature
+    /// goes with Pos_Set_Opt.
     void Set_Theme(const Theme_Look &look);
     /// Places the controls, also after a change of the dots per inch.
     void Lay_Out();

@@ -28,12 +28,12 @@ struct Kind {
 };
 
 constexpr std::array<Kind, 3> kinds{{
-    {"Don't use Tooltips", "", "", "Neither of the two Tooltip styles will be used."},
-    {"Use 'Standard' Tooltips", "Hover Over...", example,
+    {"&Don't use Tooltips", "", "", "Neither of the two Tooltip styles will be used."},
+    {"Use '&Standard' Tooltips", "Hover Over...", example,
      "The standard Tooltips appear when you hover your mouse over it for a short length of time. The problem "
      "with the standard Tooltips is that they are only one line high. This means if the event is too long "
      "then it might get cut off."},
-    {"Use 'Balloon' Tooltips", "Hold Left Mouse Button", "",
+    {"Use '&Balloon' Tooltips", "Hold Left Mouse Button", "",
      "These balloon Tooltips don't pop up when you hover over them like the standard tooltips do. For these "
      "to appear you have to hold down the left mouse button for about half a second over the the box."},
 }};

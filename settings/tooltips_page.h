@@ -10,6 +10,8 @@
 class Tooltips_Page {
 public:
     Tooltips_Page(Form &dialog, Frame &frame, Main_Frm &calendar);
+    /// Places the controls, also after a change of the dots per inch.
+    void Lay_Out();
 
     /// Selects a kind: 0 none, 1 standard, 2 balloons. Another number is the standard kind.
     void Select(std::int16_t kind);
@@ -28,7 +30,6 @@ private:
     void Tips_Opt_Click(int index);
     void Example_Mouse_Down(platform::Mouse_Button button);
     void Example_Tooltip();
-    void Lay_Out();
 
     Form &dialog_;
     const Frame &frame_;

@@ -1,5 +1,5 @@
-// The driver's ways to look at the program and to act on it. Message boxes, MSAA, SendInput and the screen's
-// pixels work across processes; what only Wine's host knows is read from /proc.
+// The driver's ways to look at the program. Message boxes, MSAA and the screen's pixels work across
+// processes; what only Wine's host knows is read from /proc. Mouse and keyboard are in driver_input.cpp.
 #include "tests/desktop/driver.h"
 
 #include <windows.h>
@@ -29,15 +29,6 @@ std::string Utf8(std::wstring_view wide) {
         WideCharToMultiByte(CP_UTF8, 0, wide.data(), static_cast<int>(wide.size()), text.data(),
                             static_cast<int>(text.size()), nullptr, nullptr)));
     return text;
-}
-
-/// Also of other processes' controls; nothing from a window that does not answer.
-std::string Text_Of(HWND window) {
-    wchar_t text[2000] = L"";
-    DWORD_PTR length = 0;
-    SendMessageTimeoutW(window, WM_GETTEXT, std::size(text), reinterpret_cast<LPARAM>(text), SMTO_ABORTIFHUNG,
-                        2000, &length);
-    return Utf8({text, length});
 }
 
 std::string Class_Of(HWND window) {
@@ -107,38 +98,31 @@ Item Item_Of(IAccessible &accessible, VARIANT child) {
     return item;
 }
 
-/// The stop icon is red more than blue, the one for information is not.
-bool Is_Red(HWND icon) {
+/// The stop icon is red, the exclamation yellow; the others are not named.
+std::string Icon_Of(HWND icon) {
     RECT place;
     GetWindowRect(icon, &place);
     const Picture screen;
-    long red = 0;
+    long red = 0; // than blue
+    long green = 0;
     for (LONG y = place.top; y < place.bottom; ++y)
-        for (LONG x = place.left; x < place.right; ++x)
-            red += static_cast<long>(screen.At(x, y) >> 16) - static_cast<long>(screen.At(x, y) & 0xFF);
-    return red > 0;
-}
-
-void Send_Key(WORD key, DWORD flags) {
-    INPUT input{};
-    input.type = INPUT_KEYBOARD;
-    input.ki.wVk = key;
-    input.ki.dwFlags = flags;
-    SendInput(1, &input, sizeof input);
-}
-
-/// Place and button in one event: what X tells late of an earlier place would move a mouse that is there
-/// already.
-void Send_Mouse(POINT point, DWORD button) {
-    INPUT input{};
-    input.type = INPUT_MOUSE;
-    input.mi.dx = (point.x * 65536 + 65535) / GetSystemMetrics(SM_CXSCREEN);
-    input.mi.dy = (point.y * 65536 + 65535) / GetSystemMetrics(SM_CYSCREEN);
-    input.mi.dwFlags = MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE | button;
-    SendInput(1, &input, sizeof input);
+        for (LONG x = place.left; x < place.right; ++x) {
+            const auto blue = static_cast<long>(screen.At(x, y) & 0xFF);
+            red += static_cast<long>(screen.At(x, y) >> 16) - blue;
+            green += static_cast<long>(screen.At(x, y) >> 8 & 0xFF) - blue;
+        }
+    return red <= 0 ? "" : green > red / 2 ? "warning " : "stop ";
 }
 
 } // namespace
+
+std::string Text_Of(HWND window) {
+    wchar_t text[2000] = L"";
+    DWORD_PTR length = 0;
+    SendMessageTimeoutW(window, WM_GETTEXT, std::size(text), reinterpret_cast<LPARAM>(text), SMTO_ABORTIFHUNG,
+                        2000, &length);
+    return Utf8({text, length});
+}
 
 bool Wait_Until(const std::function<bool()> &holds, DWORD milliseconds) {
     const DWORD begin = GetTickCount();
@@ -225,9 +209,9 @@ void Program::Print() const {
                     item.place.left, item.place.top, item.place.right, item.place.bottom);
 }
 
-HWND Program::Calendar() const {
+HWND Program::Window(std::string_view class_name) const {
     for (const HWND window : Windows_Below(nullptr))
-        if (Process_Of(window) == id_ && Class_Of(window) == "Vellatro_Calendar" && IsWindowVisible(window))
+        if (Process_Of(window) == id_ && Class_Of(window) == class_name && IsWindowVisible(window))
             return window;
     return nullptr;
 }
@@ -266,10 +250,7 @@ void Program::Do_Default(std::string_view name) const {
 }
 
 HWND Program::Box_Window() const {
-    for (HWND box = nullptr; (box = FindWindowExW(nullptr, box, L"#32770", nullptr)) != nullptr;)
-        if (Process_Of(box) == id_ && IsWindowVisible(box))
-            return box;
-    return nullptr;
+    return Window("#32770");
 }
 
 std::string Program::Box() const {
@@ -282,65 +263,11 @@ std::string Program::Box() const {
         if (Class_Of(part) != "Static")
             continue;
         if ((GetWindowLongW(part, GWL_STYLE) & SS_TYPEMASK) == SS_ICON)
-            icon = Is_Red(part) ? "stop " : "";
+            icon = Icon_Of(part);
         else
             text += Text_Of(part);
     }
     return icon + "[" + Text_Of(box) + "] " + text;
-}
-
-void Program::Answer() const {
-    const HWND box = Box_Window();
-    PostMessageW(box, WM_COMMAND, IDOK, 0);
-    EXPECT_TRUE(box && Wait_Until([box] { return !IsWindow(box); })) << "no box that takes an answer";
-}
-
-bool Program::Uncover(POINT point) const {
-    // Inside the stand-in the calendar is painted in its view only (see shell_standin.cpp). And a calendar
-    // that is a window of its own may get below the stand-in, which on Windows nothing can: Wine raises the X
-    // window of whatever gets the focus, without knowing it, and puts what X has found below the mouse, some
-    // time ago, above the others. So both are asked, and the calendar is moved twice, as what stays in its
-    // place is not raised.
-    const HWND calendar = Calendar();
-    const HWND standin = FindWindowA("Progman", nullptr);
-    return Wait_Until([&] {
-        DWORD_PTR answer = 0; // which comes after what X has told the stand-in
-        SendMessageTimeoutW(standin, WM_NULL, 0, 0, SMTO_NORMAL, 2000, &answer);
-        if (GetAncestor(calendar, GA_PARENT) == standin)
-            SetParent(calendar, FindWindowExA(standin, nullptr, "SHELLDLL_DefView", nullptr));
-        if (Picture().At(point.x, point.y) != Bare_Screen->At(point.x, point.y) &&
-            WindowFromPoint(point) == calendar)
-            return true;
-        if (GetAncestor(calendar, GA_PARENT) == GetDesktopWindow())
-            for (const HWND place : {HWND_TOPMOST, HWND_NOTOPMOST})
-                SetWindowPos(calendar, place, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
-        return false;
-    });
-}
-
-void Program::Click(const RECT &place) const {
-    const POINT middle{(place.left + place.right) / 2, (place.top + place.bottom) / 2};
-    EXPECT_TRUE(Uncover(middle)) << "there is nothing to click";
-    Send_Mouse(middle, MOUSEEVENTF_LEFTDOWN);
-    Send_Mouse(middle, MOUSEEVENTF_LEFTUP);
-}
-
-void Program::Press(WORD key, bool with_alt) const {
-    const HWND calendar = Calendar();
-    const auto has_keyboard = [calendar] {
-        GUITHREADINFO state{};
-        state.cbSize = sizeof state;
-        return GetGUIThreadInfo(0, &state) && state.hwndFocus == calendar;
-    };
-    if (!has_keyboard())
-        Click(Named(Title()).place);
-    EXPECT_TRUE(Wait_Until(has_keyboard)) << "no keyboard by a click";
-    if (with_alt)
-        Send_Key(VK_MENU, 0);
-    Send_Key(key, 0);
-    Send_Key(key, KEYEVENTF_KEYUP);
-    if (with_alt)
-        Send_Key(VK_MENU, KEYEVENTF_KEYUP);
 }
 
 long Program::Processor_Ticks() const {

@@ -36,6 +36,16 @@ struct Picture {
 /// The desktop before the first start.
 inline std::unique_ptr<const Picture> Bare_Screen;
 
+// What a hand does, wherever the mouse and the keyboard are.
+POINT Middle(const RECT &place);
+void Send_Mouse(POINT point, DWORD flags);      ///< MOUSEEVENTF_LEFTDOWN and its like; 0: moves only
+void Send_Key(WORD key, bool with_alt = false); ///< down and up
+void Send_Text(std::string_view ascii);
+/// Clicks into the middle of a dialog's control, once nothing covers it, and waits for the effect.
+void Click_On(HWND window, const std::function<bool()> &done);
+bool Has_Keyboard(HWND window);
+std::string Text_Of(HWND window); ///< also of a control; nothing from a window that does not answer
+
 /// Polls until `holds` gives true; false after the deadline.
 bool Wait_Until(const std::function<bool()> &holds, DWORD milliseconds = 5000);
 
@@ -61,7 +71,8 @@ public:
     std::optional<DWORD> Exit_Code(DWORD milliseconds = 5000) const;
     void Print() const; ///< all there is to be seen of it
 
-    HWND Calendar() const; ///< null until it is visible
+    HWND Window(std::string_view class_name) const; ///< null until it is visible
+    HWND Calendar() const { return Window("Vellatro_Calendar"); }
     /// All that the calendar presents; nothing when there is no calendar or it does not answer.
     std::vector<Item> Items() const;
     std::vector<Item> Items(long role) const;
@@ -71,22 +82,25 @@ public:
     /// Asks for an item's default action, as assistive technology does.
     void Do_Default(std::string_view name) const;
 
-    /// The open message box as "[Vellatro] text", with "stop " before it if that is its icon; empty: none.
+    /// The open message box as "[Vellatro] text", with "stop " or "warning " before it if that is its icon;
+    /// empty: none.
     std::string Box() const;
-    void Answer() const; ///< presses OK and waits until the box is gone
+    HWND Box_Window() const;
+    void Answer(WORD button = IDOK) const; ///< presses it and waits until the box is gone
 
     /// Brings the calendar over the stand-in; false when nothing appears at the point.
     bool Uncover(POINT point) const;
-    void Click(const RECT &place) const;               ///< with the left button, in the middle
-    void Press(WORD key, bool with_alt = false) const; ///< makes the calendar the active window first
+    /// In the middle, with the left button, MOUSEEVENTF_LEFTDOWN, or another.
+    void Click(const RECT &place, DWORD button = MOUSEEVENTF_LEFTDOWN, int times = 1) const;
+    void Double_Click(std::string_view item) const { Click(Named(item).place, MOUSEEVENTF_LEFTDOWN, 2); }
+    void Choose(std::initializer_list<WORD> keys) const; ///< presses them in the menu, which then goes away
+    void Press(WORD key, bool with_alt = false) const;   ///< makes the calendar the active window first
 
     long Processor_Ticks() const;       ///< hundredths of a second since its start; -1: not to be had
     std::ptrdiff_t Gdi_Objects() const; ///< -1: not to be had
     std::ptrdiff_t Windows(bool only_visible) const;
 
 private:
-    HWND Box_Window() const;
-
     HANDLE process_ = nullptr;
     DWORD id_ = 0;
 };
@@ -98,6 +112,11 @@ class Desktop_Test : public ::testing::Test {
 protected:
     void SetUp() override;
     void TearDown() override;
+
+    /// Puts another stand-in for the shell in the place of the one that is there, and takes its desktop for
+    /// the bare one. The options are its command line.
+    static void Exchange_Shell(const std::wstring &options);
+    static void Kill_Shell();
 
     Program &Start();
     Program &Start_Calendar(); ///< and waits for the calendar, which no box may precede

@@ -92,6 +92,44 @@ void Desktop_Test::TearDown() {
     Save_Picture("failed-" + Test_Name());
 }
 
+void Desktop_Test::Kill_Shell() {
+    HWND shell = FindWindowA("Progman", nullptr);
+    if (!shell)
+        shell = FindWindowA("Standin_Wallpaper", nullptr);
+    DWORD id = 0;
+    GetWindowThreadProcessId(shell, &id);
+    const HANDLE process = OpenProcess(PROCESS_TERMINATE | SYNCHRONIZE, FALSE, id);
+    ASSERT_TRUE(process) << "no stand-in for the shell";
+    TerminateProcess(process, 0);
+    EXPECT_EQ(WaitForSingleObject(process, 5000), WAIT_OBJECT_0);
+    CloseHandle(process);
+    EXPECT_TRUE(Wait_Until([shell] { return !IsWindow(shell); }));
+}
+
+void Desktop_Test::Exchange_Shell(const std::wstring &options) {
+    wchar_t folder[MAX_PATH] = L"";
+    GetModuleFileNameW(nullptr, folder, std::size(folder));
+    *(std::wcsrchr(folder, L'\\') + 1) = L'\0'; // it lies beside the tests
+    if (FindWindowA("Progman", nullptr) || FindWindowA("Standin_Wallpaper", nullptr))
+        Kill_Shell();
+    std::wstring line = L"\"" + std::wstring(folder) + L"shell_standin.exe\" " + options;
+    STARTUPINFOW start{};
+    start.cb = sizeof start;
+    PROCESS_INFORMATION process{};
+    ASSERT_TRUE(
+        CreateProcessW(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start, &process))
+        << "error " << GetLastError();
+    CloseHandle(process.hThread);
+    CloseHandle(process.hProcess);
+    // Its picture appears in one piece, in a corner without icons as ever.
+    ASSERT_TRUE(Wait_Until([] {
+        const Picture now;
+        return (FindWindowA("Progman", nullptr) || FindWindowA("Standin_Wallpaper", nullptr)) &&
+               now.At(now.width - 1, 0) == Bare_Screen->At(now.width - 1, 0);
+    })) << "the stand-in does not appear";
+    Bare_Screen = std::make_unique<const Picture>();
+}
+
 Program &Desktop_Test::Start() {
     programs_.push_back(std::make_unique<Program>(folder_ + L"\\vellatro.exe", folder_));
     return *programs_.back();

@@ -35,6 +35,40 @@ TEST_F(Position, places_by_code_on_a_work_area_that_does_not_begin_at_zero) {
     EXPECT_EQ(Position_Of(7, placement), expected[7]);
 }
 
+// The task bar on each of the four sides, and a screen to the left of and above the main one.
+TEST_F(Position, stands_beside_the_task_bar_at_any_dots_per_inch) {
+    const struct {
+        int dots;
+        platform::Rect work_area; // pixels
+        int x[3], y[3];           // twips: left, centred and right; top, centred and by the lowest boxes
+    } rows[] = {
+        {96, {0, 0, 1280, 994}, {0, 4425, 8850}, {0, 3532, 7335}},
+        {96, {0, 30, 1280, 994}, {0, 4425, 8850}, {450, 3982, 7785}},
+        {96, {62, 0, 1218, 1024}, {930, 4890, 8850}, {0, 3757, 7785}},
+        {96, {0, 0, 1218, 1024}, {0, 3960, 7920}, {0, 3757, 7785}},
+        {96, {-1280, -200, 1280, 994}, {-19200, -14775, -10350}, {-3000, 532, 4335}},
+        {144, {0, 0, 1920, 1160}, {0, 4425, 8850}, {0, 1877, 4025}},
+        {144, {0, 40, 1920, 1160}, {0, 4425, 8850}, {400, 2277, 4425}},
+        {144, {80, 0, 1840, 1200}, {800, 4825, 8850}, {0, 2077, 4425}},
+        {144, {0, 0, 1840, 1200}, {0, 4025, 8050}, {0, 2077, 4425}},
+        {144, {-1920, -100, 1920, 1160}, {-19200, -14775, -10350}, {-1000, 877, 3025}},
+    };
+    // By code: which of the three across, which down. 7 is the user's own place.
+    constexpr int across[] = {2, 1, 0, 1, 2, 1, 0, -1, 2, 0};
+    constexpr int down[] = {2, 2, 2, 1, 0, 0, 0, -1, 1, 1};
+    for (const auto &row : rows) {
+        Desktop().dots_per_inch = row.dots;
+        Desktop().work_area = row.work_area;
+        const Placement placement{GetDesktopRect(true), {10350, 7845}, 7500, {-15, -30}};
+        for (std::int16_t code = 0; code < 10; ++code) {
+            const platform::Point expected = code == 7
+                                                 ? platform::Point{-15, -30}
+                                                 : platform::Point{row.x[across[code]], row.y[down[code]]};
+            EXPECT_EQ(Position_Of(code, placement), expected) << &row - rows << ", code " << code;
+        }
+    }
+}
+
 TEST_F(Position, the_work_area_comes_in_pixels_and_twips) {
     Desktop().work_area = {-10, 28, 1920, 1052};
     EXPECT_EQ(GetDesktopRect(false), Desktop().work_area);

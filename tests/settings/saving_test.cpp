@@ -18,26 +18,102 @@ protected:
 };
 
 TEST_F(Saving, writes_what_differs_and_what_is_always_written) {
-    const std::string always = "Bar Date Format=d Month - yyyy|Bar Time=False|Bar Time Format=H:mm|";
+    const std::string bar = "Bar Date Format=d Month - yyyy|Bar Time=False|Bar Time Format=H:mm|";
+    const std::string rest = "Style=1|Use Other Display Mode=False|";
     Cur_Settings = Settings{};
     Open(Settings_Frm::general_fra);
     const auto apply = [this] { Push(*dialog, dialog->Apply_Btn); };
-    EXPECT_EQ(Written(apply), always);
+    EXPECT_EQ(Written(apply), "Alignment=0|" + bar + "Other Display Mode=0|" + rest);
     General_Page &page = dialog->General;
     Push(*dialog, page.Alert_Chk, false);
     Push(*dialog, page.Allow_Dragging_Chk, false);
     Push(*dialog, page.Auto_Compact_Chk, true);
-    EXPECT_EQ(Written(apply), "Allow Dragging=0|Auto Compact=1|" + always + "Show Alerts=0|");
+    EXPECT_EQ(Written(apply), "Alignment=0|Allow Dragging=0|Auto Compact=1|" + bar +
+                                  "Other Display Mode=0|Show Alerts=0|" + rest);
     EXPECT_TRUE(form.Compact_Timer.Enabled());
     Push(*dialog, page.Auto_Compact_Chk, false);
     Enter_Text(*dialog, page.Bar_Date_Cbo, "typed");
     Push(*dialog, page.Bar_Time_Chk, true);
-    EXPECT_EQ(Written(apply), "Auto Compact=0|Bar Date Format=typed|Bar Time=True|Bar Time Format=H:mm|");
+    EXPECT_EQ(Written(apply),
+              "Alignment=0|Auto Compact=0|Bar Date Format=typed|Bar Time=True|Bar Time Format=H:mm|Other "
+              "Display Mode=0|" +
+                  rest);
     EXPECT_FALSE(form.Compact_Timer.Enabled());
     EXPECT_TRUE(form.Settings_Visible());
     Push(*dialog, page.Alert_Chk, true);
     EXPECT_EQ(Written([this] { Push(*dialog, dialog->Cancel_Btn); }), "Settings Tab=3|");
     EXPECT_EQ(Cur_Settings.Show_Alerts, 0);
+}
+
+TEST_F(Saving, colours_are_kept_under_their_own_keys_and_seen_at_once) {
+    const struct {
+        Picture_Box Colours_Page::*swatch;
+        const char *key;
+        std::function<platform::Colour()> seen;
+    } rows[] = {
+        {&Colours_Page::Col_Normal_Pic, "Normal", [this] { return Box_Of(6).Back_Colour(); }},
+        {&Colours_Page::Col_Today_Pic, "Today", [this] { return Box_Of(5).Back_Colour(); }},
+        {&Colours_Page::Col_Num_Pic, "Num", [this] { return Box_Of(6).Fore_Colour(); }},
+        {&Colours_Page::Col_Text_Pic, "Text", [this] { return form.Box_Caption_Lbl[3].Fore_Colour(); }},
+        {&Colours_Page::Col_Back_Pic, "Back", [this] { return form.Back_Colour(); }},
+        {&Colours_Page::Col_Fore_Pic, "Fore", [this] { return form.Which_Month_Lbl.Fore_Colour(); }},
+    };
+    Open(Settings_Frm::colours_fra);
+    const auto apply = [this] { dialog->Save_Colours(); };
+    platform::Colour colour = 0;
+    for (const auto &row : rows) {
+        (dialog->Colours.*row.swatch).Set_Back_Colour(++colour);
+        EXPECT_EQ(Written(apply), row.key + ("=" + std::to_string(colour)) + "|");
+        EXPECT_EQ(row.seen(), colour);
+        EXPECT_EQ(Box_Of(5).Back_Colour(), Cur_Settings.Col_Today);
+        EXPECT_EQ(Written(apply), "");
+    }
+    Push(*dialog, dialog->Colours.Col_Sys_Opt, true);
+    EXPECT_EQ(Written(apply), "Menu Colour Source=0|");
+    EXPECT_NE(form.Back_Colour(), Cur_Settings.Col_Back);
+    Push(*dialog, dialog->Colours.Col_Other_Opt, true);
+    EXPECT_EQ(Written(apply), "Back=5|Fore=6|Menu Colour Source=1|");
+    EXPECT_EQ(form.Back_Colour(), 5);
+}
+
+TEST_F(Saving, style_and_position_are_seen_at_once) {
+    Open(Settings_Frm::style_fra);
+    const int height = form.Height();
+    Push(*dialog, dialog->Style.Style1_Opt, true);
+    Push(*dialog, dialog->Style.Pos_Manual_Opt, true);
+    Cur_Settings.Manual_PosX = 300;
+    Cur_Settings.Manual_PosY = 450;
+    EXPECT_EQ(Written([this] { dialog->Save_Theme(); }), "Alignment=7|Style=0|");
+    EXPECT_TRUE(form.Height() != height && form.Left() == 300 && form.Top() == 450);
+    EXPECT_EQ(Desktop().mirrors[&form.Model()].clip, Seen());
+}
+
+TEST_F(Saving, a_pack_rules_style_and_position_as_far_as_it_may) {
+    for (int month = 1; month <= 12; ++month)
+        Fakes().files["C:\\Vellatro\\P\\" + std::to_string(month) + ".jpg"] = "a picture";
+    Fakes().files["C:\\Vellatro\\P\\settings.ini"] = "3=0-6-1\r\n";
+    Fakes().pictures["C:\\Vellatro\\P\\3.jpg"] = {1, 1, std::make_shared<std::vector<std::uint8_t>>(3)};
+    Cur_Settings.Use_Theme_Pos = 0;
+    Open(Settings_Frm::wallpaper_fra);
+    const int height = form.Height();
+    Wallpaper_Page &page = dialog->Wallpaper;
+    const auto save = [this] { dialog->Save_Theme(); };
+    EXPECT_EQ(Written(save), "Alignment=0|Style=1|"); // the pack of the settings is not there
+    Push(*dialog, page.Theme_Use_Chk, true);
+    Push(*dialog, page.Packs_Cbo, true);
+    EXPECT_EQ(Written(save),
+              "TileWallpaper=1|WallpaperStyle=0|Alignment=0|Pack Name=P|Style=1|Use Themes=1|");
+    EXPECT_NE(form.Height(), height);
+    Push(*dialog, page.Theme_Pos_Chk, true);
+    Written(save);
+    EXPECT_TRUE(Stored("Alignment").empty() && form.Left() == 0 && form.Top() == 0);
+    // A picture that is damaged is told and keeps nothing else from being saved.
+    Fakes().files.erase("C:\\Vellatro\\P\\3.bmp");
+    Fakes().pictures.clear();
+    Fakes().any_box = true;
+    Push(*dialog, page.Theme_Style_Chk, false);
+    EXPECT_EQ(Written([this] { Push(*dialog, dialog->Apply_Btn); }).substr(0, 16), "Bar Date Format=");
+    EXPECT_TRUE(Fakes().boxes.size() == 1 && form.Height() == height);
 }
 
 TEST_F(Saving, a_store_that_refuses_is_not_told_and_the_settings_hold) {

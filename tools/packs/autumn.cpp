@@ -20,7 +20,7 @@ void Mist(Canvas &canvas, float y0, float deep, Colour colour, float strength, s
 void Leaf(Canvas &canvas, Random &random, float x, float y, float size, Colour colour, float soft) {
     const float angle = random.Between(0, 2 * pi);
     for (const float turn : {-1.15f, -0.6f, 0.6f, 1.15f, 0.0f})
-        canvas.Petal(x, y, angle + turn, size * (1 - 0.28f * std::abs(turn)), size * 0.5f, colour * 0.75f,
+        canvas.Petal(x, y, angle + turn, size * (1 - 0.28f * std::abs(turn)), size * 0.36f, colour * 0.75f,
                      colour * (1.15f - 0.2f * std::abs(turn)), 0.95f, soft);
     canvas.Curve(x, y, x - std::cos(angle) * size * 0.3f, y - std::sin(angle) * size * 0.3f,
                  x - std::cos(angle + 0.5f) * size * 0.7f, y - std::sin(angle + 0.5f) * size * 0.7f,
@@ -61,7 +61,7 @@ void Reeds(Canvas &canvas, Random &random, float left, float right, float foot, 
         const float height = Mix(low, high, edge * random.Between(0.3f, 1)),
                     lean = height * (0.08f + 0.09f * random.Bell_Shaped());
         const float base = foot + random.Between(-8, 12), shade = random.Between(0.7f, 1.2f),
-                    thick = high * 0.010f + 0.5f;
+                    thick = high * 0.0045f + 0.6f;
         canvas.Curve(x, base, x + lean * 0.1f, base - height * 0.6f, x + lean, base - height, thick,
                      thick * 0.6f, Mix(root, tip, 0.4f) * shade);
         if (random.Next() < 0.6f) {
@@ -81,6 +81,16 @@ void Reeds(Canvas &canvas, Random &random, float left, float right, float foot, 
                              0.7f, 0.6f);
             }
     }
+}
+
+/// Shafts of light that fan out from the sun, downwards.
+void Sunbeams(Canvas &canvas, float sun_x, float sun_y) {
+    canvas.Each([&](float x, float y, Colour &pixel) {
+        const float angle = std::atan2(y - sun_y, x - sun_x), d = std::hypot(x - sun_x, y - sun_y);
+        const float shaft = Ramp(-0.1f, 0.5f, Fractal(angle * 5, 2, 950, 4)) * Ramp(60, 320, d) *
+                            std::exp(-d / 620) * Ramp(sun_y - 60, sun_y + 160, y);
+        pixel = pixel + Colour{0.30f, 0.20f, 0.08f} * shaft;
+    });
 }
 
 } // namespace
@@ -119,6 +129,8 @@ void September(Canvas &canvas) {
             const Colour veil = Mix(foot.At(k), Rgb(0xffe3a6), sunward * 0.6f);
             return Mix(hue * (1 + 0.22f * relief), veil, 1 - std::exp(-depth / (95 + 60 * k)));
         });
+        if (i == ranges - 1)
+            Sunbeams(canvas, sun_x, sun_y);
         if (i >= 4)
             Conifers(canvas, random, ridge, -20, 1940, 7 + 9 * (k - 0.5f) * 2, 8 + 60 * (k - 0.5f),
                      26 + 190 * (k - 0.5f) * (k - 0.3f) * 2, 10 + 30 * k,
@@ -127,13 +139,9 @@ void September(Canvas &canvas) {
             Mist(canvas, base + 75 + 20 * k, 34 + 12 * k, Mix(Rgb(0xf8dca6), Rgb(0xeac890), k), 0.5f,
                  940 + static_cast<unsigned>(i));
     }
-    // Shafts of light fan out from the sun.
-    canvas.Each([&](float x, float y, Colour &pixel) {
-        const float angle = std::atan2(y - sun_y, x - sun_x), d = std::hypot(x - sun_x, y - sun_y);
-        const float shaft = Ramp(-0.1f, 0.5f, Fractal(angle * 5, 2, 950, 4)) * Ramp(60, 320, d) *
-                            std::exp(-d / 620) * Ramp(sun_y - 60, sun_y + 160, y);
-        pixel = pixel + Colour{0.30f, 0.20f, 0.08f} * shaft;
-    });
+    for (const auto &[x, height] :
+         std::initializer_list<std::pair<float, float>>{{40, 260}, {1640, 230}, {1730, 380}, {1860, 640}})
+        Conifer(canvas, random, x, 1020 + height * 0.2f, height, {Rgb(0x14211f), Rgb(0x8f7a50), 0.3f});
     for (int i = 0; i < 9; ++i)
         Bird(canvas, 1010 + 27 * static_cast<float>(i) + random.Between(-12, 12),
              270 + random.Between(-40, 40), random.Between(7, 12), random.Between(-0.2f, 0.5f),
@@ -150,19 +158,22 @@ void October(Canvas &canvas) {
         Ridge ridge;
         float spacing, size, haze;
     };
-    const Slope slopes[] = {{{430, 90, 780, 1011}, 7, 18, 0.80f},    {{505, 90, 900, 1012}, 9, 26, 0.64f},
-                            {{600, 100, 1000, 1013}, 13, 40, 0.46f}, {{710, 100, 1050, 1014}, 20, 62, 0.28f},
-                            {{840, 90, 1200, 1015}, 32, 100, 0.12f}, {{1010, 90, 1300, 1016}, 60, 185, 0}};
+    const Slope slopes[] = {{{430, 90, 780, 1011}, 7, 18, 0.76f},
+                            {{500, 90, 900, 1012, 0, 5, -120}, 9, 26, 0.56f},
+                            {{600, 100, 1000, 1013, 0, 5, 190}, 13, 40, 0.36f},
+                            {{710, 100, 1050, 1014, 0, 5, -230}, 20, 62, 0.18f},
+                            {{840, 90, 1200, 1015, 0, 5, 170}, 32, 100, 0.06f},
+                            {{1000, 70, 1300, 1016, 0, 5, -140}, 60, 185, 0}};
     const unsigned lit[] = {0xe8a93a, 0xd9772a, 0xc24a22, 0xe9c24c, 0xb9862e, 0x8f8a3a},
                    shade[] = {0x8a4f1c, 0x6f2f18, 0x541a1a, 0x8f6a20, 0x5a3a1c, 0x3a4426};
-    const Colour air = Rgb(0xeed6b0);
+    const Colour air = Rgb(0xe9d3b4);
     int layer = 0;
     for (const Slope &slope : slopes) {
         const auto n = static_cast<unsigned>(layer++);
         Hill(canvas, slope.ridge, Mix(Rgb(0x5a3c22), air, slope.haze), Mix(Rgb(0x4a3a26), air, slope.haze),
              60, 0.1f);
         // Rows of crowns down the slope, the lower ones in front.
-        for (float down = 0; down < 150 + slope.size; down += slope.size * 0.36f)
+        for (float down = 0; down < 240 + slope.size; down += slope.size * 0.36f)
             for (float x = -40; x < 1960; x += slope.spacing * random.Between(0.7f, 1.5f)) {
                 const float grove = Fractal(x / (slope.size * 9), down / (slope.size * 5), 1020 + n, 3),
                             pick = grove * 4.5f + random.Between(0, 3.2f);
@@ -187,9 +198,9 @@ void October(Canvas &canvas) {
                  Mix(Rgb(0xf6e2bf), Rgb(0xe8d4b4), static_cast<float>(layer) / 6),
                  0.75f - 0.08f * static_cast<float>(layer), 1040 + n);
     }
-    for (int i = 0; i < 26; ++i) {
-        const float size = random.Between(7, 15), z = random.Next();
-        Leaf(canvas, random, random.Between(0, 1200), random.Between(250, 1060), size * (1 + z),
+    for (int i = 0; i < 14; ++i) {
+        const float size = random.Between(8, 14), z = random.Next();
+        Leaf(canvas, random, random.Between(0, 1200), random.Between(620, 1060), size * (1 + z),
              Rgb(lit[static_cast<std::size_t>(z * 3.9f)]), z > 0.75f ? 3.5f : 0.5f);
     }
     canvas.Bloom(0.75f, 50, 0.3f);
@@ -202,8 +213,8 @@ void November(Canvas &canvas) {
     constexpr float horizon = 610;
     const Colour fog = Rgb(0xc3c6c4);
     Sky(canvas, {{0, 0x98a1a8}, {0.45f, 0xb8bdbe}, {0.8f, 0xd3d0c6}, {1, 0xd6d1c4}}, horizon);
-    canvas.Glow(1120, 380, 260, Colour{0.22f, 0.19f, 0.13f});
-    canvas.Disc(1120, 380, 44, Rgb(0xf8f0dc), 0.75f, 16);
+    canvas.Glow(1120, 225, 260, Colour{0.22f, 0.19f, 0.13f});
+    canvas.Disc(1120, 225, 44, Rgb(0xf8f0dc), 0.75f, 16);
     const Ridge shores[] = {{566, 40, 700, 1121}, {590, 22, 500, 1125}};
     for (int i = 0; i < 2; ++i) {
         const auto k = static_cast<float>(i);
@@ -247,8 +258,8 @@ void November(Canvas &canvas) {
              190 + (k < 0 ? -13.0f : 17.0f) * std::abs(k) + random.Between(-4, 4), 12,
              random.Between(-0.1f, 0.5f), Rgb(0x6d7276));
     }
-    Reeds(canvas, random, -120, 520, 1090, 60, 250, 420, Rgb(0x4a3826), Rgb(0xb98a52));
-    Reeds(canvas, random, 1370, 2080, 1095, 80, 400, 560, Rgb(0x3c2c20), Rgb(0xc2854a));
+    Reeds(canvas, random, -120, 520, 1090, 60, 250, 620, Rgb(0x3a3028), Rgb(0xb39468));
+    Reeds(canvas, random, 1370, 2080, 1095, 80, 400, 900, Rgb(0x30261f), Rgb(0xb58a5c));
     canvas.Bloom(0.72f, 50, 0.2f);
     Vignette(canvas, 0.3f);
 }

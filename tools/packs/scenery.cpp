@@ -3,11 +3,12 @@
 
 float Ridge::operator()(float x) const {
     const float u = x / width, rolling = Fractal(u, 0.37f, seed, octaves, 0.42f);
+    const float line = base + tilt * (x / picture_width - 0.5f);
     if (sharp <= 0)
-        return base - height * rolling;
+        return line - height * rolling;
     const float rock =
         Crests(u + 0.15f * Fractal(u * 3, 5, seed + 7, 4), 0.61f, seed, octaves + 2, 0.47f) * 2 - 1;
-    return base - height * Mix(rolling, rock, sharp);
+    return line - height * Mix(rolling, rock, sharp);
 }
 
 void Sky(Canvas &canvas, const Gradient &colours, float bottom) {
@@ -23,30 +24,34 @@ void Hill(Canvas &canvas, const Ridge &ridge, Colour crest, Colour foot, float f
 }
 
 void Conifer(Canvas &canvas, Random &random, float x, float foot, float height, const Conifer_Look &look) {
-    const float half = height * random.Between(0.16f, 0.22f), lean = height * random.Between(-0.02f, 0.02f);
+    const float half = height * random.Between(0.17f, 0.23f), lean = height * random.Between(-0.02f, 0.02f);
     const float top = foot - height;
-    canvas.Stroke(x, foot, height * 0.03f + 0.3f, x + lean, top, 0.3f, look.needles, 1, look.soft);
-    const int tiers = std::clamp(static_cast<int>(height / 6), 7, 40), around = height > 90   ? 7
-                                                                                : height > 30 ? 4
+    canvas.Stroke(x, foot - height * 0.02f, height * 0.022f + 0.3f, x + lean, top, 0.3f, look.needles, 1,
+                  look.soft);
+    const int tiers = std::clamp(static_cast<int>(height / 7), 7, 44), around = height > 90   ? 11
+                                                                                : height > 30 ? 5
                                                                                               : 2;
-    for (int i = 0; i < tiers * around; ++i) {
+    // From below upwards: the tips of upper branches hang before the lower ones.
+    for (int i = tiers * around - 1; i >= 0; --i) {
         const float t = (static_cast<float>(i) + random.Next()) / static_cast<float>(tiers * around);
-        const float y = top + height * (0.015f + 0.88f * t), trunk = Mix(x + lean, x, t);
-        const float spread = half * std::pow(t, 0.85f) * Ramp(1.25f, 0.85f, t) * random.Between(0.7f, 1.08f);
+        const float y = top + height * (0.015f + 0.86f * t), trunk = Mix(x + lean, x, t);
+        const float spread = half * std::pow(t, 0.85f) * Ramp(1.25f, 0.85f, t) * random.Between(0.6f, 1.08f);
         // Branches point all around the trunk: those towards the eye look short and hang over the others.
-        const float turn = around == 2 ? (i % 2 ? 0.5f : -0.5f) : random.Between(-0.62f, 0.62f);
+        const float turn = around == 2 ? (i % 2 ? 0.5f : -0.5f) : random.Between(-0.58f, 0.58f);
         const float out = spread * std::sin(turn * pi), front = std::max(std::cos(turn * pi), 0.0f);
-        const float drop = spread * (random.Between(0.3f, 0.5f) + 0.45f * front);
-        const float thick = height / static_cast<float>(tiers) * (0.4f + 0.75f * t), tip_x = trunk + out,
-                    tip_y = y + drop;
-        const float bend_x = trunk + out * 0.6f, bend_y = y + drop * 0.75f;
-        const Colour dark = look.needles * (0.8f + 0.3f * front + 0.2f * random.Next());
-        canvas.Curve(trunk, y, bend_x, bend_y, tip_x, tip_y, thick, thick * 0.3f, dark, 1, look.soft);
-        if (look.lit_strength > 0 && random.Next() < 0.8f) {
-            const Colour lit = Mix(dark, look.lit, look.lit_strength * random.Between(0.55f, 1));
-            canvas.Curve(Mix(trunk, tip_x, 0.3f), Mix(y, tip_y, 0.25f) - thick * 0.25f, bend_x,
-                         bend_y - thick * 0.4f, tip_x, tip_y - thick * 0.1f, thick * 0.6f, thick * 0.25f, lit,
-                         0.85f, look.soft + thick * 0.2f);
+        const float drop = spread * (random.Between(0.28f, 0.5f) + 0.5f * front);
+        const float tier = height / static_cast<float>(tiers), thick = tier * (0.35f + 0.7f * t);
+        const float tip_x = trunk + out, tip_y = y + drop, bend_x = trunk + out * 0.6f,
+                    bend_y = y + drop * 0.65f;
+        const Colour dark = look.needles * (0.75f + 0.35f * front + 0.25f * random.Next());
+        canvas.Curve(trunk + out * 0.15f, y, bend_x, bend_y, tip_x, tip_y, thick * (0.7f + 0.5f * front),
+                     thick * 0.35f, dark, 1, look.soft);
+        if (look.lit_strength > 0 && random.Next() < 0.75f) {
+            const Colour lit = Mix(dark, look.lit, look.lit_strength * random.Between(0.4f, 1));
+            canvas.Curve(Mix(trunk, tip_x, 0.45f), Mix(y, tip_y, 0.38f) - thick * 0.3f,
+                         Mix(bend_x, tip_x, 0.4f), Mix(bend_y, tip_y, 0.4f) - thick * 0.4f, tip_x,
+                         tip_y - thick * 0.1f, thick * (0.5f + 0.4f * front), thick * 0.3f, lit, 0.9f,
+                         look.soft + thick * 0.25f);
         }
     }
 }
@@ -73,29 +78,33 @@ void Conifers(Canvas &canvas, Random &random, const Ridge &ridge, float left, fl
 
 void Leafy_Tree(Canvas &canvas, Random &random, float x, float foot, float height, Colour shade, Colour lit,
                 float light_x, float soft) {
-    const float wide = height * random.Between(0.27f, 0.36f), middle = foot - height * 0.57f;
-    canvas.Stroke(x, foot, height * 0.045f, x, middle, height * 0.025f, shade * 0.35f, 1, soft);
+    const float wide = height * random.Between(0.33f, 0.44f),
+                middle = foot - height * (height < 45 ? 0.4f : 0.54f);
+    if (height > 45)
+        for (const float way : {-0.3f, 0.05f, 0.35f})
+            canvas.Curve(x, foot, x, foot - height * 0.2f, x + way * wide, middle, height * 0.042f,
+                         height * 0.02f, shade * 0.4f, 1, soft);
     struct Lump {
         float x, y, radius;
     };
-    std::vector<Lump> lumps;
-    const int count = height < 40 ? 5 : 15;
+    std::vector<Lump> lumps{{0, 0, wide * 0.5f}};
+    const int count = height < 40 ? 5 : 21;
     for (int i = 0; i < count; ++i) {
-        const float angle = (static_cast<float>(i) + random.Next()) / static_cast<float>(count) * 2 * pi,
-                    far = random.Between(0.25f, 0.68f);
-        lumps.push_back({std::cos(angle) * far * wide, std::sin(angle) * far * height * 0.42f,
-                         wide * random.Between(0.34f, 0.52f)});
+        const float angle = (static_cast<float>(i) + random.Next()) / static_cast<float>(count) * 2 * pi;
+        const float far = random.Between(0.3f, 0.88f), low = std::sin(angle) > 0 ? 0.3f : 0.42f;
+        lumps.push_back({std::cos(angle) * far * wide, std::sin(angle) * far * height * low,
+                         wide * random.Between(0.22f, 0.4f)});
     }
     std::stable_sort(lumps.begin(), lumps.end(), [](const Lump &a, const Lump &b) { return a.y > b.y; });
-    const float size = std::max(height * (height < 40 ? 0.05f : 0.017f), 0.7f);
-    const int dabs = height < 40 ? 9 : static_cast<int>(std::min(height * 0.9f + 20, 230.0f));
+    const float size = std::max(height * (height < 40 ? 0.05f : 0.012f), 0.7f);
+    const int dabs = height < 40 ? 9 : static_cast<int>(std::min(height * 1.6f + 30, 420.0f));
     for (const Lump &lump : lumps) {
         // Each lump of leaves has a dark underside and a lit cap of its own.
         const float place = 0.25f * (lump.x / wide * light_x - lump.y / (height * 0.42f));
         for (int i = 0; i < dabs; ++i) {
             const float t = static_cast<float>(i) / static_cast<float>(dabs),
                         angle = random.Between(0, 2 * pi);
-            const float r = std::sqrt(random.Next()) * (0.9f + 0.25f * random.Bell_Shaped());
+            const float r = std::sqrt(random.Next()) * (0.94f + 0.1f * random.Bell_Shaped());
             const float u = std::cos(angle) * r + 0.25f * light_x * (t - 0.5f),
                         v = std::sin(angle) * r * 0.85f - 0.3f * (t - 0.5f);
             const float faced = Unit(0.34f + place + 0.34f * (u * light_x - v) + 0.3f * (t - 0.5f) +
@@ -118,9 +127,15 @@ void Water(Canvas &canvas, const Water_Look &look) {
             const float slope = 0.6f * Fractal(u * 1.6f, w * 1.5f, look.seed, 4, 0.62f) +
                                 0.4f * Fractal(u * 5, w * 4.3f, look.seed + 31, 3, 0.6f);
             const float swing = look.waves * (5 + near * 0.75f);
-            const float source = look.horizon - v - slope * swing;
-            const float kept = look.horizon - std::abs(look.horizon - source) - 0.5f;
-            const Colour mirrored = above.At(x + slope * look.waves * 5, std::max(kept, 0.0f));
+            // Facets too small to see smear what they mirror upright.
+            constexpr int facets = 5;
+            Colour mirrored;
+            for (int i = 0; i < facets; ++i) {
+                const float facet = slope + 0.9f * (static_cast<float>(i) / (facets - 1) - 0.5f);
+                const float source = look.horizon - std::abs(v + facet * swing) - 0.5f;
+                mirrored =
+                    mirrored + above.At(x + slope * look.waves * 5, std::max(source, 0.0f)) * (1.0f / facets);
+            }
             pixel = Mix(mirrored, look.deep,
                         look.clearness * std::pow(v / full, 0.7f) * (1 - 0.35f * slope * look.waves));
         },

@@ -12,6 +12,7 @@ struct Ridge {
     std::uint32_t seed;
     float sharp = 0; ///< 0 rolling hills, 1 rock
     int octaves = 5;
+    float tilt = 0; ///< how far it falls from the left end to the right one
     float operator()(float x) const;
 };
 
@@ -53,13 +54,13 @@ template <class Weight>
 void Stars(Canvas &canvas, Random &random, int count, Weight weight, float brightest = 1) {
     for (int i = 0; i < count; ++i) {
         const float x = random.Between(0, picture_width), y = random.Between(0, picture_height);
-        const float rare = std::pow(random.Next(), 9.0f), hue = random.Next();
+        const float rare = std::pow(random.Next(), 9.0f), hue = std::sqrt(random.Next());
         if (random.Next() > weight(x, y))
             continue;
         const Colour light = Mix(Colour{1, 0.82f, 0.62f}, Colour{0.72f, 0.84f, 1}, hue);
         canvas.Disc(x, y, 0.45f + 0.9f * rare, light * brightest, 0.25f + 0.75f * rare, 0.6f);
         if (rare > 0.75f)
-            canvas.Disc(x, y, 1, light * brightest, 0.22f, 9);
+            canvas.Disc(x, y, 0, light * brightest, 0.35f, 7);
     }
 }
 

@@ -1,6 +1,8 @@
 // March, April and May.
 #include "tools/packs/scenery.h"
 
+#include <array>
+
 namespace {
 
 struct Birch_Look {
@@ -45,7 +47,7 @@ void Birch(Canvas &canvas, Random &random, const Birch_Look &look, Colour fog) {
     canvas.Shape(
         look.x - 500, 0, look.x + 500, look.foot + half,
         [&](float x, float y) {
-            const float round_foot = look.foot + half * 0.22f * Noise(x / 5, seed, 4);
+            const float round_foot = look.foot + half * 0.1f * Noise(x / half, seed, 4);
             return canvas.Edge(std::min(thick(y) - std::abs(x - middle(y)), round_foot - y), look.soft);
         },
         [&](float x, float y) {
@@ -56,8 +58,9 @@ void Birch(Canvas &canvas, Random &random, const Birch_Look &look, Colour fog) {
             // Short dark lines across, and the black scars and foot of old bark.
             const float lines = Ramp(0.33f, 0.62f, Fractal(u * 0.9f + seed, bow / half * 5.5f, 35, 3, 0.6f));
             const float scars = Ramp(0.34f, 0.5f, Fractal(u * 0.8f + seed, bow / half * 0.75f, 36, 4, 0.5f));
-            const float foot = Ramp(
-                0.1f, 0.7f, std::exp((y - look.foot) / (half * 3.5f)) + 0.5f * Noise(u * 3, y / half, 37));
+            const float foot = Ramp(0.1f, 0.7f,
+                                    std::exp((y - look.foot) / (half * 3.5f)) +
+                                        0.4f * Fractal(u * 3 + seed, y / half * 1.5f, 37, 5, 0.7f));
             bark = Mix(bark, Rgb(0x2f2a2e), std::max({lines * 0.7f, scars * 0.9f, foot * 0.85f}));
             return Mix(bark, fog, look.fog);
         });
@@ -123,32 +126,41 @@ void March(Canvas &canvas) {
         });
     }
     // The floor: last year's leaves, moss, and the last snow.
-    canvas.Below([](float x) { return 790 + 14 * Fractal(x / 400, 1, 340, 4); },
-                 [&](float x, float, float depth) {
-                     const float near = depth + 40, u = (x - 960) / near, w = std::log(near) * 4;
-                     const float litter = Fractal(u * 9, w * 11, 341, 5, 0.75f),
-                                 moss = Ramp(-0.1f, 0.4f, Fractal(u * 1.2f, w * 1.6f, 342, 4));
-                     Colour ground = Mix(Rgb(0x6b5a44), Rgb(0x9c8660), 0.5f + litter * 0.8f);
-                     ground =
-                         Mix(ground, Mix(Rgb(0x5c6a38), Rgb(0x8d9a50), 0.5f + litter * 0.7f), moss * 0.75f);
-                     const float field = Fractal(u * 0.75f + 2, w * 0.9f, 343, 5, 0.42f) - 0.02f,
-                                 snow = Ramp(0.0f, 0.10f, field);
-                     const Colour white =
-                         Mix(Rgb(0xa9bacb), Rgb(0xf3f1ea), Ramp(0, 0.4f, field + 0.1f * litter));
-                     return Mix(Mix(ground * 0.85f, white, snow), Mix(fog, Rgb(0xeadfc0), 0.5f),
-                                std::exp(-depth / 60));
-                 });
-    for (int i = 0; i < 420; ++i) {
-        const float z = std::sqrt(random.Next()), x = random.Between(0, 1920), y = 850 + 225 * z,
-                    near = y - 750;
-        if (Fractal(x / 240, y / 80, 350, 3) < 0.08f)
+    const auto edge = [](float x) { return 786 + 10 * Fractal(x / 400, 1, 340, 4); };
+    const auto snow_at = [](float x, float depth) {
+        return Fractal((x - 960) / (depth + 40) * 0.75f + 2, std::log(depth + 40) * 3.6f, 343, 5, 0.42f) -
+               0.02f;
+    };
+    canvas.Below(edge, [&](float x, float, float depth) {
+        const float near = depth + 40, u = (x - 960) / near, w = std::log(near) * 4;
+        const float litter = Fractal(u * 9, w * 11, 341, 6, 0.8f);
+        const float moss = Ramp(-0.1f, 0.4f, Fractal(u * 1.2f, w * 1.6f, 342, 4));
+        Colour ground = Mix(Rgb(0x5e4d3a), Rgb(0x9c8660), 0.5f + litter);
+        ground = Mix(ground, Mix(Rgb(0x53622f), Rgb(0x8d9a50), 0.5f + litter * 0.9f), moss * 0.75f);
+        const float field = snow_at(x, depth) + 0.012f * litter;
+        const Colour white = Mix(Rgb(0x9fb2c8), Rgb(0xf5f2ea), Ramp(0, 0.22f, field + 0.05f * litter));
+        const Colour here =
+            Mix(ground * (0.85f - 0.3f * Ramp(-0.06f, 0, field)), white, Ramp(0, 0.035f, field));
+        return Mix(here, Mix(fog, Rgb(0xf3e2bf), Bell((x - 700) / 460)), std::exp(-depth / 55));
+    });
+    // Clumps of liverwort, the first flowers of the year, where the snow has gone.
+    for (int i = 0; i < 900; ++i) {
+        const float x = random.Between(0, 1920), y = 850 + 240 * std::sqrt(random.Next()), near = y - 740;
+        if (Fractal(x / 300, y / 90, 350, 3) < 0.08f || snow_at(x, y - edge(x)) > -0.05f)
             continue;
-        const float size = near * 0.021f;
-        canvas.Disc(x, y + size, size * 1.5f, Rgb(0x4a5530), 0.5f, size);
-        for (int petal = 0; petal < 6; ++petal)
-            canvas.Petal(x, y, static_cast<float>(petal) * pi / 3 + x, size * 1.1f, size * 0.9f,
-                         Rgb(0x4b4bb4), Rgb(0x8f8de6), 0.95f, 0.6f);
-        canvas.Disc(x, y, size * 0.25f, Rgb(0xf6f3df), 0.9f, 0.6f);
+        const float size = near * random.Between(0.014f, 0.026f), lift = size * 1.5f;
+        for (int leaf = 0; leaf < 4; ++leaf)
+            canvas.Petal(x, y + lift, random.Between(-pi, 0), size * 1.8f, size, Rgb(0x2f3d20), Rgb(0x66793a),
+                         0.8f, 0.8f);
+        canvas.Stroke(x, y + lift, 1, x, y, 1, Rgb(0x6a5040));
+        const Colour tip = Mix(Rgb(0x7f7cdc), Rgb(0xa79cec), random.Next());
+        for (int petal = 0; petal < 7; ++petal) {
+            const float angle = static_cast<float>(petal) / 7 * 2 * pi + x,
+                        flat = std::hypot(std::cos(angle), 0.6f * std::sin(angle));
+            canvas.Petal(x, y, std::atan2(0.6f * std::sin(angle), std::cos(angle)), size * 1.15f * flat,
+                         size * 0.7f, Rgb(0x3f3fa4), tip, 0.95f, 0.5f);
+        }
+        canvas.Disc(x, y, size * 0.2f, Rgb(0xf6f3df), 0.9f, 0.6f);
     }
     for (const Birch_Look &birch : std::initializer_list<Birch_Look>{{620, 838, 30, 0.02f, 0.34f, 0.7f},
                                                                      {1010, 842, 33, -0.03f, 0.3f, 0.7f},
@@ -157,36 +169,47 @@ void March(Canvas &canvas) {
                                                                      {430, 890, 54, -0.02f, 0.14f, 0.4f},
                                                                      {800, 905, 50, 0.03f, 0.13f, 0.4f},
                                                                      {90, 900, 58, 0.03f, 0.12f, 0.4f},
-                                                                     {255, 1010, 92, 0.015f, 0, 0}})
+                                                                     {255, 1010, 92, 0.015f, 0, 0}}) {
         Birch(canvas, random, birch, fog);
+        // Moss and old leaves hide where the bark meets the ground.
+        for (int i = 0; i < 90; ++i) {
+            const float x = birch.x + birch.width * 0.8f * random.Bell_Shaped(),
+                        low = birch.foot + birch.width * random.Between(-0.06f, 0.16f);
+            canvas.Petal(x, low, random.Between(-pi, 0), birch.width * random.Between(0.08f, 0.2f),
+                         birch.width * 0.06f, Mix(Rgb(0x4a3d28), fog, birch.fog),
+                         Mix(Mix(Rgb(0x6f7a3a), Rgb(0x8f744a), random.Next()), fog, birch.fog), 0.85f, 0.8f);
+        }
+    }
     canvas.Bloom(0.72f, 60, 0.25f);
     Vignette(canvas, 0.2f);
 }
 
 void April(Canvas &canvas) {
     Random random(404);
-    Sky(canvas, {{0, 0x4d6177}, {0.4f, 0x7189a0}, {0.8f, 0xb3c2c8}, {1, 0xdfe3d8}}, 700);
-    const Coarse<Cloud> clouds(3, [](float x, float y) {
-        const float flat = 1 + 900 / (760 - y); // clouds lie flatter towards the horizon
-        return Cloud_At((x - 960) * flat / 1500, std::log(760 - y) * -2.6f, 411,
-                        0.10f + 0.3f * Ramp(200, 1200, x) - 0.25f * Ramp(430, 640, y), -0.7f, -0.6f, 0.75f);
+    Sky(canvas, {{0, 0x5f86ab}, {0.5f, 0x93b4c8}, {0.85f, 0xd0dcd8}, {1, 0xe9e6d4}}, 690);
+    // A bank of rain clouds has drawn past: white towers at its edge, slate within, veils of rain below.
+    const auto puffs = [](float x, float y) { return 1 - Crests(x / 430 + 3, y / 300, 413, 7, 0.52f); };
+    const Coarse<Cloud> bank(2, [&](float x, float y) {
+        const float puff = puffs(x, y), inside = (x - 330 - 0.55f * y) / 620 + 1.25f * (puff - 0.62f) -
+                                                 0.5f * Ramp(470, 660, y) * Ramp(1100, 500, x);
+        return Cloud{inside, puffs(x + 11, y + 15) - puffs(x - 11, y - 15)};
     });
     canvas.Each(
         [&](float x, float y, Colour &pixel) {
-            const Cloud c = clouds.At(x, y);
-            const float storm = Ramp(300, 1500, x + y * 0.3f);
-            const Colour lit = Mix(Rgb(0xf3eee2), Rgb(0x8797a6), storm),
-                         dark = Mix(Rgb(0x8d9cab), Rgb(0x3b4a5f), storm);
-            pixel = Mix(pixel, Mix(dark, lit, Unit(0.42f + 0.55f * c.light)), c.cover * 0.92f);
-            // Rain hanging from the cloud in slanting veils.
-            const float veil = Ramp(-0.2f, 0.5f, Fractal((x + y * 0.25f) / 130, y / 1600, 414, 4)) *
-                               Ramp(700, 1250, x) * Ramp(180, 480, y);
-            pixel = Mix(pixel, Rgb(0x66798c), veil * 0.55f);
+            const Cloud c = bank.At(x, y);
+            const float storm = Ramp(0.05f, 1.1f, c.cover + 0.25f * Ramp(0, 500, y));
+            const Colour lit = Mix(Rgb(0xfaf4e8), Rgb(0x7c8da0), storm),
+                         dark = Mix(Rgb(0xa3afbb), Rgb(0x3f4e63), storm);
+            pixel = Mix(pixel, Mix(dark, lit, Unit(0.5f + 2.1f * c.light)),
+                        Ramp(0, 0.16f, c.cover) * Ramp(690, 590, y));
+            const float veil = Ramp(-0.3f, 0.6f, Fractal((x + y * 0.3f) / 150, y / 2600, 414, 4)) *
+                               Ramp(250, 620, y) * Ramp(350, 900, x);
+            pixel = Mix(pixel, Rgb(0x64778c), veil * 0.75f);
         },
         0, 720);
-    const Ridge far{590, 70, 760, 421}, next{640, 60, 640, 422};
-    Hill(canvas, far, Rgb(0x5c7a86), Rgb(0x8ba39a), 70, 0.1f);
-    Hill(canvas, next, Rgb(0x55794f), Rgb(0x86a96a), 60, 0.2f);
+    const Ridge far{606, 60, 760, 421, 0, 5, -40}, next{650, 50, 640, 422, 0, 5, 50};
+    Hill(canvas, far, Rgb(0x5d7784), Rgb(0x8ba39a), 70, 0.1f);
+    Hill(canvas, next, Rgb(0x567650), Rgb(0x86a074), 60, 0.2f);
     // The bow, brightest before the dark cloud, with the sky inside it a little lighter.
     const Gradient spectrum{{0, 0x5a2d9c},     {0.2f, 0x3557d8},  {0.4f, 0x2fb56a},
                             {0.58f, 0xd9dc3a}, {0.75f, 0xf09a2c}, {1, 0xd8382c}};
@@ -200,51 +223,62 @@ void April(Canvas &canvas) {
                                 (0.07f * shine * Ramp(-0.15f, 0.3f, second) * Ramp(1.15f, 0.7f, second));
         },
         0, 740);
-    struct Field {
-        Ridge ridge;
-        unsigned crest, foot;
-        float rows;
-    };
-    const Field fields[] = {{{680, 60, 720, 431}, 0x9cba5a, 0x6f9a45, 0},
-                            {{722, 66, 800, 432}, 0xd8c93c, 0xb0b03a, 26},
-                            {{768, 72, 900, 433}, 0x8fb84c, 0x558438, 0},
-                            {{828, 80, 1000, 434}, 0x74a544, 0x3f7434, 46},
-                            {{915, 90, 1200, 435}, 0x9cc552, 0x47813a, 0}};
-    int nearness = 0;
-    for (const Field &field : fields) {
-        const auto k = static_cast<float>(nearness++);
-        const auto &ridge = field.ridge;
-        // Hedges and trees on the crest stand behind the next field.
+    const Ridge fields[] = {{688, 50, 720, 431, 0, 5, -50},
+                            {736, 60, 800, 432, 0, 5, 70},
+                            {796, 60, 900, 433, 0, 5, -60},
+                            {930, 60, 1200, 435, 0, 5, 110}};
+    const Colour crops[] = {Rgb(0x86a750), Rgb(0x5f8f45), Rgb(0xc3b73f), Rgb(0x9bb85a),
+                            Rgb(0x4d8040), Rgb(0x8a7b52), Rgb(0x74a04a)};
+    for (int i = 0; i < 4; ++i) {
+        const auto k = static_cast<float>(i);
+        const auto &ridge = fields[i];
         canvas.Below(ridge, [&](float x, float y, float depth) {
-            const float cloud_shadow =
-                Ramp(-0.25f, 0.25f,
-                     Fractal((x - 200) / 900, y / 230, 440, 3) - 0.25f * Ramp(700, 1700, x) + 0.12f);
-            const float texture = Fractal(x / (16 + 5 * k), (y * 2) / (9 + 3 * k), 441, 4, 0.6f);
-            const float line = field.rows > 0
-                                   ? 0.5f + 0.5f * std::sin((x + 1.9f * (depth + 60) * (x - 1300) / 900) /
-                                                            field.rows * 2 * pi)
-                                   : 0.5f;
-            const Colour grass = Mix(Rgb(field.crest), Rgb(field.foot), 1 - std::exp(-depth / (50 + 22 * k)));
-            return grass * ((0.52f + 0.58f * cloud_shadow) * (1 + 0.16f * texture) *
-                            (0.92f + 0.16f * Ramp(0.1f, 0.9f, line)));
-        });
-        if (k < 4) {
-            for (int i = 0; i < 46; ++i) {
-                const float x = random.Between(-20, 1940), grove = Noise(x / 170, k, 450);
-                if (grove < 0.12f)
-                    continue;
-                const float height = (9 + 8 * k) * (0.7f + grove) * random.Between(0.7f, 1.3f);
-                Leafy_Tree(canvas, random, x, ridge(x) + 3 + k, height, Rgb(0x2f4f2c),
-                           Mix(Rgb(0xa6bf58), Rgb(0xc8d476), random.Next()), -0.8f);
+            const float sun = Ramp(
+                -0.2f, 0.2f, Fractal((x - 200) / 800, y / 190, 440, 3) - 0.2f * Ramp(700, 1700, x) + 0.1f);
+            const float texture = Fractal(x / (16 + 5 * k), (y * 2) / (9 + 3 * k), 441, 5, 0.65f);
+            // The nearest hill is a meadow; the others are parted into fields by hedges.
+            Colour grass = Mix(Rgb(0x94bb50), Rgb(0x4a8038), 1 - std::exp(-depth / 110));
+            if (i < 3) {
+                const float u = (x + depth * (1.4f - k)) / (210 + 80 * k) +
+                                0.22f * Noise(x / 300, depth / 60, 443),
+                            v = depth / (30 + 13 * k) + 0.35f * Noise(x / 260, k, 444) + 0.3f;
+                const auto cell = Scramble(static_cast<std::uint32_t>(
+                    static_cast<int>(u + 50) * 31 + static_cast<int>(v + 50) * 17 + i * 101));
+                const float row = 0.5f + 0.5f * std::sin(u * (60 + static_cast<float>(cell % 5) * 12));
+                const float away =
+                    std::min(std::min(u - std::floor(u), std::ceil(u) - u) * (210 + 80 * k) * 0.5f,
+                             std::min(v - std::floor(v), std::ceil(v) - v) * (30 + 13 * k));
+                const float hedge = Ramp(1.6f + k, 0.4f, away + 2.2f * Noise(x / (5 + 2 * k), y / 4, 445));
+                grass = Mix(crops[cell % 7], Rgb(0x6d9a4a), 0.25f) *
+                        (0.95f + (cell % 3 == 0 ? 0.10f * row : 0.05f));
+                grass = Mix(grass, Rgb(0x2c4a2a), hedge * 0.85f);
+                grass = Mix(Rgb(0x8fa68a), grass, 0.62f + 0.16f * k);
             }
+            return grass * ((0.46f + 0.62f * sun) * (1 + 0.17f * texture));
+        });
+        for (int tree = 0; tree < 150; ++tree) {
+            const float x = random.Between(-20, 1940), down = 7 * random.Next(),
+                        grove = Noise(x / 150 + down / 60, k, 450);
+            if (i == 3 || grove < 0.1f)
+                continue;
+            const float height = (8 + 8 * k) * (0.7f + grove) * random.Between(0.7f, 1.2f);
+            Leafy_Tree(canvas, random, x, ridge(x) + 3 + down, height, Rgb(0x2c4a2e),
+                       Mix(Rgb(0x7f9c4e), Rgb(0xb9c97a), random.Next()), -0.8f);
         }
     }
-    Leafy_Tree(canvas, random, 205, 940, 250, Rgb(0x2c4a26), Rgb(0xb7cc5c), -0.8f);
-    Leafy_Tree(canvas, random, 345, 925, 150, Rgb(0x345429), Rgb(0xf2e6da), -0.8f);
-    for (int i = 0; i < 3200; ++i) {
-        const float z = std::sqrt(random.Next()), x = random.Between(0, 1920), y = 985 + 130 * z;
-        Blade(canvas, random, x, y, 16 + 26 * z, Rgb(0x3d7031),
-              Mix(Rgb(0x6fa043), Rgb(0xb5d265), random.Next()));
+    // Fruit trees in blossom on the near meadow.
+    Leafy_Tree(canvas, random, 690, 918, 84, Rgb(0x7a7b74), Rgb(0xfbeee6), -0.8f);
+    Leafy_Tree(canvas, random, 560, 925, 112, Rgb(0x7d6f72), Rgb(0xfae3e2), -0.8f);
+    Leafy_Tree(canvas, random, 395, 940, 175, Rgb(0x75706e), Rgb(0xfdf3ec), -0.8f);
+    Leafy_Tree(canvas, random, 150, 968, 290, Rgb(0x2c4a26), Rgb(0xb4c860), -0.8f);
+    for (int i = 0; i < 5200; ++i) {
+        const float z = std::sqrt(static_cast<float>(i) / 5200), x = random.Between(0, 1920),
+                    y = 955 + 160 * z;
+        Blade(canvas, random, x, y, 12 + 34 * z, Rgb(0x3d6a2f),
+              Mix(Rgb(0x62943e), Rgb(0xa9c763), random.Next()));
+        if (i % 14 == 0 && Noise(x / 180, z * 3, 460) > 0)
+            canvas.Disc(x, y - 12 - 30 * z, 1.2f + 2.2f * z, i % 4 ? Rgb(0xf3df4a) : Rgb(0xfaf7ee), 0.95f,
+                        0.8f);
     }
     canvas.Bloom(0.7f, 40, 0.2f);
     Vignette(canvas, 0.22f);
@@ -307,6 +341,17 @@ void May(Canvas &canvas) {
             Daisy(canvas, random, x, head, size * 0.72f, 0xd9dcc8, 0xffffff, 0xe8b220, soft);
         else
             Daisy(canvas, random, x, head, size * 0.6f, 0x2a3fae, 0x6f86ee, 0x3a2a80, soft);
+    }
+    // Flowers right before the eye, a little too near to be sharp, and pollen in the light.
+    for (const auto &[x, y, size] : std::initializer_list<std::array<float, 3>>{
+             {205, 900, 52}, {60, 845, 66}, {1700, 905, 50}, {1850, 820, 70}}) {
+        canvas.Curve(x - 14, 1120, x + 22, 1000, x, y, 6, 4, Rgb(0x4b7a2c), 1, 3);
+        Poppy(canvas, random, x, y, size, 0, 3.5f);
+    }
+    for (int i = 0; i < 60; ++i) {
+        const float near = random.Next() * random.Next();
+        canvas.Disc(random.Between(0, 1920), 470 + 560 * random.Next(), 1 + 3 * near, Rgb(0xfff6cf),
+                    0.55f - 0.4f * near, 1.5f + 6 * near);
     }
     canvas.Bloom(0.75f, 50, 0.3f);
     canvas.Glow(330, 330, 420, Colour{0.10f, 0.08f, 0.03f});

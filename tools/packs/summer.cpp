@@ -75,11 +75,14 @@ void Footprints(Canvas &canvas, Random &random) {
         const float c = std::cos(angle), s = std::sin(angle);
         if (Out_At_Sea(px, py) > -45)
             continue;
-        for (const auto &[along, radius] :
-             std::initializer_list<std::pair<float, float>>{{-6, 3.6f}, {0, 3.0f}, {6, 4.4f}}) {
-            canvas.Disc(px + c * along + 1.6f, py + s * along + 2, radius, Rgb(0xfff0cf), 0.5f, 2);
-            canvas.Disc(px + c * along, py + s * along, radius, Rgb(0x9c7b52), 0.6f, 2.2f);
-        }
+        const auto print = [&](float dx, float dy, Colour colour, float strength) {
+            canvas.Stroke(px + dx - c * 7, py + dy - s * 7, 5.5f, px + dx - c * 2, py + dy - s * 2, 5, colour,
+                          strength, 1.6f);
+            canvas.Stroke(px + dx - c * 2, py + dy - s * 2, 5, px + dx + c * 6, py + dy + s * 6, 8.5f, colour,
+                          strength, 1.6f);
+        };
+        print(1.4f, 1.8f, Rgb(0xfff0cf), 0.5f);
+        print(0, 0, Rgb(0x9c7b52), 0.6f);
     }
 }
 
@@ -162,7 +165,7 @@ void July(Canvas &canvas) {
         horizon);
     canvas.Glow(sun_x, sun_y, 240, Colour{0.85f, 0.42f, 0.12f});
     canvas.Glow(sun_x, sun_y, 700, Colour{0.22f, 0.07f, 0.03f});
-    canvas.Disc(sun_x, sun_y, 52, Colour{2.6f, 1.75f, 0.85f}, 1, 2);
+    canvas.Disc(sun_x, sun_y, 50, Colour{1.5f, 0.98f, 0.36f}, 1, 2);
     const Coarse<Cloud> clouds(3, [](float x, float y) {
         const float flat = 1 + 700 / (horizon + 40 - y);
         return Cloud_At((x - 700) * flat / 1750, std::log(horizon + 60 - y) * -2.3f, 733,
@@ -224,9 +227,11 @@ void August(Canvas &canvas) {
         return (light * 0.95f + Rgb(0x9c4a7c) * (rose * 0.3f)) * ((1 - 0.86f * lane) * Ramp(800, 560, y));
     });
     canvas.Each([&](float x, float y, Colour &pixel) { pixel = pixel + galaxy.At(x, y); }, 0, 800);
-    Stars(canvas, random, 5200,
+    Stars(canvas, random, 9000,
           [&](float x, float y) { return Ramp(780, 420, y) * (0.25f + 0.75f * Bell(across(x, y) / 260)); });
-    canvas.Curve(1395, 120, 1290, 178, 1180, 246, 0.3f, 2.2f, Colour{0.9f, 0.95f, 1}, 0.65f, 0.8f);
+    for (float t = 0; t < 1; t += 0.02f)
+        canvas.Stroke(1395 - 190 * t, 120 + 112 * t, 0.4f + 0.9f * t, 1391 - 190 * t, 122 + 112 * t,
+                      0.4f + 0.9f * t, Colour{0.9f, 0.95f, 1}, t * t * 0.8f, 0.6f);
     const Ridge hills[] = {{742, 60, 640, 821}, {790, 50, 700, 822}, {850, 46, 900, 823}};
     const Colour crests[] = {Rgb(0x2c3f5c), Rgb(0x182a44), Rgb(0x0e1b30)},
                  feet[] = {Rgb(0x4f5c6c), Rgb(0x2d4054), Rgb(0x1a2a3c)};
@@ -239,7 +244,8 @@ void August(Canvas &canvas) {
     // A lone oak on the near hill.
     const Ridge near{905, 50, 1100, 829};
     Hill(canvas, near, Rgb(0x0a1424), Rgb(0x1c2430), 90, 0.1f);
-    Leafy_Tree(canvas, random, 300, near(300) + 8, 290, Rgb(0x060c18), Rgb(0x1d2c42), 0.8f);
+    Random oak(8); // of its own, so that it keeps its shape
+    Leafy_Tree(canvas, oak, 300, near(300) + 8, 320, Rgb(0x060c18), Rgb(0x1d2c42), 0.8f);
     // Wheat: stalks with ears, touched by the light of the horizon.
     for (int i = 0; i < 4200; ++i) {
         const float z = static_cast<float>(i) / 4200, x = random.Between(-20, 1940), foot = 960 + 230 * z,

@@ -34,7 +34,7 @@ void Snowfield(Canvas &canvas, const Ridge &ridge, Colour light, Colour shadow, 
 Colour Aurora_At(float x, float y, float horizon) {
     const float climb = 0.1f + (horizon - y) / horizon * 0.75f;
     Colour sum;
-    constexpr int steps = 56;
+    constexpr int steps = 110;
     for (int i = 0; i < steps; ++i) {
         const float high = static_cast<float>(i) / steps, distance = (1 + high * 0.85f) / climb;
         const float px = (x - 760) / 900 * distance, pz = distance;
@@ -93,7 +93,7 @@ void Cabin(Canvas &canvas, float x, float foot) {
     Lit_Pane(canvas, x - 52, foot - 42, x - 24, foot - 12, warm);
     Lit_Pane(canvas, x + 26, foot - 42, x + 54, foot - 12, warm);
     Lit_Pane(canvas, x - 9, foot - 86, x + 9, foot - 66, warm * 0.8f);
-    box(x - 13, foot - 42, x + 13, foot + 4, wall * 0.55f);
+    box(x - 13, foot - 42, x + 13, foot + 4, Rgb(0x120c14));
     for (float rise = 0; rise < 230; rise += 3) {
         const float drift = rise * 0.22f + 16 * Noise(rise / 60, 2, 12);
         canvas.Disc(x + 43 + drift, foot - 148 - rise, 3 + rise * 0.06f, Rgb(0x7d8cb8),
@@ -170,8 +170,9 @@ void January(Canvas &canvas) {
     const Ridge front{985, 46, 900, 58};
     Snowfield(canvas, front, Rgb(0xc3cdec), Rgb(0x4c67a6), 190);
     for (const auto &[x, height] : std::initializer_list<std::pair<float, float>>{
-             {60, 430}, {205, 320}, {330, 210}, {1850, 250}, {1745, 170}, {420, 130}, {1660, 110}})
-        Conifer(canvas, random, x, front(x) + 34, height, {needles[3], Rgb(0xc9d4f2), 0.75f});
+             {420, 150}, {325, 230}, {1640, 130}, {1730, 210}, {215, 380}, {1850, 360}, {55, 620}})
+        Conifer(canvas, random, x, front(x) + 20 + height * 0.2f, height,
+                {Rgb(0x22376a), Rgb(0xd3dcf5), 0.85f});
     canvas.Bloom(0.75f, 40, 0.4f);
     Vignette(canvas, 0.22f);
 }
@@ -180,11 +181,10 @@ void February(Canvas &canvas) {
     Random random(202);
     constexpr float horizon = 640;
     Sky(canvas, {{0, 0x040a20}, {0.5f, 0x0a1c3f}, {0.85f, 0x15375a}, {1, 0x2a5a70}}, horizon + 10);
-    Stars(canvas, random, 1900, [](float, float y) { return Ramp(horizon, 200, y) * 0.9f; });
     const Coarse<Colour> aurora(
         3, [](float x, float y) { return y < horizon ? Aurora_At(x, y, horizon) : Colour{}; });
     canvas.Each([&](float x, float y, Colour &pixel) { pixel = pixel + aurora.At(x, y); }, 0, horizon);
-    const Ridge far{590, 52, 480, 62, 0.45f}, near{618, 20, 500, 64};
+    const Ridge far{590, 52, 480, 62, 0.45f}, near{631, 13, 500, 64};
     canvas.Below(
         far,
         [&](float x, float y, float depth) {
@@ -198,17 +198,16 @@ void February(Canvas &canvas) {
         near, [](float, float, float) { return Rgb(0x07131f); }, horizon);
     Conifers(canvas, random, near, -10, 1930, 7, 8, 38, 12, {Rgb(0x07131f), {}, 0});
     Water(canvas, {horizon, picture_height, 0.02f, Rgb(0x123149), 0.45f, 68});
-    // The ice: drifted snow with a dull sheen, and long fine cracks.
+    // Behind nothing but air, and too faint for the ice to mirror.
+    Stars(canvas, random, 1900, [](float, float y) { return y < 540 ? Ramp(horizon, 200, y) * 0.9f : 0; });
+    // The ice: drifted snow with a dull sheen.
     canvas.Each(
         [&](float x, float y, Colour &pixel) {
             const float near_by = y - horizon + 40, u = (x - 960) / near_by, w = std::log(near_by) * 6;
             const float drift =
                 Ramp(-0.02f, 0.42f, Fractal(u * 0.8f, w * 0.75f, 69, 5, 0.45f) + 0.3f * Ramp(860, 1080, y));
-            const float crack =
-                Ramp(0.975f, 1, 1 - std::abs(Fractal(u * 0.5f + 9, w * 0.7f, 70, 3, 0.4f)) * 1.2f);
             const Colour sheen = aurora.At(x, std::max(2 * horizon - y - 60, 20.0f)) * 0.22f;
             pixel = Mix(pixel, Rgb(0x2d5a78) + sheen, drift * 0.8f * Ramp(0, 30, y - horizon));
-            pixel = pixel + Colour{0.03f, 0.07f, 0.085f} * (crack * (1 - drift) * Ramp(20, 120, y - horizon));
         },
         horizon);
     canvas.Bloom(0.25f, 46, 0.35f);
@@ -225,11 +224,11 @@ void December(Canvas &canvas) {
         return Cloud_At(x / 620, y / 260, 1221, -0.1f, (moon_x - x) / 500, (moon_y - y) / 500, 0.7f);
     });
     canvas.Glow(moon_x, moon_y, 150, Colour{0.13f, 0.17f, 0.28f});
-    canvas.Disc(moon_x, moon_y, 46, Rgb(0xf6f1de) * 1.1f, 1, 1.5f);
+    canvas.Disc(moon_x, moon_y, 40, Rgb(0xf6f1de) * 1.1f, 1, 1.5f);
     canvas.Shape(
         moon_x - 48, moon_y - 48, moon_x + 48, moon_y + 48,
         [&](float x, float y) {
-            return canvas.Edge(46 - std::hypot(x - moon_x, y - moon_y), 2) * 0.28f *
+            return canvas.Edge(40 - std::hypot(x - moon_x, y - moon_y), 2) * 0.28f *
                    Ramp(0, 0.35f, Fractal(x / 38, y / 38, 1230, 4));
         },
         [](float, float) { return Rgb(0x9aa3b8); });
@@ -263,8 +262,9 @@ void December(Canvas &canvas) {
     Cabin(canvas, 470, 908);
     Snowfield(canvas, front, Rgb(0x7f95c8), Rgb(0x2c437c), 150);
     for (const auto &[x, height] :
-         std::initializer_list<std::pair<float, float>>{{40, 520}, {150, 330}, {1880, 400}, {1760, 240}})
-        Conifer(canvas, random, x, front(x) + 40, height, {Rgb(0x0d1a3a), Rgb(0xa3b7e0), 0.7f});
+         std::initializer_list<std::pair<float, float>>{{175, 330}, {1745, 250}, {45, 560}, {1880, 480}})
+        Conifer(canvas, random, x, front(x) + 30 + height * 0.15f, height,
+                {Rgb(0x10204a), Rgb(0xa3b7e0), 0.7f});
     Snowfall(canvas, random, 1100, Rgb(0xdfe8ff), 3.2f, 0.75f);
     canvas.Bloom(0.6f, 36, 0.45f);
     Vignette(canvas, 0.3f);

@@ -1,0 +1,387 @@
+// What the wallpaper page does, and where its controls are.
+#include "settings/wallpaper_page.h"
+
+#include "core/convert.h"
+#include "core/date.h"
+#include "core/settings.h"
+#include "platform/files.h"
+#include "platform/locale.h"
+#include "platform/message_box.h"
+#include "settings/page.h"
+#include "settings/theme_names.h"
+#include "settings/thumbnail.h"
+#include "themes/theme_pack.h"
+#include "toolkit/units.h"
+
+#include <utility>
+
+namespace {
+
+constexpr int months_a_year = 12;
+constexpr std::int16_t manual_position = 7;
+/// The picture is as wide as a screen of these proportions.
+constexpr int picture_height = 108 * 15;
+constexpr int picture_width = 192 * 15;
+
+std::string Picture_File(const std::string &pack, int month) {
+    return Pack_File(pack, std::to_string(month) + ".jpg");
+}
+
+/// A number's name, with a blank before it; only that for a text that is no number.
+std::string Named(const char *(*name)(std::int16_t), const std::string &number) {
+    try {
+        return std::string(" ") + name(To_Int16(number));
+    } catch (const Conversion_Error &) {
+        return " ";
+    }
+}
+
+/// Whether a part of a pack's value text is a number, which it puts into `number` then.
+bool Take_Number(const std::string &text, std::int16_t &number) {
+    try {
+        number = To_Int16(text);
+        return true;
+    } catch (const Conversion_Error &) {
+        return false;
+    }
+}
+
+} // namespace
+
+Wallpaper_Page::Wallpaper_Page(Form &dialog, Frame &frame, Main_Frm &calendar, Style_Page &style_page)
+    : Theme_Use_Chk(dialog, "Theme_Use_Chk", "Use &themes"), Packs_Lbl(dialog, "Packs_Lbl", "Theme pac&k:"),
+      Packs_Cbo(dialog, "Packs_Cbo"), Theme_Preview_Img(dialog, "Theme_Preview_Img"),
+      Theme_Display_Lbl(dialog, "Theme_Display_Lbl"), Theme_Style_Lbl(dialog, "Theme_Style_Lbl"),
+      Theme_Pos_Lbl(dialog, "Theme_Pos_Lbl"), Loading_Lbl(dialog, "Loading_Lbl", "Loading..."),
+      Month_Lbl(dialog, "Month_Lbl"), Preview_Sli(dialog, "Preview_Sli", 1, months_a_year),
+      Theme_Fra(dialog, "Theme_Fra", "From the theme"),
+      Theme_Style_Chk(dialog, "Theme_Style_Chk", "Use the theme's &box style"),
+      Theme_Pos_Chk(dialog, "Theme_Pos_Chk", "Use the theme's &position"),
+      Other_Display_Chk(dialog, "Other_Display_Chk", "Use an&other display mode"),
+      Display_Lbl(dialog, "Display_Lbl", "&Display mode:"), Display_Cbo(dialog, "Display_Cbo"),
+      Preview_Btn(dialog, "Preview_Btn", "Pre&view all months"),
+      Preview_Lbl(dialog, "Preview_Lbl", "Preview running: Esc ends it."), dialog_(dialog),
+      style_page_(style_page), preview_(calendar) {
+    Display_Cbo.Set_Items({Display_Mode_Name(0), Display_Mode_Name(1), Display_Mode_Name(2)});
+    Theme_Preview_Img.Set_Frame_Colour(platform::System_Colour(16));
+    Loading_Lbl.Set_Visible(false);
+    Preview_Lbl.Set_Visible(false);
+    Lay_Out(frame);
+    Wire_Events();
+    Clear_Details();
+    Show_Month_Name();
+}
+
+void Wallpaper_Page::Wire_Events() {
+    Theme_Use_Chk.On_Click = [this] { Theme_Use_Chk_Click(); };
+    Packs_Cbo.On_Click = [this] { Packs_Cbo_Click(); };
+    Preview_Sli.On_Change = [this] { Preview_Sli_Change(); };
+    Preview_Sli.On_Scroll = [this] { Preview_Sli_Scroll(); };
+    Theme_Style_Chk.On_Click = [this] { Theme_Style_Chk_Click(); };
+    Theme_Pos_Chk.On_Click = [this] { Theme_Pos_Chk_Click(); };
+    Other_Display_Chk.On_Click = [this] { Other_Display_Chk_Click(); };
+    Preview_Btn.On_Click = [this] { Preview_Btn_Click(); };
+    preview_.On_End = [this](bool pack_failed) { Preview_Ended(pack_failed); };
+    Load_Timer.On_Timer = [this] { Load_Shown_Picture(); };
+    // A picture that nobody could see was not loaded: a dialog that opens on another page is there sooner.
+    Theme_Preview_Img.On_Paint = [this](platform::Canvas &) {
+        if (pending_)
+            Load_Timer.Set_Enabled(true);
+    };
+}
+
+void Wallpaper_Page::Lay_Out(const Frame &frame) {
+    using namespace layout;
+    const auto put = [&frame](Control &control, const platform::Rect &bounds) {
+        control.Set_Container(frame);
+        control.Move(bounds);
+    };
+    constexpr int label_height = 15 * 15;
+    constexpr int label_width = 80 * 15;
+    constexpr int box_indent = 18 * 15; ///< where the caption of a check box begins
+    put(Theme_Use_Chk, {0, 0, page_width, check_height});
+    int top = check_height + gap;
+    put(Packs_Lbl, {0, top + small_gap, label_width, label_height});
+    put(Packs_Cbo, {label_width, top, page_width - label_width, row_height});
+    top += row_height + gap;
+
+    put(Theme_Preview_Img, {0, top, picture_width, picture_height});
+    const int right = picture_width + margin;
+    int row = top;
+    for (Label *label : {&Theme_Display_Lbl, &Theme_Style_Lbl, &Theme_Pos_Lbl, &Loading_Lbl}) {
+        if (label == &Loading_Lbl)
+            row = top + picture_height - label_height;
+        put(*label, {right, row, page_width - right, label_height});
+        row += label_height + small_gap;
+    }
+    top += picture_height + gap;
+
+    constexpr int slider_height = 30 * 15;
+    put(Month_Lbl, {right, top + gap, page_width - right, label_height});
+    put(Preview_Sli, {0, top, picture_width, slider_height});
+    top += slider_height + gap;
+
+    put(Theme_Fra, {0, top, page_width, group_top + 3 * (check_height + gap) + row_height + margin});
+    row = group_top;
+    for (Check_Box *box : {&Theme_Style_Chk, &Theme_Pos_Chk, &Other_Display_Chk}) {
+        box->Set_Container(Theme_Fra);
+        box->Move({margin, row, inner_width, check_height});
+        row += check_height + gap;
+    }
+    Display_Lbl.Set_Container(Theme_Fra);
+    Display_Lbl.Move({margin + box_indent, row + small_gap, label_width, label_height});
+    Display_Cbo.Set_Container(Theme_Fra);
+    Display_Cbo.Move({margin + box_indent + label_width, row, 2 * label_width, row_height});
+    top += Theme_Fra.Height() + gap;
+
+    constexpr int button_width = 130 * 15;
+    constexpr int button_height = 23 * 15;
+    put(Preview_Btn, {0, top, button_width, button_height});
+    put(Preview_Lbl,
+        {button_width + margin, top + small_gap, page_width - button_width - margin, label_height});
+}
+
+void Wallpaper_Page::Get_Papers() {
+    Packs_Cbo.Set_Items(Find_Packs());
+}
+
+void Wallpaper_Page::Get_Themes() {
+    Theme_Use_Chk.Set_Checked(Cur_Settings.Use_Themes != 0);
+    Theme_Style_Chk.Set_Checked(Cur_Settings.Use_Theme_Style != 0);
+    Theme_Pos_Chk.Set_Checked(Cur_Settings.Use_Theme_Pos != 0);
+    Enable_Choices(Theme_Use_Chk.Checked());
+    Theme_Style_Chk_Click();
+    Theme_Pos_Chk_Click();
+    Other_Display_Chk_Click();
+}
+
+void Wallpaper_Page::Get_Wallpaper() {
+    Packs_Cbo.Set_Text(Cur_Settings.Pack_Name);
+    Preview_Sli.Set_Value(Today().month);
+    Preview_Sli_Change();
+}
+
+void Wallpaper_Page::Enable_Choices(bool enabled) {
+    for (Control *control : {static_cast<Control *>(&Packs_Lbl), static_cast<Control *>(&Packs_Cbo),
+                             static_cast<Control *>(&Month_Lbl), static_cast<Control *>(&Preview_Sli),
+                             static_cast<Control *>(&Preview_Btn)})
+        control->Set_Enabled(enabled);
+}
+
+void Wallpaper_Page::Clear_Details() {
+    details_.clear();
+    Theme_Style_Lbl.Set_Caption("Box Style:");
+    Theme_Pos_Lbl.Set_Caption("Position:");
+    Theme_Display_Lbl.Set_Caption("Display:");
+}
+
+void Wallpaper_Page::Packs_Cbo_Click() {
+    Forget_Picture(); // it is loaded anew, also if it was this one
+    Clear_Details();
+    Check_Vaild();
+    Preview_Sli.Set_Value(Today().month);
+    Preview_Sli_Change();
+}
+
+void Wallpaper_Page::Check_Vaild() {
+    const std::string pack = Packs_Cbo.Text();
+    bool complete = platform::File_Exists(Pack_File(pack, "settings.ini"));
+    for (int month = 1; month <= months_a_year && complete; ++month)
+        complete = platform::File_Exists(Picture_File(pack, month));
+    if (complete)
+        return;
+    platform::Message_Box("Error Loading Theme.", "Vellatro", platform::Box_Icon::Stop);
+    // None, where the pack of the settings is not there: the refused one must not stay selected.
+    if (pack != Cur_Settings.Pack_Name)
+        Packs_Cbo.Select(-1);
+    Packs_Cbo.Set_Text(Cur_Settings.Pack_Name);
+}
+
+void Wallpaper_Page::Show_Month_Name() {
+    const std::string name = platform::Month_Name(Month());
+    Preview_Sli.Set_Text(name);
+    Month_Lbl.Set_Caption("&Month: " + name);
+}
+
+void Wallpaper_Page::Preview_Sli_Scroll() {
+    Show_Month_Name();
+}
+
+void Wallpaper_Page::Preview_Sli_Change() {
+    Show_Month_Name();
+    Get_Theme_Picture();
+    const std::string pack = Packs_Cbo.Text();
+    if (pack.empty()) {
+        Clear_Details();
+        return Hand_Over_Look();
+    }
+    // Once for all three: a pack that was deleted meanwhile is told once.
+    details_ = Main_Frm::Get_Paper_Details(Month(), pack);
+    if (details_ == Theme_Error)
+        return Drop_Pack(pack);
+    Get_Theme_Display();
+    Get_Theme_Style();
+    Get_Theme_Pos();
+    Hand_Over_Look();
+}
+
+void Wallpaper_Page::Get_Theme_Display() {
+    Theme_Display_Lbl.Set_Caption("Display:" + Named(Display_Mode_Name, Get_Paper_DisplayMode(details_)));
+}
+
+void Wallpaper_Page::Get_Theme_Style() {
+    Theme_Style_Lbl.Set_Caption("Box Style:" + Named(Box_Style_Name, Get_Paper_BoxStyle(details_)));
+}
+
+void Wallpaper_Page::Get_Theme_Pos() {
+    Theme_Pos_Lbl.Set_Caption("Position:" + Named(Position_Name, Get_Paper_Pos(details_)));
+}
+
+/// After the user was told that the pack cannot be read. Its entry goes, if it is not there any more.
+void Wallpaper_Page::Drop_Pack(const std::string &pack) {
+    Get_Papers();
+    if (pack != Cur_Settings.Pack_Name)
+        Packs_Cbo.Set_Text(Cur_Settings.Pack_Name);
+    // A missing pack has ended the use of themes.
+    if (Cur_Settings.Use_Themes == 0)
+        Theme_Use_Chk.Set_Checked(false);
+    Enable_Choices(Theme_Use_Chk.Checked());
+    Preview_Sli_Change();
+}
+
+void Wallpaper_Page::Get_Theme_Picture() {
+    const std::string pack = Packs_Cbo.Text();
+    const std::string path = pack.empty() ? std::string() : Picture_File(pack, Month());
+    if (path.empty())
+        return Forget_Picture();
+    if (std::exchange(picture_path_, path) == path)
+        return;
+    pending_ = true;
+    Loading_Lbl.Set_Visible(true);
+    Load_Timer.Set_Enabled(true);
+}
+
+void Wallpaper_Page::Forget_Picture() {
+    picture_path_.clear();
+    pending_ = false;
+    Loading_Lbl.Set_Visible(false);
+    Take_Picture({});
+}
+
+void Wallpaper_Page::Load_Shown_Picture() {
+    Load_Timer.Set_Enabled(false);
+    const bool seen = dialog_.Visible() && platform::Is_Shown(dialog_.Model(), Theme_Preview_Img.State());
+    if (!pending_ || !(seen || Theme_Use_Chk.Checked()))
+        return;
+    std::string failure;
+    platform::Picture picture;
+    try {
+        const platform::Rect box = Twips_To_Pixels(Theme_Preview_Img.Bounds());
+        picture = Thumbnail(platform::Load_Picture(picture_path_), box.width, box.height);
+    } catch (const platform::Picture_Error &error) {
+        // Who is on another page is told when the picture would be seen.
+        if (!seen)
+            return;
+        failure = error.what();
+    }
+    pending_ = false;
+    Loading_Lbl.Set_Visible(false);
+    Take_Picture(std::move(picture));
+    if (!failure.empty())
+        platform::Message_Box(failure, "Vellatro", platform::Box_Icon::Stop);
+}
+
+void Wallpaper_Page::Take_Picture(platform::Picture picture) {
+    picture_ = std::move(picture);
+    Theme_Preview_Img.Set_Picture(picture_);
+    Hand_Over_Look();
+}
+
+Style_Page::Theme_Look Wallpaper_Page::Look() const {
+    Style_Page::Theme_Look look;
+    if (!Theme_Use_Chk.Checked() || Packs_Cbo.Text().empty())
+        return look;
+    look.use_style = Theme_Style_Chk.Checked() && Take_Number(Get_Paper_BoxStyle(details_), look.style);
+    look.use_position = Theme_Pos_Chk.Checked() && Take_Number(Get_Paper_Pos(details_), look.position);
+    look.picture = picture_;
+    return look;
+}
+
+void Wallpaper_Page::Hand_Over_Look() {
+    style_page_.Set_Theme(Look());
+}
+
+void Wallpaper_Page::Theme_Use_Chk_Click() {
+    End_Preview();
+    if (Theme_Use_Chk.Checked() && Packs_Cbo.Items().empty()) {
+        platform::Message_Box("No Themes Available!", "Vellatro", platform::Box_Icon::Exclamation);
+        Theme_Use_Chk.Set_Checked(false);
+    }
+    if (!Packs_Cbo.Items().empty() && Packs_Cbo.Selected() == -1) {
+        Packs_Cbo.Select(0);
+        Packs_Cbo_Click();
+    }
+    Enable_Choices(Theme_Use_Chk.Checked());
+    Preview_Sli_Change();
+    // The miniature screen may need a picture that has not been loaded yet.
+    Load_Timer.Set_Enabled(pending_);
+}
+
+void Wallpaper_Page::Theme_Style_Chk_Click() {
+    Hand_Over_Look();
+    for (Control *control :
+         {static_cast<Control *>(&style_page_.Example1_Lbl),
+          static_cast<Control *>(&style_page_.Example2_Lbl),
+          static_cast<Control *>(&style_page_.Example3_Lbl),
+          static_cast<Control *>(&style_page_.Example4_Lbl), static_cast<Control *>(&style_page_.Style1_Opt),
+          static_cast<Control *>(&style_page_.Style2_Opt)})
+        control->Set_Enabled(!Theme_Style_Chk.Checked());
+}
+
+void Wallpaper_Page::Theme_Pos_Chk_Click() {
+    style_page_.Pos_Set_Opt.Set_Enabled(!Theme_Pos_Chk.Checked());
+    style_page_.Pos_Manual_Opt.Set_Enabled(!Theme_Pos_Chk.Checked());
+    Hand_Over_Look();
+}
+
+void Wallpaper_Page::Other_Display_Chk_Click() {
+    Display_Lbl.Set_Enabled(Other_Display_Chk.Checked());
+    Display_Cbo.Set_Enabled(Other_Display_Chk.Checked());
+}
+
+Settings Wallpaper_Page::Choices() const {
+    Settings choices = Cur_Settings;
+    choices.Style = style_page_.Style1_Opt.Checked() ? 0 : 1;
+    choices.Alignment =
+        style_page_.Pos_Manual_Opt.Checked() ? manual_position : style_page_.Get_Set_Position();
+    choices.Use_Themes = Theme_Use_Chk.Checked() ? 1 : 0;
+    choices.Use_Theme_Style = Theme_Style_Chk.Checked() ? 1 : 0;
+    choices.Use_Theme_Pos = Theme_Pos_Chk.Checked() ? 1 : 0;
+    choices.Use_Other_Display_Mode = Other_Display_Chk.Checked();
+    choices.Other_Display_Mode = static_cast<std::int16_t>(Display_Cbo.Selected());
+    return choices;
+}
+
+void Wallpaper_Page::Preview_Btn_Click() {
+    if (Packs_Cbo.Text().empty())
+        return;
+    // A disabled control would keep the keyboard, and Esc with it, to itself.
+    dialog_.Set_Focus(Theme_Style_Chk);
+    Enable_Choices(false);
+    Preview_Lbl.Set_Visible(true);
+    preview_.Begin(Packs_Cbo.Text(), Choices());
+}
+
+bool Wallpaper_Page::End_Preview() {
+    const bool running = preview_.Running();
+    preview_.End();
+    return running;
+}
+
+void Wallpaper_Page::Preview_Ended(bool pack_failed) {
+    Preview_Lbl.Set_Visible(false);
+    if (pack_failed)
+        return Drop_Pack(Packs_Cbo.Text());
+    Enable_Choices(Theme_Use_Chk.Checked());
+    Preview_Sli_Change();
+}

@@ -1,0 +1,94 @@
+// The "Wallpaper" page of the settings dialog: the choice of a theme pack, its pictures, and what the
+// calendar takes from it. The preview on the desktop is in wallpaper_preview.h, the saving in saving.cpp.
+#pragma once
+
+#include "calendar/main_frm.h"
+#include "settings/style_page.h"
+#include "settings/wallpaper_preview.h"
+#include "toolkit/form.h"
+#include "toolkit/list_controls.h"
+#include "toolkit/timer.h"
+
+#include <cstdint>
+#include <string>
+
+class Wallpaper_Page {
+public:
+    /// All must outlive the page.
+    Wallpaper_Page(Form &dialog, Frame &frame, Main_Frm &calendar, Style_Page &style_page);
+
+    // The opening of the dialog, in this order.
+
+    /// Lists the packs that are there now.
+    void Get_Papers();
+    /// Sets the check boxes from the settings, and enables what belongs to them and to Other_Display_Chk.
+    void Get_Themes();
+    /// Selects the pack of the settings, none if it is not there, and shows its picture of this month.
+    void Get_Wallpaper();
+
+    /// Ends a running preview and puts all back. Returns whether one was running.
+    bool End_Preview();
+    /// What the selected pack makes of the calendar in the month of the slider, as far as it is to be used.
+    Style_Page::Theme_Look Look() const;
+
+    void Packs_Cbo_Click();
+    /// Refuses a selected pack in which a file is missing: the user is told, and the pack of the settings is
+    /// selected instead.
+    void Check_Vaild();
+    void Preview_Sli_Change();
+    void Preview_Sli_Scroll();
+    /// Has the picture of the slider's month loaded as soon as the page can be seen, or the miniature screen
+    /// of the other page needs it. One that cannot be loaded is told once for each choice.
+    void Get_Theme_Picture();
+    void Get_Theme_Display();
+    void Get_Theme_Style();
+    void Get_Theme_Pos();
+    void Theme_Use_Chk_Click();
+    void Theme_Style_Chk_Click();
+    void Theme_Pos_Chk_Click();
+    void Other_Display_Chk_Click();
+    void Preview_Btn_Click();
+
+    Check_Box Theme_Use_Chk;
+    Label Packs_Lbl;
+    Combo_Box Packs_Cbo;
+    Picture_Box Theme_Preview_Img;
+    Label Theme_Display_Lbl;
+    Label Theme_Style_Lbl;
+    Label Theme_Pos_Lbl;
+    Label Loading_Lbl;
+    Label Month_Lbl; ///< names the slider
+    Slider Preview_Sli;
+    Frame Theme_Fra;
+    Check_Box Theme_Style_Chk;
+    Check_Box Theme_Pos_Chk;
+    Check_Box Other_Display_Chk;
+    Label Display_Lbl;
+    Combo_Box Display_Cbo;
+    Button Preview_Btn;
+    Label Preview_Lbl; ///< says how to end a preview
+
+private:
+    void Wire_Events();
+    void Lay_Out(const Frame &frame);
+    void Enable_Choices(bool enabled);
+    void Show_Month_Name();
+    void Clear_Details();
+    void Forget_Picture();
+    void Load_Shown_Picture();
+    void Take_Picture(platform::Picture picture);
+    void Drop_Pack(const std::string &pack);
+    void Preview_Ended(bool pack_failed);
+    std::int16_t Month() const { return static_cast<std::int16_t>(Preview_Sli.Value()); }
+    Settings Choices() const;
+    void Hand_Over_Look();
+
+    Form &dialog_;
+    Style_Page &style_page_;
+    std::string details_;       ///< the value text of the selected pack and month
+    std::string picture_path_;  ///< of the picture that is shown or to be loaded, empty: none
+    bool pending_ = false;      ///< that picture has not been loaded yet
+    platform::Picture picture_; ///< that is shown, no larger than needed for that
+    Timer Load_Timer{1};        ///< once: after what is on the screen has been painted
+    Wallpaper_Preview preview_;
+};

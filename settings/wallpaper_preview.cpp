@@ -1,0 +1,149 @@
+// The steps of the preview, and putting everything back.
+#include "settings/wallpaper_preview.h"
+
+#include "platform/locale.h"
+#include "platform/registry.h"
+#include "platform/wallpaper.h"
+#include "themes/theme_pack.h"
+#include "toolkit/fire.h"
+#include "toolkit/guard.h"
+
+#include <utility>
+#include <variant>
+
+namespace {
+
+constexpr std::int16_t last_month = 12;
+constexpr const char *desktop_key = "Control Panel\\Desktop";
+constexpr const char *unknown = "UNKNOWN";
+
+std::string Desktop_Value(const char *name) {
+    const platform::Registry_Value value =
+        platform::Registry_Read("HKCU", desktop_key, name, 'S', std::string(unknown));
+    const auto *text = std::get_if<std::string>(&value);
+    return text == nullptr ? unknown : *text;
+}
+
+void Write_Desktop_Value(const char *name, const std::string &text) {
+    // What was not there before is written as what the system takes it for.
+    platform::Registry_Write_String(platform::Find_Registry_Root("HKCU"), desktop_key, name,
+                                    text == unknown ? "0" : text);
+}
+
+/// Takes over the settings that a preview is about.
+void Copy_Previewed(const Settings &from, Settings &to) {
+    to.Style = from.Style;
+    to.Alignment = from.Alignment;
+    to.Use_Themes = from.Use_Themes;
+    to.Use_Theme_Style = from.Use_Theme_Style;
+    to.Use_Theme_Pos = from.Use_Theme_Pos;
+    to.Use_Other_Display_Mode = from.Use_Other_Display_Mode;
+    to.Other_Display_Mode = from.Other_Display_Mode;
+}
+
+/// Deletes the bitmaps that the preview left in the pack, but for the wallpaper `path`, which is made anew if
+/// it is one of them. Gives that path.
+std::string Keep_Only(const std::string &path, const std::string &pack) {
+    Delete_Old_Bmps(pack);
+    for (std::int16_t month = 1; month <= last_month; ++month)
+        if (path == Pack_File(pack, std::to_string(month) + ".bmp"))
+            return Get_Paper_Path(month, pack);
+    return path;
+}
+
+} // namespace
+
+Wallpaper_Preview::Wallpaper_Preview(Main_Frm &calendar) : calendar_(calendar) {
+    Month_Timer.On_Timer = [this] { Next_Month(); };
+}
+
+Wallpaper_Preview::~Wallpaper_Preview() {
+    On_End = nullptr;
+    End();
+}
+
+void Wallpaper_Preview::Begin(const std::string &pack, const Settings &choices) {
+    End();
+    before_ = Before{Cur_Settings,
+                     calendar_.Which_Month_Lbl.Caption(),
+                     calendar_.Dectect_Date_Timer.Enabled(),
+                     calendar_.Theme_BoxStyle,
+                     calendar_.Theme_Pos,
+                     Desktop_Value("Wallpaper"),
+                     Desktop_Value("WallpaperStyle"),
+                     Desktop_Value("TileWallpaper")};
+    // The title would get its time back every second, and at midnight the calendar its wallpaper.
+    calendar_.Dectect_Date_Timer.Set_Enabled(false);
+    Copy_Previewed(choices, Cur_Settings);
+    pack_ = pack;
+    pack_failed_ = false;
+    month_ = 1;
+    Show_Month();
+}
+
+void Wallpaper_Preview::Show_Month() {
+    // Off, so that no month follows while a message of this one is open.
+    Month_Timer.Set_Enabled(false);
+    try {
+        calendar_.Which_Month_Lbl.Set_Caption("Preview Mode - " + platform::Month_Name(month_));
+        // Asked for here first: a pack that is gone is told once, and not for every month.
+        pack_failed_ = Main_Frm::Get_Paper_Details(month_, pack_) == Theme_Error;
+        if (pack_failed_)
+            return End();
+        calendar_.Preview_Wallpaper_Stuff(pack_, month_);
+        Place_Calendar();
+    } catch (...) {
+        End();
+        throw;
+    }
+    // A message lets the program be ended.
+    if (Running())
+        Month_Timer.Set_Enabled(true);
+}
+
+void Wallpaper_Preview::Next_Month() {
+    if (month_ == last_month)
+        return End();
+    ++month_;
+    Show_Month();
+}
+
+void Wallpaper_Preview::Place_Calendar() {
+    calendar_.Which_Style(calendar_.Effective_Style());
+    calendar_.TransparentForm();
+    calendar_.Position_Form(calendar_.Effective_Position());
+}
+
+void Wallpaper_Preview::End() noexcept {
+    if (!Running())
+        return;
+    const Before before = *std::exchange(before_, std::nullopt);
+    Month_Timer.Set_Enabled(false);
+    // The previewed choices use themes: where they do not now, a missing pack has ended that, also in the
+    // store.
+    const bool themes_ended = pack_failed_ && Cur_Settings.Use_Themes == 0;
+    Copy_Previewed(before.settings, Cur_Settings);
+    if (themes_ended)
+        Cur_Settings.Use_Themes = 0;
+    calendar_.Theme_BoxStyle = before.theme_style;
+    calendar_.Theme_Pos = before.theme_position;
+    // Each by itself: what fails is told, and keeps nothing else from being put back.
+    Run_Guarded([&] { Put_Wallpaper_Back(before); });
+    Run_Guarded([&] {
+        if (Cur_Settings.Use_Themes == 1)
+            calendar_.Get_Wallpaper_Stuff(Cur_Settings.Pack_Name);
+    });
+    Run_Guarded([&] { Place_Calendar(); });
+    Run_Guarded([&] { calendar_.Which_Month_Lbl.Set_Caption(before.caption); });
+    Run_Guarded([&] { calendar_.Dectect_Date_Timer.Set_Enabled(before.watches_date); });
+    Run_Guarded([&] { Fire(On_End, bool{pack_failed_}); });
+}
+
+void Wallpaper_Preview::Put_Wallpaper_Back(const Before &before) const {
+    // None, if its bitmap went in the preview and cannot be made again.
+    std::string path;
+    Run_Guarded([&] { path = Keep_Only(before.wallpaper, pack_); });
+    Write_Desktop_Value("TileWallpaper", before.tiled);
+    Write_Desktop_Value("WallpaperStyle", before.wallpaper_style);
+    platform::Set_Wallpaper(path == unknown || path == Theme_Error ? "" : path);
+}

@@ -1,0 +1,246 @@
+// The native controls of dialogs: driven as the system drives them, what the form hears of the user, and that
+// it hears nothing of its own changes. In the native test program this file holds no tests.
+#ifdef _WIN32
+#include "platform/forms.h"
+#include "platform/message_loop.h"
+#include "platform/screen.h"
+#include "platform/twips.h"
+#include "tests/contract/contract.h"
+#include "win32/modal.h"
+
+#include <windows.h>
+
+#include <commctrl.h>
+
+namespace {
+
+using platform::Aspect;
+using platform::Control_Kind;
+using platform::Control_State;
+using platform::Input_Event;
+using platform::Input_Kind;
+
+enum { Tabs, Page, Group, Opt_1, Opt_2, Check, Combo, Typed, List, Thumb, Bar, Picture, Over, Shut, Last };
+
+constexpr const char *event_names[] = {"down",  "up",   "move",     "double", "key",       "keyup",
+                                       "click", "text", "selected", "scroll", "activated", "default"};
+
+/// A dialog with a control of each kind, whose form follows the user as the toolkit's do.
+class Dialog_Contract : public ::testing::Test {
+protected:
+    Dialog_Contract() {
+        using enum Control_Kind;
+        const Control_Kind kinds[] = {Tab_Strip,    Frame,       Frame,     Option_Button, Option_Button,
+                                      Check_Box,    Combo_Box,   Combo_Box, List_Box,      Slider,
+                                      Progress_Bar, Picture_Box, Label,     Label};
+        for (int i = 0; i < Last; ++i) {
+            Control_State &control = controls_[i];
+            control.kind = kinds[i];
+            control.index = i;
+            control.container = i < Group ? -1 : i == Opt_1 || i == Opt_2 ? Group : Page;
+            control.bounds = {0, 15 * 20 * i, 1500, 300};
+            if (control.kind == Tab_Strip || control.kind == Combo_Box || control.kind == List_Box)
+                control.items = {"One", "Two", "Three"};
+            control.painted = i >= Picture;
+            control.paint = [](platform::Canvas &canvas, const platform::Rect &) {
+                platform::Fill_Rect(canvas, {0, 0, 750, 300}, platform::Rgb(10, 200, 30));
+            };
+            model_.controls.push_back(&control);
+        }
+        controls_[Tabs].bounds = controls_[Page].bounds = {0, 0, 6000, 9000};
+        controls_[Over].bounds = controls_[Picture].bounds;
+        controls_[Over].bounds.width = 300;
+        controls_[Group].caption = "Group";
+        controls_[Typed].editable = controls_[Picture].tab_stop = true;
+        controls_[Thumb].minimum = controls_[Thumb].value = 1;
+        controls_[Shut].enabled = controls_[Over].visible = false;
+        model_.name = "Contract_Frm";
+        model_.bounds = {300, 300, 6000, 9000};
+        model_.visible = true;
+        model_.input = [this](const Input_Event &event) { Follow(event); };
+        platform::Create_Mirror(model_);
+        window_ = FindWindowW(L"Vellatro_Contract_Frm", nullptr);
+    }
+    ~Dialog_Contract() override { platform::Destroy_Mirror(model_); }
+
+    void Follow(const Input_Event &event) {
+        if (event.control < 0)
+            return;
+        Control_State &control = controls_[event.control];
+        if (event.kind == Input_Kind::Clicked)
+            control.checked = event.checked;
+        (control.kind == Control_Kind::Slider ? control.value : control.selected) = event.selected;
+        heard_ += event_names[static_cast<int>(event.kind)] + (" " + std::to_string(event.control)) + " ";
+        heard_ += event.kind == Input_Kind::Text_Changed ? event.text
+                  : event.kind == Input_Kind::Clicked    ? (event.checked ? "on" : "off")
+                  : event.kind == Input_Kind::Key_Down   ? std::to_string(event.key)
+                  : event.kind <= Input_Kind::Mouse_Move ? std::to_string(event.point.x)
+                                                         : std::to_string(event.selected);
+        heard_ += "; ";
+    }
+
+    std::string Heard() { return std::exchange(heard_, {}); }
+    HWND Native(int index) const { return GetDlgItem(window_, 100 + index); }
+    void Change(int index, Aspect aspect) {
+        platform::Control_Changed(model_, controls_[index], aspect, controls_[index].bounds);
+    }
+    LRESULT Send(int index, UINT message, WPARAM wparam = 0, LPARAM lparam = 0) {
+        return SendMessageW(Native(index), message, wparam, lparam);
+    }
+    /// The notification that a standard control sends.
+    void Notify(int index, int code) {
+        SendMessageW(window_, WM_COMMAND, static_cast<WPARAM>(MAKELONG(100 + index, code)),
+                     reinterpret_cast<LPARAM>(Native(index)));
+    }
+    void Press_Tab(WPARAM item) {
+        RECT place = {};
+        Send(Tabs, TCM_GETITEMRECT, item, reinterpret_cast<LPARAM>(&place));
+        Send(Tabs, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(place.left + 5, place.top + 5));
+        Send(Tabs, WM_LBUTTONUP, 0, MAKELPARAM(place.left + 5, place.top + 5));
+    }
+    /// A key as it comes from the queue, with Ctrl held or not.
+    void Type(int index, WPARAM key, bool with_control = false) {
+        BYTE keys[256] = {};
+        keys[VK_CONTROL] = with_control ? 0x80 : 0;
+        SetKeyboardState(keys);
+        PostMessageW(Native(index), WM_KEYDOWN, key, 1);
+        platform::Process_Waiting_Messages();
+        SetKeyboardState(std::fill_n(keys, 256, BYTE{0}) - 256);
+    }
+
+    Control_State controls_[Last];
+    platform::Form_Model model_;
+    HWND window_ = nullptr;
+    std::string heard_;
+};
+
+TEST_F(Dialog_Contract, The_Form_Hears_What_The_User_Does) {
+    const struct {
+        std::function<void()> act;
+        std::string heard;
+    } cases[] = {
+        {[this] { Send(Opt_2, BM_CLICK); }, "click 4 on; "},
+        {[this] { Send(Check, BM_CLICK); }, "click 5 on; "},
+        {[this] { Send(Check, BM_CLICK); }, "click 5 off; "},
+        {[this] { Send(Combo, CB_SETCURSEL, 2), Notify(Combo, CBN_SELCHANGE); }, "selected 6 2; "},
+        // A list that closes on another item than it was opened with.
+        {[this] { Send(Combo, CB_SETCURSEL, 1), Notify(Combo, CBN_CLOSEUP); }, "selected 6 1; "},
+        {[this] {
+             SendMessageW(GetWindow(Native(Typed), GW_CHILD), EM_REPLACESEL, 0,
+                          reinterpret_cast<LPARAM>(L"x"));
+         },
+         "text 7 x; "},
+        {[this] { Send(List, LB_SETCURSEL, 1), Notify(List, LBN_SELCHANGE); }, "selected 8 1; "},
+        {[this] { Notify(List, LBN_DBLCLK); }, "activated 8 1; "},
+        {[this] { Type(List, VK_DELETE), Type(List, VK_RETURN); }, "key 8 46; key 8 13; "},
+        {[this] { Press_Tab(1); }, "selected 0 1; "},
+        {[this] { Type(List, VK_TAB, true); }, "selected 0 2; "},
+        {[this] { Type(Check, VK_NEXT, true); }, "selected 0 0; "},
+        {[this] { Send(Thumb, WM_KEYDOWN, VK_RIGHT), Send(Thumb, WM_KEYUP, VK_RIGHT); },
+         "scroll 9 2; selected 9 2; "},
+        {[this] {
+             Notify(Thumb, 0),
+                 SendMessageW(window_, WM_HSCROLL, TB_ENDTRACK, reinterpret_cast<LPARAM>(Native(Thumb)));
+         },
+         ""},
+        {[this] {
+             Send(Picture, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(4, 3)),
+                 Send(Picture, WM_LBUTTONUP, 0, MAKELPARAM(6, 3));
+         },
+         "down 11 " + std::to_string(platform::Pixels_To_Twips(4, platform::Dots_Per_Inch())) + "; up 11 " +
+             std::to_string(platform::Pixels_To_Twips(6, platform::Dots_Per_Inch())) + "; "},
+        {[this] { Type(Picture, VK_LEFT), Type(Picture, VK_SPACE); }, "key 11 37; click 11 off; "},
+    };
+    for (const auto &c : cases) {
+        c.act();
+        EXPECT_EQ(Heard(), c.heard) << &c - cases;
+    }
+}
+
+TEST_F(Dialog_Contract, Its_Own_Changes_Show_And_Are_Not_Told) {
+    for (const int index : {Tabs, Combo, Typed, List}) {
+        controls_[index].items = {"A", "B & C", "D", "E"};
+        controls_[index].selected = 3;
+        Change(index, Aspect::Items);
+    }
+    controls_[Typed].selected = -1;
+    controls_[Typed].caption = "typed";
+    Change(Typed, Aspect::Caption);
+    controls_[Thumb].value = 40;
+    controls_[Bar].value = 60;
+    controls_[Opt_1].checked = controls_[Check].checked = true;
+    for (const int index : {Thumb, Bar})
+        Change(index, Aspect::Selected);
+    for (const int index : {Opt_1, Check})
+        Change(index, Aspect::Checked);
+    EXPECT_EQ(Heard(), "");
+    wchar_t text[20] = {};
+    GetWindowTextW(Native(Typed), text, 20);
+    EXPECT_TRUE(std::wstring(text) == L"typed");
+    EXPECT_TRUE(Send(Tabs, TCM_GETCURSEL) == 3 && Send(Combo, CB_GETCURSEL) == 3 &&
+                Send(List, LB_GETCURSEL) == 3);
+    EXPECT_TRUE(Send(Thumb, TBM_GETPOS) == 40 && Send(Bar, PBM_GETPOS) == 60);
+    EXPECT_TRUE(Send(Opt_1, BM_GETCHECK) == BST_CHECKED && Send(Check, BM_GETCHECK) == BST_CHECKED);
+}
+
+TEST_F(Dialog_Contract, A_Frame_Takes_All_It_Holds_Along) {
+    const RECT before = [this] {
+        RECT r;
+        return GetWindowRect(Native(Opt_1), &r), r;
+    }();
+    controls_[Page].bounds.left += 150;
+    Change(Page, Aspect::Bounds);
+    RECT after = {};
+    GetWindowRect(Native(Opt_1), &after);
+    EXPECT_EQ(after.left - before.left, platform::Twips_To_Pixels(150, platform::Dots_Per_Inch()));
+    for (const Aspect aspect : {Aspect::Enabled, Aspect::Visible}) {
+        SetFocus(Native(Opt_1));
+        for (const bool on : {false, true}) {
+            (aspect == Aspect::Visible ? controls_[Page].visible : controls_[Page].enabled) = on;
+            Change(Page, aspect);
+            for (const int index : {Group, Opt_1, List, Picture, Over, Shut}) {
+                EXPECT_EQ(IsWindowVisible(Native(index)) != FALSE,
+                          platform::Is_Shown(model_, controls_[index]));
+                EXPECT_EQ(IsWindowEnabled(Native(index)) != FALSE,
+                          platform::Is_Usable(model_, controls_[index]));
+            }
+            EXPECT_EQ(GetFocus(), Native(Tabs)) << "the keyboard left with the page";
+        }
+    }
+    EXPECT_TRUE(Heard().empty());
+}
+
+TEST_F(Dialog_Contract, Beside_A_Message_Box_Nothing_Changes) {
+    controls_[Opt_1].checked = true;
+    Change(Opt_1, Aspect::Checked);
+    const win32::Modal_Scope box;
+    for (const int index : {Opt_2, Check})
+        Send(index, BM_CLICK);
+    Press_Tab(1);
+    Send(Picture, WM_LBUTTONDOWN, MK_LBUTTON, 0);
+    Type(List, VK_DELETE);
+    EXPECT_EQ(Heard(), "");
+    EXPECT_TRUE(Send(Opt_1, BM_GETCHECK) == BST_CHECKED && Send(Opt_2, BM_GETCHECK) == BST_UNCHECKED);
+    EXPECT_TRUE(Send(Check, BM_GETCHECK) == BST_UNCHECKED && Send(Tabs, TCM_GETCURSEL) == -1);
+}
+
+/// The picture's own colour, the page's where it paints nothing, and the later control lies over it.
+TEST_F(Dialog_Contract, What_Paints_Itself_Lies_On_The_Page) {
+    const HDC screen = GetDC(nullptr);
+    const win32::Unique_Memory_Dc dc(CreateCompatibleDC(screen));
+    const win32::Unique_Bitmap bitmap(CreateCompatibleBitmap(screen, 100, 20));
+    ReleaseDC(nullptr, screen);
+    const win32::Selected_Object selected(dc.Get(), bitmap.Get());
+    Send(Picture, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc.Get()), PRF_CLIENT);
+    EXPECT_EQ(GetPixel(dc.Get(), 40, 10), RGB(10, 200, 30));
+    const COLORREF bare = GetPixel(dc.Get(), 90, 10);
+    Send(Tabs, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc.Get()), PRF_CLIENT | PRF_ERASEBKGND);
+    SetViewportOrgEx(dc.Get(), -200, -300, nullptr);
+    Send(Tabs, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc.Get()), PRF_CLIENT | PRF_ERASEBKGND);
+    EXPECT_EQ(bare, GetPixel(dc.Get(), 210, 310));
+    EXPECT_EQ(GetWindow(Native(Over), GW_HWNDNEXT), Native(Picture));
+    EXPECT_EQ(GetWindow(Native(Tabs), GW_HWNDNEXT), nullptr);
+}
+
+} // namespace
+#endif

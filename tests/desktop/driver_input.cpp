@@ -1,0 +1,140 @@
+// The driver's mouse and keyboard: what a person does to the program and to its message boxes.
+#include "tests/desktop/driver.h"
+
+#include <windows.h>
+
+namespace {
+
+void Send_Key_Event(WORD key, DWORD flags) {
+    INPUT input{};
+    input.type = INPUT_KEYBOARD;
+    input.ki.wVk = key;
+    input.ki.dwFlags = flags;
+    SendInput(1, &input, sizeof input);
+}
+
+/// Over all others. Moved twice, as what stays in its place is not raised.
+void Raise(HWND window) {
+    for (const HWND place : {HWND_TOPMOST, HWND_NOTOPMOST})
+        SetWindowPos(window, place, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+}
+
+} // namespace
+
+bool Has_Keyboard(HWND window) {
+    GUITHREADINFO state{};
+    state.cbSize = sizeof state;
+    return GetGUIThreadInfo(0, &state) && state.hwndFocus == window;
+}
+
+POINT Middle(const RECT &place) {
+    return {(place.left + place.right) / 2, (place.top + place.bottom) / 2};
+}
+
+// Place and button in one event: what X tells late of an earlier place would move a mouse that is there
+// already.
+void Send_Mouse(POINT point, DWORD flags) {
+    INPUT input{};
+    input.type = INPUT_MOUSE;
+    input.mi.dx = (point.x * 65536 + 65535) / GetSystemMetrics(SM_CXSCREEN);
+    input.mi.dy = (point.y * 65536 + 65535) / GetSystemMetrics(SM_CYSCREEN);
+    input.mi.dwFlags = MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE | flags;
+    SendInput(1, &input, sizeof input);
+}
+
+void Send_Key(WORD key, bool with_alt) {
+    if (with_alt)
+        Send_Key_Event(VK_MENU, 0);
+    Send_Key_Event(key, 0);
+    Send_Key_Event(key, KEYEVENTF_KEYUP);
+    if (with_alt)
+        Send_Key_Event(VK_MENU, KEYEVENTF_KEYUP);
+}
+
+void Send_Text(std::string_view ascii) {
+    for (const char letter : ascii)
+        for (const DWORD flags : {0UL, DWORD{KEYEVENTF_KEYUP}}) {
+            INPUT input{};
+            input.type = INPUT_KEYBOARD;
+            input.ki.wScan = static_cast<unsigned char>(letter);
+            input.ki.dwFlags = KEYEVENTF_UNICODE | flags;
+            SendInput(1, &input, sizeof input);
+        }
+}
+
+void Click_On(HWND window, const std::function<bool()> &done) {
+    // Wine loses a click while X changes the focus, after a message box for instance.
+    for (int i = 0; i < 3 && !done(); ++i) {
+        RECT place{};
+        EXPECT_TRUE(Wait_Until([&] {
+            GetWindowRect(window, &place);
+            const HWND seen = WindowFromPoint(Middle(place));
+            // Wine may have raised the stand-in, see below.
+            if (seen != window && GetAncestor(seen, GA_ROOT) == FindWindowA("Progman", nullptr))
+                Raise(GetAncestor(window, GA_ROOT));
+            return seen == window;
+        })) << "there is nothing to click";
+        Send_Mouse(Middle(place), MOUSEEVENTF_LEFTDOWN);
+        Send_Mouse(Middle(place), MOUSEEVENTF_LEFTUP);
+        Wait_Until(done, 2000);
+    }
+    EXPECT_TRUE(done()) << "no effect of a click";
+}
+
+void Program::Answer(WORD button) const {
+    const HWND box = Box_Window();
+    PostMessageW(box, WM_COMMAND, button, 0);
+    EXPECT_TRUE(box && Wait_Until([box] { return !IsWindow(box); })) << "no box that takes an answer";
+    // The program takes nothing else until it has seen the answer, and then it is back in its loop.
+    DWORD_PTR answer = 0;
+    SendMessageTimeoutW(Calendar(), WM_NULL, 0, 0, SMTO_NORMAL, 2000, &answer);
+}
+
+bool Program::Uncover(POINT point) const {
+    // Inside the stand-in the calendar is painted in its view only (see shell_standin.cpp). And a calendar
+    // that is a window of its own may get below the stand-in, which on Windows nothing can: Wine raises the X
+    // window of whatever gets the focus, without knowing it, and puts what X has found below the mouse, some
+    // time ago, above the others. So both are asked.
+    const HWND calendar = Calendar();
+    const HWND standin = FindWindowA("Progman", nullptr);
+    return Wait_Until([&] {
+        DWORD_PTR answer = 0; // which comes after what X has told the stand-in
+        SendMessageTimeoutW(standin, WM_NULL, 0, 0, SMTO_NORMAL, 2000, &answer);
+        if (GetAncestor(calendar, GA_PARENT) == standin) {
+            SetParent(calendar, FindWindowExA(standin, nullptr, "SHELLDLL_DefView", nullptr));
+            InvalidateRect(calendar, nullptr, FALSE); // what it paints during the move is lost now and then
+        }
+        if (Picture().At(point.x, point.y) != Bare_Screen->At(point.x, point.y) &&
+            WindowFromPoint(point) == calendar)
+            return true;
+        if (GetAncestor(calendar, GA_PARENT) == GetDesktopWindow())
+            Raise(calendar);
+        return false;
+    });
+}
+
+void Program::Click(const RECT &place, DWORD button, int times) const {
+    EXPECT_TRUE(Uncover(Middle(place))) << "there is nothing to click";
+    for (int i = 0; i < times; ++i) {
+        Send_Mouse(Middle(place), button);
+        Send_Mouse(Middle(place), 2 * button); // the bit of its release
+    }
+}
+
+void Program::Choose(std::initializer_list<WORD> keys) const {
+    ASSERT_TRUE(Wait_Until([this] { return Window("#32768") != nullptr; })) << "no menu";
+    for (const WORD key : keys)
+        Send_Key(key);
+    EXPECT_TRUE(Wait_Until([this] { return Window("#32768") == nullptr; })) << "the menu stays";
+}
+
+void Program::Press(WORD key, bool with_alt) const {
+    const HWND calendar = Calendar();
+    const auto ready = [calendar] { return Has_Keyboard(calendar); };
+    for (int i = 0; i < 3 && !ready(); ++i) { // as in Click_On; by far too slow for a double click
+        Click(Named(Title()).place);
+        Wait_Until(ready, 2000);
+    }
+    EXPECT_TRUE(ready()) << "no keyboard by a click";
+    Send_Key(key, with_alt);
+}

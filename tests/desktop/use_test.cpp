@@ -1,0 +1,190 @@
+// A day's use of the calendar by mouse and keyboard: function keys, all menus, compact mode, tooltips and
+// balloon.
+#include "tests/desktop/driver.h"
+
+#include <windows.h>
+
+#include <oleacc.h>
+
+namespace {
+
+constexpr DWORD right_button = MOUSEEVENTF_RIGHTDOWN;
+
+class Use : public Desktop_Test {
+protected:
+    static ::testing::AssertionResult Shows(const Program &program, const std::string &title) {
+        return Becomes(title, [&] { return program.Title(); });
+    }
+    static std::size_t Boxes(const Program &program) { return program.Items(ROLE_SYSTEM_CELL).size(); }
+
+    /// The half of the title whose right click opens the menu of the months, or of the years.
+    static RECT Half(const Program &program, bool years) {
+        RECT place = program.Named(program.Title()).place;
+        (years ? place.left : place.right) = Middle(place).x;
+        return place;
+    }
+    static void Click_In_Menu(const Program &program, int item, int count) {
+        RECT place{};
+        ASSERT_TRUE(Wait_Until([&] { return GetWindowRect(program.Window("#32768"), &place) != FALSE; }));
+        const LONG height = place.bottom - place.top;
+        const POINT point{Middle(place).x, place.top + (2 * item + 1) * height / (2 * count)};
+        for (const DWORD flags : {0UL, DWORD{MOUSEEVENTF_LEFTDOWN}, DWORD{MOUSEEVENTF_LEFTUP}})
+            Send_Mouse(point, flags);
+        EXPECT_TRUE(Wait_Until([&] { return !program.Window("#32768"); })) << "the menu stays";
+    }
+};
+
+TEST_F(Use, Function_Keys) {
+    Write_Data("\"12/5/9999=Every year\"\r\n");
+    Set_Setting("Settings", "Show Alerts", "0");
+    Set_Setting("Settings", "Use Theme Style", "1");
+    const Program &program = Start_Calendar();
+    const auto height = [&] {
+        const RECT place = program.Named("Wednesday 12th May 2027, today").place;
+        return place.bottom - place.top;
+    };
+    const auto box = [&] { return program.Box(); };
+    program.Press(VK_F1);
+    ASSERT_TRUE(Becomes(std::string("[Vellatro] Today: 5/12/2027\r\nEvery year"), box));
+    program.Answer();
+    const std::pair<WORD, const char *> steps[] = {{VK_F4, "June - 2027"},
+                                                   {VK_F2, "12th May - 2027"},
+                                                   {VK_F2, "April - 2027"},
+                                                   {VK_F4, "12th May - 2027"}};
+    for (const auto &[key, title] : steps) {
+        program.Press(key);
+        ASSERT_TRUE(Shows(program, title));
+    }
+    for (const WORD key : {WORD{VK_F3}, WORD{VK_F5}}) {
+        Write_Data("\"12/5/2027=Read by " + std::to_string(key) + "\"\r\n");
+        program.Press(key);
+        EXPECT_TRUE(Becomes("Read by " + std::to_string(key),
+                            [&] { return program.Named("Wednesday 12th May 2027, today").value; }));
+    }
+    const std::string question = "[Vellatro] You can't change the box style because Use Theme Style is "
+                                 "selected. Do you want to turn off Use Theme Style?";
+    const LONG square = height();
+    for (const WORD answer : {WORD{IDCANCEL}, WORD{IDYES}}) {
+        program.Press(VK_F8);
+        ASSERT_TRUE(Becomes(question, box));
+        program.Answer(answer);
+    }
+    ASSERT_TRUE(Wait_Until([&] { return height() < square; }));
+    EXPECT_NE(Store().find("Style=0\n"), std::string::npos) << Store();
+    EXPECT_NE(Store().find("Use Theme Style=0\n"), std::string::npos) << Store();
+    program.Press(VK_F9);
+    ASSERT_TRUE(Becomes(square, height));
+    EXPECT_NE(Store().find("Style=1\n"), std::string::npos) << Store();
+    for (const std::size_t boxes : {0U, 31U}) {
+        program.Press(VK_F12);
+        ASSERT_TRUE(Becomes(boxes, [&] { return Boxes(program); }));
+    }
+}
+
+TEST_F(Use, Every_Item_Of_The_Menus) {
+    Write_Data("\"5/5/2027=Cleared\"\r\n\"6/5/2027=Kept\"\r\n");
+    const Program &program = Start_Calendar();
+    const char *months[] = {"January", "February", "March",     "April",   "12th May", "June",
+                            "July",    "August",   "September", "October", "November", "December"};
+    for (int i = 0; i < 12; ++i) {
+        program.Click(Half(program, false), right_button);
+        Click_In_Menu(program, i, 12);
+        ASSERT_TRUE(Shows(program, std::string(months[i]) + " - 2027"));
+    }
+    // From December 2027; each row goes on from the one before, by one item more each time.
+    const char *titles[] = {"December - 2025", "December - 2024", "12th May - 2027", "May - 2028",
+                            "May - 2030"};
+    for (int i = 0; i < 5; ++i) {
+        program.Click(Half(program, true), right_button);
+        ASSERT_TRUE(Wait_Until([&] { return program.Window("#32768") != nullptr; }));
+        for (int down = 0; down < i; ++down)
+            Send_Key(VK_DOWN);
+        program.Choose({VK_DOWN, VK_RETURN});
+        ASSERT_TRUE(Shows(program, titles[i]));
+    }
+    program.Press(VK_HOME);
+    ASSERT_TRUE(Shows(program, "12th May - 2027"));
+    const auto open = [&](const char *day) { program.Click(program.Named(day).place, right_button); };
+    open("Wednesday 5th May 2027");
+    program.Choose({VK_ESCAPE});
+    EXPECT_EQ(Data(), "\"5/5/2027=Cleared\"\r\n\"6/5/2027=Kept\"\r\n");
+    open("Wednesday 5th May 2027");
+    program.Choose({VK_DOWN, VK_RETURN});
+    EXPECT_TRUE(Becomes(std::string("\"6/5/2027=Kept\"\r\n"), [&] { return Data(); }));
+    EXPECT_EQ(program.Named("Wednesday 5th May 2027").value, "");
+    open("Saturday 8th May 2027");
+    program.Choose({VK_DOWN, VK_DOWN, VK_RETURN});
+    ASSERT_TRUE(Wait_Until([&] { return program.Window("Vellatro_Edit_Frm") != nullptr; }));
+    Send_Key(VK_ESCAPE);
+    ASSERT_TRUE(Wait_Until([&] { return !program.Window("Vellatro_Edit_Frm"); }));
+
+    program.Click(program.Named(program.Title()).place, MOUSEEVENTF_LEFTDOWN, 2);
+    ASSERT_TRUE(Becomes(0U, [&] { return Boxes(program); }));
+    for (const bool years : {false, true}) { // the whole title has the one menu now
+        program.Click(Half(program, years), right_button);
+        Click_In_Menu(program, 0, 1);
+        ASSERT_TRUE(Becomes(31U, [&] { return Boxes(program); }));
+        program.Double_Click(program.Title());
+        ASSERT_TRUE(Becomes(0U, [&] { return Boxes(program); }));
+    }
+    program.Double_Click(program.Title());
+    ASSERT_TRUE(Becomes(31U, [&] { return Boxes(program); }));
+    open("Thursday 6th May 2027");
+    program.Choose({VK_UP, VK_RETURN}); // the last one
+    EXPECT_EQ(program.Exit_Code(), 0U);
+}
+
+TEST_F(Use, Compact_After_A_Minute) {
+    Set_Setting("Settings", "Auto Compact", "1");
+    const DWORD begin = GetTickCount();
+    const Program &program = Start_Calendar();
+    const auto boxes = [&] { return Boxes(program); };
+    ASSERT_TRUE(Becomes(0U, boxes, 75000));
+    EXPECT_GE(GetTickCount() - begin, 60000U);
+    const RECT title = program.Named(program.Title()).place;
+    ASSERT_TRUE(program.Uncover(Middle(title)));
+    for (const LONG step : {0L, 3L})
+        Send_Mouse({Middle(title).x + step, Middle(title).y}, 0);
+    EXPECT_TRUE(Becomes(31U, boxes));
+}
+
+TEST_F(Use, Tooltip_And_Balloon) {
+    Write_Data("\"14/5/2027=Told by the mouse\"\r\n");
+    const std::string day = "Friday 14th May 2027";
+    {
+        const Program &program = Start_Calendar();
+        const POINT middle = Middle(program.Named(day).place);
+        ASSERT_TRUE(program.Uncover(middle));
+        for (const LONG step : {-3L, 0L})
+            Send_Mouse({middle.x + step, middle.y}, 0);
+        ASSERT_TRUE(Becomes(std::string("Told by the mouse"),
+                            [&] { return Text_Of(program.Window("tooltips_class32")); }));
+        Send_Mouse(Middle(program.Named("Sunday 9th May 2027").place), 0); // which has no event
+        EXPECT_TRUE(Wait_Until([&] { return !program.Window("tooltips_class32"); }));
+        EXPECT_FALSE(program.Window("Vellatro_Balloon"));
+    }
+    Stop_All();
+    Set_Setting("Settings", "Tooltips", "2");
+    const Program &program = Start_Calendar();
+    const POINT middle = Middle(program.Named(day).place);
+    const auto balloon = [&] { return program.Window("Vellatro_Balloon"); };
+    ASSERT_TRUE(program.Uncover(middle));
+    const Picture before;
+    Send_Mouse(middle, MOUSEEVENTF_LEFTDOWN);
+    ASSERT_TRUE(Wait_Until([&] { return balloon() != nullptr; }));
+    EXPECT_EQ(Text_Of(balloon()), "5/14/2027");
+    RECT place{};
+    GetWindowRect(balloon(), &place);
+    const COLORREF back = GetSysColor(COLOR_INFOBK);
+    const DWORD expected = DWORD{GetRValue(back)} << 16 | DWORD{GetGValue(back)} << 8 | GetBValue(back);
+    EXPECT_TRUE(Becomes(expected, [&] { return Picture().At(Middle(place).x, Middle(place).y); }));
+    Save_Picture("balloon");
+    Send_Mouse(middle, MOUSEEVENTF_LEFTUP);
+    EXPECT_TRUE(Wait_Until([&] { return !balloon(); }));
+    EXPECT_TRUE(Wait_Until([&] { return Picture().pixels == before.pixels; })) << "a rest of it is seen";
+    Send_Mouse(middle, MOUSEEVENTF_LEFTDOWN);
+    Send_Mouse(middle, MOUSEEVENTF_LEFTUP); // too short
+    EXPECT_FALSE(Wait_Until([&] { return balloon() != nullptr; }, 600));
+}
+
+} // namespace

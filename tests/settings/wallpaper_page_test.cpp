@@ -1,0 +1,247 @@
+// The wallpaper page on a dialog of its own, with packs on the faked disk, and the preview of all months.
+#include "settings/thumbnail.h"
+#include "settings/wallpaper_page.h"
+#include "tests/calendar/calendar_test.h"
+
+namespace {
+
+class Themes_Page : public Calendar_Test {
+protected:
+    struct Dialog : Form {
+        explicit Dialog(Main_Frm &calendar)
+            : Form(platform::Form_Kind::Dialog, "Dialog"), Page_Fra(*this, "Page_Fra"),
+              Style(*this, Page_Fra, calendar), Page(*this, Page_Fra, calendar, Style) {}
+        Frame Page_Fra;
+        Style_Page Style;
+        Wallpaper_Page Page;
+    };
+
+    Themes_Page() {
+        Cur_Settings.Show_Alerts = 0;
+        Start();
+    }
+
+    static std::string Path(const std::string &pack, const std::string &file) {
+        return "C:\\Vellatro\\" + pack + "\\" + file;
+    }
+    /// Month m has the value text 0-m-1 and a picture that is m pixels wide.
+    static void Make_Pack(const std::string &pack, const std::string &more_details = {}) {
+        std::string &ini = Fakes().files[Path(pack, "settings.ini")];
+        for (int month = 1; month <= 12; ++month) {
+            const std::string path = Path(pack, std::to_string(month) + ".jpg");
+            Fakes().files[path] = "a picture";
+            Fakes().pictures[path] = {month, 1, std::make_shared<std::vector<std::uint8_t>>(month * 3)};
+            ini += std::to_string(month) + "=0-" + std::to_string(month) + "-1\r\n";
+        }
+        ini += more_details;
+    }
+
+    void Open(bool on_another_page = false) {
+        dialog.emplace(form);
+        dialog->Page_Fra.Set_Visible(!on_another_page);
+        Page().Get_Papers();
+        Page().Get_Themes();
+        Page().Get_Wallpaper();
+        dialog->Show();
+        Desktop().Advance(50);
+    }
+    Wallpaper_Page &Page() { return dialog->Page; }
+    void Use_Themes(bool on) {
+        Push(*dialog, Page().Theme_Use_Chk, on);
+        Desktop().Advance(50);
+    }
+    void Slide(int month) {
+        Choose(*dialog, Page().Preview_Sli, month);
+        Desktop().Advance(50);
+    }
+    std::string Details() {
+        return Page().Theme_Display_Lbl.Caption() + "|" + Page().Theme_Style_Lbl.Caption() + "|" +
+               Page().Theme_Pos_Lbl.Caption();
+    }
+    bool Choices_Enabled() {
+        EXPECT_EQ(Page().Packs_Cbo.Enabled(), Page().Preview_Btn.Enabled());
+        EXPECT_EQ(Page().Preview_Sli.Enabled(), Page().Preview_Btn.Enabled());
+        return Page().Preview_Btn.Enabled();
+    }
+    static std::string &Desktop_Value(const std::string &name) {
+        return Fakes().registry["Control Panel\\Desktop\\" + name];
+    }
+
+    std::optional<Dialog> dialog;
+};
+
+TEST_F(Themes_Page, shows_what_the_selected_pack_says) {
+    struct {
+        const char *march, *details;
+        bool usable; ///< by the calendar
+    } const rows[] = {
+        {"3=1-4-2", "Display: Stretch|Box Style: Square Box|Position: Top Right", true},
+        {"3=0-7-0", "Display: Center|Box Style: Thin Box|Position: ", true},
+        {"3=2-10-3", "Display: |Box Style: |Position: ", true},
+        {"3=x--99999", "Display: |Box Style: |Position: ", false},
+    };
+    Fakes().folders.insert("C:\\Vellatro\\no pack");
+    Make_Pack("Winter");
+    for (const auto &row : rows) {
+        Fakes().files.erase(Path("Default", "settings.ini"));
+        Make_Pack("Default", row.march);
+        Open();
+        EXPECT_EQ(Page().Packs_Cbo.Items(), (std::vector<std::string>{"Default", "Winter"}));
+        EXPECT_EQ(Page().Packs_Cbo.Text() + "|" + Details(), std::string("Default|") + row.details);
+        EXPECT_FALSE(Page().Look().use_style || Choices_Enabled());
+        Use_Themes(true);
+        EXPECT_TRUE(Choices_Enabled());
+        EXPECT_EQ(Page().Look().use_style, row.usable) << row.march;
+        EXPECT_EQ(Page().Look().use_position, row.usable) << row.march;
+    }
+    for (const bool on : {true, false}) { // the theme's choices replace the user's
+        Push(*dialog, Page().Theme_Style_Chk, on);
+        Push(*dialog, Page().Theme_Pos_Chk, on);
+        Push(*dialog, Page().Other_Display_Chk, on);
+        for (const Control *control : std::initializer_list<const Control *>{
+                 &dialog->Style.Example1_Lbl, &dialog->Style.Example4_Lbl, &dialog->Style.Style1_Opt,
+                 &dialog->Style.Style2_Opt, &dialog->Style.Pos_Set_Opt, &dialog->Style.Pos_Manual_Opt})
+            EXPECT_EQ(control->Enabled(), !on) << control->Name();
+        EXPECT_EQ(Page().Display_Cbo.Enabled(), on);
+    }
+}
+
+TEST_F(Themes_Page, refuses_packs_that_are_not_whole_and_themes_without_packs) {
+    for (const char *missing : {"settings.ini", "1.jpg", "12.jpg"}) {
+        for (const bool has_default : {true, false}) {
+            Fakes().files.clear();
+            if (has_default)
+                Make_Pack("Default");
+            Make_Pack("Winter");
+            Open();
+            Use_Themes(true);
+            Slide(11);
+            Fakes().files.erase(Path("Winter", missing)); // while the dialog is open
+            Fakes().Expect_Box("Error Loading Theme.");
+            Choose(*dialog, Page().Packs_Cbo, has_default ? 1 : 0);
+            Desktop().Advance(50);
+            EXPECT_EQ(Page().Packs_Cbo.Text(), has_default ? "Default" : "") << missing;
+            EXPECT_EQ(Page().Preview_Sli.Value(), 3);
+            EXPECT_EQ(Page().Look().picture.width, has_default ? 3 : 0);
+        }
+    }
+    Fakes().files.clear();
+    Open();
+    Fakes().Expect_Box("No Themes Available!");
+    Use_Themes(true);
+    EXPECT_FALSE(Page().Theme_Use_Chk.Checked() || Choices_Enabled());
+
+    Make_Pack("Default");
+    Cur_Settings.Use_Themes = 1;
+    Open();
+    Fakes().files.clear();
+    Fakes().Expect_Box("Missing Theme Default. Themes will now be disabled."); // once for three lookups
+    Slide(5);
+    EXPECT_FALSE(Page().Theme_Use_Chk.Checked() || Choices_Enabled());
+    EXPECT_EQ(Page().Packs_Cbo.Text() + "|" + Details(), "|Display:|Box Style:|Position:");
+}
+
+TEST_F(Themes_Page, loads_only_the_picture_that_is_seen_and_tells_of_a_bad_one_once) {
+    Make_Pack("Default");
+    Fakes().pictures.erase(Path("Default", "5.jpg"));
+    Open(true);
+    EXPECT_EQ(Fakes().loads, 0);
+    dialog->Page_Fra.Set_Visible(true);
+    platform::Canvas canvas;
+    Page().Theme_Preview_Img.State().paint(canvas, Page().Theme_Preview_Img.Bounds());
+    Use_Themes(true);
+    for (const int month : {4, 5, 6})
+        Choose(*dialog, Page().Preview_Sli, month, platform::Input_Kind::Scrolled);
+    Desktop().Advance(50);
+    EXPECT_EQ(Page().Preview_Sli.Caption(), "June");
+    EXPECT_EQ(Fakes().loads, 1) << "the thumb has not come to rest";
+    Fakes().Expect_Box(Path("Default", "5.jpg") + " cannot be loaded");
+    Slide(5);
+    EXPECT_EQ(Page().Look().picture.width, 0);
+    Use_Themes(false);
+    Use_Themes(true);
+    Choose(*dialog, Page().Preview_Sli, 6);
+    EXPECT_TRUE(Page().Loading_Lbl.Visible());
+    Desktop().Advance(50);
+    EXPECT_EQ(Page().Look().picture.width, 6);
+    EXPECT_FALSE(Page().Loading_Lbl.Visible());
+}
+
+TEST_F(Themes_Page, a_preview_leaves_all_as_it_was) {
+    enum End { by_itself, stopped, unchecked, dialog_gone, bad_number, pack_gone };
+    const auto state = [this] {
+        std::string all = Desktop_Value("WallpaperStyle") + Desktop_Value("TileWallpaper") +
+                          Fakes().wallpapers.back() + form.Which_Month_Lbl.Caption() +
+                          std::to_string(form.Left()) + "," + std::to_string(form.Width());
+        for (const Setting_Row &row : Setting_Rows())
+            all += "\n" + Setting_Text(Cur_Settings, row);
+        for (const auto &[path, bytes] : Fakes().files)
+            all += path.ends_with(".bmp") ? "\n" + path : "";
+        return all;
+    };
+    for (const bool themes : {false, true}) {
+        for (const End end : {by_itself, stopped, unchecked, dialog_gone, bad_number, pack_gone}) {
+            SCOPED_TRACE(std::to_string(end) + (themes ? " with themes" : ""));
+            Fakes().files.clear();
+            Make_Pack("Default");
+            Make_Pack("Winter", end == bad_number ? "2=1-x-0" : "");
+            Cur_Settings = Settings{};
+            Cur_Settings.Alignment = 4;
+            Cur_Settings.Use_Themes = themes ? 1 : 0;
+            Desktop_Value("WallpaperStyle") = "10";
+            Desktop_Value("TileWallpaper") = "0";
+            // Without themes: a wallpaper that stayed from a time when they were used.
+            Desktop_Value("Wallpaper") = Path(themes ? "Default" : "Winter", "3.bmp");
+            Fakes().files[Desktop_Value("Wallpaper")] = "";
+            Fakes().wallpapers = {Desktop_Value("Wallpaper")};
+            form.Get_Wallpaper_Stuff("Default");
+            form.Which_Style(form.Effective_Style());
+            form.Position_Form(form.Effective_Position());
+            const std::string before = state();
+            Open();
+            Use_Themes(true);
+            Choose(*dialog, Page().Packs_Cbo, 1);
+
+            Push(*dialog, Page().Preview_Btn);
+            EXPECT_FALSE(Choices_Enabled() || form.Dectect_Date_Timer.Enabled());
+            EXPECT_EQ(form.Which_Month_Lbl.Caption(), "Preview Mode - January");
+            EXPECT_EQ(Fakes().wallpapers.back(), Path("Winter", "1.bmp"));
+            if (end == bad_number)
+                Fakes().Expect_Box("In C:\\Vellatro\\Winter\\settings.ini the position of month 2 is \"x\", "
+                                   "but must be a whole number from -32768 to 32767.");
+            if (end == pack_gone) {
+                Fakes().Expect_Box("Missing Theme Winter. Themes will now be disabled.");
+                std::erase_if(Fakes().files, [](const auto &file) { return file.first[12] == 'W'; });
+            }
+            Desktop().Advance(end == by_itself ? 35'900 : 5'000);
+            EXPECT_EQ(form.Which_Month_Lbl.Caption() == "Preview Mode - February",
+                      end < bad_number && end != by_itself);
+            EXPECT_EQ(form.Which_Month_Lbl.Caption() == "Preview Mode - December", end == by_itself);
+            Desktop().Advance(end == by_itself ? 200 : 0);
+            EXPECT_EQ(end == stopped && Page().End_Preview(), end == stopped);
+            if (end == unchecked)
+                Use_Themes(false);
+            if (end == dialog_gone)
+                dialog.reset();
+            EXPECT_TRUE(form.Dectect_Date_Timer.Enabled());
+            if (end == pack_gone) // which can be put back as little as what the user was told of
+                EXPECT_EQ(Cur_Settings.Use_Themes, 0);
+            else
+                EXPECT_EQ(state(), before);
+            EXPECT_TRUE(!dialog || Choices_Enabled() == (end != unchecked && end != pack_gone));
+        }
+    }
+}
+
+TEST(Thumbnail, takes_means_and_keeps_proportions) {
+    const platform::Picture picture{
+        4, 2,
+        std::make_shared<std::vector<std::uint8_t>>(std::initializer_list<std::uint8_t>{
+            0, 0, 0, 40, 0, 0, 9, 9, 9, 9, 9, 9, 0, 80, 0, 0, 0, 200, 9, 9, 9, 9, 9, 9})};
+    const platform::Picture small = Thumbnail(picture, 2, 2);
+    EXPECT_EQ(small.height, 1);
+    EXPECT_EQ(*small.pixels, (std::vector<std::uint8_t>{10, 20, 50, 9, 9, 9}));
+    EXPECT_EQ(Thumbnail(picture, 1, 9).pixels->size(), 3U);
+}
+
+} // namespace
