@@ -104,7 +104,7 @@ public:
 /// stands for them.
 class Button : public Control {
 public:
-    Button(Form &form, std::string name, std::string caption);
+    Button(Form &form, std::string name, std::string caption = {});
     void Set_Default(bool is_default);
     void Set_Cancel(bool is_cancel);
 };
