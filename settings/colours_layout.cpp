@@ -12,11 +12,11 @@ using platform::Rect;
 namespace {
 
 constexpr int left_width = 2400; ///< of the column with the swatches
-constexpr int swatch_row = 20 * 15;
+constexpr int swatch_row = 19 * 15;
 constexpr int swatch_height = 17 * 15;
 constexpr int swatch_width = 36 * 15;
 constexpr int group_gap = 5 * 15; ///< between group boxes, which have room at their tops
-constexpr int group_bottom = 8 * 15;
+constexpr int group_bottom = 7 * 15;
 constexpr int button_height = 23 * 15;
 constexpr int value_label_width = 45 * 15;
 constexpr int gradient_width = 16 * 15;
@@ -98,17 +98,21 @@ void Colours_Page::Lay_Out_Preview() {
     const int top = Default_Cols_Btn.Bounds().Bottom() + group_gap;
     const Box_Layout thin(0);
     const Box_Layout square(1);
-    Preview_Fra.Move({0, top, page_width, group_top + Pixels_To_Twips(square.Box(0).height) + margin});
+    const int height = Pixels_To_Twips(square.Box(0).height);
+    Preview_Fra.Move({0, top, page_width, group_top + height + 2 * backdrop + group_bottom});
 
-    // Title, today's box and a thin one stand as in the calendar, and the square one beside them.
+    // Title, today's box and a thin one stand as in the calendar, and the square one at the right edge.
     const Rect origin = thin.Previous();
-    Preview_Prev_Lbl.Move(Moved(origin, origin, margin, group_top));
+    const int first_left = margin + backdrop;
+    const int first_top = group_top + backdrop;
+    Preview_Prev_Lbl.Move(Moved(origin, origin, first_left, first_top));
     Rect month = thin.Month();
     month.width = thin.Box(1).Right() - month.left;
-    Preview_Month_Lbl.Move(Moved(month, origin, margin, group_top));
-    const int boxes_top = group_top + Pixels_To_Twips(origin.Bottom() + thin.Gap());
-    const int second_left = margin + Pixels_To_Twips(thin.Box(1).left);
-    const int third_left = margin + Pixels_To_Twips(thin.Box(1).Right()) + margin;
+    Preview_Month_Lbl.Move(Moved(month, origin, first_left, first_top));
+    const int boxes_top = first_top + Pixels_To_Twips(origin.Bottom() + thin.Gap());
+    const int second_left = first_left + Pixels_To_Twips(thin.Box(1).left);
+    const int third_left = margin + inner_width - backdrop - Pixels_To_Twips(square.Box(0).width);
+    Preview_Back_Pic.Move({margin, group_top, inner_width, height + 2 * backdrop});
     const auto place = [](const Box_Layout &style, Label &number, Label &text, int left, int box_top) {
         number.Move(Moved(style.Box(0), style.Box(0), left, box_top));
         text.Move(Moved(style.Text(0), style.Box(0), left, box_top));
@@ -116,9 +120,9 @@ void Colours_Page::Lay_Out_Preview() {
         Dress_Text(text);
         text.Set_Transparent(false);
     };
-    place(thin, Preview_Today_Lbl, Preview_Caption_Today_Lbl, margin, boxes_top);
+    place(thin, Preview_Today_Lbl, Preview_Caption_Today_Lbl, first_left, boxes_top);
     place(thin, Preview_Style0_Lbl, Preview_Caption0_Lbl, second_left, boxes_top);
-    place(square, Preview_Style1_Lbl, Preview_Caption1_Lbl, third_left, group_top);
+    place(square, Preview_Style1_Lbl, Preview_Caption1_Lbl, third_left, first_top);
     for (Label *heading : {&Preview_Prev_Lbl, &Preview_Month_Lbl}) {
         Dress_Heading(*heading, Box_Layout::title_font);
         heading->Set_Transparent(false);

@@ -75,8 +75,8 @@ Colours_Page::Colours_Page(Form &dialog, Frame &frame, Main_Frm &calendar)
       Palette_Fra(dialog, "Palette_Fra", "Palette"), Pal(dialog, "Pal"), Gradient_Pic(dialog, "Gradient_Pic"),
       txCol_Lbl(dialog, "txCol_Lbl"), txCol(dialog, "txCol"), Names_Lbl(dialog, "Names_Lbl", "&Name:"),
       Names_Cbo(dialog, "Names_Cbo"), Preview_Fra(dialog, "Preview_Fra", "Preview"),
-      Preview_Prev_Lbl(dialog, "Preview_Prev_Lbl"), Preview_Month_Lbl(dialog, "Preview_Month_Lbl"),
-      Preview_Today_Lbl(dialog, "Preview_Today_Lbl"),
+      Preview_Back_Pic(dialog, "Preview_Back_Pic"), Preview_Prev_Lbl(dialog, "Preview_Prev_Lbl"),
+      Preview_Month_Lbl(dialog, "Preview_Month_Lbl"), Preview_Today_Lbl(dialog, "Preview_Today_Lbl"),
       Preview_Caption_Today_Lbl(dialog, "Preview_Caption_Today_Lbl"),
       Preview_Style0_Lbl(dialog, "Preview_Style0_Lbl"), Preview_Caption0_Lbl(dialog, "Preview_Caption0_Lbl"),
       Preview_Style1_Lbl(dialog, "Preview_Style1_Lbl"), Preview_Caption1_Lbl(dialog, "Preview_Caption1_Lbl"),
@@ -117,9 +117,9 @@ void Colours_Page::Put_Into_Frames(const Frame &frame) {
     Put_Into(Palette_Fra, {&Pal, &Gradient_Pic, &Names_Lbl, &Names_Cbo});
     for (int i = 0; i < 3; ++i)
         Put_Into(Palette_Fra, {&txCol_Lbl[i], &txCol[i]});
-    Put_Into(Preview_Fra,
-             {&Preview_Prev_Lbl, &Preview_Month_Lbl, &Preview_Today_Lbl, &Preview_Caption_Today_Lbl,
-              &Preview_Style0_Lbl, &Preview_Caption0_Lbl, &Preview_Style1_Lbl, &Preview_Caption1_Lbl});
+    Put_Into(Preview_Fra, {&Preview_Back_Pic, &Preview_Prev_Lbl, &Preview_Month_Lbl, &Preview_Today_Lbl,
+                           &Preview_Caption_Today_Lbl, &Preview_Style0_Lbl, &Preview_Caption0_Lbl,
+                           &Preview_Style1_Lbl, &Preview_Caption1_Lbl});
 }
 
 void Colours_Page::Wire_Swatch(int index) {
@@ -322,6 +322,7 @@ void Colours_Page::Dress_Preview() {
          {&Preview_Prev_Lbl, &Preview_Month_Lbl, &Preview_Today_Lbl, &Preview_Caption_Today_Lbl,
           &Preview_Style0_Lbl, &Preview_Caption0_Lbl, &Preview_Style1_Lbl, &Preview_Caption1_Lbl})
         label->Set_Painted();
+    Preview_Back_Pic.Set_Back_Colour(desktop_colour);
     Preview_Prev_Lbl.Set_Glyph(platform::Glyph::Arrow_Left);
     const Date today = Today();
     Preview_Month_Lbl.Set_Caption(platform::Month_Name(today.month));

@@ -63,6 +63,7 @@ public:
     Label Names_Lbl;
     Combo_Box Names_Cbo; ///< the colours that have a name
     Frame Preview_Fra;
+    Picture_Box Preview_Back_Pic; ///< the desktop behind the calendar
     Label Preview_Prev_Lbl;
     Label Preview_Month_Lbl;
     Label Preview_Today_Lbl;

@@ -14,7 +14,8 @@ General_Page::General_Page(Form &dialog, Frame &frame, Main_Frm &calendar)
       Bar_Preview_Lbl(dialog, "Bar_Preview_Lbl", "13:56:21 - 11th May - 2002"),
       General_Fra(dialog, "General_Fra", "General Settings"),
       Auto_Compact_Chk(dialog, "Auto_Compact_Chk", "Switch into &Compact Mode when not in use"),
-      Allow_Dragging_Chk(dialog, "Allow_Dragging_Chk", "Allow d&ragging when Manual Position is not selected"),
+      Allow_Dragging_Chk(dialog, "Allow_Dragging_Chk",
+                         "Allow d&ragging when Manual Position is not selected"),
       Alert_Chk(dialog, "Alert_Chk", "A&lert me when a date Comes up"),
       Startup_Chk(dialog, "Startup_Chk", "Run at &Startup") {
     Put_Into(frame, {&Title_Bar_Fra, &General_Fra});

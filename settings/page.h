@@ -20,7 +20,12 @@ constexpr int row_height = 21 * 15;
 constexpr int check_height = 18 * 15;
 constexpr int inner_width = page_width - 2 * margin; ///< of a group box as wide as the page
 
+constexpr int backdrop = 6 * 15; ///< of desktop around boxes of the calendar
+
 } // namespace layout
+
+/// The system's colour of the desktop, which boxes of the calendar are shown on.
+constexpr platform::Colour desktop_colour = platform::System_Colour(1);
 
 /// Puts controls into a frame.
 inline void Put_Into(const Frame &frame, std::initializer_list<Control *> controls) {

@@ -6,6 +6,7 @@
 #include "core/settings.h"
 #include "desktop/position.h"
 #include "platform/screen.h"
+#include "settings/page.h"
 #include "toolkit/units.h"
 
 #include <algorithm>
@@ -16,7 +17,6 @@ using platform::Size;
 
 namespace {
 
-constexpr platform::Colour desktop = platform::System_Colour(1);
 constexpr platform::Colour task_bar = platform::System_Colour(15);
 constexpr platform::Colour shadow = platform::System_Colour(16);
 constexpr int one_pixel = 15; ///< twips at 96 dots per inch
@@ -81,7 +81,7 @@ void Screen_Miniature::Paint(Canvas &canvas, const platform::Picture &wallpaper,
     if (wallpaper.width > 0)
         platform::Draw_Picture(canvas, wallpaper, all);
     else
-        platform::Fill_Rect(canvas, all, desktop);
+        platform::Fill_Rect(canvas, all, desktop_colour);
     Paint_Calendar(canvas, size);
     Paint_Task_Bar(canvas, size);
     platform::Frame_Rect(canvas, all, shadow, one_pixel);

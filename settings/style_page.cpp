@@ -21,6 +21,7 @@ using platform::Rect;
 namespace {
 
 constexpr int group_gap = 5 * 15;
+constexpr int group_bottom = 8 * 15;
 constexpr int options_width = 118 * 15; ///< column left of the miniature
 constexpr int hint_lines = 4;
 constexpr int coordinate_lines = 2;
@@ -51,7 +52,8 @@ platform::Size Size_Of(const Control &control) {
 
 Style_Page::Style_Page(Form &dialog, Frame &frame, Main_Frm &calendar)
     : Style_Fra(dialog, "Style_Fra", "Box Style"), Style1_Opt(dialog, "Style1_Opt", Box_Style_Name(0)),
-      Style2_Opt(dialog, "Style2_Opt", Box_Style_Name(1)), Example1_Lbl(dialog, "Example1_Lbl", " 12"),
+      Style2_Opt(dialog, "Style2_Opt", Box_Style_Name(1)), Backdrop1_Pic(dialog, "Backdrop1_Pic"),
+      Backdrop2_Pic(dialog, "Backdrop2_Pic"), Example1_Lbl(dialog, "Example1_Lbl", " 12"),
       Example2_Lbl(dialog, "Example2_Lbl", "Event"), Example3_Lbl(dialog, "Example3_Lbl", " 12"),
       Example4_Lbl(dialog, "Example4_Lbl", "Event"), Position_Fra(dialog, "Position_Fra", "Position"),
       Pos_Set_Opt(dialog, "Pos_Set_Opt", "&Set position"),
@@ -59,8 +61,8 @@ Style_Page::Style_Page(Form &dialog, Frame &frame, Main_Frm &calendar)
       Pos_Manual_Opt(dialog, "Pos_Manual_Opt", "&Manual position"), Manual_Lbl(dialog, "Manual_Lbl"),
       Pos_Preview_Img(dialog, "Pos_Preview_Img"), Position_Lbl(dialog, "Position_Lbl"), calendar_(calendar) {
     Put_Into(frame, {&Style_Fra, &Position_Fra});
-    Put_Into(Style_Fra,
-             {&Style1_Opt, &Style2_Opt, &Example1_Lbl, &Example2_Lbl, &Example3_Lbl, &Example4_Lbl});
+    Put_Into(Style_Fra, {&Style1_Opt, &Style2_Opt, &Backdrop1_Pic, &Backdrop2_Pic, &Example1_Lbl,
+                         &Example2_Lbl, &Example3_Lbl, &Example4_Lbl});
     Put_Into(Position_Fra,
              {&Pos_Set_Opt, &Pos_Hint_Lbl, &Pos_Manual_Opt, &Manual_Lbl, &Pos_Preview_Img, &Position_Lbl});
     Wire_Examples();
@@ -84,10 +86,12 @@ Style_Page::Style_Page(Form &dialog, Frame &frame, Main_Frm &calendar)
 void Style_Page::Wire_Examples() {
     for (Label *label : {&Example1_Lbl, &Example2_Lbl, &Example3_Lbl, &Example4_Lbl})
         label->Set_Painted();
-    for (Label *label : {&Example1_Lbl, &Example2_Lbl})
-        label->On_Click = [this] { Choose_Style(Style1_Opt); };
-    for (Label *label : {&Example3_Lbl, &Example4_Lbl})
-        label->On_Click = [this] { Choose_Style(Style2_Opt); };
+    for (Control *control : std::initializer_list<Control *>{&Backdrop1_Pic, &Example1_Lbl, &Example2_Lbl})
+        control->On_Click = [this] { Choose_Style(Style1_Opt); };
+    for (Control *control : std::initializer_list<Control *>{&Backdrop2_Pic, &Example3_Lbl, &Example4_Lbl})
+        control->On_Click = [this] { Choose_Style(Style2_Opt); };
+    for (Picture_Box *backdrop_pic : {&Backdrop1_Pic, &Backdrop2_Pic})
+        backdrop_pic->Set_Back_Colour(desktop_colour);
 }
 
 void Style_Page::Load_Settings() {
@@ -103,11 +107,14 @@ void Style_Page::Load_Settings() {
 
 void Style_Page::Set_Theme(const Theme_Look &look) {
     theme_ = look;
+    Pos_Hint_Lbl.Set_Enabled(!look.use_position);
     Style_Preview();
     Show_Position();
 }
 
 void Style_Page::Choose_Style(Option_Button &option) {
+    if (!option.Enabled())
+        return;
     option.Set_Checked(true);
     Style_Preview();
 }
@@ -197,6 +204,8 @@ void Style_Page::Paint_Miniature(platform::Canvas &canvas) {
     for (int row = 0; row <= last_cell; ++row) {
         for (int column = 0; column <= last_cell; ++column) {
             const bool marked = chosen == Point{column, row};
+            if (theme_.use_position && !marked)
+                continue; // not to be chosen now
             const Rect cell = miniature.Cell(column, row, size);
             const int side = marked ? marker_size + 4 * one_pixel : marker_size;
             const Rect marker{Snap(cell.left + (cell.width - side) / 2),
@@ -211,26 +220,28 @@ void Style_Page::Paint_Miniature(platform::Canvas &canvas) {
 void Style_Page::Lay_Out() {
     const Box_Layout styles[] = {Box_Layout(0), Box_Layout(1)};
     constexpr int column_width = page_width / 2;
-    constexpr int box_top = group_top + check_height + small_gap;
-    const auto example = [](const Box_Layout &style, Option_Button &option, Label &number, Label &text,
-                            int left) {
+    constexpr int box_top = group_top + check_height + backdrop;
+    const auto example = [](const Box_Layout &style, Option_Button &option, Picture_Box &desktop,
+                            Label &number, Label &text, int left) {
         option.Move({left, group_top, column_width - margin, check_height});
         const Rect corner = style.Box(0);
-        const int box_left = left + option_mark;
+        const int box_left = left + option_mark + backdrop;
         const auto place = [&](Rect pixels) {
             pixels.left += Twips_To_Pixels(box_left) - corner.left;
             pixels.top += Twips_To_Pixels(box_top) - corner.top;
             return Pixels_To_Twips(pixels);
         };
         number.Move(place(corner));
+        desktop.Move({number.Left() - backdrop, number.Top() - backdrop, number.Width() + 2 * backdrop,
+                      number.Height() + 2 * backdrop});
         text.Move(place(style.Text(0)));
         Dress_Number(number);
         Dress_Text(text);
         text.Set_Transparent(false);
     };
-    example(styles[0], Style1_Opt, Example1_Lbl, Example2_Lbl, margin);
-    example(styles[1], Style2_Opt, Example3_Lbl, Example4_Lbl, column_width);
-    Style_Fra.Move({0, 0, page_width, Example3_Lbl.Bounds().Bottom() + margin});
+    example(styles[0], Style1_Opt, Backdrop1_Pic, Example1_Lbl, Example2_Lbl, margin);
+    example(styles[1], Style2_Opt, Backdrop2_Pic, Example3_Lbl, Example4_Lbl, column_width);
+    Style_Fra.Move({0, 0, page_width, Backdrop2_Pic.Bounds().Bottom() + group_bottom});
 
     const int top = Style_Fra.Height() + group_gap;
     Position_Fra.Move({0, top, page_width, page_height - top});

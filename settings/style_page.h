@@ -40,11 +40,13 @@ public:
     void Position_Boxes();
 
     Frame Style_Fra;
-    Option_Button Style1_Opt; ///< "Thin Box", 0 in the settings
-    Option_Button Style2_Opt; ///< "Square Box", 1 in the settings
-    Label Example1_Lbl;       ///< a box with its number in style 1
-    Label Example2_Lbl;       ///< the text in it
-    Label Example3_Lbl;       ///< the same in style 2
+    Option_Button Style1_Opt;  ///< "Thin Box", 0 in the settings
+    Option_Button Style2_Opt;  ///< "Square Box", 1 in the settings
+    Picture_Box Backdrop1_Pic; ///< the desktop behind the example; a click on it counts as one on that
+    Picture_Box Backdrop2_Pic;
+    Label Example1_Lbl; ///< a box with its number in style 1
+    Label Example2_Lbl; ///< the text in it
+    Label Example3_Lbl; ///< the same in style 2
     Label Example4_Lbl;
     Frame Position_Fra;
     Option_Button Pos_Set_Opt;

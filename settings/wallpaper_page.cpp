@@ -150,8 +150,8 @@ void Wallpaper_Page::Get_Themes() {
     Theme_Style_Chk.Set_Checked(Cur_Settings.Use_Theme_Style != 0);
     Theme_Pos_Chk.Set_Checked(Cur_Settings.Use_Theme_Pos != 0);
     Enable_Choices(Theme_Use_Chk.Checked());
-    Theme_Style_Chk_Click();
-    Theme_Pos_Chk_Click();
+    Enable_As_Ruled();
+    Hand_Over_Look();
     Other_Display_Chk_Click();
 }
 
@@ -322,6 +322,7 @@ void Wallpaper_Page::Theme_Use_Chk_Click() {
         Packs_Cbo_Click();
     }
     Enable_Choices(Theme_Use_Chk.Checked());
+    Enable_As_Ruled();
     Preview_Sli_Change();
     // The miniature screen may need a picture that has not been loaded yet.
     Load_Timer.Set_Enabled(pending_);
@@ -329,19 +330,33 @@ void Wallpaper_Page::Theme_Use_Chk_Click() {
 
 void Wallpaper_Page::Theme_Style_Chk_Click() {
     Hand_Over_Look();
-    for (Control *control :
-         {static_cast<Control *>(&style_page_.Example1_Lbl),
-          static_cast<Control *>(&style_page_.Example2_Lbl),
-          static_cast<Control *>(&style_page_.Example3_Lbl),
-          static_cast<Control *>(&style_page_.Example4_Lbl), static_cast<Control *>(&style_page_.Style1_Opt),
-          static_cast<Control *>(&style_page_.Style2_Opt)})
-        control->Set_Enabled(!Theme_Style_Chk.Checked());
+    Enable_Styles(!Theme_Style_Chk.Checked());
 }
 
 void Wallpaper_Page::Theme_Pos_Chk_Click() {
-    style_page_.Pos_Set_Opt.Set_Enabled(!Theme_Pos_Chk.Checked());
-    style_page_.Pos_Manual_Opt.Set_Enabled(!Theme_Pos_Chk.Checked());
+    Enable_Positions(!Theme_Pos_Chk.Checked());
     Hand_Over_Look();
+}
+
+void Wallpaper_Page::Enable_Styles(bool enabled) {
+    Style_Page &page = style_page_;
+    for (Label *example : {&page.Example1_Lbl, &page.Example2_Lbl, &page.Example3_Lbl, &page.Example4_Lbl})
+        example->Set_Enabled(enabled);
+    page.Style1_Opt.Set_Enabled(enabled);
+    page.Style2_Opt.Set_Enabled(enabled);
+}
+
+void Wallpaper_Page::Enable_Positions(bool enabled) {
+    style_page_.Pos_Set_Opt.Set_Enabled(enabled);
+    style_page_.Pos_Manual_Opt.Set_Enabled(enabled);
+}
+
+// Both boxes are ticked in the settings of a first run. While no theme is in use nothing replaces the user's
+// own style and position, so their choice is free until a box is clicked.
+void Wallpaper_Page::Enable_As_Ruled() {
+    const bool in_use = Theme_Use_Chk.Checked();
+    Enable_Styles(!in_use || !Theme_Style_Chk.Checked());
+    Enable_Positions(!in_use || !Theme_Pos_Chk.Checked());
 }
 
 void Wallpaper_Page::Other_Display_Chk_Click() {

@@ -81,6 +81,9 @@ private:
     void Preview_Ended(bool pack_failed);
     std::int16_t Month() const { return static_cast<std::int16_t>(Preview_Sli.Value()); }
     Settings Choices() const;
+    void Enable_Styles(bool enabled);
+    void Enable_Positions(bool enabled);
+    void Enable_As_Ruled();
     void Hand_Over_Look();
 
     Form &dialog_;

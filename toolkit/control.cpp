@@ -11,9 +11,11 @@
 
 using platform::Aspect;
 
-Control::Control(Form &form, platform::Control_Kind kind, std::string name) : form_(form) {
+Control::Control(Form &form, platform::Control_Kind kind, std::string_view name, std::string_view caption)
+    : form_(form) {
     state_.kind = kind;
-    state_.name = std::move(name);
+    state_.name = name;
+    state_.caption = caption;
     form.Register(*this);
 }
 
@@ -108,18 +110,16 @@ void Control::Take(const platform::Input_Event &event) {
         Fire(On_Click);
 }
 
-Label::Label(Form &form, std::string name, std::string caption)
-    : Control(form, platform::Control_Kind::Label, std::move(name)) {
-    state_.caption = std::move(caption);
+Label::Label(Form &form, std::string_view name, std::string_view caption)
+    : Control(form, platform::Control_Kind::Label, name, caption) {
 }
 
 void Label::Set_Painted() {
     Paint_Itself(state_, nullptr);
 }
 
-Button::Button(Form &form, std::string name, std::string caption)
-    : Control(form, platform::Control_Kind::Button, std::move(name)) {
-    state_.caption = std::move(caption);
+Button::Button(Form &form, std::string_view name, std::string_view caption)
+    : Control(form, platform::Control_Kind::Button, name, caption) {
 }
 
 void Button::Set_Default(bool is_default) {
@@ -130,9 +130,8 @@ void Button::Set_Cancel(bool is_cancel) {
     Store(state_.is_cancel, is_cancel, Aspect::Look);
 }
 
-Check_Box::Check_Box(Form &form, std::string name, std::string caption)
-    : Control(form, platform::Control_Kind::Check_Box, std::move(name)) {
-    state_.caption = std::move(caption);
+Check_Box::Check_Box(Form &form, std::string_view name, std::string_view caption)
+    : Control(form, platform::Control_Kind::Check_Box, name, caption) {
 }
 
 void Check_Box::Set_Checked(bool checked) {
@@ -146,8 +145,8 @@ void Check_Box::Take(const platform::Input_Event &event) {
     Control::Take(event);
 }
 
-Text_Box::Text_Box(Form &form, std::string name)
-    : Control(form, platform::Control_Kind::Text_Box, std::move(name)) {
+Text_Box::Text_Box(Form &form, std::string_view name)
+    : Control(form, platform::Control_Kind::Text_Box, name) {
 }
 
 void Text_Box::Set_Text(std::string text) {

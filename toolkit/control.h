@@ -6,6 +6,7 @@
 
 #include <functional>
 #include <string>
+#include <string_view>
 
 class Form;
 
@@ -15,7 +16,7 @@ class Frame;
 /// the program itself changes raises no event, except the change of a text box.
 class Control {
 public:
-    Control(Form &form, platform::Control_Kind kind, std::string name);
+    Control(Form &form, platform::Control_Kind kind, std::string_view name, std::string_view caption = {});
     Control(const Control &) = delete;
     Control &operator=(const Control &) = delete;
     /// Takes the form's native window down: it must not outlive the controls that it mirrors.
@@ -95,7 +96,7 @@ protected:
 /// A text, or in a painted form a box of colour with a text.
 class Label : public Control {
 public:
-    Label(Form &form, std::string name, std::string caption = {});
+    Label(Form &form, std::string_view name, std::string_view caption = {});
     /// In a dialog: draws itself as a painted form draws its labels, and takes the mouse.
     void Set_Painted();
 };
@@ -104,14 +105,14 @@ public:
 /// stands for them.
 class Button : public Control {
 public:
-    Button(Form &form, std::string name, std::string caption = {});
+    Button(Form &form, std::string_view name, std::string_view caption = {});
     void Set_Default(bool is_default);
     void Set_Cancel(bool is_cancel);
 };
 
 class Check_Box : public Control {
 public:
-    Check_Box(Form &form, std::string name, std::string caption);
+    Check_Box(Form &form, std::string_view name, std::string_view caption);
     bool Checked() const { return state_.checked; }
     void Set_Checked(bool checked);
 
@@ -122,7 +123,7 @@ private:
 /// A text box that holds no line break: a pasted one becomes a blank.
 class Text_Box : public Control {
 public:
-    Text_Box(Form &form, std::string name);
+    Text_Box(Form &form, std::string_view name);
     const std::string &Text() const { return state_.caption; }
     void Set_Text(std::string text);
     /// One line in place of several wrapped ones, to be read and copied only. Before there is a native

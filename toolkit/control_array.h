@@ -3,23 +3,25 @@
 
 #include "toolkit/control.h"
 
-#include <array>
 #include <cstddef>
+#include <deque>
 #include <stdexcept>
 #include <string>
-#include <utility>
+#include <string_view>
 
 /// `Count` controls, registered with their form in index order.
 template <typename Control_Type, std::size_t Count>
 class Control_Array {
 public:
-    Control_Array(Form &form, const std::string &name)
-        : controls_(Make(form, name, std::make_index_sequence<Count>{})), name_(name) {}
+    Control_Array(Form &form, std::string_view name) : name_(name) {
+        while (controls_.size() < Count)
+            controls_.emplace_back(form, Element_Name(static_cast<int>(controls_.size())));
+    }
 
     /// Throws std::out_of_range for an index outside 0 to Count - 1.
     Control_Type &operator[](int index) {
         if (index < 0 || index >= static_cast<int>(Count))
-            throw std::out_of_range("There is no " + Element_Name(name_, index) + ".");
+            throw std::out_of_range("There is no " + Element_Name(index) + ".");
         return controls_[static_cast<std::size_t>(index)];
     }
 
@@ -29,17 +31,8 @@ public:
     auto end() const { return controls_.end(); }
 
 private:
-    static std::string Element_Name(const std::string &name, int index) {
-        return name + "(" + std::to_string(index) + ")";
-    }
+    std::string Element_Name(int index) const { return name_ + "(" + std::to_string(index) + ")"; }
 
-    template <std::size_t... Indexes>
-    static std::array<Control_Type, Count> Make(Form &form, const std::string &name,
-                                                std::index_sequence<Indexes...>) {
-        // Braces evaluate from left to right, and each control is made in its place.
-        return {{Control_Type(form, Element_Name(name, static_cast<int>(Indexes)))...}};
-    }
-
-    std::array<Control_Type, Count> controls_;
     std::string name_;
+    std::deque<Control_Type> controls_; ///< its elements stay in their places
 };

@@ -15,14 +15,12 @@ using platform::Input_Event;
 using platform::Input_Kind;
 using platform::Rect;
 
-Frame::Frame(Form &form, std::string name, std::string caption)
-    : Control(form, Control_Kind::Frame, std::move(name)) {
-    state_.caption = std::move(caption);
+Frame::Frame(Form &form, std::string_view name, std::string_view caption)
+    : Control(form, Control_Kind::Frame, name, caption) {
 }
 
-Option_Button::Option_Button(Form &form, std::string name, std::string caption)
-    : Control(form, Control_Kind::Option_Button, std::move(name)) {
-    state_.caption = std::move(caption);
+Option_Button::Option_Button(Form &form, std::string_view name, std::string_view caption)
+    : Control(form, Control_Kind::Option_Button, name, caption) {
 }
 
 void Option_Button::Set_Checked(bool checked) {
@@ -76,8 +74,7 @@ void Item_Control::Take(const Input_Event &event) {
     Fire(On_Click);
 }
 
-Combo_Box::Combo_Box(Form &form, std::string name)
-    : Item_Control(form, Control_Kind::Combo_Box, std::move(name)) {
+Combo_Box::Combo_Box(Form &form, std::string_view name) : Item_Control(form, Control_Kind::Combo_Box, name) {
 }
 
 void Combo_Box::Set_Editable() {
@@ -105,8 +102,7 @@ void Combo_Box::Take(const Input_Event &event) {
     Fire(On_Change);
 }
 
-List_Box::List_Box(Form &form, std::string name)
-    : Item_Control(form, Control_Kind::List_Box, std::move(name)) {
+List_Box::List_Box(Form &form, std::string_view name) : Item_Control(form, Control_Kind::List_Box, name) {
 }
 
 void List_Box::Remove_Item(int index) {
@@ -123,12 +119,11 @@ void List_Box::Take(const Input_Event &event) {
     Item_Control::Take(event);
 }
 
-Tab_Strip::Tab_Strip(Form &form, std::string name)
-    : Item_Control(form, Control_Kind::Tab_Strip, std::move(name)) {
+Tab_Strip::Tab_Strip(Form &form, std::string_view name) : Item_Control(form, Control_Kind::Tab_Strip, name) {
 }
 
-Slider::Slider(Form &form, std::string name, int minimum, int maximum)
-    : Control(form, Control_Kind::Slider, std::move(name)) {
+Slider::Slider(Form &form, std::string_view name, int minimum, int maximum)
+    : Control(form, Control_Kind::Slider, name) {
     state_.minimum = minimum;
     state_.maximum = maximum;
     state_.value = minimum;
@@ -145,8 +140,7 @@ void Slider::Take(const Input_Event &event) {
     Fire(event.kind == Input_Kind::Selected ? On_Change : On_Scroll);
 }
 
-Picture_Box::Picture_Box(Form &form, std::string name)
-    : Control(form, Control_Kind::Picture_Box, std::move(name)) {
+Picture_Box::Picture_Box(Form &form, std::string_view name) : Control(form, Control_Kind::Picture_Box, name) {
     Paint_Itself(state_, [this](platform::Canvas &canvas) { Paint_Content(canvas); });
 }
 
@@ -168,8 +162,8 @@ void Picture_Box::Paint_Content(platform::Canvas &canvas) const {
     Fire(On_Paint, canvas);
 }
 
-Progress_Bar::Progress_Bar(Form &form, std::string name)
-    : Control(form, Control_Kind::Progress_Bar, std::move(name)) {
+Progress_Bar::Progress_Bar(Form &form, std::string_view name)
+    : Control(form, Control_Kind::Progress_Bar, name) {
 }
 
 void Progress_Bar::Set_Value(int value) {

@@ -7,19 +7,20 @@
 
 #include <functional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 /// Holds other controls (Control::Set_Container). With a caption it is drawn as a box around them.
 class Frame : public Control {
 public:
-    Frame(Form &form, std::string name, std::string caption = {});
+    Frame(Form &form, std::string_view name, std::string_view caption = {});
 };
 
 /// One of several choices: of all the option buttons in one frame (or on the form itself) at most one is
 /// checked.
 class Option_Button : public Control {
 public:
-    Option_Button(Form &form, std::string name, std::string caption = {});
+    Option_Button(Form &form, std::string_view name, std::string_view caption = {});
     bool Checked() const { return state_.checked; }
     /// Checking one unchecks the others.
     void Set_Checked(bool checked);
@@ -48,7 +49,7 @@ protected:
 /// A drop-down list whose text is the selected item's, or an editable one, whose text can be any.
 class Combo_Box : public Item_Control {
 public:
-    Combo_Box(Form &form, std::string name);
+    Combo_Box(Form &form, std::string_view name);
     /// Any text can be typed. To be called before there is a native window.
     void Set_Editable();
     const std::string &Text() const { return state_.caption; }
@@ -65,7 +66,7 @@ private:
 /// A list with one column. `On_Click` comes with every selection by the user, by mouse or keyboard.
 class List_Box : public Item_Control {
 public:
-    List_Box(Form &form, std::string name);
+    List_Box(Form &form, std::string_view name);
     void Remove_Item(int index);
 
 private:
@@ -75,13 +76,13 @@ private:
 /// Tabs above pages that the form shows and hides by itself. `On_Click` comes with every change by the user.
 class Tab_Strip : public Item_Control {
 public:
-    Tab_Strip(Form &form, std::string name);
+    Tab_Strip(Form &form, std::string_view name);
 };
 
 /// A slider over whole numbers, with a mark for each.
 class Slider : public Control {
 public:
-    Slider(Form &form, std::string name, int minimum, int maximum);
+    Slider(Form &form, std::string_view name, int minimum, int maximum);
     int Value() const { return state_.value; }
     /// Takes the nearest value within the range.
     void Set_Value(int value);
@@ -98,7 +99,7 @@ private:
 /// On_Paint adds.
 class Picture_Box : public Control {
 public:
-    Picture_Box(Form &form, std::string name);
+    Picture_Box(Form &form, std::string_view name);
     /// A picture with the width 0 is none.
     void Set_Picture(platform::Picture picture);
     /// Makes the keyboard reach it: it gets On_Key_Down, and the space bar clicks it. Before there is a
@@ -118,7 +119,7 @@ private:
 /// How far a long piece of work has come.
 class Progress_Bar : public Control {
 public:
-    Progress_Bar(Form &form, std::string name);
+    Progress_Bar(Form &form, std::string_view name);
     /// Per cent, 0 to 100.
     void Set_Value(int value);
 };

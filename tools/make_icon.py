@@ -11,7 +11,7 @@ import struct
 import sys
 import zlib
 
-SIZES = (16, 20, 24, 32, 48, 64, 256)
+SIZES = (16, 20, 24, 32, 48, 256)
 SAMPLES = 8  # per pixel and direction
 
 DEEP_BLUE = (31, 8, 128)

@@ -112,12 +112,12 @@ std::string Date_Time_Text(const Date_Time &time) {
 }
 
 std::optional<Date_Time> Read_Date(std::string_view text) {
-    const std::wstring wide = win32::To_Wide(text);
+    std::wstring wide = win32::To_Wide(text); // the call wants it changeable
     DATE date = 0;
     SYSTEMTIME time{};
     // What is behind a NUL would not be read.
     if (wide.find(L'\0') != std::wstring::npos ||
-        FAILED(VarDateFromStr(wide.c_str(), LOCALE_USER_DEFAULT, 0, &date)) ||
+        FAILED(VarDateFromStr(wide.data(), LOCALE_USER_DEFAULT, 0, &date)) ||
         !VariantTimeToSystemTime(date, &time))
         return std::nullopt;
     Date_Time day;

@@ -77,6 +77,8 @@ TEST_F(Saving, colours_are_kept_under_their_own_keys_and_seen_at_once) {
 }
 
 TEST_F(Saving, style_and_position_are_seen_at_once) {
+    Cur_Settings.Use_Theme_Style = 0;
+    Cur_Settings.Use_Theme_Pos = 0;
     Open(Settings_Frm::style_fra);
     const int height = form.Height();
     Push(*dialog, dialog->Style.Style1_Opt, true);

@@ -106,7 +106,11 @@ TEST_F(Settings_Window, previews_the_title_without_touching_a_setting) {
 }
 
 TEST_F(Settings_Window, shows_the_example_balloon_while_the_left_button_is_held) {
-    const auto close = [this] { Push(*dialog, dialog->Cancel_Btn); };
+    const auto close = [this] {
+        Push(*dialog, dialog->Cancel_Btn);
+        form.Open_Settings(); // must not put a new one into the place of one that still waits
+        EXPECT_FALSE(form.Settings_Visible());
+    };
     const struct {
         int kind;
         Mouse_Button button;
