@@ -90,7 +90,7 @@ TEST_F(Exporting, asks_before_it_replaces_a_file_and_keeps_it_when_that_fails) {
     Fakes().Expect_Dialog(title, "C:\\copy.DAT");
     Fakes().Expect_Box("Overwrite existing file?", platform::Box_Answer::No);
     Fakes().Expect_Dialog(title, "c:\\vellatro\\calendar");
-    Fakes().Expect_Box("You can't export to the data file your currently using!");
+    Fakes().Expect_Box("You can't export to the data file you're currently using!");
     Export(0, "", "");
     EXPECT_EQ(File("C:\\copy.DAT"), "old");
     Fakes().unwritable.insert("C:\\copy.DAT");
