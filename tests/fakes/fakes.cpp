@@ -106,11 +106,9 @@ std::string Short_Date(int year, int month, int day) {
 }
 
 std::string Date_Time_Text(const Date_Time &time) {
-    std::string clock(9, '\0');
-    std::snprintf(clock.data(), clock.size(), "%02d:%02d:%02d", time.hour % 100, time.minute % 100,
-                  time.second % 100);
-    clock.pop_back();
-    return Short_Date(time.year, time.month, time.day) + " " + clock;
+    const auto two = [](int number) { return std::to_string(100 + number).substr(1); };
+    return Short_Date(time.year, time.month, time.day) + " " + two(time.hour) + ":" + two(time.minute) + ":" +
+           two(time.second);
 }
 
 // Three numbers in the order of the pattern; where they are no date so, day and month change places.

@@ -8,73 +8,58 @@ using namespace std::string_literals;
 
 class File_Dialogs : public Fake_Test {
 protected:
-    void Answer(const std::string &path, std::function<void(platform::File_Dialog &)> look = nullptr) {
-        Fakes().expected_dialogs.push_back({dialog.DialogTitle, path, std::move(look)});
-    }
     OpenSaveDialog dialog{nullptr};
+
+    /// Shows a dialog that answers `answer` and sets the filter index to 2. Gives what it was asked with.
+    std::string Ask(void (OpenSaveDialog::*show)(), const std::string &answer) {
+        std::string asked;
+        Fakes().expected_dialogs.push_back(
+            {"Pick", answer, [&asked](platform::File_Dialog &record) {
+                 asked = (record.saves ? "save " : "open ") + record.filter + record.folder;
+                 for (const auto number :
+                      {record.filter_index, record.flags, static_cast<std::int32_t>(record.file_room),
+                       static_cast<std::int32_t>(record.title_room)})
+                     asked += " " + std::to_string(number);
+                 record.filter_index = 2;
+             }});
+        dialog.DialogTitle = "Pick";
+        (dialog.*show)();
+        return asked + "; " + dialog.FileName + ", " + dialog.FileTitle + " " +
+               std::to_string(dialog.FilterIndex);
+    }
 };
 
 TEST_F(File_Dialogs, hand_the_properties_over_and_take_the_answers) {
-    EXPECT_EQ(System_Filter(""), "");
-    EXPECT_EQ(System_Filter("Text|*.txt|All|*.*"), "Text\0*.txt\0All\0*.*\0\0"s);
-    EXPECT_EQ(System_Filter("Text|*.txt|"), "Text\0*.txt\0\0\0"s);
-    dialog.DialogTitle = "Pick";
-    dialog.InitDir = "C:\\Here";
+    dialog.InitDir = "D:\\in";
     dialog.MaxFileSize = 20;
-    Answer("C:\\Here\\a.dat", [](platform::File_Dialog &asked) {
-        EXPECT_EQ(asked.filter + asked.folder + asked.file, "C:\\HereC:\\Here\\a.dat");
-        EXPECT_TRUE(!asked.saves && asked.filter_index == 0 && asked.flags == 0);
-        EXPECT_EQ(asked.file_room * 1000 + asked.title_room, 260'020U);
-        asked.file += "\0rest"s;
-        asked.flags = 1;
-    });
-    dialog.ShowOpen();
-    EXPECT_EQ(dialog.FileName + "|" + dialog.FileTitle, "C:\\Here\\a.dat|a.dat");
-    EXPECT_TRUE(dialog.Flags == 1 && dialog.FilterIndex == 0);
-    dialog.Filter = "Data File (calendar.dat)|*.dat";
+    dialog.FileName = "no suggestion";
+    EXPECT_EQ(Ask(&OpenSaveDialog::ShowOpen, "C:\\a.dat\0rest"s),
+              "open D:\\in 0 0 260 20; C:\\a.dat, a.dat 2");
+    dialog.Filter = "Text|*.txt|";
+    dialog.FilterIndex = 0;
     dialog.Flags = platform::Multiple_Files;
-    Answer("C:\\Here\0a\0b\0\0"s, [](platform::File_Dialog &asked) {
-        EXPECT_EQ(asked.filter_index, 1);
-        EXPECT_EQ(asked.file_room + asked.title_room, 16384U);
-        asked.filter_index = 2;
-    });
-    dialog.ShowOpen();
-    EXPECT_EQ(dialog.FileName + "|" + dialog.FileTitle, "C:\\Here\0a\0b\0\0|a.dat"s);
-    EXPECT_EQ(dialog.FilterIndex, 2);
-    // Saving knows no several files.
-    Answer("D:\\x\0y"s, [](platform::File_Dialog &asked) {
-        EXPECT_TRUE(asked.saves && asked.file_room == 260 && asked.title_room == 20);
-    });
-    dialog.ShowSave();
-    EXPECT_EQ(dialog.FileName + "|" + dialog.FileTitle, "D:\\x|x");
-}
-
-TEST_F(File_Dialogs, leave_all_as_it_is_when_cancelled) {
-    dialog.FileName = "before";
-    Answer("");
-    dialog.ShowOpen();
+    const std::string several = "C:\\x\0a\0b\0\0"s;
+    EXPECT_EQ(Ask(&OpenSaveDialog::ShowOpen, several),
+              "open Text\0*.txt\0\0\0D:\\in 1 512 8192 8192; "s + several + ", a.dat 2");
+    EXPECT_EQ(Ask(&OpenSaveDialog::ShowSave, "C:\\b"),
+              "save Text\0*.txt\0\0\0D:\\in 2 512 260 20; C:\\b, b 2"s);
+    dialog.FilterIndex = 1;
+    EXPECT_TRUE(Ask(&OpenSaveDialog::ShowOpen, "").ends_with("; C:\\b, b 1"));
     dialog.CancelError = true;
-    Answer("");
     try {
-        dialog.ShowSave();
+        Ask(&OpenSaveDialog::ShowSave, "");
         ADD_FAILURE() << "no error";
     } catch (const Dialog_Cancelled &error) {
-        EXPECT_STREQ(error.what(), "Cancel was selected.");
-        EXPECT_EQ(error.Number, 32755);
+        EXPECT_EQ(error.what() + std::to_string(error.Number), "Cancel was selected.32755");
     }
-    EXPECT_EQ(dialog.FileName, "before");
 }
 
 TEST_F(File_Dialogs, part_names) {
-    const struct {
-        std::string name, expected;
-    } cases[] = {{"C:\\a\\b.txt", "C:\\a:b.txt:1"},
-                 {"\\b", ":b:1"},
-                 {"b", ":b:1"},
-                 {"", "::1"},
-                 {"C:\\a\0b\0c"s, "C:\\a:b:c:2"},
-                 {"C:\\a\0b\0"s, "C:\\a:b::2"}};
-    for (const auto &[name, expected] : cases) {
+    for (const auto &[name, expected] : std::map<std::string, std::string>{{"C:\\a\\b.txt", "C:\\a:b.txt:1"},
+                                                                           {"\\b", ":b:1"},
+                                                                           {"b", ":b:1"},
+                                                                           {"C:\\a\0b\0c"s, "C:\\a:b:c:2"},
+                                                                           {"C:\\a\0b\0"s, "C:\\a:b::2"}}) {
         dialog.FileName = name;
         std::string folder, found;
         std::vector<std::string> names;
