@@ -112,6 +112,7 @@ void Settings_Frm::Lay_Out() {
     General.Lay_Out();
     Style.Lay_Out();
     Tooltips.Lay_Out();
+    Wallpaper.Lay_Out();
     Transfer.Lay_Out();
     About.Lay_Out();
 }
@@ -153,6 +154,8 @@ void Settings_Frm::None_Vis() {
 }
 
 void Settings_Frm::TabStrip1_Click() {
+    // The other pages must not see the settings of a preview.
+    Wallpaper.End_Preview();
     None_Vis();
     const int page = Which_Tab() - 1;
     Settings_Fra[page].Set_Visible(true);

@@ -13,6 +13,8 @@
 #include "themes/theme_pack.h"
 #include "toolkit/units.h"
 
+#include <algorithm>
+#include <string_view>
 #include <utility>
 
 namespace {
@@ -66,7 +68,11 @@ Wallpaper_Page::Wallpaper_Page(Form &dialog, Frame &frame, Main_Frm &calendar, S
     Theme_Preview_Img.Set_Frame_Colour(platform::System_Colour(16));
     Loading_Lbl.Set_Visible(false);
     Preview_Lbl.Set_Visible(false);
-    Lay_Out(frame);
+    Put_Into(frame, {&Theme_Use_Chk, &Packs_Lbl, &Packs_Cbo, &Theme_Preview_Img, &Theme_Display_Lbl,
+                     &Theme_Style_Lbl, &Theme_Pos_Lbl, &Loading_Lbl, &Month_Lbl, &Preview_Sli, &Theme_Fra,
+                     &Preview_Btn, &Preview_Lbl});
+    Put_Into(Theme_Fra, {&Theme_Style_Chk, &Theme_Pos_Chk, &Other_Display_Chk, &Display_Lbl, &Display_Cbo});
+    Lay_Out();
     Wire_Events();
     Clear_Details();
     Show_Month_Name();
@@ -90,55 +96,51 @@ void Wallpaper_Page::Wire_Events() {
     };
 }
 
-void Wallpaper_Page::Lay_Out(const Frame &frame) {
+void Wallpaper_Page::Lay_Out() {
     using namespace layout;
-    const auto put = [&frame](Control &control, const platform::Rect &bounds) {
-        control.Set_Container(frame);
-        control.Move(bounds);
-    };
-    constexpr int label_height = 15 * 15;
-    constexpr int label_width = 80 * 15;
-    constexpr int box_indent = 18 * 15; ///< where the caption of a check box begins
-    put(Theme_Use_Chk, {0, 0, page_width, check_height});
+    const platform::Font &font = Packs_Lbl.Font();
+    const auto text_width = [&font](std::string_view text) { return platform::Text_Width(text, font); };
+    const int line = platform::Line_Height(font);
+    const int label_width = std::max(text_width("Theme pack:"), text_width("Display mode:")) + gap;
+    const int text_top = (row_height - line) / 2; ///< of a label beside a list
+
+    Theme_Use_Chk.Move({0, 0, page_width, check_height});
     int top = check_height + gap;
-    put(Packs_Lbl, {0, top + small_gap, label_width, label_height});
-    put(Packs_Cbo, {label_width, top, page_width - label_width, row_height});
+    Packs_Lbl.Move({0, top + text_top, label_width, line});
+    Packs_Cbo.Move({label_width, top, page_width - label_width, row_height});
     top += row_height + gap;
 
-    put(Theme_Preview_Img, {0, top, picture_width, picture_height});
+    Theme_Preview_Img.Move({0, top, picture_width, picture_height});
     const int right = picture_width + margin;
     int row = top;
-    for (Label *label : {&Theme_Display_Lbl, &Theme_Style_Lbl, &Theme_Pos_Lbl, &Loading_Lbl}) {
-        if (label == &Loading_Lbl)
-            row = top + picture_height - label_height;
-        put(*label, {right, row, page_width - right, label_height});
-        row += label_height + small_gap;
+    for (Label *label : {&Theme_Display_Lbl, &Theme_Style_Lbl, &Theme_Pos_Lbl}) {
+        label->Move({right, row, page_width - right, line});
+        row += line + small_gap;
     }
+    Loading_Lbl.Move({right, top + picture_height - line, page_width - right, line});
     top += picture_height + gap;
 
     constexpr int slider_height = 30 * 15;
-    put(Month_Lbl, {right, top + gap, page_width - right, label_height});
-    put(Preview_Sli, {0, top, picture_width, slider_height});
+    Preview_Sli.Move({0, top, picture_width, slider_height});
+    Month_Lbl.Move({right, top + gap, page_width - right, line});
     top += slider_height + gap;
 
-    put(Theme_Fra, {0, top, page_width, group_top + 3 * (check_height + gap) + row_height + margin});
+    Theme_Fra.Move({0, top, page_width, group_top + 3 * (check_height + gap) + row_height + margin});
     row = group_top;
     for (Check_Box *box : {&Theme_Style_Chk, &Theme_Pos_Chk, &Other_Display_Chk}) {
-        box->Set_Container(Theme_Fra);
         box->Move({margin, row, inner_width, check_height});
         row += check_height + gap;
     }
-    Display_Lbl.Set_Container(Theme_Fra);
-    Display_Lbl.Move({margin + box_indent, row + small_gap, label_width, label_height});
-    Display_Cbo.Set_Container(Theme_Fra);
-    Display_Cbo.Move({margin + box_indent + label_width, row, 2 * label_width, row_height});
+    constexpr int indent = margin + 18 * 15; ///< where the captions of the check boxes begin
+    Display_Lbl.Move({indent, row + text_top, label_width, line});
+    Display_Cbo.Move({indent + label_width, row, 2 * label_width, row_height});
     top += Theme_Fra.Height() + gap;
 
-    constexpr int button_width = 130 * 15;
     constexpr int button_height = 23 * 15;
-    put(Preview_Btn, {0, top, button_width, button_height});
-    put(Preview_Lbl,
-        {button_width + margin, top + small_gap, page_width - button_width - margin, label_height});
+    const int button_width = text_width("Preview all months") + 2 * margin;
+    Preview_Btn.Move({0, top, button_width, button_height});
+    const int after_button = button_width + margin;
+    Preview_Lbl.Move({after_button, top + (button_height - line) / 2, page_width - after_button, line});
 }
 
 void Wallpaper_Page::Get_Papers() {
@@ -162,9 +164,9 @@ void Wallpaper_Page::Get_Wallpaper() {
 }
 
 void Wallpaper_Page::Enable_Choices(bool enabled) {
-    for (Control *control : {static_cast<Control *>(&Packs_Lbl), static_cast<Control *>(&Packs_Cbo),
-                             static_cast<Control *>(&Month_Lbl), static_cast<Control *>(&Preview_Sli),
-                             static_cast<Control *>(&Preview_Btn)})
+    const std::initializer_list<Control *> choices = {&Packs_Lbl, &Packs_Cbo, &Month_Lbl, &Preview_Sli,
+                                                      &Preview_Btn};
+    for (Control *control : choices)
         control->Set_Enabled(enabled);
 }
 
@@ -246,6 +248,7 @@ void Wallpaper_Page::Drop_Pack(const std::string &pack) {
     if (Cur_Settings.Use_Themes == 0)
         Theme_Use_Chk.Set_Checked(false);
     Enable_Choices(Theme_Use_Chk.Checked());
+    Enable_As_Ruled();
     Preview_Sli_Change();
 }
 
@@ -373,7 +376,8 @@ Settings Wallpaper_Page::Choices() const {
     choices.Use_Theme_Style = Theme_Style_Chk.Checked() ? 1 : 0;
     choices.Use_Theme_Pos = Theme_Pos_Chk.Checked() ? 1 : 0;
     choices.Use_Other_Display_Mode = Other_Display_Chk.Checked();
-    choices.Other_Display_Mode = static_cast<std::int16_t>(Display_Cbo.Selected());
+    if (Display_Cbo.Selected() != -1)
+        choices.Other_Display_Mode = static_cast<std::int16_t>(Display_Cbo.Selected());
     return choices;
 }
 

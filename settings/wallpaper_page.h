@@ -17,6 +17,9 @@ public:
     /// All must outlive the page.
     Wallpaper_Page(Form &dialog, Frame &frame, Main_Frm &calendar, Style_Page &style_page);
 
+    /// Places the controls, also after a change of the dots per inch.
+    void Lay_Out();
+
     // The opening of the dialog, in this order.
 
     /// Lists the packs that are there now.
@@ -70,7 +73,6 @@ public:
 
 private:
     void Wire_Events();
-    void Lay_Out(const Frame &frame);
     void Enable_Choices(bool enabled);
     void Show_Month_Name();
     void Clear_Details();

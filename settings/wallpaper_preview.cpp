@@ -65,6 +65,7 @@ Wallpaper_Preview::~Wallpaper_Preview() {
 void Wallpaper_Preview::Begin(const std::string &pack, const Settings &choices) {
     End();
     before_ = Before{Cur_Settings,
+                     calendar_.Effective_Style(),
                      calendar_.Which_Month_Lbl.Caption(),
                      calendar_.Dectect_Date_Timer.Enabled(),
                      calendar_.Theme_BoxStyle,
@@ -77,6 +78,7 @@ void Wallpaper_Preview::Begin(const std::string &pack, const Settings &choices) 
     Copy_Previewed(choices, Cur_Settings);
     pack_ = pack;
     pack_failed_ = false;
+    placed_style_ = before_->style;
     month_ = 1;
     Show_Month();
 }
@@ -109,9 +111,13 @@ void Wallpaper_Preview::Next_Month() {
 }
 
 void Wallpaper_Preview::Place_Calendar() {
-    calendar_.Which_Style(calendar_.Effective_Style());
+    const std::int16_t style = calendar_.Effective_Style();
+    calendar_.Which_Style(style);
     calendar_.TransparentForm();
     calendar_.Position_Form(calendar_.Effective_Position());
+    // The boxes have room for other texts.
+    if (std::exchange(placed_style_, style) != style)
+        calendar_.Load_Dates();
 }
 
 void Wallpaper_Preview::End() noexcept {

@@ -36,6 +36,7 @@ private:
     /// What the preview changes.
     struct Before {
         Settings settings;
+        std::int16_t style = 0; ///< in use
         std::string caption;
         bool watches_date = false;
         std::optional<std::int16_t> theme_style;
@@ -52,6 +53,7 @@ private:
     Main_Frm &calendar_;
     std::string pack_;
     std::int16_t month_ = 0;
+    std::int16_t placed_style_ = 0; ///< for which the event texts are fitted
     bool pack_failed_ = false;
     std::optional<Before> before_; ///< nothing: not running
     Timer Month_Timer{3000};

@@ -88,14 +88,19 @@ void Dialog_Window::Look_Changed(const Control_State &control) {
 }
 
 void Dialog_Window::Set_Font(const Control_State &control) {
-    Native &native = natives_[static_cast<std::size_t>(control.index)];
-    Unique_Font font = Make_Font(control.font, platform::Dots_Per_Inch());
-    SendMessageW(native.window, WM_SETFONT, reinterpret_cast<WPARAM>(font.Get()), TRUE);
-    // Only now may the one before go.
-    native.font = std::move(font);
+    const Native &native = natives_[static_cast<std::size_t>(control.index)];
+    SendMessageW(native.window, WM_SETFONT, reinterpret_cast<WPARAM>(Find_Font(control.font)), TRUE);
     // While the controls are made there are no items yet.
     if (Has_Items(control) && !updating_)
         Fit_Widest_Item(native.window, control);
+}
+
+HFONT Dialog_Window::Find_Font(const platform::Font &font) {
+    for (const Shared_Font &each : fonts_)
+        if (each.font == font)
+            return each.native.Get();
+    fonts_.push_back({font, Make_Font(font, platform::Dots_Per_Inch())});
+    return fonts_.back().native.Get();
 }
 
 void Dialog_Window::Set_Caption(const Control_State &control) {

@@ -139,9 +139,10 @@ void Dialog_Window::Make_Control(const Control_State &control) {
     native.window = Make_Native(control);
     const LONG style = GetWindowLongW(native.window, GWL_STYLE);
     const DWORD more = Group_Style(control) | (control.painted && control.tab_stop ? WS_TABSTOP : 0U) |
-                       (platform::Is_Shown(*Model(), control) ? WS_VISIBLE : 0U) |
-                       (platform::Is_Usable(*Model(), control) ? 0U : WS_DISABLED);
+                       (platform::Is_Shown(*Model(), control) ? WS_VISIBLE : 0U);
     SetWindowLongW(native.window, GWL_STYLE, style | static_cast<LONG>(more));
+    // Not by the style alone: a combo box tells its text box of it.
+    EnableWindow(native.window, platform::Is_Usable(*Model(), control));
     if (control.kind == Control_Kind::Text_Box) {
         Make_Text_Box(native.window);
         SendMessageW(native.window, EM_LIMITTEXT, 0, 0);
@@ -153,6 +154,7 @@ void Dialog_Window::Make_Control(const Control_State &control) {
     Fill(control);
     Set_Caption(control);
     Show_Choice(control);
+    native.rested = control.value;
     if (control.is_default)
         SendMessageW(window_, DM_SETDEFID, static_cast<WPARAM>(First_Control_Id + control.index), 0);
     Raise_Over_Painted(control);

@@ -177,6 +177,9 @@ void Dialog_Window::Focus() {
 }
 
 void Dialog_Window::Scale_Changed() {
+    // The former fonts go when no control has them any more.
+    const std::vector<Shared_Font> before = std::move(fonts_);
+    fonts_.clear();
     for (const Control_State *control : Model()->controls) {
         if (Control_Window(control->index) == nullptr)
             continue;

@@ -28,10 +28,15 @@ private:
     /// The native side of one control. A frame without a caption has no window.
     struct Native {
         HWND window = nullptr;
-        Unique_Font font;
         Unique_Brush brush; ///< of a background colour of its own
         std::unique_ptr<Painted_Child> painted;
         int rested = 0; ///< of a slider: its value when it was at rest last
+    };
+
+    /// A native font that all controls with this font share.
+    struct Shared_Font {
+        platform::Font font;
+        Unique_Font native;
     };
 
     static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam);
@@ -47,6 +52,7 @@ private:
     // Their state (dialog_controls.cpp).
     void Look_Changed(const Control_State &control);
     void Set_Font(const Control_State &control);
+    HFONT Find_Font(const platform::Font &font);
     void Set_Caption(const Control_State &control);
     void Place_Control(const Control_State &control);
     void Place_Held(const Control_State &changed, const platform::Rect &before);
@@ -92,6 +98,7 @@ private:
     const Control_State *Tab_Strip() const;
 
     std::vector<Native> natives_;
+    std::vector<Shared_Font> fonts_;
     Tooltips tooltips_;
     Slider_Tip slider_tip_;
     COLORREF page_colour_ = 0;

@@ -6,6 +6,7 @@
 #include "platform/screen.h"
 #include "platform/twips.h"
 #include "tests/contract/contract.h"
+#include "win32/mirror.h"
 #include "win32/modal.h"
 
 #include <windows.h>
@@ -136,13 +137,10 @@ TEST_F(Dialog_Contract, The_Form_Hears_What_The_User_Does) {
         {[this] { Press_Tab(1); }, "selected 0 1; "},
         {[this] { Type(List, VK_TAB, true); }, "selected 0 2; "},
         {[this] { Type(Check, VK_NEXT, true); }, "selected 0 0; "},
+        // Let go where it was.
+        {[this] { Send(Thumb, WM_KEYDOWN, VK_LEFT), Send(Thumb, WM_KEYUP, VK_LEFT); }, ""},
         {[this] { Send(Thumb, WM_KEYDOWN, VK_RIGHT), Send(Thumb, WM_KEYUP, VK_RIGHT); },
          "scroll 9 2; selected 9 2; "},
-        {[this] {
-             Notify(Thumb, 0),
-                 SendMessageW(window_, WM_HSCROLL, TB_ENDTRACK, reinterpret_cast<LPARAM>(Native(Thumb)));
-         },
-         ""},
         {[this] {
              Send(Picture, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(4, 3)),
                  Send(Picture, WM_LBUTTONUP, 0, MAKELPARAM(6, 3));
@@ -181,6 +179,14 @@ TEST_F(Dialog_Contract, Its_Own_Changes_Show_And_Are_Not_Told) {
                 Send(List, LB_GETCURSEL) == 3);
     EXPECT_TRUE(Send(Thumb, TBM_GETPOS) == 40 && Send(Bar, PBM_GETPOS) == 60);
     EXPECT_TRUE(Send(Opt_1, BM_GETCHECK) == BST_CHECKED && Send(Check, BM_GETCHECK) == BST_CHECKED);
+}
+
+TEST_F(Dialog_Contract, New_Fonts_Of_The_System_Reach_All_Controls) {
+    const LRESULT before = Send(List, WM_GETFONT);
+    win32::Check_Scale(true);
+    EXPECT_EQ(GetObjectType(reinterpret_cast<HGDIOBJ>(Send(List, WM_GETFONT))), DWORD{OBJ_FONT});
+    EXPECT_TRUE(Send(List, WM_GETFONT) == Send(Check, WM_GETFONT) && Send(List, WM_GETFONT) != before);
+    EXPECT_EQ(Heard(), "");
 }
 
 TEST_F(Dialog_Contract, A_Frame_Takes_All_It_Holds_Along) {

@@ -22,12 +22,19 @@ protected:
         return static_cast<WORD>(keys.begin()[Upto(static_cast<int>(keys.size()))]);
     }
     HWND Editor() const { return program_->Window("Vellatro_Edit_Frm"); }
+    HWND Settings() const { return program_->Window("Vellatro_Settings_Frm"); }
     HWND Menu() const { return program_->Window("#32768"); }
 
     /// Whatever came before has reached the program.
     void Sync() const {
         DWORD_PTR answer = 0;
         SendMessageTimeoutW(program_->Calendar(), WM_NULL, 0, 0, SMTO_NORMAL, 5000, &answer);
+    }
+
+    /// For the keyboard may be anywhere.
+    void Post(WPARAM key) const {
+        PostMessageW(program_->Calendar(), WM_KEYDOWN, key, 1);
+        PostMessageW(program_->Calendar(), WM_KEYUP, key, static_cast<LPARAM>(0xC0000001));
     }
 
     /// Not the last items of a menu, for one of them ends the program.
@@ -102,6 +109,8 @@ protected:
             Answer_Box();
         else if (Menu())
             program_->Choose({VK_ESCAPE});
+        else if (Settings())
+            PostMessageW(Settings(), WM_CLOSE, 0, 0); // its pages are another matter
         else if (Editor() && Upto(3) > 0)
             Use_Editor();
         else if (Upto(3) == 0)
@@ -118,20 +127,17 @@ protected:
                 Answer_Box();
             else if (Menu())
                 program_->Choose({VK_ESCAPE});
-            else if (Editor())
-                PostMessageW(Editor(), WM_CLOSE, 0, 0);
+            else if (Editor() || Settings())
+                PostMessageW(Editor() ? Editor() : Settings(), WM_CLOSE, 0, 0);
             else
                 return !Wait_Until([this] { return program_->Windows(true) != 1; }, 300);
             return false;
         })) << "something stays open";
         if (program_->Items().size() == 1)
-            program_->Press(VK_F12);
+            Post(VK_F12);
         if (Store().find("Style=0\n") != std::string::npos)
-            program_->Press(VK_F9);
-        program_->Press(VK_HOME);
-        const auto alert = [this] { return program_->Box_Window() != nullptr; };
-        if (Wait_Until(alert, 500))
-            program_->Answer();
+            Post(VK_F9);
+        Post(VK_HOME);
         ASSERT_TRUE(Becomes(std::string(this_month), [this] { return program_->Title(); }));
         ASSERT_TRUE(Becomes(31U, [this] { return program_->Items(ROLE_SYSTEM_CELL).size(); }));
     }
@@ -139,7 +145,7 @@ protected:
     /// Each thing once, so that what is made at its first use is there.
     void Use_All() {
         for (const int key : {VK_F8, VK_F9, VK_F12, VK_F12, VK_F1})
-            program_->Press(static_cast<WORD>(key));
+            Post(static_cast<WPARAM>(key));
         EXPECT_TRUE(Wait_Until([this] { return program_->Box_Window() != nullptr; }));
         program_->Answer();
         program_->Do_Default("Monday 31st May 2027");
