@@ -45,7 +45,8 @@ std::string Ask_Name(const Kind_Row &kind, OpenSaveDialog &dialog) {
             name += kind.extension;
         // The copy would do no harm, but it would be none either.
         if (Lower_Case(name) == Lower_Case(Event_Store::Data_File())) {
-            Tell("You can't export to the data file you're currently using!", platform::Box_Icon::Exclamation);
+            Tell("You can't export to the data file you're currently using!",
+                 platform::Box_Icon::Exclamation);
             continue;
         }
         if (!platform::File_Exists(name) ||

@@ -27,7 +27,7 @@ private:
     std::unordered_map<std::string, std::size_t> first_; ///< key to index
 };
 
-/// The three imports, with all messages to the user. None throws but for want of memory.
+/// The three imports, with all messages to the user. None throws.
 class Importer {
 public:
     /// Both must outlive it. The files are asked for in `dialog`.

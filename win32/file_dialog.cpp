@@ -8,8 +8,6 @@
 
 #include <commdlg.h>
 
-#include <algorithm>
-
 namespace platform {
 
 namespace {
