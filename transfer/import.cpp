@@ -156,19 +156,23 @@ void Importer::Read_Events(const std::string &bytes, std::vector<Sort_Entry> &st
 /// Merges in memory. The data file is to hold each event as soon as it is merged; it is written only where
 /// somebody else could look: at the end, and before the windows are painted meanwhile. At each moment it is
 /// what it is after some number of events, so that nobody can tell the difference, also when the program is
-/// killed.
+/// killed. While windows are painted a session that ends may have unsaved text stored; so the file is read
+/// again afterwards.
 void Importer::Merge_Imported(const std::vector<Sort_Entry> &staged) {
-    calendar_.Events.Load_File();
-    Record_Merger merger(calendar_.Events.Temp_Lst);
-    for (std::size_t i = 0; i < staged.size(); ++i) {
-        merger.Merge(staged[i].date, staged[i].text);
-        if (Work.Due()) {
-            calendar_.Events.Write_Data_File();
-            Work.Show(9 * staged.size() + i, 10 * staged.size());
+    std::size_t i = 0;
+    do {
+        calendar_.Events.Load_File();
+        Record_Merger merger(calendar_.Events.Temp_Lst);
+        bool due = false;
+        for (; i < staged.size() && !due; ++i) {
+            merger.Merge(staged[i].date, staged[i].text);
+            due = Work.Due();
         }
-    }
-    if (!staged.empty())
-        calendar_.Events.Write_Data_File();
+        if (!staged.empty())
+            calendar_.Events.Write_Data_File();
+        if (due)
+            Work.Show(9 * staged.size() + i, 10 * staged.size());
+    } while (i < staged.size());
 }
 
 void Importer::Import_Config() {
