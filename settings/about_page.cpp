@@ -33,6 +33,7 @@ About_Page::About_Page(Form &dialog, Frame &frame)
     Link_Lbl.Set_Transparent(true);
     Link_Lbl.Set_Align(platform::Text_Align::Centre, false);
     Link_Lbl.Set_Tab_Stop();
+    Link_Lbl.Set_Link();
     platform::Access_State access;
     access.role = platform::Access_Role::Button;
     access.name = web_page;

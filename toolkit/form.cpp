@@ -210,6 +210,10 @@ void Form::Handle(const Input_Event &event) {
         return Fire(On_Capture_Lost);
     case Input_Kind::Dots_Changed:
         return Fire(On_Dots_Changed);
+    case Input_Kind::Moved:
+        model_.bounds.left = event.point.x;
+        model_.bounds.top = event.point.y;
+        return;
     }
 }
 

@@ -22,7 +22,7 @@ public:
     const platform::Form_Model &Model() const { return model_; }
     platform::Form_Model &Model() { return model_; }
 
-    // Place on the screen and size, in twips.
+    // Place on the screen, also where the user moved it, and size, in twips.
     int Left() const { return model_.bounds.left; }
     int Top() const { return model_.bounds.top; }
     int Width() const { return model_.bounds.width; }
