@@ -93,6 +93,8 @@ private:
     std::vector<Control *> controls_;
     Control *captured_ = nullptr; ///< takes the mouse from button down to up
     platform::Mouse_Button captured_by_ = platform::Mouse_Button::None;
+    bool double_clicked_ =
+        false; ///< the last press was the second one of a double click that is taken as such
     std::optional<std::vector<platform::Rect>> clip_; ///< nothing: not clipped
     std::vector<platform::Point> shape_;              ///< empty: no polygon
     bool created_ = false;                            ///< there is a native window
