@@ -23,10 +23,8 @@ bool Save_Changed(T &variable, T value, std::string_view key) {
     return true;
 }
 
-/// Any number but 0 is a checked box, and stays what it is while the box does.
 bool Save_Changed(std::int16_t &variable, const Check_Box &box, std::string_view key) {
-    return box.Checked() != (variable != 0) &&
-           Save_Changed<std::int16_t>(variable, box.Checked() ? 1 : 0, key);
+    return Save_Changed<std::int16_t>(variable, box.Checked() ? 1 : 0, key);
 }
 
 } // namespace
@@ -70,13 +68,14 @@ void Settings_Frm::Save_General_Settings() {
     Save_Changed(Cur_Settings.Allow_Dragging, General.Allow_Dragging_Chk, "Allow Dragging");
     if (Save_Changed(Cur_Settings.Auto_Compact, General.Auto_Compact_Chk, "Auto Compact"))
         calendar_.Compact_Timer.Set_Enabled(General.Auto_Compact_Chk.Checked());
-    // The boxes have the standard tooltips or have them not.
-    if (Save_Changed(Cur_Settings.Tooltips, Tooltips.Selected(), "Tooltips"))
-        calendar_.Load_Dates();
+    const bool other_tooltips = Save_Changed(Cur_Settings.Tooltips, Tooltips.Selected(), "Tooltips");
     // Emptied and not deleted where the box is not ticked.
     const std::string program = platform::Program_Folder() + "\\" + platform::Program_Name() + ".exe";
     platform::Registry_Write("HKLM", "Software\\Microsoft\\Windows\\CurrentVersion\\Run", "Vellatro", 'S',
                              General.Startup_Chk.Checked() ? program : std::string());
+    // The boxes have the standard tooltips or have them not. Last, because it may tell of an event.
+    if (other_tooltips)
+        calendar_.Load_Dates();
 }
 
 void Settings_Frm::Save_Other_DM() {
@@ -102,6 +101,9 @@ void Settings_Frm::Save_Theme() {
     // keeps the last wallpaper: there is no telling which one was there before.
     if (Cur_Settings.Use_Themes == 1)
         Run_Guarded([this] { calendar_.Get_Wallpaper_Stuff(Cur_Settings.Pack_Name); });
+    // A missing pack has ended the use of themes.
+    if (Cur_Settings.Use_Themes == 0 && Wallpaper.Theme_Use_Chk.Checked())
+        Wallpaper.Get_Themes();
     calendar_.Which_Style(calendar_.Effective_Style());
     calendar_.TransparentForm();
     if (Cur_Settings.Use_Themes != 1 || Cur_Settings.Use_Theme_Pos != 1) {
@@ -121,4 +123,35 @@ void Settings_Frm::Save_Bar_Settings() {
     Store_Setting("Bar Time Format");
     Cur_Settings.Bar_Date_Format = General.Bar_Date_Cbo.Text();
     Store_Setting("Bar Date Format");
+}
+
+Settings Settings_Frm::Shown_Configuration() const {
+    // What no page shows, and choices that are none, stay as they are.
+    Settings shown = Cur_Settings;
+    const auto number = [](const Check_Box &box) -> std::int16_t { return box.Checked() ? 1 : 0; };
+    shown.Style = Style.Style1_Opt.Checked() ? 0 : 1;
+    shown.Alignment = Style.Pos_Manual_Opt.Checked() ? manual : Style.Get_Set_Position();
+    shown.Col_Today = Colours.Col_Today_Pic.Back_Colour();
+    shown.Col_Normal = Colours.Col_Normal_Pic.Back_Colour();
+    shown.Col_Fore = Colours.Col_Fore_Pic.Back_Colour();
+    shown.Col_Num = Colours.Col_Num_Pic.Back_Colour();
+    shown.Col_Text = Colours.Col_Text_Pic.Back_Colour();
+    shown.Col_Back = Colours.Col_Back_Pic.Back_Colour();
+    shown.Menu_Col_Sorce = Colours.Col_Sys_Opt.Checked() ? 0 : 1;
+    shown.Show_Alerts = number(General.Alert_Chk);
+    shown.Use_Themes = number(Wallpaper.Theme_Use_Chk);
+    shown.Use_Theme_Pos = number(Wallpaper.Theme_Pos_Chk);
+    shown.Use_Theme_Style = number(Wallpaper.Theme_Style_Chk);
+    shown.Allow_Dragging = number(General.Allow_Dragging_Chk);
+    shown.Bar_Time = General.Bar_Time_Chk.Checked();
+    shown.Bar_Time_Format = General.Bar_Time_Cbo.Text();
+    shown.Bar_Date_Format = General.Bar_Date_Cbo.Text();
+    shown.Use_Other_Display_Mode = Wallpaper.Other_Display_Chk.Checked();
+    if (Wallpaper.Display_Cbo.Selected() != -1)
+        shown.Other_Display_Mode = static_cast<std::int16_t>(Wallpaper.Display_Cbo.Selected());
+    shown.Auto_Compact = number(General.Auto_Compact_Chk);
+    if (!Wallpaper.Packs_Cbo.Text().empty())
+        shown.Pack_Name = Wallpaper.Packs_Cbo.Text();
+    shown.Tooltips = Tooltips.Selected();
+    return shown;
 }

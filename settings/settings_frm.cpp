@@ -33,7 +33,8 @@ Settings_Frm::Settings_Frm(Main_Frm &calendar)
       Colours(*this, Settings_Fra[colours_fra], calendar),
       General(*this, Settings_Fra[general_fra], calendar), Style(*this, Settings_Fra[style_fra], calendar),
       Tooltips(*this, Settings_Fra[tooltips_fra], calendar),
-      Wallpaper(*this, Settings_Fra[wallpaper_fra], calendar, Style), About(*this, Settings_Fra[about_fra]),
+      Wallpaper(*this, Settings_Fra[wallpaper_fra], calendar, Style),
+      Transfer(*this, Settings_Fra[transfer_fra], calendar), About(*this, Settings_Fra[about_fra]),
       Ok_Btn(*this, "Ok_Btn", "OK"), Cancel_Btn(*this, "Cancel_Btn", "Cancel"),
       Apply_Btn(*this, "Apply_Btn", "&Apply"), calendar_(calendar) {
     Set_Title("Settings");
@@ -51,6 +52,11 @@ Settings_Frm::Settings_Frm(Main_Frm &calendar)
     Ok_Btn.On_Click = [this] { Ok_Btn_Click(); };
     Cancel_Btn.On_Click = [this] { Cancel_Btn_Click(); };
     Apply_Btn.On_Click = [this] { Apply_Btn_Click(); };
+    Transfer.Shown_Configuration = [this] { return Shown_Configuration(); };
+    Transfer.Show_Staged = [this](std::vector<Sort_Entry> staged) {
+        Events.Show_Imported(std::move(staged));
+    };
+    Transfer.Configuration_Imported = [this] { Form_Unload(); };
     On_Close = [this] { Form_Unload(); };
     On_Window_Lost = [this] { Form_Unload(); };
     On_Dots_Changed = [this] { Lay_Out(); };
@@ -67,6 +73,12 @@ Settings_Frm::~Settings_Frm() {
 }
 
 void Settings_Frm::Form_Load() {
+    ++events_;
+    Run_Guarded([this] { Open(); });
+    --events_;
+}
+
+void Settings_Frm::Open() {
     // What cannot be shown of one page is told, and keeps nobody from the others.
     const std::initializer_list<std::function<void()>> steps = {
         [this] { Events.Write_Month_Titles(); },
@@ -107,6 +119,7 @@ void Settings_Frm::Lay_Out() {
     Style.Lay_Out();
     Tooltips.Lay_Out();
     Wallpaper.Lay_Out();
+    Transfer.Lay_Out();
     About.Lay_Out();
 }
 
@@ -152,6 +165,8 @@ void Settings_Frm::TabStrip1_Click() {
     None_Vis();
     const int page = Which_Tab() - 1;
     Settings_Fra[page].Set_Visible(true);
+    // Apply may have changed the calendar's colours, and midnight the day.
+    Tooltips.Dress_Examples();
     General.Set_Watched(page == general_fra);
 }
 
@@ -174,6 +189,8 @@ void Settings_Frm::Apply_Btn_Click() {
          {&Settings_Frm::Save_Colours, &Settings_Frm::Save_General_Settings, &Settings_Frm::Save_Other_DM,
           &Settings_Frm::Save_Theme, &Settings_Frm::Save_Bar_Settings})
         Run_Guarded([this, save] { (this->*save)(); });
+    // Its examples have the calendar's colours.
+    Style.Style_Preview();
 }
 
 void Settings_Frm::Form_Unload() {

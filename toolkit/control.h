@@ -62,7 +62,8 @@ public:
     void Set_Container(const Frame &frame);
 
     // Events. The point is relative to the control's top left corner.
-    /// A button of any kind pressed, a painted control clicked with the left button.
+    /// A button of any kind pressed, a painted control clicked with the left button. The second click of a
+    /// double click is one too, where there is no On_Double_Click.
     Handler<> On_Click;
     Handler<platform::Mouse_Button, platform::Point> On_Mouse_Down;
     Handler<platform::Mouse_Button, platform::Point> On_Mouse_Up;
@@ -106,7 +107,7 @@ public:
 /// stands for them.
 class Button : public Control {
 public:
-    Button(Form &form, const char *name, const char *caption);
+    Button(Form &form, const char *name, const char *caption = "");
     void Set_Default(bool is_default);
     void Set_Cancel(bool is_cancel);
 };

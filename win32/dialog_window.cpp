@@ -17,6 +17,9 @@ using platform::Input_Kind;
 
 namespace {
 
+constexpr WORD arrow = 32512;
+constexpr WORD hourglass = 32514;
+
 /// `place` moved so that it lies wholly in the work area of its nearest monitor.
 RECT On_Screen(RECT place) {
     MONITORINFO monitor = {};
@@ -42,6 +45,12 @@ LRESULT Dialog_Window::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
     case WM_COMMAND:
         Command(LOWORD(wparam), HIWORD(wparam));
         return 0;
+    case WM_SETCURSOR:
+        // The controls ask here before they take their own.
+        if (Model()->pointer != platform::Pointer_Shape::Hourglass || LOWORD(lparam) != HTCLIENT)
+            break;
+        SetCursor(LoadCursorW(nullptr, MAKEINTRESOURCEW(hourglass)));
+        return TRUE;
     case WM_CLOSE:
         // Nothing is done beside an open message box, whoever asks for it.
         if (Open_Modal_Boxes == 0)
@@ -56,6 +65,9 @@ LRESULT Dialog_Window::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
         Send(event);
         return result;
     }
+    case WM_MOVE:
+        Moved();
+        break;
     case WM_DPICHANGED:
         // The system would scale the controls by itself; they follow the calendar's screen.
         return 0;
@@ -95,11 +107,17 @@ void Dialog_Window::Window_Gone() {
 void Dialog_Window::Own_Aspect_Changed(Aspect aspect) {
     if (aspect == Aspect::Focus)
         Focus();
+    POINT mouse = {};
+    if (aspect != Aspect::Pointer || !GetCursorPos(&mouse) ||
+        GetAncestor(WindowFromPoint(mouse), GA_ROOT) != window_)
+        return;
+    const bool waits = Model()->pointer == platform::Pointer_Shape::Hourglass;
+    SetCursor(LoadCursorW(nullptr, MAKEINTRESOURCEW(waits ? hourglass : arrow)));
 }
 
 void Dialog_Window::Place() {
     const platform::Rect bounds = Model()->bounds;
-    const bool moved = bounds.left != placed_.left || bounds.top != placed_.top || !is_placed_;
+    const bool moved = bounds.left != placed_.x || bounds.top != placed_.y || !is_placed_;
     RECT outer = {0, 0, To_Pixels(bounds.width), To_Pixels(bounds.height)};
     AdjustWindowRectEx(&outer, static_cast<DWORD>(GetWindowLongW(window_, GWL_STYLE)), FALSE,
                        static_cast<DWORD>(GetWindowLongW(window_, GWL_EXSTYLE)));
@@ -122,8 +140,19 @@ void Dialog_Window::Place() {
         SetWindowPos(window_, nullptr, 0, 0, place.right - place.left + wider,
                      place.bottom - place.top + higher, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
     }
-    placed_ = bounds;
     is_placed_ = true;
+    Moved();
+}
+
+/// Tells the form where the window is, as the user or the screen's edge has it.
+void Dialog_Window::Moved() {
+    RECT now = {};
+    if (!is_placed_ || IsIconic(window_) || !GetWindowRect(window_, &now))
+        return;
+    Input_Event event{};
+    event.kind = Input_Kind::Moved;
+    event.point = placed_ = {To_Twips(static_cast<int>(now.left)), To_Twips(static_cast<int>(now.top))};
+    Send(event);
 }
 
 void Dialog_Window::Show_Or_Hide() {
