@@ -5,8 +5,8 @@
 #include "platform/registry.h"
 #include "platform/wallpaper.h"
 #include "themes/theme_pack.h"
-#include "toolkit/handler.h"
 #include "toolkit/guard.h"
+#include "toolkit/handler.h"
 
 #include <utility>
 #include <variant>
