@@ -31,15 +31,16 @@ public:
         if (file_was_there_)
             Copy_File(Event_Store::Data_File(), Importer::Backup_File());
     }
-    /// Makes the data file what it was; the copy goes. Where there was none, there is none again, also beside
-    /// the copy that an earlier import has left.
+    /// Makes the data file what it was; the copy goes. Where there was none, there is none again; a copy that
+    /// an earlier import has left does not come back then, but stays: it may be all that the user has.
     void Restore() const {
-        if (file_was_there_ && platform::File_Exists(Importer::Backup_File()))
+        if (!file_was_there_) {
+            if (platform::File_Exists(Event_Store::Data_File()))
+                platform::Delete_File(Event_Store::Data_File());
+        } else if (platform::File_Exists(Importer::Backup_File())) {
             Copy_File(Importer::Backup_File(), Event_Store::Data_File());
-        else if (platform::File_Exists(Event_Store::Data_File()))
-            platform::Delete_File(Event_Store::Data_File());
-        if (platform::File_Exists(Importer::Backup_File()))
             platform::Delete_File(Importer::Backup_File());
+        }
     }
 
 private:
@@ -59,7 +60,7 @@ Record_Merger::Record_Merger(std::vector<std::string> &records) : records_(recor
 void Record_Merger::Merge(const Date &date, const std::string &text) {
     const std::string key = Date_Key(date);
     const auto exact = first_.find(key);
-    const auto yearly = first_.find(Every_Year_Key(key));
+    const auto yearly = first_.find(Date_Key({every_year, date.month, date.day}));
     if (exact == first_.end() && yearly == first_.end()) {
         first_.emplace(key, records_.size());
         records_.push_back(key + "=" + text);
@@ -196,6 +197,12 @@ void Importer::Apply_Configuration() {
     calendar_.Get_Wallpaper_Stuff(Cur_Settings.Pack_Name);
     calendar_.Which_Style(calendar_.Effective_Style());
     calendar_.Redraw();
+    if (!calendar_.Compacted)
+        return;
+    // The month is not laid out in compact mode, but the title has its place, size and colours.
+    calendar_.Set_Colours();
+    calendar_.Position_Form(calendar_.Effective_Position());
+    calendar_.TransparentForm();
 }
 
 /// Whether the user agrees to lose the data file that is there.
@@ -207,8 +214,8 @@ bool Importer::May_Replace() const {
     };
     const std::string question =
         "You already have a working data file. Importing another one will completely overwrite the old one "
-        "and "
-        "you will lose all data. Are you absolutely sure you want to do this?\r\n\r\nReplace current file "
+        "and you will lose all data. Are you absolutely sure you want to do this?\r\n\r\nReplace current "
+        "file "
         "'calendar.dat' modified on " +
         modified(Event_Store::Data_File()) + "\r\n\r\nwith new file '" + dialog_.FileTitle +
         "' modified on " + modified(dialog_.FileName);
@@ -220,8 +227,10 @@ void Importer::Import_Data_File() {
     try {
         if (!Ask_File("Import Data File", "Data File (calendar.dat)|*.dat", true))
             return;
-        if (May_Replace())
+        if (May_Replace()) {
             Copy_File(dialog_.FileName, Event_Store::Data_File());
+            Data_File_Replaced();
+        }
         calendar_.Redraw();
         // After No and Cancel, too.
         Tell("Successfully imported data file from...\r\n\r\n" + dialog_.FileName,
