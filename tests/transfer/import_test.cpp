@@ -176,6 +176,13 @@ TEST_F(Importing, takes_a_configuration_over_up_to_an_error) {
     }
     EXPECT_EQ(Stored("Alignment") + Stored("Bar Time Format"), "3H, mm");
     EXPECT_EQ(Cur_Settings.Alignment, 3);
+    form.Which_Month_Lbl_DblClick(); // the title has its colours and place in compact mode, too
+    const int top = form.Top();
+    Open(Settings_Frm::transfer_fra);
+    File("C:\\in.ini") = "Col_Fore=255\nTaskPos=0\n";
+    Import(1, "C:\\in.ini", "Loaded configuration file successfully.");
+    EXPECT_EQ(form.Which_Month_Lbl.Fore_Colour(), 255);
+    EXPECT_TRUE(form.Compacted && form.Top() != top);
 }
 
 TEST_F(Importing, replaces_the_data_file_when_the_user_agrees) {
