@@ -99,42 +99,36 @@ bool Importer::Ask_File(const char *title, const char *filter, bool not_own_file
 
 void Importer::Import_CSV() {
     std::optional<Backup> backup;
+    std::vector<Sort_Entry> staged;
+    bool listed = true; // nothing is to be listed before a file is chosen
     try {
         backup.emplace();
         if (!Ask_File("Import Events from CSV File", "Comma Separated Values File (*.csv)|*.csv", false))
             return;
         Work.Begin();
-        const std::size_t count = Read_And_Merge();
+        listed = false;
+        Read_Events(platform::Read_File(dialog_.FileName), staged);
+        Merge_Imported(staged);
+        const std::size_t count = staged.size();
+        listed = true;
+        Show_Staged(std::move(staged));
         Work.End();
         calendar_.Redraw();
         Tell("Successfully imported " + std::to_string(count) + " events from the CSV file...\r\n\r\n" +
                  dialog_.FileName,
              platform::Box_Icon::Information);
     } catch (const std::exception &) {
-        // A copy that could not be made may be an older one, which is not to come back.
         try {
+            // A copy that could not be made may be an older one, which is not to come back.
             if (backup)
                 backup->Restore();
         } catch (const std::exception &) { // the copy stays, for whoever looks
         }
+        if (!listed) // the events before the error, beside the counts of the restored file
+            Show_Staged(std::move(staged));
         Work.End();
         Tell("Error when importing from CSV file.", platform::Box_Icon::Exclamation);
     }
-}
-
-/// Gives the number of events. The list shows them, and after an error those before it.
-std::size_t Importer::Read_And_Merge() {
-    std::vector<Sort_Entry> staged;
-    try {
-        Read_Events(platform::Read_File(dialog_.FileName), staged);
-        Merge_Imported(staged);
-    } catch (...) {
-        Show_Staged(std::move(staged));
-        throw;
-    }
-    const std::size_t count = staged.size();
-    Show_Staged(std::move(staged));
-    return count;
 }
 
 /// Stages the events of a file, nine tenths of the work. The date is kept beside the text and not read back

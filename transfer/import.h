@@ -53,7 +53,6 @@ public:
 
 private:
     bool Ask_File(const char *title, const char *filter, bool not_own_file);
-    std::size_t Read_And_Merge();
     void Read_Events(const std::string &bytes, std::vector<Sort_Entry> &staged);
     void Merge_Imported(const std::vector<Sort_Entry> &staged);
     void Apply_Configuration();
