@@ -94,6 +94,11 @@ void Events_Page::Open_Overview() {
     Overview_Opt_Click();
 }
 
+void Events_Page::Reload() {
+    List_Events();
+    Get_Stats();
+}
+
 void Events_Page::Show_Imported(std::vector<Sort_Entry> staged) {
     Dates_Lst = std::move(staged);
     Sort_List();
@@ -176,8 +181,7 @@ void Events_Page::Events_Lst_DblClick() {
 /// failed leaves its line. The line that is in its place now is the selected one, for who goes on by
 /// keyboard.
 void Events_Page::Show_Change(int index) {
-    List_Events();
+    Reload();
     Events_Lst.Select(std::min(index, static_cast<int>(Events_Lst.Items().size()) - 1));
     Events_Lst_Click();
-    Get_Stats();
 }

@@ -24,6 +24,9 @@ public:
     /// Shows the overview by ascending dates, whatever was chosen before.
     void Open_Overview();
 
+    /// Lists and counts the events of the data file anew.
+    void Reload();
+
     /// Lists these events, in their order, instead of what is listed. The next choice on the page lists the
     /// data file's again.
     void Show_Imported(std::vector<Sort_Entry> staged);

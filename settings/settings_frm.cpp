@@ -56,6 +56,7 @@ Settings_Frm::Settings_Frm(Main_Frm &calendar)
     Transfer.Show_Staged = [this](std::vector<Sort_Entry> staged) {
         Events.Show_Imported(std::move(staged));
     };
+    Transfer.Data_File_Replaced = [this] { Events.Reload(); };
     Transfer.Configuration_Imported = [this] { Form_Unload(); };
     On_Close = [this] { Form_Unload(); };
     On_Window_Lost = [this] { Form_Unload(); };

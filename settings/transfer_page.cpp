@@ -53,6 +53,7 @@ Transfer_Page::Transfer_Page(Form &dialog, Frame &frame, Main_Frm &calendar)
         Import_Btn[i].On_Click = [this, i] { Import_Btn_Click(i); };
     }
     importer_.Show_Staged = [this](std::vector<Sort_Entry> staged) { Show_Staged(std::move(staged)); };
+    importer_.Data_File_Replaced = [this] { Data_File_Replaced(); };
     importer_.Show_Hourglass = [this] { dialog_.Set_Pointer(platform::Pointer_Shape::Hourglass); };
     importer_.Configuration_Changed = [this] { Configuration_Imported(); };
     for (Progress *progress : {&importer_.Work, &progress_}) {

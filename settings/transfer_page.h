@@ -20,6 +20,8 @@ public:
     std::function<Settings()> Shown_Configuration;
     /// Lists imported events instead of what is listed.
     std::function<void(std::vector<Sort_Entry>)> Show_Staged;
+    /// Lists and counts the events of the data file anew.
+    std::function<void()> Data_File_Replaced;
     /// Closes the dialog, which does not show the settings any more.
     std::function<void()> Configuration_Imported;
 

@@ -4,6 +4,8 @@
 #include "core/convert.h"
 #include "core/sequential.h"
 
+#include <variant>
+
 namespace {
 
 /// In the order of a file's lines, which is not that of the store.
@@ -32,6 +34,13 @@ constexpr const char *keys[] = {"Style",
                                 "Pack_Name",
                                 "Tooltips"};
 
+/// The value in a line. Of a check box that is 1 or 0, also where the store holds a word.
+std::string Value_Text(const Settings &settings, const Setting_Row &row) {
+    if (const auto *const flag = std::get_if<bool Settings::*>(&row.variable))
+        return settings.**flag ? "1" : "0";
+    return Setting_Text(settings, row);
+}
+
 const Setting_Row *Row_Of(std::string_view configuration_key) {
     for (const Setting_Row &row : Setting_Rows())
         if (row.configuration_key != nullptr && row.configuration_key == configuration_key)
@@ -45,7 +54,7 @@ std::string Configuration_Bytes(const Settings &settings) {
     std::string bytes;
     for (const char *const key : keys)
         if (const Setting_Row *const row = Row_Of(key))
-            Append_Item(bytes, key + ("=" + Setting_Text(settings, *row)));
+            Append_Item(bytes, key + ("=" + Value_Text(settings, *row)));
     return bytes;
 }
 

@@ -31,15 +31,16 @@ public:
         if (file_was_there_)
             Copy_File(Event_Store::Data_File(), Importer::Backup_File());
     }
-    /// Makes the data file what it was; the copy goes. Where there was none, there is none again, also beside
-    /// the copy that an earlier import has left.
+    /// Makes the data file what it was; the copy goes. Where there was none, there is none again; a copy that
+    /// an earlier import has left does not come back then, but stays: it may be all that the user has.
     void Restore() const {
-        if (file_was_there_ && platform::File_Exists(Importer::Backup_File()))
+        if (!file_was_there_) {
+            if (platform::File_Exists(Event_Store::Data_File()))
+                platform::Delete_File(Event_Store::Data_File());
+        } else if (platform::File_Exists(Importer::Backup_File())) {
             Copy_File(Importer::Backup_File(), Event_Store::Data_File());
-        else if (platform::File_Exists(Event_Store::Data_File()))
-            platform::Delete_File(Event_Store::Data_File());
-        if (platform::File_Exists(Importer::Backup_File()))
             platform::Delete_File(Importer::Backup_File());
+        }
     }
 
 private:
@@ -59,7 +60,7 @@ Record_Merger::Record_Merger(std::vector<std::string> &records) : records_(recor
 void Record_Merger::Merge(const Date &date, const std::string &text) {
     const std::string key = Date_Key(date);
     const auto exact = first_.find(key);
-    const auto yearly = first_.find(Every_Year_Key(key));
+    const auto yearly = first_.find(Date_Key({every_year, date.month, date.day}));
     if (exact == first_.end() && yearly == first_.end()) {
         first_.emplace(key, records_.size());
         records_.push_back(key + "=" + text);
@@ -98,42 +99,36 @@ bool Importer::Ask_File(const char *title, const char *filter, bool not_own_file
 
 void Importer::Import_CSV() {
     std::optional<Backup> backup;
+    std::vector<Sort_Entry> staged;
+    bool listed = true; // nothing is to be listed before a file is chosen
     try {
         backup.emplace();
         if (!Ask_File("Import Events from CSV File", "Comma Separated Values File (*.csv)|*.csv", false))
             return;
         Work.Begin();
-        const std::size_t count = Read_And_Merge();
+        listed = false;
+        Read_Events(platform::Read_File(dialog_.FileName), staged);
+        Merge_Imported(staged);
+        const std::size_t count = staged.size();
+        listed = true;
+        Show_Staged(std::move(staged));
         Work.End();
         calendar_.Redraw();
         Tell("Successfully imported " + std::to_string(count) + " events from the CSV file...\r\n\r\n" +
                  dialog_.FileName,
              platform::Box_Icon::Information);
     } catch (const std::exception &) {
-        // A copy that could not be made may be an older one, which is not to come back.
         try {
+            // A copy that could not be made may be an older one, which is not to come back.
             if (backup)
                 backup->Restore();
         } catch (const std::exception &) { // the copy stays, for whoever looks
         }
+        if (!listed) // the events before the error, beside the counts of the restored file
+            Show_Staged(std::move(staged));
         Work.End();
         Tell("Error when importing from CSV file.", platform::Box_Icon::Exclamation);
     }
-}
-
-/// Gives the number of events. The list shows them, and after an error those before it.
-std::size_t Importer::Read_And_Merge() {
-    std::vector<Sort_Entry> staged;
-    try {
-        Read_Events(platform::Read_File(dialog_.FileName), staged);
-        Merge_Imported(staged);
-    } catch (...) {
-        Show_Staged(std::move(staged));
-        throw;
-    }
-    const std::size_t count = staged.size();
-    Show_Staged(std::move(staged));
-    return count;
 }
 
 /// Stages the events of a file, nine tenths of the work. The date is kept beside the text and not read back
@@ -196,6 +191,12 @@ void Importer::Apply_Configuration() {
     calendar_.Get_Wallpaper_Stuff(Cur_Settings.Pack_Name);
     calendar_.Which_Style(calendar_.Effective_Style());
     calendar_.Redraw();
+    if (!calendar_.Compacted)
+        return;
+    // The month is not laid out in compact mode, but the title has its place, size and colours.
+    calendar_.Set_Colours();
+    calendar_.Position_Form(calendar_.Effective_Position());
+    calendar_.TransparentForm();
 }
 
 /// Whether the user agrees to lose the data file that is there.
@@ -207,8 +208,8 @@ bool Importer::May_Replace() const {
     };
     const std::string question =
         "You already have a working data file. Importing another one will completely overwrite the old one "
-        "and "
-        "you will lose all data. Are you absolutely sure you want to do this?\r\n\r\nReplace current file "
+        "and you will lose all data. Are you absolutely sure you want to do this?\r\n\r\nReplace current "
+        "file "
         "'calendar.dat' modified on " +
         modified(Event_Store::Data_File()) + "\r\n\r\nwith new file '" + dialog_.FileTitle +
         "' modified on " + modified(dialog_.FileName);
@@ -220,8 +221,10 @@ void Importer::Import_Data_File() {
     try {
         if (!Ask_File("Import Data File", "Data File (calendar.dat)|*.dat", true))
             return;
-        if (May_Replace())
+        if (May_Replace()) {
             Copy_File(dialog_.FileName, Event_Store::Data_File());
+            Data_File_Replaced();
+        }
         calendar_.Redraw();
         // After No and Cancel, too.
         Tell("Successfully imported data file from...\r\n\r\n" + dialog_.FileName,

@@ -42,6 +42,8 @@ public:
     Progress Work;
     /// The list of events is to show these instead of what it shows.
     std::function<void(std::vector<Sort_Entry>)> Show_Staged;
+    /// The list of events and their counts are to be those of the data file, which is another one now.
+    std::function<void()> Data_File_Replaced;
     /// The pointer over the dialog is to be the hourglass until the work's end.
     std::function<void()> Show_Hourglass;
     /// The settings are not what the dialog shows any more: it is to be closed.
@@ -51,7 +53,6 @@ public:
 
 private:
     bool Ask_File(const char *title, const char *filter, bool not_own_file);
-    std::size_t Read_And_Merge();
     void Read_Events(const std::string &bytes, std::vector<Sort_Entry> &staged);
     void Merge_Imported(const std::vector<Sort_Entry> &staged);
     void Apply_Configuration();

@@ -113,6 +113,9 @@ std::string Date_Time_Text(const Date_Time &time) {
 
 std::optional<Date_Time> Read_Date(std::string_view text) {
     std::wstring wide = win32::To_Wide(text); // the call wants it changeable
+    // A short form may end in a dot, as the Hungarian one does, which not every system reads.
+    if (wide.ends_with(L'.'))
+        wide.pop_back();
     DATE date = 0;
     SYSTEMTIME time{};
     // What is behind a NUL would not be read.

@@ -113,6 +113,8 @@ std::string Date_Time_Text(const Date_Time &time) {
 
 // Three numbers in the order of the pattern; where they are no date so, day and month change places.
 std::optional<Date_Time> Read_Date(std::string_view text) {
+    if (text.ends_with('.'))
+        text.remove_suffix(1);
     std::array<int, 3> numbers{};
     std::size_t count = 0, at = 0;
     while (at < text.size() && count < 3) {

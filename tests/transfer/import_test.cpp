@@ -103,6 +103,21 @@ TEST_F(Importing, backs_the_data_file_up_and_refuses_other_files) {
     File("C:\\in.csv") = Quoted(headings + "'s','3/4/2002','d'");
     Import(2, "C:\\in.csv", failed);
     EXPECT_EQ(Data_File(), "\"1/3/2002=Old\"\r\n");
+    // Nor may one be lost, or the file itself because its copy has gone.
+    Fakes().unwritable.clear();
+    File("C:\\in.csv") = "none";
+    for (const bool data : {false, true}) {
+        Fakes().files.erase("C:\\Vellatro\\" + std::string(data ? "data.bak" : "calendar.dat"));
+        (data ? Data_File() : Backup()) = "kept";
+        Fakes().Expect_Box("Invalid CSV file or missing required headings.", platform::Box_Answer::Ok,
+                           [data] {
+                               if (data)
+                                   Fakes().files.erase("C:\\Vellatro\\data.bak");
+                           });
+        Import(2, "C:\\in.csv", failed);
+        EXPECT_EQ(Fakes().files.contains("C:\\Vellatro\\calendar.dat"), data);
+        EXPECT_EQ(data ? Data_File() : Backup(), "kept");
+    }
 }
 
 TEST_F(Importing, is_seen_while_it_takes_long_and_the_file_is_whole_then) {
@@ -161,6 +176,13 @@ TEST_F(Importing, takes_a_configuration_over_up_to_an_error) {
     }
     EXPECT_EQ(Stored("Alignment") + Stored("Bar Time Format"), "3H, mm");
     EXPECT_EQ(Cur_Settings.Alignment, 3);
+    form.Which_Month_Lbl_DblClick(); // the title has its colours and place in compact mode, too
+    const int top = form.Top();
+    Open(Settings_Frm::transfer_fra);
+    File("C:\\in.ini") = "Col_Fore=255\nTaskPos=0\n";
+    Import(1, "C:\\in.ini", "Loaded configuration file successfully.");
+    EXPECT_EQ(form.Which_Month_Lbl.Fore_Colour(), 255);
+    EXPECT_TRUE(form.Compacted && form.Top() != top);
 }
 
 TEST_F(Importing, replaces_the_data_file_when_the_user_agrees) {
@@ -182,6 +204,7 @@ TEST_F(Importing, replaces_the_data_file_when_the_user_agrees) {
         Fakes().Expect_Box(question, answer);
         Import(0, "C:\\other.dat", done);
         EXPECT_EQ(Text_Of(6), answer == platform::Box_Answer::Yes ? "Newer" : "New");
+        EXPECT_EQ(dialog->Events.Events_Lst.Items(), std::vector<std::string>{"6/3/2002  -  " + Text_Of(6)});
     }
     Fakes().unwritable.insert("C:\\Vellatro\\calendar.dat");
     Fakes().Expect_Box(question, platform::Box_Answer::Yes);
