@@ -3,6 +3,7 @@
 //
 //   shell_standin [--text=RRGGBB] [--back=RRGGBB|none] [--no-list] [--no-view] [--no-shell] [--adopt]
 //
+// --adopt is for a person who looks: with it a wallpaper that a program hangs up is shown, stretched.
 // The colours are those of the icon labels (white on none). --no-list and --no-view leave out the windows of
 // that name and below; --no-shell keeps the wallpaper only, in a class that nobody looks for. It ends on
 // WM_CLOSE.
@@ -80,9 +81,29 @@ void Paint_Wallpaper(SIZE size) {
         }
 }
 
+void Paint_Hung_Up(SIZE size) {
+    wchar_t path[MAX_PATH] = {};
+    DWORD bytes = sizeof path; // the last character stays zero whatever is stored
+    // Not SystemParametersInfo, which remembers what it was when this process asked first.
+    if (!Has_Option("--adopt") || RegGetValueW(HKEY_CURRENT_USER, L"Control Panel\\Desktop", L"Wallpaper",
+                                               RRF_RT_REG_SZ, nullptr, path, &bytes) != ERROR_SUCCESS)
+        return;
+    const HANDLE picture =
+        LoadImageW(nullptr, path, IMAGE_BITMAP, size.cx, size.cy, LR_LOADFROMFILE | LR_CREATEDIBSECTION);
+    if (!picture)
+        return;
+    const HDC source = CreateCompatibleDC(Picture_Dc);
+    const HGDIOBJ before = SelectObject(source, picture);
+    BitBlt(Picture_Dc, 0, 0, size.cx, size.cy, source, 0, 0, SRCCOPY);
+    SelectObject(source, before);
+    DeleteDC(source);
+    DeleteObject(picture);
+}
+
 // The screen's size changes in tests; all windows start in its upper left corner.
 void Fill_Screen(SIZE size) {
     Paint_Wallpaper(size);
+    Paint_Hung_Up(size);
     for (const HWND window : {Shell_Window, View_Window, List_Window})
         if (window)
             SetWindowPos(window, HWND_BOTTOM, 0, 0, size.cx, size.cy, SWP_NOACTIVATE);
@@ -157,6 +178,8 @@ LRESULT CALLBACK Handle_Message(HWND window, UINT message, WPARAM wide, LPARAM l
             reinterpret_cast<WINDOWPOS *>(longer)->hwndInsertAfter = HWND_BOTTOM;
         else if (message == WM_DISPLAYCHANGE)
             Fill_Screen({LOWORD(longer), HIWORD(longer)});
+        else if (message == WM_SETTINGCHANGE && wide == SPI_SETDESKWALLPAPER)
+            Fill_Screen({GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)});
         else if (message == WM_TIMER)
             Adopt_Calendar();
         else if (message == WM_DESTROY)
