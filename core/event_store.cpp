@@ -86,14 +86,22 @@ void Event_Store::Check_For_Pre(const std::string &key, const std::string &text,
     Write_ALL();
 }
 
+void Event_Store::Write_Whole(const std::string &added) {
+    if (partly_loaded_)
+        throw platform::File_Error("what else the file holds is not known");
+    std::string bytes = All_Records(Temp_Lst);
+    if (!added.empty())
+        Append_Item(bytes, added);
+    platform::Replace_File(Data_File(), bytes);
+}
+
+void Event_Store::Write_Data_File() {
+    Write_Whole({});
+}
+
 void Event_Store::Rewrite_File(const std::string &added) {
     try {
-        if (partly_loaded_)
-            throw platform::File_Error("what else the file holds is not known");
-        std::string bytes = All_Records(Temp_Lst);
-        if (!added.empty())
-            Append_Item(bytes, added);
-        platform::Replace_File(Data_File(), bytes);
+        Write_Whole(added);
     } catch (const std::exception &) {
         platform::Message_Box("Error saving data file.", "Vellatro", platform::Box_Icon::Stop);
     }

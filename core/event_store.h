@@ -24,8 +24,8 @@ struct Stored_Message {
 };
 
 /// Reads and rewrites the event file, always whole. Each procedure that touches the file shows one fixed
-/// sentence when that fails, and leaves; none throws for it. A message box lets timers go on, so all of them
-/// may be entered again while one is shown.
+/// sentence when that fails, and leaves; but for Write_Data_File none throws for it. A message box lets
+/// timers go on, so all of them may be entered again while one is shown.
 class Event_Store {
 public:
     /// All records of the file in file order, as of the last Load_File.
@@ -43,8 +43,12 @@ public:
     /// where there is none leaves the file untouched.
     void Check_For_Pre(const std::string &key, const std::string &text, bool each_year);
 
-    /// Rewrites the file from Temp_Lst. A failure shows "Error saving data file." and leaves the file as it
-    /// was; to rewrite after a failed Load_File, which would lose what was not read, is such a failure too.
+    /// Rewrites the file from Temp_Lst. Throws platform::File_Error, Sequential_Error for a record that
+    /// cannot be written, and the former after a failed Load_File, too: a rewrite would lose what was not
+    /// read. The file is as it was then.
+    void Write_Data_File();
+
+    /// The same, but a failure shows "Error saving data file.".
     void Write_ALL();
 
     /// Rewrites the file from Temp_Lst with one record more, which does not enter Temp_Lst. Does nothing when
@@ -61,8 +65,9 @@ public:
     void Load_Dates(const std::function<void(std::string_view record)> &enter);
 
 private:
-    /// Writes Temp_Lst and, unless it is empty, the record `added`. Writes nothing, with the message of a
-    /// failure, after a Load_File that failed.
+    /// Writes Temp_Lst and, unless it is empty, the record `added`. Throws as Write_Data_File does.
+    void Write_Whole(const std::string &added);
+    /// The same with a message for a failure.
     void Rewrite_File(const std::string &added);
 
     bool partly_loaded_ = false; ///< the last Load_File failed: a rewrite would lose what it did not read

@@ -19,7 +19,7 @@ constexpr const char *colours = "Colours";
 
 constexpr std::array<Setting_Row, 25> rows{{
     {general, "Style", &Settings::Style, "Style"},
-    {general, "Alignment", &Settings::Alignment, nullptr},
+    {general, "Alignment", &Settings::Alignment, "TaskPos"},
     {colours, "Today", &Settings::Col_Today, "Col_Today"},
     {colours, "Normal", &Settings::Col_Normal, "Col_Normal"},
     {colours, "Fore", &Settings::Col_Fore, "Col_Fore"},
@@ -127,6 +127,12 @@ void Load_Settings() {
 void Save_Setting(std::string_view key) {
     const Setting_Row &row = Setting_Row_Of(key);
     platform::Write_User_Value(Store_Key(row), row.key, Setting_Text(Cur_Settings, row));
+}
+
+void Take_Setting(const Setting_Row &row, std::string_view text) {
+    // Converted first: a stored text that is no value would keep the program from starting.
+    Set_From_Text(Cur_Settings, row, text);
+    platform::Write_User_Value(Store_Key(row), row.key, std::string(text));
 }
 
 void Change_Setting(std::int16_t &variable, std::int16_t value, std::string_view key) {

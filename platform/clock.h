@@ -17,4 +17,7 @@ struct Date_Time {
 /// The local time now.
 Date_Time Now();
 
+/// Milliseconds since some moment, which only tell how much time passes. They begin anew after 49 days.
+unsigned Milliseconds();
+
 } // namespace platform

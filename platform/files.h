@@ -2,6 +2,8 @@
 // way to write into the middle of a file.
 #pragma once
 
+#include "platform/clock.h"
+
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -36,6 +38,9 @@ std::vector<std::string> Names_In_Folder(const std::string &folder, Listed liste
 /// False when it is certain that nothing bears the name `path`. Where the system cannot tell, as with a disk
 /// that fails or a name that can be none, it is true: reading then tells the failure.
 bool Path_Exists(const std::string &path);
+
+/// When the file was written last, by the local clock. Throws File_Error.
+Date_Time Modified_Time(const std::string &path);
 
 /// All bytes of the file. Other programs may read and write it meanwhile. Throws File_Error.
 std::string Read_File(const std::string &path);

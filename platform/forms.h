@@ -96,7 +96,7 @@ enum class Form_Kind : std::uint8_t {
 };
 
 /// Pointer shapes over a form.
-enum class Pointer_Shape : std::uint8_t { Arrow, Move };
+enum class Pointer_Shape : std::uint8_t { Arrow, Move, Hourglass };
 
 enum class Mouse_Button : std::uint8_t { None, Left, Right, Middle };
 

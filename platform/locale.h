@@ -1,7 +1,11 @@
 // What the user's regional settings say about names and dates.
 #pragma once
 
+#include "platform/clock.h"
+
+#include <optional>
 #include <string>
+#include <string_view>
 
 namespace platform {
 
@@ -17,5 +21,12 @@ int First_Weekday();
 
 /// A date of the years 100 to 9999 in the user's short date form.
 std::string Short_Date(int year, int month, int day);
+
+/// A date and time of day in the user's short date form and time form.
+std::string Date_Time_Text(const Date_Time &time);
+
+/// The date that a user means by `text`, in the order of day and month of the regional settings. A time of
+/// day in it is passed over. Nothing for a text that is no date of the years 100 to 9999.
+std::optional<Date_Time> Read_Date(std::string_view text);
 
 } // namespace platform

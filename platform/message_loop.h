@@ -8,6 +8,8 @@
 
 namespace platform {
 
+struct Form_Model;
+
 /// Dispatches messages until End_Message_Loop is called. Not from inside a handler.
 void Run_Message_Loop();
 
@@ -16,6 +18,11 @@ void End_Message_Loop();
 
 /// Dispatches the messages that wait now, and returns.
 void Process_Waiting_Messages();
+
+/// Keeps the program's windows painted within a long piece of work: paints what has to be painted, and drops
+/// what the user does with the native window of `busy` and its controls. All other messages, timers and
+/// requests to close among them, wait until the work is done, so that nothing happens beside it.
+void Paint_Waiting(const Form_Model &busy);
 
 /// Sleeps until a message waits, at most `milliseconds`.
 void Wait_For_Messages(unsigned milliseconds);

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "core/date.h"
-#include "settings/event_entries.h"
+#include "core/event_entries.h"
 
 #include <array>
 #include <cstdint>

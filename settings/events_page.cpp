@@ -94,6 +94,12 @@ void Events_Page::Open_Overview() {
     Overview_Opt_Click();
 }
 
+void Events_Page::Show_Imported(std::vector<Sort_Entry> staged) {
+    Dates_Lst = std::move(staged);
+    Sort_List();
+    Get_Stats();
+}
+
 void Events_Page::Show_View(bool overview) {
     Overview_Fra.Set_Visible(overview);
     Yearview_Fra.Set_Visible(!overview);

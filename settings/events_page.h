@@ -1,6 +1,6 @@
 // The "Events" page of the settings dialog: the overview of all events, of which any can be removed, and
-// their statistics. How events are read, counted, sorted and worded is in event_entries.h, event_statistics.h
-// and event_overview.h.
+// their statistics. How events are read and sorted is in core/event_entries.h, how they are counted and
+// worded in event_statistics.h and event_overview.h.
 #pragma once
 
 #include "settings/event_overview.h"
@@ -23,6 +23,10 @@ public:
     void Get_Stats();
     /// Shows the overview by ascending dates, whatever was chosen before.
     void Open_Overview();
+
+    /// Lists these events, in their order, instead of what is listed. The next choice on the page lists the
+    /// data file's again.
+    void Show_Imported(std::vector<Sort_Entry> staged);
 
     void Overview_Opt_Click();
     void Stats_Opt_Click();

@@ -122,3 +122,34 @@ void Settings_Frm::Save_Bar_Settings() {
     Cur_Settings.Bar_Date_Format = General.Bar_Date_Cbo.Text();
     Store_Setting("Bar Date Format");
 }
+
+Settings Settings_Frm::Shown_Configuration() const {
+    // What no page shows, and choices that are none, stay as they are.
+    Settings shown = Cur_Settings;
+    const auto number = [](const Check_Box &box) -> std::int16_t { return box.Checked() ? 1 : 0; };
+    shown.Style = Style.Style1_Opt.Checked() ? 0 : 1;
+    shown.Alignment = Style.Pos_Manual_Opt.Checked() ? manual : Style.Get_Set_Position();
+    shown.Col_Today = Colours.Col_Today_Pic.Back_Colour();
+    shown.Col_Normal = Colours.Col_Normal_Pic.Back_Colour();
+    shown.Col_Fore = Colours.Col_Fore_Pic.Back_Colour();
+    shown.Col_Num = Colours.Col_Num_Pic.Back_Colour();
+    shown.Col_Text = Colours.Col_Text_Pic.Back_Colour();
+    shown.Col_Back = Colours.Col_Back_Pic.Back_Colour();
+    shown.Menu_Col_Sorce = Colours.Col_Sys_Opt.Checked() ? 0 : 1;
+    shown.Show_Alerts = number(General.Alert_Chk);
+    shown.Use_Themes = number(Wallpaper.Theme_Use_Chk);
+    shown.Use_Theme_Pos = number(Wallpaper.Theme_Pos_Chk);
+    shown.Use_Theme_Style = number(Wallpaper.Theme_Style_Chk);
+    shown.Allow_Dragging = number(General.Allow_Dragging_Chk);
+    shown.Bar_Time = General.Bar_Time_Chk.Checked();
+    shown.Bar_Time_Format = General.Bar_Time_Cbo.Text();
+    shown.Bar_Date_Format = General.Bar_Date_Cbo.Text();
+    shown.Use_Other_Display_Mode = Wallpaper.Other_Display_Chk.Checked();
+    if (Wallpaper.Display_Cbo.Selected() != -1)
+        shown.Other_Display_Mode = static_cast<std::int16_t>(Wallpaper.Display_Cbo.Selected());
+    shown.Auto_Compact = number(General.Auto_Compact_Chk);
+    if (!Wallpaper.Packs_Cbo.Text().empty())
+        shown.Pack_Name = Wallpaper.Packs_Cbo.Text();
+    shown.Tooltips = Tooltips.Selected();
+    return shown;
+}

@@ -33,7 +33,8 @@ Settings_Frm::Settings_Frm(Main_Frm &calendar)
       Colours(*this, Settings_Fra[colours_fra], calendar),
       General(*this, Settings_Fra[general_fra], calendar), Style(*this, Settings_Fra[style_fra], calendar),
       Tooltips(*this, Settings_Fra[tooltips_fra], calendar),
-      Wallpaper(*this, Settings_Fra[wallpaper_fra], calendar, Style), About(*this, Settings_Fra[about_fra]),
+      Wallpaper(*this, Settings_Fra[wallpaper_fra], calendar, Style),
+      Transfer(*this, Settings_Fra[transfer_fra], calendar), About(*this, Settings_Fra[about_fra]),
       Ok_Btn(*this, "Ok_Btn", "OK"), Cancel_Btn(*this, "Cancel_Btn", "Cancel"),
       Apply_Btn(*this, "Apply_Btn", "&Apply"), calendar_(calendar) {
     Set_Title("Settings");
@@ -51,6 +52,11 @@ Settings_Frm::Settings_Frm(Main_Frm &calendar)
     Ok_Btn.On_Click = [this] { Ok_Btn_Click(); };
     Cancel_Btn.On_Click = [this] { Cancel_Btn_Click(); };
     Apply_Btn.On_Click = [this] { Apply_Btn_Click(); };
+    Transfer.Shown_Configuration = [this] { return Shown_Configuration(); };
+    Transfer.Show_Staged = [this](std::vector<Sort_Entry> staged) {
+        Events.Show_Imported(std::move(staged));
+    };
+    Transfer.Configuration_Imported = [this] { Form_Unload(); };
     On_Close = [this] { Form_Unload(); };
     On_Window_Lost = [this] { Form_Unload(); };
     On_Dots_Changed = [this] { Lay_Out(); };
@@ -107,6 +113,7 @@ void Settings_Frm::Lay_Out() {
     Style.Lay_Out();
     Tooltips.Lay_Out();
     Wallpaper.Lay_Out();
+    Transfer.Lay_Out();
     About.Lay_Out();
 }
 

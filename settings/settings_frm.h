@@ -10,6 +10,7 @@
 #include "settings/page.h"
 #include "settings/style_page.h"
 #include "settings/tooltips_page.h"
+#include "settings/transfer_page.h"
 #include "settings/wallpaper_page.h"
 #include "toolkit/control_array.h"
 #include "toolkit/form.h"
@@ -62,6 +63,9 @@ public:
     void Save_Theme();
     void Save_Bar_Settings();
 
+    /// The settings as the pages show them, changes that are not applied yet included.
+    Settings Shown_Configuration() const;
+
     Tab_Strip TabStrip1;
     Control_Array<Frame, page_count> Settings_Fra;
     Events_Page Events;
@@ -70,6 +74,7 @@ public:
     Style_Page Style;
     Tooltips_Page Tooltips;
     Wallpaper_Page Wallpaper;
+    Transfer_Page Transfer;
     About_Page About;
     Button Ok_Btn;
     Button Cancel_Btn;

@@ -44,7 +44,7 @@ Tooltips_Page::Tooltips_Page(Form &dialog, Frame &frame, Main_Frm &calendar)
     : Tips_Opt(dialog, "Tips_Opt"), TipsNotes_Lbl(dialog, "TipsNotes_Lbl"),
       Preview_Fra(dialog, "Preview_Fra", "Preview"), TipsTrigger_Lbl(dialog, "TipsTrigger_Lbl"),
       TipExample_Lbl(dialog, "TipExample_Lbl", "Example"), TipBoxExample_Lbl(dialog, "TipBoxExample_Lbl"),
-      dialog_(dialog), frame_(frame), calendar_(calendar) {
+      dialog_(dialog), calendar_(calendar) {
     for (int i = 0; i < static_cast<int>(kinds.size()); ++i) {
         Tips_Opt[i].Set_Container(frame);
         Tips_Opt[i].Set_Caption(kinds[static_cast<std::size_t>(i)].caption);

@@ -32,7 +32,6 @@ private:
     void Example_Tooltip();
 
     Form &dialog_;
-    const Frame &frame_;
     Main_Frm &calendar_;
     std::uint16_t held_ = 65535; ///< 0 while an example is held that shows a balloon, else all bits set
 };

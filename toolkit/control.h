@@ -105,7 +105,7 @@ public:
 /// stands for them.
 class Button : public Control {
 public:
-    Button(Form &form, std::string_view name, std::string_view caption);
+    Button(Form &form, std::string_view name, std::string_view caption = {});
     void Set_Default(bool is_default);
     void Set_Cancel(bool is_cancel);
 };

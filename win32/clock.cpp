@@ -11,4 +11,8 @@ Date_Time Now() {
     return {time.wYear, time.wMonth, time.wDay, time.wHour, time.wMinute, time.wSecond, time.wMilliseconds};
 }
 
+unsigned Milliseconds() {
+    return static_cast<unsigned>(GetTickCount());
+}
+
 } // namespace platform

@@ -17,6 +17,9 @@ using platform::Input_Kind;
 
 namespace {
 
+constexpr WORD arrow = 32512;
+constexpr WORD hourglass = 32514;
+
 /// `place` moved so that it lies wholly in the work area of its nearest monitor.
 RECT On_Screen(RECT place) {
     MONITORINFO monitor = {};
@@ -42,6 +45,12 @@ LRESULT Dialog_Window::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
     case WM_COMMAND:
         Command(LOWORD(wparam), HIWORD(wparam));
         return 0;
+    case WM_SETCURSOR:
+        // The controls ask here before they take their own.
+        if (Model()->pointer != platform::Pointer_Shape::Hourglass || LOWORD(lparam) != HTCLIENT)
+            break;
+        SetCursor(LoadCursorW(nullptr, MAKEINTRESOURCEW(hourglass)));
+        return TRUE;
     case WM_CLOSE:
         // Nothing is done beside an open message box, whoever asks for it.
         if (Open_Modal_Boxes == 0)
@@ -95,6 +104,12 @@ void Dialog_Window::Window_Gone() {
 void Dialog_Window::Own_Aspect_Changed(Aspect aspect) {
     if (aspect == Aspect::Focus)
         Focus();
+    POINT mouse = {};
+    if (aspect != Aspect::Pointer || !GetCursorPos(&mouse) ||
+        GetAncestor(WindowFromPoint(mouse), GA_ROOT) != window_)
+        return;
+    const bool waits = Model()->pointer == platform::Pointer_Shape::Hourglass;
+    SetCursor(LoadCursorW(nullptr, MAKEINTRESOURCEW(waits ? hourglass : arrow)));
 }
 
 void Dialog_Window::Place() {

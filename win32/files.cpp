@@ -235,6 +235,22 @@ void Replace_File(const std::string &path, std::string_view bytes) {
     }
 }
 
+Date_Time Modified_Time(const std::string &path) {
+    const std::wstring wide = win32::Path_For_Call(path);
+    if (wide.empty())
+        Throw(path, ERROR_INVALID_NAME);
+    const Quiet_Errors quiet;
+    WIN32_FIND_DATAW found = {};
+    const win32::Unique_Find find(FindFirstFileW(wide.c_str(), &found));
+    if (!find)
+        Throw(path, GetLastError());
+    FILETIME local = {};
+    SYSTEMTIME time = {};
+    if (!FileTimeToLocalFileTime(&found.ftLastWriteTime, &local) || !FileTimeToSystemTime(&local, &time))
+        Throw(path, GetLastError());
+    return {time.wYear, time.wMonth, time.wDay, time.wHour, time.wMinute, time.wSecond, time.wMilliseconds};
+}
+
 void Delete_File(const std::string &path) {
     const std::wstring wide = win32::Path_For_Call(path);
     if (wide.empty())

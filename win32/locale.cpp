@@ -5,6 +5,7 @@
 #include "win32/wide_text.h"
 
 #include <algorithm>
+#include <oleauto.h>
 
 namespace platform {
 
@@ -96,6 +97,34 @@ int First_Weekday() {
 
 std::string Short_Date(int year, int month, int day) {
     return win32::From_Wide(Formatted_Date(year, month, day));
+}
+
+std::string Date_Time_Text(const Date_Time &time) {
+    SYSTEMTIME system{};
+    system.wHour = static_cast<WORD>(time.hour);
+    system.wMinute = static_cast<WORD>(time.minute);
+    system.wSecond = static_cast<WORD>(time.second);
+    std::wstring text(128, L'\0');
+    const int length =
+        GetTimeFormatW(LOCALE_USER_DEFAULT, 0, &system, nullptr, text.data(), static_cast<int>(text.size()));
+    text.resize(length > 0 ? static_cast<std::size_t>(length - 1) : 0);
+    return Short_Date(time.year, time.month, time.day) + " " + win32::From_Wide(text);
+}
+
+std::optional<Date_Time> Read_Date(std::string_view text) {
+    std::wstring wide = win32::To_Wide(text); // the call wants it changeable
+    DATE date = 0;
+    SYSTEMTIME time{};
+    // What is behind a NUL would not be read.
+    if (wide.find(L'\0') != std::wstring::npos ||
+        FAILED(VarDateFromStr(wide.data(), LOCALE_USER_DEFAULT, 0, &date)) ||
+        !VariantTimeToSystemTime(date, &time))
+        return std::nullopt;
+    Date_Time day;
+    day.year = time.wYear;
+    day.month = time.wMonth;
+    day.day = time.wDay;
+    return day;
 }
 
 } // namespace platform

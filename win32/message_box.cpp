@@ -5,7 +5,6 @@
 #include "win32/wide_text.h"
 
 #include <algorithm>
-#include <vector>
 
 namespace platform {
 
@@ -48,34 +47,6 @@ HWND Active_Dialog() {
         return nullptr;
     return GetAncestor(window, GA_ROOT) == window ? window : nullptr;
 }
-
-/// Locks the thread's other windows for the length of a scope: a box with an owner locks only that.
-class Locked_Windows {
-public:
-    explicit Locked_Windows(HWND owner) : owner_(owner) {
-        if (owner != nullptr)
-            EnumThreadWindows(GetCurrentThreadId(), Lock, reinterpret_cast<LPARAM>(this));
-    }
-    ~Locked_Windows() {
-        for (const HWND window : windows_)
-            EnableWindow(window, TRUE);
-    }
-    Locked_Windows(const Locked_Windows &) = delete;
-    Locked_Windows &operator=(const Locked_Windows &) = delete;
-
-private:
-    static BOOL CALLBACK Lock(HWND window, LPARAM self_address) {
-        auto *self = reinterpret_cast<Locked_Windows *>(self_address);
-        if (window != self->owner_ && IsWindowVisible(window) && IsWindowEnabled(window)) {
-            self->windows_.push_back(window);
-            EnableWindow(window, FALSE);
-        }
-        return TRUE;
-    }
-
-    HWND owner_;
-    std::vector<HWND> windows_;
-};
 
 /// Gives the keyboard back at the end of a scope to a window that had it, if there is one.
 class Returned_Focus {
@@ -121,7 +92,7 @@ Box_Answer Message_Box(const std::string &text, const std::string &title, Box_Ic
     // The system returns the keyboard to an owner alone.
     const Returned_Focus focus(owner == nullptr ? GetFocus() : nullptr);
     const win32::Modal_Scope modal;
-    const Locked_Windows locked(owner);
+    const win32::Locked_Windows locked(owner);
     return Answer_Of(MessageBoxW(owner, wide_text.c_str(), wide_title.c_str(), Style_Of(icon, buttons)),
                      buttons);
 }

@@ -38,6 +38,29 @@ TEST_F(Locale_Contract, Short_Dates_Follow_The_Pattern_In_All_Years) {
     }
 }
 
+TEST_F(Locale_Contract, Dates_Are_Read_In_The_Order_Of_The_Form) {
+    const struct {
+        const char *pattern, *text;
+        int year, month, day; ///< all 0: no date
+    } cases[] = {{"d/m/yyyy", "3/4/2002", 2002, 4, 3},
+                 {"m/d/yyyy", "3/4/2002", 2002, 3, 4},
+                 {"m/d/yyyy", "13/4/2002", 2002, 4, 13},
+                 {"yyyy-mm-dd", "2002-04-03", 2002, 4, 3},
+                 {"d/m/yyyy", "30/12/1899", 1899, 12, 30},
+                 {"d/m/yyyy", "1/2/1066", 1066, 2, 1},
+                 {"d/m/yyyy", "31/2/2002", 0, 0, 0},
+                 {"d/m/yyyy", "Dentist", 0, 0, 0},
+                 {"d/m/yyyy", "", 0, 0, 0}};
+    for (const auto &c : cases) {
+        Use_Short_Date(c.pattern);
+        const platform::Date_Time read = platform::Read_Date(c.text).value_or(platform::Date_Time{});
+        EXPECT_TRUE(read.year == c.year && read.month == c.month && read.day == c.day)
+            << c.pattern << " " << c.text << ": " << read.year << " " << read.month << " " << read.day;
+    }
+    Use_Short_Date("d/m/yyyy");
+    EXPECT_TRUE(platform::Date_Time_Text({2002, 3, 5, 9, 5, 7, 0}).starts_with("5/3/2002 "));
+}
+
 TEST_F(Text_Contract, Stepping_Back_Keeps_Characters_Whole) {
     // Each row is a text in its characters.
     const std::vector<std::vector<std::string>> rows = {

@@ -45,7 +45,7 @@ TEST_F(Settings_Test, Table_And_First_Run) {
             odd_names += (row.configuration_key == nullptr ? "-" : row.configuration_key) + std::string(" ");
     }
     EXPECT_EQ(table, told);
-    EXPECT_EQ(odd_names, "- Col_Today Col_Normal Col_Fore Col_Num Col_Text Col_Back Menu_Col_Sorce - ");
+    EXPECT_EQ(odd_names, "TaskPos Col_Today Col_Normal Col_Fore Col_Num Col_Text Col_Back Menu_Col_Sorce - ");
     EXPECT_EQ(Fakes().registry_writes, 0);
 }
 

@@ -19,5 +19,7 @@ protected:
     ~Fake_Test() override {
         for (const Expected_Box &box : Fakes().expected_boxes)
             ADD_FAILURE() << "this message box never came: " << box.text;
+        for (const Expected_Dialog &dialog : Fakes().expected_dialogs)
+            ADD_FAILURE() << "this file dialog never came: " << dialog.title;
     }
 };

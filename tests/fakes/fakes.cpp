@@ -2,9 +2,11 @@
 // Forms, screen and shell are in fake_forms.cpp.
 #include "tests/fakes/fakes.h"
 
+#include "core/date.h"
 #include "platform/characters.h"
 #include "platform/files.h"
 #include "platform/locale.h"
+#include "platform/message_loop.h"
 #include "platform/text.h"
 #include "platform/wallpaper.h"
 
@@ -43,6 +45,32 @@ Date_Time Now() {
     return Fakes().now;
 }
 
+unsigned Milliseconds() {
+    return Fakes().milliseconds += Fakes().clock_step;
+}
+
+void Paint_Waiting(const Form_Model &) {
+    if (Fakes().painting)
+        Fakes().painting();
+}
+
+bool Show_File_Dialog(File_Dialog &dialog) {
+    Fake_System &system = Fakes();
+    const std::string next = system.expected_dialogs.empty() ? "none" : system.expected_dialogs.front().title;
+    Require(next == dialog.title, "unexpected file dialog: " + dialog.title + "\nexpected: " + next);
+    if (next != dialog.title)
+        return false;
+    const Expected_Dialog expected = system.expected_dialogs.front();
+    system.expected_dialogs.pop_front();
+    if (!expected.answer.empty()) {
+        dialog.file = expected.answer;
+        dialog.file_title = expected.answer.substr(expected.answer.rfind('\\') + 1);
+    }
+    if (expected.look)
+        expected.look(dialog);
+    return !expected.answer.empty();
+}
+
 std::string Month_Name(int month) {
     return Fakes().months.at(static_cast<std::size_t>(month - 1));
 }
@@ -67,11 +95,53 @@ std::string Short_Date(int year, int month, int day) {
         end = std::min(pattern.find_first_not_of(letter, i), pattern.size());
         std::string part = pattern.substr(i, end - i);
         if (letter == 'd' || letter == 'm' || letter == 'y')
-            part = std::to_string(letter == 'd' ? day : letter == 'm' ? month : year);
+            part = std::to_string(letter == 'd'   ? day
+                                  : letter == 'm' ? month
+                                  : end - i == 2  ? year % 100
+                                                  : year);
         text.append(end - i - std::min(part.size(), end - i), '0');
         text += part;
     }
     return text;
+}
+
+std::string Date_Time_Text(const Date_Time &time) {
+    const auto two = [](int number) { return std::to_string(100 + number).substr(1); };
+    return Short_Date(time.year, time.month, time.day) + " " + two(time.hour) + ":" + two(time.minute) + ":" +
+           two(time.second);
+}
+
+// Three numbers in the order of the pattern; where they are no date so, day and month change places.
+std::optional<Date_Time> Read_Date(std::string_view text) {
+    std::array<int, 3> numbers{};
+    std::size_t count = 0, at = 0;
+    while (at < text.size() && count < 3) {
+        const std::size_t digit = text.find_first_of("0123456789", at);
+        const std::size_t end = std::min(text.find_first_not_of("0123456789", digit), text.size());
+        if (digit == std::string_view::npos || end - digit > 4)
+            return std::nullopt;
+        numbers[count++] = std::atoi(std::string(text.substr(digit, end - digit)).c_str());
+        at = end;
+    }
+    const std::string &pattern = Fakes().short_date_pattern;
+    const std::array<std::size_t, 3> places{pattern.find('y'), pattern.find('m'), pattern.find('d')};
+    std::array<int *, 3> parts{};
+    Date_Time date;
+    int *const fields[] = {&date.year, &date.month, &date.day};
+    for (std::size_t i = 0; i < 3; ++i)
+        parts[static_cast<std::size_t>(std::count_if(
+            places.begin(), places.end(), [&](std::size_t p) { return p < places[i]; }))] = fields[i];
+    for (std::size_t i = 0; i < 3; ++i)
+        *parts[i] = numbers[i];
+    if (date.month > 12 && date.day <= 12)
+        std::swap(date.month, date.day);
+    if (date.year < 100)
+        date.year += date.year < 30 ? 2000 : 1900;
+    const bool valid =
+        count == 3 && at == text.size() && date.month >= 1 && date.month <= 12 && date.day >= 1 &&
+        date.day <=
+            DaysInMonth({static_cast<std::int16_t>(date.year), static_cast<std::int16_t>(date.month), 1});
+    return valid ? std::optional(date) : std::nullopt;
 }
 
 // UTF-8, whatever the building machine's own encoding is.
@@ -117,6 +187,12 @@ std::vector<std::string> Names_In_Folder(const std::string &folder, Listed liste
 void Delete_File(const std::string &path) {
     if (Fakes().unwritable.contains(path) || Fakes().files.erase(path) == 0)
         throw File_Error(path + " cannot be deleted");
+}
+
+Date_Time Modified_Time(const std::string &path) {
+    if (!File_Exists(path))
+        throw File_Error(path + " is not there");
+    return Fakes().modified;
 }
 
 Picture Load_Picture(const std::string &path) {

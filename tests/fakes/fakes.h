@@ -4,6 +4,7 @@
 #pragma once
 
 #include "platform/clock.h"
+#include "platform/file_dialog.h"
 #include "platform/message_box.h"
 #include "platform/pictures.h"
 #include "platform/registry.h"
@@ -35,6 +36,13 @@ struct Shown_Box {
     platform::Box_Buttons buttons;
 };
 
+/// A file dialog that a test expects, in its turn.
+struct Expected_Dialog {
+    std::string title;
+    std::string answer;                                          ///< the chosen path; empty: the user cancels
+    std::function<void(platform::File_Dialog &)> look = nullptr; ///< sees the record, and may answer more
+};
+
 struct Fake_System {
     /// A Tuesday.
     platform::Date_Time now{2002, 3, 5, 10, 30, 0, 0};
@@ -44,7 +52,7 @@ struct Fake_System {
                                        "July",    "August",   "September", "October", "November", "December"};
     std::array<std::string, 7> weekdays{"Sunday",   "Monday", "Tuesday", "Wednesday",
                                         "Thursday", "Friday", "Saturday"};
-    /// Of d, dd, m, mm and yyyy; all else stands for itself.
+    /// Of d, dd, m, mm, yy and yyyy; all else stands for itself.
     std::string short_date_pattern = "d/m/yyyy";
 
     std::map<std::string, std::string, Name_Less> files; ///< path to bytes
@@ -70,12 +78,22 @@ struct Fake_System {
     std::vector<Shown_Box> boxes; ///< all that were shown
     bool any_box = false;         ///< unexpected boxes are no failure; they get the answer that changes least
 
+    std::deque<Expected_Dialog> expected_dialogs;
+    platform::Date_Time modified{2002, 2, 1, 9, 5, 0, 0}; ///< when all files were written last
+    unsigned milliseconds = 0;                            ///< of the clock that only counts
+    unsigned clock_step = 0;                              ///< what each look at that clock adds to it
+    std::function<void()> painting; ///< what happens when a long piece of work lets windows be painted
+
     std::function<void(const std::string &message)> on_failure; ///< takes what the fakes find wrong
 
     /// Says that the next message box after those expected already shows `text`, and how it is answered.
     void Expect_Box(std::string text, platform::Box_Answer answer = platform::Box_Answer::Ok,
                     std::function<void()> meanwhile = nullptr) {
         expected_boxes.push_back({std::move(text), answer, std::move(meanwhile)});
+    }
+    /// Says the same of a file dialog and its title.
+    void Expect_Dialog(std::string title, std::string answer) {
+        expected_dialogs.push_back({std::move(title), std::move(answer)});
     }
 };
 

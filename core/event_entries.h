@@ -1,11 +1,14 @@
-// The data file read one event at a time for the Events page: silently, and past malformed records. The
-// calendar's own reading, which tells of failures, is in core/event_store.h.
+// The data file read one event at a time, for the list of all events and their export: silently, and past
+// malformed records. The calendar's own reading, which tells of failures, is in core/event_store.h.
 #pragma once
 
 #include "core/date.h"
 
+#include <cstdint>
 #include <functional>
+#include <string>
 #include <string_view>
+#include <vector>
 
 /// One event of the data file. The views last for the call that gets it.
 struct Event_Entry {
@@ -31,3 +34,21 @@ Reading Read_Entries(const std::function<void(const Event_Entry &)> &take);
 /// The day of an event's date, of a yearly one in `year`. In a year without a 29 February its events are on
 /// the 28th: the event stays in its month, where it is counted too.
 Date Day_In_Year(const Event_Entry &entry, std::int16_t year);
+
+enum class Sort_Order { Ascending_Date, Descending_Date, Date_Added };
+
+/// One event, ready to be sorted and shown.
+struct Sort_Entry {
+    std::int32_t number = 0; ///< day number of the date
+    Date date;               ///< of a yearly event in the current year
+    bool yearly = false;
+    std::string key; ///< of its record, as it is written in the data file
+    std::string text;
+};
+
+/// Replaces `entries` by the events of the data file, by `order`: by date, the events of a day in file order
+/// and, descending, in the reverse of that; or all in file order. What cannot be read is left out.
+Reading Load_Entries(std::vector<Sort_Entry> &entries, Sort_Order order, const Date &today);
+
+/// What stands before the text in the line of an event: its date in the user's short form, and the separator.
+std::string Line_Head(const Sort_Entry &entry);

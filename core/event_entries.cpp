@@ -1,10 +1,11 @@
-// Taking records apart, and the walk over the data file.
-#include "settings/event_entries.h"
+// Taking records apart, the walk over the data file, and sorting.
+#include "core/event_entries.h"
 
 #include "core/convert.h"
 #include "core/event_store.h"
 #include "core/sequential.h"
 #include "platform/files.h"
+#include "platform/locale.h"
 
 #include <algorithm>
 #include <exception>
@@ -61,4 +62,25 @@ Date Day_In_Year(const Event_Entry &entry, std::int16_t year) {
     const Date first{year, entry.date.month, 1};
     const auto last = static_cast<std::int16_t>(DaysInMonth(first));
     return {year, entry.date.month, std::min(entry.date.day, last)};
+}
+
+Reading Load_Entries(std::vector<Sort_Entry> &entries, Sort_Order order, const Date &today) {
+    entries.clear();
+    const Reading reading = Read_Entries([&](const Event_Entry &entry) {
+        const Date date = Day_In_Year(entry, today.year);
+        entries.push_back(
+            {Day_Number(date), date, entry.yearly, std::string(entry.key), std::string(entry.text)});
+    });
+    if (order == Sort_Order::Date_Added)
+        return reading;
+    std::stable_sort(entries.begin(), entries.end(),
+                     [](const Sort_Entry &a, const Sort_Entry &b) { return a.number < b.number; });
+    if (order == Sort_Order::Descending_Date)
+        std::reverse(entries.begin(), entries.end());
+    return reading;
+}
+
+std::string Line_Head(const Sort_Entry &entry) {
+    return platform::Short_Date(entry.date.year, entry.date.month, entry.date.day) +
+           (entry.yearly ? " (every year)  -  " : "  -  ");
 }

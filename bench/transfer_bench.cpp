@@ -1,0 +1,68 @@
+// Exporting and importing many events, by the real procedures from file to file; the files are those of the
+// fakes.
+#include "core/event_store.h"
+#include "tests/fakes/fake_forms.h"
+#include "transfer/export.h"
+#include "transfer/import.h"
+
+#include <benchmark/benchmark.h>
+
+namespace {
+
+/// A file of events of 60 years, many of them on the same days.
+std::string CSV_File(std::int64_t count) {
+    std::string bytes = "\"Subject\",\"Start Date\",\"Description\"\r\n";
+    for (std::int64_t i = 0; i < count; ++i) {
+        const std::int64_t mixed = i * 7919 % 100'003;
+        bytes += "\"Event " + std::to_string(i) + "\",\"" + std::to_string(1 + mixed % 28) + "/" +
+                 std::to_string(1 + mixed / 28 % 12) + "/" + std::to_string(1970 + mixed / 336 % 60) +
+                 "\",\"at noon, \"\"as always\"\"\"\r\n";
+    }
+    return bytes;
+}
+
+void Import_Events(benchmark::State &state, const std::string &bytes) {
+    Reset_Desktop();
+    Main_Frm form;
+    OpenSaveDialog dialog(nullptr);
+    Importer importer(form, dialog);
+    importer.Show_Staged = [](const std::vector<Sort_Entry> &) {};
+    for (auto _ : state) {
+        Reset_Fakes();
+        Fakes().any_box = true;
+        Fakes().files["C:\\in.csv"] = bytes;
+        Fakes().Expect_Dialog("Import Events from CSV File", "C:\\in.csv");
+        importer.Import_CSV();
+    }
+    if (dialog.FileName.empty() || Fakes().boxes.size() != 1)
+        state.SkipWithError("it went another way");
+    state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(bytes.size()));
+}
+
+void Import_Many(benchmark::State &state) {
+    Import_Events(state, CSV_File(state.range(0)));
+}
+
+/// Never a line that ends in a quote: all are joined, and then refused.
+void Import_Unclosed(benchmark::State &state) {
+    std::string bytes = "\"Subject\",\"Start Date\",\"Description\"\r\n";
+    for (std::int64_t i = 0; i < state.range(0); ++i)
+        bytes += "\"a line without an end\r\n";
+    Import_Events(state, bytes);
+}
+
+void Export_Events(benchmark::State &state) {
+    std::vector<Sort_Entry> entries;
+    for (std::int64_t i = 0; i < state.range(0); ++i)
+        entries.push_back({0, {2002, 3, 5}, false, "5/3/2002", "Event " + std::to_string(i)});
+    Progress progress;
+    for (auto _ : state)
+        benchmark::DoNotOptimize(CSV_Bytes(entries, progress));
+    state.SetItemsProcessed(state.iterations() * state.range(0));
+}
+
+} // namespace
+
+BENCHMARK(Import_Many)->Arg(1'000)->Arg(100'000)->Unit(benchmark::kMillisecond);
+BENCHMARK(Import_Unclosed)->Arg(1'000)->Arg(100'000)->Unit(benchmark::kMillisecond);
+BENCHMARK(Export_Events)->Arg(100'000)->Unit(benchmark::kMillisecond);

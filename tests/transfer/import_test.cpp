@@ -1,0 +1,191 @@
+// Imports, through the buttons of their page: files as this and other programs write them, and errors.
+#include "tests/transfer/transfer_test.h"
+
+#include <algorithm>
+
+namespace {
+
+class Importing : public Transfer_Test {};
+
+const std::string failed = "Error when importing from CSV file.";
+const std::string headings = "'Subject','Start Date','Description'\r\n";
+
+std::string Imported(int count) {
+    return "Successfully imported " + std::to_string(count) +
+           " events from the CSV file...\r\n\r\nC:\\in.csv";
+}
+
+/// The text with double quotes in the places of its single ones.
+std::string Quoted(std::string text) {
+    std::replace(text.begin(), text.end(), '\'', '"');
+    return text;
+}
+
+TEST_F(Importing, reads_files_of_many_hands) {
+    const std::string before = "'25/12/9999=Christmas'\r\n'3/4/2002=Payday'\r\n";
+    const std::string yearly = "'25/12/9999=Christmas", payday = "'\r\n'3/4/2002=Payday", end = "'\r\n";
+    const std::string megabyte(1'000'000, 'x');
+    const struct {
+        const char *name;
+        std::string bytes;
+        int count; ///< -1: refused
+        std::string after;
+    } cases[] = {
+        {"quotes and commas", headings + "'Dentist','3/4/2002','Bring ''card'', 10am'\r\n", 1,
+         yearly + payday + " + Dentist - Bring card, 10am" + end},
+        {"an every-year day, a new day twice, day and month exchanged",
+         headings + "'A','25/12/2003','B'\r\n'B','1/2/2003','b|c'\n'Vellatro','1/2/2003','d'\n'VELLATRO','1/"
+                    "13/2003','e'",
+         4, yearly + " + A - B" + payday + "'\r\n'1/2/2003=B - b,c + d'\r\n'13/1/2003=VELLATRO - e" + end},
+        {"22 columns",
+         "'Subject','Start Date','Start Time','End Date','End Time','All day event','Reminder "
+         "on/off','Reminder Date','Reminder Time','Meeting Organizer','Required Attendees','Optional "
+         "Attendees','Meeting Resources','Billing "
+         "Information','Categories','Description','Location','Mileage','Priority','Private','Sensitivity','"
+         "Show time as'\n'Lunch','5/3/2002','12:00','5/3/2002','13:00','False','False',,,'Me','',,,,,'With "
+         "''Ann'',\nat noon','',,'Normal','False','Normal','2'\n",
+         1, yearly + payday + "'\r\n'5/3/2002=Lunch - With Ann, at noon" + end},
+        // Subject and description were columns 0 and 15 before.
+        {"a byte-order mark, and no quotes around headings",
+         "\xEF\xBB\xBFStart Date,Subject,Description\n'3/4/2002','s','d'\n", 1,
+         yearly + payday + " + s - d" + end},
+        {"a heading that is only part of one, which leaves its column",
+         "Start Date,Email Subject,Description\n'3/4/2002','s','d'\n", 1, yearly + payday + " + s - d" + end},
+        {"no quotes around the fields", "Subject,Start Date,Description,Room\nDentist,3/4/2002,Card,'x'\n", 0,
+         before},
+        {"no quotes around the date", headings + "'s',3/4/2002,'d'", 1,
+         yearly + payday + "'\r\n'30/12/1899=s - d" + end},
+        {"an empty line joins the next one", headings + "\r\n's','3/4/2002','d'\r\n", 1,
+         yearly + payday + " + d" + end},
+        {"a long field", headings + "'s','3/4/2002','" + megabyte + "'\r\n", 1,
+         yearly + payday + " + s - " + megabyte + end},
+        {"two digits of the year in the list", headings + "'s','3/4/1932','d'", 1,
+         yearly + payday + "'\r\n'3/4/1932=s - d" + end},
+        {"no line", "", -1, before},
+        {"an empty line at the end", headings + "'s','3/4/2002','d'\r\n\r\n", -1, before},
+        {"no quote at all", headings + std::string(200'000, '\n'), -1, before},
+        {"an open quote", headings + "'s','3/4/2002','d''", -1, before},
+        {"the last field without quotes", headings + "'s','3/4/2002',d,''", -1, before},
+        {"no date", headings + "'s','3/4/2002','d'\n's','31/2/2002','d'", -1, before},
+        // The columns are still those of the last file.
+        {"semicolons", "'Subject';'Start Date';'Description'\n's';'3/4/2002';'d'\n", 1,
+         yearly + payday + "'\r\n'30/12/1899=s;3/4/2002;d" + end},
+    };
+    Fakes().short_date_pattern = "dd/mm/yy";
+    for (const auto &[name, bytes, count, after] : cases) {
+        Data_File() = Quoted(before);
+        File("C:\\in.csv") = Quoted(bytes);
+        Import(2, "C:\\in.csv", count < 0 ? failed : Imported(count));
+        EXPECT_TRUE(Data_File() == Quoted(after)) << name << ": " << Data_File().substr(0, 300);
+        EXPECT_EQ(Has_Backup(), count >= 0) << name;
+        const std::size_t listed = dialog->Events.Events_Lst.Items().size();
+        EXPECT_TRUE(count < 0 || listed == static_cast<std::size_t>(count)) << name;
+    }
+}
+
+TEST_F(Importing, backs_the_data_file_up_and_refuses_other_files) {
+    Data_File() = "\"1/3/2002=Old\"\r\n";
+    Import(2, "", "");
+    EXPECT_EQ(Backup(), Data_File());
+    File("C:\\in.csv") = "Subject,Date,Description\r\n";
+    Fakes().Expect_Dialog("Import Events from CSV File", "C:\\missing.csv");
+    Fakes().Expect_Box("File doesn't exist!");
+    Fakes().Expect_Box("Invalid CSV file or missing required headings.");
+    Import(2, "C:\\in.csv", failed);
+    EXPECT_FALSE(Has_Backup());
+    // An old copy is no backup: it must not come back.
+    Backup() = "older";
+    Fakes().unwritable.insert("C:\\Vellatro\\data.bak");
+    Fakes().Expect_Box(failed);
+    Push(*dialog, dialog->Transfer.Import_Btn[2]);
+    EXPECT_EQ(Data_File() + Backup(), "\"1/3/2002=Old\"\r\nolder");
+    Fakes().unwritable = {"C:\\Vellatro\\calendar.dat"};
+    File("C:\\in.csv") = Quoted(headings + "'s','3/4/2002','d'");
+    Import(2, "C:\\in.csv", failed);
+    EXPECT_EQ(Data_File(), "\"1/3/2002=Old\"\r\n");
+}
+
+TEST_F(Importing, is_seen_while_it_takes_long_and_the_file_is_whole_then) {
+    std::string bytes = Quoted(headings);
+    constexpr int count = 2000;
+    for (int i = 0; i < count; ++i)
+        bytes += "\"" + std::to_string(i) + "\",\"" + std::to_string(1 + i % 28) + "/3/2002\",\"x\"\r\n";
+    File("C:\\in.csv") = bytes;
+    Data_File() = "";
+    Fakes().clock_step = 300;
+    std::vector<std::ptrdiff_t> merged;
+    const Transfer_Page &page = dialog->Transfer;
+    Fakes().painting = [&] {
+        EXPECT_TRUE(page.Progress_Bar1.Visible() && page.Progress_Lbl.Visible());
+        EXPECT_EQ(dialog->Model().pointer, platform::Pointer_Shape::Hourglass);
+        const std::string &data = Data_File();
+        const auto events = std::count(data.begin(), data.end(), 'x');
+        EXPECT_TRUE(data.empty() ||
+                    (data.ends_with("x\"\r\n") && (merged.empty() || events > merged.back())));
+        if (data.empty())
+            return;
+        merged.push_back(events);
+        // The session ends, and the editor is asked.
+        form.Events.Load_File();
+        form.Events.Check_For_Pre("1/1/2003", std::to_string(merged.size()) + " typed x", false);
+    };
+    Import(2, "C:\\in.csv", Imported(count));
+    EXPECT_GT(merged.size(), 3U);
+    EXPECT_EQ(std::count(Data_File().begin(), Data_File().end(), 'x'), count + 1);
+    EXPECT_FALSE(page.Progress_Bar1.Visible());
+    EXPECT_EQ(dialog->Model().pointer, platform::Pointer_Shape::Arrow);
+    EXPECT_TRUE(Text_Of(1).starts_with("0 - x + 28"));
+}
+
+TEST_F(Importing, takes_a_configuration_over_up_to_an_error) {
+    Cur_Settings.Use_Themes = 0;
+    const struct {
+        const char *bytes;
+        bool taken;
+        const char *stored; ///< of "Tooltips"
+    } cases[] = {
+        {"\"Tooltips=2\"\r\n\"Unknown=x\"\r\n\"Bar_Time_Format=H, mm\"\r\n\"TaskPos=3\"\r\nStyle=0\n", true,
+         "2"},
+        {"Tooltips=0\r\nBar_Date_Format=d Month, yyyy\r\nStyle=1\r\n", false, "0"},
+        {"Tooltips=2,Tooltips=abc,Style=1", false, "2"},
+        {"\"Tooltips=1", false, "2"}};
+    for (const auto &[bytes, taken, stored] : cases) {
+        Open(Settings_Frm::transfer_fra);
+        File("C:\\in.ini") = bytes;
+        Import(1, "C:\\in.ini",
+               taken ? "Loaded configuration file successfully."
+                     : "Error when importing configuration from file.");
+        EXPECT_EQ(form.Settings_Visible(), !taken) << bytes;
+        EXPECT_EQ(Stored("Tooltips"), stored) << bytes;
+        EXPECT_EQ(Cur_Settings.Style, 0) << bytes;
+    }
+    EXPECT_EQ(Stored("Alignment") + Stored("Bar Time Format"), "3H, mm");
+    EXPECT_EQ(Cur_Settings.Alignment, 3);
+}
+
+TEST_F(Importing, replaces_the_data_file_when_the_user_agrees) {
+    const std::string done = "Successfully imported data file from...\r\n\r\nC:\\other.dat";
+    const std::string question =
+        "You already have a working data file. Importing another one will completely overwrite the old one "
+        "and you "
+        "will lose all data. Are you absolutely sure you want to do this?\r\n\r\nReplace current file "
+        "'calendar.dat' "
+        "modified on 1/2/2002 09:05:00\r\n\r\nwith new file 'other.dat' modified on 1/2/2002 09:05:00";
+    File("C:\\other.dat") = "\"6/3/2002=New\"\r\n";
+    Import(0, "C:\\other.dat", done);
+    EXPECT_EQ(Text_Of(6), "New");
+    for (const auto answer :
+         {platform::Box_Answer::No, platform::Box_Answer::Cancel, platform::Box_Answer::Yes}) {
+        File("C:\\other.dat") = "\"6/3/2002=Newer\"\r\n";
+        Fakes().Expect_Dialog("Import Data File", "c:\\vellatro\\CALENDAR.dat");
+        Fakes().Expect_Box("You can't import the data file your currently using!");
+        Fakes().Expect_Box(question, answer);
+        Import(0, "C:\\other.dat", done);
+        EXPECT_EQ(Text_Of(6), answer == platform::Box_Answer::Yes ? "Newer" : "New");
+    }
+    Fakes().unwritable.insert("C:\\Vellatro\\calendar.dat");
+    Fakes().Expect_Box(question, platform::Box_Answer::Yes);
+    Import(0, "C:\\other.dat", "Error when importing data file.");
+}
+
+} // namespace

@@ -1,0 +1,33 @@
+// The fixture of the tests of import and export: the dialog is open on its page, and buttons are pressed.
+#pragma once
+
+#include "tests/settings/settings_test.h"
+
+class Transfer_Test : public Settings_Dialog {
+protected:
+    Transfer_Test() { Open(Settings_Frm::transfer_fra); }
+
+    static std::string &File(const std::string &path) { return Fakes().files[path]; }
+    static std::string &Backup() { return File("C:\\Vellatro\\data.bak"); }
+    static bool Has_Backup() { return Fakes().files.contains("C:\\Vellatro\\data.bak"); }
+
+    void Export(int index, const std::string &answer, const std::string &message) {
+        constexpr const char *titles[] = {"Export Data File", "Export Configuration File",
+                                          "Export Events to Text File", "Export Events as CSV File"};
+        Fakes().Expect_Dialog(titles[index], answer);
+        Press_Button(dialog->Transfer.Export_Btn[index], message);
+    }
+    void Import(int index, const std::string &answer, const std::string &message) {
+        constexpr const char *titles[] = {"Import Data File", "Import Configuration File",
+                                          "Import Events from CSV File"};
+        Fakes().Expect_Dialog(titles[index], answer);
+        Press_Button(dialog->Transfer.Import_Btn[index], message);
+    }
+
+private:
+    void Press_Button(const Button &button, const std::string &message) {
+        if (!message.empty())
+            Fakes().Expect_Box(message);
+        Push(*dialog, button);
+    }
+};

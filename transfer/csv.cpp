@@ -1,0 +1,145 @@
+// The rules of the program's files of comma separated values. One pass each, whatever the lengths.
+#include "transfer/csv.h"
+
+#include "core/convert.h"
+#include "platform/locale.h"
+#include "platform/message_box.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr std::string_view byte_order_mark = "\xEF\xBB\xBF";
+
+/// The record without pairs of quotes, and with a comma behind its last field.
+std::string Prepared(std::string_view record) {
+    std::string text;
+    text.reserve(record.size() + 1);
+    for (std::size_t i = 0; i < record.size(); ++i) {
+        if (record[i] == '"' && i + 1 < record.size() && record[i + 1] == '"')
+            ++i;
+        else
+            text += record[i];
+    }
+    return text + ',';
+}
+
+std::size_t Next_Comma(std::string_view text, std::size_t from) {
+    const std::size_t comma = text.find(',', from);
+    if (comma == std::string_view::npos)
+        throw CSV_Error("a field of a record has no end");
+    return comma;
+}
+
+/// The text of a field without its quotes. A field that holds commas is put together of its parts with "|" in
+/// their places, which all become commas: so does a "|" of its own.
+std::string Field_Text(std::string_view field) {
+    std::string text;
+    text.reserve(field.size());
+    for (const char character : field)
+        if (character != '"')
+            text += character == '|' ? ',' : character;
+    return text;
+}
+
+Date To_Date(const std::string &text) {
+    const std::optional<platform::Date_Time> date = platform::Read_Date(text);
+    if (!date)
+        throw Conversion_Error("a date");
+    return {static_cast<std::int16_t>(date->year), static_cast<std::int16_t>(date->month),
+            static_cast<std::int16_t>(date->day)};
+}
+
+std::string Event_Text(const std::string &subject, const std::string &description) {
+    // What the export writes as the subject of each event.
+    const bool has_subject = !subject.empty() && subject != "Vellatro";
+    return (has_subject ? subject : std::string()) + (has_subject && !description.empty() ? " - " : "") +
+           description;
+}
+
+} // namespace
+
+CSV_Lines::CSV_Lines(std::string_view bytes) : bytes_(bytes) {
+    if (bytes_.starts_with(byte_order_mark))
+        bytes_.remove_prefix(byte_order_mark.size());
+}
+
+std::string_view CSV_Lines::Next_Line() {
+    if (At_End())
+        throw CSV_Error("the file ends too early");
+    const std::size_t end = std::min(bytes_.find_first_of("\r\n", at_), bytes_.size());
+    const std::string_view line = bytes_.substr(at_, end - at_);
+    const bool pair = bytes_.substr(end).starts_with("\r\n");
+    at_ = std::min(end + (pair ? 2 : 1), bytes_.size());
+    return line;
+}
+
+std::string_view CSV_Lines::Next_Record() {
+    const std::string_view line = Next_Line();
+    if (line.ends_with('"'))
+        return line;
+    joined_ = line;
+    do {
+        const std::string_view next = Next_Line();
+        joined_ += ' ';
+        joined_ += next;
+    } while (joined_.back() != '"');
+    return joined_;
+}
+
+bool Check_CSV_Headings(std::string_view line, CSV_Columns &columns) {
+    for (const char *const word : {"description", "start date", "subject"}) {
+        if (line.find(word) != std::string_view::npos)
+            continue;
+        platform::Message_Box("Invalid CSV file or missing required headings.", "Vellatro",
+                              platform::Box_Icon::Stop);
+        return false;
+    }
+    std::string headings(line);
+    std::erase(headings, '"');
+    headings += ',';
+    std::int16_t column = 0;
+    for (std::size_t begin = 0, end = 0; (end = headings.find(',', begin)) != std::string::npos;
+         begin = end + 1) {
+        const std::string_view heading = std::string_view(headings).substr(begin, end - begin);
+        if (heading == "start date")
+            columns.Start_Date_Col = column;
+        if (heading == "description")
+            columns.Description_Col = column;
+        if (heading == "subject")
+            columns.Subject_Col = column;
+        column = Fit_Int16(column + 1);
+    }
+    return true;
+}
+
+bool Read_CSV_Line(std::string_view record, const CSV_Columns &columns, CSV_Event &event) {
+    const std::string text = Prepared(record);
+    event = {};
+    std::string subject, description;
+    std::int16_t column = 0;
+    for (std::size_t begin = 0; begin < text.size();) {
+        std::size_t comma = Next_Comma(text, begin);
+        while (text[begin] != '"') {
+            // Not in quotes: counted, but not read.
+            begin = comma + 1;
+            comma = Next_Comma(text, begin);
+            column = Fit_Int16(column + 1);
+        }
+        while (text[comma - 1] != '"')
+            comma = Next_Comma(text, comma + 1);
+        const std::string field = Field_Text(std::string_view(text).substr(begin, comma - begin));
+        if (column == columns.Start_Date_Col)
+            event.date = To_Date(field);
+        if (column == columns.Description_Col)
+            description = field;
+        if (column == columns.Subject_Col)
+            subject = field;
+        begin = comma + 1;
+        column = Fit_Int16(column + 1);
+    }
+    if (subject.empty() && description.empty())
+        return false;
+    event.text = Event_Text(subject, description);
+    return true;
+}

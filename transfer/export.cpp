@@ -1,0 +1,152 @@
+// Exporting to a file that the user names.
+#include "transfer/export.h"
+
+#include "core/event_store.h"
+#include "platform/files.h"
+#include "platform/locale.h"
+#include "platform/message_box.h"
+#include "transfer/configuration.h"
+#include "transfer/paths.h"
+
+#include <array>
+
+namespace {
+
+struct Kind_Row {
+    const char *title;
+    const char *filter;
+    const char *extension;
+    const char *to; ///< the target in the closing message; of events behind their number
+};
+
+constexpr std::array<Kind_Row, 4> kinds{
+    {{"Export Data File", "Data File (calendar.dat)|*.dat", ".dat", "data file to..."},
+     {"Export Configuration File", "Configuration File (*.ini)|*.ini", ".ini",
+      "current configuration to file..."},
+     {"Export Events to Text File", "Text File (*.txt)|*.txt", ".txt", " events to the text file..."},
+     {"Export Events as CSV File", "Comma Separated Values File (*.csv)|*.csv", ".csv",
+      " events to the CSV file..."}}};
+
+void Tell(const std::string &text, platform::Box_Icon icon) {
+    platform::Message_Box(text, "Vellatro", icon);
+}
+
+/// Asks for the file's name, until it is one that the user wants. Empty: cancelled.
+std::string Ask_Name(const Kind_Row &kind, OpenSaveDialog &dialog) {
+    for (;;) {
+        dialog.FileName.clear();
+        dialog.DialogTitle = kind.title;
+        dialog.Filter = kind.filter;
+        dialog.ShowSave();
+        std::string name = dialog.FileName;
+        if (name.empty())
+            return name;
+        if (Lower_Case(name.substr(name.size() < 4 ? 0 : name.size() - 4)) != kind.extension)
+            name += kind.extension;
+        // The copy would do no harm, but it would be none either.
+        if (Lower_Case(name) == Lower_Case(Event_Store::Data_File())) {
+            Tell("You can't export to the data file you're currently using!",
+                 platform::Box_Icon::Exclamation);
+            continue;
+        }
+        if (!platform::File_Exists(name) ||
+            platform::Message_Box("Overwrite existing file?", "Vellatro", platform::Box_Icon::Question,
+                                  platform::Box_Buttons::Yes_No) == platform::Box_Answer::Yes)
+            return name;
+    }
+}
+
+/// A field in quotes. Quotes in it, which only a hand-written record has, are doubled, as other programs
+/// read them; the import drops them.
+void Append_Field(std::string &bytes, std::string_view text, const char *after) {
+    bytes += '"';
+    for (const char character : text)
+        bytes.append(character == '"' ? 2 : 1, character);
+    bytes += '"';
+    bytes += after;
+}
+
+Date Next_Day(const Date &date) {
+    if (date.day < DaysInMonth(date))
+        return {date.year, date.month, static_cast<std::int16_t>(date.day + 1)};
+    if (date.month < 12)
+        return {date.year, static_cast<std::int16_t>(date.month + 1), 1};
+    return {static_cast<std::int16_t>(date.year + 1), 1, 1};
+}
+
+std::string Short_Date(const Date &date) {
+    return platform::Short_Date(date.year, date.month, date.day);
+}
+
+/// The file's bytes and the closing message without the file's name. False when there is nothing to export,
+/// which the user has been told.
+bool Make_Content(Export_Kind kind, const std::function<Settings()> &shown, Progress &progress,
+                  std::string &bytes, std::string &message) {
+    const std::string to = kinds[static_cast<std::size_t>(kind)].to;
+    message = "Successfully exported " + to;
+    if (kind == Export_Kind::Configuration) {
+        bytes = Configuration_Bytes(shown());
+        return true;
+    }
+    if (kind == Export_Kind::Data_File) {
+        if (!platform::File_Exists(Event_Store::Data_File())) {
+            Tell("Can't find data file! This could be because you havn't created any events yet?",
+                 platform::Box_Icon::Exclamation);
+            return false;
+        }
+        bytes = platform::Read_File(Event_Store::Data_File());
+        return true;
+    }
+    std::vector<Sort_Entry> entries;
+    // Half of the events must not look like all of them.
+    if (Load_Entries(entries, Sort_Order::Ascending_Date, Today()) == Reading::Incomplete) {
+        Tell("Error loading in data file.", platform::Box_Icon::Stop);
+        return false;
+    }
+    bytes = kind == Export_Kind::CSV ? CSV_Bytes(entries, progress) : Text_Bytes(entries, progress);
+    message = "Successfully exported " + std::to_string(entries.size()) + to;
+    return true;
+}
+
+} // namespace
+
+std::string Text_Bytes(const std::vector<Sort_Entry> &entries, Progress &progress) {
+    std::string bytes;
+    for (std::size_t i = 0; i < entries.size(); ++i) {
+        bytes.append(Line_Head(entries[i])).append(entries[i].text).append("\r\n");
+        if (progress.Due())
+            progress.Show(i, entries.size());
+    }
+    return bytes;
+}
+
+std::string CSV_Bytes(const std::vector<Sort_Entry> &entries, Progress &progress) {
+    constexpr const char *midnight = "12:00:00 AM";
+    std::string bytes =
+        "\"Subject\",\"Start Date\",\"Description\",\"Start Time\",\"End Date\",\"End Time\"\r\n";
+    for (std::size_t i = 0; i < entries.size(); ++i) {
+        Append_Field(bytes, "Vellatro", ",");
+        Append_Field(bytes, Short_Date(entries[i].date), ",");
+        Append_Field(bytes, entries[i].text, ",");
+        Append_Field(bytes, midnight, ",");
+        Append_Field(bytes, Short_Date(Next_Day(entries[i].date)), ",");
+        Append_Field(bytes, midnight, "\r\n");
+        if (progress.Due())
+            progress.Show(i, entries.size());
+    }
+    return bytes;
+}
+
+void Export_File(Export_Kind kind, OpenSaveDialog &dialog, const std::function<Settings()> &shown,
+                 Progress &progress) {
+    const std::string name = Ask_Name(kinds[static_cast<std::size_t>(kind)], dialog);
+    if (name.empty())
+        return;
+    progress.Begin();
+    std::string bytes, message;
+    if (!Make_Content(kind, shown, progress, bytes, message))
+        return;
+    platform::Replace_File(name, bytes);
+    progress.End();
+    Tell(message + "\r\n" + name, platform::Box_Icon::Information);
+}

@@ -1,0 +1,232 @@
+// The imports and their messages.
+#include "transfer/import.h"
+
+#include "core/settings.h"
+#include "platform/files.h"
+#include "platform/locale.h"
+#include "platform/message_box.h"
+#include "transfer/configuration.h"
+#include "transfer/paths.h"
+
+#include <algorithm>
+#include <exception>
+#include <optional>
+#include <utility>
+
+namespace {
+
+platform::Box_Answer Tell(const std::string &text, platform::Box_Icon icon,
+                          platform::Box_Buttons buttons = platform::Box_Buttons::Ok) {
+    return platform::Message_Box(text, "Vellatro", icon, buttons);
+}
+
+void Copy_File(const std::string &from, const std::string &to) {
+    platform::Replace_File(to, platform::Read_File(from));
+}
+
+/// Keeps the data file for the length of an import, and longer when that went well.
+class Backup {
+public:
+    Backup() : file_was_there_(platform::File_Exists(Event_Store::Data_File())) {
+        if (file_was_there_)
+            Copy_File(Event_Store::Data_File(), Importer::Backup_File());
+    }
+    /// Makes the data file what it was; the copy goes. Where there was none, there is none again, also beside
+    /// the copy that an earlier import has left.
+    void Restore() const {
+        if (file_was_there_ && platform::File_Exists(Importer::Backup_File()))
+            Copy_File(Importer::Backup_File(), Event_Store::Data_File());
+        else if (platform::File_Exists(Event_Store::Data_File()))
+            platform::Delete_File(Event_Store::Data_File());
+        if (platform::File_Exists(Importer::Backup_File()))
+            platform::Delete_File(Importer::Backup_File());
+    }
+
+private:
+    bool file_was_there_;
+};
+
+} // namespace
+
+Record_Merger::Record_Merger(std::vector<std::string> &records) : records_(records) {
+    first_.reserve(records.size());
+    // A record without "=", which only another hand can have written, is one of no day.
+    for (std::size_t i = 0; i < records.size(); ++i)
+        if (Event_Record parts; Part_Record(records[i], parts))
+            first_.emplace(parts.key, i);
+}
+
+void Record_Merger::Merge(const Date &date, const std::string &text) {
+    const std::string key = Date_Key(date);
+    const auto exact = first_.find(key);
+    const auto yearly = first_.find(Every_Year_Key(key));
+    if (exact == first_.end() && yearly == first_.end()) {
+        first_.emplace(key, records_.size());
+        records_.push_back(key + "=" + text);
+        return;
+    }
+    const std::size_t index = exact == first_.end()    ? yearly->second
+                              : yearly == first_.end() ? exact->second
+                                                       : std::min(exact->second, yearly->second);
+    records_[index].append(" + ").append(text);
+}
+
+Importer::Importer(Main_Frm &calendar, OpenSaveDialog &dialog) : calendar_(calendar), dialog_(dialog) {
+}
+
+std::string Importer::Backup_File() {
+    return platform::Program_Folder() + "\\data.bak";
+}
+
+/// Asks for a file that is there, and into dialog_.FileName. False when the user cancels.
+bool Importer::Ask_File(const char *title, const char *filter, bool not_own_file) {
+    for (;;) {
+        dialog_.FileName.clear();
+        dialog_.DialogTitle = title;
+        dialog_.Filter = filter;
+        dialog_.ShowOpen();
+        if (dialog_.FileName.empty())
+            return false;
+        if (!platform::File_Exists(dialog_.FileName))
+            Tell("File doesn't exist!", platform::Box_Icon::Exclamation);
+        else if (not_own_file && Lower_Case(dialog_.FileName) == Lower_Case(Event_Store::Data_File()))
+            Tell("You can't import the data file your currently using!", platform::Box_Icon::Exclamation);
+        else
+            return true;
+    }
+}
+
+void Importer::Import_CSV() {
+    std::optional<Backup> backup;
+    try {
+        backup.emplace();
+        if (!Ask_File("Import Events from CSV File", "Comma Separated Values File (*.csv)|*.csv", false))
+            return;
+        Work.Begin();
+        const std::size_t count = Read_And_Merge();
+        Work.End();
+        calendar_.Redraw();
+        Tell("Successfully imported " + std::to_string(count) + " events from the CSV file...\r\n\r\n" +
+                 dialog_.FileName,
+             platform::Box_Icon::Information);
+    } catch (const std::exception &) {
+        // A copy that could not be made may be an older one, which is not to come back.
+        try {
+            if (backup)
+                backup->Restore();
+        } catch (const std::exception &) { // the copy stays, for whoever looks
+        }
+        Work.End();
+        Tell("Error when importing from CSV file.", platform::Box_Icon::Exclamation);
+    }
+}
+
+/// Gives the number of events. The list shows them, and after an error those before it.
+std::size_t Importer::Read_And_Merge() {
+    std::vector<Sort_Entry> staged;
+    try {
+        Read_Events(platform::Read_File(dialog_.FileName), staged);
+        Merge_Imported(staged);
+    } catch (...) {
+        Show_Staged(std::move(staged));
+        throw;
+    }
+    const std::size_t count = staged.size();
+    Show_Staged(std::move(staged));
+    return count;
+}
+
+/// Stages the events of a file, nine tenths of the work. The date is kept beside the text and not read back
+/// out of the line that the list shows: a short form with two digits of the year, or one that the system does
+/// not read, would change the day. Where the form can be read back the result is the same.
+void Importer::Read_Events(const std::string &bytes, std::vector<Sort_Entry> &staged) {
+    CSV_Lines lines(bytes);
+    if (!Check_CSV_Headings(Lower_Case(std::string(lines.Next_Line())), columns_))
+        throw CSV_Error("the headings are not those of events");
+    CSV_Event event;
+    while (!lines.At_End()) {
+        if (Read_CSV_Line(lines.Next_Record(), columns_, event))
+            staged.push_back(
+                {Day_Number(event.date), event.date, false, Date_Key(event.date), std::move(event.text)});
+        if (Work.Due())
+            Work.Show(lines.Position(), bytes.size() / 9 * 10);
+    }
+}
+
+/// Merges in memory. The data file is to hold each event as soon as it is merged; it is written only where
+/// somebody else could look: at the end, and before the windows are painted meanwhile. At each moment it is
+/// what it is after some number of events, so that nobody can tell the difference, also when the program is
+/// killed. While windows are painted a session that ends may have unsaved text stored; so the file is read
+/// again afterwards.
+void Importer::Merge_Imported(const std::vector<Sort_Entry> &staged) {
+    std::size_t i = 0;
+    do {
+        calendar_.Events.Load_File();
+        Record_Merger merger(calendar_.Events.Temp_Lst);
+        bool due = false;
+        for (; i < staged.size() && !due; ++i) {
+            merger.Merge(staged[i].date, staged[i].text);
+            due = Work.Due();
+        }
+        if (!staged.empty())
+            calendar_.Events.Write_Data_File();
+        if (due)
+            Work.Show(9 * staged.size() + i, 10 * staged.size());
+    } while (i < staged.size());
+}
+
+void Importer::Import_Config() {
+    try {
+        if (!Ask_File("Import Configuration File", "Configuration File (*.ini)|*.ini", false))
+            return;
+        Show_Hourglass();
+        Import_Configuration(platform::Read_File(dialog_.FileName));
+        Apply_Configuration();
+    } catch (const std::exception &) {
+        Work.End();
+        Tell("Error when importing configuration from file.", platform::Box_Icon::Exclamation);
+        return;
+    }
+    Work.End();
+    Tell("Loaded configuration file successfully.", platform::Box_Icon::Information);
+    Configuration_Changed();
+}
+
+void Importer::Apply_Configuration() {
+    calendar_.Get_Wallpaper_Stuff(Cur_Settings.Pack_Name);
+    calendar_.Which_Style(calendar_.Effective_Style());
+    calendar_.Redraw();
+}
+
+/// Whether the user agrees to lose the data file that is there.
+bool Importer::May_Replace() const {
+    if (!platform::File_Exists(Event_Store::Data_File()))
+        return true;
+    const auto modified = [](const std::string &path) {
+        return platform::Date_Time_Text(platform::Modified_Time(path));
+    };
+    const std::string question =
+        "You already have a working data file. Importing another one will completely overwrite the old one "
+        "and "
+        "you will lose all data. Are you absolutely sure you want to do this?\r\n\r\nReplace current file "
+        "'calendar.dat' modified on " +
+        modified(Event_Store::Data_File()) + "\r\n\r\nwith new file '" + dialog_.FileTitle +
+        "' modified on " + modified(dialog_.FileName);
+    return Tell(question, platform::Box_Icon::Exclamation, platform::Box_Buttons::Yes_No_Cancel) ==
+           platform::Box_Answer::Yes;
+}
+
+void Importer::Import_Data_File() {
+    try {
+        if (!Ask_File("Import Data File", "Data File (calendar.dat)|*.dat", true))
+            return;
+        if (May_Replace())
+            Copy_File(dialog_.FileName, Event_Store::Data_File());
+        calendar_.Redraw();
+        // After No and Cancel, too.
+        Tell("Successfully imported data file from...\r\n\r\n" + dialog_.FileName,
+             platform::Box_Icon::Information);
+    } catch (const std::exception &) {
+        Tell("Error when importing data file.", platform::Box_Icon::Exclamation);
+    }
+}

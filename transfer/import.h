@@ -1,0 +1,63 @@
+// Importing: events, a configuration and whole data files out of files that the user chooses. How a file of
+// events is read is in csv.h, a configuration in configuration.h.
+#pragma once
+
+#include "calendar/main_frm.h"
+#include "core/event_entries.h"
+#include "transfer/csv.h"
+#include "transfer/progress.h"
+#include "ui/open_save_dialog.h"
+
+#include <functional>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+/// Folds events into the records as they are stored: an event joins the first record of its day, be that one
+/// an exact or an every-year one, and otherwise becomes the last record. Knows each day's first record, so
+/// that no event costs a search.
+class Record_Merger {
+public:
+    /// `records` must outlive the merger, and nobody else may change it.
+    explicit Record_Merger(std::vector<std::string> &records);
+    void Merge(const Date &date, const std::string &text);
+
+private:
+    std::vector<std::string> &records_;
+    std::unordered_map<std::string, std::size_t> first_; ///< key to index
+};
+
+/// The three imports, with all messages to the user. None throws.
+class Importer {
+public:
+    /// Both must outlive it. The files are asked for in `dialog`.
+    Importer(Main_Frm &calendar, OpenSaveDialog &dialog);
+
+    void Import_CSV();
+    void Import_Config();
+    void Import_Data_File();
+
+    // All to be filled.
+
+    Progress Work;
+    /// The list of events is to show these instead of what it shows.
+    std::function<void(std::vector<Sort_Entry>)> Show_Staged;
+    /// The pointer over the dialog is to be the hourglass until the work's end.
+    std::function<void()> Show_Hourglass;
+    /// The settings are not what the dialog shows any more: it is to be closed.
+    std::function<void()> Configuration_Changed;
+
+    static std::string Backup_File();
+
+private:
+    bool Ask_File(const char *title, const char *filter, bool not_own_file);
+    std::size_t Read_And_Merge();
+    void Read_Events(const std::string &bytes, std::vector<Sort_Entry> &staged);
+    void Merge_Imported(const std::vector<Sort_Entry> &staged);
+    void Apply_Configuration();
+    bool May_Replace() const;
+
+    Main_Frm &calendar_;
+    OpenSaveDialog &dialog_;
+    CSV_Columns columns_; ///< of the last file, too
+};

@@ -1,0 +1,36 @@
+// When a long piece of work tells how far it has come.
+#include "transfer/progress.h"
+
+#include "platform/clock.h"
+
+namespace {
+
+constexpr unsigned first_wait = 1000;
+constexpr unsigned next_wait = 500;
+constexpr unsigned steps_a_look = 64; ///< the clock is slower than a step
+
+} // namespace
+
+void Progress::Begin() {
+    begun_ = platform::Milliseconds();
+    wait_ = first_wait;
+    steps_ = 0;
+}
+
+bool Progress::Due() {
+    return ++steps_ % steps_a_look == 0 && platform::Milliseconds() - begun_ >= wait_;
+}
+
+void Progress::Show(std::size_t done, std::size_t total) {
+    if (On_Show)
+        On_Show(total == 0
+                    ? 100
+                    : static_cast<int>(100.0 * static_cast<double>(done) / static_cast<double>(total)));
+    // Counted from now: what was done to show it takes time, too.
+    wait_ = platform::Milliseconds() - begun_ + next_wait;
+}
+
+void Progress::End() {
+    if (On_End)
+        On_End();
+}

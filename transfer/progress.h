@@ -1,0 +1,26 @@
+// When a long piece of work tells how far it has come. What it looks like is the business of who fills the
+// slots.
+#pragma once
+
+#include <cstddef>
+#include <functional>
+
+/// Nothing is told in the first second, afterwards something twice a second.
+class Progress {
+public:
+    std::function<void(int percent)> On_Show; ///< may let windows be painted, but nothing else happen
+    std::function<void()> On_End;             ///< after On_Show: nothing more is to be told
+
+    void Begin();
+    /// Whether it is time to tell. To be asked after every small step.
+    bool Due();
+    /// Tells that `done` of `total` steps are done.
+    void Show(std::size_t done, std::size_t total);
+    /// The work is done, or given up; may be called without any.
+    void End();
+
+private:
+    unsigned begun_ = 0;
+    unsigned wait_ = 0; ///< milliseconds after begun_ until the next telling
+    unsigned steps_ = 0;
+};

@@ -1,0 +1,79 @@
+// File dialogs: platform/file_dialog.h over the common dialogs.
+#include "platform/file_dialog.h"
+
+#include "win32/mirror.h"
+#include "win32/modal.h"
+#include "win32/paths.h"
+#include "win32/wide_text.h"
+
+#include <commdlg.h>
+
+namespace platform {
+
+namespace {
+
+/// Puts the current folder back at the end of a scope: the dialogs change it to where the user has looked,
+/// and a current folder is one that nobody can remove.
+class Kept_Folder {
+public:
+    Kept_Folder() {
+        const DWORD size = GetCurrentDirectoryW(0, nullptr);
+        folder_.resize(size);
+        folder_.resize(GetCurrentDirectoryW(size, folder_.data()));
+    }
+    ~Kept_Folder() {
+        if (!folder_.empty())
+            SetCurrentDirectoryW(folder_.c_str());
+    }
+    Kept_Folder(const Kept_Folder &) = delete;
+    Kept_Folder &operator=(const Kept_Folder &) = delete;
+
+private:
+    std::wstring folder_;
+};
+
+std::wstring Up_To_Nul(const std::wstring &text) {
+    return text.substr(0, text.find(L'\0'));
+}
+
+const wchar_t *Or_None(const std::wstring &text) {
+    return text.empty() ? nullptr : text.c_str();
+}
+
+} // namespace
+
+bool Show_File_Dialog(File_Dialog &dialog) {
+    const std::wstring filter = win32::To_Wide(dialog.filter);
+    const std::wstring folder = win32::To_Wide(dialog.folder);
+    const std::wstring title = win32::To_Wide(dialog.title);
+    std::wstring file(dialog.file_room, L'\0');
+    std::wstring file_title(dialog.title_room, L'\0');
+    OPENFILENAMEW record = {};
+    // The size that every Windows takes.
+    record.lStructSize = OPENFILENAME_SIZE_VERSION_400W;
+    record.hwndOwner = dialog.owner == nullptr ? nullptr : win32::Window_Of_Form(*dialog.owner);
+    record.hInstance = GetModuleHandleW(nullptr);
+    record.lpstrFilter = Or_None(filter);
+    record.nFilterIndex = static_cast<DWORD>(dialog.filter_index);
+    record.lpstrFile = file.data();
+    record.nMaxFile = static_cast<DWORD>(file.size());
+    record.lpstrFileTitle = file_title.data();
+    record.nMaxFileTitle = static_cast<DWORD>(file_title.size());
+    record.lpstrInitialDir = Or_None(folder);
+    record.lpstrTitle = Or_None(title);
+    record.Flags = static_cast<DWORD>(dialog.flags);
+
+    const Kept_Folder kept;
+    const win32::Modal_Scope modal;
+    const win32::Locked_Windows locked(record.hwndOwner);
+    if (!(dialog.saves ? GetSaveFileNameW(&record) : GetOpenFileNameW(&record)))
+        return false;
+    dialog.file = (dialog.flags & Multiple_Files) != 0 ? win32::From_Wide(file)
+                                                       : win32::Path_From_System(Up_To_Nul(file));
+    dialog.file_title = win32::From_Wide(Up_To_Nul(file_title));
+    dialog.flags = static_cast<std::int32_t>(record.Flags);
+    dialog.filter_index = static_cast<std::int32_t>(record.nFilterIndex);
+    return true;
+}
+
+} // namespace platform
