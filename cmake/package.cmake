@@ -4,9 +4,18 @@ if(NOT EXISTS "${SOURCES}/packs/Default/settings.ini")
     message(FATAL_ERROR "The theme pack packs/Default is missing")
 endif()
 set(stage "${OUT}/package")
+set(folder "${stage}/Vellatro")
 file(REMOVE_RECURSE "${stage}")
-file(COPY "${PROGRAM}" "${SOURCES}/packs/Default" "${SOURCES}/README.md" "${SOURCES}/LICENSE"
-    DESTINATION "${stage}/Vellatro" PATTERN "*.bmp" EXCLUDE)
+file(COPY "${PROGRAM}" "${SOURCES}/packs/Default" DESTINATION "${folder}" PATTERN "*.bmp" EXCLUDE)
+# Older Windows' editor shows line ends of this kind only.
+configure_file("${SOURCES}/LICENSE" "${folder}/LICENSE.txt" @ONLY NEWLINE_STYLE CRLF)
+configure_file("${SOURCES}/docs/guide.md" "${folder}/docs/guide.md" @ONLY NEWLINE_STYLE CRLF)
+# The pictures that the guide shows; one that is not there breaks off.
+file(READ "${SOURCES}/docs/guide.md" guide)
+string(REGEX MATCHALL "[a-z-]+\\.png" pictures "${guide}")
+foreach(picture ${pictures})
+    file(COPY "${SOURCES}/docs/${picture}" DESTINATION "${folder}/docs")
+endforeach()
 file(REMOVE "${OUT}/vellatro.zip")
 execute_process(COMMAND "${CMAKE_COMMAND}" -E tar cf "${OUT}/vellatro.zip" --format=zip Vellatro
     WORKING_DIRECTORY "${stage}" COMMAND_ERROR_IS_FATAL ANY)

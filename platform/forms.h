@@ -82,7 +82,9 @@ struct Control_State {
     bool read_only = false;   ///< text boxes
 
     bool painted = false;  ///< in a dialog: draws itself with `paint`, and tells of the mouse
-    bool tab_stop = false; ///< a painted control that takes the keyboard and tells of keys
+    bool tab_stop = false; ///< a painted control that takes the keyboard and tells of keys; of Enter only
+                           ///< where it has a default action, else that presses the default button
+    bool link = false;     ///< a painted control with the hand pointer
     /// Paints a painted control of a dialog, in twips from its own top left corner. Never throws. The mirror
     /// adds the dotted rectangle of the keyboard focus.
     std::function<void(Canvas &canvas, const Rect &clip)> paint;
@@ -120,6 +122,7 @@ enum class Input_Kind : std::uint8_t {
     Focus_Changed,  ///< the form got (`checked`) or lost the keyboard
     Capture_Lost,   ///< the mouse went elsewhere while a button was held: its release will not come
     Dots_Changed,   ///< the screen's dots per inch changed
+    Moved,          ///< the window of a dialog is at `point` on the screen now
 };
 
 /// One user action. Fields that do not belong to the kind stay at their defaults.
@@ -128,7 +131,7 @@ struct Input_Event {
     /// Index of the control of a dialog that the event is about, with keys the focused one; in painted forms
     /// the control that assistive technology means.
     int control = -1;
-    Point point; ///< mouse, twips on the form; where `control` names one, on that
+    Point point; ///< mouse, twips on the form; where `control` names one, on that; of Moved on the screen
     Mouse_Button button = Mouse_Button::None; ///< the button that changed; in a move the one that is held
     int key = 0;                              ///< virtual key code
     bool repeated = false;                    ///< a Key_Down of a key that was down before

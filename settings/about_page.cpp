@@ -15,6 +15,7 @@ constexpr const char *web_page = "https://vellatro.example/";
 /// Readable on light and on dark backgrounds, which the system's own colour of links is not everywhere.
 constexpr platform::Colour link_colour = platform::Rgb(0x00, 0x66, 0xCC);
 constexpr platform::Font name_font{200, true};
+constexpr int link_margin = 3 * 15; ///< for the mark of the keyboard
 
 } // namespace
 
@@ -33,6 +34,7 @@ About_Page::About_Page(Form &dialog, Frame &frame)
     Link_Lbl.Set_Transparent(true);
     Link_Lbl.Set_Align(platform::Text_Align::Centre, false);
     Link_Lbl.Set_Tab_Stop();
+    Link_Lbl.Set_Link();
     platform::Access_State access;
     access.role = platform::Access_Role::Button;
     access.name = web_page;
@@ -40,9 +42,11 @@ About_Page::About_Page(Form &dialog, Frame &frame)
     Link_Lbl.Set_Access(std::move(access));
     Link_Lbl.On_Paint = [this](platform::Canvas &canvas) {
         const int line = platform::Line_Height(Link_Lbl.Font());
-        platform::Fill_Rect(canvas, {0, line - 15, Link_Lbl.Width(), 15}, link_colour);
+        platform::Fill_Rect(canvas, {link_margin, line - 15, Link_Lbl.Width() - 2 * link_margin, 15},
+                            link_colour);
     };
     Link_Lbl.On_Click = [] { gotoweb(); };
+    Link_Lbl.On_Double_Click = [] {}; // once is enough
     Link_Lbl.On_Default_Action = [] { gotoweb(); };
     Lay_Out();
 }
@@ -80,6 +84,6 @@ void About_Page::Lay_Out() {
     centred(Name_Lbl, page_width, platform::Line_Height(name_font), gap);
     centred(Version_Lbl, page_width, line, 2 * margin);
     centred(Designed_Lbl, page_width, line, margin);
-    // No wider than its text: beside it nothing is clicked.
-    centred(Link_Lbl, platform::Text_Width(web_page, Link_Lbl.Font()), line + small_gap, 0);
+    // Hardly wider than its text: beside it nothing is clicked.
+    centred(Link_Lbl, platform::Text_Width(web_page, Link_Lbl.Font()) + 2 * link_margin, line + small_gap, 0);
 }

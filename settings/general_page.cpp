@@ -17,7 +17,7 @@ General_Page::General_Page(Form &dialog, Frame &frame, Main_Frm &calendar)
       Allow_Dragging_Chk(dialog, "Allow_Dragging_Chk",
                          "Allow d&ragging when Manual Position is not selected"),
       Alert_Chk(dialog, "Alert_Chk", "A&lert me when a date Comes up"),
-      Startup_Chk(dialog, "Startup_Chk", "Run at &Startup") {
+      Startup_Chk(dialog, "Startup_Chk", "Run at &Startup"), calendar_(calendar) {
     Put_Into(frame, {&Title_Bar_Fra, &General_Fra});
     Put_Into(Title_Bar_Fra,
              {&Bar_Time_Chk, &Bar_Time_Lbl, &Bar_Time_Cbo, &Bar_Date_Lbl, &Bar_Date_Cbo, &Bar_Preview_Lbl});
@@ -27,10 +27,7 @@ General_Page::General_Page(Form &dialog, Frame &frame, Main_Frm &calendar)
     Bar_Time_Cbo.Set_Items({"H:mm", "HH:mm", "H:mm:ss", "HH:mm:ss", "h:mm AM/PM", "h:mm:ss AM/PM"});
     Bar_Date_Cbo.Set_Editable();
     Bar_Date_Cbo.Set_Items(Bar_Date_Formats());
-    // As the calendar draws its title.
     Bar_Preview_Lbl.Set_Painted();
-    Bar_Preview_Lbl.Set_Back_Colour(calendar.Back_Colour());
-    Bar_Preview_Lbl.Set_Fore_Colour(calendar.Which_Month_Lbl.Fore_Colour());
     Bar_Preview_Lbl.Set_Font(calendar.Which_Month_Lbl.Font());
     Bar_Preview_Lbl.Set_Align(platform::Text_Align::Centre, true);
     const auto show = [this] { Show_Preview(); };
@@ -51,13 +48,15 @@ void General_Page::Get_Startup_Value() {
 }
 
 void General_Page::Show_Preview() {
+    // As the calendar draws its title.
+    Bar_Preview_Lbl.Set_Back_Colour(calendar_.Back_Colour());
+    Bar_Preview_Lbl.Set_Fore_Colour(calendar_.Which_Month_Lbl.Fore_Colour());
     Bar_Preview_Lbl.Set_Caption(
         Title_Of_Today(Bar_Time_Chk.Checked(), Bar_Time_Cbo.Text(), Bar_Date_Cbo.Text(), platform::Now()));
-    preview_timer_.Set_Enabled(watched_ && Bar_Time_Chk.Checked());
 }
 
 void General_Page::Set_Watched(bool watched) {
-    watched_ = watched;
+    preview_timer_.Set_Enabled(watched);
     Show_Preview();
 }
 

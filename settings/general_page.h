@@ -16,7 +16,7 @@ public:
     void Get_Startup_Value();
     /// Shows the title as it would be now.
     void Show_Preview();
-    /// Whether the page can be seen: only then a shown time goes on.
+    /// Whether the page can be seen: only then the preview goes with the time.
     void Set_Watched(bool watched);
 
     Frame Title_Bar_Fra;
@@ -33,6 +33,6 @@ public:
     Check_Box Startup_Chk;
 
 private:
-    bool watched_ = false;
+    Main_Frm &calendar_;
     Timer preview_timer_{1000};
 };

@@ -23,10 +23,8 @@ bool Save_Changed(T &variable, T value, std::string_view key) {
     return true;
 }
 
-/// Any number but 0 is a checked box, and stays what it is while the box does.
 bool Save_Changed(std::int16_t &variable, const Check_Box &box, std::string_view key) {
-    return box.Checked() != (variable != 0) &&
-           Save_Changed<std::int16_t>(variable, box.Checked() ? 1 : 0, key);
+    return Save_Changed<std::int16_t>(variable, box.Checked() ? 1 : 0, key);
 }
 
 } // namespace
@@ -70,13 +68,14 @@ void Settings_Frm::Save_General_Settings() {
     Save_Changed(Cur_Settings.Allow_Dragging, General.Allow_Dragging_Chk, "Allow Dragging");
     if (Save_Changed(Cur_Settings.Auto_Compact, General.Auto_Compact_Chk, "Auto Compact"))
         calendar_.Compact_Timer.Set_Enabled(General.Auto_Compact_Chk.Checked());
-    // The boxes have the standard tooltips or have them not.
-    if (Save_Changed(Cur_Settings.Tooltips, Tooltips.Selected(), "Tooltips"))
-        calendar_.Load_Dates();
+    const bool other_tooltips = Save_Changed(Cur_Settings.Tooltips, Tooltips.Selected(), "Tooltips");
     // Emptied and not deleted where the box is not ticked.
     const std::string program = platform::Program_Folder() + "\\" + platform::Program_Name() + ".exe";
     platform::Registry_Write("HKLM", "Software\\Microsoft\\Windows\\CurrentVersion\\Run", "Vellatro", 'S',
                              General.Startup_Chk.Checked() ? program : std::string());
+    // The boxes have the standard tooltips or have them not. Last, because it may tell of an event.
+    if (other_tooltips)
+        calendar_.Load_Dates();
 }
 
 void Settings_Frm::Save_Other_DM() {
@@ -102,6 +101,9 @@ void Settings_Frm::Save_Theme() {
     // keeps the last wallpaper: there is no telling which one was there before.
     if (Cur_Settings.Use_Themes == 1)
         Run_Guarded([this] { calendar_.Get_Wallpaper_Stuff(Cur_Settings.Pack_Name); });
+    // A missing pack has ended the use of themes.
+    if (Cur_Settings.Use_Themes == 0 && Wallpaper.Theme_Use_Chk.Checked())
+        Wallpaper.Get_Themes();
     calendar_.Which_Style(calendar_.Effective_Style());
     calendar_.TransparentForm();
     if (Cur_Settings.Use_Themes != 1 || Cur_Settings.Use_Theme_Pos != 1) {

@@ -111,7 +111,7 @@ void Screen_Miniature::Paint_Calendar(Canvas &canvas, Size size) const {
     // Title and headers are one bar, as the gap between them is less than a pixel.
     const Rect headers = layout.Header(0);
     platform::Fill_Rect(canvas, place({0, 0, layout.Whole().width, headers.Bottom()}),
-                        Cur_Settings.Menu_Col_Sorce != 0 ? Cur_Settings.Col_Back : dark_grey);
+                        main_frm_->Back_Colour());
     // The gaps between boxes would be seen in some places and not in others: a line of its own parts them.
     for (int i = first_box_; i <= last_box_; ++i) {
         Rect box = layout.Box(i);

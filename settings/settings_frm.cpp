@@ -73,6 +73,12 @@ Settings_Frm::~Settings_Frm() {
 }
 
 void Settings_Frm::Form_Load() {
+    ++events_;
+    Run_Guarded([this] { Open(); });
+    --events_;
+}
+
+void Settings_Frm::Open() {
     // What cannot be shown of one page is told, and keeps nobody from the others.
     const std::initializer_list<std::function<void()>> steps = {
         [this] { Events.Write_Month_Titles(); },
@@ -159,6 +165,8 @@ void Settings_Frm::TabStrip1_Click() {
     None_Vis();
     const int page = Which_Tab() - 1;
     Settings_Fra[page].Set_Visible(true);
+    // Apply may have changed the calendar's colours, and midnight the day.
+    Tooltips.Dress_Examples();
     General.Set_Watched(page == general_fra);
 }
 
@@ -181,6 +189,8 @@ void Settings_Frm::Apply_Btn_Click() {
          {&Settings_Frm::Save_Colours, &Settings_Frm::Save_General_Settings, &Settings_Frm::Save_Other_DM,
           &Settings_Frm::Save_Theme, &Settings_Frm::Save_Bar_Settings})
         Run_Guarded([this, save] { (this->*save)(); });
+    // Its examples have the calendar's colours.
+    Style.Style_Preview();
 }
 
 void Settings_Frm::Form_Unload() {

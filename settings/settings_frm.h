@@ -44,7 +44,7 @@ public:
     void Form_Load();
     /// Keeps the tab, takes the dialog down and lets the calendar go on. Does nothing when that is done.
     void Form_Unload();
-    /// An event of the dialog has not returned yet.
+    /// Its opening or an event of it has not returned yet.
     bool Busy() const { return events_ > 0; }
 
     /// Number of the selected tab, counted from 1.
@@ -82,6 +82,7 @@ public:
 
 private:
     void Lay_Out();
+    void Open();
     void Load_Settings();
     void Load_General_Settings();
     void Position_Frames();

@@ -108,6 +108,7 @@ void Style_Page::Load_Settings() {
 void Style_Page::Set_Theme(const Theme_Look &look) {
     theme_ = look;
     Pos_Hint_Lbl.Set_Enabled(!look.use_position);
+    Manual_Lbl.Set_Enabled(!look.use_position);
     Style_Preview();
     Show_Position();
 }

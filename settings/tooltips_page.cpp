@@ -59,16 +59,15 @@ Tooltips_Page::Tooltips_Page(Form &dialog, Frame &frame, Main_Frm &calendar)
     }
     TipExample_Lbl.Set_Transparent(true);
     TipExample_Lbl.Set_Align(platform::Text_Align::Centre, true);
-    // Today's box, as the calendar draws it.
-    TipBoxExample_Lbl.Set_Caption(std::to_string(Today().day));
-    TipBoxExample_Lbl.Set_Back_Colour(Cur_Settings.Col_Today);
-    TipBoxExample_Lbl.Set_Fore_Colour(Cur_Settings.Col_Num);
-    TipBoxExample_Lbl.Set_Frame_Colour(Strong_Shade(Cur_Settings.Col_Today));
-    platform::Font bold;
-    bold.bold = true;
-    TipBoxExample_Lbl.Set_Font(bold);
     TipBoxExample_Lbl.Set_Padding(small_gap);
+    Dress_Examples();
     Lay_Out();
+}
+
+void Tooltips_Page::Dress_Examples() {
+    TipBoxExample_Lbl.Set_Caption(std::to_string(Today().day));
+    TipBoxExample_Lbl.Set_Fore_Colour(Cur_Settings.Col_Num);
+    Dress_Today(TipBoxExample_Lbl, Cur_Settings.Col_Today);
 }
 
 void Tooltips_Page::Select(std::int16_t kind) {

@@ -16,6 +16,8 @@ public:
     /// Selects a kind: 0 none, 1 standard, 2 balloons. Another number is the standard kind.
     void Select(std::int16_t kind);
     std::int16_t Selected() const;
+    /// Shows today's box among the examples as the calendar draws it now.
+    void Dress_Examples();
     /// The button is not held any more, by whatever way: an example balloon goes, or does not come.
     void Release();
 

@@ -142,6 +142,8 @@ void Wallpaper_Preview::End() noexcept {
     Run_Guarded([&] { Place_Calendar(); });
     Run_Guarded([&] { calendar_.Which_Month_Lbl.Set_Caption(before.caption); });
     Run_Guarded([&] { calendar_.Dectect_Date_Timer.Set_Enabled(before.watches_date); });
+    // The program may be about to end, and the next preview looks up what hangs now.
+    platform::Finish_Wallpaper();
     Run_Guarded([&] { Fire(On_End, bool{pack_failed_}); });
 }
 

@@ -58,10 +58,10 @@ bool Is_Month(std::string_view key, std::int16_t month) {
 std::string Tell_Missing_Pack(const std::string &pack, const std::function<void()> &remove_wallpaper) {
     platform::Message_Box("Missing Theme " + pack + ". Themes will now be disabled.", "Vellatro",
                           platform::Box_Icon::Stop);
-    // Also where the store takes no change, so that it is not told again until the next start.
+    // A store that takes no change lets it be told again, but not before the next start.
     Cur_Settings.Use_Themes = 0;
+    Store_Setting("Use Themes");
     remove_wallpaper();
-    Save_Setting("Use Themes");
     return Theme_Error;
 }
 

@@ -26,8 +26,7 @@ std::string Pack_File(const std::string &pack, const std::string &name);
 std::string Month_Details(std::string_view bytes, std::int16_t month);
 
 /// The value text of a month in a pack, or Theme_Error. A pack that is missing ends the use of themes: the
-/// user is told, the setting is changed, and `remove_wallpaper` has to take the wallpaper away. Throws
-/// platform::Registry_Error when the setting cannot be stored.
+/// user is told, the setting is changed, and `remove_wallpaper` has to take the wallpaper away.
 std::string Get_Paper_Details(std::int16_t month, const std::string &pack,
                               const std::function<void()> &remove_wallpaper);
 

@@ -61,7 +61,8 @@ public:
     void Set_Container(const Frame &frame);
 
     // Events. The point is relative to the control's top left corner.
-    /// A button of any kind pressed, a painted control clicked with the left button.
+    /// A button of any kind pressed, a painted control clicked with the left button. The second click of a
+    /// double click is one too, where there is no On_Double_Click.
     std::function<void()> On_Click;
     std::function<void(platform::Mouse_Button, platform::Point)> On_Mouse_Down;
     std::function<void(platform::Mouse_Button, platform::Point)> On_Mouse_Up;

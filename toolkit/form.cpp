@@ -210,6 +210,10 @@ void Form::Handle(const Input_Event &event) {
         return Fire(On_Capture_Lost);
     case Input_Kind::Dots_Changed:
         return Fire(On_Dots_Changed);
+    case Input_Kind::Moved:
+        model_.bounds.left = event.point.x;
+        model_.bounds.top = event.point.y;
+        return;
     }
 }
 
@@ -232,7 +236,9 @@ void Form::Press(Control *control, const Input_Event &event, platform::Point poi
     if (!Takes_Input(control))
         return;
     // A double click is the left button's; with the others the second press is one like the first.
-    if (event.kind == Input_Kind::Double_Click && event.button == Mouse_Button::Left)
+    const bool is_double = event.kind == Input_Kind::Double_Click && event.button == Mouse_Button::Left;
+    double_clicked_ = is_double && control->On_Double_Click;
+    if (is_double)
         return Fire(control->On_Double_Click);
     Fire(control->On_Mouse_Down, event.button, point);
 }
@@ -264,7 +270,7 @@ void Form::Handle_Mouse(const Input_Event &event) {
         return;
     if (!released)
         return Fire(control->On_Mouse_Move, event.button, point);
-    const bool clicked = event.button == Mouse_Button::Left &&
+    const bool clicked = event.button == Mouse_Button::Left && !double_clicked_ &&
                          platform::Rect{0, 0, control->Width(), control->Height()}.Contains(point);
     const auto on_click = clicked ? control->On_Click : nullptr;
     Fire(control->On_Mouse_Up, event.button, point);

@@ -22,7 +22,7 @@ public:
     const platform::Form_Model &Model() const { return model_; }
     platform::Form_Model &Model() { return model_; }
 
-    // Place on the screen and size, in twips.
+    // Place on the screen, also where the user moved it, and size, in twips.
     int Left() const { return model_.bounds.left; }
     int Top() const { return model_.bounds.top; }
     int Width() const { return model_.bounds.width; }
@@ -93,6 +93,8 @@ private:
     std::vector<Control *> controls_;
     Control *captured_ = nullptr; ///< takes the mouse from button down to up
     platform::Mouse_Button captured_by_ = platform::Mouse_Button::None;
+    bool double_clicked_ =
+        false; ///< the last press was the second one of a double click that is taken as such
     std::optional<std::vector<platform::Rect>> clip_; ///< nothing: not clipped
     std::vector<platform::Point> shape_;              ///< empty: no polygon
     bool created_ = false;                            ///< there is a native window

@@ -3,6 +3,7 @@
 
 #include "toolkit/fire.h"
 #include "toolkit/form.h"
+#include "toolkit/keys.h"
 #include "toolkit/painter.h"
 
 #include <algorithm>
@@ -142,6 +143,14 @@ void Slider::Take(const Input_Event &event) {
 
 Picture_Box::Picture_Box(Form &form, std::string_view name) : Control(form, Control_Kind::Picture_Box, name) {
     Paint_Itself(state_, [this](platform::Canvas &canvas) { Paint_Content(canvas); });
+}
+
+void Picture_Box::Set_Tab_Stop() {
+    state_.tab_stop = true;
+    On_Key_Down = [this](const Input_Event &event) {
+        if (event.key == Key_Return && !event.repeated)
+            Fire(On_Click);
+    };
 }
 
 void Picture_Box::Set_Picture(platform::Picture picture) {

@@ -102,9 +102,11 @@ public:
     Picture_Box(Form &form, std::string_view name);
     /// A picture with the width 0 is none.
     void Set_Picture(platform::Picture picture);
-    /// Makes the keyboard reach it: it gets On_Key_Down, and the space bar clicks it. Before there is a
-    /// native window.
-    void Set_Tab_Stop() { state_.tab_stop = true; }
+    /// Makes the keyboard reach it: it gets On_Key_Down, and the space bar clicks it. So does Enter, where
+    /// there is a default action and no other On_Key_Down. Before there is a native window.
+    void Set_Tab_Stop();
+    /// Gives it the pointer of a link.
+    void Set_Link() { state_.link = true; }
     /// Paints it anew: what On_Paint draws has changed.
     void Repaint() { Tell(platform::Aspect::Look); }
     /// Paints on the background and the picture, in twips from the top left corner of the box.

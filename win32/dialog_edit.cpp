@@ -70,7 +70,9 @@ bool Handle(HWND edit, UINT message, WPARAM wparam, LRESULT &result) {
         result = DLGC_WANTCHARS | DLGC_WANTARROWS | DLGC_HASSETSEL;
         return true;
     case WM_PASTE:
-        Paste(edit);
+        // What puts the text in asks nobody whether it may.
+        if ((GetWindowLongW(edit, GWL_STYLE) & ES_READONLY) == 0)
+            Paste(edit);
         return true;
     case WM_CHAR:
         if (wparam == select_all)

@@ -65,6 +65,9 @@ LRESULT Dialog_Window::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
         Send(event);
         return result;
     }
+    case WM_MOVE:
+        Moved();
+        break;
     case WM_DPICHANGED:
         // The system would scale the controls by itself; they follow the calendar's screen.
         return 0;
@@ -114,7 +117,7 @@ void Dialog_Window::Own_Aspect_Changed(Aspect aspect) {
 
 void Dialog_Window::Place() {
     const platform::Rect bounds = Model()->bounds;
-    const bool moved = bounds.left != placed_.left || bounds.top != placed_.top || !is_placed_;
+    const bool moved = bounds.left != placed_.x || bounds.top != placed_.y || !is_placed_;
     RECT outer = {0, 0, To_Pixels(bounds.width), To_Pixels(bounds.height)};
     AdjustWindowRectEx(&outer, static_cast<DWORD>(GetWindowLongW(window_, GWL_STYLE)), FALSE,
                        static_cast<DWORD>(GetWindowLongW(window_, GWL_EXSTYLE)));
@@ -137,8 +140,19 @@ void Dialog_Window::Place() {
         SetWindowPos(window_, nullptr, 0, 0, place.right - place.left + wider,
                      place.bottom - place.top + higher, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
     }
-    placed_ = bounds;
     is_placed_ = true;
+    Moved();
+}
+
+/// Tells the form where the window is, as the user or the screen's edge has it.
+void Dialog_Window::Moved() {
+    RECT now = {};
+    if (!is_placed_ || IsIconic(window_) || !GetWindowRect(window_, &now))
+        return;
+    Input_Event event{};
+    event.kind = Input_Kind::Moved;
+    event.point = placed_ = {To_Twips(static_cast<int>(now.left)), To_Twips(static_cast<int>(now.top))};
+    Send(event);
 }
 
 void Dialog_Window::Show_Or_Hide() {

@@ -89,6 +89,7 @@ private:
     void Colours_Changed(UINT message, WPARAM wparam, LPARAM lparam);
 
     void Place() override;
+    void Moved();
     void Show_Or_Hide() override;
     void Own_Aspect_Changed(platform::Aspect aspect) override;
     void Focus();
@@ -103,7 +104,7 @@ private:
     Slider_Tip slider_tip_;
     COLORREF page_colour_ = 0;
     Unique_Brush page_brush_;
-    platform::Rect placed_; ///< the form's bounds when the window was placed last
+    platform::Point placed_; ///< where the form knows the window to be
     bool is_placed_ = false;
     bool updating_ = false; ///< the program changes a control, which is no user's doing
 };

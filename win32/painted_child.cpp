@@ -78,7 +78,15 @@ LRESULT Painted_Child::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
         return 0;
     }
     case WM_GETDLGCODE:
-        return Control().tab_stop ? DLGC_WANTARROWS : DLGC_STATIC;
+        return Dialog_Code(reinterpret_cast<const MSG *>(lparam));
+    case WM_SETCURSOR: {
+        constexpr WORD hand = 32649;
+        const HCURSOR pointer = Control().link ? LoadCursorW(nullptr, MAKEINTRESOURCEW(hand)) : nullptr;
+        if (pointer == nullptr)
+            break;
+        SetCursor(pointer);
+        return TRUE;
+    }
     case WM_SETFOCUS:
     case WM_KILLFOCUS:
     case WM_ENABLE:
@@ -89,6 +97,18 @@ LRESULT Painted_Child::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
         break;
     }
     return DefWindowProcW(window_, message, wparam, lparam);
+}
+
+/// What it wants of the keyboard, `message` above all: what is typed by its keys is not looked for among the
+/// access keys, which would beep.
+LRESULT Painted_Child::Dialog_Code(const MSG *message) const {
+    const Control_State &control = Control();
+    if (!control.tab_stop)
+        return DLGC_STATIC;
+    const bool key = message != nullptr && (message->message == WM_KEYDOWN || message->message == WM_CHAR);
+    const bool enter = key && message->wParam == VK_RETURN && !control.access.default_action.empty();
+    const bool space = key && message->wParam == VK_SPACE;
+    return DLGC_WANTARROWS | (enter || space ? DLGC_WANTMESSAGE : 0);
 }
 
 bool Painted_Child::Handle_Input(UINT message, WPARAM wparam, LPARAM lparam) {

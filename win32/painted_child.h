@@ -21,6 +21,7 @@ private:
     static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam);
     LRESULT Handle(UINT message, WPARAM wparam, LPARAM lparam);
     bool Handle_Input(UINT message, WPARAM wparam, LPARAM lparam);
+    LRESULT Dialog_Code(const MSG *message) const;
     void Mouse(UINT message, WPARAM wparam, LPARAM lparam);
     void Key_Down(WPARAM wparam, LPARAM lparam);
     void Paint();

@@ -45,6 +45,15 @@ std::string Text_Of(const std::vector<BYTE> &data) {
     return win32::From_Wide(text.c_str());
 }
 
+/// With the values of the environment variables in it, or as it is where the system cannot do so.
+std::string Expanded(const std::string &text) {
+    const std::wstring wide = win32::To_Wide(text);
+    std::wstring expanded(ExpandEnvironmentStringsW(wide.c_str(), nullptr, 0), L'\0');
+    const DWORD size =
+        ExpandEnvironmentStringsW(wide.c_str(), expanded.data(), static_cast<DWORD>(expanded.size()));
+    return size == 0 || size > expanded.size() ? text : win32::From_Wide(expanded.c_str());
+}
+
 LONG Set_Value(HKEY key, const std::string &name, DWORD type, const void *data, std::size_t size) {
     return RegSetValueExW(key, win32::To_Wide(name).c_str(), 0, type, static_cast<const BYTE *>(data),
                           static_cast<DWORD>(size));
@@ -133,8 +142,11 @@ Registry_Value Registry_Read(const std::string &root_name, const std::string &ke
         return standard;
     std::int16_t flag = 0;
     std::int32_t number = 0;
-    if ((type_letter == 'S' || type_letter == 's') && value.type == REG_SZ)
+    const bool wants_text = type_letter == 'S' || type_letter == 's';
+    if (wants_text && value.type == REG_SZ)
         return Text_Of(value.data);
+    if (wants_text && value.type == REG_EXPAND_SZ)
+        return Expanded(Text_Of(value.data));
     if ((type_letter == 'B' || type_letter == 'b') && Take_Number(value, REG_BINARY, flag))
         return flag != 0;
     if ((type_letter == 'D' || type_letter == 'd') && Take_Number(value, REG_DWORD, number))

@@ -21,13 +21,28 @@ public:
         ordered_.swap(path);
         is_ordered_ = true;
         if (!at_work_) {
-            const win32::Unique_Kernel_Handle thread(CreateThread(nullptr, 0, Work, this, 0, nullptr));
-            at_work_ = static_cast<bool>(thread);
+            thread_.Reset(CreateThread(nullptr, 0, Work, this, 0, nullptr));
+            at_work_ = static_cast<bool>(thread_);
         }
         const bool alone = !at_work_;
         LeaveCriticalSection(&section_);
         if (alone)
             Work(this);
+    }
+
+    /// For the thread that orders.
+    void Finish() const {
+        constexpr DWORD most = 5000; // milliseconds
+        const DWORD begin = GetTickCount();
+        for (DWORD spent = 0; thread_ && spent < most; spent = GetTickCount() - begin) {
+            const HANDLE thread = thread_.Get();
+            // The program's own windows are told of the change, too, and have to answer.
+            if (MsgWaitForMultipleObjects(1, &thread, FALSE, most - spent, QS_SENDMESSAGE) !=
+                WAIT_OBJECT_0 + 1)
+                return;
+            MSG none;
+            PeekMessageW(&none, nullptr, 0, 0, PM_NOREMOVE | PM_QS_SENDMESSAGE);
+        }
     }
 
 private:
@@ -51,17 +66,26 @@ private:
     }
 
     CRITICAL_SECTION section_;
+    win32::Unique_Kernel_Handle thread_; ///< the last one, which may have ended
     std::wstring ordered_;
     bool is_ordered_ = false;
     bool at_work_ = false;
 };
 
+Wallpaper_Hanger &The_Hanger() {
+    // Never destroyed: the thread may outlive the program's last line.
+    static Wallpaper_Hanger &hanger = *new Wallpaper_Hanger;
+    return hanger;
+}
+
 } // namespace
 
 void Set_Wallpaper(const std::string &path) {
-    // Never destroyed: the thread may outlive the program's last line.
-    static Wallpaper_Hanger &hanger = *new Wallpaper_Hanger;
-    hanger.Order(win32::To_Wide(path));
+    The_Hanger().Order(win32::To_Wide(path));
+}
+
+void Finish_Wallpaper() {
+    The_Hanger().Finish();
 }
 
 } // namespace platform

@@ -65,6 +65,8 @@ protected:
     ~Dialog_Contract() override { platform::Destroy_Mirror(model_); }
 
     void Follow(const Input_Event &event) {
+        if (event.kind == Input_Kind::Moved)
+            moved_to_ = event.point;
         if (event.control < 0)
             return;
         Control_State &control = controls_[event.control];
@@ -113,6 +115,7 @@ protected:
     platform::Form_Model model_;
     HWND window_ = nullptr;
     std::string heard_;
+    platform::Point moved_to_;
 };
 
 TEST_F(Dialog_Contract, The_Form_Hears_What_The_User_Does) {
@@ -148,11 +151,18 @@ TEST_F(Dialog_Contract, The_Form_Hears_What_The_User_Does) {
          "down 11 " + std::to_string(platform::Pixels_To_Twips(4, platform::Dots_Per_Inch())) + "; up 11 " +
              std::to_string(platform::Pixels_To_Twips(6, platform::Dots_Per_Inch())) + "; "},
         {[this] { Type(Picture, VK_LEFT), Type(Picture, VK_SPACE); }, "key 11 37; click 11 off; "},
+        {[this] { Type(Picture, VK_RETURN); },
+         ""}, // the default button's, where nothing is to be done with it
+        {[this] { controls_[Picture].access.default_action = "Pick", Type(Picture, VK_RETURN); },
+         "key 11 13; "},
     };
     for (const auto &c : cases) {
         c.act();
         EXPECT_EQ(Heard(), c.heard) << &c - cases;
     }
+    SetWindowPos(window_, nullptr, 45, 67, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    EXPECT_EQ(platform::Twips_To_Pixels(moved_to_.x, platform::Dots_Per_Inch()), 45);
+    EXPECT_EQ(platform::Twips_To_Pixels(moved_to_.y, platform::Dots_Per_Inch()), 67);
 }
 
 TEST_F(Dialog_Contract, Its_Own_Changes_Show_And_Are_Not_Told) {

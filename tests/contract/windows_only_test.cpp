@@ -138,6 +138,11 @@ TEST_F(Windows_Only, All_Kinds_Of_Stored_Texts_And_Numbers_Are_Read) {
         Store_Raw(L"Value", c.type, c.data, c.size);
         EXPECT_EQ(platform::Read_User_Value(Scratch_Key(), "Value"), c.expected) << c.type << ", " << c.size;
     }
+    // As some systems keep their own wallpaper.
+    Store_Raw(L"Value", REG_EXPAND_SZ, L"<%OS%>", 12);
+    EXPECT_EQ(std::get<std::string>(
+                  platform::Registry_Read("HKCU", Scratch_Key(), "Value", 'S', std::string("none"))),
+              "<Windows_NT>");
     // No key can have this name.
     EXPECT_THROW(platform::Write_User_Value(std::string(300, 'k'), "Value", "1"), platform::Registry_Error);
 }

@@ -94,17 +94,19 @@ void Fill_Screen(SIZE size) {
 // Takes the windows of other programs out of the region.
 void Leave_Out_Guests(HRGN region, HWND parent) {
     const HRGN guest = CreateRectRgn(0, 0, 0, 0);
+    const HRGN whole = CreateRectRgn(0, 0, 0, 0);
     for (HWND window = GetWindow(parent, GW_CHILD); window; window = GetWindow(window, GW_HWNDNEXT)) {
         RECT place;
         if (window == View_Window || window == List_Window || !IsWindowVisible(window))
             continue;
         GetWindowRect(window, &place);
-        if (GetWindowRgn(window, guest) == ERROR)
-            SetRectRgn(guest, place.left, place.top, place.right, place.bottom);
-        else
-            OffsetRgn(guest, place.left, place.top);
-        CombineRgn(region, region, guest, RGN_DIFF);
+        SetRectRgn(whole, place.left, place.top, place.right, place.bottom);
+        // A window that has just shrunk still has the larger region.
+        if (GetWindowRgn(window, guest) != ERROR && OffsetRgn(guest, place.left, place.top) != ERROR)
+            CombineRgn(whole, whole, guest, RGN_AND);
+        CombineRgn(region, region, whole, RGN_DIFF);
     }
+    DeleteObject(whole);
     DeleteObject(guest);
 }
 

@@ -207,6 +207,9 @@ void Set_Wallpaper(const std::string &path) {
     Fakes().wallpapers.push_back(path);
 }
 
+void Finish_Wallpaper() {
+}
+
 bool Path_Exists(const std::string &path) {
     return File_Exists(path) || Fakes().folders.contains(path);
 }

@@ -40,6 +40,9 @@ TEST_F(Saving, writes_what_differs_and_what_is_always_written) {
                   rest);
     EXPECT_FALSE(form.Compact_Timer.Enabled());
     EXPECT_TRUE(form.Settings_Visible());
+    Cur_Settings.Auto_Compact = 2; // ticked, and yet not in use
+    Push(*dialog, page.Auto_Compact_Chk, true);
+    EXPECT_EQ(Written(apply).substr(12, 14), "Auto Compact=1");
     Push(*dialog, page.Alert_Chk, true);
     EXPECT_EQ(Written([this] { Push(*dialog, dialog->Cancel_Btn); }), "Settings Tab=3|");
     EXPECT_EQ(Cur_Settings.Show_Alerts, 0);

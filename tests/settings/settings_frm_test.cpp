@@ -97,11 +97,18 @@ TEST_F(Settings_Window, previews_the_title_without_touching_a_setting) {
     Fakes().now.second = 7;
     Desktop().Advance(1000);
     EXPECT_EQ(page.Bar_Preview_Lbl.Caption(), "10.30:07 - Tuesday 5th March - 2002");
-    Choose(*dialog, dialog->TabStrip1, Settings_Frm::about_fra);
-    Fakes().now.second = 8;
+    Push(*dialog, page.Bar_Time_Chk, false);
+    Fakes().now.day = 6;
     Desktop().Advance(1000);
-    EXPECT_EQ(page.Bar_Preview_Lbl.Caption(), "10.30:07 - Tuesday 5th March - 2002");
+    EXPECT_EQ(page.Bar_Preview_Lbl.Caption(), "Wednesday 6th March - 2002");
+    Choose(*dialog, dialog->TabStrip1, Settings_Frm::about_fra);
+    Fakes().now.day = 7;
+    Desktop().Advance(1000);
+    EXPECT_EQ(page.Bar_Preview_Lbl.Caption(), "Wednesday 6th March - 2002");
     EXPECT_EQ(Fakes().registry_writes, writes);
+    form.Set_Back_Colour(123); // as Apply does
+    Choose(*dialog, dialog->TabStrip1, Settings_Frm::general_fra);
+    EXPECT_EQ(page.Bar_Preview_Lbl.Back_Colour(), 123);
     EXPECT_EQ(Cur_Settings.Bar_Date_Format, "d Month - yyyy");
 }
 
@@ -133,8 +140,19 @@ TEST_F(Settings_Window, shows_the_example_balloon_while_the_left_button_is_held)
             EXPECT_EQ(example.Tooltip(), row.tooltip ? "This is an example." : "");
             if (row.meanwhile)
                 Desktop().messages.push_back(row.meanwhile);
+            const int left = dialog->Left();
             Press(*dialog, example, row.button);
             EXPECT_EQ(form.Balloon_Showing(), row.shows);
+            if (row.shows) { // and it goes with a dialog that the user moves
+                const int at = form.Balloon.Left();
+                Tell(*dialog, Input_Kind::Capture_Lost);
+                platform::Input_Event moved{};
+                moved.kind = Input_Kind::Moved;
+                moved.point = {left - 900, dialog->Top()};
+                dialog->Input(moved);
+                Press(*dialog, example, row.button);
+                EXPECT_EQ(form.Balloon.Left(), at - 900);
+            }
             EXPECT_EQ(form.Balloon.Title_Lbl.Caption(), row.shows ? "5/3/2002" : "");
             Tell(*dialog, Input_Kind::Capture_Lost);
             EXPECT_FALSE(form.Balloon_Showing());
@@ -144,9 +162,14 @@ TEST_F(Settings_Window, shows_the_example_balloon_while_the_left_button_is_held)
 
 TEST_F(Settings_Window, opens_the_authors_page_by_mouse_and_keyboard) {
     About_Page &page = Open(Settings_Frm::about_fra).About;
-    Click(*dialog, page.Link_Lbl);
-    Push(*dialog, page.Link_Lbl); // the space bar
-    EXPECT_EQ(Shell().web_pages.size(), 2U);
+    Double_Click(*dialog, page.Link_Lbl); // opens it once
+    Push(*dialog, page.Link_Lbl);         // the space bar
+    platform::Input_Event enter{};
+    enter.kind = Input_Kind::Key_Down;
+    enter.control = page.Link_Lbl.State().index;
+    enter.key = Key_Return;
+    dialog->Input(enter);
+    EXPECT_EQ(Shell().web_pages.size(), 3U);
 }
 
 } // namespace
