@@ -34,4 +34,5 @@ add_custom_target(package
 file(GLOB desktop_test_list CONFIGURE_DEPENDS tests/desktop/CMakeLists.txt)
 if(desktop_test_list)
     add_subdirectory(tests/desktop)
+    add_subdirectory(bench/desktop EXCLUDE_FROM_ALL)
 endif()

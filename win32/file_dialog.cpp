@@ -4,6 +4,7 @@
 #include "win32/mirror.h"
 #include "win32/modal.h"
 #include "win32/paths.h"
+#include "win32/system_library.h"
 #include "win32/wide_text.h"
 
 #include <commdlg.h>
@@ -66,7 +67,10 @@ bool Show_File_Dialog(File_Dialog &dialog) {
     const Kept_Folder kept;
     const win32::Modal_Scope modal;
     const win32::Locked_Windows locked(record.hwndOwner);
-    if (!(dialog.saves ? GetSaveFileNameW(&record) : GetOpenFileNameW(&record)))
+    // Most days need no file dialog; its library and those that come with it would make every start slower.
+    const auto show = win32::Look_Up<decltype(GetOpenFileNameW)>(
+        L"comdlg32.dll", dialog.saves ? "GetSaveFileNameW" : "GetOpenFileNameW");
+    if (show == nullptr || !show(&record))
         return false;
     dialog.file = (dialog.flags & Multiple_Files) != 0 ? win32::From_Wide(file)
                                                        : win32::Path_From_System(Up_To_Nul(file));

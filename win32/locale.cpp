@@ -2,6 +2,7 @@
 #include "platform/locale.h"
 
 #include "win32/handles.h"
+#include "win32/system_library.h"
 #include "win32/wide_text.h"
 
 #include <algorithm>
@@ -112,6 +113,9 @@ std::string Date_Time_Text(const Date_Time &time) {
 }
 
 std::optional<Date_Time> Read_Date(std::string_view text) {
+    static const auto parse = win32::Look_Up<decltype(VarDateFromStr)>(L"oleaut32.dll", "VarDateFromStr");
+    static const auto to_time =
+        win32::Look_Up<decltype(VariantTimeToSystemTime)>(L"oleaut32.dll", "VariantTimeToSystemTime");
     std::wstring wide = win32::To_Wide(text); // the call wants it changeable
     // A short form may end in a dot, as the Hungarian one does, which not every system reads.
     if (wide.ends_with(L'.'))
@@ -119,9 +123,8 @@ std::optional<Date_Time> Read_Date(std::string_view text) {
     DATE date = 0;
     SYSTEMTIME time{};
     // What is behind a NUL would not be read.
-    if (wide.find(L'\0') != std::wstring::npos ||
-        FAILED(VarDateFromStr(wide.data(), LOCALE_USER_DEFAULT, 0, &date)) ||
-        !VariantTimeToSystemTime(date, &time))
+    if (parse == nullptr || to_time == nullptr || wide.find(L'\0') != std::wstring::npos ||
+        FAILED(parse(wide.data(), LOCALE_USER_DEFAULT, 0, &date)) || !to_time(date, &time))
         return std::nullopt;
     Date_Time day;
     day.year = time.wYear;

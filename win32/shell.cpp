@@ -2,6 +2,7 @@
 #include "platform/shell.h"
 
 #include "win32/mirror.h"
+#include "win32/system_library.h"
 
 #include <windows.h>
 
@@ -80,7 +81,8 @@ void Attach_To_Desktop(Form_Model &model, Shell_Window desktop) {
 }
 
 void Open_Web_Page(const char *address) {
-    ShellExecuteA(nullptr, nullptr, address, nullptr, "C:\\", SW_SHOWNORMAL);
+    if (const auto execute = win32::Look_Up<decltype(ShellExecuteA)>(L"shell32.dll", "ShellExecuteA"))
+        execute(nullptr, nullptr, address, nullptr, "C:\\", SW_SHOWNORMAL);
 }
 
 } // namespace platform
