@@ -9,9 +9,11 @@ file(REMOVE_RECURSE "${stage}")
 file(COPY "${PROGRAM}" "${SOURCES}/packs/Default" DESTINATION "${folder}" PATTERN "*.bmp" EXCLUDE)
 # Older Windows' editor shows line ends of this kind only.
 configure_file("${SOURCES}/LICENSE" "${folder}/LICENSE.txt" @ONLY NEWLINE_STYLE CRLF)
-configure_file("${SOURCES}/docs/guide.md" "${folder}/docs/guide.md" @ONLY NEWLINE_STYLE CRLF)
-# The pictures that the guide shows; one that is not there breaks off.
+# Users read the guide first; its pictures go into a folder. One that is not there breaks off.
 file(READ "${SOURCES}/docs/guide.md" guide)
+string(REGEX REPLACE "\\(([a-z-]+\\.png)\\)" "(docs/\\1)" readme "${guide}")
+file(WRITE "${stage}/README.md" "${readme}")
+configure_file("${stage}/README.md" "${folder}/README.md" @ONLY NEWLINE_STYLE CRLF)
 string(REGEX MATCHALL "[a-z-]+\\.png" pictures "${guide}")
 foreach(picture ${pictures})
     file(COPY "${SOURCES}/docs/${picture}" DESTINATION "${folder}/docs")
