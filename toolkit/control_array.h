@@ -15,8 +15,18 @@ class Control_Array {
 public:
     Control_Array(Form &form, std::string_view name) : name_(name) {
         while (controls_.size() < Count)
-            controls_.emplace_back(form, Element_Name(static_cast<int>(controls_.size())));
+            Add(form);
     }
+    /// Of labels that another array registers, each directly before the control that it names, which is where
+    /// assistive technology looks for a name.
+    explicit Control_Array(std::string_view name) : name_(name) {}
+    Control_Array(Form &form, std::string_view name, Control_Array<Label, Count> &labels) : name_(name) {
+        while (controls_.size() < Count) {
+            labels.Add(form);
+            Add(form);
+        }
+    }
+    void Add(Form &form) { controls_.emplace_back(form, Element_Name(static_cast<int>(controls_.size()))); }
 
     /// Throws std::out_of_range for an index outside 0 to Count - 1.
     Control_Type &operator[](int index) {
