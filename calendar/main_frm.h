@@ -251,6 +251,10 @@ private:
     void Drag_Along(platform::Mouse_Button held, platform::Point mouse);
     void Drop(platform::Mouse_Button button);
     void End_Drag();
+    /// Moves the calendar by one arrow key, `fine` by a pixel. The keys' last place is kept when Ctrl comes
+    /// up.
+    void Nudge(int key, bool fine);
+    void End_Nudge();
     void Keep_Place(const std::optional<Drag> &drag);
 
     /// The way into a desktop window that was found, with `patience` milliseconds for each of its answers.
@@ -270,6 +274,7 @@ private:
     unsigned fills_ = 0;     ///< counts the fillings: one that begins inside another puts an end to that
     int Desktop_Height = 0;  ///< of the work area at the last placement, twips
     std::optional<Drag> drag_;
+    std::optional<Drag> nudge_; ///< where the arrow keys took it up
     Repeated_Guard placement_guard_;
 
     std::int16_t mark_day_ = 0; ///< of the shown month, 0: none yet
