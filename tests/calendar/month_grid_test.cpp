@@ -82,36 +82,30 @@ TEST_F(Month_Grid, marks_and_names_today_and_the_other_days) {
 }
 
 TEST_F(Month_Grid, high_contrast_brings_the_colours_of_windows_and_takes_them_away_again) {
-    Events({"5/3/2002=a", "6/3/2002=b"});
-    Stored("Show Alerts") = "0";
     Start();
     const auto colours = [&](int day) {
         const Label &box = Box_Of(day);
-        const Label &text = form.Box_Caption_Lbl[box.State().index - form.Box_Lbl[0].State().index];
+        const platform::Colour text = form.Box_Caption_Lbl[4 + day].Fore_Colour();
         return std::vector{box.Back_Colour(),        box.Fore_Colour(),
-                           text.Fore_Colour(),       form.Which_Month_Lbl.Fore_Colour(),
-                           box.State().frame_colour, form.Back_Colour()};
+                           box.State().frame_colour, text,
+                           form.Back_Colour(),       form.Which_Month_Lbl.Fore_Colour()};
     };
-    const auto system = [](std::initializer_list<int> numbers) {
-        std::vector<platform::Colour> list;
-        for (const int number : numbers)
-            list.push_back(platform::System_Colour(number));
-        return list;
-    };
-    const auto usual = std::vector{colours(5), colours(6)};
-    for (const auto broadcast :
-         {platform::Broadcast::Settings_Changed, platform::Broadcast::Colours_Changed}) {
+    const auto usual = colours(5);
+    for (const auto say : {platform::Broadcast::Settings_Changed, platform::Broadcast::Colours_Changed}) {
         Desktop().high_contrast = true;
-        Desktop().Say(broadcast);
-        EXPECT_EQ(colours(5), system({13, 14, 14, 8, 13, 5}));
-        EXPECT_EQ(colours(6), system({5, 8, 8, 8, 16, 5}));
+        Desktop().Say(say);
+        const auto system = platform::System_Colour;
+        const std::vector other{system(5), system(8), system(16), system(8), system(5), system(8)};
+        EXPECT_EQ(colours(5),
+                  (std::vector{system(13), system(14), system(13), system(14), other[4], other[5]}));
+        EXPECT_EQ(colours(6), other);
         Fakes().now.day = 6;
         form.Redraw();
-        EXPECT_EQ(colours(5), system({5, 8, 8, 8, 16, 5})) << "today is over";
+        EXPECT_EQ(colours(5), other) << "today is over";
         Fakes().now.day = 5;
         Desktop().high_contrast = false;
-        Desktop().Say(broadcast);
-        EXPECT_EQ((std::vector{colours(5), colours(6)}), usual);
+        Desktop().Say(say);
+        EXPECT_EQ(colours(5), usual);
     }
 }
 
