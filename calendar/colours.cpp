@@ -1,9 +1,23 @@
-// The colours of boxes, numbers, texts, title and headers.
+// The colours of boxes, today's box, numbers, texts, title and headers: the user's, or those of Windows where
+// high contrast is on, which leaves the settings alone.
 #include "calendar/box_layout.h"
 #include "calendar/main_frm.h"
 #include "core/settings.h"
+#include "platform/screen.h"
+
+namespace {
+
+// System colours, which high contrast gives values that stand out from each other.
+constexpr platform::Colour window = platform::System_Colour(5);
+constexpr platform::Colour window_text = platform::System_Colour(8);
+constexpr platform::Colour highlight = platform::System_Colour(13);
+constexpr platform::Colour highlight_text = platform::System_Colour(14);
+constexpr platform::Colour shadow = platform::System_Colour(16);
+
+} // namespace
 
 void Main_Frm::Set_Colours() {
+    contrast_ = platform::High_Contrast();
     Colour_Boxes();
     Colour_Nums();
     Colour_Texts();
@@ -12,24 +26,48 @@ void Main_Frm::Set_Colours() {
 
 void Main_Frm::Colour_Boxes() {
     for (int i = 0; i < box_count; ++i) {
-        Box_Lbl[i].Set_Back_Colour(Cur_Settings.Col_Normal);
+        Box_Lbl[i].Set_Back_Colour(contrast_ ? window : Cur_Settings.Col_Normal);
         Undress_Today(Box_Lbl[i]);
+        // The desktop between the boxes may have their colour.
+        if (contrast_)
+            Box_Lbl[i].Set_Frame_Colour(shadow);
     }
 }
 
 void Main_Frm::Colour_Nums() {
     for (Label &box : Box_Lbl)
-        box.Set_Fore_Colour(Cur_Settings.Col_Num);
+        box.Set_Fore_Colour(contrast_ ? window_text : Cur_Settings.Col_Num);
 }
 
 void Main_Frm::Colour_Texts() {
     for (Label &caption : Box_Caption_Lbl)
-        caption.Set_Fore_Colour(Cur_Settings.Col_Text);
+        caption.Set_Fore_Colour(contrast_ ? window_text : Cur_Settings.Col_Text);
+}
+
+void Main_Frm::Colour_Today(int index) {
+    Label &box = Box_Lbl[index];
+    Dress_Today(box, contrast_ ? highlight : Cur_Settings.Col_Today);
+    if (!contrast_)
+        return;
+    // No frame but that of the keyboard's mark, which has the colour of the number.
+    box.Set_Frame_Colour(highlight);
+    box.Set_Fore_Colour(highlight_text);
+    Box_Caption_Lbl[index].Set_Fore_Colour(highlight_text);
+}
+
+void Main_Frm::Follow_Contrast() {
+    if (contrast_ == platform::High_Contrast())
+        return;
+    Set_Colours();
+    Mark_Today();
 }
 
 void Main_Frm::Colour_Menus() {
     platform::Colour text = Cur_Settings.Col_Fore;
-    if (Cur_Settings.Menu_Col_Sorce != 0) {
+    if (contrast_) {
+        Set_Back_Colour(window);
+        text = window_text;
+    } else if (Cur_Settings.Menu_Col_Sorce != 0) {
         Set_Back_Colour(Cur_Settings.Col_Back);
     } else if (Icon_BackColour != -1) {
         // Assigned twice, here and below; the second time changes nothing.

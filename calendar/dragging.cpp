@@ -1,11 +1,14 @@
-// Dragging the calendar by its title.
+// Dragging the calendar by its title, and moving it by keys.
 #include "calendar/main_frm.h"
 #include "core/convert.h"
 #include "core/settings.h"
 #include "desktop/position.h"
 #include "platform/message_box.h"
+#include "toolkit/keys.h"
+#include "toolkit/units.h"
 
 #include <string>
+#include <utility>
 
 using platform::Mouse_Button;
 using platform::Point;
@@ -18,6 +21,8 @@ constexpr const char *manual_question =
     "Manual Positioning is not selected. This means that next time the program is started or the month is "
     "changed the program will revert back to the set position. Do you want to change the positioning mode to "
     "manual positioning?";
+
+constexpr int big_step = 10; ///< pixels by which a key moves the calendar
 
 bool May_Drag() {
     return Cur_Settings.Alignment == manual || Cur_Settings.Allow_Dragging != 0;
@@ -61,6 +66,23 @@ void Main_Frm::Drop(Mouse_Button button) {
 void Main_Frm::End_Drag() {
     drag_.reset();
     Set_Pointer(platform::Pointer_Shape::Arrow);
+}
+
+void Main_Frm::Nudge(int key, bool fine) {
+    const bool across = key == Key_Left || key == Key_Right;
+    if (!May_Drag() || (!across && key != Key_Up && key != Key_Down))
+        return;
+    Hide_Balloon();
+    if (!nudge_)
+        nudge_ = Drag{{}, {Left(), Top()}};
+    const int step = Pixels_To_Twips(fine ? 1 : big_step) * (key == Key_Left || key == Key_Up ? -1 : 1);
+    Move(Left() + (across ? step : 0), Top() + (across ? 0 : step));
+}
+
+void Main_Frm::End_Nudge() {
+    const std::optional<Drag> from = std::exchange(nudge_, std::nullopt);
+    if (from)
+        drop_guard_.Run([&] { Keep_Place(from); });
 }
 
 void Main_Frm::Keep_Place(const std::optional<Drag> &drag) {

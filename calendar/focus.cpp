@@ -16,7 +16,7 @@ void Main_Frm::Form_KeyDown(const platform::Input_Event &event) {
     if (event.control_key && (event.key == Key_Page_Up || event.key == Key_Page_Down))
         return Step_Year(event.key == Key_Page_Up ? -1 : 1);
     if (event.control_key)
-        return;
+        return Nudge(event.key, event.shift);
     const bool menu = event.key == Key_Menu || (event.key == Key_F10 && event.shift);
     if (menu || event.key == Key_Return || event.key == Key_Delete) {
         // These act when they come up, if they went down here: the key that closes a message box, or is held

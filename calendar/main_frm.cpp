@@ -174,6 +174,7 @@ void Main_Frm::Hear_Broadcasts() {
 bool Main_Frm::Hear(Broadcast broadcast) {
     switch (broadcast) {
     case Broadcast::Settings_Changed:
+        Follow_Contrast();
         Take_Regional_Settings();
         break;
     case Broadcast::Time_Changed:
@@ -184,6 +185,7 @@ bool Main_Frm::Hear(Broadcast broadcast) {
         break;
     case Broadcast::Colours_Changed:
         // System colours are looked up while painting; only the frame of today's box is worked out before.
+        Follow_Contrast();
         Mark_Today();
         Repaint();
         break;

@@ -125,6 +125,8 @@ public:
     void Colour_Nums();
     void Colour_Texts();
     void Colour_Menus();
+    /// Gives today's box, which is the one with this index, its colours.
+    void Colour_Today(int index);
 
     // Themes. The two steps throw what goes wrong with the month's picture (themes/theme_pack.h), and
     // Conversion_Error for a number in the pack that is none.
@@ -208,6 +210,7 @@ private:
     void Wire_Box(Label &label, int index);
     void Hear_Broadcasts();
     bool Hear(platform::Broadcast broadcast);
+    void Follow_Contrast();
     static std::string Regional_Look();
     void Take_Regional_Settings();
     void Renew_Layout();
@@ -251,6 +254,10 @@ private:
     void Drag_Along(platform::Mouse_Button held, platform::Point mouse);
     void Drop(platform::Mouse_Button button);
     void End_Drag();
+    /// Moves the calendar by one arrow key, `fine` by a pixel. The keys' last place is kept when Ctrl comes
+    /// up.
+    void Nudge(int key, bool fine);
+    void End_Nudge();
     void Keep_Place(const std::optional<Drag> &drag);
 
     /// The way into a desktop window that was found, with `patience` milliseconds for each of its answers.
@@ -265,11 +272,13 @@ private:
     std::optional<Described_Month> described_;
     /// Texts that are read and not in their boxes yet.
     std::array<std::optional<std::string>, box_count> entered_;
-    bool stale_ = false; ///< what was laid out is not what the month shows now: it changed in compact mode
+    bool contrast_ = false; ///< the shown colours are those of high contrast
+    bool stale_ = false;    ///< what was laid out is not what the month shows now: it changed in compact mode
     platform::Point placed_; ///< where Position_Form put the window last
     unsigned fills_ = 0;     ///< counts the fillings: one that begins inside another puts an end to that
     int Desktop_Height = 0;  ///< of the work area at the last placement, twips
     std::optional<Drag> drag_;
+    std::optional<Drag> nudge_; ///< where the arrow keys took it up
     Repeated_Guard placement_guard_;
 
     std::int16_t mark_day_ = 0; ///< of the shown month, 0: none yet

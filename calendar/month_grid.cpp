@@ -41,7 +41,9 @@ void Main_Frm::Reset_Boxes() {
     for (int i = 0; i < box_count; ++i) {
         Box_Lbl[i].Set_Visible(true);
         Box_Caption_Lbl[i].Set_Visible(true);
-        Box_Lbl[i].Set_Back_Colour(white);
+        // In high contrast the texts that are there until Set_Colours comes may be white.
+        if (!contrast_)
+            Box_Lbl[i].Set_Back_Colour(white);
         Box_Lbl[i].Set_Caption({});
         Box_Caption_Lbl[i].Set_Caption({});
         Set_Event_Value(i, {});
@@ -77,7 +79,7 @@ void Main_Frm::Mark_Today() {
     Describe_Boxes();
     if (today.month != Cur_Month || today.year != Cur_Year)
         return;
-    Dress_Today(Box_Lbl[Start_Box(Cur_Month, Cur_Year) + today.day - 1], Cur_Settings.Col_Today);
+    Colour_Today(Start_Box(Cur_Month, Cur_Year) + today.day - 1);
 }
 
 void Main_Frm::Load_Dates() {

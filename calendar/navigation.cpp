@@ -103,6 +103,8 @@ void Main_Frm::Show_Today_Event() {
 }
 
 void Main_Frm::Form_KeyUp(const platform::Input_Event &event) {
+    if (!event.control_key)
+        End_Nudge();
     const bool pending = std::exchange(pending_key_, 0) == event.key;
     // Alt+F4 closes a window, this one or another; its F4 is no step to the next month.
     if (event.alt || std::exchange(stray_key_, false))

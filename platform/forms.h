@@ -32,12 +32,14 @@ enum class Control_Kind : std::uint8_t {
 };
 
 /// What a control is to assistive technology.
-enum class Access_Role : std::uint8_t { None, Text, Title, Button, Header, Cell };
+enum class Access_Role : std::uint8_t { None, Text, Title, Button, Header, Cell, Choice, Link };
 
-/// How a control presents itself to assistive technology. A control with the role None is not presented.
+/// How a control presents itself to assistive technology. In a painted form one with the role None is not
+/// presented; in a dialog it is a text or a picture. Native controls have a role; of those only the name
+/// counts, and of those with a text of their own not even that: a label directly before them names them.
 struct Access_State {
     Access_Role role = Access_Role::None;
-    bool current = false; ///< the marked one of its kind: today
+    bool current = false; ///< the marked one of its kind: today, the chosen one
     std::string name;
     std::string value;
     std::string default_action; ///< empty when it has none

@@ -20,6 +20,9 @@ Rect Work_Area_Around(Point point);
 /// The mouse position in screen pixels.
 Point Mouse_Position();
 
+/// Whether the user has Windows show everything in high contrast.
+bool High_Contrast();
+
 /// Whether any mouse button is held now, over whichever window.
 bool Mouse_Button_Held();
 

@@ -1,6 +1,7 @@
 // The page "About": its drawing, its link, and where its controls are.
 #include "settings/about_page.h"
 
+#include "platform/screen.h"
 #include "platform/shell.h"
 
 using namespace layout;
@@ -14,6 +15,7 @@ constexpr const char *web_page = "https://vellatro.example/";
 
 /// Readable on light and on dark backgrounds, which the system's own colour of links is not everywhere.
 constexpr platform::Colour link_colour = platform::Rgb(0x00, 0x66, 0xCC);
+constexpr platform::Colour contrast_link = platform::System_Colour(26);
 constexpr platform::Font name_font{200, true};
 constexpr int link_margin = 3 * 15; ///< for the mark of the keyboard
 
@@ -30,20 +32,20 @@ About_Page::About_Page(Form &dialog, Frame &frame)
     for (Label *label : {&Name_Lbl, &Version_Lbl, &Designed_Lbl})
         label->Set_Align(platform::Text_Align::Centre, false);
     Link_Lbl.Set_Caption(web_page);
-    Link_Lbl.Set_Fore_Colour(link_colour);
+    Link_Lbl.Set_Fore_Colour(platform::High_Contrast() ? contrast_link : link_colour);
     Link_Lbl.Set_Transparent(true);
     Link_Lbl.Set_Align(platform::Text_Align::Centre, false);
     Link_Lbl.Set_Tab_Stop();
     Link_Lbl.Set_Link();
     platform::Access_State access;
-    access.role = platform::Access_Role::Button;
+    access.role = platform::Access_Role::Link;
     access.name = web_page;
     access.default_action = "Open";
     Link_Lbl.Set_Access(std::move(access));
     Link_Lbl.On_Paint = [this](platform::Canvas &canvas) {
         const int line = platform::Line_Height(Link_Lbl.Font());
         platform::Fill_Rect(canvas, {link_margin, line - 15, Link_Lbl.Width() - 2 * link_margin, 15},
-                            link_colour);
+                            Link_Lbl.Fore_Colour());
     };
     Link_Lbl.On_Click = [] { gotoweb(); };
     Link_Lbl.On_Double_Click = [] {}; // once is enough

@@ -59,6 +59,13 @@ std::string Web_Text(Colour colour) {
     return "#" + Web_Part(parts.red) + Web_Part(parts.green) + Web_Part(parts.blue);
 }
 
+/// As it is read aloud.
+std::string Spoken(Colour colour) {
+    const Rgb_Parts parts = Parts_Of(platform::Resolve_Colour(colour));
+    return "red " + std::to_string(parts.red) + ", green " + std::to_string(parts.green) + ", blue " +
+           std::to_string(parts.blue);
+}
+
 } // namespace
 
 Colours_Page::Colours_Page(Form &dialog, Frame &frame, Main_Frm &calendar)
@@ -73,7 +80,7 @@ Colours_Page::Colours_Page(Form &dialog, Frame &frame, Main_Frm &calendar)
       Col_Fore_Lbl(dialog, "Col_Fore_Lbl", "Text"),
       Default_Cols_Btn(dialog, "Default_Cols_Btn", "&Default Colours"),
       Palette_Fra(dialog, "Palette_Fra", "Palette"), Pal(dialog, "Pal"), Gradient_Pic(dialog, "Gradient_Pic"),
-      txCol_Lbl(dialog, "txCol_Lbl"), txCol(dialog, "txCol"), Names_Lbl(dialog, "Names_Lbl", "&Name:"),
+      txCol(dialog, "txCol", txCol_Lbl, "txCol_Lbl"), Names_Lbl(dialog, "Names_Lbl", "&Name:"),
       Names_Cbo(dialog, "Names_Cbo"), Preview_Fra(dialog, "Preview_Fra", "Preview"),
       Preview_Back_Pic(dialog, "Preview_Back_Pic"), Preview_Prev_Lbl(dialog, "Preview_Prev_Lbl"),
       Preview_Month_Lbl(dialog, "Preview_Month_Lbl"), Preview_Today_Lbl(dialog, "Preview_Today_Lbl"),
@@ -105,6 +112,7 @@ Colours_Page::Colours_Page(Form &dialog, Frame &frame, Main_Frm &calendar)
     }
     Dress_Preview();
     Lay_Out();
+    Move_Cross(cross_);
 }
 
 void Colours_Page::Put_Into_Frames(const Frame &frame) {
@@ -137,7 +145,6 @@ void Colours_Page::Wire_Swatch(int index) {
 void Colours_Page::Wire_Palette() {
     Gradient_Pic.Set_Visible(false);
     Pal.Set_Tab_Stop();
-    Pal.Set_Access({platform::Access_Role::Button, false, "Palette", {}, "Pick"});
     Pal.On_Paint = [this](platform::Canvas &canvas) { Paint_Palette(canvas); };
     Gradient_Pic.On_Paint = [this](platform::Canvas &canvas) { Paint_Gradient(canvas); };
     Pal.On_Mouse_Move = [this](Mouse_Button held, Point at) { Pal_MouseMove(held, at); };
@@ -188,14 +195,26 @@ void Colours_Page::Select(int index) {
     font.bold = true;
     swatch.label->Set_Font(font);
     selector_ = static_cast<std::int16_t>(index);
+    Describe_Swatches();
     ShowColors(swatch.picture->Back_Colour());
 }
 
 void Colours_Page::Set_Swatch(int index, Colour colour) {
     const Swatch &swatch = swatches_[static_cast<std::size_t>(index)];
     swatch.picture->Set_Back_Colour(colour);
-    swatch.picture->Set_Access({platform::Access_Role::Button, false, swatch.label->Caption(),
-                                Web_Text(platform::Resolve_Colour(colour)), "Select"});
+    Describe_Swatches();
+}
+
+void Colours_Page::Describe_Swatches() {
+    for (int i = 0; i < colour_count; ++i) {
+        const Swatch &swatch = swatches_[static_cast<std::size_t>(i)];
+        swatch.picture->Set_Access(
+            {platform::Access_Role::Choice,
+             i == selector_,
+             swatch.label->Caption() + " colour, " + Spoken(swatch.picture->Back_Colour()),
+             {},
+             "Select"});
+    }
 }
 
 void Colours_Page::ShowColors(Colour colour) {
@@ -230,6 +249,7 @@ Colour Colours_Page::Cross_Colour() const {
 
 void Colours_Page::Move_Cross(Point pixel) {
     cross_ = {std::clamp(pixel.x, 0, palette_.width - 1), std::clamp(pixel.y, 0, palette_.height - 1)};
+    Pal.Set_Access({platform::Access_Role::Button, false, "Palette", Spoken(Cross_Colour()), "Pick"});
     Pal.Repaint();
 }
 

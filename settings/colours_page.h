@@ -90,6 +90,7 @@ private:
     void Dress_Preview();
     void Select(int index);
     void Set_Swatch(int index, platform::Colour colour);
+    void Describe_Swatches();
     void Recolour_Preview();
     void Key_Over_Palette(const platform::Input_Event &event);
     void Move_Cross(platform::Point pixel);

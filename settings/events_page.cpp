@@ -41,6 +41,7 @@ Events_Page::Events_Page(Form &dialog, const Frame &frame, Main_Frm &calendar)
         label.Set_Container(Yearview_Fra);
     Sort_Cbo.Set_Items({"Ascending Date", "Descending Date", "Date Added"});
     Sort_Cbo.Select(0);
+    Events_Lst.Set_Access({platform::Access_Role::None, false, "Events", {}, {}});
     Write_Labels();
     Overview_Opt.Set_Checked(true);
     Show_View(true);

@@ -48,9 +48,8 @@ void Settings_Frm::Save_Colours() {
         if (!Save_Changed(row.variable, row.swatch.Back_Colour(), row.key))
             continue;
         (calendar_.*row.redraw)();
-        // Colouring the boxes takes today's mark away.
-        if (row.redraw == &Main_Frm::Colour_Boxes)
-            calendar_.Mark_Today();
+        // Colouring the boxes takes today's mark away, and in high contrast so do the texts.
+        calendar_.Mark_Today();
     }
     const std::int16_t source = Colours.Col_Sys_Opt.Checked() ? 0 : 1;
     if (!Save_Changed(Cur_Settings.Menu_Col_Sorce, source, "Menu Colour Source"))

@@ -40,6 +40,7 @@ Settings_Frm::Settings_Frm(Main_Frm &calendar)
     Set_Title("Settings");
     TabStrip1.Set_Items({"Events", "Colours", "Settings", "Style && Position", "Tooltips", "Wallpaper",
                          "Import\\Export", "About"});
+    TabStrip1.Set_Access({platform::Access_Role::None, false, "Settings pages", {}, {}});
     TabStrip1.Move(tabs);
     Ok_Btn.Set_Default(true);
     Cancel_Btn.Set_Cancel(true);

@@ -192,7 +192,8 @@ void Style_Page::Position_Boxes() {
     const std::int16_t code = Shown_Position();
     const std::string name = code == manual ? "Manual" : Position_Name(code);
     Position_Lbl.Set_Caption(name);
-    Pos_Preview_Img.Set_Access({platform::Access_Role::Button, false, "Position", name, {}});
+    Pos_Preview_Img.Set_Access(
+        {platform::Access_Role::Button, false, "Position on the screen, " + name, {}, {}});
     Pos_Preview_Img.Repaint();
 }
 

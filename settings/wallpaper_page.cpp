@@ -66,6 +66,8 @@ Wallpaper_Page::Wallpaper_Page(Form &dialog, Frame &frame, Main_Frm &calendar, S
       style_page_(style_page), preview_(calendar) {
     Display_Cbo.Set_Items({Display_Mode_Name(0), Display_Mode_Name(1), Display_Mode_Name(2)});
     Theme_Preview_Img.Set_Frame_Colour(platform::System_Colour(16));
+    Theme_Preview_Img.Set_Access({platform::Access_Role::None, false, "Wallpaper of the month", {}, {}});
+    Preview_Sli.Set_Access({platform::Access_Role::None, false, "Month", {}, {}});
     Loading_Lbl.Set_Visible(false);
     Preview_Lbl.Set_Visible(false);
     Put_Into(frame, {&Theme_Use_Chk, &Packs_Lbl, &Packs_Cbo, &Theme_Preview_Img, &Theme_Display_Lbl,

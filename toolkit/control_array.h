@@ -37,9 +37,19 @@ public:
     };
 
     Control_Array(Form &form, std::string_view name) {
-        for (int index = 0; auto &control : controls_)
-            control = std::make_unique<Control_Type>(form, Element_Name(name, index++).c_str());
+        for (int index = 0; index < static_cast<int>(Count); ++index)
+            Add(form, name, index);
     }
+    /// With an array of labels, made by the default constructor, that it fills: each label comes directly
+    /// before the control that it names, which is where assistive technology looks for a name.
+    Control_Array(Form &form, std::string_view name, Control_Array<Label, Count> &labels,
+                  std::string_view labels_name) {
+        for (int index = 0; index < static_cast<int>(Count); ++index) {
+            labels.Add(form, labels_name, index);
+            Add(form, name, index);
+        }
+    }
+    Control_Array() = default;
 
     /// Throws platform::Error for an index outside 0 to Count - 1.
     Control_Type &operator[](int index) {
@@ -52,5 +62,12 @@ public:
     Iterator end() const { return Iterator(controls_.end()); }
 
 private:
+    template <typename Other_Type, std::size_t Other_Count>
+    friend class Control_Array;
+    void Add(Form &form, std::string_view name, int index) {
+        controls_[static_cast<std::size_t>(index)] =
+            std::make_unique<Control_Type>(form, Element_Name(name, index).c_str());
+    }
+
     Storage controls_;
 };

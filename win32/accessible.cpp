@@ -1,5 +1,6 @@
-// The accessible object of painted forms. It knows its window only by handle and asks for the form at each
-// call, because assistive technology may keep it longer than the form lives.
+// The accessible object of painted forms, and of painted controls of dialogs. It knows its window only by
+// handle and asks for the form at each call, because assistive technology may keep it longer than the form
+// lives.
 #include "win32/accessible.h"
 
 #include "win32/accessible_children.h"
@@ -67,6 +68,10 @@ long Role_Of(Access_Role role) {
         return ROLE_SYSTEM_COLUMNHEADER;
     case Access_Role::Cell:
         return ROLE_SYSTEM_CELL;
+    case Access_Role::Choice:
+        return ROLE_SYSTEM_RADIOBUTTON;
+    case Access_Role::Link:
+        return ROLE_SYSTEM_LINK;
     default:
         // Also a title: screen readers take a title bar for the window's own.
         return ROLE_SYSTEM_STATICTEXT;
@@ -89,11 +94,24 @@ long State_Of(const Form_Model &form, const Control_State &control, bool window_
     return state;
 }
 
+/// The state of a painted control of a dialog, which has a window of its own.
+long State_Of(HWND window, const Control_State &control) {
+    const bool usable = IsWindowEnabled(window) && Open_Modal_Boxes == 0;
+    long state = (IsWindowVisible(window) ? 0L : STATE_SYSTEM_INVISIBLE) |
+                 (usable ? 0L : STATE_SYSTEM_UNAVAILABLE) |
+                 (control.tab_stop ? STATE_SYSTEM_FOCUSABLE : STATE_SYSTEM_READONLY) |
+                 (GetFocus() == window ? STATE_SYSTEM_FOCUSED : 0L);
+    if (control.access.role == Access_Role::Link)
+        state |= STATE_SYSTEM_LINKED;
+    return control.access.current ? state | STATE_SYSTEM_CHECKED : state;
+}
+
 /// The client object of a form, and its own list of children: a client's proxy keeps the one that it has got
 /// first for all of its life, so the children are those of each call.
 class Accessible_Form final : public IAccessible, public IEnumVARIANT {
 public:
-    explicit Accessible_Form(HWND window) : window_(window) {}
+    /// Of the form's window, or of that of one control.
+    explicit Accessible_Form(HWND window, int only) : window_(window), only_(only) {}
     Accessible_Form(const Accessible_Form &) = delete;
     Accessible_Form &operator=(const Accessible_Form &) = delete;
 
@@ -149,6 +167,7 @@ public:
 private:
     ~Accessible_Form() = default;
 
+    Form_Model *Form() const { return Form_Of_Window(only_ < 0 ? window_ : GetParent(window_)); }
     Target Find(const VARIANT &child) const;
 
     /// Runs a call's work; want of memory becomes its error code.
@@ -192,7 +211,7 @@ private:
         if (out == nullptr)
             return E_POINTER;
         out->vt = VT_EMPTY;
-        const Form_Model *form = Form_Of_Window(window_);
+        const Form_Model *form = Form();
         return form == nullptr ? CO_E_OBJNOTCONNECTED : Give(pick(*form), out);
     }
 
@@ -200,12 +219,12 @@ private:
     template <typename Work>
     HRESULT With_Children(const Work &work) const {
         return Guarded([&]() -> HRESULT {
-            const Form_Model *form = Form_Of_Window(window_);
+            const Form_Model *form = Form();
             if (form == nullptr)
                 return CO_E_OBJNOTCONNECTED;
             std::vector<long> numbers;
             for (const Control_State *control : form->controls) {
-                if (Is_Presented(*control))
+                if (only_ < 0 && Is_Presented(*control))
                     numbers.push_back(Child_Number(*control));
             }
             return work(numbers);
@@ -214,6 +233,7 @@ private:
 
     ULONG owners_ = 1;
     HWND window_;
+    int only_; ///< index of the control whose window it is, which has no children; -1: the form's
     Child_Position position_;
 };
 
@@ -239,14 +259,14 @@ ULONG Accessible_Form::Release() {
 }
 
 Target Accessible_Form::Find(const VARIANT &child) const {
-    Form_Model *form = Form_Of_Window(window_);
+    Form_Model *form = Form();
     if (form == nullptr)
         return {nullptr, nullptr, CO_E_OBJNOTCONNECTED};
-    const auto count = static_cast<long>(form->controls.size());
+    const auto count = only_ < 0 ? static_cast<long>(form->controls.size()) : 0L;
     if (child.vt != VT_I4 || child.lVal < 0 || child.lVal > count)
         return {form, nullptr, E_INVALIDARG};
     if (child.lVal == CHILDID_SELF)
-        return {form, nullptr, S_OK};
+        return {form, only_ < 0 ? nullptr : form->controls[static_cast<std::size_t>(only_)], S_OK};
     const Control_State *control = form->controls[static_cast<std::size_t>(child.lVal - 1)];
     if (control->access.role == Access_Role::None)
         return {form, nullptr, E_INVALIDARG};
@@ -259,7 +279,7 @@ HRESULT Accessible_Form::get_accParent(IDispatch **parent) {
     *parent = nullptr;
     static const auto object_of_window =
         Look_Up<HRESULT WINAPI(HWND, DWORD, REFIID, void **)>(L"oleacc.dll", "AccessibleObjectFromWindow");
-    if (Form_Of_Window(window_) == nullptr || object_of_window == nullptr)
+    if (Form() == nullptr || object_of_window == nullptr)
         return CO_E_OBJNOTCONNECTED;
     return object_of_window(window_, static_cast<DWORD>(OBJID_WINDOW), IID_IDispatch,
                             reinterpret_cast<void **>(parent));
@@ -329,13 +349,18 @@ HRESULT Accessible_Form::get_accDefaultAction(VARIANT child, BSTR *action) {
 }
 
 HRESULT Accessible_Form::get_accRole(VARIANT child, VARIANT *role) {
-    return Give_Number(child, role, [](const Target &target) {
+    return Give_Number(child, role, [this](const Target &target) -> long {
+        if (only_ >= 0 && target.control->access.role == Access_Role::None)
+            return target.control->kind == platform::Control_Kind::Label ? ROLE_SYSTEM_STATICTEXT
+                                                                         : ROLE_SYSTEM_GRAPHIC;
         return target.control == nullptr ? ROLE_SYSTEM_CLIENT : Role_Of(target.control->access.role);
     });
 }
 
 HRESULT Accessible_Form::get_accState(VARIANT child, VARIANT *state) {
     return Give_Number(child, state, [this](const Target &target) {
+        if (only_ >= 0)
+            return State_Of(window_, *target.control);
         const bool focus = GetFocus() == window_;
         if (target.control != nullptr)
             return State_Of(*target.form, *target.control, focus);
@@ -357,9 +382,9 @@ HRESULT Accessible_Form::get_accFocus(VARIANT *child) {
 }
 
 HRESULT Accessible_Form::get_accSelection(VARIANT *children) {
-    return Give_Child(children, [](const Form_Model &form) -> std::optional<long> {
+    return Give_Child(children, [this](const Form_Model &form) -> std::optional<long> {
         for (const Control_State *control : form.controls) {
-            if (Is_Presented(*control) && control->access.current)
+            if (only_ < 0 && Is_Presented(*control) && control->access.current)
                 return Child_Number(*control);
         }
         return std::nullopt;
@@ -374,7 +399,7 @@ HRESULT Accessible_Form::accLocation(long *left, long *top, long *width, long *h
     if (FAILED(target.error))
         return target.error;
     RECT place = {};
-    if (target.control != nullptr)
+    if (target.control != nullptr && only_ < 0)
         place = To_Pixels(target.control->bounds);
     else
         GetClientRect(window_, &place);
@@ -424,7 +449,7 @@ HRESULT Accessible_Form::accHitTest(long x, long y, VARIANT *child) {
         // The top-most first.
         for (auto control = form.controls.rbegin(); control != form.controls.rend(); ++control) {
             const RECT place = To_Pixels((*control)->bounds);
-            if (Is_Presented(**control) && PtInRect(&place, point))
+            if (only_ < 0 && Is_Presented(**control) && PtInRect(&place, point))
                 return Child_Number(**control);
         }
         return CHILDID_SELF;
@@ -446,7 +471,7 @@ HRESULT Accessible_Form::accDoDefaultAction(VARIANT child) {
 
 } // namespace
 
-LRESULT Answer_Get_Object(HWND window, WPARAM wparam, LPARAM lparam) {
+LRESULT Answer_Get_Object(HWND window, WPARAM wparam, LPARAM lparam, int only) {
     // Only the low half of the identifier is sure to arrive.
     if (static_cast<LONG>(lparam) != OBJID_CLIENT)
         return DefWindowProcW(window, WM_GETOBJECT, wparam, lparam);
@@ -459,7 +484,7 @@ LRESULT Answer_Get_Object(HWND window, WPARAM wparam, LPARAM lparam) {
     static const HRESULT initialised = initialise(nullptr);
     if (FAILED(initialised))
         return 0;
-    auto *object = new (std::nothrow) Accessible_Form(window);
+    auto *object = new (std::nothrow) Accessible_Form(window, only);
     if (object == nullptr)
         return 0;
     const LRESULT result = result_of_object(accessible_interface, wparam, static_cast<IAccessible *>(object));

@@ -1,5 +1,5 @@
 // Painted forms for assistive technology: the presented controls of a form as the simple children of its
-// client object. Native dialogs are presented by the system.
+// client object. Native dialogs are presented by the system, but for the controls that paint themselves.
 #pragma once
 
 #include "platform/forms.h"
@@ -10,8 +10,12 @@
 
 namespace win32 {
 
-/// The answer to WM_GETOBJECT of a painted form's window.
-LRESULT Answer_Get_Object(HWND window, WPARAM wparam, LPARAM lparam);
+/// The answer to WM_GETOBJECT of a painted form's window, or of that of a dialog's painted control, which is
+/// the one with the index `only` then.
+LRESULT Answer_Get_Object(HWND window, WPARAM wparam, LPARAM lparam, int only = -1);
+
+/// Announces that the name, the value or the state of a dialog's painted control has changed.
+void Tell_Changed(HWND window);
 
 /// Announces the control with the focus to those that listen.
 void Tell_Focus(HWND window, const platform::Form_Model &model);

@@ -50,6 +50,11 @@ void Announcements::Update(HWND window, const platform::Form_Model &model) {
     }
 }
 
+void Tell_Changed(HWND window) {
+    for (const auto event : {EVENT_OBJECT_NAMECHANGE, EVENT_OBJECT_VALUECHANGE, EVENT_OBJECT_STATECHANGE})
+        Announce(static_cast<DWORD>(event), window, CHILDID_SELF);
+}
+
 void Tell_Focus(HWND window, const platform::Form_Model &model) {
     if (GetFocus() != window || model.focused < 0 || model.focused >= static_cast<int>(model.controls.size()))
         return;

@@ -1,5 +1,6 @@
 // The native controls of dialogs show the state of the form's controls. Their making is in dialog_make.cpp,
 // what the user does with them in dialog_events.cpp.
+#include "win32/accessible.h"
 #include "win32/dialog_edit.h"
 #include "win32/dialog_lists.h"
 #include "win32/dialog_window.h"
@@ -24,10 +25,11 @@ bool Has_Items(const Control_State &control) {
            control.kind == Control_Kind::Tab_Strip;
 }
 
-/// What the window has for its text. That of a painted control is only for assistive technology.
+/// What the window has for its text. That of a painted control, or with a name for it, is only for assistive
+/// technology.
 std::wstring Native_Caption(const Control_State &control) {
-    if (control.painted)
-        return To_Wide(control.access.name.empty() ? control.caption : control.access.name);
+    if (control.painted || !control.access.name.empty())
+        return To_Wide(Access_Name(control));
     std::wstring text = To_Wide(control.caption);
     return control.kind == Control_Kind::Text_Box || control.kind == Control_Kind::Combo_Box
                ? Without_Breaks(std::move(text))
@@ -108,9 +110,9 @@ void Dialog_Window::Set_Caption(const Control_State &control) {
     if (control.kind == Control_Kind::Slider) {
         if (slider_tip_.Is_Over(window))
             slider_tip_.Show(window, To_Wide(control.caption));
-        return;
     }
-    if (Has_Items(control) && !control.editable)
+    const bool shows_text = control.kind != Control_Kind::Slider && (!Has_Items(control) || control.editable);
+    if (!shows_text && control.access.name.empty())
         return;
     const std::wstring text = Native_Caption(control);
     // An equal text is not written again: it would take the caret to the beginning.
@@ -307,8 +309,10 @@ void Dialog_Window::Control_Changed(const Control_State &control, Aspect aspect,
     case Aspect::Caption:
     case Aspect::Access:
         Set_Caption(control);
-        if (control.painted)
+        if (control.painted) {
             InvalidateRect(window, nullptr, FALSE);
+            Tell_Changed(window);
+        }
         break;
     case Aspect::Look:
         Look_Changed(control);

@@ -1,8 +1,10 @@
 // Painting, mouse and keyboard of controls of a dialog that paint themselves.
 #include "win32/painted_child.h"
 
+#include "win32/accessible.h"
 #include "win32/canvas.h"
 #include "win32/modal.h"
+#include "win32/painted_window.h"
 #include "win32/units.h"
 
 namespace win32 {
@@ -75,6 +77,15 @@ LRESULT Painted_Child::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
         RECT all = {};
         GetClientRect(window_, &all);
         Paint_On(reinterpret_cast<HDC>(wparam), all);
+        return 0;
+    }
+    case WM_GETOBJECT:
+        return Answer_Get_Object(window_, wparam, lparam, index_);
+    case Default_Action_Message: {
+        Input_Event event = Event_Of(Input_Kind::Default_Action);
+        event.control = index_;
+        if (Open_Modal_Boxes == 0)
+            owner_->Send(event);
         return 0;
     }
     case WM_GETDLGCODE:

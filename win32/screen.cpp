@@ -54,6 +54,13 @@ platform::Rect platform::Work_Area_Around(Point point) {
     return {area.left, area.top, area.right - area.left, area.bottom - area.top};
 }
 
+bool platform::High_Contrast() {
+    HIGHCONTRASTW state = {};
+    state.cbSize = sizeof state;
+    return SystemParametersInfoW(SPI_GETHIGHCONTRAST, sizeof state, &state, 0) &&
+           (state.dwFlags & HCF_HIGHCONTRASTON) != 0;
+}
+
 bool platform::Mouse_Button_Held() {
     for (const int button : {VK_LBUTTON, VK_RBUTTON, VK_MBUTTON}) {
         if ((static_cast<unsigned>(GetAsyncKeyState(button)) & 0x8000U) != 0)

@@ -135,4 +135,27 @@ TEST_F(Desktop_Life, a_lost_release_ends_the_drag_where_it_is) {
     }
 }
 
+TEST_F(Desktop_Life, arrow_keys_with_ctrl_move_it_and_its_place_is_kept_when_ctrl_comes_up) {
+    Start();
+    for (const bool allowed : {false, true}) {
+        Cur_Settings.Allow_Dragging = allowed ? 1 : 0;
+        form.Move(3000, 600);
+        platform::Input_Event event{};
+        event.kind = Input_Kind::Key_Down;
+        event.control_key = true;
+        for (const int key : {37, 37, 39, 40}) { // left, left, right, down by a pixel
+            event.key = key;
+            event.shift = key == 40;
+            form.Input(event);
+        }
+        EXPECT_EQ(Stored("Manual_PosX"), "");
+        if (allowed)
+            Fakes().Expect_Box(manual_question, Box_Answer::No);
+        Send(Input_Kind::Key_Up);
+        Send(Input_Kind::Key_Up); // moves nothing any more
+        EXPECT_EQ(form.Left() + form.Top(), allowed ? 2850 + 615 : 3000 + 600);
+        EXPECT_EQ(Stored("Manual_PosX") + Stored("Manual_PosY"), allowed ? "2850615" : "");
+    }
+}
+
 } // namespace

@@ -81,4 +81,32 @@ TEST_F(Month_Grid, marks_and_names_today_and_the_other_days) {
     EXPECT_EQ(Box_Of(22).Access().name, "Friday 22nd March 2002");
 }
 
+TEST_F(Month_Grid, high_contrast_brings_the_colours_of_windows_and_takes_them_away_again) {
+    Start();
+    const auto colours = [&](int day) {
+        const Label &box = Box_Of(day);
+        const platform::Colour text = form.Box_Caption_Lbl[4 + day].Fore_Colour();
+        return std::vector{box.Back_Colour(),        box.Fore_Colour(),
+                           box.State().frame_colour, text,
+                           form.Back_Colour(),       form.Which_Month_Lbl.Fore_Colour()};
+    };
+    const auto usual = colours(5);
+    for (const auto say : {platform::Broadcast::Settings_Changed, platform::Broadcast::Colours_Changed}) {
+        Desktop().high_contrast = true;
+        Desktop().Say(say);
+        const auto system = platform::System_Colour;
+        const std::vector other{system(5), system(8), system(16), system(8), system(5), system(8)};
+        EXPECT_EQ(colours(5),
+                  (std::vector{system(13), system(14), system(13), system(14), other[4], other[5]}));
+        EXPECT_EQ(colours(6), other);
+        Fakes().now.day = 6;
+        form.Redraw();
+        EXPECT_EQ(colours(5), other) << "today is over";
+        Fakes().now.day = 5;
+        Desktop().high_contrast = false;
+        Desktop().Say(say);
+        EXPECT_EQ(colours(5), usual);
+    }
+}
+
 } // namespace

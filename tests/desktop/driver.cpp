@@ -124,6 +124,15 @@ std::string Text_Of(HWND window) {
     return Utf8({text, length});
 }
 
+Item Item_Of(HWND control, bool act) {
+    VARIANT self{};
+    self.vt = VT_I4;
+    const Accessible accessible = Accessible_Of(control);
+    if (accessible && act)
+        accessible->accDoDefaultAction(self);
+    return accessible ? Item_Of(*accessible, self) : Item{};
+}
+
 bool Wait_Until(const std::function<bool()> &holds, DWORD milliseconds) {
     const DWORD begin = GetTickCount();
     while (!holds()) {

@@ -44,6 +44,9 @@ void Send_Text(std::string_view ascii);
 /// Clicks into the middle of a dialog's control, once nothing covers it, and waits for the effect.
 void Click_On(HWND window, const std::function<bool()> &done);
 bool Has_Keyboard(HWND window);
+/// What a control of a dialog tells assistive technology of itself; with `act`, its default action is asked
+/// for.
+Item Item_Of(HWND control, bool act = false);
 std::string Text_Of(HWND window); ///< also of a control; nothing from a window that does not answer
 
 /// Polls until `holds` gives true; false after the deadline.

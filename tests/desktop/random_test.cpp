@@ -98,8 +98,11 @@ protected:
         const WORD key = One_Of({VK_F1,   VK_F2,     VK_F3,     VK_F4, VK_F5,   VK_F8,    VK_F9,
                                  VK_F12,  VK_LEFT,   VK_RIGHT,  VK_UP, VK_DOWN, VK_PRIOR, VK_NEXT,
                                  VK_HOME, VK_RETURN, VK_DELETE, 'M',   'Y',     VK_APPS});
+        const bool menu = key == 'M' || key == 'Y' || key == VK_APPS;
+        if (menu) // an item under the mouse would be the first, and the one after it may end the program
+            Send_Mouse({GetSystemMetrics(SM_CXSCREEN) - 2, 2}, 0);
         Send_Key(key);
-        if (key == 'M' || key == 'Y' || key == VK_APPS)
+        if (menu)
             Use_Menu();
     }
 
@@ -195,13 +198,23 @@ TEST_F(Random_Use, Leaves_Nothing_Behind) {
     const auto objects = [this] { return std::pair(program_->Gdi_Objects(), program_->Windows(false)); };
     std::pair<std::ptrdiff_t, std::ptrdiff_t> before;
     bool unchanged = false;
+    int exits = 0;
     Use_All();
     for (int round = 0; round < 4 && !unchanged && !HasFatalFailure(); ++round) {
         did_.clear();
         before = objects();
         for (int i = 0; i < (round == 0 ? 150 : 500); ++i)
-            Act();
-        ASSERT_FALSE(program_->Exit_Code(0).has_value()) << "the program has ended";
+            if (!program_->Exit_Code(0))
+                Act();
+        if (const std::optional<DWORD> code = program_->Exit_Code(0)) {
+            // A click can meet a menu that has just opened under it, and with it the item "Exit".
+            ASSERT_EQ(*code, 0U) << "the program has broken off";
+            ASSERT_LT(++exits, 3) << "the program ends and ends";
+            program_ = &Start_Calendar();
+            Use_All();
+            round = -1;
+            continue;
+        }
         Return();
         unchanged = round > 0 && Wait_Until([&] { return objects() == before; }, 1000);
     }

@@ -233,6 +233,10 @@ Rect Work_Area_Around(Point) {
     return Desktop().work_area;
 }
 
+bool High_Contrast() {
+    return Desktop().high_contrast;
+}
+
 bool Mouse_Button_Held() {
     return Desktop().button_held;
 }

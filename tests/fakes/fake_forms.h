@@ -62,6 +62,7 @@ struct Fake_Desktop {
     platform::Rect work_area{0, 0, 1024, 740};
     platform::Point mouse;
     bool button_held = false;
+    bool high_contrast = false;
     bool first_instance = true;
     bool refuses_windows = false; ///< no form gets a native window
     int char_width = 100;         ///< twips of every character
