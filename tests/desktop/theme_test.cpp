@@ -2,10 +2,6 @@
 #include "tests/contract/small_jpeg.h"
 #include "tests/desktop/driver.h"
 
-#include <windows.h>
-
-#include <oleacc.h>
-
 #include <cstdio>
 
 namespace {
@@ -116,19 +112,8 @@ TEST_F(Themed, What_Is_Missing_Is_Told_And_The_Calendar_Appears) {
 }
 
 // The controls of the dialog's page, from its first one.
-enum Wallpaper_Control {
-    use_chk,
-    packs_lbl,
-    packs_cbo,
-    image,
-    display_lbl,
-    style_lbl,
-    pos_lbl,
-    loading_lbl,
-    month_lbl,
-    month_sli,
-    preview_btn = 16
-};
+constexpr int use_chk = 0, packs_cbo = 2, display_lbl = 4, style_lbl = 5, pos_lbl = 6, month_lbl = 8,
+              month_sli = 9, preview_btn = 16;
 
 class Wallpaper_Page : public Themed {
 protected:
@@ -147,25 +132,11 @@ protected:
         for (int month = 1; month <= pictures; ++month)
             Put(pack + std::to_wstring(month) + L".jpg", Small_Jpeg(month));
     }
-    HWND Dialog() const { return program_->Window("Vellatro_Settings_Frm"); }
     HWND Part(int control) const {
-        const HWND first = FindWindowExA(Dialog(), nullptr, nullptr, "Use &themes");
-        return GetDlgItem(Dialog(), GetDlgCtrlID(first) + control);
+        const HWND first = FindWindowExA(dialog_, nullptr, nullptr, "Use &themes");
+        return GetDlgItem(dialog_, GetDlgCtrlID(first) + control);
     }
     bool Ticked() const { return SendMessageA(Part(use_chk), BM_GETCHECK, 0, 0) == BST_CHECKED; }
-    void Open() {
-        program_->Click(program_->Items(ROLE_SYSTEM_CELL).at(11).place, MOUSEEVENTF_RIGHTDOWN);
-        ASSERT_TRUE(Wait_Until([&] { return program_->Window("#32768") != nullptr; }));
-        program_->Choose({VK_UP, VK_UP, VK_RETURN});
-        ASSERT_TRUE(Wait_Until([&] { return Dialog() && Dialog() == GetForegroundWindow(); }));
-    }
-    void Focus(WORD access_key, int control) const {
-        for (int i = 0; i < 3 && !Has_Keyboard(Part(control)); ++i) { // X loses a key now and then
-            Send_Key(access_key, true);
-            Wait_Until([&] { return Has_Keyboard(Part(control)); }, 2000);
-        }
-        ASSERT_TRUE(Has_Keyboard(Part(control)));
-    }
     ::testing::AssertionResult Shows(const std::vector<std::string> &labels) const {
         return Becomes(labels, [this] {
             std::vector<std::string> texts;
@@ -175,11 +146,12 @@ protected:
         });
     }
     Program *program_ = nullptr;
+    HWND dialog_ = nullptr;
 };
 
 TEST_F(Wallpaper_Page, Offers_Packs_And_Refuses_One_Without_December) {
     program_ = &Start_Calendar();
-    Open();
+    dialog_ = program_->Open_Settings();
     const auto packs = [&] { return SendMessageA(Part(packs_cbo), CB_GETCOUNT, 0, 0); };
     ASSERT_EQ(packs(), 0);
     Click_On(Part(use_chk), [&] { return !program_->Box().empty(); });
@@ -193,21 +165,20 @@ TEST_F(Wallpaper_Page, Offers_Packs_And_Refuses_One_Without_December) {
     for (const auto &[pack, pictures] : packs_put) {
         Put_Pack(pack, pictures);
         Send_Key(VK_ESCAPE);
-        ASSERT_TRUE(Wait_Until([&] { return !Dialog(); }));
-        Open();
+        ASSERT_TRUE(Wait_Until([&] { return !IsWindow(dialog_); }));
+        dialog_ = program_->Open_Settings();
         EXPECT_EQ(packs(), pictures == 12 ? 1 : 2);
         EXPECT_FALSE(IsWindowEnabled(Part(packs_cbo)));
         Click_On(Part(use_chk), [&] { return Ticked(); });
         for (const int control : {packs_cbo, month_sli, preview_btn})
             EXPECT_TRUE(Wait_Until([&] { return IsWindowEnabled(Part(control)); })) << control;
         EXPECT_TRUE(Shows(may));
-        Focus('M', month_sli);
+        Focus_On(Part(month_sli), 'M');
         Send_Key(VK_RIGHT);
         EXPECT_TRUE(
             Shows({"Default", "Display: Stretch", "Box Style: Thin Box", "Position: ", "&Month: June"}));
     }
-    Save_Picture("wallpaper-page");
-    Focus('K', packs_cbo);
+    Focus_On(Part(packs_cbo), 'K');
     Send_Key(VK_DOWN);
     ASSERT_TRUE(
         Becomes(std::string("stop [Vellatro] Error Loading Theme."), [&] { return program_->Box(); }));
@@ -229,7 +200,7 @@ TEST_F(Wallpaper_Page, An_Abandoned_Preview_Leaves_No_Trace) {
         const std::wstring before = Wallpaper();
         EXPECT_EQ(before, used ? L"1 0 \\5.bmp" : L"1 0 \\..\\own.bmp");
         const RECT place = program_->Items().at(0).place;
-        Open();
+        dialog_ = program_->Open_Settings();
         if (!used)
             Click_On(Part(use_chk), [&] { return Ticked(); });
         ASSERT_TRUE(Wait_Until([&] { return IsWindowEnabled(Part(preview_btn)); }));
