@@ -119,7 +119,8 @@ class Wallpaper_Page : public Themed {
 protected:
     void SetUp() override {
         Themed::SetUp();
-        DeleteFileW((Folder() + L"\\settings.ini").c_str());
+        for (const wchar_t *pack : {L"", L"\\..\\Lacking"}) // also of an earlier run
+            DeleteFileW((Folder() + pack + L"\\settings.ini").c_str());
         for (const auto &[name, value] : {std::pair(L"TileWallpaper", L"1"), {L"WallpaperStyle", L"0"}})
             RegSetKeyValueW(HKEY_CURRENT_USER, L"Control Panel\\Desktop", name, REG_SZ, value, 4);
         Set_Setting("Settings", "Settings Tab", "6");
