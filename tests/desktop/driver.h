@@ -43,6 +43,8 @@ void Send_Key(WORD key, bool with_alt = false); ///< down and up
 void Send_Text(std::string_view ascii);
 /// Clicks into the middle of a dialog's control, once nothing covers it, and waits for the effect.
 void Click_On(HWND window, const std::function<bool()> &done);
+/// Gives a dialog's control the keyboard by its access key.
+void Focus_On(HWND window, WORD access_key);
 bool Has_Keyboard(HWND window);
 /// What a control of a dialog tells assistive technology of itself; with `act`, its default action is asked
 /// for.
@@ -97,6 +99,7 @@ public:
     void Click(const RECT &place, DWORD button = MOUSEEVENTF_LEFTDOWN, int times = 1) const;
     void Double_Click(std::string_view item) const { Click(Named(item).place, MOUSEEVENTF_LEFTDOWN, 2); }
     void Choose(std::initializer_list<WORD> keys) const; ///< presses them in the menu, which then goes away
+    HWND Open_Settings() const;                          ///< by the menu of a day, with the keyboard
     void Press(WORD key, bool with_alt = false) const;   ///< makes the calendar the active window first
 
     long Processor_Ticks() const;       ///< hundredths of a second since its start; -1: not to be had

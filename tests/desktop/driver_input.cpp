@@ -3,6 +3,8 @@
 
 #include <windows.h>
 
+#include <oleacc.h>
+
 namespace {
 
 void Send_Key_Event(WORD key, DWORD flags) {
@@ -81,6 +83,14 @@ void Click_On(HWND window, const std::function<bool()> &done) {
     EXPECT_TRUE(done()) << "no effect of a click";
 }
 
+void Focus_On(HWND window, WORD access_key) {
+    for (int i = 0; i < 3 && !Has_Keyboard(window); ++i) { // a key is lost while X changes the focus
+        Send_Key(access_key, true);
+        Wait_Until([window] { return Has_Keyboard(window); }, 2000);
+    }
+    EXPECT_TRUE(Has_Keyboard(window)) << "no keyboard by an access key";
+}
+
 void Program::Answer(WORD button) const {
     const HWND box = Box_Window();
     PostMessageW(box, WM_COMMAND, button, 0);
@@ -126,6 +136,18 @@ void Program::Choose(std::initializer_list<WORD> keys) const {
     for (const WORD key : keys)
         Send_Key(key);
     EXPECT_TRUE(Wait_Until([this] { return Window("#32768") == nullptr; })) << "the menu stays";
+}
+
+HWND Program::Open_Settings() const {
+    Click(Items(ROLE_SYSTEM_CELL).at(0).place, MOUSEEVENTF_RIGHTDOWN);
+    EXPECT_TRUE(Wait_Until([this] { return Window("#32768") != nullptr; }));
+    Choose({VK_UP, VK_UP, VK_RETURN});
+    HWND dialog = nullptr;
+    EXPECT_TRUE(Wait_Until([&] {
+        dialog = Window("Vellatro_Settings_Frm");
+        return dialog && dialog == GetForegroundWindow();
+    })) << "no settings";
+    return dialog;
 }
 
 void Program::Press(WORD key, bool with_alt) const {

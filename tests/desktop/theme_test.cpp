@@ -111,4 +111,121 @@ TEST_F(Themed, What_Is_Missing_Is_Told_And_The_Calendar_Appears) {
     }
 }
 
+// The controls of the dialog's page, from its first one.
+constexpr int use_chk = 0, packs_cbo = 2, display_lbl = 4, style_lbl = 5, pos_lbl = 6, month_lbl = 8,
+              month_sli = 9, preview_btn = 16;
+
+class Wallpaper_Page : public Themed {
+protected:
+    void SetUp() override {
+        Themed::SetUp();
+        for (const wchar_t *pack : {L"", L"\\..\\Lacking"}) // also of an earlier run
+            DeleteFileW((Folder() + pack + L"\\settings.ini").c_str());
+        for (const auto &[name, value] : {std::pair(L"TileWallpaper", L"1"), {L"WallpaperStyle", L"0"}})
+            RegSetKeyValueW(HKEY_CURRENT_USER, L"Control Panel\\Desktop", name, REG_SZ, value, 4);
+        Set_Setting("Settings", "Settings Tab", "6");
+        Set_Setting("Settings", "Use Themes", "0");
+    }
+    void Put_Pack(const std::wstring &name, int pictures) const {
+        const std::wstring pack = L"..\\" + name + L"\\";
+        CreateDirectoryW((Folder() + L"\\" + pack).c_str(), nullptr);
+        Put(pack + L"settings.ini", "1=0-3-2\r\n2=1-0-2\r\n3=0-6-2\r\n4=0-6-2\r\n5=1-0-1\r\n6=0-7-2\r\n");
+        for (int month = 1; month <= pictures; ++month)
+            Put(pack + std::to_wstring(month) + L".jpg", Small_Jpeg(month));
+    }
+    HWND Part(int control) const {
+        const HWND first = FindWindowExA(dialog_, nullptr, nullptr, "Use &themes");
+        return GetDlgItem(dialog_, GetDlgCtrlID(first) + control);
+    }
+    bool Ticked() const { return SendMessageA(Part(use_chk), BM_GETCHECK, 0, 0) == BST_CHECKED; }
+    ::testing::AssertionResult Shows(const std::vector<std::string> &labels) const {
+        return Becomes(labels, [this] {
+            std::vector<std::string> texts;
+            for (const int label : {packs_cbo, display_lbl, style_lbl, pos_lbl, month_lbl})
+                texts.push_back(Text_Of(Part(label)));
+            return texts;
+        });
+    }
+    Program *program_ = nullptr;
+    HWND dialog_ = nullptr;
+};
+
+TEST_F(Wallpaper_Page, Offers_Packs_And_Refuses_One_Without_December) {
+    program_ = &Start_Calendar();
+    dialog_ = program_->Open_Settings();
+    const auto packs = [&] { return SendMessageA(Part(packs_cbo), CB_GETCOUNT, 0, 0); };
+    ASSERT_EQ(packs(), 0);
+    Click_On(Part(use_chk), [&] { return !program_->Box().empty(); });
+    EXPECT_EQ(program_->Box(), "warning [Vellatro] No Themes Available!");
+    program_->Answer();
+    EXPECT_FALSE(Ticked());
+    EXPECT_TRUE(Shows({"", "Display:", "Box Style:", "Position:", "&Month: May"}));
+    const std::vector<std::string> may = {"Default", "Display: Tile", "Box Style: Square Box",
+                                          "Position: Bottom Right", "&Month: May"};
+    const std::pair<const wchar_t *, int> packs_put[] = {{L"Default", 12}, {L"Lacking", 11}};
+    for (const auto &[pack, pictures] : packs_put) {
+        Put_Pack(pack, pictures);
+        Send_Key(VK_ESCAPE);
+        ASSERT_TRUE(Wait_Until([&] { return !IsWindow(dialog_); }));
+        dialog_ = program_->Open_Settings();
+        EXPECT_EQ(packs(), pictures == 12 ? 1 : 2);
+        EXPECT_FALSE(IsWindowEnabled(Part(packs_cbo)));
+        Click_On(Part(use_chk), [&] { return Ticked(); });
+        for (const int control : {packs_cbo, month_sli, preview_btn})
+            EXPECT_TRUE(Wait_Until([&] { return IsWindowEnabled(Part(control)); })) << control;
+        EXPECT_TRUE(Shows(may));
+        Focus_On(Part(month_sli), 'M');
+        Send_Key(VK_RIGHT);
+        EXPECT_TRUE(
+            Shows({"Default", "Display: Stretch", "Box Style: Thin Box", "Position: ", "&Month: June"}));
+    }
+    Focus_On(Part(packs_cbo), 'K');
+    Send_Key(VK_DOWN);
+    ASSERT_TRUE(
+        Becomes(std::string("stop [Vellatro] Error Loading Theme."), [&] { return program_->Box(); }));
+    program_->Answer();
+    EXPECT_TRUE(Shows(may));
+    EXPECT_EQ(program_->Box(), "");
+    EXPECT_EQ(Wallpaper(), L"1 0 ") << "by looking alone";
+}
+
+TEST_F(Wallpaper_Page, An_Abandoned_Preview_Leaves_No_Trace) {
+    Put_Pack(L"Default", 12);
+    std::wstring own = Folder() + L"\\..\\own.bmp";
+    Picture().Save(own);
+    SystemParametersInfoW(SPI_SETDESKWALLPAPER, 0, own.data(), SPIF_UPDATEINIFILE);
+    for (const bool used : {false, true}) {
+        SCOPED_TRACE(used);
+        Set_Setting("Settings", "Use Themes", used ? "1" : "0");
+        program_ = &Start_Calendar();
+        const std::wstring before = Wallpaper();
+        EXPECT_EQ(before, used ? L"1 0 \\5.bmp" : L"1 0 \\..\\own.bmp");
+        const RECT place = program_->Items().at(0).place;
+        dialog_ = program_->Open_Settings();
+        if (!used)
+            Click_On(Part(use_chk), [&] { return Ticked(); });
+        ASSERT_TRUE(Wait_Until([&] { return IsWindowEnabled(Part(preview_btn)); }));
+        Click_On(Part(preview_btn), [&] { return !IsWindowEnabled(Part(preview_btn)); });
+        const DWORD begin = GetTickCount();
+        for (const auto &[title, wallpaper] : {std::pair("Preview Mode - January", L"0 2 \\1.bmp"),
+                                               {"Preview Mode - February", L"0 2 \\2.bmp"}}) {
+            EXPECT_TRUE(Becomes(std::string(title), [&] { return program_->Title(); }));
+            EXPECT_TRUE(Becomes(std::wstring(wallpaper), [&] { return Wallpaper(); }));
+        }
+        EXPECT_GE(GetTickCount() - begin, 2000U);
+        Send_Key(VK_ESCAPE);
+        EXPECT_TRUE(Becomes(before, [&] { return Wallpaper(); }));
+        EXPECT_TRUE(Becomes(std::string("12th May - 2027"), [&] { return program_->Title(); }));
+        EXPECT_TRUE(Wait_Until([&] { return IsWindowEnabled(Part(preview_btn)); })) << "the dialog stays";
+        const RECT after = program_->Items().at(0).place;
+        EXPECT_TRUE(EqualRect(&place, &after));
+        for (const wchar_t *left : {L"1.bmp", L"2.bmp"})
+            EXPECT_EQ(Size(left), 0U) << left;
+        EXPECT_EQ(Size(L"5.bmp") > 0, used);
+        EXPECT_EQ(Store().find("Use Themes=1") != std::string::npos, used);
+        EXPECT_EQ(program_->Box(), "");
+        Stop_All();
+    }
+}
+
 } // namespace
