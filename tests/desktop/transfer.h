@@ -27,14 +27,15 @@ protected:
         ASSERT_TRUE(Wait_Until([&] { return program_->Window("Vellatro_Settings_Frm") != nullptr; }));
     }
 
-    /// Presses the button of an access key, and names a file in the dialog of that title.
+    /// Presses the button of an access key, and names a file in the dialog of that title; without a name it
+    /// cancels.
     void Choose_File(WORD access_key, const char *title, const std::string &name) const {
         const auto dialog = [&] { return FindWindowA("#32770", title); };
         for (int i = 0; i < 3 && dialog() == nullptr; ++i) { // a key is lost while X changes the focus
             Send_Key(access_key, true);
             Wait_Until([&] { return dialog() != nullptr; }, 2000);
         }
-        Give_Name(title, folder_ + name);
+        Give_Name(title, name.empty() ? name : folder_ + name);
     }
     /// Names a file in a dialog that is there or comes, or cancels it.
     static void Give_Name(const char *title, const std::string &path) {

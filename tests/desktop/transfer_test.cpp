@@ -2,6 +2,8 @@
 // exported table says to another reader, tests/csv_fields.py looks at afterwards.
 #include "tests/desktop/transfer.h"
 
+#include <tuple>
+
 namespace {
 
 TEST_F(Transfer, Events_Go_Out_And_Come_Back) {
@@ -36,8 +38,7 @@ TEST_F(Transfer, Every_Export_Asks_And_Keeps_What_It_May_Not_Replace) {
     for (const auto &[key, title, name, report, content] : rows) {
         SCOPED_TRACE(title);
         const std::string question = "[Vellatro] Overwrite existing file?";
-        Send_Key(key, true);
-        Give_Name(title, "");
+        Choose_File(key, title, "");
         Expect_Quiet();
         EXPECT_EQ(File(name), "");
         Set_File(name, "old");
@@ -73,102 +74,55 @@ TEST_F(Transfer, Every_Import_Refuses_And_Asks) {
     Set_File("out.ini", "\"Tooltips=2\"\r\n\"Unknown=1\"\r\n");
     Write_Data(old);
     Open();
-    const std::string replace =
-        "warning [Vellatro] You already have a working data file. Importing another one "
-        "will completely overwrite the old one and you will lose all data.";
+    const auto title = [](WORD key) {
+        return key == 'T'   ? "Import Data File"
+               : key == 'L' ? "Import Events from CSV File"
+                            : "Import Configuration File";
+    };
+    const std::string warning = "warning [Vellatro] ";
+    const std::string missing = warning + "File doesn't exist!";
+    const std::string own = warning + "You can't import the data file your currently using!";
+    const std::tuple<WORD, const char *, std::string> refused[] = {{'T', "none.dat", missing},
+                                                                   {'T', "Calendar.dat", own},
+                                                                   {'L', "n.csv", missing},
+                                                                   {'G', "n.ini", missing}};
+    for (const auto &[key, name, box] : refused) {
+        SCOPED_TRACE(name);
+        Choose_File(key, title(key), "");
+        Expect_Quiet();
+        Choose_File(key, title(key), name);
+        Answer(box);
+        Give_Name(title(key), ""); // it asks for another name
+        Expect_Quiet();
+        EXPECT_EQ(Data(), old);
+        ASSERT_FALSE(HasFailure());
+    }
+    const std::string replace = warning + "You already have a working data file. Importing another one will "
+                                          "completely overwrite the old one and you will lose all data.";
     const std::string replaced =
         "[Vellatro] Successfully imported data file from...\r\n\r\n" + folder_ + "out.dat";
-    const std::string failed = "warning [Vellatro] Error when importing ";
+    const std::string failed = warning + "Error when importing ";
+    const std::string headings = "stop [Vellatro] Invalid CSV file or missing required headings.";
+    const std::string one = "[Vellatro] Successfully imported 1 events from the CSV file...";
     const struct {
         WORD key;
-        const char *title, *name;
+        const char *name;
+        std::vector<std::string> boxes;
+        WORD answer;    ///< to the first of the boxes
         bool read_only; ///< the data file
-        std::vector<std::pair<std::string, WORD>> boxes;
-        bool asks_again;
-        const char *after;
-    } rows[] = {
-        {'T', "Import Data File", "", false, {}, false, old.c_str()},
-        {'T',
-         "Import Data File",
-         "none.dat",
-         false,
-         {{"warning [Vellatro] File doesn't exist!", IDOK}},
-         true,
-         old.c_str()},
-        {'T',
-         "Import Data File",
-         "calendar.dat",
-         false,
-         {{"warning [Vellatro] You can't import the data file your currently using!", IDOK}},
-         true,
-         old.c_str()},
-        {'T', "Import Data File", "out.dat", false, {{replace, IDNO}, {replaced, IDOK}}, false, old.c_str()},
-        {'T',
-         "Import Data File",
-         "out.dat",
-         true,
-         {{replace, IDYES}, {failed + "data file.", IDOK}},
-         false,
-         old.c_str()},
-        {'L', "Import Events from CSV File", "", false, {}, false, old.c_str()},
-        {'L',
-         "Import Events from CSV File",
-         "none.csv",
-         false,
-         {{"warning [Vellatro] File doesn't exist!", IDOK}},
-         true,
-         old.c_str()},
-        {'L',
-         "Import Events from CSV File",
-         "out.csv",
-         true,
-         {{failed + "from CSV file.", IDOK}},
-         false,
-         old.c_str()},
-        {'L',
-         "Import Events from CSV File",
-         "out.txt",
-         false,
-         {{"stop [Vellatro] Invalid CSV file or missing required headings.", IDOK},
-          {failed + "from CSV file.", IDOK}},
-         false,
-         old.c_str()},
-        {'L',
-         "Import Events from CSV File",
-         "out.csv",
-         false,
-         {{"[Vellatro] Successfully imported 1 events", IDOK}},
-         false,
-         "\"6/5/2027=Old + New\"\r\n"},
-        {'T',
-         "Import Data File",
-         "out.dat",
-         false,
-         {{replace, IDYES}, {replaced, IDOK}},
-         false,
-         "\"7/5/2027=Other\"\r\n"},
-        {'G', "Import Configuration File", "", false, {}, false, "\"7/5/2027=Other\"\r\n"},
-        {'G',
-         "Import Configuration File",
-         "none.ini",
-         false,
-         {{"warning [Vellatro] File doesn't exist!", IDOK}},
-         true,
-         "\"7/5/2027=Other\"\r\n"},
-    };
-    for (const auto &[key, title, name, read_only, boxes, asks_again, after] : rows) {
-        SCOPED_TRACE(std::string(title) + ": " + name + (read_only ? ", read-only" : ""));
+        std::string after;
+    } rows[] = {{'T', "out.dat", {replace, replaced}, IDNO, false, old},
+                {'T', "out.dat", {replace, failed + "data file."}, IDYES, true, old},
+                {'L', "out.csv", {failed + "from CSV file."}, IDOK, true, old},
+                {'L', "out.txt", {headings, failed + "from CSV file."}, IDOK, false, old},
+                {'L', "out.csv", {one}, IDOK, false, "\"6/5/2027=Old + New\"\r\n"},
+                {'T', "out.dat", {replace, replaced}, IDYES, false, "\"7/5/2027=Other\"\r\n"}};
+    for (const auto &[key, name, boxes, answer, read_only, after] : rows) {
+        SCOPED_TRACE(name + boxes.back());
         Set_Read_Only("calendar.dat", read_only);
-        if (*name)
-            Choose_File(key, title, name);
-        else {
-            Send_Key(key, true);
-            Give_Name(title, "");
-        }
-        for (const auto &[text, button] : boxes)
-            Answer(text, button);
-        if (asks_again)
-            Give_Name(title, "");
+        Choose_File(key, title(key), name);
+        for (const std::string &box : boxes)
+            Answer(box, &box == boxes.data() ? answer : WORD{IDOK});
         Expect_Quiet();
         EXPECT_EQ(Data(), after);
         ASSERT_FALSE(HasFailure());
