@@ -1,0 +1,90 @@
+// The way to imports and exports through the settings dialog, for the tests that take it. It judges nothing
+// but the way itself.
+#pragma once
+
+#include "tests/desktop/driver.h"
+
+#include <cstdio>
+
+class Transfer : public Desktop_Test {
+protected:
+    void SetUp() override {
+        Desktop_Test::SetUp();
+        for (const wchar_t character : Data_Path().substr(0, Data_Path().rfind(L'\\') + 1))
+            folder_ += static_cast<char>(character);
+        for (const char *name : {"out.csv", "out.dat", "out.ini", "out.txt", "data.bak"}) // of an earlier run
+            Set_File(name, nullptr);
+    }
+
+    /// The settings dialog, on its page of import and export.
+    void Open() {
+        Set_Setting("Settings", "Settings Tab", "7");
+        Set_Setting("Settings", "Show Alerts", "0");
+        program_ = &Start_Calendar();
+        program_->Click(program_->Named("Wednesday 12th May 2027, today").place, MOUSEEVENTF_RIGHTDOWN);
+        ASSERT_TRUE(Wait_Until([&] { return program_->Window("#32768") != nullptr; }));
+        program_->Choose({VK_UP, VK_UP, VK_RETURN});
+        ASSERT_TRUE(Wait_Until([&] { return program_->Window("Vellatro_Settings_Frm") != nullptr; }));
+    }
+
+    /// Presses the button of an access key, and names a file in the dialog of that title; without a name it
+    /// cancels.
+    void Choose_File(WORD access_key, const char *title, const std::string &name) const {
+        const auto dialog = [&] { return FindWindowA("#32770", title); };
+        for (int i = 0; i < 3 && dialog() == nullptr; ++i) { // a key is lost while X changes the focus
+            Send_Key(access_key, true);
+            Wait_Until([&] { return dialog() != nullptr; }, 2000);
+        }
+        Give_Name(title, name.empty() ? name : folder_ + name);
+    }
+    /// Names a file in a dialog that is there or comes, or cancels it.
+    static void Give_Name(const char *title, const std::string &path) {
+        constexpr int file_name = 0x47C;
+        HWND dialog = nullptr;
+        ASSERT_TRUE(Wait_Until([&] {
+            dialog = FindWindowA("#32770", title);
+            SetDlgItemTextA(dialog, file_name, path.c_str());
+            return dialog && IsWindowVisible(dialog) && Text_Of(GetDlgItem(dialog, file_name)) == path;
+        })) << title;
+        PostMessageA(dialog, WM_COMMAND, path.empty() ? IDCANCEL : IDOK, 0);
+        ASSERT_TRUE(Wait_Until([&] { return !IsWindow(dialog); })) << title;
+    }
+    /// Answers the box whose text begins so.
+    void Answer(const std::string &box, WORD button = IDOK) const {
+        ASSERT_TRUE(Becomes(
+            box, [&] { return program_->Box().substr(0, box.size()); }, 15000));
+        program_->Answer(button);
+    }
+    /// No box follows, and the page can be used again.
+    void Expect_Quiet() const {
+        const HWND page = program_->Window("Vellatro_Settings_Frm");
+        EXPECT_TRUE(
+            Wait_Until([&] { return page && IsWindowEnabled(page) && GetForegroundWindow() == page; }));
+        EXPECT_EQ(program_->Box(), "");
+    }
+    /// Makes the file hold the bytes; null: makes it go.
+    void Set_File(const std::string &name, const char *bytes) const {
+        SetFileAttributesA((folder_ + name).c_str(), FILE_ATTRIBUTE_NORMAL);
+        DeleteFileA((folder_ + name).c_str());
+        if (FILE *file = bytes ? std::fopen((folder_ + name).c_str(), "wb") : nullptr) {
+            std::fputs(bytes, file);
+            std::fclose(file);
+        }
+    }
+    void Set_Read_Only(const std::string &name, bool on) const {
+        EXPECT_TRUE(SetFileAttributesA((folder_ + name).c_str(),
+                                       on ? FILE_ATTRIBUTE_READONLY : FILE_ATTRIBUTE_NORMAL));
+    }
+    /// Empty: there is none.
+    std::string File(const std::string &name) const {
+        char bytes[10000] = "";
+        if (FILE *file = std::fopen((folder_ + name).c_str(), "rb")) {
+            bytes[std::fread(bytes, 1, sizeof bytes - 1, file)] = '\0';
+            std::fclose(file);
+        }
+        return bytes;
+    }
+
+    const Program *program_ = nullptr;
+    std::string folder_; ///< the program's, with the separator
+};
