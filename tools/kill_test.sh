@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # kill_test.sh [TIMES]: kills the program TIMES (200) times at random moments, half of them during a long import and
 # half during saves, and checks each time that the data file is whole and that the next start reads it. Under Wine
-# on a display of its own; about six seconds a time. Installs what is missing.
+# on a display of its own; six to nine seconds a time. Installs what is missing.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 for part in common packages display wine desktop; do
