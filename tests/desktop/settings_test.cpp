@@ -64,15 +64,20 @@ protected:
         Click_At(Part(use_system, swatch), 50, 50);
         Choose(Part(use_system, 17), name);
     }
-    /// Returns the milliseconds from the menu's choice to the dialog.
+    /// By messages, as the mouse loses a click in fifty. Returns the milliseconds from the choice to the
+    /// dialog.
     static double Open() {
         LARGE_INTEGER begin, end, unit;
-        program->Click(program->Named("Thursday 6th May 2027").place, MOUSEEVENTF_RIGHTDOWN);
+        const HWND calendar = program->Calendar();
+        POINT day = Middle(program->Named(saturday).place);
+        ScreenToClient(calendar, &day);
+        for (const UINT message : {UINT{WM_RBUTTONDOWN}, UINT{WM_RBUTTONUP}})
+            PostMessageA(calendar, message, 0, MAKELPARAM(day.x, day.y));
         EXPECT_TRUE(Wait_Until([] { return program->Window("#32768") != nullptr; }));
-        Send_Key(VK_UP);
-        Send_Key(VK_UP);
+        for (int i = 0; i < 2; ++i)
+            PostMessageA(calendar, WM_KEYDOWN, VK_UP, 1);
         QueryPerformanceCounter(&begin);
-        Send_Key(VK_RETURN);
+        PostMessageA(calendar, WM_KEYDOWN, VK_RETURN, 1);
         for (int i = 0; i < 5000 && !Dialog(); ++i)
             Sleep(1);
         QueryPerformanceCounter(&end);
