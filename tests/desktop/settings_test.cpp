@@ -1,14 +1,11 @@
-// The settings dialog: what Apply, OK, Cancel and the close box write and what they leave, what the calendar
-// shows of it, and that fifty openings leave nothing behind. Its pages for events, themes and files are not
-// here.
+// The settings dialog: what Apply, OK, Cancel and the close box write and what they leave, and what the
+// calendar shows of it. Its pages for events, themes and files are not here.
 #include "tests/desktop/driver.h"
 
 #include <windows.h>
 
 #include <commctrl.h>
 
-#include <algorithm>
-#include <cstdio>
 #include <map>
 #include <sstream>
 
@@ -64,27 +61,22 @@ protected:
         Click_At(Part(use_system, swatch), 50, 50);
         Choose(Part(use_system, 17), name);
     }
-    /// By messages, as the mouse loses a click in fifty. Returns the milliseconds from the choice to the
-    /// dialog.
-    static double Open() {
-        LARGE_INTEGER begin, end, unit;
+    /// By messages, as the mouse does not always get through.
+    static void Open() {
         const HWND calendar = program->Calendar();
         POINT day = Middle(program->Named(saturday).place);
         ScreenToClient(calendar, &day);
-        for (const UINT message : {UINT{WM_RBUTTONDOWN}, UINT{WM_RBUTTONUP}})
-            PostMessageA(calendar, message, 0, MAKELPARAM(day.x, day.y));
-        EXPECT_TRUE(Wait_Until([] { return program->Window("#32768") != nullptr; }));
+        const auto menu = [] { return program->Window("#32768") != nullptr; };
+        for (int i = 0; i < 4 && !menu(); ++i) { // X, late with the focus, takes a menu away now and then
+            for (const UINT message : {UINT{WM_RBUTTONDOWN}, UINT{WM_RBUTTONUP}})
+                PostMessageA(calendar, message, 0, MAKELPARAM(day.x, day.y));
+            Wait_Until(menu, 2000);
+        }
+        EXPECT_TRUE(menu());
         for (int i = 0; i < 2; ++i)
             PostMessageA(calendar, WM_KEYDOWN, VK_UP, 1);
-        QueryPerformanceCounter(&begin);
         PostMessageA(calendar, WM_KEYDOWN, VK_RETURN, 1);
-        for (int i = 0; i < 5000 && !Dialog(); ++i)
-            Sleep(1);
-        QueryPerformanceCounter(&end);
-        QueryPerformanceFrequency(&unit);
         EXPECT_TRUE(Wait_Until([] { return Dialog() && Has_Keyboard(Tabs()); }));
-        return 1000.0 * static_cast<double>(end.QuadPart - begin.QuadPart) /
-               static_cast<double>(unit.QuadPart);
     }
     static Stored All() {
         Stored values;
@@ -257,34 +249,6 @@ TEST_F(Settings_Dialog, Only_Ok_And_Apply_Save) {
             EXPECT_TRUE(!other.seen || (IsWindowVisible(Part(other.seen)) != FALSE) == (other.tab == row.tab))
                 << other.seen;
     }
-}
-
-TEST_F(Settings_Dialog, Fifty_Openings_Leave_Nothing_Behind) {
-    const auto held = [] { return std::pair(program->Gdi_Objects(), program->Windows(false)); };
-    std::pair<std::ptrdiff_t, std::ptrdiff_t> before;
-    std::vector<double> times;
-    bool unchanged = false;
-    long memory = 0;
-    // What the system makes once and keeps may still come in the first fifty; a leak would go on.
-    for (int round = 0; round < 3 && !unchanged && !HasFatalFailure(); ++round) {
-        before = held();
-        memory = program->Private_Memory();
-        for (int i = 0; i < (round == 0 ? 8 : 50); ++i) { // each page once before it counts
-            times.push_back(Open());
-            Turn_To(i % 8 + 1);
-            PostMessageA(Dialog(), WM_CLOSE, 0, 0);
-            ASSERT_TRUE(Wait_Until([] { return !Dialog() && program->Windows(true) == 1; }));
-        }
-        unchanged = round > 0 && Wait_Until([&] { return held() == before; }, 1000);
-    }
-    EXPECT_TRUE(unchanged) << ::testing::PrintToString(before) << ::testing::PrintToString(held());
-    const long after = program->Private_Memory();
-    ASSERT_GT(memory, 0);
-    EXPECT_LE(after, memory + 1024);
-    std::sort(times.begin() + 1, times.end());
-    std::printf(
-        "%zu openings: first %.0f ms, median %.0f ms, longest %.0f ms; private memory %ld, then %ld KB\n",
-        times.size(), times[0], times[times.size() / 2], times.back(), memory, after);
 }
 
 } // namespace
