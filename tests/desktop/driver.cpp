@@ -8,6 +8,8 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <cstdlib>
+#include <cstring>
 #include <winternl.h>
 
 namespace {
@@ -270,34 +272,52 @@ std::string Program::Box() const {
     return icon + "[" + Text_Of(box) + "] " + text;
 }
 
-long Program::Processor_Ticks() const {
+std::string Program::Host_File(const wchar_t *name) const {
     wchar_t path[MAX_PATH] = L"";
     DWORD length = std::size(path);
     QueryFullProcessImageNameW(process_, 0, path, &length);
     WIN32_FIND_DATAW found;
-    long ticks = -1;
+    std::string text;
     // The path is the test's own, so it tells the process from those of other runs.
-    const auto read = [&found](const wchar_t *name) {
-        char text[1000] = "";
-        if (FILE *file = _wfopen((std::wstring(L"Z:\\proc\\") + found.cFileName + name).c_str(), L"rb")) {
-            text[std::fread(text, 1, sizeof text - 1, file)] = '\0';
+    const auto read = [&found](const wchar_t *file_name) {
+        char part[2000] = "";
+        if (FILE *file =
+                _wfopen((std::wstring(L"Z:\\proc\\") + found.cFileName + file_name).c_str(), L"rb")) {
+            part[std::fread(part, 1, sizeof part - 1, file)] = '\0';
             std::fclose(file);
         }
-        return std::string(text);
+        return std::string(part);
     };
     const HANDLE search = FindFirstFileW(L"Z:\\proc\\*", &found);
     do {
-        if (read(L"\\cmdline") != Utf8({path, length}))
-            continue;
-        const std::string stat = read(L"\\stat");
-        long user = 0;
-        long system = 0;
-        if (std::sscanf(stat.c_str() + stat.rfind(')'),
-                        ") %*c %*d %*d %*d %*d %*d %*u %*u %*u %*u %*u %ld %ld", &user, &system) == 2)
-            ticks = user + system;
-    } while (ticks < 0 && FindNextFileW(search, &found));
+        if (read(L"\\cmdline") == Utf8({path, length}))
+            text = read(name);
+    } while (text.empty() && FindNextFileW(search, &found));
     FindClose(search);
-    return ticks;
+    return text;
+}
+
+long Program::Processor_Ticks() const {
+    const std::string stat = Host_File(L"\\stat");
+    long user = 0;
+    long system = 0;
+    if (stat.empty() ||
+        std::sscanf(stat.c_str() + stat.rfind(')'), ") %*c %*d %*d %*d %*d %*d %*u %*u %*u %*u %*u %ld %ld",
+                    &user, &system) != 2)
+        return -1;
+    return user + system;
+}
+
+long Program::Private_Memory() const {
+    const std::string rollup = Host_File(L"\\smaps_rollup");
+    long sum = 0;
+    for (const char *name : {"Private_Clean:", "Private_Dirty:"}) {
+        const std::size_t place = rollup.find(name);
+        if (place == std::string::npos)
+            return -1;
+        sum += std::atol(rollup.c_str() + place + std::strlen(name));
+    }
+    return sum;
 }
 
 std::ptrdiff_t Program::Gdi_Objects() const {

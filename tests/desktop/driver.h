@@ -97,10 +97,14 @@ public:
     void Press(WORD key, bool with_alt = false) const;   ///< makes the calendar the active window first
 
     long Processor_Ticks() const;       ///< hundredths of a second since its start; -1: not to be had
+    long Private_Memory() const;        ///< KB; -1: not to be had
     std::ptrdiff_t Gdi_Objects() const; ///< -1: not to be had
     std::ptrdiff_t Windows(bool only_visible) const;
 
 private:
+    /// What the host tells of the process in the file of that name; empty when it does not.
+    std::string Host_File(const wchar_t *name) const;
+
     HANDLE process_ = nullptr;
     DWORD id_ = 0;
 };
