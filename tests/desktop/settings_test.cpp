@@ -64,15 +64,26 @@ protected:
         Click_At(Part(use_system, swatch), 50, 50);
         Choose(Part(use_system, 17), name);
     }
-    /// Returns the milliseconds from the menu's choice to the dialog.
+    /// By messages, as the mouse loses a click in fifty. Returns the milliseconds from the choice to the
+    /// dialog.
     static double Open() {
         LARGE_INTEGER begin, end, unit;
-        program->Click(program->Named("Thursday 6th May 2027").place, MOUSEEVENTF_RIGHTDOWN);
-        EXPECT_TRUE(Wait_Until([] { return program->Window("#32768") != nullptr; }));
-        Send_Key(VK_UP);
-        Send_Key(VK_UP);
+        const HWND calendar = program->Calendar();
+        RECT place{}; // of which the calendar does not tell while it is busy
+        EXPECT_TRUE(Wait_Until([&] { return (place = program->Named(saturday).place).right > 0; }));
+        POINT day = Middle(place);
+        ScreenToClient(calendar, &day);
+        const auto menu = [] { return program->Window("#32768") != nullptr; };
+        for (int i = 0; i < 4 && !menu(); ++i) { // X, late with the focus, takes a menu away now and then
+            for (const UINT message : {UINT{WM_RBUTTONDOWN}, UINT{WM_RBUTTONUP}})
+                PostMessageA(calendar, message, 0, MAKELPARAM(day.x, day.y));
+            Wait_Until(menu, 2000);
+        }
+        EXPECT_TRUE(menu());
+        for (int i = 0; i < 2; ++i)
+            PostMessageA(calendar, WM_KEYDOWN, VK_UP, 1);
         QueryPerformanceCounter(&begin);
-        Send_Key(VK_RETURN);
+        PostMessageA(calendar, WM_KEYDOWN, VK_RETURN, 1);
         for (int i = 0; i < 5000 && !Dialog(); ++i)
             Sleep(1);
         QueryPerformanceCounter(&end);
@@ -259,27 +270,27 @@ TEST_F(Settings_Dialog, Fifty_Openings_Leave_Nothing_Behind) {
     std::pair<std::ptrdiff_t, std::ptrdiff_t> before;
     std::vector<double> times;
     bool unchanged = false;
-    long memory = 0;
-    // What the system makes once and keeps may still come in the first fifty; a leak would go on.
-    for (int round = 0; round < 3 && !unchanged && !HasFatalFailure(); ++round) {
+    // What the system makes once and keeps may come in the first fifty, too; a leak would go on for ever.
+    for (int round = 0; round < 4 && !unchanged && !HasFailure(); ++round) {
         before = held();
-        memory = program->Private_Memory();
+        const long memory = program->Private_Memory();
+        ASSERT_GT(memory, 0);
         for (int i = 0; i < (round == 0 ? 8 : 50); ++i) { // each page once before it counts
             times.push_back(Open());
             Turn_To(i % 8 + 1);
             PostMessageA(Dialog(), WM_CLOSE, 0, 0);
             ASSERT_TRUE(Wait_Until([] { return !Dialog() && program->Windows(true) == 1; }));
         }
-        unchanged = round > 0 && Wait_Until([&] { return held() == before; }, 1000);
+        const bool same = Wait_Until([&] { return held() == before; }, 1000);
+        const long after = program->Private_Memory();
+        unchanged = round > 0 && same && after <= memory + 1024;
+        std::printf("%d objects, %ld KB, then %d, %ld KB\n", static_cast<int>(before.first), memory,
+                    static_cast<int>(held().first), after);
     }
-    EXPECT_TRUE(unchanged) << ::testing::PrintToString(before) << ::testing::PrintToString(held());
-    const long after = program->Private_Memory();
-    ASSERT_GT(memory, 0);
-    EXPECT_LE(after, memory + 1024);
+    EXPECT_TRUE(unchanged);
     std::sort(times.begin() + 1, times.end());
-    std::printf(
-        "%zu openings: first %.0f ms, median %.0f ms, longest %.0f ms; private memory %ld, then %ld KB\n",
-        times.size(), times[0], times[times.size() / 2], times.back(), memory, after);
+    std::printf("%d openings: first %.0f ms, median %.0f ms, longest %.0f ms\n",
+                static_cast<int>(times.size()), times[0], times[times.size() / 2], times.back());
 }
 
 } // namespace
