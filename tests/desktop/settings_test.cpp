@@ -65,7 +65,7 @@ protected:
         Choose(Part(use_system, 17), name);
     }
     /// By messages, as the mouse loses a click in fifty. Returns the milliseconds from the choice to the
-    /// dialog.
+    /// dialog; less than 0 when no menu came.
     static double Open() {
         LARGE_INTEGER begin, end, unit;
         const HWND calendar = program->Calendar();
@@ -80,7 +80,8 @@ protected:
             PostMessageA(calendar, WM_RBUTTONDOWN, 0, MAKELPARAM(day.x, day.y));
             Wait_Until(menu, 2000);
         }
-        EXPECT_TRUE(menu());
+        if (!menu())
+            return -1;
         for (int i = 0; i < 2; ++i)
             PostMessageA(calendar, WM_KEYDOWN, VK_UP, 1);
         QueryPerformanceCounter(&begin);
@@ -270,6 +271,7 @@ TEST_F(Settings_Dialog, Fifty_Openings_Leave_Nothing_Behind) {
     const auto held = [] { return std::pair(program->Gdi_Objects(), program->Windows(false)); };
     std::pair<std::ptrdiff_t, std::ptrdiff_t> before;
     std::vector<double> times;
+    int missed = 0;
     bool unchanged = false;
     // What the system makes once and keeps may come in the first fifty, too; a leak would go on for ever.
     for (int round = 0; round < 4 && !unchanged && !HasFailure(); ++round) {
@@ -277,7 +279,12 @@ TEST_F(Settings_Dialog, Fifty_Openings_Leave_Nothing_Behind) {
         const long memory = program->Private_Memory();
         ASSERT_GT(memory, 0);
         for (int i = 0; i < (round == 0 ? 8 : 50); ++i) { // each page once before it counts
-            times.push_back(Open());
+            const double time = Open();
+            if (time < 0) { // once in a hundred openings no menu is seen for seconds; the next ones come
+                ASSERT_LT(++missed, 4) << "the calendar opens no menu any more";
+                continue;
+            }
+            times.push_back(time);
             Turn_To(i % 8 + 1);
             PostMessageA(Dialog(), WM_CLOSE, 0, 0);
             ASSERT_TRUE(Wait_Until([] { return !Dialog() && program->Windows(true) == 1; }));
