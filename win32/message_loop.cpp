@@ -18,12 +18,12 @@ struct Timer {
 
 std::vector<Timer> timers;
 platform::Timer_Id last_timer = 0;
-std::function<bool(platform::Broadcast)> listener;
+std::function<bool(platform::Broadcast)> broadcast_listener;
 HWND broadcasts = nullptr;
 
 /// The listener's answer.
 bool Tell(platform::Broadcast broadcast) {
-    const auto now = listener;
+    const auto now = broadcast_listener;
     return !now || now(broadcast);
 }
 
@@ -181,9 +181,9 @@ void Stop_Timer(Timer_Id id) {
         KillTimer(Broadcast_Window(), id);
 }
 
-void Listen_To_Broadcasts(std::function<bool(Broadcast)> heard) {
-    listener = std::move(heard);
-    if (listener)
+void Listen_To_Broadcasts(std::function<bool(Broadcast)> listener) {
+    broadcast_listener = std::move(listener);
+    if (broadcast_listener)
         Broadcast_Window();
 }
 
