@@ -6,6 +6,8 @@
 #include <cstdlib>
 #include <new>
 
+// The library's names and its way of parameters are what the linker looks for.
+// NOLINTBEGIN(cert-dcl50-cpp,cert-dcl58-cpp,readability-redundant-declaration)
 namespace __gnu_cxx {
 
 void __verbose_terminate_handler();
@@ -48,3 +50,4 @@ void __throw_bad_array_new_length() {
 }
 
 } // namespace std
+// NOLINTEND(cert-dcl50-cpp,cert-dcl58-cpp,readability-redundant-declaration)
