@@ -16,7 +16,6 @@
 #include <algorithm>
 #include <new>
 #include <optional>
-#include <ranges>
 
 namespace win32 {
 
@@ -448,10 +447,10 @@ HRESULT Accessible_Form::accHitTest(long x, long y, VARIANT *child) {
         if (!PtInRect(&all, point))
             return std::nullopt;
         // The top-most first.
-        for (const auto *control : std::views::reverse(form.controls)) {
-            const RECT place = To_Pixels(control->bounds);
-            if (only_ < 0 && Is_Presented(*control) && PtInRect(&place, point))
-                return Child_Number(*control);
+        for (auto control = form.controls.rbegin(); control != form.controls.rend(); ++control) {
+            const RECT place = To_Pixels((*control)->bounds);
+            if (only_ < 0 && Is_Presented(**control) && PtInRect(&place, point))
+                return Child_Number(**control);
         }
         return CHILDID_SELF;
     });
