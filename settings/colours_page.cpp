@@ -179,6 +179,12 @@ void Colours_Page::Load_Settings() {
     Select(selector_);
 }
 
+void Colours_Page::Put_Choices(Settings &settings) const {
+    for (const Swatch &swatch : swatches_)
+        settings.*swatch.setting = swatch.picture->Back_Colour();
+    settings.Menu_Col_Sorce = Col_Sys_Opt.Checked() ? 0 : 1;
+}
+
 void Colours_Page::Reset_Labels() {
     for (const Swatch &swatch : swatches_) {
         platform::Font font = swatch.label->Font();

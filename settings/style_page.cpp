@@ -33,8 +33,6 @@ constexpr int last_cell = 2;
 /// The position codes as they lie on the screen.
 constexpr std::int16_t places[last_cell + 1][last_cell + 1] = {{6, 5, 4}, {9, 3, 8}, {2, 1, 0}};
 
-constexpr auto manual = static_cast<std::int16_t>(Position_Code::Manual);
-
 /// Column and row of a code.
 Point Cell_Of(std::int16_t code) {
     for (int row = 0; row <= last_cell; ++row)
@@ -97,7 +95,7 @@ void Style_Page::Wire_Examples() {
 void Style_Page::Load_Settings() {
     // The calendar shows every number but 0 as the square box.
     (Cur_Settings.Style == 0 ? Style1_Opt : Style2_Opt).Set_Checked(true);
-    (Cur_Settings.Alignment == manual ? Pos_Manual_Opt : Pos_Set_Opt).Set_Checked(true);
+    (Cur_Settings.Alignment == Manual_Position ? Pos_Manual_Opt : Pos_Set_Opt).Set_Checked(true);
     set_position_ = Cell_Of(Cur_Settings.Alignment).x == -1 ? std::int16_t{0} : Cur_Settings.Alignment;
     Manual_Lbl.Set_Caption("X: " + std::to_string(Cur_Settings.Manual_PosX) + " twips\n" +
                            "Y: " + std::to_string(Cur_Settings.Manual_PosY) + " twips");
@@ -157,16 +155,20 @@ void Style_Page::Key_Over_Miniature(const platform::Input_Event &event) {
     Choose_Position(cell.x, cell.y);
 }
 
-std::int16_t Style_Page::Shown_Style() const {
-    if (theme_.use_style)
-        return theme_.style;
+std::int16_t Style_Page::Chosen_Style() const {
     return Style1_Opt.Checked() ? 0 : 1;
 }
 
+std::int16_t Style_Page::Chosen_Position() const {
+    return Pos_Manual_Opt.Checked() ? Manual_Position : set_position_;
+}
+
+std::int16_t Style_Page::Shown_Style() const {
+    return theme_.use_style ? theme_.style : Chosen_Style();
+}
+
 std::int16_t Style_Page::Shown_Position() const {
-    if (theme_.use_position)
-        return theme_.position;
-    return Pos_Manual_Opt.Checked() ? manual : set_position_;
+    return theme_.use_position ? theme_.position : Chosen_Position();
 }
 
 void Style_Page::Show_Position() {
@@ -181,7 +183,7 @@ void Style_Page::Style_Preview() {
         label->Set_Back_Colour(Cur_Settings.Col_Normal);
     for (Label *text : {&Example2_Lbl, &Example4_Lbl})
         text->Set_Fore_Colour(Cur_Settings.Col_Text);
-    Pos_Preview_Img.Repaint();
+    Preview_Position();
 }
 
 void Style_Page::Preview_Position() {
@@ -190,11 +192,10 @@ void Style_Page::Preview_Position() {
 
 void Style_Page::Position_Boxes() {
     const std::int16_t code = Shown_Position();
-    const std::string name = code == manual ? "Manual" : Position_Name(code);
+    const std::string name = code == Manual_Position ? "Manual" : Position_Name(code);
     Position_Lbl.Set_Caption(name);
     Pos_Preview_Img.Set_Access(
         {platform::Access_Role::Button, false, "Position on the screen, " + name, {}, {}});
-    Pos_Preview_Img.Repaint();
 }
 
 void Style_Page::Paint_Miniature(platform::Canvas &canvas) {

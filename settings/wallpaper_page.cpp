@@ -20,7 +20,6 @@
 namespace {
 
 constexpr int months_a_year = 12;
-constexpr std::int16_t manual_position = 7;
 /// The picture is as wide as a screen of these proportions.
 constexpr int picture_height = 108 * 15;
 constexpr int picture_width = 192 * 15;
@@ -371,13 +370,16 @@ void Wallpaper_Page::Other_Display_Chk_Click() {
 
 Settings Wallpaper_Page::Choices() const {
     Settings choices = Cur_Settings;
-    choices.Style = style_page_.Style1_Opt.Checked() ? 0 : 1;
-    choices.Alignment =
-        style_page_.Pos_Manual_Opt.Checked() ? manual_position : style_page_.Get_Set_Position();
-    choices.Use_Themes = Theme_Use_Chk.Checked() ? 1 : 0;
-    choices.Use_Theme_Style = Theme_Style_Chk.Checked() ? 1 : 0;
-    choices.Use_Theme_Pos = Theme_Pos_Chk.Checked() ? 1 : 0;
+    choices.Style = style_page_.Chosen_Style();
+    choices.Alignment = style_page_.Chosen_Position();
+    choices.Use_Themes = Theme_Use_Chk.Checked();
+    choices.Use_Theme_Style = Theme_Style_Chk.Checked();
+    choices.Use_Theme_Pos = Theme_Pos_Chk.Checked();
+    // None is selected where the pack of the settings is missing: it may come back.
+    if (!Packs_Cbo.Text().empty())
+        choices.Pack_Name = Packs_Cbo.Text();
     choices.Use_Other_Display_Mode = Other_Display_Chk.Checked();
+    // A number that the list does not have shows as none and stays, as long as no other is chosen.
     if (Display_Cbo.Selected() != -1)
         choices.Other_Display_Mode = static_cast<std::int16_t>(Display_Cbo.Selected());
     return choices;
