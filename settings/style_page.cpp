@@ -20,14 +20,12 @@ using platform::Rect;
 
 namespace {
 
-constexpr int group_gap = 5 * 15;
 constexpr int group_bottom = 8 * 15;
 constexpr int options_width = 118 * 15; ///< column left of the miniature
 constexpr int hint_lines = 4;
 constexpr int coordinate_lines = 2;
 constexpr int option_mark = 18 * 15; ///< before the caption
 constexpr int marker_size = 7 * 15;
-constexpr int one_pixel = 15;
 constexpr int last_cell = 2;
 
 /// The position codes as they lie on the screen.
@@ -227,20 +225,9 @@ void Style_Page::Lay_Out() {
     const auto example = [](const Box_Layout &style, Option_Button &option, Picture_Box &desktop,
                             Label &number, Label &text, int left) {
         option.Move({left, group_top, column_width - margin, check_height});
-        const Rect corner = style.Box(0);
-        const int box_left = left + option_mark + backdrop;
-        const auto place = [&](Rect pixels) {
-            pixels.left += Twips_To_Pixels(box_left) - corner.left;
-            pixels.top += Twips_To_Pixels(box_top) - corner.top;
-            return Pixels_To_Twips(pixels);
-        };
-        number.Move(place(corner));
+        Place_Example(style, number, text, left + option_mark + backdrop, box_top);
         desktop.Move({number.Left() - backdrop, number.Top() - backdrop, number.Width() + 2 * backdrop,
                       number.Height() + 2 * backdrop});
-        text.Move(place(style.Text(0)));
-        Dress_Number(number);
-        Dress_Text(text);
-        text.Set_Transparent(false);
     };
     example(styles[0], Style1_Opt, Backdrop1_Pic, Example1_Lbl, Example2_Lbl, margin);
     example(styles[1], Style2_Opt, Backdrop2_Pic, Example3_Lbl, Example4_Lbl, column_width);

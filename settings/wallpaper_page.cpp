@@ -64,7 +64,7 @@ Wallpaper_Page::Wallpaper_Page(Form &dialog, Frame &frame, Main_Frm &calendar, S
       Preview_Lbl(dialog, "Preview_Lbl", "Preview running: Esc ends it."), dialog_(dialog),
       style_page_(style_page), preview_(calendar) {
     Display_Cbo.Set_Items({Display_Mode_Name(0), Display_Mode_Name(1), Display_Mode_Name(2)});
-    Theme_Preview_Img.Set_Frame_Colour(platform::System_Colour(16));
+    Theme_Preview_Img.Set_Frame_Colour(shadow_colour);
     Theme_Preview_Img.Set_Access({platform::Access_Role::None, false, "Wallpaper of the month", {}, {}});
     Preview_Sli.Set_Access({platform::Access_Role::None, false, "Month", {}, {}});
     Loading_Lbl.Set_Visible(false);
@@ -137,7 +137,6 @@ void Wallpaper_Page::Lay_Out() {
     Display_Cbo.Move({indent + label_width, row, 2 * label_width, row_height});
     top += Theme_Fra.Height() + gap;
 
-    constexpr int button_height = 23 * 15;
     const int button_width = text_width("Preview all months") + 2 * margin;
     Preview_Btn.Move({0, top, button_width, button_height});
     const int after_button = button_width + margin;
