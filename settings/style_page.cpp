@@ -103,8 +103,8 @@ void Style_Page::Load_Settings() {
 
 void Style_Page::Set_Theme(const Theme_Look &look) {
     theme_ = look;
-    Pos_Hint_Lbl.Set_Enabled(!look.use_position);
-    Manual_Lbl.Set_Enabled(!look.use_position);
+    Pos_Hint_Lbl.Set_Enabled(!look.position);
+    Manual_Lbl.Set_Enabled(!look.position);
     Style_Preview();
     Show_Position();
 }
@@ -162,11 +162,11 @@ std::int16_t Style_Page::Chosen_Position() const {
 }
 
 std::int16_t Style_Page::Shown_Style() const {
-    return theme_.use_style ? theme_.style : Chosen_Style();
+    return theme_.style.value_or(Chosen_Style());
 }
 
 std::int16_t Style_Page::Shown_Position() const {
-    return theme_.use_position ? theme_.position : Chosen_Position();
+    return theme_.position.value_or(Chosen_Position());
 }
 
 void Style_Page::Show_Position() {
@@ -205,7 +205,7 @@ void Style_Page::Paint_Miniature(platform::Canvas &canvas) {
     for (int row = 0; row <= last_cell; ++row) {
         for (int column = 0; column <= last_cell; ++column) {
             const bool marked = chosen == Point{column, row};
-            if (theme_.use_position && !marked)
+            if (theme_.position && !marked)
                 continue; // not to be chosen now
             const Rect cell = miniature.Cell(column, row, size);
             const int side = marked ? marker_size + 4 * one_pixel : marker_size;

@@ -6,13 +6,12 @@
 #include "settings/page.h"
 
 #include <cstdint>
+#include <optional>
 
 /// What a theme pack decides in place of the page.
 struct Theme_Look {
-    bool use_style = false;
-    bool use_position = false;
-    std::int16_t style = 0;
-    std::int16_t position = 0; ///< 7 is the manual position
+    std::optional<std::int16_t> style;
+    std::optional<std::int16_t> position;
     platform::Picture picture; ///< the wallpaper; none: the desktop's own colour is shown
 };
 

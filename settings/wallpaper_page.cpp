@@ -30,21 +30,7 @@ std::string Picture_File(const std::string &pack, int month) {
 
 /// A number's name, with a blank before it; only that for a text that is no number.
 std::string Named(const char *(*name)(std::int16_t), const std::string &number) {
-    try {
-        return std::string(" ") + name(To_Int16(number));
-    } catch (const Conversion_Error &) {
-        return " ";
-    }
-}
-
-/// Whether a part of a pack's value text is a number, which it puts into `number` then.
-bool Take_Number(const std::string &text, std::int16_t &number) {
-    try {
-        number = To_Int16(text);
-        return true;
-    } catch (const Conversion_Error &) {
-        return false;
-    }
+    return std::string(" ") + name(Int16_Of(number).value_or(-1));
 }
 
 } // namespace
@@ -304,8 +290,10 @@ Style_Page::Theme_Look Wallpaper_Page::Look() const {
     Style_Page::Theme_Look look;
     if (!Theme_Use_Chk.Checked() || Packs_Cbo.Text().empty())
         return look;
-    look.use_style = Theme_Style_Chk.Checked() && Take_Number(Get_Paper_BoxStyle(details_), look.style);
-    look.use_position = Theme_Pos_Chk.Checked() && Take_Number(Get_Paper_Pos(details_), look.position);
+    if (Theme_Style_Chk.Checked())
+        look.style = Int16_Of(Get_Paper_BoxStyle(details_));
+    if (Theme_Pos_Chk.Checked())
+        look.position = Int16_Of(Get_Paper_Pos(details_));
     look.picture = picture_;
     return look;
 }
