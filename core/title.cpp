@@ -2,6 +2,7 @@
 #include "core/title.h"
 
 #include "core/date.h"
+#include "core/letters.h"
 #include "core/settings.h"
 #include "platform/locale.h"
 #include "platform/registry.h"
@@ -24,10 +25,6 @@ struct Token {
 
 using Characters = std::vector<std::string_view>;
 
-char Lower(char c) {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
 /// The whole characters of the pattern, of a long one those that lie in its first bytes. Letters are only
 /// looked for among whole characters, because in some code pages a letter's byte can be the second half of
 /// one.
@@ -45,13 +42,13 @@ Characters Split(std::string_view pattern) {
     return characters;
 }
 
-/// Whether the word, in lower case, stands at `at` in any letter case.
+/// Whether the word, in capitals, stands at `at` in any letter case.
 bool Stands_At(const Characters &characters, std::size_t at, std::string_view word) {
     if (characters.size() - at < word.size())
         return false;
     for (std::size_t i = 0; i < word.size(); ++i) {
         const std::string_view character = characters[at + i];
-        if (character.size() != 1 || Lower(character[0]) != word[i])
+        if (character.size() != 1 || Capital(character[0]) != word[i])
             return false;
     }
     return true;
@@ -104,10 +101,10 @@ std::vector<Token> Read_Pattern(const Characters &characters) {
         } else if (characters[at] == "\\" && at + 1 < characters.size()) {
             tokens.push_back({Field::Literal, 1, characters[at + 1]});
             at += 2;
-        } else if (Stands_At(characters, at, "am/pm")) {
+        } else if (Stands_At(characters, at, "AM/PM")) {
             tokens.push_back({Field::Half_Day, 2, std::string_view(characters[at].data(), 5)});
             at += 5;
-        } else if (Stands_At(characters, at, "a/p")) {
+        } else if (Stands_At(characters, at, "A/P")) {
             tokens.push_back({Field::Half_Day, 1, std::string_view(characters[at].data(), 3)});
             at += 3;
         } else {

@@ -25,14 +25,7 @@ using platform::Rect;
 namespace {
 
 constexpr int first_menu_swatch = 4; ///< Back and Fore: those of the title and the headers
-constexpr int one_pixel = 15;        ///< twips at 96 dots per inch
 constexpr int big_step = 10;         ///< pixels of the cross-hair with the Shift key
-
-// System colours.
-constexpr Colour face = platform::System_Colour(15);
-constexpr Colour shadow = platform::System_Colour(16);
-constexpr Colour grey_text = platform::System_Colour(17);
-constexpr Colour text = platform::System_Colour(18);
 
 struct Rgb_Parts {
     int red;
@@ -179,6 +172,12 @@ void Colours_Page::Load_Settings() {
     Select(selector_);
 }
 
+void Colours_Page::Put_Choices(Settings &settings) const {
+    for (const Swatch &swatch : swatches_)
+        settings.*swatch.setting = swatch.picture->Back_Colour();
+    settings.Menu_Col_Sorce = Col_Sys_Opt.Checked() ? 0 : 1;
+}
+
 void Colours_Page::Reset_Labels() {
     for (const Swatch &swatch : swatches_) {
         platform::Font font = swatch.label->Font();
@@ -320,7 +319,7 @@ void Colours_Page::Col_Other_Opt_Click() {
 void Colours_Page::Enable_Menu_Swatches(bool enabled) {
     for (std::size_t i = first_menu_swatch; i < swatches_.size(); ++i) {
         swatches_[i].label->Set_Enabled(enabled);
-        swatches_[i].label->Set_Fore_Colour(enabled ? text : grey_text);
+        swatches_[i].label->Set_Fore_Colour(enabled ? text_colour : grey_text_colour);
         swatches_[i].picture->Set_Enabled(enabled);
         swatches_[i].picture->Repaint();
     }
@@ -380,9 +379,11 @@ void Colours_Page::Paint_Swatch(int index, platform::Canvas &canvas) {
     const Rect all{0, 0, picture.Width(), picture.Height()};
     // Half of a colour that is not in use is covered.
     if (!picture.Enabled())
-        platform::Fill_Polygon(canvas, {{all.width, 0}, {all.width, all.height}, {0, all.height}}, face);
+        platform::Fill_Polygon(canvas, {{all.width, 0}, {all.width, all.height}, {0, all.height}},
+                               face_colour);
     const bool selected = index == selector_;
-    platform::Frame_Rect(canvas, all, selected ? text : shadow, selected ? 2 * one_pixel : one_pixel);
+    platform::Frame_Rect(canvas, all, selected ? text_colour : shadow_colour,
+                         selected ? 2 * layout::one_pixel : layout::one_pixel);
 }
 
 void Colours_Page::Paint_Palette(platform::Canvas &canvas) {
@@ -391,7 +392,7 @@ void Colours_Page::Paint_Palette(platform::Canvas &canvas) {
     int reach = 4;
     for (const Colour colour : {platform::Rgb(0, 0, 0), platform::Rgb(255, 255, 255)}) {
         const Rect frame{cross_.x - reach, cross_.y - reach, 2 * reach + 1, 2 * reach + 1};
-        platform::Frame_Rect(canvas, Pixels_To_Twips(frame), colour, one_pixel);
+        platform::Frame_Rect(canvas, Pixels_To_Twips(frame), colour, layout::one_pixel);
         --reach;
     }
 }

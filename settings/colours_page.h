@@ -20,6 +20,8 @@ public:
 
     /// Shows the colours of the settings.
     void Load_Settings();
+    /// Puts what is chosen into `settings`.
+    void Put_Choices(Settings &settings) const;
     /// Places the controls, also after a change of the dots per inch.
     void Lay_Out();
 

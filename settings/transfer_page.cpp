@@ -27,7 +27,6 @@ constexpr Button_Text import_texts[] = {
     {"CSV Fi&le...", "Adds the events of a table to those that are there."}};
 
 constexpr int button_width = 115 * 15;
-constexpr int button_height = 23 * 15;
 constexpr int bar_height = 16 * 15;
 constexpr int explanation_lines = 2;
 

@@ -20,7 +20,6 @@
 namespace {
 
 constexpr int months_a_year = 12;
-constexpr std::int16_t manual_position = 7;
 /// The picture is as wide as a screen of these proportions.
 constexpr int picture_height = 108 * 15;
 constexpr int picture_width = 192 * 15;
@@ -31,21 +30,7 @@ std::string Picture_File(const std::string &pack, int month) {
 
 /// A number's name, with a blank before it; only that for a text that is no number.
 std::string Named(const char *(*name)(std::int16_t), const std::string &number) {
-    try {
-        return std::string(" ") + name(To_Int16(number));
-    } catch (const Conversion_Error &) {
-        return " ";
-    }
-}
-
-/// Whether a part of a pack's value text is a number, which it puts into `number` then.
-bool Take_Number(const std::string &text, std::int16_t &number) {
-    try {
-        number = To_Int16(text);
-        return true;
-    } catch (const Conversion_Error &) {
-        return false;
-    }
+    return std::string(" ") + name(Int16_Of(number).value_or(-1));
 }
 
 } // namespace
@@ -65,7 +50,7 @@ Wallpaper_Page::Wallpaper_Page(Form &dialog, Frame &frame, Main_Frm &calendar, S
       Preview_Lbl(dialog, "Preview_Lbl", "Preview running: Esc ends it."), dialog_(dialog),
       style_page_(style_page), preview_(calendar) {
     Display_Cbo.Set_Items({Display_Mode_Name(0), Display_Mode_Name(1), Display_Mode_Name(2)});
-    Theme_Preview_Img.Set_Frame_Colour(platform::System_Colour(16));
+    Theme_Preview_Img.Set_Frame_Colour(shadow_colour);
     Theme_Preview_Img.Set_Access({platform::Access_Role::None, false, "Wallpaper of the month", {}, {}});
     Preview_Sli.Set_Access({platform::Access_Role::None, false, "Month", {}, {}});
     Loading_Lbl.Set_Visible(false);
@@ -138,7 +123,6 @@ void Wallpaper_Page::Lay_Out() {
     Display_Cbo.Move({indent + label_width, row, 2 * label_width, row_height});
     top += Theme_Fra.Height() + gap;
 
-    constexpr int button_height = 23 * 15;
     const int button_width = text_width("Preview all months") + 2 * margin;
     Preview_Btn.Move({0, top, button_width, button_height});
     const int after_button = button_width + margin;
@@ -306,8 +290,10 @@ Style_Page::Theme_Look Wallpaper_Page::Look() const {
     Style_Page::Theme_Look look;
     if (!Theme_Use_Chk.Checked() || Packs_Cbo.Text().empty())
         return look;
-    look.use_style = Theme_Style_Chk.Checked() && Take_Number(Get_Paper_BoxStyle(details_), look.style);
-    look.use_position = Theme_Pos_Chk.Checked() && Take_Number(Get_Paper_Pos(details_), look.position);
+    if (Theme_Style_Chk.Checked())
+        look.style = Int16_Of(Get_Paper_BoxStyle(details_));
+    if (Theme_Pos_Chk.Checked())
+        look.position = Int16_Of(Get_Paper_Pos(details_));
     look.picture = picture_;
     return look;
 }
@@ -371,13 +357,16 @@ void Wallpaper_Page::Other_Display_Chk_Click() {
 
 Settings Wallpaper_Page::Choices() const {
     Settings choices = Cur_Settings;
-    choices.Style = style_page_.Style1_Opt.Checked() ? 0 : 1;
-    choices.Alignment =
-        style_page_.Pos_Manual_Opt.Checked() ? manual_position : style_page_.Get_Set_Position();
-    choices.Use_Themes = Theme_Use_Chk.Checked() ? 1 : 0;
-    choices.Use_Theme_Style = Theme_Style_Chk.Checked() ? 1 : 0;
-    choices.Use_Theme_Pos = Theme_Pos_Chk.Checked() ? 1 : 0;
+    choices.Style = style_page_.Chosen_Style();
+    choices.Alignment = style_page_.Chosen_Position();
+    choices.Use_Themes = Theme_Use_Chk.Checked();
+    choices.Use_Theme_Style = Theme_Style_Chk.Checked();
+    choices.Use_Theme_Pos = Theme_Pos_Chk.Checked();
+    // None is selected where the pack of the settings is missing: it may come back.
+    if (!Packs_Cbo.Text().empty())
+        choices.Pack_Name = Packs_Cbo.Text();
     choices.Use_Other_Display_Mode = Other_Display_Chk.Checked();
+    // A number that the list does not have shows as none and stays, as long as no other is chosen.
     if (Display_Cbo.Selected() != -1)
         choices.Other_Display_Mode = static_cast<std::int16_t>(Display_Cbo.Selected());
     return choices;

@@ -31,6 +31,8 @@ public:
 
     /// Ends a running preview and puts all back. Returns whether one was running.
     bool End_Preview();
+    /// The settings with what this page and that of style and position show.
+    Settings Choices() const;
     /// What the selected pack makes of the calendar in the month of the slider, as far as it is to be used.
     Style_Page::Theme_Look Look() const;
 
@@ -82,7 +84,6 @@ private:
     void Drop_Pack(const std::string &pack);
     void Preview_Ended(bool pack_failed);
     std::int16_t Month() const { return static_cast<std::int16_t>(Preview_Sli.Value()); }
-    Settings Choices() const;
     void Enable_Styles(bool enabled);
     void Enable_Positions(bool enabled);
     void Enable_As_Ruled();

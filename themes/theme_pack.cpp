@@ -2,6 +2,7 @@
 #include "themes/theme_pack.h"
 
 #include "core/convert.h"
+#include "core/letters.h"
 #include "core/sequential.h"
 #include "core/settings.h"
 #include "platform/files.h"
@@ -17,16 +18,6 @@ namespace {
 
 constexpr const char *settings_file = "settings.ini";
 constexpr std::string_view bitmap_ending = ".bmp";
-
-char Capital(char c) {
-    return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
-}
-
-std::string Capitals(std::string_view text) {
-    std::string capitals(text);
-    std::transform(capitals.begin(), capitals.end(), capitals.begin(), Capital);
-    return capitals;
-}
 
 /// Whether the system takes the name for a device, in every folder and with any ending.
 bool Is_Device(std::string_view name) {
@@ -44,15 +35,6 @@ bool Is_Device(std::string_view name) {
 
 std::string Pack_Folder(const std::string &pack) {
     return platform::Program_Folder() + "\\" + pack;
-}
-
-/// What is not like the other settings' whole numbers is no month.
-bool Is_Month(std::string_view key, std::int16_t month) {
-    try {
-        return To_Int32(key) == month;
-    } catch (const Conversion_Error &) {
-        return false;
-    }
 }
 
 std::string Tell_Missing_Pack(const std::string &pack, const std::function<void()> &remove_wallpaper) {
@@ -100,7 +82,7 @@ std::string Month_Details(std::string_view bytes, std::int16_t month) {
         const std::size_t equals = item.find('=');
         if (equals == std::string_view::npos)
             break;
-        if (Is_Month(item.substr(0, equals), month))
+        if (Int16_Of(item.substr(0, equals)) == month)
             details = item.substr(equals + 1);
     }
     return std::string(details);

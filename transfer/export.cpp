@@ -2,11 +2,11 @@
 #include "transfer/export.h"
 
 #include "core/event_store.h"
+#include "core/letters.h"
 #include "platform/files.h"
 #include "platform/locale.h"
 #include "platform/message_box.h"
 #include "transfer/configuration.h"
-#include "transfer/paths.h"
 
 #include <array>
 
@@ -41,10 +41,10 @@ std::string Ask_Name(const Kind_Row &kind, OpenSaveDialog &dialog) {
         std::string name = dialog.FileName;
         if (name.empty())
             return name;
-        if (Lower_Case(name.substr(name.size() < 4 ? 0 : name.size() - 4)) != kind.extension)
+        if (!Capitals(name).ends_with(Capitals(kind.extension)))
             name += kind.extension;
         // The copy would do no harm, but it would be none either.
-        if (Lower_Case(name) == Lower_Case(Event_Store::Data_File())) {
+        if (Capitals(name) == Capitals(Event_Store::Data_File())) {
             Tell("You can't export to the data file you're currently using!",
                  platform::Box_Icon::Exclamation);
             continue;

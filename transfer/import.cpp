@@ -1,12 +1,12 @@
 // The imports and their messages.
 #include "transfer/import.h"
 
+#include "core/letters.h"
 #include "core/settings.h"
 #include "platform/files.h"
 #include "platform/locale.h"
 #include "platform/message_box.h"
 #include "transfer/configuration.h"
-#include "transfer/paths.h"
 
 #include <algorithm>
 #include <exception>
@@ -90,7 +90,7 @@ bool Importer::Ask_File(const char *title, const char *filter, bool not_own_file
             return false;
         if (!platform::File_Exists(dialog_.FileName))
             Tell("File doesn't exist!", platform::Box_Icon::Exclamation);
-        else if (not_own_file && Lower_Case(dialog_.FileName) == Lower_Case(Event_Store::Data_File()))
+        else if (not_own_file && Capitals(dialog_.FileName) == Capitals(Event_Store::Data_File()))
             Tell("You can't import the data file your currently using!", platform::Box_Icon::Exclamation);
         else
             return true;
@@ -136,7 +136,7 @@ void Importer::Import_CSV() {
 /// not read, would change the day. Where the form can be read back the result is the same.
 void Importer::Read_Events(const std::string &bytes, std::vector<Sort_Entry> &staged) {
     CSV_Lines lines(bytes);
-    if (!Check_CSV_Headings(Lower_Case(std::string(lines.Next_Line())), columns_))
+    if (!Check_CSV_Headings(lines.Next_Line(), columns_))
         throw CSV_Error("the headings are not those of events");
     CSV_Event event;
     while (!lines.At_End()) {

@@ -82,11 +82,11 @@ TEST_F(Themes_Page, shows_what_the_selected_pack_says) {
         Open();
         EXPECT_EQ(Page().Packs_Cbo.Items(), (std::vector<std::string>{"Default", "Winter"}));
         EXPECT_EQ(Page().Packs_Cbo.Text() + "|" + Details(), std::string("Default|") + row.details);
-        EXPECT_FALSE(Page().Look().use_style || Choices_Enabled());
+        EXPECT_FALSE(Page().Look().style || Choices_Enabled());
         Use_Themes(true);
         EXPECT_TRUE(Choices_Enabled());
-        EXPECT_EQ(Page().Look().use_style, row.usable) << row.march;
-        EXPECT_EQ(Page().Look().use_position, row.usable) << row.march;
+        EXPECT_EQ(Page().Look().style.has_value(), row.usable) << row.march;
+        EXPECT_EQ(Page().Look().position.has_value(), row.usable) << row.march;
     }
     for (const bool on : {true, false}) { // the theme's choices replace the user's
         Push(*dialog, Page().Theme_Style_Chk, on);
