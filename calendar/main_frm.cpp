@@ -50,9 +50,9 @@ void Main_Frm::Wire_Events() {
     On_Close = [this] { End_Program(); };
     On_Dots_Changed = [this] { Renew_Layout(); };
     Attach_Timer.On_Timer = [this] { Attach_Timer_Timer(); };
+    Which_Month_Lbl.On_Default_Action = [this] { Which_Month_Lbl_DblClick(); };
     // Without its window the program could only stand in the way of its next start. Nothing is asked here:
     // the window inside the shell's goes down in the middle of the shell's own end, which waits for it.
-    Which_Month_Lbl.On_Default_Action = [this] { Which_Month_Lbl_DblClick(); };
     On_Window_Lost = [this] {
         ended_ = true;
         platform::End_Message_Loop();

@@ -39,7 +39,7 @@ public:
     std::int16_t Cur_Year = 0;
     bool Alert_Done = false; ///< no further alert today
     bool Compacted = false;
-    bool Timer_Compacted = false;  ///< the timer compacted it last, so the mouse over the title expands it
+    bool Timer_Compacted = false;  ///< by the timer once: the mouse over the title expands it, and ends this
     bool Mouse_Released = true;    ///< no button is held over a day box
     std::int16_t Tooltip_Box = -1; ///< the day box of the last balloon
     Event_Store Events;
@@ -216,7 +216,6 @@ private:
     void Renew_Layout();
 
     void Popup_Title_Menu(platform::Point mouse);
-    bool Still_Shown(std::int16_t month, std::int16_t year, int index);
 
     void Compact();
     void Expand();

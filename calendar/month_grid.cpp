@@ -87,12 +87,15 @@ void Main_Frm::Load_Dates() {
     const Date today = Today();
     const unsigned fill = ++fills_;
     entered_ = {};
-    Events.Load_Dates([&](std::string_view record) {
-        if (fill == fills_)
-            Enter_Date(record, today);
-    });
-    if (fill == fills_)
-        Show_Entered();
+    Events.Load_Dates(
+        [&](std::string_view record) {
+            if (fill == fills_)
+                Enter_Date(record, today);
+        },
+        [&] {
+            if (fill == fills_)
+                Show_Entered();
+        });
 }
 
 /// Puts the texts that were entered since the last call into their boxes.

@@ -142,15 +142,20 @@ Stored_Message Event_Store::Get_Message(const std::string &key) {
     return message;
 }
 
-void Event_Store::Load_Dates(const std::function<void(std::string_view record)> &enter) {
+void Event_Store::Load_Dates(const std::function<void(std::string_view record)> &enter,
+                             const std::function<void()> &entered) {
+    bool complete = false;
     try {
         std::string bytes;
-        if (!Read_Data_File(bytes))
-            return;
+        Read_Data_File(bytes);
         Sequential_Reader reader(bytes);
         for (std::string_view item; reader.Next(item);)
             enter(item);
-    } catch (const std::exception &) {
-        Tell_Loading_Failed();
+        complete = true;
+    } catch (const std::exception &) { // told below
     }
+    if (entered)
+        entered();
+    if (!complete)
+        Tell_Loading_Failed();
 }

@@ -27,9 +27,20 @@ bool Tell(platform::Broadcast broadcast) {
     return !now || now(broadcast);
 }
 
+/// Whether an open menu, or a window that is being moved, has the mouse. What comes by itself waits then: a
+/// message box that it shows would get no click.
+bool Mouse_Is_Taken() {
+    constexpr DWORD taken = GUI_INMENUMODE | GUI_POPUPMENUMODE | GUI_SYSTEMMENUMODE | GUI_INMOVESIZE;
+    GUITHREADINFO state = {};
+    state.cbSize = sizeof state;
+    return GetGUIThreadInfo(GetCurrentThreadId(), &state) && (state.flags & taken) != 0;
+}
+
 void Tick(platform::Timer_Id id) {
     // The windows inside the shell's may vanish without a message.
     win32::Find_Lost_Windows();
+    if (Mouse_Is_Taken())
+        return;
     const auto timer =
         std::find_if(timers.begin(), timers.end(), [id](const Timer &t) { return t.id == id; });
     if (timer == timers.end())
@@ -60,7 +71,8 @@ bool Heard(UINT message, WPARAM wparam) {
         }
         return true;
     case WM_TIMECHANGE:
-        Tell(platform::Broadcast::Time_Changed);
+        if (!Mouse_Is_Taken()) // else the next tick finds it out
+            Tell(platform::Broadcast::Time_Changed);
         return true;
     case WM_DISPLAYCHANGE:
         win32::Check_Scale(false);

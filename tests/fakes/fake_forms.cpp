@@ -39,7 +39,8 @@ void Fake_Desktop::Advance(unsigned milliseconds) {
         time = std::max(time, next->second.due);
         next->second.due += next->second.interval;
         const auto tick = next->second.tick;
-        tick();
+        if (!menu_open)
+            tick();
     }
     time = std::max(time, end);
 }
@@ -247,8 +248,14 @@ Point Mouse_Position() {
 
 int Track_Popup_Menu(Form_Model &, const std::vector<Menu_Item> &items, const Point *at) {
     Desktop().menu_at = at == nullptr ? std::nullopt : std::optional(*at);
+    const auto open = [](const auto &what_happens) {
+        Desktop().menu_open = true;
+        what_happens();
+        Desktop().menu_open = false;
+    };
+    int chosen = 0;
     if (Desktop().choose)
-        return Desktop().choose(items);
+        return open([&] { chosen = Desktop().choose(items); }), chosen;
     std::vector<std::string> texts;
     std::string shown;
     for (const Menu_Item &item : items) {
@@ -264,7 +271,7 @@ int Track_Popup_Menu(Form_Model &, const std::vector<Menu_Item> &items, const Po
     const Expected_Menu menu = expected.front();
     expected.pop_front();
     if (menu.meanwhile)
-        menu.meanwhile();
+        open(menu.meanwhile);
     for (const Menu_Item &item : items)
         Require(item.id != menu.answer || item.enabled, "a greyed item was chosen: " + item.text);
     return menu.answer;
