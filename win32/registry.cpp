@@ -178,8 +178,7 @@ void Registry_Write(const std::string &root_name, const std::string &key, const 
 
 void Registry_Write_String(Registry_Root root, const std::string &key, const std::string &name,
                            const std::string &text) {
-    // The flush asks for the right to query.
-    const win32::Unique_Key opened = Open_Key(root, key, KEY_SET_VALUE | KEY_QUERY_VALUE);
+    const win32::Unique_Key opened = Open_Key(root, key, KEY_SET_VALUE);
     if (!opened)
         return;
     Set_Text(opened.Get(), name, text);
