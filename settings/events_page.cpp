@@ -102,7 +102,7 @@ void Events_Page::Reload() {
 
 void Events_Page::Show_Imported(std::vector<Sort_Entry> staged) {
     Dates_Lst = std::move(staged);
-    Title_Frame(Overview_Fra, overview_title, Reading::Complete);
+    Overview_Fra.Set_Caption("Events"); // and no more that the data file could not be read
     Sort_List();
     Get_Stats();
 }
