@@ -31,8 +31,8 @@ void Write_User_Value(const std::string &key, const std::string &name, const std
 using Registry_Root = std::uintptr_t;
 Registry_Root Find_Registry_Root(const std::string &name);
 
-/// By its type letter: "S" a text (REG_SZ, or REG_EXPAND_SZ with its variables
-/// replaced), "B" a flag (REG_BINARY of two bytes), "D" a number (REG_DWORD).
+/// By its type letter: "S" a text (REG_SZ, or REG_EXPAND_SZ with its variables replaced), "B" a flag
+/// (REG_BINARY of two bytes), "D" a number (REG_DWORD).
 using Registry_Value = std::variant<std::string, bool, std::int32_t>;
 
 /// The value of that type, `standard` when there is none or it cannot be read. The letter's case is free.

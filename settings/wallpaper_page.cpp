@@ -144,9 +144,16 @@ void Wallpaper_Page::Get_Themes() {
 }
 
 void Wallpaper_Page::Get_Wallpaper() {
-    Packs_Cbo.Set_Text(Cur_Settings.Pack_Name);
+    Select_Stored_Pack();
     Preview_Sli.Set_Value(Today().month);
     Preview_Sli_Change();
+}
+
+/// Leaves what is selected where that pack is not there.
+void Wallpaper_Page::Select_Stored_Pack() {
+    for (const std::string &pack : Packs_Cbo.Items())
+        if (Same_Pack(pack, Cur_Settings.Pack_Name))
+            return Packs_Cbo.Set_Text(pack);
 }
 
 void Wallpaper_Page::Enable_Choices(bool enabled) {
@@ -180,9 +187,9 @@ void Wallpaper_Page::Check_Vaild() {
         return;
     platform::Message_Box("Error Loading Theme.", "Vellatro", platform::Box_Icon::Stop);
     // None, where the pack of the settings is not there: the refused one must not stay selected.
-    if (pack != Cur_Settings.Pack_Name)
+    if (!Same_Pack(pack, Cur_Settings.Pack_Name))
         Packs_Cbo.Select(-1);
-    Packs_Cbo.Set_Text(Cur_Settings.Pack_Name);
+    Select_Stored_Pack();
 }
 
 void Wallpaper_Page::Show_Month_Name() {
@@ -228,8 +235,8 @@ void Wallpaper_Page::Get_Theme_Pos() {
 /// After the user was told that the pack cannot be read. Its entry goes, if it is not there any more.
 void Wallpaper_Page::Drop_Pack(const std::string &pack) {
     Get_Papers();
-    if (pack != Cur_Settings.Pack_Name)
-        Packs_Cbo.Set_Text(Cur_Settings.Pack_Name);
+    if (!Same_Pack(pack, Cur_Settings.Pack_Name))
+        Select_Stored_Pack();
     // A missing pack has ended the use of themes.
     if (Cur_Settings.Use_Themes == 0)
         Theme_Use_Chk.Set_Checked(false);

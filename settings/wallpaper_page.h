@@ -75,6 +75,7 @@ public:
 
 private:
     void Wire_Events();
+    void Select_Stored_Pack();
     void Enable_Choices(bool enabled);
     void Show_Month_Name();
     void Clear_Details();

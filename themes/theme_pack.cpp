@@ -59,6 +59,10 @@ bool Is_Pack_Name(std::string_view name) {
            std::none_of(name.begin(), name.end(), is_bad) && !Is_Device(name);
 }
 
+bool Same_Pack(std::string_view a, std::string_view b) {
+    return Capitals(a) == Capitals(b);
+}
+
 std::vector<std::string> Find_Packs() {
     std::vector<std::string> packs =
         platform::Names_In_Folder(platform::Program_Folder(), platform::Listed::Folders);

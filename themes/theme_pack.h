@@ -15,6 +15,9 @@ inline constexpr const char *Theme_Error = "ERROR";
 /// Whether a text can be a pack's name: the plain name of a folder, which leads nowhere else.
 bool Is_Pack_Name(std::string_view name);
 
+/// Whether two names are the same pack's: folders are found in any letter case.
+bool Same_Pack(std::string_view a, std::string_view b);
+
 /// The names of the folders beside the program that hold a settings.ini, in the order of the alphabet.
 std::vector<std::string> Find_Packs();
 

@@ -178,7 +178,8 @@ void Registry_Write(const std::string &root_name, const std::string &key, const 
 
 void Registry_Write_String(Registry_Root root, const std::string &key, const std::string &name,
                            const std::string &text) {
-    const win32::Unique_Key opened = Open_Key(root, key, KEY_SET_VALUE);
+    // The flush asks for the right to query.
+    const win32::Unique_Key opened = Open_Key(root, key, KEY_SET_VALUE | KEY_QUERY_VALUE);
     if (!opened)
         return;
     Set_Text(opened.Get(), name, text);

@@ -215,7 +215,7 @@ int Line_Height(const Font &font) {
 
 Colour Resolve_Colour(Colour colour) {
     // All system colours are the same light grey here.
-    return colour < 0 ? Rgb(192, 192, 192) : colour;
+    return colour < 0 ? Rgb(192, 192, 192) : colour & 0xFFFFFF;
 }
 
 int Dots_Per_Inch() {

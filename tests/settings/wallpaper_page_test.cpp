@@ -76,6 +76,7 @@ TEST_F(Themes_Page, shows_what_the_selected_pack_says) {
     };
     Fakes().folders.insert("C:\\Vellatro\\no pack");
     Make_Pack("Winter");
+    Cur_Settings.Pack_Name = "default"; // a folder is found in any letter case
     for (const auto &row : rows) {
         Fakes().files.erase(Path("Default", "settings.ini"));
         Make_Pack("Default", row.march);
