@@ -1,6 +1,8 @@
 // Conversions of stored texts. The process's regional settings have no say in them.
 #include "core/convert.h"
 
+#include "platform/joined.h"
+
 #include <algorithm>
 #include <charconv>
 #include <limits>
@@ -25,8 +27,8 @@ Integer To_Integer(std::string_view text) {
     const std::from_chars_result result = std::from_chars(digits.data(), end, value);
     if (result.ec != std::errc() || result.ptr != end || digits.empty()) {
         using Limits = std::numeric_limits<Integer>;
-        throw Conversion_Error("a whole number from " + std::to_string(Limits::min()) + " to " +
-                               std::to_string(Limits::max()));
+        throw Conversion_Error(platform::Joined(
+            {"a whole number from ", std::to_string(Limits::min()), " to ", std::to_string(Limits::max())}));
     }
     return value;
 }
