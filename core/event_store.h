@@ -2,7 +2,8 @@
 // here.
 #pragma once
 
-#include <functional>
+#include "platform/callback.h"
+
 #include <string>
 #include <string_view>
 #include <vector>
@@ -62,7 +63,7 @@ public:
 
     /// Calls `enter` for each record in file order; the view it is given lasts for the call. An exception of
     /// it ends the reading with the message of Load_File.
-    void Load_Dates(const std::function<void(std::string_view record)> &enter);
+    void Load_Dates(platform::Callback_Ref<void(std::string_view record)> enter);
 
 private:
     /// Writes Temp_Lst and, unless it is empty, the record `added`. Throws as Write_Data_File does.
