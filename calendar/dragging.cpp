@@ -3,6 +3,7 @@
 #include "core/convert.h"
 #include "core/settings.h"
 #include "desktop/position.h"
+#include "platform/joined.h"
 #include "platform/message_box.h"
 #include "toolkit/keys.h"
 #include "toolkit/units.h"
@@ -90,9 +91,9 @@ void Main_Frm::Keep_Place(const std::optional<Drag> &drag) {
         left = Fit_Int16(Left());
         top = Fit_Int16(Top());
     } catch (const Conversion_Error &) {
-        throw Conversion_Error("The calendar's place on the screen, " + std::to_string(Left()) + " and " +
-                               std::to_string(Top()) +
-                               " twips, cannot be kept: it must lie between -32768 and 32767.");
+        throw Conversion_Error(platform::Joined(
+            {"The calendar's place on the screen, ", std::to_string(Left()), " and ", std::to_string(Top()),
+             " twips, cannot be kept: it must lie between -32768 and 32767."}));
     }
     Change_Setting(Cur_Settings.Manual_PosX, left, "Manual_PosX");
     Change_Setting(Cur_Settings.Manual_PosY, top, "Manual_PosY");

@@ -3,6 +3,7 @@
 
 #include "core/settings.h"
 #include "platform/drawing.h"
+#include "platform/joined.h"
 #include "platform/locale.h"
 #include "platform/message_box.h"
 #include "platform/screen.h"
@@ -221,10 +222,11 @@ std::string Main_Frm::Regional_Look() {
     for (int month = 1; month <= 12; ++month)
         look += "\n" + platform::Month_Name(month);
     for (int day = 0; day < days_a_week; ++day)
-        look += "\n" + platform::Weekday_Name(day) + "\n" + platform::Short_Weekday_Name(day);
+        look +=
+            platform::Joined({"\n", platform::Weekday_Name(day), "\n", platform::Short_Weekday_Name(day)});
     const platform::Font font;
-    return look + "\n" + std::to_string(platform::Line_Height(font)) + "\n" +
-           std::to_string(platform::Text_Width("The quick brown fox 0123456789", font));
+    return platform::Joined({look, "\n", std::to_string(platform::Line_Height(font)), "\n",
+                             std::to_string(platform::Text_Width("The quick brown fox 0123456789", font))});
 }
 
 void Main_Frm::Take_Regional_Settings() {

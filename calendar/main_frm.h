@@ -7,6 +7,7 @@
 
 #include "core/date.h"
 #include "core/event_store.h"
+#include "platform/callback.h"
 #include "platform/message_loop.h"
 #include "platform/shell.h"
 #include "toolkit/control_array.h"
@@ -18,7 +19,6 @@
 
 #include <array>
 #include <cstdint>
-#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -50,14 +50,14 @@ public:
 
     // The event editor, of which the calendar knows no more than this. Whoever owns both windows fills it;
     // empty, there is no editor.
-    std::function<void(int index)> Open_Editor; ///< for a day box
-    std::function<bool()> Ask_Unsaved; ///< offers unsaved text for saving; false: the user wants to stay
-    std::function<bool()> Editor_Visible;
+    platform::Callback<void(int index)> Open_Editor; ///< for a day box
+    platform::Callback<bool()> Ask_Unsaved; ///< offers unsaved text for saving; false: the user wants to stay
+    platform::Callback<bool()> Editor_Visible;
 
     // The settings dialog, likewise.
-    std::function<void()> Open_Settings;
-    std::function<void()> Close_Settings; ///< at the end, whatever is in it
-    std::function<bool()> Settings_Visible;
+    platform::Callback<void()> Open_Settings;
+    platform::Callback<void()> Close_Settings; ///< at the end, whatever is in it
+    platform::Callback<bool()> Settings_Visible;
 
     /// Whether the program may end now; asks for unsaved text first.
     bool May_End() const;

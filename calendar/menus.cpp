@@ -28,7 +28,7 @@ void Main_Frm::Popup_Menu(int index, const Point *at) {
         Model(),
         {{clear_item, "Clear", Menu_Image::Clear},
          {edit_item, "Edit", Menu_Image::Edit},
-         {settings_item, "Settings", Menu_Image::Settings, Open_Settings != nullptr},
+         {settings_item, "Settings", Menu_Image::Settings, static_cast<bool>(Open_Settings)},
          {exit_item, "Exit", Menu_Image::Exit}},
         at);
     // Another day may be in the box by now, which nobody meant. In compact mode it is still the same day.

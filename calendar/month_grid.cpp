@@ -5,6 +5,7 @@
 #include "core/convert.h"
 #include "core/settings.h"
 #include "core/title.h"
+#include "platform/joined.h"
 #include "platform/locale.h"
 #include "platform/message_box.h"
 
@@ -195,10 +196,12 @@ void Main_Frm::Describe_Heading() {
 }
 
 std::string Full_Date(const Date &date) {
-    return platform::Weekday_Name(Weekday(date)) + " " + std::to_string(date.day) + Ordinal_Suffix(date.day) +
-           " " + platform::Month_Name(date.month) + " " + std::to_string(date.year);
+    return platform::Joined({platform::Weekday_Name(Weekday(date)), " ", std::to_string(date.day),
+                             Ordinal_Suffix(date.day), " ", platform::Month_Name(date.month), " ",
+                             std::to_string(date.year)});
 }
 
 std::string Today_Text(const Date &today, std::string_view text) {
-    return "Today: " + platform::Short_Date(today.year, today.month, today.day) + "\r\n" + std::string(text);
+    return platform::Joined(
+        {"Today: ", platform::Short_Date(today.year, today.month, today.day), "\r\n", text});
 }

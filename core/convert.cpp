@@ -2,6 +2,7 @@
 #include "core/convert.h"
 
 #include "core/letters.h"
+#include "platform/joined.h"
 
 #include <algorithm>
 #include <charconv>
@@ -32,8 +33,8 @@ Integer To_Integer(std::string_view text) {
     Integer value{};
     if (!Read_Integer(text, value)) {
         using Limits = std::numeric_limits<Integer>;
-        throw Conversion_Error("a whole number from " + std::to_string(Limits::min()) + " to " +
-                               std::to_string(Limits::max()));
+        throw Conversion_Error(platform::Joined(
+            {"a whole number from ", std::to_string(Limits::min()), " to ", std::to_string(Limits::max())}));
     }
     return value;
 }

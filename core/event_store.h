@@ -2,7 +2,8 @@
 // here.
 #pragma once
 
-#include <functional>
+#include "platform/callback.h"
+
 #include <string>
 #include <string_view>
 #include <vector>
@@ -63,8 +64,8 @@ public:
     /// Calls `enter` for each record in file order; the view it is given lasts for the call. An exception of
     /// it ends the reading with the message of Load_File. `entered` is called after the last record, before
     /// that message.
-    void Load_Dates(const std::function<void(std::string_view record)> &enter,
-                    const std::function<void()> &entered = nullptr);
+    void Load_Dates(platform::Callback_Ref<void(std::string_view record)> enter,
+                    platform::Callback<void()> entered = nullptr);
 
 private:
     /// Writes Temp_Lst and, unless it is empty, the record `added`. Throws as Write_Data_File does.

@@ -4,6 +4,7 @@
 #include "core/date.h"
 #include "core/letters.h"
 #include "core/settings.h"
+#include "platform/joined.h"
 #include "platform/locale.h"
 #include "platform/registry.h"
 #include "platform/text.h"
@@ -178,15 +179,17 @@ constexpr const char *weekday_form = "Weekday - d month - yyyy";
 std::string Date_Text(const std::string &date_format, const platform::Date_Time &now) {
     if (date_format == "mm/yyyy" || date_format == "dd/mm/yyyy")
         return Format_Pattern(date_format, now);
-    const std::string month_and_year = platform::Month_Name(now.month) + " - " + std::to_string(now.year);
+    const std::string month_and_year =
+        platform::Joined({platform::Month_Name(now.month), " - ", std::to_string(now.year)});
     if (date_format == "Month - yyyy")
         return month_and_year;
-    const std::string day = std::to_string(now.day) + Ordinal_Suffix(now.day) + " " + month_and_year;
+    const std::string day =
+        platform::Joined({std::to_string(now.day), Ordinal_Suffix(now.day), " ", month_and_year});
     if (date_format == "d Month - yyyy")
         return day;
     const Date today{static_cast<std::int16_t>(now.year), static_cast<std::int16_t>(now.month),
                      static_cast<std::int16_t>(now.day)};
-    return platform::Weekday_Name(Weekday(today)) + " " + day;
+    return platform::Joined({platform::Weekday_Name(Weekday(today)), " ", day});
 }
 
 } // namespace
@@ -206,7 +209,7 @@ std::string Title_Of_Today(bool show_time, const std::string &time_format, const
 std::string Bar_Date_Text(bool show_time, const std::string &time_format, const std::string &date_format,
                           std::int16_t month, std::int16_t year, const platform::Date_Time &now) {
     if (month != now.month || year != now.year)
-        return platform::Month_Name(month) + " - " + std::to_string(year);
+        return platform::Joined({platform::Month_Name(month), " - ", std::to_string(year)});
     std::string title = Title_Of_Today(show_time, time_format, date_format, now);
     const auto &formats = Bar_Date_Formats();
     if (std::find(formats.begin(), formats.end(), date_format) == formats.end()) {

@@ -115,7 +115,10 @@ Label::Label(Form &form, const char *name, const char *caption)
 }
 
 void Label::Set_Painted() {
-    Paint_Itself(state_, nullptr);
+    state_.painted = true;
+    state_.paint = [this](platform::Canvas &canvas, const platform::Rect &clip) {
+        Paint_Itself(state_, canvas, clip);
+    };
 }
 
 Button::Button(Form &form, const char *name, const char *caption)

@@ -142,7 +142,10 @@ void Slider::Take(const Input_Event &event) {
 }
 
 Picture_Box::Picture_Box(Form &form, const char *name) : Control(form, Control_Kind::Picture_Box, name) {
-    Paint_Itself(state_, [this](platform::Canvas &canvas) { Paint_Content(canvas); });
+    state_.painted = true;
+    state_.paint = [this](platform::Canvas &canvas, const platform::Rect &clip) {
+        Paint_Itself(state_, canvas, clip, [this](platform::Canvas &content) { Paint_Content(content); });
+    };
 }
 
 void Picture_Box::Set_Tab_Stop() {

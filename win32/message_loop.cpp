@@ -13,16 +13,16 @@ namespace {
 
 struct Timer {
     platform::Timer_Id id;
-    std::function<void()> tick;
+    platform::Callback<void()> tick;
 };
 
 std::vector<Timer> timers;
 platform::Timer_Id last_timer = 0;
-std::function<bool(platform::Broadcast)> listener;
+platform::Callback<bool(platform::Broadcast)> listener;
 HWND broadcasts = nullptr;
 
 /// The listener's answer.
-bool Tell(platform::Broadcast broadcast) {
+bool Tell(platform::Broadcast broadcast) noexcept {
     const auto now = listener;
     return !now || now(broadcast);
 }
@@ -178,9 +178,9 @@ void Wait_For_Messages(unsigned milliseconds) {
     MsgWaitForMultipleObjects(0, nullptr, FALSE, milliseconds, QS_ALLINPUT);
 }
 
-Timer_Id Start_Timer(unsigned milliseconds, std::function<void()> tick) {
+Timer_Id Start_Timer(unsigned milliseconds, Callback<void()> tick) {
     const Timer_Id id = ++last_timer;
-    timers.push_back({id, std::move(tick)});
+    timers.push_back({id, tick});
     if (SetTimer(Broadcast_Window(), id, milliseconds, nullptr) == 0) {
         timers.pop_back();
         return 0;
@@ -193,8 +193,8 @@ void Stop_Timer(Timer_Id id) {
         KillTimer(Broadcast_Window(), id);
 }
 
-void Listen_To_Broadcasts(std::function<bool(Broadcast)> heard) {
-    listener = std::move(heard);
+void Listen_To_Broadcasts(Callback<bool(Broadcast)> heard) {
+    listener = heard;
     if (listener)
         Broadcast_Window();
 }

@@ -312,9 +312,9 @@ void Wait_For_Messages(unsigned milliseconds) {
     Desktop().Advance(step);
 }
 
-Timer_Id Start_Timer(unsigned milliseconds, std::function<void()> tick) {
+Timer_Id Start_Timer(unsigned milliseconds, Callback<void()> tick) {
     static Timer_Id last = 0;
-    Desktop().timers[++last] = {milliseconds, Desktop().time + milliseconds, std::move(tick)};
+    Desktop().timers[++last] = {milliseconds, Desktop().time + milliseconds, tick};
     return last;
 }
 
@@ -322,8 +322,8 @@ void Stop_Timer(Timer_Id id) {
     Desktop().timers.erase(id);
 }
 
-void Listen_To_Broadcasts(std::function<bool(Broadcast)> listener) {
-    Desktop().listener = std::move(listener);
+void Listen_To_Broadcasts(Callback<bool(Broadcast)> listener) {
+    Desktop().listener = listener;
 }
 
 bool Claim_Single_Instance(const std::string &) {

@@ -72,7 +72,7 @@ struct Fake_Desktop {
 
     std::map<platform::Timer_Id, Fake_Timer> timers;
     unsigned time = 0;
-    std::function<bool(platform::Broadcast)> listener;
+    platform::Callback<bool(platform::Broadcast)> listener;
     bool loop_ended = false;
     std::function<void()> in_the_loop; ///< what happens while the message loop runs
 
