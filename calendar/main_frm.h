@@ -231,7 +231,7 @@ private:
     void Move_Mark(int days);
     bool Show_Mark();
     void Update_Mark();
-    int Marked_Box();
+    int Marked_Box() const;
     void Take_Focus(bool has_focus);
 
     void Describe_Boxes();
@@ -275,7 +275,7 @@ private:
     bool stale_ = false;    ///< what was laid out is not what the month shows now: it changed in compact mode
     platform::Point placed_; ///< where Position_Form put the window last
     unsigned fills_ = 0;     ///< counts the fillings: one that begins inside another puts an end to that
-    int Desktop_Height = 0;  ///< of the work area at the last placement, twips
+    int desktop_height_ = 0; ///< of the work area at the last placement, twips
     std::optional<Drag> drag_;
     std::optional<Drag> nudge_; ///< where the arrow keys took it up
     Repeated_Guard placement_guard_;

@@ -24,7 +24,7 @@ void Main_Frm::Position_Form(std::int16_t code) {
 void Main_Frm::Remember_Height(int twips) {
     // Kept whole before its conversion may fail: else every tick would find another height and place the
     // window anew, also one that is being dragged.
-    Desktop_Height = twips;
+    desktop_height_ = twips;
     try {
         Fit_Int16(twips);
     } catch (const Conversion_Error &) {
@@ -40,7 +40,7 @@ void Main_Frm::Set_Repos() {
 
 void Main_Frm::RePosition() {
     const int height = GetDesktopRect(true).height;
-    if (height == Desktop_Height)
+    if (height == desktop_height_)
         return;
     Position_Form(Effective_Position());
     Remember_Height(height);

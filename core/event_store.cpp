@@ -87,7 +87,7 @@ void Event_Store::Check_For_Pre(const std::string &key, const std::string &text,
     Write_ALL();
 }
 
-void Event_Store::Write_Whole(const std::string &added) {
+void Event_Store::Write_Whole(const std::string &added) const {
     if (partly_loaded_)
         throw platform::File_Error("what else the file holds is not known");
     std::string bytes = All_Records(Temp_Lst);

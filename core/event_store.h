@@ -69,7 +69,7 @@ public:
 
 private:
     /// Writes Temp_Lst and, unless it is empty, the record `added`. Throws as Write_Data_File does.
-    void Write_Whole(const std::string &added);
+    void Write_Whole(const std::string &added) const;
     /// The same with a message for a failure.
     void Rewrite_File(const std::string &added);
 

@@ -179,11 +179,11 @@ constexpr const char *weekday_form = "Weekday - d month - yyyy";
 std::string Date_Text(const std::string &date_format, const platform::Date_Time &now) {
     if (date_format == "mm/yyyy" || date_format == "dd/mm/yyyy")
         return Format_Pattern(date_format, now);
-    const std::string month_and_year =
+    std::string month_and_year =
         platform::Joined({platform::Month_Name(now.month), " - ", std::to_string(now.year)});
     if (date_format == "Month - yyyy")
         return month_and_year;
-    const std::string day =
+    std::string day =
         platform::Joined({std::to_string(now.day), Ordinal_Suffix(now.day), " ", month_and_year});
     if (date_format == "d Month - yyyy")
         return day;

@@ -129,7 +129,7 @@ std::string Get_Paper_Path(std::int16_t month, const std::string &pack) {
     if (!Is_Pack_Name(pack))
         return Theme_Error;
     const std::string number = std::to_string(month);
-    const std::string path = Pack_File(pack, number + std::string(bitmap_ending));
+    std::string path = Pack_File(pack, number + std::string(bitmap_ending));
     if (platform::File_Exists(path))
         return path;
     Delete_Old_Bmps(pack);
