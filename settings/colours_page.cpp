@@ -86,7 +86,11 @@ Colours_Page::Colours_Page(Form &dialog, Frame &frame, Main_Frm &calendar)
                                       {&Col_Text_Lbl, &Col_Text_Pic, &Settings::Col_Text},
                                       {&Col_Back_Lbl, &Col_Back_Pic, &Settings::Col_Back},
                                       {&Col_Fore_Lbl, &Col_Fore_Pic, &Settings::Col_Fore}}} {
-    Put_Into_Frames(frame);
+    frame.Hold(Boxes_Fra, Preview_Caption1_Lbl);
+    Boxes_Fra.Hold(Col_Today_Pic, Col_Text_Lbl);
+    Menu_Fra.Hold(Col_Sys_Opt, Col_Fore_Lbl);
+    Palette_Fra.Hold(Pal, Names_Cbo);
+    Preview_Fra.Hold(Preview_Back_Pic, Preview_Caption1_Lbl);
     for (int i = 0; i < colour_count; ++i)
         Wire_Swatch(i);
     Col_Sys_Opt.On_Click = [this] { Col_Sys_Opt_Click(); };
@@ -106,21 +110,6 @@ Colours_Page::Colours_Page(Form &dialog, Frame &frame, Main_Frm &calendar)
     Dress_Preview();
     Lay_Out();
     Move_Cross(cross_);
-}
-
-void Colours_Page::Put_Into_Frames(const Frame &frame) {
-    Put_Into(frame, {&Boxes_Fra, &Menu_Fra, &Default_Cols_Btn, &Palette_Fra, &Preview_Fra});
-    for (int i = 0; i < colour_count; ++i) {
-        const Swatch &swatch = swatches_[static_cast<std::size_t>(i)];
-        Put_Into(i < first_menu_swatch ? Boxes_Fra : Menu_Fra, {swatch.label, swatch.picture});
-    }
-    Put_Into(Menu_Fra, {&Col_Sys_Opt, &Col_Other_Opt});
-    Put_Into(Palette_Fra, {&Pal, &Gradient_Pic, &Names_Lbl, &Names_Cbo});
-    for (int i = 0; i < 3; ++i)
-        Put_Into(Palette_Fra, {&txCol_Lbl[i], &txCol[i]});
-    Put_Into(Preview_Fra, {&Preview_Back_Pic, &Preview_Prev_Lbl, &Preview_Month_Lbl, &Preview_Today_Lbl,
-                           &Preview_Caption_Today_Lbl, &Preview_Style0_Lbl, &Preview_Caption0_Lbl,
-                           &Preview_Style1_Lbl, &Preview_Caption1_Lbl});
 }
 
 void Colours_Page::Wire_Swatch(int index) {

@@ -4,11 +4,6 @@
 #include "calendar/box_layout.h"
 #include "toolkit/units.h"
 
-void Put_Into(const Frame &frame, std::initializer_list<Control *> controls) {
-    for (Control *control : controls)
-        control->Set_Container(frame);
-}
-
 platform::Rect Moved(platform::Rect pixels, const platform::Rect &from, int left, int top) {
     pixels.left += Twips_To_Pixels(left) - from.left;
     pixels.top += Twips_To_Pixels(top) - from.top;

@@ -6,8 +6,6 @@
 #include "toolkit/form.h"
 #include "toolkit/list_controls.h"
 
-#include <initializer_list>
-
 class Box_Layout;
 
 namespace layout {
@@ -35,9 +33,6 @@ constexpr platform::Colour face_colour = platform::System_Colour(15);
 constexpr platform::Colour shadow_colour = platform::System_Colour(16);
 constexpr platform::Colour grey_text_colour = platform::System_Colour(17);
 constexpr platform::Colour text_colour = platform::System_Colour(18);
-
-/// Puts controls into a frame.
-void Put_Into(const Frame &frame, std::initializer_list<Control *> controls);
 
 /// A rectangle of the calendar's layout in twips, moved as `from` (pixels) must be for its left top corner to
 /// be at `left` and `top` (twips).

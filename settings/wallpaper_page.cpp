@@ -55,10 +55,8 @@ Wallpaper_Page::Wallpaper_Page(Form &dialog, Frame &frame, Main_Frm &calendar, S
     Preview_Sli.Set_Access({platform::Access_Role::None, false, "Month", {}, {}});
     Loading_Lbl.Set_Visible(false);
     Preview_Lbl.Set_Visible(false);
-    Put_Into(frame, {&Theme_Use_Chk, &Packs_Lbl, &Packs_Cbo, &Theme_Preview_Img, &Theme_Display_Lbl,
-                     &Theme_Style_Lbl, &Theme_Pos_Lbl, &Loading_Lbl, &Month_Lbl, &Preview_Sli, &Theme_Fra,
-                     &Preview_Btn, &Preview_Lbl});
-    Put_Into(Theme_Fra, {&Theme_Style_Chk, &Theme_Pos_Chk, &Other_Display_Chk, &Display_Lbl, &Display_Cbo});
+    frame.Hold(Theme_Use_Chk, Preview_Lbl);
+    Theme_Fra.Hold(Theme_Style_Chk, Display_Cbo);
     Lay_Out();
     Wire_Events();
     Clear_Details();
