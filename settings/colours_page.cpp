@@ -52,11 +52,16 @@ std::string Web_Text(Colour colour) {
     return "#" + Web_Part(parts.red) + Web_Part(parts.green) + Web_Part(parts.blue);
 }
 
+/// The three parts as numbers, with a text before each.
+std::string Parts_Text(Colour colour, const char *red, const char *green, const char *blue) {
+    const Rgb_Parts parts = Parts_Of(colour);
+    return red + std::to_string(parts.red) + green + std::to_string(parts.green) + blue +
+           std::to_string(parts.blue);
+}
+
 /// As it is read aloud.
 std::string Spoken(Colour colour) {
-    const Rgb_Parts parts = Parts_Of(platform::Resolve_Colour(colour));
-    return "red " + std::to_string(parts.red) + ", green " + std::to_string(parts.green) + ", blue " +
-           std::to_string(parts.blue);
+    return Parts_Text(platform::Resolve_Colour(colour), "red ", ", green ", ", blue ");
 }
 
 } // namespace
@@ -208,11 +213,9 @@ void Colours_Page::Describe_Swatches() {
 void Colours_Page::ShowColors(Colour colour) {
     Gradient_Pic.Set_Visible(false);
     colour = platform::Resolve_Colour(colour);
-    const Rgb_Parts parts = Parts_Of(colour);
     txCol[0].Set_Text(std::to_string(colour));
     txCol[1].Set_Text(Web_Text(colour));
-    txCol[2].Set_Text(std::to_string(parts.red) + "," + std::to_string(parts.green) + "," +
-                      std::to_string(parts.blue));
+    txCol[2].Set_Text(Parts_Text(colour, "", ",", ","));
     // A colour with two names keeps the one that was chosen.
     const auto names = Named_Colours();
     const int chosen = Names_Cbo.Selected();

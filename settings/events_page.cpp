@@ -38,7 +38,7 @@ Events_Page::Events_Page(Form &dialog, Frame &frame, Main_Frm &calendar)
     Yearview_Fra.Hold(Month_Count_Lbl[0], Month_Count_Lbl[11]);
     Sort_Cbo.Set_Items({"Ascending Date", "Descending Date", "Date Added"});
     Sort_Cbo.Select(0);
-    Events_Lst.Set_Access({platform::Access_Role::None, false, "Events", {}, {}});
+    Name_Aloud(Events_Lst, "Events");
     Write_Labels();
     Overview_Opt.Set_Checked(true);
     Show_View(true);

@@ -4,6 +4,14 @@
 #include "calendar/box_layout.h"
 #include "toolkit/units.h"
 
+#include <utility>
+
+void Name_Aloud(Control &control, const char *name) {
+    platform::Access_State access;
+    access.name = name;
+    control.Set_Access(std::move(access));
+}
+
 platform::Rect Moved(platform::Rect pixels, const platform::Rect &from, int left, int top) {
     pixels.left += Twips_To_Pixels(left) - from.left;
     pixels.top += Twips_To_Pixels(top) - from.top;

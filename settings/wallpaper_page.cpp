@@ -51,8 +51,8 @@ Wallpaper_Page::Wallpaper_Page(Form &dialog, Frame &frame, Main_Frm &calendar, S
       style_page_(style_page), preview_(calendar) {
     Display_Cbo.Set_Items({Display_Mode_Name(0), Display_Mode_Name(1), Display_Mode_Name(2)});
     Theme_Preview_Img.Set_Frame_Colour(shadow_colour);
-    Theme_Preview_Img.Set_Access({platform::Access_Role::None, false, "Wallpaper of the month", {}, {}});
-    Preview_Sli.Set_Access({platform::Access_Role::None, false, "Month", {}, {}});
+    Name_Aloud(Theme_Preview_Img, "Wallpaper of the month");
+    Name_Aloud(Preview_Sli, "Month");
     Loading_Lbl.Set_Visible(false);
     Preview_Lbl.Set_Visible(false);
     frame.Hold(Theme_Use_Chk, Preview_Lbl);
