@@ -83,7 +83,6 @@ private:
         platform::Colour Settings::*setting;
     };
 
-    void Put_Into_Frames(const Frame &frame);
     void Wire_Swatch(int index);
     void Paint_Swatch(int index, platform::Canvas &canvas);
     void Paint_Palette(platform::Canvas &canvas);

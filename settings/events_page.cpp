@@ -20,7 +20,7 @@ void Title_Frame(Frame &frame, Reading reading) {
 
 } // namespace
 
-Events_Page::Events_Page(Form &dialog, const Frame &frame, Main_Frm &calendar)
+Events_Page::Events_Page(Form &dialog, Frame &frame, Main_Frm &calendar)
     : Overview_Opt(dialog, "Overview_Opt", "Events &Overview"),
       Stats_Opt(dialog, "Stats_Opt", "General &Statstics"),
       Overview_Fra(dialog, "Overview_Fra", events_title), Sort_Lbl(dialog, "Sort_Lbl", "Sort &by:"),
@@ -32,15 +32,13 @@ Events_Page::Events_Page(Form &dialog, const Frame &frame, Main_Frm &calendar)
       Before_Lbl(dialog, "Before_Lbl"), After_Lbl(dialog, "After_Lbl"),
       Yearview_Fra(dialog, "Yearview_Fra", "This Year"), Month_Count_Lbl(dialog, "Month_Count_Lbl"),
       calendar_(calendar) {
-    Put_Into(frame, {&Overview_Opt, &Stats_Opt, &Overview_Fra, &Events_Fra, &Yearview_Fra});
-    Put_Into(Overview_Fra,
-             {&Sort_Lbl, &Sort_Cbo, &Events_Lst_Lbl, &Events_Lst, &Countdown_Name_Lbl, &Countdown_Lbl});
-    Put_Into(Events_Fra, {&Total_All_Lbl, &Total_Year_Lbl, &Before_Lbl, &After_Lbl});
-    for (Label &label : Month_Count_Lbl)
-        label.Set_Container(Yearview_Fra);
+    frame.Hold(Overview_Opt, Month_Count_Lbl[11]);
+    Overview_Fra.Hold(Sort_Lbl, Countdown_Lbl);
+    Events_Fra.Hold(Total_All_Lbl, After_Lbl);
+    Yearview_Fra.Hold(Month_Count_Lbl[0], Month_Count_Lbl[11]);
     Sort_Cbo.Set_Items({"Ascending Date", "Descending Date", "Date Added"});
     Sort_Cbo.Select(0);
-    Events_Lst.Set_Access({platform::Access_Role::None, false, "Events", {}, {}});
+    Name_Aloud(Events_Lst, "Events");
     Write_Labels();
     Overview_Opt.Set_Checked(true);
     Show_View(true);

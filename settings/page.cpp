@@ -4,9 +4,12 @@
 #include "calendar/box_layout.h"
 #include "toolkit/units.h"
 
-void Put_Into(const Frame &frame, std::initializer_list<Control *> controls) {
-    for (Control *control : controls)
-        control->Set_Container(frame);
+#include <utility>
+
+void Name_Aloud(Control &control, const char *name) {
+    platform::Access_State access;
+    access.name = name;
+    control.Set_Access(std::move(access));
 }
 
 platform::Rect Moved(platform::Rect pixels, const platform::Rect &from, int left, int top) {

@@ -1,12 +1,11 @@
 // What the pages of the settings dialog have in common: their includes, their colours, the examples of boxes
-// on them, and distances in twips, of which 15 are a pixel at 96 dots per inch.
+// on them, and distances in twips, of which 15 are a pixel at 96 dots per inch. The pages' constructors are
+// not to be inlined: all in one, in that of the dialog, they take more code.
 #pragma once
 
 #include "calendar/main_frm.h"
 #include "toolkit/form.h"
 #include "toolkit/list_controls.h"
-
-#include <initializer_list>
 
 class Box_Layout;
 
@@ -36,8 +35,8 @@ constexpr platform::Colour shadow_colour = platform::System_Colour(16);
 constexpr platform::Colour grey_text_colour = platform::System_Colour(17);
 constexpr platform::Colour text_colour = platform::System_Colour(18);
 
-/// Puts controls into a frame.
-void Put_Into(const Frame &frame, std::initializer_list<Control *> controls);
+/// Gives a control without a caption the name that is read aloud.
+void Name_Aloud(Control &control, const char *name);
 
 /// A rectangle of the calendar's layout in twips, moved as `from` (pixels) must be for its left top corner to
 /// be at `left` and `top` (twips).

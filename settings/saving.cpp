@@ -11,14 +11,14 @@
 
 namespace {
 
-void Save(const Settings_Frm &dialog, std::string_view key) {
+void Save(const Settings_Frm &dialog, const char *key) {
     const Setting_Row &row = Setting_Row_Of(key);
     Set_From_Text(Cur_Settings, row, Setting_Text(dialog.Shown_Configuration(), row));
     Store_Setting(key);
 }
 
 /// Takes a choice over, if it is another one. Returns whether it was.
-bool Save_Changed(const Settings_Frm &dialog, std::string_view key) {
+bool Save_Changed(const Settings_Frm &dialog, const char *key) {
     const Setting_Row &row = Setting_Row_Of(key);
     if (Setting_Text(Cur_Settings, row) == Setting_Text(dialog.Shown_Configuration(), row))
         return false;

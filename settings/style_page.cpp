@@ -56,11 +56,9 @@ Style_Page::Style_Page(Form &dialog, Frame &frame, Main_Frm &calendar)
       Pos_Hint_Lbl(dialog, "Pos_Hint_Lbl", "Click a place on the screen, or choose it with the arrow keys."),
       Pos_Manual_Opt(dialog, "Pos_Manual_Opt", "&Manual position"), Manual_Lbl(dialog, "Manual_Lbl"),
       Pos_Preview_Img(dialog, "Pos_Preview_Img"), Position_Lbl(dialog, "Position_Lbl"), calendar_(calendar) {
-    Put_Into(frame, {&Style_Fra, &Position_Fra});
-    Put_Into(Style_Fra, {&Style1_Opt, &Style2_Opt, &Backdrop1_Pic, &Backdrop2_Pic, &Example1_Lbl,
-                         &Example2_Lbl, &Example3_Lbl, &Example4_Lbl});
-    Put_Into(Position_Fra,
-             {&Pos_Set_Opt, &Pos_Hint_Lbl, &Pos_Manual_Opt, &Manual_Lbl, &Pos_Preview_Img, &Position_Lbl});
+    frame.Hold(Style_Fra, Position_Lbl);
+    Style_Fra.Hold(Style1_Opt, Example4_Lbl);
+    Position_Fra.Hold(Pos_Set_Opt, Position_Lbl);
     Wire_Examples();
     Style1_Opt.On_Click = [this] { Choose_Style(Style1_Opt); };
     Style2_Opt.On_Click = [this] { Choose_Style(Style2_Opt); };

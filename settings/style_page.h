@@ -19,7 +19,7 @@ class Style_Page {
 public:
     using Theme_Look = ::Theme_Look;
 
-    Style_Page(Form &dialog, Frame &frame, Main_Frm &calendar);
+    [[gnu::noinline]] Style_Page(Form &dialog, Frame &frame, Main_Frm &calendar);
 
     /// Shows style and position of the settings. A position that is no code is shown as the first one.
     void Load_Settings();

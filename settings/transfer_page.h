@@ -12,7 +12,7 @@
 
 class Transfer_Page {
 public:
-    Transfer_Page(Form &dialog, Frame &frame, Main_Frm &calendar);
+    [[gnu::noinline]] Transfer_Page(Form &dialog, Frame &frame, Main_Frm &calendar);
 
     // To be filled by the dialog.
 

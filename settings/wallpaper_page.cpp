@@ -51,14 +51,12 @@ Wallpaper_Page::Wallpaper_Page(Form &dialog, Frame &frame, Main_Frm &calendar, S
       style_page_(style_page), preview_(calendar) {
     Display_Cbo.Set_Items({Display_Mode_Name(0), Display_Mode_Name(1), Display_Mode_Name(2)});
     Theme_Preview_Img.Set_Frame_Colour(shadow_colour);
-    Theme_Preview_Img.Set_Access({platform::Access_Role::None, false, "Wallpaper of the month", {}, {}});
-    Preview_Sli.Set_Access({platform::Access_Role::None, false, "Month", {}, {}});
+    Name_Aloud(Theme_Preview_Img, "Wallpaper of the month");
+    Name_Aloud(Preview_Sli, "Month");
     Loading_Lbl.Set_Visible(false);
     Preview_Lbl.Set_Visible(false);
-    Put_Into(frame, {&Theme_Use_Chk, &Packs_Lbl, &Packs_Cbo, &Theme_Preview_Img, &Theme_Display_Lbl,
-                     &Theme_Style_Lbl, &Theme_Pos_Lbl, &Loading_Lbl, &Month_Lbl, &Preview_Sli, &Theme_Fra,
-                     &Preview_Btn, &Preview_Lbl});
-    Put_Into(Theme_Fra, {&Theme_Style_Chk, &Theme_Pos_Chk, &Other_Display_Chk, &Display_Lbl, &Display_Cbo});
+    frame.Hold(Theme_Use_Chk, Preview_Lbl);
+    Theme_Fra.Hold(Theme_Style_Chk, Display_Cbo);
     Lay_Out();
     Wire_Events();
     Clear_Details();

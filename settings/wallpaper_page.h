@@ -15,7 +15,7 @@
 class Wallpaper_Page {
 public:
     /// All must outlive the page.
-    Wallpaper_Page(Form &dialog, Frame &frame, Main_Frm &calendar, Style_Page &style_page);
+    [[gnu::noinline]] Wallpaper_Page(Form &dialog, Frame &frame, Main_Frm &calendar, Style_Page &style_page);
 
     /// Places the controls, also after a change of the dots per inch.
     void Lay_Out();

@@ -101,10 +101,6 @@ void Control::Set_Access(platform::Access_State access) {
     Store(state_.access, std::move(access), Aspect::Access);
 }
 
-void Control::Set_Container(const Frame &frame) {
-    state_.container = frame.State().index;
-}
-
 void Control::Take(const platform::Input_Event &event) {
     if (event.kind == platform::Input_Kind::Clicked)
         Fire(On_Click);

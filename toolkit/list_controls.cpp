@@ -20,6 +20,11 @@ Frame::Frame(Form &form, const char *name, const char *caption)
     : Control(form, Control_Kind::Frame, name, caption) {
 }
 
+void Frame::Hold(const Control &first, const Control &last) {
+    for (int i = first.State().index; i <= last.State().index; ++i)
+        form_.Model().controls[static_cast<std::size_t>(i)]->container = state_.index;
+}
+
 Option_Button::Option_Button(Form &form, const char *name, const char *caption)
     : Control(form, Control_Kind::Option_Button, name, caption) {
 }
