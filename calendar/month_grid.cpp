@@ -119,8 +119,9 @@ void Main_Frm::Enter_Date(std::string_view record, const Date &today) {
         const int index = Start_Box(Cur_Month, Cur_Year) + date.day - 1;
         entered_.at(static_cast<std::size_t>(index)) = parts.text;
     }
+    // A day that the date watch has not seen yet gets its alert from there, and not two.
     if (Cur_Settings.Show_Alerts == 1 && !Alert_Done && date.day == today.day && date.month == today.month &&
-        (date.year == today.year || date.year == every_year))
+        (date.year == today.year || date.year == every_year) && Date_Stamp(today) == date_stamp_)
         Alert(today, parts.text);
 }
 
