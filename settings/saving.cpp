@@ -1,13 +1,10 @@
 // What the settings dialog saves: its pages' choices go into the settings, the store and the calendar. A
 // choice that is what the setting holds already is not written, but for those that are always.
 #include "core/settings.h"
-#include "desktop/position.h"
 #include "platform/files.h"
 #include "platform/registry.h"
 #include "settings/settings_frm.h"
 #include "toolkit/guard.h"
-
-#include <utility>
 
 namespace {
 
