@@ -3,6 +3,7 @@
 #include "core/convert.h"
 #include "core/settings.h"
 #include "desktop/position.h"
+#include "platform/joined.h"
 
 #include <string>
 #include <vector>
@@ -27,10 +28,9 @@ void Main_Frm::Remember_Height(int twips) {
     try {
         Fit_Int16(twips);
     } catch (const Conversion_Error &) {
-        throw Conversion_Error(
-            "The height of the desktop's work area, " + std::to_string(twips) +
-            " twips, is beyond the 32767 that are allowed for. The calendar is placed all the "
-            "same.");
+        throw Conversion_Error(platform::Joined(
+            {"The height of the desktop's work area, ", std::to_string(twips),
+             " twips, is beyond the 32767 that are allowed for. The calendar is placed all the same."}));
     }
 }
 
