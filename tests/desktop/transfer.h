@@ -49,7 +49,7 @@ protected:
     /// Answers the box whose text begins so.
     void Answer(const std::string &box, WORD button = IDOK) const {
         ASSERT_TRUE(Becomes(
-            box, [&] { return program_->Box().substr(0, box.size()); }, 15000));
+            box, [&] { return program_->Box().substr(0, box.size()); }, 120'000));
         program_->Answer(button);
     }
     /// No box follows, and the page can be used again.

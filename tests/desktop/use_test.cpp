@@ -39,8 +39,7 @@ protected:
     }
 };
 
-TEST_F(Use, Function_Keys) {
-    Write_Data("\"12/5/9999=Every year\"\r\n");
+TEST_F(Use, Function_Keys_And_Arrows) {
     Set_Setting("Settings", "Show Alerts", "0");
     Set_Setting("Settings", "Use Theme Style", "1");
     const Program &program = Start_Calendar();
@@ -49,9 +48,6 @@ TEST_F(Use, Function_Keys) {
         return place.bottom - place.top;
     };
     const auto box = [&] { return program.Box(); };
-    program.Press(VK_F1);
-    ASSERT_TRUE(Becomes(std::string("[Vellatro] Today: 5/12/2027\r\nEvery year"), box));
-    program.Answer();
     const std::pair<WORD, const char *> steps[] = {{VK_F4, "June - 2027"},
                                                    {VK_F2, "12th May - 2027"},
                                                    {VK_F2, "April - 2027"},
@@ -65,6 +61,11 @@ TEST_F(Use, Function_Keys) {
         program.Press(key);
         EXPECT_TRUE(Becomes("Read by " + std::to_string(key),
                             [&] { return program.Named("Wednesday 12th May 2027, today").value; }));
+    }
+    for (const auto &[arrow, title] :
+         {std::pair("Next month", "June - 2027"), {"Previous month", "12th May - 2027"}}) {
+        program.Click(program.Named(arrow).place);
+        ASSERT_TRUE(Shows(program, title));
     }
     const std::string question = "[Vellatro] You can't change the box style because Use Theme Style is "
                                  "selected. Do you want to turn off Use Theme Style?";
