@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Measures steps from month to month in the running program, under Wine on a display of its own, and tells the
-# medians. Installs what is missing.
+# Measures steps from month to month in the running program and openings of its settings dialog, under Wine on a
+# display of its own, and tells the medians. Installs what is missing.
 set -euo pipefail
 # shellcheck source=/dev/null
 . "$(dirname "${BASH_SOURCE[0]}")/desktop.sh"
@@ -8,7 +8,7 @@ set -euo pipefail
 out=$PROJECT/build/desktop-bench
 Desktop_Open "$out"
 WINE_OUT=$out/bench.log
-Desktop_Drive "$out" 120 desktop_bench || {
+Desktop_Drive "$out" 400 desktop_bench || {
   cat "$WINE_OUT" >&2
   Fail "The benchmark has failed"
 }

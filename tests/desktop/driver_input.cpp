@@ -110,13 +110,13 @@ bool Program::Uncover(POINT point) const {
     return Wait_Until([&] {
         DWORD_PTR answer = 0; // which comes after what X has told the stand-in
         SendMessageTimeoutW(standin, WM_NULL, 0, 0, SMTO_NORMAL, 2000, &answer);
-        if (GetAncestor(calendar, GA_PARENT) == standin) {
+        if (GetAncestor(calendar, GA_PARENT) == standin)
             SetParent(calendar, FindWindowExA(standin, nullptr, "SHELLDLL_DefView", nullptr));
-            InvalidateRect(calendar, nullptr, FALSE); // what it paints during the move is lost now and then
-        }
         if (Picture().At(point.x, point.y) != Bare_Screen->At(point.x, point.y) &&
             WindowFromPoint(point) == calendar)
             return true;
+        // What it paints during the move, and right after it, is lost now and then.
+        InvalidateRect(calendar, nullptr, FALSE);
         if (GetAncestor(calendar, GA_PARENT) == GetDesktopWindow())
             Raise(calendar);
         return false;

@@ -215,8 +215,8 @@ TEST_F(Settings_Dialog, Only_Ok_And_Apply_Save) {
     EXPECT_EQ(SendMessageA(Tabs(), TCM_GETCURSEL, 0, 0), 3); // of a first run
     for (const auto &row : rows) {
         SCOPED_TRACE(row.tab);
-        EXPECT_EQ(Ticked(alert), alerts);
         Turn_To(3);
+        EXPECT_EQ(Ticked(alert), alerts);
         Push(alert);
         Turn_To(row.tab);
         Forget();
@@ -232,7 +232,9 @@ TEST_F(Settings_Dialog, Only_Ok_And_Apply_Save) {
         program->Open_Settings();
         EXPECT_EQ(SendMessageA(Tabs(), TCM_GETCURSEL, 0, 0), row.tab - 1);
         for (const auto &other : rows)
-            EXPECT_TRUE(!other.seen || (IsWindowVisible(Part(other.seen)) != FALSE) == (other.tab == row.tab))
+            EXPECT_TRUE(!other.seen ||
+                        (IsWindowVisible(FindWindowExA(Dialog(), nullptr, "Button", other.seen)) != FALSE) ==
+                            (other.tab == row.tab))
                 << other.seen;
     }
 }
