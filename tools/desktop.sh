@@ -1,7 +1,13 @@
 # shellcheck shell=bash disable=SC2119,SC2120 # the area may be left out
-# A Wine desktop with the stand-in for the shell, on the display at hand. Sourced after common.sh, display.sh
-# and wine.sh; Wine_Prefix must have run. Every program that is started later in the prefix opens in it.
+# A Wine desktop with the stand-in for the shell, and what drives the program on it. Sourcing it brings the other
+# parts along and changes into the project's folder. Every program that is started later in the prefix opens in it.
 #
+#   Desktop_Prepare FOLDER      installs what is missing, empties FOLDER (in build) for what a script leaves, chooses
+#                               the Wine; BINARIES is where the build for it lies. Times are UTC, as the drivers set them.
+#   Desktop_Build LOG [TARGET...]   builds the Windows programs, all of them or the targets
+#   Desktop_Open FOLDER [TARGET...]   all of it: prepares, builds, starts a display, a prefix and the stand-in
+#   Desktop_Drive FOLDER SECONDS DRIVER [ARGUMENT...]   runs one of the drivers in tests/desktop on the built program,
+#                               in FOLDER, with a clock that the driver can move; gives its exit code
 #   Desktop_Start STANDIN.exe [DPI [NAME [WxH [OPTION...]]]]   96 dots per inch, "vellatro", 1024x768. A desktop named
 #                       "shell" has a task bar. The options are the stand-in's; "none" as STANDIN leaves it out.
 #                       What the stand-in writes is in DESKTOP_OUT.
@@ -11,9 +17,57 @@
 #                       fails after SECONDS, or when JOB, the calendar's WINE_JOB, has ended
 #   Desktop_End                          ends it and everything else in the prefix
 
+for part in common packages display wine; do
+  # shellcheck source=/dev/null
+  . "${BASH_SOURCE[0]%/*}/$part.sh"
+done
+cd "$PROJECT" || exit
+
 desktop_name=
 desktop_standin_job=
 desktop_bare= # the fingerprint of the desktop before anything was started in it
+
+Desktop_Prepare() {
+  export TZ=UTC
+  Packages_Need build
+  Packages_Need desktop
+  rm -rf --one-file-system "$1"
+  mkdir -p "$1"
+  Wine_Setup
+  BINARIES=$PROJECT/build/$WINE_PRESET
+}
+
+Desktop_Build() {
+  local log=$1
+  shift
+  Say "Building for Windows"
+  if ! { cmake --preset "$WINE_PRESET" && cmake --build --preset "$WINE_PRESET" ${1:+--target "$@"}; } \
+    >"$log" 2>&1 </dev/null; then
+    tail -n 40 "$log" >&2
+    Fail "The build has failed; all of it is in $log"
+  fi
+}
+
+Desktop_Open() {
+  Desktop_Prepare "$1"
+  Desktop_Build "$1/build.log" "${@:2}"
+  Display_Start 1280x1024x24
+  Wine_Prefix "$1/prefix"
+  Desktop_Start "$BINARIES/tests/desktop/shell_standin.exe"
+}
+
+Desktop_Drive() {
+  local folder=$1 seconds=$2 driver=$3 bits=
+  shift 3
+  [ "$WINE_PRESET" = win64 ] || bits=-m32
+  gcc -O2 ${bits:+"$bits"} -ffreestanding -fno-builtin -fno-stack-protector -nostdlib -shared -fPIC \
+    -o "$folder/time_shim.so" tests/desktop/time_shim.c || Fail "The time shim cannot be compiled"
+  mkdir -p "$folder/tests"
+  printf '%-20s\n' 0 >"$folder/clock"
+  Wine_Run "$seconds" LD_PRELOAD="$folder/time_shim.so" VT_CLOCK="$folder/clock" \
+    "$BINARIES/tests/desktop/$driver.exe" "$(Wine_Path "$BINARIES/vellatro.exe")" "$(Wine_Path "$folder/tests")" \
+    "$(Wine_Path "$folder/clock")" "$@"
+}
 
 Desktop_Start() {
   local standin=$1 dpi=${2:-96} size=${4:-1024x768}

@@ -6,12 +6,8 @@
 set -euo pipefail
 rounds=${1:-15}
 idle=${2:-60}
-cd "$(dirname "${BASH_SOURCE[0]}")/.."
-for part in common packages display wine desktop; do
-  # shellcheck source=/dev/null
-  . "tools/$part.sh"
-done
-cd "$PROJECT"
+# shellcheck source=/dev/null
+. "$(dirname "${BASH_SOURCE[0]}")/desktop.sh"
 
 out=$PROJECT/build/figures
 folder=$out/Vellatro
@@ -48,31 +44,21 @@ Hold() {
   wait "$WINE_JOB" || true
 }
 
-Packages_Need build
-Packages_Need desktop
-rm -rf --one-file-system "$out"
+Desktop_Open "$out" vellatro shell_standin bare_window program_figures
+xdotool mousemove 1279 1023 # a resting mouse would call up a tooltip
+measure=$BINARIES/bench/desktop/program_figures.exe
 mkdir -p "$folder"
-Wine_Setup
-binaries=$PROJECT/build/$WINE_PRESET
-{ cmake --preset "$WINE_PRESET" && cmake --build --preset "$WINE_PRESET" \
-  --target vellatro shell_standin bare_window program_figures; } >"$out/build.log" 2>&1 </dev/null ||
-  Fail "The build has failed; all of it is in $out/build.log"
-measure=$binaries/bench/desktop/program_figures.exe
-cp "$binaries/vellatro.exe" "$folder/"
+cp "$BINARIES/vellatro.exe" "$folder/"
 # An ordinary calendar: an event on every third day of the year.
 for month in {1..12}; do
   for day in {1..28..3}; do printf '"%d/%d/9999=Event of the %d. %d."\r\n' "$day" "$month" "$day" "$month"; done
 done >"$folder/calendar.dat"
 
-Display_Start 1280x1024x24
-xdotool mousemove 1279 1023 # a resting mouse would call up a tooltip
-Wine_Prefix "$out/prefix"
 Wine_Registry <<'REG'
 [HKEY_CURRENT_USER\Software\Vellatro\Settings]
 "Show Alerts"="0"
 REG
-Desktop_Start "$binaries/tests/desktop/shell_standin.exe"
-programs=("$(Wine_Path "$binaries/bench/desktop/bare_window.exe")" Bare_Window
+programs=("$(Wine_Path "$BINARIES/bench/desktop/bare_window.exe")" Bare_Window
   "$(Wine_Path "$folder/vellatro.exe")" Vellatro_Calendar
   'C:\windows\system32\clock.exe' CLClass
   'C:\windows\system32\notepad.exe' Notepad)
@@ -80,7 +66,7 @@ programs=("$(Wine_Path "$binaries/bench/desktop/bare_window.exe")" Bare_Window
 date -u '+%F %R UTC'
 printf 'commit %s%s\n' "$(git rev-parse --short HEAD)" "$(git diff --quiet HEAD || echo ', with changes')"
 printf 'processors %s, load %s at the beginning\n' "$(nproc)" "$(cut -d' ' -f1-3 /proc/loadavg)"
-stat -c 'size of %n: %s bytes' "$folder/vellatro.exe" "$binaries/bench/desktop/bare_window.exe" | sed "s,$PROJECT/,,"
+stat -c 'size of %n: %s bytes' "$folder/vellatro.exe" "$BINARIES/bench/desktop/bare_window.exe" | sed "s,$PROJECT/,,"
 WINE_OUT=$out/starts.log
 Wine_Run $((rounds * 30 + 120)) "$measure" starts "$rounds" "${programs[@]}" || Fail "$(cat "$WINE_OUT")"
 grep '^start' "$WINE_OUT"

@@ -64,14 +64,7 @@ protected:
     /// Milliseconds from the choice in the menu until the dialog is painted; less than 0 when no menu came.
     static double Open(const Program &program) {
         const HWND calendar = program.Calendar();
-        POINT day = Middle(program.Items(ROLE_SYSTEM_CELL).at(0).place);
-        ScreenToClient(calendar, &day);
-        const auto menu = [&] { return program.Window("#32768") != nullptr; };
-        for (int i = 0; i < 4 && !menu(); ++i) { // X, late with the focus, takes a menu away now and then
-            PostMessageA(calendar, WM_RBUTTONDOWN, 0, MAKELPARAM(day.x, day.y));
-            Wait_Until(menu, 2000);
-        }
-        if (!menu())
+        if (!program.Open_Menu(Middle(program.Items(ROLE_SYSTEM_CELL).at(0).place)))
             return -1;
         for (int i = 0; i < 2; ++i)
             PostMessageA(calendar, WM_KEYDOWN, VK_UP, 1);
@@ -91,7 +84,6 @@ protected:
 TEST_F(Dialogs, Open_And_Turn) {
     Set_Setting("Settings", "Show Alerts", "0");
     const Program &program = Start_Calendar();
-    Send_Mouse({GetSystemMetrics(SM_CXSCREEN) - 2, 2}, 0); // menus open away from it
     std::vector<double> openings[pages], turns[pages], empty;
     RECT client{};
     for (int round = 0; round < rounds; ++round) {

@@ -25,12 +25,8 @@ TEST_F(Desktop_Test, Every_Control_Of_The_Settings_Has_A_Name_And_The_Painted_On
     Set_Setting("Settings", "Show Alerts", "0");
     Set_Setting("Colours", "Menu Colour Source", "0");
     const Program &program = Start_Calendar();
-    program.Click(program.Named("Wednesday 12th May 2027, today").place, MOUSEEVENTF_RIGHTDOWN);
-    ASSERT_TRUE(Wait_Until([&] { return program.Window("#32768") != nullptr; }));
-    program.Choose({VK_UP, VK_UP, VK_RETURN});
-    const auto dialog = [&] { return program.Window("Vellatro_Settings_Frm"); };
-    ASSERT_TRUE(Wait_Until([&] { return dialog() != nullptr; }));
-    const HWND tabs = FindWindowExW(dialog(), nullptr, WC_TABCONTROLW, nullptr);
+    const HWND dialog = program.Open_Settings();
+    const HWND tabs = FindWindowExW(dialog, nullptr, WC_TABCONTROLW, nullptr);
     EXPECT_EQ(Item_Of(tabs).name, "Settings pages");
 
     const struct {
@@ -54,8 +50,7 @@ TEST_F(Desktop_Test, Every_Control_Of_The_Settings_Has_A_Name_And_The_Painted_On
             Wait_Until(shows, 2000);
         }
         ASSERT_TRUE(shows()) << page;
-        for (HWND control = GetWindow(dialog(), GW_CHILD); control;
-             control = GetWindow(control, GW_HWNDNEXT)) {
+        for (HWND control = GetWindow(dialog, GW_CHILD); control; control = GetWindow(control, GW_HWNDNEXT)) {
             if (!IsWindowVisible(control) || (GetWindowLongW(control, GWL_STYLE) & WS_TABSTOP) == 0)
                 continue;
             EXPECT_NE(Name_Of(control), "") << "page " << page << ", control " << GetDlgCtrlID(control);

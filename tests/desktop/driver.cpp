@@ -14,14 +14,16 @@
 
 namespace {
 
-/// All windows below `parent` at any depth; without a parent all windows.
+BOOL CALLBACK Add_Window(HWND window, LPARAM list) {
+    reinterpret_cast<std::vector<HWND> *>(list)->push_back(window);
+    return TRUE;
+}
+
+/// All windows below `parent` at any depth, each before those in it; without a parent all windows. Asked for
+/// at once: a walk from window to window ends early when the one that it is at goes away.
 std::vector<HWND> Windows_Below(HWND parent) {
     std::vector<HWND> windows;
-    for (HWND window = nullptr; (window = FindWindowExW(parent, window, nullptr, nullptr)) != nullptr;) {
-        windows.push_back(window);
-        for (const HWND child : Windows_Below(window))
-            windows.push_back(child);
-    }
+    EnumChildWindows(parent ? parent : GetDesktopWindow(), Add_Window, reinterpret_cast<LPARAM>(&windows));
     return windows;
 }
 
@@ -356,4 +358,22 @@ std::ptrdiff_t Program::Windows(bool only_visible) const {
     return std::count_if(all.begin(), all.end(), [&](HWND window) {
         return Process_Of(window) == id_ && (!only_visible || IsWindowVisible(window));
     });
+}
+
+std::ptrdiff_t Program::Handles() const {
+    // Wine answers GetProcessHandleCount with 0.
+    struct Entry {
+        ULONG process;
+        BYTE type, flags;
+        USHORT value;
+        void *object;
+        ULONG access;
+    };
+    std::vector<ULONG_PTR> bytes(0x40000);
+    if (NtQuerySystemInformation(static_cast<SYSTEM_INFORMATION_CLASS>(16), bytes.data(),
+                                 static_cast<ULONG>(bytes.size() * sizeof bytes[0]), nullptr) != 0)
+        return -1;
+    const auto *entries = reinterpret_cast<const Entry *>(&bytes[1]);
+    return std::count_if(entries, entries + *reinterpret_cast<const ULONG *>(bytes.data()),
+                         [this](const Entry &entry) { return entry.process == id_; });
 }

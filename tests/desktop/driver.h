@@ -98,14 +98,18 @@ public:
     /// In the middle, with the left button, MOUSEEVENTF_LEFTDOWN, or another.
     void Click(const RECT &place, DWORD button = MOUSEEVENTF_LEFTDOWN, int times = 1) const;
     void Double_Click(std::string_view item) const { Click(Named(item).place, MOUSEEVENTF_LEFTDOWN, 2); }
-    void Choose(std::initializer_list<WORD> keys) const; ///< presses them in the menu, which then goes away
-    HWND Open_Settings() const;                          ///< by the menu of a day, with the keyboard
-    void Press(WORD key, bool with_alt = false) const;   ///< makes the calendar the active window first
+    /// Opens the menu of that place by a message, while the mouse is out of the menu's way: a release over it
+    /// would choose an item. False: no menu comes.
+    bool Open_Menu(POINT place) const;
+    void Choose(const std::vector<WORD> &keys) const;  ///< presses them in the menu, which then goes away
+    HWND Open_Settings() const;                        ///< by the menu of a day
+    void Press(WORD key, bool with_alt = false) const; ///< makes the calendar the active window first
 
     long Processor_Ticks() const;       ///< hundredths of a second since its start; -1: not to be had
     long Private_Memory() const;        ///< KB; -1: not to be had
     std::ptrdiff_t Gdi_Objects() const; ///< -1: not to be had
     std::ptrdiff_t Windows(bool only_visible) const;
+    std::ptrdiff_t Handles() const; ///< of the kernel; -1: not to be had
 
 private:
     /// What the host tells of the process in the file of that name; empty when it does not.

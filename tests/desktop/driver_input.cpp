@@ -110,13 +110,13 @@ bool Program::Uncover(POINT point) const {
     return Wait_Until([&] {
         DWORD_PTR answer = 0; // which comes after what X has told the stand-in
         SendMessageTimeoutW(standin, WM_NULL, 0, 0, SMTO_NORMAL, 2000, &answer);
-        if (GetAncestor(calendar, GA_PARENT) == standin) {
+        if (GetAncestor(calendar, GA_PARENT) == standin)
             SetParent(calendar, FindWindowExA(standin, nullptr, "SHELLDLL_DefView", nullptr));
-            InvalidateRect(calendar, nullptr, FALSE); // what it paints during the move is lost now and then
-        }
         if (Picture().At(point.x, point.y) != Bare_Screen->At(point.x, point.y) &&
             WindowFromPoint(point) == calendar)
             return true;
+        // What it paints during the move, and right after it, is lost now and then.
+        InvalidateRect(calendar, nullptr, FALSE);
         if (GetAncestor(calendar, GA_PARENT) == GetDesktopWindow())
             Raise(calendar);
         return false;
@@ -131,22 +131,33 @@ void Program::Click(const RECT &place, DWORD button, int times) const {
     }
 }
 
-void Program::Choose(std::initializer_list<WORD> keys) const {
+bool Program::Open_Menu(POINT place) const {
+    const HWND calendar = Calendar();
+    Send_Mouse({GetSystemMetrics(SM_CXSCREEN) - 2, 2}, 0); // the menu opens at the mouse
+    ScreenToClient(calendar, &place);
+    PostMessageW(calendar, WM_RBUTTONDOWN, 0, MAKELPARAM(place.x, place.y));
+    return Wait_Until([this] { return Window("#32768") != nullptr; });
+}
+
+void Program::Choose(const std::vector<WORD> &keys) const {
     ASSERT_TRUE(Wait_Until([this] { return Window("#32768") != nullptr; })) << "no menu";
+    // The menu takes them from any of its program's windows. This one has no other use for them: X, late with
+    // the focus, takes a menu away now and then.
     for (const WORD key : keys)
-        Send_Key(key);
+        PostMessageW(FindWindowA("Vellatro_Broadcasts", nullptr), WM_KEYDOWN, key, 1);
     EXPECT_TRUE(Wait_Until([this] { return Window("#32768") == nullptr; })) << "the menu stays";
 }
 
 HWND Program::Open_Settings() const {
-    Click(Items(ROLE_SYSTEM_CELL).at(0).place, MOUSEEVENTF_RIGHTDOWN);
-    EXPECT_TRUE(Wait_Until([this] { return Window("#32768") != nullptr; }));
-    Choose({VK_UP, VK_UP, VK_RETURN});
     HWND dialog = nullptr;
-    EXPECT_TRUE(Wait_Until([&] {
-        dialog = Window("Vellatro_Settings_Frm");
-        return dialog && dialog == GetForegroundWindow();
-    })) << "no settings";
+    for (int i = 0; i < 3 && !dialog; ++i) {
+        std::vector<Item> days;
+        EXPECT_TRUE(Wait_Until([&] { return !(days = Items(ROLE_SYSTEM_CELL)).empty(); }));
+        if (!days.empty() && Open_Menu(Middle(days[0].place)))
+            Choose({VK_UP, VK_UP, VK_RETURN});
+        Wait_Until([&] { return (dialog = Window("Vellatro_Settings_Frm")) != nullptr; });
+    }
+    EXPECT_TRUE(Wait_Until([&] { return dialog && dialog == GetForegroundWindow(); })) << "no settings";
     return dialog;
 }
 

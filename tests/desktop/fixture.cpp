@@ -140,11 +140,8 @@ Program &Desktop_Test::Start_Calendar() {
     EXPECT_TRUE(Wait_Until([&] { return !program.Items().empty() || !program.Box().empty(); }, 15000));
     EXPECT_EQ(program.Box(), "");
     EXPECT_TRUE(Wait_Until([&] { return program.Windows(true) == 1; })) << "the splash window stays";
-    // Now and then the window system, or the calendar's answer, needs a second try.
-    EXPECT_TRUE(Wait_Until([&] {
-        const RECT title = program.Named(program.Title()).place;
-        return program.Uncover({title.left, title.top});
-    })) << "the title is not seen";
+    const RECT title = program.Named(program.Title()).place;
+    EXPECT_TRUE(program.Uncover({title.left, title.top})) << "the title is not seen";
     return program;
 }
 

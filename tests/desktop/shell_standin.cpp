@@ -100,13 +100,14 @@ void Paint_Hung_Up(SIZE size) {
     DeleteObject(picture);
 }
 
-// The screen's size changes in tests; all windows start in its upper left corner.
+// The screen's size changes in tests; all windows start in its upper left corner. No bits are copied: Wine
+// waits for ever for the X server's answer to that, now and then.
 void Fill_Screen(SIZE size) {
     Paint_Wallpaper(size);
     Paint_Hung_Up(size);
     for (const HWND window : {Shell_Window, View_Window, List_Window})
         if (window)
-            SetWindowPos(window, HWND_BOTTOM, 0, 0, size.cx, size.cy, SWP_NOACTIVATE);
+            SetWindowPos(window, HWND_BOTTOM, 0, 0, size.cx, size.cy, SWP_NOACTIVATE | SWP_NOCOPYBITS);
     if (List_Window)
         SendMessageA(List_Window, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(Picture_Dc), PRF_CLIENT);
     RedrawWindow(Shell_Window, nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);

@@ -5,6 +5,8 @@
 
 #include <oleacc.h>
 
+#include <tuple>
+
 namespace {
 
 using Time = Desktop_Test;
@@ -76,25 +78,95 @@ TEST_F(Time, Rests_While_Nothing_Happens) {
     CloseHandle(held);
 }
 
-TEST_F(Time, Leaks_Nothing) {
-    Write_Data("\"1/5/9999=May\"\r\n\"1/6/9999=June\"\r\n\"30/6/9999=A longer text in June\"\r\n");
-    const Program &program = Start_Calendar();
-    const auto round = [&] { // two months ahead and back
-        for (const char *title : {"July - 2027", "12th May - 2027"}) {
-            for (int i = 0; i < 2; ++i)
-                program.Do_Default(*title == 'J' ? "Next month" : "Previous month");
-            ASSERT_TRUE(Becomes(std::string(title), [&] { return program.Title(); }));
-        }
+/// What can be open while time goes on, and how a user opens and closes it.
+class Opened : public Desktop_Test {
+protected:
+    struct Row {
+        const char *window;
+        std::function<void()> open, close;
     };
-    round();
-    round();
-    const std::ptrdiff_t gdi_objects = program.Gdi_Objects();
-    const std::ptrdiff_t windows = program.Windows(false);
-    ASSERT_GT(gdi_objects, 0);
-    for (int i = 0; i < 15; ++i)
-        round();
-    EXPECT_TRUE(Becomes(gdi_objects, [&] { return program.Gdi_Objects(); }));
-    EXPECT_TRUE(Becomes(windows, [&] { return program.Windows(false); }));
+    void SetUp() override {
+        Desktop_Test::SetUp();
+        Write_Data("\"8/5/2027=Held\"\r\n");
+        Set_Setting("Settings", "Tooltips", "2");
+        program_ = &Start_Calendar();
+        day_ = Middle(program_->Named(saturday).place);
+    }
+    /// There is the text that was typed, which goes into its own day.
+    void Save_Typed() {
+        EXPECT_EQ(Text_Of(GetDlgItem(program_->Window("Vellatro_Edit_Frm"), 102)), "HeldUnsaved");
+        PostMessageW(GetDlgItem(program_->Window("Vellatro_Edit_Frm"), 104), BM_CLICK, 0, 0);
+        EXPECT_TRUE(Becomes(std::string("\"8/5/2027=HeldUnsaved\"\r\n"), [this] { return Data(); }));
+        Write_Data("\"8/5/2027=Held\"\r\n");
+    }
+
+    static constexpr const char *saturday = "Saturday 8th May 2027";
+    const Program *program_ = nullptr;
+    POINT day_{};
+    const Row rows_[4] = {
+        {"#32768", [this] { program_->Open_Menu(day_); }, [this] { program_->Choose({VK_ESCAPE}); }},
+        {"Vellatro_Balloon", [this] { Send_Mouse(day_, MOUSEEVENTF_LEFTDOWN); },
+         [this] { Send_Mouse(day_, MOUSEEVENTF_LEFTUP); }},
+        {"Vellatro_Settings_Frm", [this] { program_->Open_Settings(); },
+         [this] { PostMessageW(program_->Window("Vellatro_Settings_Frm"), WM_CLOSE, 0, 0); }},
+        {"Vellatro_Edit_Frm",
+         [this] {
+             program_->Do_Default(saturday);
+             const auto text = [this] { return GetDlgItem(program_->Window("Vellatro_Edit_Frm"), 102); };
+             EXPECT_TRUE(Wait_Until([&] { return Has_Keyboard(text()); }));
+             for (const char letter : std::string("Unsaved"))
+                 PostMessageW(text(), WM_CHAR, static_cast<WPARAM>(letter), 1);
+             EXPECT_TRUE(Becomes(std::string("HeldUnsaved"), [&] { return Text_Of(text()); }));
+         },
+         [this] { Save_Typed(); }}};
+};
+
+TEST_F(Opened, Leaves_Nothing_Behind) {
+    const auto held = [this] {
+        return std::tuple(program_->Gdi_Objects(), program_->Windows(false), program_->Handles());
+    };
+    decltype(held()) before;
+    for (int round = 0; round < 20; ++round) {
+        if (round == 3) // what is made once and kept is there
+            before = held();
+        for (const Row &row : rows_) {
+            program_->Uncover(day_);
+            row.open();
+            ASSERT_TRUE(Wait_Until([&] { return program_->Window(row.window) != nullptr; })) << row.window;
+            row.close();
+            ASSERT_TRUE(Wait_Until([&] { return program_->Windows(true) == 1; })) << row.window;
+        }
+        for (const char *title : {"June - 2027", "12th May - 2027"}) {
+            program_->Do_Default(*title == 'J' ? "Next month" : "Previous month");
+            ASSERT_TRUE(Becomes(std::string(title), [this] { return program_->Title(); }));
+        }
+    }
+    EXPECT_TRUE(Becomes(before, held));
+}
+
+TEST_F(Opened, Bears_Jumps_Of_The_Clock) {
+    const struct {
+        WORD year, month, day;
+        const char *title;
+        std::size_t days;
+    } jumps[] = {{2027, 5, 13, "13th May - 2027", 31},
+                 {2028, 2, 13, "13th February - 2028", 29},
+                 {2026, 12, 31, "31st December - 2026", 31},
+                 {2027, 5, 12, "12th May - 2027", 31}};
+    for (const Row &row : rows_) {
+        SCOPED_TRACE(row.window);
+        program_->Uncover(day_);
+        row.open();
+        ASSERT_TRUE(Wait_Until([&] { return program_->Window(row.window) != nullptr; }));
+        for (const auto &[year, month, day, title, days] : jumps) {
+            Set_Clock(year, month, day, 12, 0, 0);
+            ASSERT_TRUE(Becomes(std::string(title), [this] { return program_->Title(); }));
+            EXPECT_TRUE(Becomes(days, [this] { return program_->Items(ROLE_SYSTEM_CELL).size(); }));
+        }
+        row.close();
+        ASSERT_TRUE(Wait_Until([&] { return program_->Windows(true) == 1; }));
+        EXPECT_EQ(program_->Named(saturday).value.substr(0, 4), "Held");
+    }
 }
 
 } // namespace

@@ -21,10 +21,7 @@ protected:
         Set_Setting("Settings", "Settings Tab", "7");
         Set_Setting("Settings", "Show Alerts", "0");
         program_ = &Start_Calendar();
-        program_->Click(program_->Named("Wednesday 12th May 2027, today").place, MOUSEEVENTF_RIGHTDOWN);
-        ASSERT_TRUE(Wait_Until([&] { return program_->Window("#32768") != nullptr; }));
-        program_->Choose({VK_UP, VK_UP, VK_RETURN});
-        ASSERT_TRUE(Wait_Until([&] { return program_->Window("Vellatro_Settings_Frm") != nullptr; }));
+        program_->Open_Settings();
     }
 
     /// Presses the button of an access key, and names a file in the dialog of that title; without a name it
@@ -52,7 +49,7 @@ protected:
     /// Answers the box whose text begins so.
     void Answer(const std::string &box, WORD button = IDOK) const {
         ASSERT_TRUE(Becomes(
-            box, [&] { return program_->Box().substr(0, box.size()); }, 15000));
+            box, [&] { return program_->Box().substr(0, box.size()); }, 120'000));
         program_->Answer(button);
     }
     /// No box follows, and the page can be used again.

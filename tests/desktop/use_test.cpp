@@ -39,8 +39,7 @@ protected:
     }
 };
 
-TEST_F(Use, Function_Keys) {
-    Write_Data("\"12/5/9999=Every year\"\r\n");
+TEST_F(Use, Function_Keys_And_Arrows) {
     Set_Setting("Settings", "Show Alerts", "0");
     Set_Setting("Settings", "Use Theme Style", "1");
     const Program &program = Start_Calendar();
@@ -49,9 +48,6 @@ TEST_F(Use, Function_Keys) {
         return place.bottom - place.top;
     };
     const auto box = [&] { return program.Box(); };
-    program.Press(VK_F1);
-    ASSERT_TRUE(Becomes(std::string("[Vellatro] Today: 5/12/2027\r\nEvery year"), box));
-    program.Answer();
     const std::pair<WORD, const char *> steps[] = {{VK_F4, "June - 2027"},
                                                    {VK_F2, "12th May - 2027"},
                                                    {VK_F2, "April - 2027"},
@@ -65,6 +61,11 @@ TEST_F(Use, Function_Keys) {
         program.Press(key);
         EXPECT_TRUE(Becomes("Read by " + std::to_string(key),
                             [&] { return program.Named("Wednesday 12th May 2027, today").value; }));
+    }
+    for (const auto &[arrow, title] :
+         {std::pair("Next month", "June - 2027"), {"Previous month", "12th May - 2027"}}) {
+        program.Click(program.Named(arrow).place);
+        ASSERT_TRUE(Shows(program, title));
     }
     const std::string question = "[Vellatro] You can't change the box style because Use Theme Style is "
                                  "selected. Do you want to turn off Use Theme Style?";
@@ -89,42 +90,37 @@ TEST_F(Use, Function_Keys) {
 TEST_F(Use, Every_Item_Of_The_Menus) {
     Write_Data("\"5/5/2027=Cleared\"\r\n\"6/5/2027=Kept\"\r\n");
     const Program &program = Start_Calendar();
-    const char *months[] = {"January", "February", "March",     "April",   "12th May", "June",
-                            "July",    "August",   "September", "October", "November", "December"};
-    for (int i = 0; i < 12; ++i) {
+    for (const auto &[item, title] :
+         {std::pair(0, "January - 2027"), {4, "12th May - 2027"}, {11, "December - 2027"}}) {
         program.Click(Half(program, false), right_button);
-        Click_In_Menu(program, i, 12);
-        ASSERT_TRUE(Shows(program, std::string(months[i]) + " - 2027"));
+        Click_In_Menu(program, item, 12);
+        ASSERT_TRUE(Shows(program, title));
     }
     // From December 2027; each row goes on from the one before, by one item more each time.
-    const char *titles[] = {"December - 2025", "December - 2024", "12th May - 2027", "May - 2028",
-                            "May - 2030"};
-    for (int i = 0; i < 5; ++i) {
-        program.Click(Half(program, true), right_button);
-        ASSERT_TRUE(Wait_Until([&] { return program.Window("#32768") != nullptr; }));
-        for (int down = 0; down < i; ++down)
-            Send_Key(VK_DOWN);
-        program.Choose({VK_DOWN, VK_RETURN});
-        ASSERT_TRUE(Shows(program, titles[i]));
+    std::vector<WORD> keys{VK_RETURN};
+    for (const char *title :
+         {"December - 2025", "December - 2024", "12th May - 2027", "May - 2028", "May - 2030"}) {
+        program.Open_Menu(Middle(Half(program, true)));
+        keys.insert(keys.begin(), VK_DOWN);
+        program.Choose(keys);
+        ASSERT_TRUE(Shows(program, title));
     }
     program.Press(VK_HOME);
     ASSERT_TRUE(Shows(program, "12th May - 2027"));
     const auto open = [&](const char *day) { program.Click(program.Named(day).place, right_button); };
-    open("Wednesday 5th May 2027");
-    program.Choose({VK_ESCAPE});
-    EXPECT_EQ(Data(), "\"5/5/2027=Cleared\"\r\n\"6/5/2027=Kept\"\r\n");
-    open("Wednesday 5th May 2027");
-    program.Choose({VK_DOWN, VK_RETURN});
-    EXPECT_TRUE(Becomes(std::string("\"6/5/2027=Kept\"\r\n"), [&] { return Data(); }));
+    const std::string kept = "\"6/5/2027=Kept\"\r\n";
+    for (const auto &[key, data] : {std::pair<WORD, std::string>{VK_ESCAPE, Data()}, {VK_RETURN, kept}}) {
+        open("Wednesday 5th May 2027");
+        program.Choose({VK_DOWN, key});
+        EXPECT_TRUE(Becomes(data, [&] { return Data(); }));
+    }
     EXPECT_EQ(program.Named("Wednesday 5th May 2027").value, "");
-    const std::pair<const char *, std::vector<WORD>> dialogs[] = {{"Vellatro_Edit_Frm", {VK_DOWN, VK_DOWN}},
-                                                                  {"Vellatro_Settings_Frm", {VK_UP, VK_UP}}};
-    for (const auto &[dialog, keys] : dialogs) {
+    const std::pair<const char *, std::vector<WORD>> dialogs[] = {
+        {"Vellatro_Edit_Frm", {VK_DOWN, VK_DOWN, VK_RETURN}},
+        {"Vellatro_Settings_Frm", {VK_UP, VK_UP, VK_RETURN}}};
+    for (const auto &[dialog, picks] : dialogs) {
         open("Sunday 2nd May 2027");
-        ASSERT_TRUE(Wait_Until([&] { return program.Window("#32768") != nullptr; }));
-        for (const WORD key : keys)
-            Send_Key(key);
-        program.Choose({VK_RETURN});
+        program.Choose(picks);
         ASSERT_TRUE(Wait_Until([&, name = dialog] {
             const HWND window = program.Window(name);
             return window && window == GetForegroundWindow();
