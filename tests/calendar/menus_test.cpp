@@ -6,7 +6,7 @@ using platform::Input_Kind;
 
 namespace {
 
-const std::vector<std::string> day_menu{"Clear", "Edit", "(Settings)", "Exit"};
+constexpr const char *day_menu = "Clear|Edit|(Settings)|Exit";
 
 class Menus : public Calendar_Test {
 protected:
@@ -17,9 +17,11 @@ protected:
         Desktop().expected_menus.push_back({day_menu, item, meanwhile});
         Click(form, Box_Of(day), platform::Mouse_Button::Right);
     }
-    void Choose_On_Title(int right, const std::vector<std::string> &items, int item) {
-        Desktop().expected_menus.push_back({items, item, nullptr});
-        Send(Input_Kind::Mouse_Down, {form.Width() / 2 + right, 90}, platform::Mouse_Button::Right);
+    void Choose_On_Title(int right, const std::string &items, int item) {
+        Desktop().expected_menus.push_back({items, item});
+        Input(form, {.kind = Input_Kind::Mouse_Down,
+                     .point = {form.Width() / 2 + right, 90},
+                     .button = platform::Mouse_Button::Right});
     }
     /// The marked day, 0: none is seen.
     std::int16_t Marked() {
@@ -46,37 +48,32 @@ TEST_F(Menus, of_a_day) {
         Choose(1, 4);
         EXPECT_EQ(Desktop().loop_ended, may_end);
     }
-}
-
-TEST_F(Menus, an_item_chosen_after_the_month_changed_under_the_menu_does_nothing_to_another_day) {
-    // Pairs of days that are in the same box.
+    // An item chosen after the month changed under the menu does nothing to another day in the same box.
+    edited.clear();
+    Show_Month(3, 2002);
     Events({"20/3/2002=a", "24/4/2002=b", "20/4/2002=c", "16/3/2002=d"});
-    Start();
     for (const int item : {1, 1, 2, 2})
         Choose(20, item, [] {
             Fakes().now.month = Fakes().now.month == 3 ? 4 : 3;
             Desktop().Advance(1000);
         });
-    EXPECT_EQ(Fakes().writes, 0);
-    EXPECT_TRUE(edited.empty());
+    EXPECT_TRUE(Fakes().writes == 1 && edited.empty());
 }
 
 TEST_F(Menus, of_the_title) {
-    const std::string now = "Current Month\\Year";
     struct {
         std::int16_t year;
-        std::vector<std::string> items;
+        const char *items;
         int answer;
-        std::string title;
+        const char *title;
     } const rows[] = {
-        {2002, {"2000", "2001", now, "2003", "2004"}, 1, "December - 2000"},
-        {1990, {"1988", "1989", now, "1991", "1992"}, 3, "5th March - 2002"},
-        {100, {now, "101", "102"}, 4, "December - 101"},
-        {9997, {"9995", "9996", now, "9998"}, 4, "December - 9998"},
+        {2002, "2000|2001|Current Month\\Year|2003|2004", 1, "December - 2000"},
+        {1990, "1988|1989|Current Month\\Year|1991|1992", 3, "5th March - 2002"},
+        {100, "Current Month\\Year|101|102", 4, "December - 101"},
+        {9997, "9995|9996|Current Month\\Year|9998", 4, "December - 9998"},
     };
     Start();
-    Choose_On_Title(
-        -1, {"Jan", "Feb", "- Mar", "Apr", "May", "Jun", "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"}, 12);
+    Choose_On_Title(-1, "Jan|Feb|- Mar|Apr|May|Jun|Jul|Aug|Sep|Oct|Nov|Dec", 12);
     EXPECT_EQ(form.Which_Month_Lbl.Caption(), "December - 2002");
     for (const auto &row : rows) {
         Show_Month(12, row.year);
@@ -84,10 +81,10 @@ TEST_F(Menus, of_the_title) {
         EXPECT_EQ(form.Which_Month_Lbl.Caption(), row.title);
     }
     Double_Click(form, form.Which_Month_Lbl);
-    Choose_On_Title(-1, {"Expand"}, 0);
-    EXPECT_TRUE(form.Compacted);
-    Choose_On_Title(1, {"Expand"}, 1);
-    EXPECT_FALSE(form.Compacted);
+    for (const int answer : {0, 1}) {
+        Choose_On_Title(2 * answer - 1, "Expand", answer);
+        EXPECT_EQ(form.Compacted, answer == 0);
+    }
 }
 
 TEST_F(Menus, f8_steps_to_the_other_style_once_the_theme_s_style_is_off) {
@@ -131,7 +128,7 @@ TEST_F(Menus, keys_move_the_mark_over_the_month_s_edges) {
         EXPECT_EQ(Date_Key({form.Cur_Year, form.Cur_Month, Marked()}), Date_Key(row.to));
         EXPECT_EQ(form.Model().focused, Box_Of(row.to.day).State().index);
     }
-    Send(Input_Kind::Focus_Changed); // lost
+    Input(form, {.kind = Input_Kind::Focus_Changed}); // lost
     EXPECT_EQ(Marked(), 0);
 }
 
@@ -141,22 +138,16 @@ TEST_F(Menus, keys_act_on_the_marked_day_when_they_went_down_here) {
     Start();
     Press_Key(form, 46); // a mark that is not seen yet only appears
     Press_Key(form, 13);
-    platform::Input_Event up{}; // of a key that closed a message box
-    up.kind = Input_Kind::Key_Up;
-    up.key = 46;
-    form.Input(up);
+    Input(form, {.kind = Input_Kind::Key_Up, .key = 46}); // of a key that closed a message box
     EXPECT_EQ(Text_Of(5), "text");
-    Desktop().expected_menus.push_back({day_menu, 0, nullptr});
+    Desktop().expected_menus = {{day_menu, 0}, {"Expand", 1}};
     Press_Key(form, 93);
     EXPECT_EQ(form.Control_At(*Desktop().menu_at), &form.Box_Caption_Lbl[9]);
     Press_Key(form, 46);
     EXPECT_EQ(Text_Of(5) + Data_File(), "");
-    Press_Key(form, 123); // compact
-    Press_Key(form, 13);
-    EXPECT_EQ(edited, std::vector<int>{9});
-    Desktop().expected_menus.push_back({{"Expand"}, 1, nullptr});
-    Press_Key(form, 93);
-    EXPECT_EQ(Marked(), 5);
+    for (const int key : {123, 13, 93}) // compact, and out of it
+        Press_Key(form, key);
+    EXPECT_TRUE(edited == std::vector<int>{9} && Marked() == 5);
 }
 
 } // namespace

@@ -38,14 +38,8 @@ struct Test_Form : Form {
         label.On_Double_Click = [this, &label] { log += label.Name() + " double; "; };
     }
 
-    void Send(Input_Kind kind, int x, Mouse_Button button = Mouse_Button::Left, int control = -1) {
-        platform::Input_Event event{};
-        event.kind = kind;
-        event.point = {x, 10};
-        event.button = button;
-        event.control = control;
-        event.text = "one\r\ntwo\nthree";
-        Input(event);
+    void Send(Input_Kind kind, int x, Mouse_Button button = Mouse_Button::Left) {
+        Input({.kind = kind, .point = {x, 10}, .button = button});
     }
 
     std::string Taken() { return std::exchange(log, {}); }
@@ -95,7 +89,7 @@ TEST_F(Form_Test, hidden_controls_are_looked_through_and_disabled_ones_take_noth
     form.Ok_Btn.Set_Enabled(false);
     form.Send(Input_Kind::Mouse_Down, 60);
     form.Send(Input_Kind::Mouse_Up, 60);
-    form.Send(Input_Kind::Clicked, 0, Mouse_Button::Left, form.Ok_Btn.State().index);
+    Push(form, form.Ok_Btn);
     EXPECT_EQ(form.Taken(), "Low move 60; ");
 }
 
@@ -105,7 +99,7 @@ TEST_F(Form_Test, the_mirror_is_told_of_the_program_s_changes_only_and_only_whil
     form.Show();
     EXPECT_FALSE(Desktop().mirrors.at(&form.Model()).shown_unclipped);
     Desktop().told.clear();
-    form.Send(Input_Kind::Text_Changed, 0, Mouse_Button::Left, form.Text_Txt.State().index);
+    Enter_Text(form, form.Text_Txt, "one\r\ntwo\nthree");
     for (int repeated = 0; repeated < 2; ++repeated) {
         form.Text_Txt.Set_Text("after");
         form.Low.Move({0, 0, 10, 10});

@@ -33,12 +33,8 @@ struct Dialog : Form {
 class List_Controls : public Form_Test {
 protected:
     void Mouse_Up_At(platform::Point point) {
-        platform::Input_Event event{};
-        event.kind = Input_Kind::Mouse_Up;
-        event.button = Mouse_Button::Left;
-        event.control = form.picture.State().index;
-        event.point = point;
-        form.Input(event);
+        Input(form, {.kind = Input_Kind::Mouse_Up, .point = point, .button = Mouse_Button::Left},
+              &form.picture);
     }
     Dialog form;
 };
@@ -125,7 +121,7 @@ TEST_F(List_Controls, a_blocked_form_takes_nothing_but_what_the_system_says) {
         Click(blocked, blocked.picture);
         Press_Key(blocked, 13);
         for (const Input_Kind kind : {Input_Kind::Dots_Changed, Input_Kind::Close})
-            Tell(blocked, kind);
+            Input(blocked, {.kind = kind});
         return heard;
     };
     blocked.Set_Blocked_By(&form);
