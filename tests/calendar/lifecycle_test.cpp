@@ -115,16 +115,6 @@ TEST_F(Lifecycle, what_happens_under_an_alert_holds_after_it) {
     });
     Start();
     EXPECT_EQ(Box_Of(6).Back_Colour(), Cur_Settings.Col_Today);
-
-    // While compact mode ends: the week begins on another day.
-    form.Which_Month_Lbl_DblClick();
-    form.Alert_Done = false;
-    Fakes().Expect_Box("Today: 6/3/2002\r\nnext day", platform::Box_Answer::Ok, [] {
-        Fakes().first_weekday = 1;
-        Desktop().Say(Broadcast::Settings_Changed);
-    });
-    form.Which_Month_Lbl_DblClick();
-    EXPECT_EQ(form.Day_Lbl[0].Caption() + Box_Of(6).Caption() + Text_Of(6), "Mon 6next day");
 }
 
 TEST_F(Lifecycle, ends_when_it_is_asked_to_and_when_the_session_is_over) {

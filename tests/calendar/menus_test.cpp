@@ -1,7 +1,6 @@
 // The popup menus, "Clear", the box style keys, and the keyboard's way over the days.
 #include "tests/calendar/calendar_test.h"
 
-using platform::Box_Answer;
 using platform::Input_Kind;
 
 namespace {
@@ -87,26 +86,6 @@ TEST_F(Menus, of_the_title) {
     }
 }
 
-TEST_F(Menus, f8_steps_to_the_other_style_once_the_theme_s_style_is_off) {
-    Events({"6/3/2002=a text of several words"});
-    Start();
-    for (const Box_Answer answer : {Box_Answer::No, Box_Answer::Cancel, Box_Answer::Yes}) {
-        EXPECT_EQ(Fakes().registry_writes, 0);
-        Fakes().Expect_Box("You can't change the box style because Use Theme Style is selected. Do you want "
-                           "to turn off Use Theme Style?",
-                           answer);
-        Press_Key(form, 119);
-    }
-    EXPECT_EQ(Stored("Use Theme Style") + Stored("Style"), "00");
-    // The window still stands on the work area's edge, and its region is that of the new boxes.
-    EXPECT_EQ(form.Top() + form.Box_Lbl[35].Bounds().Bottom(), 740 * 15 - 75);
-    EXPECT_EQ(Desktop().mirrors.at(&form.Model()).clip, Seen());
-    EXPECT_EQ(Text_Of(6).find('\n'), std::string::npos);
-    form.Move(300, 450); // dragged away, it stays there
-    Press_Key(form, 120);
-    EXPECT_EQ(form.Left() + form.Top(), 750);
-}
-
 TEST_F(Menus, keys_move_the_mark_over_the_month_s_edges) {
     struct {
         Date from;
@@ -127,6 +106,14 @@ TEST_F(Menus, keys_move_the_mark_over_the_month_s_edges) {
         Press_Key(form, row.key);
         EXPECT_EQ(Date_Key({form.Cur_Year, form.Cur_Month, Marked()}), Date_Key(row.to));
         EXPECT_EQ(form.Model().focused, Box_Of(row.to.day).State().index);
+    }
+    Cur_Settings.Use_Theme_Style = 0;
+    for (const int key : {119, 120}) { // to the other style, and dragged away it stays there
+        EXPECT_EQ(form.Top() == 450, key == 120);
+        Press_Key(form, key);
+        EXPECT_EQ(Desktop().mirrors.at(&form.Model()).clip, Seen());
+        EXPECT_EQ(form.Top() + form.Box_Lbl[35].Bounds().Bottom() == 740 * 15 - 75, key == 119);
+        form.Move(300, 450);
     }
     Input(form, {.kind = Input_Kind::Focus_Changed}); // lost
     EXPECT_EQ(Marked(), 0);

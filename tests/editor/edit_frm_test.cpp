@@ -44,7 +44,6 @@ TEST_F(Editor, shows_and_saves_the_event_of_a_day) {
         std::string after;
     } const rows[] = {
         {"7/3/2002=b", "", false, "Dentist, a=b", false, "7/3/2002=b|5/3/2002=Dentist, a=b|"},
-        {"5/3/2002=A", "A", false, "", false, ""},
         {"5/3/2002=A", "A", false, "A", true, "5/3/9999=A|"},
         {"5/3/9999=B", "B", true, "C", false, "5/3/2002=C|"},
         {"5/3/2002=a\r\nb", "a b", false, "a b.", true, "5/3/9999=a b.|"},

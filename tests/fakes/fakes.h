@@ -50,8 +50,6 @@ struct Fake_System {
     int first_weekday = 0;
     std::array<std::string, 12> months{"January", "February", "March",     "April",   "May",      "June",
                                        "July",    "August",   "September", "October", "November", "December"};
-    std::array<std::string, 7> weekdays{"Sunday",   "Monday", "Tuesday", "Wednesday",
-                                        "Thursday", "Friday", "Saturday"};
     /// Of d, dd, m, mm, yy and yyyy; all else stands for itself.
     std::string short_date_pattern = "d/m/yyyy";
 
@@ -66,11 +64,8 @@ struct Fake_System {
     int loads = 0;                                                ///< calls of Load_Picture
     std::vector<std::string> wallpapers;                          ///< all that were set
 
-    /// Texts of HKEY_CURRENT_USER: key, "\" and value name to text.
+    /// Key, "\" and value name to text; of HKEY_LOCAL_MACHINE with "HKLM\" before.
     std::map<std::string, std::string, Name_Less> registry;
-    /// All other values, with the root's name and "\" before; and keys that are there without any.
-    std::map<std::string, platform::Registry_Value, Name_Less> other_values;
-    std::set<std::string, Name_Less> registry_keys{"HKCU\\Control Panel\\Desktop"};
     bool registry_refuses_writes = false;
     int registry_writes = 0; ///< calls of Write_User_Value, failed ones too
 

@@ -69,10 +69,12 @@ TEST_F(Settings_Window, opens_at_the_stored_tab_and_stores_the_last_one_however_
 TEST_F(Settings_Window, previews_the_title_without_touching_a_setting) {
     General_Page &page = Open(Settings_Frm::general_fra).General;
     const int writes = Fakes().registry_writes;
-    Choose(*dialog, page.Bar_Time_Cbo, 5); // without the time
-    EXPECT_EQ(page.Bar_Preview_Lbl.Caption(), "5th March - 2002");
-    Push(*dialog, page.Bar_Time_Chk, true);
-    EXPECT_EQ(page.Bar_Preview_Lbl.Caption(), "10:30:00 AM - 5th March - 2002");
+    for (const bool with_time : {false, true}) {
+        Push(*dialog, page.Bar_Time_Chk, with_time);
+        Choose(*dialog, page.Bar_Time_Cbo, 5);
+        EXPECT_EQ(page.Bar_Preview_Lbl.Caption(),
+                  with_time ? "10:30:00 AM - 5th March - 2002" : "5th March - 2002");
+    }
     Enter_Text(*dialog, page.Bar_Time_Cbo, "H.mm:ss");
     Enter_Text(*dialog, page.Bar_Date_Cbo, "no format");
     Fakes().now.second = 7;
@@ -93,46 +95,33 @@ TEST_F(Settings_Window, previews_the_title_without_touching_a_setting) {
 }
 
 TEST_F(Settings_Window, shows_the_example_balloon_while_the_left_button_is_held) {
-    const struct {
-        int kind;
-        Mouse_Button button;
-        bool shows;
-        std::function<void()> meanwhile;
-    } rows[] = {
-        {0, Mouse_Button::Left, false, nullptr},
-        {1, Mouse_Button::Left, false, nullptr},
-        {2, Mouse_Button::Right, false, nullptr},
-        {2, Mouse_Button::Left, true, nullptr},
-        {2, Mouse_Button::Left, false, [this] { Release(*dialog, dialog->Tooltips.TipExample_Lbl); }},
-        {2, Mouse_Button::Left, false,
-         [this] {
-             Push(*dialog, dialog->Cancel_Btn);
-             form.Open_Settings(); // must not put a new one into the place of one that still waits
-             EXPECT_FALSE(form.Settings_Visible());
-         }},
-    };
-    for (Label Tooltips_Page::*label : {&Tooltips_Page::TipExample_Lbl, &Tooltips_Page::TipBoxExample_Lbl})
-        for (const auto &row : rows) {
-            SCOPED_TRACE(&row - rows);
+    Label Tooltips_Page::*const examples[] = {&Tooltips_Page::TipExample_Lbl,
+                                              &Tooltips_Page::TipBoxExample_Lbl};
+    for (Label Tooltips_Page::*label : examples)
+        for (const int kind : {0, 1, 2}) {
             Tooltips_Page &now = Open(Settings_Frm::tooltips_fra).Tooltips;
-            Label &example = now.*label;
-            Push(*dialog, now.Tips_Opt[row.kind], true);
-            EXPECT_EQ(example.Tooltip(), row.kind == 1 ? "This is an example." : "");
-            if (row.meanwhile)
-                Desktop().messages.push_back(row.meanwhile);
-            Press(*dialog, example, row.button);
-            EXPECT_EQ(form.Balloon_Showing(), row.shows);
-            EXPECT_TRUE(!row.shows || form.Balloon.Title_Lbl.Caption() == "5/3/2002");
-            if (row.shows) { // and it goes with a dialog that the user moves
-                const int at = form.Balloon.Left();
-                Input(*dialog, {.kind = Input_Kind::Capture_Lost});
-                Input(*dialog, {.kind = Input_Kind::Moved, .point = {dialog->Left() - 900, dialog->Top()}});
-                Press(*dialog, example, row.button);
-                EXPECT_EQ(form.Balloon.Left(), at - 900);
-            }
-            Input(*dialog, {.kind = Input_Kind::Capture_Lost});
+            Push(*dialog, now.Tips_Opt[kind], true);
+            EXPECT_EQ((now.*label).Tooltip(), kind == 1 ? "This is an example." : "");
+            Press(*dialog, now.*label);
+            EXPECT_EQ(form.Balloon_Showing(), kind == 2);
+            Release(*dialog, now.*label);
             EXPECT_FALSE(form.Balloon_Showing());
         }
+    Label &example = dialog->Tooltips.TipExample_Lbl;
+    const int at = form.Balloon.Left();
+    Input(*dialog, {.kind = Input_Kind::Moved, .point = {dialog->Left() - 900, dialog->Top()}});
+    Press(*dialog, example);
+    EXPECT_EQ(form.Balloon.Left(), at - 900) << "it goes with a dialog that the user moves";
+    EXPECT_EQ(form.Balloon.Title_Lbl.Caption(), "5/3/2002");
+    Input(*dialog, {.kind = Input_Kind::Capture_Lost});
+    Press(*dialog, example, Mouse_Button::Right);
+    EXPECT_FALSE(form.Balloon_Showing());
+    Desktop().messages.push_back([this] {
+        Push(*dialog, dialog->Cancel_Btn);
+        form.Open_Settings(); // must not put a new one into the place of one that still waits
+    });
+    Press(*dialog, example);
+    EXPECT_FALSE(form.Balloon_Showing() || form.Settings_Visible());
 }
 
 TEST_F(Settings_Window, opens_the_authors_page_by_mouse_and_keyboard) {

@@ -78,17 +78,15 @@ TEST_F(Form_Test, the_mouse_goes_to_the_topmost_control_and_stays_with_it_until_
     Double_Click(form, form.Low);
     form.Send(Input_Kind::Double_Click, 20, Mouse_Button::Right);
     EXPECT_EQ(form.Taken(), "High down 0; High up 0; High double; High up 0; Low down 20; ");
-}
 
-TEST_F(Form_Test, hidden_controls_are_looked_through_and_disabled_ones_take_nothing) {
-    Test_Form form;
+    // Hidden controls are looked through, and disabled ones take nothing.
+    form.Send(Input_Kind::Capture_Lost, 0);
     form.High.Set_Visible(false);
     form.Send(Input_Kind::Mouse_Move, 60, Mouse_Button::None);
     form.High.Set_Visible(true);
     form.High.Set_Enabled(false);
     form.Ok_Btn.Set_Enabled(false);
-    form.Send(Input_Kind::Mouse_Down, 60);
-    form.Send(Input_Kind::Mouse_Up, 60);
+    Click(form, form.High);
     Push(form, form.Ok_Btn);
     EXPECT_EQ(form.Taken(), "Low move 60; ");
 }

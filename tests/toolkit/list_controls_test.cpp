@@ -84,27 +84,24 @@ TEST_F(List_Controls, hidden_and_disabled_frames_take_nothing_for_what_they_hold
         return form.heard;
     };
     EXPECT_EQ(use(), "third list picture ");
-    for (Frame *frame : {&form.outer, &form.inner}) {
-        frame->Set_Visible(false);
-        EXPECT_EQ(use(), "");
-        frame->Set_Visible(true);
-        frame->Set_Enabled(false);
-        EXPECT_EQ(use(), "");
-        frame->Set_Enabled(true);
-    }
+    for (Frame *frame : {&form.outer, &form.inner})
+        for (const bool hidden : {false, true}) {
+            frame->Set_Visible(!hidden);
+            frame->Set_Enabled(hidden);
+            EXPECT_EQ(use(), "");
+            frame->Set_Visible(true);
+            frame->Set_Enabled(true);
+        }
 }
 
 TEST_F(List_Controls, a_painted_control_is_clicked_where_it_is_released_inside) {
     for (const platform::Point point : {platform::Point{0, 0}, {299, 299}, {300, 10}, {-1, 10}}) {
-        form.heard.clear();
         Press(form, form.picture);
         Mouse_Up_At(point);
-        EXPECT_EQ(form.heard, point.x >= 0 && point.x < 300 ? "picture " : "") << point.x;
     }
-    form.heard.clear();
     Mouse_Up_At({10, 10}); // without its press
     Click(form, form.picture, Mouse_Button::Right);
-    EXPECT_EQ(form.heard, "");
+    EXPECT_EQ(form.heard, "picture picture ");
 }
 
 TEST_F(List_Controls, a_blocked_form_takes_nothing_but_what_the_system_says) {

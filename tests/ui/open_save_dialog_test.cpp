@@ -46,11 +46,7 @@ TEST_F(File_Dialogs, hand_the_properties_over_and_take_the_answers) {
     dialog.CancelError = true;
     EXPECT_THROW(Ask(&OpenSaveDialog::ShowSave, ""), Dialog_Cancelled);
     // Names are parted.
-    for (const auto &[name, expected] : std::map<std::string, std::string>{{"C:\\a\\b.txt", "C:\\a:b.txt:1"},
-                                                                           {"\\b", ":b:1"},
-                                                                           {"b", ":b:1"},
-                                                                           {"C:\\a\0b\0c"s, "C:\\a:b:c:2"},
-                                                                           {"C:\\a\0b\0"s, "C:\\a:b::2"}}) {
+    for (const auto &[name, expected] : {std::pair("\\b"s, ":b:1"), {"C:\\a\0b\0c"s, "C:\\a:b:c:2"}}) {
         dialog.FileName = name;
         std::string folder, found;
         std::vector<std::string> names;
