@@ -217,8 +217,6 @@ Point Mouse_Position() {
 
 int Track_Popup_Menu(Form_Model &, const std::vector<Menu_Item> &items, const Point *at) {
     Desktop().menu_at = at == nullptr ? std::nullopt : std::optional(*at);
-    if (Desktop().choose)
-        return Desktop().choose(items);
     std::string texts;
     for (const Menu_Item &item : items)
         texts += (texts.empty() ? "" : "|") + (item.enabled ? item.text : "(" + item.text + ")");
@@ -234,10 +232,6 @@ int Track_Popup_Menu(Form_Model &, const std::vector<Menu_Item> &items, const Po
 }
 
 void Run_Message_Loop() {
-    Desktop().loop_ended = false;
-    if (Desktop().in_the_loop)
-        Desktop().in_the_loop();
-    Require(Desktop().loop_ended, "the message loop never ends");
 }
 
 void End_Message_Loop() {

@@ -70,14 +70,11 @@ struct Fake_Desktop {
     unsigned time = 0;
     std::function<bool(platform::Broadcast)> listener;
     bool loop_ended = false;
-    std::function<void()> in_the_loop; ///< what happens while the message loop runs
-
     std::deque<std::function<void()>> messages; ///< processed one by one while the program waits
 
     std::deque<Expected_Menu> expected_menus;
-    std::function<int(const std::vector<platform::Menu_Item> &)> choose; ///< answers all menus instead
-    std::optional<platform::Point> menu_at;                              ///< where the last menu was to open
-    int measured = 0;                                                    ///< calls of Text_Width
+    std::optional<platform::Point> menu_at; ///< where the last menu was to open
+    int measured = 0;                       ///< calls of Text_Width
 
     /// Lets the time pass, with the timers' ticks in their order.
     void Advance(unsigned milliseconds);

@@ -185,7 +185,7 @@ void Delete_File(const std::string &path) {
 Date_Time Modified_Time(const std::string &path) {
     if (!File_Exists(path))
         throw File_Error(path + " is not there");
-    return Fakes().modified;
+    return {2002, 2, 1, 9, 5, 0, 0};
 }
 
 Picture Load_Picture(const std::string &path) {

@@ -74,9 +74,8 @@ struct Fake_System {
     bool any_box = false;         ///< unexpected boxes are no failure; they get the answer that changes least
 
     std::deque<Expected_Dialog> expected_dialogs;
-    platform::Date_Time modified{2002, 2, 1, 9, 5, 0, 0}; ///< when all files were written last
-    unsigned milliseconds = 0;                            ///< of the clock that only counts
-    unsigned clock_step = 0;                              ///< what each look at that clock adds to it
+    unsigned milliseconds = 0;      ///< of the clock that only counts
+    unsigned clock_step = 0;        ///< what each look at that clock adds to it
     std::function<void()> painting; ///< what happens when a long piece of work lets windows be painted
 
     std::function<void(const std::string &message)> on_failure; ///< takes what the fakes find wrong

@@ -58,18 +58,14 @@ TEST_F(Style, nine_places_are_chosen_by_mouse_and_keyboard) {
 }
 
 TEST_F(Style, the_settings_are_shown_also_odd_ones) {
-    struct {
-        std::int16_t style, alignment;
-        bool thin, is_manual;
-        std::int16_t set;
-    } const rows[] = {{0, 8, true, false, 8}, {1, 7, false, true, 0}, {5, 12, false, false, 0}};
-    for (const auto &row : rows) {
-        Cur_Settings.Style = row.style;
-        Cur_Settings.Alignment = row.alignment;
+    for (const std::int16_t alignment : std::initializer_list<std::int16_t>{8, 7, 12}) {
+        Cur_Settings.Alignment = alignment;
+        Cur_Settings.Style = alignment == 8 ? 0 : 5;
         page.Load_Settings();
-        EXPECT_TRUE(page.Style1_Opt.Checked() == row.thin && page.Style2_Opt.Checked() != row.thin);
-        EXPECT_EQ(page.Pos_Manual_Opt.Checked(), row.is_manual);
-        EXPECT_EQ(page.Get_Set_Position(), row.set);
+        EXPECT_TRUE(page.Style1_Opt.Checked() == (alignment == 8) &&
+                    page.Style2_Opt.Checked() != (alignment == 8));
+        EXPECT_EQ(page.Pos_Manual_Opt.Checked(), alignment == 7);
+        EXPECT_EQ(page.Get_Set_Position(), alignment == 8 ? 8 : 0);
     }
     for (Label *example : {&page.Example2_Lbl, &page.Example3_Lbl}) {
         Click(dialog, *example);

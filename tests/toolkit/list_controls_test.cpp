@@ -9,7 +9,7 @@ using platform::Mouse_Button;
 namespace {
 
 struct Dialog : Form {
-    explicit Dialog(platform::Form_Kind kind = platform::Form_Kind::Dialog) : Form(kind, "Dialog") {
+    Dialog() : Form(platform::Form_Kind::Dialog, "Dialog") {
         for (Control *control : std::initializer_list<Control *>{&inner, &second, &box})
             control->Set_Container(outer);
         for (Control *control : std::initializer_list<Control *>{&third, &fourth, &list, &picture})
@@ -39,23 +39,13 @@ protected:
     Dialog form;
 };
 
-TEST_F(List_Controls, options_exclude_each_other_in_their_frame_only) {
-    for (Option_Button *option : {&form.first, &form.second, &form.third})
-        option->Set_Checked(true);
-    EXPECT_EQ(form.heard, "");
-    Push(form, form.fourth, true);
-    EXPECT_EQ(form.heard, "fourth ");
-    EXPECT_TRUE(form.first.Checked() && form.second.Checked() && form.fourth.Checked());
-    EXPECT_FALSE(form.third.Checked());
-}
-
 TEST_F(List_Controls, a_combo_box_keeps_text_and_item_together) {
     for (const bool editable : {false, true}) {
         Dialog dialog;
         if (editable)
             dialog.box.Set_Editable();
         dialog.box.Set_Items({"a", "b", "c"});
-        const auto is = [&](const char *text, int selected) {
+        const auto is = [&](const std::string &text, int selected) {
             return dialog.box.Text() == text && dialog.box.Selected() == selected;
         };
         dialog.box.Set_Text("b");
@@ -102,29 +92,6 @@ TEST_F(List_Controls, a_painted_control_is_clicked_where_it_is_released_inside) 
     Mouse_Up_At({10, 10}); // without its press
     Click(form, form.picture, Mouse_Button::Right);
     EXPECT_EQ(form.heard, "picture picture ");
-}
-
-TEST_F(List_Controls, a_blocked_form_takes_nothing_but_what_the_system_says) {
-    form.Show();
-    Dialog blocked(platform::Form_Kind::Painted);
-    blocked.Show();
-    std::string &heard = blocked.heard;
-    blocked.picture.Move({0, 0, 300, 300});
-    blocked.On_Key_Down = [&](const platform::Input_Event &) { heard += "key "; };
-    blocked.On_Dots_Changed = [&] { heard += "dots "; };
-    blocked.On_Close = [&] { heard += "close "; };
-    const auto use = [&] {
-        heard.clear();
-        Click(blocked, blocked.picture);
-        Press_Key(blocked, 13);
-        for (const Input_Kind kind : {Input_Kind::Dots_Changed, Input_Kind::Close})
-            Input(blocked, {.kind = kind});
-        return heard;
-    };
-    blocked.Set_Blocked_By(&form);
-    EXPECT_EQ(use(), "dots close ");
-    blocked.Set_Blocked_By(nullptr);
-    EXPECT_EQ(use(), "picture key dots close ");
 }
 
 } // namespace

@@ -110,7 +110,7 @@ TEST_F(Importing, is_seen_while_it_takes_long_and_the_file_is_whole_then) {
     std::string bytes = Quoted(headings);
     constexpr int count = 2000;
     for (int i = 0; i < count; ++i)
-        bytes += "\"" + std::to_string(i) + "\",\"" + std::to_string(1 + i % 28) + "/3/2002\",\"x\"\r\n";
+        bytes += "\"0\",\"" + std::to_string(1 + i % 28) + "/3/2002\",\"x\"\r\n";
     File("C:\\in.csv") = bytes;
     Data_File() = "";
     Fakes().clock_step = 300;
@@ -120,11 +120,10 @@ TEST_F(Importing, is_seen_while_it_takes_long_and_the_file_is_whole_then) {
         EXPECT_TRUE(page.Progress_Bar1.Visible() && page.Progress_Lbl.Visible());
         EXPECT_EQ(dialog->Model().pointer, platform::Pointer_Shape::Hourglass);
         const std::string &data = Data_File();
-        const auto events = std::count(data.begin(), data.end(), 'x');
-        EXPECT_TRUE(data.empty() ||
-                    (data.ends_with("x\"\r\n") && (merged.empty() || events > merged.back())));
         if (data.empty())
             return;
+        const auto events = std::count(data.begin(), data.end(), 'x');
+        EXPECT_TRUE(data.ends_with("x\"\r\n") && (merged.empty() || events > merged.back()));
         merged.push_back(events);
         // The session ends, and the editor is asked.
         form.Events.Load_File();
@@ -135,7 +134,7 @@ TEST_F(Importing, is_seen_while_it_takes_long_and_the_file_is_whole_then) {
     EXPECT_EQ(std::count(Data_File().begin(), Data_File().end(), 'x'), count + 1);
     EXPECT_FALSE(page.Progress_Bar1.Visible());
     EXPECT_EQ(dialog->Model().pointer, platform::Pointer_Shape::Arrow);
-    EXPECT_TRUE(Text_Of(1).starts_with("0 - x + 28"));
+    EXPECT_TRUE(Text_Of(1).starts_with("0 - x + 0"));
 }
 
 TEST_F(Importing, takes_a_configuration_over_up_to_an_error) {
