@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Measures steps from month to month in the running program, under Wine on a display of its own, and tells the
-# medians. Installs what is missing.
+# Measures steps from month to month in the running program and openings of its settings dialog, under Wine on a
+# display of its own, and tells the medians. Installs what is missing.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 for part in common packages display wine desktop; do
@@ -27,7 +27,7 @@ Wine_Prefix "$out/prefix"
 Desktop_Start "$binaries/tests/desktop/shell_standin.exe"
 printf '%-20s\n' 0 >"$out/clock"
 WINE_OUT=$out/bench.log
-Wine_Run 120 LD_PRELOAD="$out/time_shim.so" VT_CLOCK="$out/clock" "$binaries/tests/desktop/desktop_bench.exe" \
+Wine_Run 400 LD_PRELOAD="$out/time_shim.so" VT_CLOCK="$out/clock" "$binaries/tests/desktop/desktop_bench.exe" \
   "$(Wine_Path "$binaries/vellatro.exe")" "$(Wine_Path "$out/tests")" "$(Wine_Path "$out/clock")" || {
   cat "$WINE_OUT" >&2
   Fail "The benchmark has failed"

@@ -38,4 +38,24 @@ Unique_Bitmap Make_Pixel_Bitmap(int width, int height, Pixel_Buffer &pixels);
 /// 0x00RRGGBB of a platform colour.
 std::uint32_t Pixel_Colour(platform::Colour colour);
 
+/// Paints a window by `paint(HDC, const RECT &area)` as WM_PAINT, WM_PRINTCLIENT or WM_ERASEBKGND asks; to
+/// the last it does nothing, for all of the area is painted. Returns the answer to the message.
+template <typename Paint>
+LRESULT Paint_Window(HWND window, UINT message, WPARAM wparam, const Paint &paint) {
+    if (message == WM_ERASEBKGND)
+        return 1;
+    if (message == WM_PRINTCLIENT) {
+        RECT all = {};
+        GetClientRect(window, &all);
+        paint(reinterpret_cast<HDC>(wparam), all);
+        return 0;
+    }
+    PAINTSTRUCT area = {};
+    if (const HDC target = BeginPaint(window, &area)) {
+        paint(target, area.rcPaint);
+        EndPaint(window, &area);
+    }
+    return 0;
+}
+
 } // namespace win32

@@ -260,6 +260,8 @@ void Dialog_Window::Leave_Focus(const Control_State &changed) {
 void Dialog_Window::Update_Held(const Control_State &changed) {
     if (!changed.visible || !changed.enabled)
         Leave_Focus(changed);
+    if (changed.kind == Control_Kind::Frame && changed.visible && Make_Missing())
+        Update_Tooltips();
     HDWP moves = BeginDeferWindowPos(16);
     bool shown_or_hidden = false;
     for (const Control_State *control : Model()->controls) {

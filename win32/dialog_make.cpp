@@ -8,6 +8,7 @@
 #include <commctrl.h>
 
 #include <algorithm>
+#include <utility>
 
 namespace win32 {
 
@@ -104,18 +105,42 @@ void Dialog_Window::Create() {
     Adopt(Make_Dialog(L"Vellatro_" + To_Wide(Model()->name), Procedure));
     SetWindowTextW(window_, To_Wide(Model()->title).c_str());
     natives_.resize(Model()->controls.size());
-    updating_ = true;
-    for (const Control_State *control : Model()->controls)
-        Make_Control(*control);
-    // Under all others, which lie on its page. In the circle of the Tab key its place is the same there as
-    // before the first one.
-    if (const Control_State *tabs = Tab_Strip())
-        SetWindowPos(Control_Window(tabs->index), HWND_BOTTOM, 0, 0, 0, 0,
-                     SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
-    updating_ = false;
+    Make_Missing();
     Find_Page_Colour();
     Update_Tooltips();
     Place();
+}
+
+/// What a hidden frame holds is made when the frame is shown for the first time: a dialog of many pages opens
+/// with the controls of one. Returns whether there was anything to make.
+bool Dialog_Window::Make_Missing() {
+    int last_made = -1;
+    const bool updating_before = std::exchange(updating_, true);
+    for (const Control_State *control : Model()->controls) {
+        const bool in_sight =
+            control->container == -1 ||
+            platform::Is_Shown(*Model(), *Model()->controls[static_cast<std::size_t>(control->container)]);
+        if (in_sight && Control_Window(control->index) == nullptr && Make_Control(*control))
+            last_made = control->index;
+    }
+    updating_ = updating_before;
+    if (last_made == -1)
+        return false;
+    // The Tab key takes the windows from the top to the bottom: those that come after a page made later lie
+    // under it.
+    for (const Control_State *control : Model()->controls)
+        if (control->index > last_made && control->container == -1)
+            Put_Lowest(*control);
+    // Under all others, which lie on its page. In the circle of the Tab key its place is the same there as
+    // before the first one.
+    if (const Control_State *tabs = Tab_Strip())
+        Put_Lowest(*tabs);
+    return true;
+}
+
+void Dialog_Window::Put_Lowest(const Control_State &control) {
+    if (const HWND window = Control_Window(control.index))
+        SetWindowPos(window, HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
 }
 
 HWND Dialog_Window::Make_Native(const Control_State &control) {
@@ -131,15 +156,16 @@ HWND Dialog_Window::Make_Native(const Control_State &control) {
                                 nullptr));
 }
 
-void Dialog_Window::Make_Control(const Control_State &control) {
+/// Hidden when the dialog can be seen. Returns false for a control that needs no window.
+bool Dialog_Window::Make_Control(const Control_State &control) {
     // Without a caption there is nothing to be seen of a frame.
     if (control.kind == Control_Kind::Frame && control.caption.empty())
-        return;
+        return false;
     Native &native = natives_[static_cast<std::size_t>(control.index)];
     native.window = Make_Native(control);
     const LONG style = GetWindowLongW(native.window, GWL_STYLE);
     const DWORD more = Group_Style(control) | (control.painted && control.tab_stop ? WS_TABSTOP : 0U) |
-                       (platform::Is_Shown(*Model(), control) ? WS_VISIBLE : 0U);
+                       (platform::Is_Shown(*Model(), control) && !IsWindowVisible(window_) ? WS_VISIBLE : 0U);
     SetWindowLongW(native.window, GWL_STYLE, style | static_cast<LONG>(more));
     // Not by the style alone: a combo box tells its text box of it.
     EnableWindow(native.window, platform::Is_Usable(*Model(), control));
@@ -158,6 +184,7 @@ void Dialog_Window::Make_Control(const Control_State &control) {
     if (control.is_default)
         SendMessageW(window_, DM_SETDEFID, static_cast<WPARAM>(First_Control_Id + control.index), 0);
     Raise_Over_Painted(control);
+    return true;
 }
 
 /// The option buttons of one frame are one group, which the arrow keys walk; whatever else is one by itself.
@@ -175,18 +202,19 @@ DWORD Dialog_Window::Group_Style(const Control_State &control) const {
 
 /// Windows that were made first lie above the later ones; what is painted over in a form lies below.
 void Dialog_Window::Raise_Over_Painted(const Control_State &control) {
+    const auto covers = [&control](const Control_State *other) {
+        return other != nullptr && other->painted && other->index < control.index &&
+               other->container == control.container && other->bounds.Intersects(control.bounds);
+    };
+    // Nearly always there is none, and the system need not be asked for all its windows.
+    if (std::ranges::none_of(Model()->controls, covers))
+        return;
     HWND above = nullptr;
-    bool covers = false;
-    for (HWND window = GetWindow(window_, GW_CHILD); window != nullptr && !covers;
-         window = GetWindow(window, GW_HWNDNEXT)) {
-        const Control_State *other = Control_Of(window);
-        covers = other != nullptr && other->painted && other->index < control.index &&
-                 other->container == control.container && other->bounds.Intersects(control.bounds);
-        if (!covers)
-            above = window;
-    }
+    for (HWND window = GetWindow(window_, GW_CHILD); window != nullptr && !covers(Control_Of(window));
+         window = GetWindow(window, GW_HWNDNEXT))
+        above = window;
     const HWND own = Control_Window(control.index);
-    if (covers && above != own)
+    if (above != own)
         SetWindowPos(own, above == nullptr ? HWND_TOP : above, 0, 0, 0, 0,
                      SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
 }

@@ -1,35 +1,15 @@
 // Bare native dialog windows from a template in memory.
 #include "win32/dialog_template.h"
 
+#include "win32/window_class.h"
+
 #include <cstring>
 #include <vector>
 
 namespace win32 {
 
-namespace {
-
-void Register_Dialog_Class(const std::wstring &class_name, WNDPROC procedure) {
-    const HINSTANCE instance = GetModuleHandleW(nullptr);
-    WNDCLASSEXW window_class = {};
-    window_class.cbSize = sizeof window_class;
-    if (GetClassInfoExW(instance, class_name.c_str(), &window_class))
-        return;
-    constexpr WORD arrow = 32512;
-    window_class = {};
-    window_class.cbSize = sizeof window_class;
-    window_class.lpfnWndProc = procedure;
-    window_class.cbWndExtra = DLGWINDOWEXTRA;
-    window_class.hInstance = instance;
-    window_class.hIcon = LoadIconW(instance, MAKEINTRESOURCEW(1));
-    window_class.hCursor = LoadCursorW(nullptr, MAKEINTRESOURCEW(arrow));
-    window_class.lpszClassName = class_name.c_str();
-    RegisterClassExW(&window_class);
-}
-
-} // namespace
-
 HWND Make_Dialog(const std::wstring &class_name, WNDPROC procedure) {
-    Register_Dialog_Class(class_name, procedure);
+    Register_Class(class_name.c_str(), procedure, 0, DLGWINDOWEXTRA);
     DLGTEMPLATE head = {};
     head.style = WS_POPUP | WS_CAPTION | WS_SYSMENU | DS_MODALFRAME | DS_3DLOOK;
     head.dwExtendedStyle = WS_EX_CONTROLPARENT;

@@ -5,6 +5,7 @@
 #include "win32/modal.h"
 #include "win32/units.h"
 #include "win32/wide_text.h"
+#include "win32/window_class.h"
 
 #include <algorithm>
 
@@ -16,9 +17,6 @@ using platform::Input_Event;
 using platform::Input_Kind;
 
 namespace {
-
-constexpr WORD arrow = 32512;
-constexpr WORD hourglass = 32514;
 
 /// `place` moved so that it lies wholly in the work area of its nearest monitor.
 RECT On_Screen(RECT place) {
@@ -49,7 +47,7 @@ LRESULT Dialog_Window::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
         // The controls ask here before they take their own.
         if (Model()->pointer != platform::Pointer_Shape::Hourglass || LOWORD(lparam) != HTCLIENT)
             break;
-        SetCursor(LoadCursorW(nullptr, MAKEINTRESOURCEW(hourglass)));
+        SetCursor(Load_Pointer(System_Pointer::Hourglass));
         return TRUE;
     case WM_CLOSE:
         // Nothing is done beside an open message box, whoever asks for it.
@@ -112,7 +110,7 @@ void Dialog_Window::Own_Aspect_Changed(Aspect aspect) {
         GetAncestor(WindowFromPoint(mouse), GA_ROOT) != window_)
         return;
     const bool waits = Model()->pointer == platform::Pointer_Shape::Hourglass;
-    SetCursor(LoadCursorW(nullptr, MAKEINTRESOURCEW(waits ? hourglass : arrow)));
+    SetCursor(Load_Pointer(waits ? System_Pointer::Hourglass : System_Pointer::Arrow));
 }
 
 void Dialog_Window::Place() {

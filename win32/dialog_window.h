@@ -25,7 +25,8 @@ public:
 private:
     using Control_State = platform::Control_State;
 
-    /// The native side of one control. A frame without a caption has no window.
+    /// The native side of one control. A frame without a caption has no window, nor has yet what a frame
+    /// holds that was never shown.
     struct Native {
         HWND window = nullptr;
         Unique_Brush brush; ///< of a background colour of its own
@@ -44,7 +45,9 @@ private:
     void Window_Gone() override;
 
     // The making of the controls (dialog_make.cpp).
-    void Make_Control(const Control_State &control);
+    bool Make_Missing();
+    bool Make_Control(const Control_State &control);
+    void Put_Lowest(const Control_State &control);
     HWND Make_Native(const Control_State &control);
     DWORD Group_Style(const Control_State &control) const;
     void Raise_Over_Painted(const Control_State &control);

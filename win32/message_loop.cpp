@@ -4,6 +4,7 @@
 #include "win32/handles.h"
 #include "win32/mirror.h"
 #include "win32/wide_text.h"
+#include "win32/window_class.h"
 
 #include <algorithm>
 #include <vector>
@@ -99,14 +100,10 @@ LRESULT CALLBACK Broadcast_Procedure(HWND window, UINT message, WPARAM wparam, L
 HWND Broadcast_Window() {
     if (broadcasts != nullptr)
         return broadcasts;
-    WNDCLASSEXW window_class = {};
-    window_class.cbSize = sizeof window_class;
-    window_class.lpfnWndProc = Broadcast_Procedure;
-    window_class.hInstance = GetModuleHandleW(nullptr);
-    window_class.lpszClassName = L"Vellatro_Broadcasts";
-    RegisterClassExW(&window_class);
-    broadcasts = CreateWindowExW(WS_EX_TOOLWINDOW, window_class.lpszClassName, L"Vellatro", WS_POPUP, 0, 0, 0,
-                                 0, nullptr, nullptr, window_class.hInstance, nullptr);
+    constexpr wchar_t class_name[] = L"Vellatro_Broadcasts";
+    win32::Register_Class(class_name, Broadcast_Procedure);
+    broadcasts = CreateWindowExW(WS_EX_TOOLWINDOW, class_name, L"Vellatro", WS_POPUP, 0, 0, 0, 0, nullptr,
+                                 nullptr, GetModuleHandleW(nullptr), nullptr);
     return broadcasts;
 }
 

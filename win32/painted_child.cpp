@@ -6,6 +6,7 @@
 #include "win32/modal.h"
 #include "win32/painted_window.h"
 #include "win32/units.h"
+#include "win32/window_class.h"
 
 namespace win32 {
 
@@ -17,27 +18,10 @@ namespace {
 
 constexpr wchar_t class_name[] = L"Vellatro_Painted";
 
-void Register_Class(WNDPROC procedure) {
-    WNDCLASSEXW window_class = {};
-    window_class.cbSize = sizeof window_class;
-    const HINSTANCE instance = GetModuleHandleW(nullptr);
-    if (GetClassInfoExW(instance, class_name, &window_class))
-        return;
-    constexpr WORD arrow = 32512;
-    window_class = {};
-    window_class.cbSize = sizeof window_class;
-    window_class.style = CS_DBLCLKS;
-    window_class.lpfnWndProc = procedure;
-    window_class.hInstance = instance;
-    window_class.hCursor = LoadCursorW(nullptr, MAKEINTRESOURCEW(arrow));
-    window_class.lpszClassName = class_name;
-    RegisterClassExW(&window_class);
-}
-
 } // namespace
 
 HWND Painted_Child::Make(HWND parent, int id) {
-    Register_Class(Procedure);
+    Register_Class(class_name, Procedure, CS_DBLCLKS);
     window_ = CreateWindowExW(0, class_name, nullptr, WS_CHILD, 0, 0, 0, 0, parent,
                               reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), GetModuleHandleW(nullptr),
                               nullptr);
@@ -69,16 +53,13 @@ LRESULT Painted_Child::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
         return 0;
     switch (message) {
     case WM_ERASEBKGND:
-        return 1;
     case WM_PAINT:
-        Paint();
-        return 0;
-    case WM_PRINTCLIENT: {
-        RECT all = {};
-        GetClientRect(window_, &all);
-        Paint_On(reinterpret_cast<HDC>(wparam), all);
-        return 0;
-    }
+    case WM_PRINTCLIENT:
+        return Paint_Window(window_, message, wparam, [&](HDC target, const RECT &area) {
+            if (message == WM_PAINT)
+                Leave_Later_Ones_Out(target);
+            Paint_On(target, area);
+        });
     case WM_GETOBJECT:
         return Answer_Get_Object(window_, wparam, lparam, index_);
     case Default_Action_Message: {
@@ -91,8 +72,7 @@ LRESULT Painted_Child::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
     case WM_GETDLGCODE:
         return Dialog_Code(reinterpret_cast<const MSG *>(lparam));
     case WM_SETCURSOR: {
-        constexpr WORD hand = 32649;
-        const HCURSOR pointer = Control().link ? LoadCursorW(nullptr, MAKEINTRESOURCEW(hand)) : nullptr;
+        const HCURSOR pointer = Control().link ? Load_Pointer(System_Pointer::Hand) : nullptr;
         if (pointer == nullptr)
             break;
         SetCursor(pointer);
@@ -164,16 +144,6 @@ void Painted_Child::Key_Down(WPARAM wparam, LPARAM lparam) {
         event.control = index_;
     }
     owner_->Send(event);
-}
-
-void Painted_Child::Paint() {
-    PAINTSTRUCT paint = {};
-    const HDC target = BeginPaint(window_, &paint);
-    if (target == nullptr)
-        return;
-    Leave_Later_Ones_Out(target);
-    Paint_On(target, paint.rcPaint);
-    EndPaint(window_, &paint);
 }
 
 /// The controls that lie over this one are windows beside it, and would flicker.

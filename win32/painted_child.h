@@ -24,7 +24,6 @@ private:
     LRESULT Dialog_Code(const MSG *message) const;
     void Mouse(UINT message, WPARAM wparam, LPARAM lparam);
     void Key_Down(WPARAM wparam, LPARAM lparam);
-    void Paint();
     void Paint_On(HDC target, const RECT &area);
     void Leave_Later_Ones_Out(HDC target) const;
     const platform::Control_State &Control() const;

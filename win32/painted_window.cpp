@@ -6,6 +6,7 @@
 #include "win32/modal.h"
 #include "win32/units.h"
 #include "win32/wide_text.h"
+#include "win32/window_class.h"
 
 #include <algorithm>
 #include <string>
@@ -30,23 +31,12 @@ bool Equal(const std::vector<RECT> &a, const std::vector<RECT> &b) {
 
 void Painted_Window::Create() {
     const std::wstring class_name = L"Vellatro_" + To_Wide(Model()->name);
-    const HINSTANCE instance = GetModuleHandleW(nullptr);
-    WNDCLASSEXW window_class = {};
-    window_class.cbSize = sizeof window_class;
-    if (!GetClassInfoExW(instance, class_name.c_str(), &window_class)) {
-        window_class = {};
-        window_class.cbSize = sizeof window_class;
-        window_class.style = CS_DBLCLKS;
-        window_class.lpfnWndProc = Procedure;
-        window_class.hInstance = instance;
-        window_class.lpszClassName = class_name.c_str();
-        RegisterClassExW(&window_class);
-    }
+    Register_Class(class_name.c_str(), Procedure, CS_DBLCLKS);
     const RECT place = To_Pixels(Model()->bounds);
     Adopt(CreateWindowExW(WS_EX_TOOLWINDOW, class_name.c_str(), To_Wide(Model()->title).c_str(),
                           WS_POPUP | WS_CLIPSIBLINGS | WS_CLIPCHILDREN, place.left, place.top,
-                          place.right - place.left, place.bottom - place.top, nullptr, nullptr, instance,
-                          nullptr));
+                          place.right - place.left, place.bottom - place.top, nullptr, nullptr,
+                          GetModuleHandleW(nullptr), nullptr));
     Texts_Changed();
     // The window may lie on a screen with a scale of its own; the form hears of it once it is made.
     PostMessageW(window_, Check_Dots_Message, 0, 0);
@@ -69,16 +59,10 @@ LRESULT Painted_Window::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
         return 0;
     switch (message) {
     case WM_ERASEBKGND:
-        return 1;
     case WM_PAINT:
-        Paint();
-        return 0;
-    case WM_PRINTCLIENT: {
-        RECT all = {};
-        GetClientRect(window_, &all);
-        Paint_On(reinterpret_cast<HDC>(wparam), all);
-        return 0;
-    }
+    case WM_PRINTCLIENT:
+        return Paint_Window(window_, message, wparam,
+                            [this](HDC target, const RECT &area) { Paint_On(target, area); });
     case WM_WINDOWPOSCHANGING:
         // Painted anew after every change of place or region: Wine hangs when it copies pixels inside another
         // process's window.
@@ -135,15 +119,6 @@ bool Painted_Window::Handle_Posted(UINT message, WPARAM wparam) {
     default:
         return false;
     }
-}
-
-void Painted_Window::Paint() {
-    PAINTSTRUCT paint = {};
-    const HDC target = BeginPaint(window_, &paint);
-    if (target == nullptr)
-        return;
-    Paint_On(target, paint.rcPaint);
-    EndPaint(window_, &paint);
 }
 
 void Painted_Window::Paint_On(HDC target, const RECT &area) {
@@ -300,10 +275,8 @@ void Painted_Window::Scale_Changed() {
 }
 
 void Painted_Window::Set_Pointer() const {
-    constexpr WORD arrow = 32512;
-    constexpr WORD size_all = 32646;
     const bool moves = Model()->pointer == platform::Pointer_Shape::Move;
-    SetCursor(LoadCursorW(nullptr, MAKEINTRESOURCEW(moves ? size_all : arrow)));
+    SetCursor(Load_Pointer(moves ? System_Pointer::Move : System_Pointer::Arrow));
 }
 
 } // namespace win32

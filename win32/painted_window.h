@@ -33,7 +33,6 @@ private:
     bool Handle_Mouse(UINT message, WPARAM wparam, LPARAM lparam);
     bool Handle_Key(UINT message, WPARAM wparam, LPARAM lparam);
 
-    void Paint();
     void Paint_On(HDC target, const RECT &area);
     void Place() override;
     void Set_Region();

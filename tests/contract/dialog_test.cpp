@@ -179,6 +179,29 @@ TEST_F(Dialog_Contract, Its_Own_Changes_Show_And_Are_Not_Told) {
     EXPECT_EQ(Heard(), "");
 }
 
+TEST_F(Dialog_Contract, A_Page_Is_Made_In_Its_Place_When_It_Is_First_Shown) {
+    platform::Destroy_Mirror(model_);
+    controls_[Page].visible = false;
+    controls_[Shut].container = -1;
+    platform::Create_Mirror(model_);
+    window_ = FindWindowW(L"Vellatro_Contract_Frm", nullptr);
+    EXPECT_TRUE(Native(Shut) && !Native(List) && !Native(Opt_1));
+    controls_[List].items = {"One"};
+    Change(List, Aspect::Items);
+    controls_[Page].visible = true;
+    Change(Page, Aspect::Visible);
+    EXPECT_TRUE(IsWindowVisible(Native(List)) && IsWindowVisible(Native(Opt_1)));
+    SetFocus(Native(Opt_1));
+    controls_[Group].enabled = controls_[Page].visible = false;
+    Change(Group, Aspect::Enabled);
+    Change(Page, Aspect::Visible);
+    EXPECT_FALSE(IsWindowVisible(Native(List)) || IsWindowEnabled(Native(Opt_1)));
+    EXPECT_EQ(GetFocus(), Native(Tabs)) << "the keyboard left with the page";
+    EXPECT_EQ(Send(List, LB_GETCOUNT), 1);
+    EXPECT_EQ(GetWindow(Native(Shut), GW_HWNDPREV), Native(Picture));
+    EXPECT_EQ(GetWindow(Native(Shut), GW_HWNDNEXT), Native(Tabs));
+}
+
 TEST_F(Dialog_Contract, Beside_A_Message_Box_Nothing_Changes) {
     controls_[Opt_1].checked = true;
     Change(Opt_1, Aspect::Checked);

@@ -115,6 +115,7 @@ protected:
         }
     }
     ::testing::AssertionResult Counts(const std::vector<std::string> &expected) const {
+        Click_On(Part(stats_opt), [&] { return IsWindowVisible(Part(total_all_lbl)) != FALSE; });
         return Becomes(expected, [this] {
             std::vector<std::string> labels;
             for (int i = 0; i < 4; ++i)
@@ -154,9 +155,8 @@ TEST_F(Events_Page, Lists_In_Three_Orders_And_Counts) {
         Send_Key(VK_END);
         EXPECT_TRUE(Becomes(last, countdown));
     }
-    Click_On(Part(stats_opt), [&] { return IsWindowVisible(Part(total_all_lbl)) != FALSE; });
-    EXPECT_FALSE(IsWindowVisible(Part(events_lst)));
     EXPECT_TRUE(Counts(counts));
+    EXPECT_FALSE(IsWindowVisible(Part(events_lst)));
     EXPECT_EQ(Data(), Bytes());
 }
 

@@ -245,8 +245,8 @@ TEST_F(Settings_Dialog, Only_Ok_And_Apply_Save) {
     EXPECT_EQ(SendMessageA(Tabs(), TCM_GETCURSEL, 0, 0), 3); // of a first run
     for (const auto &row : rows) {
         SCOPED_TRACE(row.tab);
-        EXPECT_EQ(Ticked(alert), alerts);
         Turn_To(3);
+        EXPECT_EQ(Ticked(alert), alerts);
         Push(alert);
         Turn_To(row.tab);
         Forget();
@@ -262,7 +262,9 @@ TEST_F(Settings_Dialog, Only_Ok_And_Apply_Save) {
         Open();
         EXPECT_EQ(SendMessageA(Tabs(), TCM_GETCURSEL, 0, 0), row.tab - 1);
         for (const auto &other : rows)
-            EXPECT_TRUE(!other.seen || (IsWindowVisible(Part(other.seen)) != FALSE) == (other.tab == row.tab))
+            EXPECT_TRUE(!other.seen ||
+                        (IsWindowVisible(FindWindowExA(Dialog(), nullptr, "Button", other.seen)) != FALSE) ==
+                            (other.tab == row.tab))
                 << other.seen;
     }
 }

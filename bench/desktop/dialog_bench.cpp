@@ -1,0 +1,119 @@
+// How soon the settings dialog is there and painted after it was chosen in the menu, on each of its pages,
+// and how soon another page is after its tab was chosen; beside an empty dialog of the same size, which this
+// program opens itself. It measures and tells; it fails for nothing but a dialog that does not come.
+#include "tests/desktop/driver.h"
+
+#include <windows.h>
+
+#include <commctrl.h>
+#include <oleacc.h>
+
+#include <algorithm>
+#include <cstdio>
+
+namespace {
+
+constexpr int rounds = 15;
+constexpr int pages = 8;
+
+double Now() {
+    LARGE_INTEGER count, frequency;
+    QueryPerformanceCounter(&count);
+    QueryPerformanceFrequency(&frequency);
+    return 1000.0 * static_cast<double>(count.QuadPart) / static_cast<double>(frequency.QuadPart);
+}
+
+double Median(std::vector<double> times) {
+    std::sort(times.begin(), times.end());
+    return times.at(times.size() / 2);
+}
+
+void Paint(HWND dialog) {
+    RedrawWindow(dialog, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+    SendMessageW(dialog, WM_NULL, 0, 0); // if it has begun to paint by itself, this waits for the end
+}
+
+INT_PTR CALLBACK Do_The_Usual(HWND, UINT, WPARAM, LPARAM) {
+    return FALSE;
+}
+
+/// Milliseconds until an empty dialog with a client area of that size is painted.
+double Open_Empty(const RECT &client) {
+    const double begin = Now();
+    struct {
+        DLGTEMPLATE head;
+        WORD menu, window_class, title;
+    } words{};
+    words.head.style = WS_CAPTION | WS_SYSMENU | WS_POPUP;
+    const HWND dialog =
+        CreateDialogIndirectParamW(GetModuleHandleW(nullptr), &words.head, nullptr, Do_The_Usual, 0);
+    SetWindowPos(dialog, nullptr, 0, 0, client.right, client.bottom, SWP_NOZORDER);
+    ShowWindow(dialog, SW_SHOW);
+    Paint(dialog);
+    const double end = Now();
+    DestroyWindow(dialog);
+    return end - begin;
+}
+
+class Dialogs : public Desktop_Test {
+protected:
+    static HWND Dialog() {
+        const HWND dialog = FindWindowA("Vellatro_Settings_Frm", nullptr);
+        return dialog && IsWindowVisible(dialog) ? dialog : nullptr;
+    }
+    /// Milliseconds from the choice in the menu until the dialog is painted; less than 0 when no menu came.
+    static double Open(const Program &program) {
+        const HWND calendar = program.Calendar();
+        POINT day = Middle(program.Items(ROLE_SYSTEM_CELL).at(0).place);
+        ScreenToClient(calendar, &day);
+        const auto menu = [&] { return program.Window("#32768") != nullptr; };
+        for (int i = 0; i < 4 && !menu(); ++i) { // X, late with the focus, takes a menu away now and then
+            PostMessageA(calendar, WM_RBUTTONDOWN, 0, MAKELPARAM(day.x, day.y));
+            Wait_Until(menu, 2000);
+        }
+        if (!menu())
+            return -1;
+        for (int i = 0; i < 2; ++i)
+            PostMessageA(calendar, WM_KEYDOWN, VK_UP, 1);
+        const double begin = Now();
+        PostMessageA(calendar, WM_KEYDOWN, VK_RETURN, 1);
+        while (!Dialog() && Now() - begin < 5000)
+            Sleep(1);
+        Paint(Dialog());
+        return Now() - begin;
+    }
+    static void Close() {
+        PostMessageA(Dialog(), WM_CLOSE, 0, 0);
+        EXPECT_TRUE(Wait_Until([] { return !Dialog(); }));
+    }
+};
+
+TEST_F(Dialogs, Open_And_Turn) {
+    Set_Setting("Settings", "Show Alerts", "0");
+    const Program &program = Start_Calendar();
+    Send_Mouse({GetSystemMetrics(SM_CXSCREEN) - 2, 2}, 0); // menus open away from it
+    std::vector<double> openings[pages], turns[pages], empty;
+    RECT client{};
+    for (int round = 0; round < rounds; ++round) {
+        for (int page = 0; page < pages; ++page) {
+            const double opened = Open(program); // on the page that was left last
+            ASSERT_TRUE(opened > 0 && Dialog());
+            const HWND tabs = FindWindowExA(Dialog(), nullptr, "SysTabControl32", nullptr);
+            const auto shown = SendMessageA(tabs, TCM_GETCURSEL, 0, 0);
+            openings[shown].push_back(opened);
+            GetClientRect(Dialog(), &client);
+            const double begin = Now();
+            SendMessageA(tabs, TCM_SETCURFOCUS, static_cast<WPARAM>(page), 0);
+            Paint(Dialog());
+            turns[page].push_back(Now() - begin);
+            Close();
+        }
+        empty.push_back(Open_Empty(client));
+    }
+    std::printf("medians of %d, an empty dialog: %.0f ms\n", rounds, Median(empty));
+    for (int page = 0; page < pages; ++page)
+        std::printf("medians of %d, settings dialog, page %d: opened %.0f ms, turned to %.0f ms\n", rounds,
+                    page + 1, Median(openings[page]), Median(turns[page]));
+}
+
+} // namespace
