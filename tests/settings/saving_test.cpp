@@ -28,7 +28,9 @@ TEST_F(Saving, the_calendar_follows_at_once_also_without_a_store) {
     }
     Cur_Settings.Auto_Compact = 2; // ticked, and yet not in use
     Push(*dialog, dialog->General.Auto_Compact_Chk, true);
-    EXPECT_TRUE(Written(apply).starts_with("Vellatro=|Alignment=0|Auto Compact=1|Bar Date Format="));
+    EXPECT_EQ(Written(apply),
+              "Vellatro=|Alignment=0|Auto Compact=1|Bar Date Format=d Month - yyyy|Bar Time=False|"
+              "Bar Time Format=H:mm|Other Display Mode=0|Style=1|Use Other Display Mode=False|");
     Fakes().registry_refuses_writes = true;
     Colours_Page &colours = dialog->Colours;
     platform::Colour colour = 0;
@@ -41,6 +43,11 @@ TEST_F(Saving, the_calendar_follows_at_once_also_without_a_store) {
                            form.Box_Caption_Lbl[3].Fore_Colour(), form.Back_Colour(),
                            form.Which_Month_Lbl.Fore_Colour()}),
               (std::vector<platform::Colour>{1, 2, 3, 4, 5, 6}));
+    for (Option_Button *option : {&colours.Col_Sys_Opt, &colours.Col_Other_Opt}) {
+        option->Set_Checked(true);
+        dialog->Save_Colours();
+        EXPECT_EQ(form.Back_Colour() == 5, option == &colours.Col_Other_Opt);
+    }
     for (const int kind : {2, 1, 0}) {
         Push(*dialog, Open(Settings_Frm::tooltips_fra).Tooltips.Tips_Opt[kind], true);
         Push(*dialog, dialog->Ok_Btn);
