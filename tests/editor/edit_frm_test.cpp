@@ -76,7 +76,7 @@ TEST_F(Editor, closes_without_saving_and_lets_compact_mode_go_on) {
     form.Edit_Box(4); // the last box before 1 March
     EXPECT_FALSE(Has_Window());
     for (const Input_Kind way : {Input_Kind::Clicked, Input_Kind::Close, Input_Kind::Window_Lost}) {
-        Open(5);
+        Input(form, {.kind = Input_Kind::Default_Action}, &Box_Of(5));
         Type("dropped");
         Cur_Settings.Auto_Compact = 1;
         form.Compact_Timer.Set_Enabled(false);
