@@ -39,23 +39,27 @@ TEST_F(Menus, of_a_day) {
     EXPECT_EQ(Text_Of(6) + Box_Of(6).Tooltip() + Box_Of(6).Access().value, "");
     EXPECT_EQ(Data_File(), "\"6/3/9999=second\"\r\n\"7/3/2002=other\"\r\n");
     Choose(8, 1);
-    Choose(1, 2);
+    Choose(1, 2, [this] { Press_Key(form, 123); }); // compact mode under the menu
     EXPECT_TRUE(Fakes().writes == 1 && edited == std::vector<int>{5});
+    Press_Key(form, 123);
+    // An item chosen after the month changed under the menu does nothing to another day in the same box.
+    edited.clear();
+    Show_Month(3, 2002);
+    Events({"20/3/2002=a", "24/4/2002=b", "20/4/2002=c", "16/3/2002=d"});
+    const auto step = [this] { form.Cur_Month == 3 ? form.Next_Month() : form.Previous_Month(); };
+    for (const int item : {1, 1, 2, 2})
+        Choose(20, item, step);
+    EXPECT_TRUE(Fakes().writes == 1 && edited.empty());
+    // A month or a year goes with what was shown beside it.
+    Show_Month(12, 2005);
+    Desktop().expected_menus.push_back({"2003|2004|Current Month\\Year|2006|2007", 5, step});
+    Press_Key(form, 89);
+    EXPECT_EQ(form.Which_Month_Lbl.Caption(), "December - 2007");
     for (const bool may_end : {false, true}) {
         form.Ask_Unsaved = [may_end] { return may_end; };
         Choose(1, 4);
         EXPECT_EQ(Desktop().loop_ended, may_end);
     }
-    // An item chosen after the month changed under the menu does nothing to another day in the same box.
-    edited.clear();
-    Show_Month(3, 2002);
-    Events({"20/3/2002=a", "24/4/2002=b", "20/4/2002=c", "16/3/2002=d"});
-    for (const int item : {1, 1, 2, 2})
-        Choose(20, item, [] {
-            Fakes().now.month = Fakes().now.month == 3 ? 4 : 3;
-            Desktop().Advance(1000);
-        });
-    EXPECT_TRUE(Fakes().writes == 1 && edited.empty());
 }
 
 TEST_F(Menus, of_the_title) {

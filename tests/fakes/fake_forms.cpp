@@ -36,7 +36,8 @@ void Fake_Desktop::Advance(unsigned milliseconds) {
         time = std::max(time, next->second.due);
         next->second.due += next->second.interval;
         const auto tick = next->second.tick;
-        tick();
+        if (!menu_open)
+            tick();
     }
     time = std::max(time, end);
 }
@@ -184,7 +185,7 @@ int Line_Height(const Font &font) {
 
 Colour Resolve_Colour(Colour colour) {
     // All system colours are the same light grey here.
-    return colour < 0 ? Rgb(192, 192, 192) : colour;
+    return colour < 0 ? Rgb(192, 192, 192) : colour & 0xFFFFFF;
 }
 
 int Dots_Per_Inch() {
@@ -227,7 +228,8 @@ int Track_Popup_Menu(Form_Model &, const std::vector<Menu_Item> &items, const Po
         return 0;
     expected.pop_front();
     if (menu.meanwhile)
-        menu.meanwhile();
+        Desktop().menu_open = true, menu.meanwhile();
+    Desktop().menu_open = false;
     return menu.answer;
 }
 
@@ -259,9 +261,9 @@ void Wait_For_Messages(unsigned milliseconds) {
     Desktop().Advance(step);
 }
 
-Timer_Id Start_Timer(unsigned milliseconds, std::function<void()> tick) {
+Timer_Id Start_Timer(unsigned milliseconds, Callback<void()> tick) {
     static Timer_Id last = 0;
-    Desktop().timers[++last] = {milliseconds, Desktop().time + milliseconds, std::move(tick)};
+    Desktop().timers[++last] = {milliseconds, Desktop().time + milliseconds, tick};
     return last;
 }
 
@@ -269,8 +271,8 @@ void Stop_Timer(Timer_Id id) {
     Desktop().timers.erase(id);
 }
 
-void Listen_To_Broadcasts(std::function<bool(Broadcast)> listener) {
-    Desktop().listener = std::move(listener);
+void Listen_To_Broadcasts(Callback<bool(Broadcast)> listener) {
+    Desktop().listener = listener;
 }
 
 bool Claim_Single_Instance(const std::string &) {

@@ -46,7 +46,7 @@ struct Fake_Mirror {
 struct Expected_Menu {
     std::string texts; ///< parted by "|", greyed ones in brackets
     int answer = 0;
-    std::function<void()> meanwhile{}; ///< what happens while the menu is open, as timers go on then
+    std::function<void()> meanwhile{}; ///< what happens while the menu is open; timers wait
 };
 
 struct Fake_Timer {
@@ -68,11 +68,12 @@ struct Fake_Desktop {
 
     std::map<platform::Timer_Id, Fake_Timer> timers;
     unsigned time = 0;
-    std::function<bool(platform::Broadcast)> listener;
+    platform::Callback<bool(platform::Broadcast)> listener;
     bool loop_ended = false;
     std::deque<std::function<void()>> messages; ///< processed one by one while the program waits
 
     std::deque<Expected_Menu> expected_menus;
+    bool menu_open = false;
     std::optional<platform::Point> menu_at; ///< where the last menu was to open
     int measured = 0;                       ///< calls of Text_Width
 

@@ -222,40 +222,48 @@ void Replace_File(const std::string &path, std::string_view bytes) {
     Fakes().files[path] = bytes;
 }
 
-std::optional<std::string> Read_User_Value(const std::string &key, const std::string &name) {
-    const auto value = Fakes().registry.find(key + "\\" + name);
+namespace {
+
+std::string Path(std::string_view folder, std::string_view name) {
+    return std::string(folder).append("\\").append(name);
+}
+
+} // namespace
+
+std::optional<std::string> Read_User_Value(std::string_view key, std::string_view name) {
+    const auto value = Fakes().registry.find(Path(key, name));
     return value == Fakes().registry.end() ? std::nullopt : std::optional(value->second);
 }
 
-void Write_User_Value(const std::string &key, const std::string &name, const std::string &text) {
+void Write_User_Value(std::string_view key, std::string_view name, std::string_view text) {
     ++Fakes().registry_writes;
     if (Fakes().registry_refuses_writes)
-        throw Registry_Error(key + " cannot be written");
-    Fakes().registry[key + "\\" + name] = text;
+        throw Registry_Error(std::string(key) + " cannot be written");
+    Fakes().registry[Path(key, name)] = text;
 }
 
 // Values outside HKEY_CURRENT_USER have the root's name before; those that are no texts are not kept.
 
-Registry_Root Find_Registry_Root(const std::string &name) {
+Registry_Root Find_Registry_Root(std::string_view name) {
     return name == "HKCU" ? 1 : 0;
 }
 
-Registry_Value Registry_Read(const std::string &root_name, const std::string &key, const std::string &name,
-                             char, const Registry_Value &standard) {
-    const auto text = Read_User_Value(root_name == "HKCU" ? key : root_name + "\\" + key, name);
+Registry_Value Registry_Read(std::string_view root_name, std::string_view key, std::string_view name, char,
+                             const Registry_Value &standard) {
+    const auto text = Read_User_Value(root_name == "HKCU" ? std::string(key) : Path(root_name, key), name);
     return text ? Registry_Value(*text) : standard;
 }
 
-void Registry_Write(const std::string &root_name, const std::string &key, const std::string &name, char,
+void Registry_Write(std::string_view root_name, std::string_view key, std::string_view name, char,
                     const Registry_Value &value) {
-    Registry_Write_String(1, root_name == "HKCU" ? key : root_name + "\\" + key, name,
+    Registry_Write_String(1, root_name == "HKCU" ? std::string(key) : Path(root_name, key), name,
                           std::get<std::string>(value));
 }
 
-void Registry_Write_String(Registry_Root root, const std::string &key, const std::string &name,
-                           const std::string &text) {
+void Registry_Write_String(Registry_Root root, std::string_view key, std::string_view name,
+                           std::string_view text) {
     if (root != 0 && !Fakes().registry_refuses_writes)
-        Fakes().registry[key + "\\" + name] = text;
+        Fakes().registry[Path(key, name)] = text;
 }
 
 Box_Answer Message_Box(std::string_view text, std::string_view title, Box_Icon icon, Box_Buttons buttons) {

@@ -85,7 +85,6 @@ TEST_F(Style, the_miniature_shows_the_calendar_where_it_will_be) {
             form.Which_Style(style);
             form.Position_Form(position);
             Style_Page::Theme_Look look;
-            look.use_style = look.use_position = true;
             look.style = style;
             look.position = position;
             page.Set_Theme(look);
