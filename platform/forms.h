@@ -134,7 +134,7 @@ struct Input_Event {
     /// Index of the control of a dialog that the event is about, with keys the focused one; in painted forms
     /// the control that assistive technology means.
     int control = -1;
-    Point point; ///< mouse, twips on the form; where `control` names one, on that; of Moved on the screen
+    Point point{}; ///< mouse, twips on the form; where `control` names one, on that; of Moved on the screen
     Mouse_Button button = Mouse_Button::None; ///< the button that changed; in a move the one that is held
     int key = 0;                              ///< virtual key code
     bool repeated = false;                    ///< a Key_Down of a key that was down before
@@ -143,7 +143,7 @@ struct Input_Event {
     bool alt = false;
     bool checked = false;
     int selected = -1;
-    std::string text;
+    std::string text{};
 };
 
 /// The state of a form. `input` and `paint` are filled by the toolkit and never throw.

@@ -6,7 +6,7 @@
 Only functions listed in windows2000_functions.txt, beside this file, may be imported; nothing may be loaded
 late by the linker's means. 64-bit builds are held to the same list and its "64" sections.
 """
-import os
+import pathlib
 import re
 import struct
 import sys
@@ -77,14 +77,11 @@ class Image:
 def allowed_functions(wide):
     """Pairs of a DLL and a function's name."""
     allowed, dll = set(), None
-    with open(os.path.join(os.path.dirname(os.path.abspath(__file__)), 'windows2000_functions.txt'),
-              encoding='ascii') as file:
-        for line in file:
-            section = re.fullmatch(r'\[(\S+?)( 64)?\]', line.strip())
-            if section:
-                dll = section[1] if wide or not section[2] else None
-            elif not re.match(r'#\D', line):
-                allowed.update((dll, name) for name in line.split())
+    for line in pathlib.Path(__file__).with_name('windows2000_functions.txt').read_text('ascii').splitlines():
+        if section := re.fullmatch(r'\[(\S+?)( 64)?\]', line.strip()):
+            dll = section[1] if wide or not section[2] else None
+        elif not re.match(r'#\D', line):
+            allowed.update((dll, name) for name in line.split())
     return allowed
 
 
@@ -118,19 +115,11 @@ def offences(data, image):
     yield from manifest_offences(data)
 
 
-def main(arguments):
-    if len(arguments) != 1:
-        sys.exit(__doc__)
-    with open(arguments[0], 'rb') as file:
-        data = file.read()
-    image = Image(data)
-    found = list(offences(data, image))
-    for what in found:
-        print(f'{arguments[0]}: {what}')
-    count = sum(1 for _ in image.imports())
-    print(f'{arguments[0]}: {len(data)} bytes, {count} imports, {len(found)} offences')
-    sys.exit(1 if found or count == 0 else 0)
-
-
-if __name__ == '__main__':
-    main(sys.argv[1:])
+program = pathlib.Path(sys.argv[1])
+image = Image(program.read_bytes())
+found = list(offences(image.data, image))
+for what in found:
+    print(f'{program}: {what}')
+count = len(list(image.imports()))
+print(f'{program}: {len(image.data)} bytes, {count} imports, {len(found)} offences')
+sys.exit(1 if found or count == 0 else 0)

@@ -52,20 +52,16 @@ def offence(root, path, quoted, angled):
     return None
 
 
-def main(root):
-    count = offences = 0
-    for path in sources(root):
-        with open(os.path.join(root, path), encoding='utf-8', errors='replace') as file:
-            for number, line in enumerate(file, 1):
-                if match := INCLUDE.match(line):
-                    count += 1
-                    if what := offence(root, path, *match.groups()):
-                        offences += 1
-                        print(f'{path}:{number}: {what}')
-    print(f'{count} includes, {offences} offences')
-    # No include at all means that the folder is not the project's.
-    sys.exit(1 if offences or count == 0 else 0)
-
-
-if __name__ == '__main__':
-    main(sys.argv[1])
+root = sys.argv[1]
+count = offences = 0
+for path in sources(root):
+    with open(os.path.join(root, path), encoding='utf-8', errors='replace') as file:
+        for number, line in enumerate(file, 1):
+            if match := INCLUDE.match(line):
+                count += 1
+                if what := offence(root, path, *match.groups()):
+                    offences += 1
+                    print(f'{path}:{number}: {what}')
+print(f'{count} includes, {offences} offences')
+# No include at all means that the folder is not the project's.
+sys.exit(1 if offences or count == 0 else 0)

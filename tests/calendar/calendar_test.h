@@ -30,23 +30,10 @@ protected:
         form.Redraw();
     }
 
-    void Send(platform::Input_Kind kind, platform::Point point = {},
-              platform::Mouse_Button button = platform::Mouse_Button::None) {
-        platform::Input_Event event{};
-        event.kind = kind;
-        event.point = point;
-        event.button = button;
-        form.Input(event);
-    }
-
-    /// The event text that a day of the shown month shows.
-    std::string Text_Of(int day) {
-        return form.Box_Caption_Lbl[Main_Frm::Start_Box(form.Cur_Month, form.Cur_Year) + day - 1].Caption();
-    }
-
-    Label &Box_Of(int day) {
-        return form.Box_Lbl[Main_Frm::Start_Box(form.Cur_Month, form.Cur_Year) + day - 1];
-    }
+    /// Of a day of the shown month: its box, and the event text in it.
+    int Index_Of(int day) { return Main_Frm::Start_Box(form.Cur_Month, form.Cur_Year) + day - 1; }
+    Label &Box_Of(int day) { return form.Box_Lbl[Index_Of(day)]; }
+    std::string Text_Of(int day) { return form.Box_Caption_Lbl[Index_Of(day)].Caption(); }
 
     /// The places of all visible controls.
     std::vector<platform::Rect> Seen() const {

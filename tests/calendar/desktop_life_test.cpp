@@ -1,4 +1,4 @@
-// The calendar inside the shell's desktop: attachment, splash, dragging, and the end with the shell.
+// The calendar inside the shell's desktop: attachment, splash and dragging.
 #include "tests/calendar/calendar_test.h"
 
 using platform::Box_Answer;
@@ -15,17 +15,15 @@ constexpr const char *manual_question =
 class Desktop_Life : public Calendar_Test {
 protected:
     Desktop_Life() {
-        Shell().desktop = 11;
-        Shell().view = 12;
-        Shell().list = 13;
-        Shell().colours = {-1, 0};
+        Shell() = {.desktop = 11, .view = 12, .list = 13, .colours = {{-1, 0}}, .web_pages = {}};
     }
 
     /// Takes the title, moves it in two steps and lets it go.
     void Drag(int right, int down) {
         const platform::Point from{form.Left() + form.Width() / 2, form.Top() + 90};
         const auto mouse = [&](Input_Kind kind, int x, int y) { // with the mouse in a place on the screen
-            Send(kind, {from.x + x - form.Left(), from.y + y - form.Top()}, Mouse_Button::Left);
+            const platform::Point at{from.x + x - form.Left(), from.y + y - form.Top()};
+            Input(form, {.kind = kind, .point = at, .button = Mouse_Button::Left});
         };
         mouse(Input_Kind::Mouse_Down, 0, 0);
         mouse(Input_Kind::Mouse_Move, right / 2, down / 2);
@@ -47,38 +45,23 @@ TEST_F(Desktop_Life, goes_inside_unseen_and_takes_the_dots_per_inch_that_it_find
 TEST_F(Desktop_Life, waits_outside_for_a_shell_that_does_not_answer) {
     Shell().colours.reset();
     Fakes().registry["Software\\Vellatro\\Colours\\Menu Colour Source"] = "0";
-    Start();
-    Desktop().Advance(5000);
-    EXPECT_TRUE(Shell().attached == nullptr && Desktop().mirrors.at(&form.Model()).shown);
-    Shell().colours = {0x332211, 0x00F0F0};
-    Desktop().Advance(1000);
-    EXPECT_EQ(Shell().attached, &form.Model());
-    EXPECT_EQ(form.Back_Colour(), 0x332211);
-    EXPECT_EQ(form.Which_Month_Lbl.Fore_Colour(), 0x00F0F0);
-    EXPECT_EQ(Box_Of(5).Back_Colour(), Cur_Settings.Col_Today);
-    EXPECT_FALSE(form.Attach_Timer.Enabled());
-    EXPECT_EQ(Desktop().mirrors.size(), 1U) << "the splash came a second time";
-}
-
-TEST_F(Desktop_Life, splash_stands_over_the_calendar_and_goes) {
     Desktop().work_area = {-1500, -40, 1023, 740};
     Start();
     const Splash_Frm &splash = form.Splash;
     EXPECT_EQ(splash.Left(), form.Left() + (form.Width() - splash.Width()) / 2);
     EXPECT_EQ(splash.Top(), form.Top() + form.Box_Lbl[36].Top() / 2 + splash.Height());
-    EXPECT_TRUE(splash.Model().floating); // takes no keyboard
-    Desktop().Advance(1499);
-    EXPECT_TRUE(splash.Visible());
-    Desktop().Advance(1);
-    EXPECT_FALSE(Desktop().mirrors.contains(&splash.Model()));
-}
-
-TEST_F(Desktop_Life, ends_with_the_shell_which_waits_for_no_question) {
-    Start();
-    form.Ask_Unsaved = [] { return false; };
-    Desktop().mirrors.erase(&form.Model());
-    Send(Input_Kind::Window_Lost);
-    EXPECT_TRUE(Desktop().loop_ended);
+    for (const unsigned time : {1499U, 3501U}) {
+        Desktop().Advance(time);
+        EXPECT_EQ(Desktop().mirrors.contains(&splash.Model()), time == 1499);
+    }
+    EXPECT_TRUE(Shell().attached == nullptr && Desktop().mirrors.at(&form.Model()).shown);
+    Shell().colours = {0x332211, 0x00F0F0};
+    Desktop().Advance(1000);
+    EXPECT_EQ(Shell().attached, &form.Model());
+    EXPECT_TRUE(form.Back_Colour() == 0x332211 && form.Which_Month_Lbl.Fore_Colour() == 0x00F0F0);
+    EXPECT_EQ(Box_Of(5).Back_Colour(), Cur_Settings.Col_Today);
+    EXPECT_FALSE(form.Attach_Timer.Enabled());
+    EXPECT_EQ(Desktop().mirrors.size(), 1U) << "the splash came a second time";
 }
 
 TEST_F(Desktop_Life, drags_as_far_as_it_may) {
@@ -87,10 +70,9 @@ TEST_F(Desktop_Life, drags_as_far_as_it_may) {
         int right, down;
         bool moves, asks;
     } const rows[] = {
-        {0, 1, 0, -150, -90, true, true},   {0, 1, 0, -150, 0, true, false},
-        {0, 1, 0, 0, -90, true, false},     {0, -1, 0, 15, 15, true, true},
-        {0, 0, 0, -150, -90, false, false}, {7, 0, 0, -150, -90, true, false},
-        {7, 1, 1, -150, -90, true, true},
+        {0, 1, 0, -150, -90, true, true},  {0, 1, 0, -150, 0, true, false},
+        {0, 1, 0, 0, -90, true, false},    {0, 0, 0, -150, -90, false, false},
+        {7, 0, 0, -150, -90, true, false}, {7, 1, 1, -150, -90, true, true},
     };
     Start();
     for (const auto &row : rows) {
@@ -107,6 +89,16 @@ TEST_F(Desktop_Life, drags_as_far_as_it_may) {
         EXPECT_EQ(Stored("Manual_PosX"), row.moves ? std::to_string(form.Left()) : "");
         EXPECT_EQ(Stored("Manual_PosY"), row.moves ? std::to_string(form.Top()) : "");
     }
+    // A lost release, told at once or seen by a move without a button, ends the drag where it is.
+    form.Move(3000, 600);
+    const platform::Point on_title{form.Width() / 2, 90}, right{on_title.x + 150, 100};
+    for (const Input_Kind kind : {Input_Kind::Capture_Lost, Input_Kind::Mouse_Move}) {
+        Input(form, {.kind = Input_Kind::Mouse_Down, .point = on_title, .button = Mouse_Button::Left});
+        Input(form, {.kind = kind, .point = right});
+        EXPECT_EQ(form.Model().pointer, platform::Pointer_Shape::Arrow);
+        Input(form, {.kind = Input_Kind::Mouse_Move, .point = right, .button = Mouse_Button::Left});
+        EXPECT_EQ(form.Left(), 3000);
+    }
 }
 
 TEST_F(Desktop_Life, a_yes_makes_the_position_manual_and_a_no_lasts_until_the_next_month) {
@@ -121,38 +113,18 @@ TEST_F(Desktop_Life, a_yes_makes_the_position_manual_and_a_no_lasts_until_the_ne
     EXPECT_EQ(Stored("Alignment") + Stored("Use Theme Pos"), "70");
 }
 
-TEST_F(Desktop_Life, a_lost_release_ends_the_drag_where_it_is) {
-    Start();
-    form.Move(3000, 600);
-    // Told at once, or seen by a move without a button.
-    const platform::Point on_title{form.Width() / 2, 90};
-    for (const Input_Kind kind : {Input_Kind::Capture_Lost, Input_Kind::Mouse_Move}) {
-        Send(Input_Kind::Mouse_Down, on_title, Mouse_Button::Left);
-        Send(kind, {on_title.x + 150, 100});
-        EXPECT_EQ(form.Model().pointer, platform::Pointer_Shape::Arrow);
-        Send(Input_Kind::Mouse_Move, {on_title.x + 150, 100}, Mouse_Button::Left);
-        EXPECT_EQ(form.Left(), 3000);
-    }
-}
-
 TEST_F(Desktop_Life, arrow_keys_with_ctrl_move_it_and_its_place_is_kept_when_ctrl_comes_up) {
     Start();
     for (const bool allowed : {false, true}) {
         Cur_Settings.Allow_Dragging = allowed ? 1 : 0;
         form.Move(3000, 600);
-        platform::Input_Event event{};
-        event.kind = Input_Kind::Key_Down;
-        event.control_key = true;
-        for (const int key : {37, 37, 39, 40}) { // left, left, right, down by a pixel
-            event.key = key;
-            event.shift = key == 40;
-            form.Input(event);
-        }
+        for (const int key : {37, 37, 39, 40}) // left, left, right, down by a pixel
+            Input(form, {.kind = Input_Kind::Key_Down, .key = key, .shift = key == 40, .control_key = true});
         EXPECT_EQ(Stored("Manual_PosX"), "");
         if (allowed)
             Fakes().Expect_Box(manual_question, Box_Answer::No);
-        Send(Input_Kind::Key_Up);
-        Send(Input_Kind::Key_Up); // moves nothing any more
+        for (int i = 0; i < 2; ++i) // the second one moves nothing any more
+            Input(form, {.kind = Input_Kind::Key_Up});
         EXPECT_EQ(form.Left() + form.Top(), allowed ? 2850 + 615 : 3000 + 600);
         EXPECT_EQ(Stored("Manual_PosX") + Stored("Manual_PosY"), allowed ? "2850615" : "");
     }

@@ -1,12 +1,11 @@
 // The popup menus, "Clear", the box style keys, and the keyboard's way over the days.
 #include "tests/calendar/calendar_test.h"
 
-using platform::Box_Answer;
 using platform::Input_Kind;
 
 namespace {
 
-const std::vector<std::string> day_menu{"Clear", "Edit", "(Settings)", "Exit"};
+constexpr const char *day_menu = "Clear|Edit|(Settings)|Exit";
 
 class Menus : public Calendar_Test {
 protected:
@@ -17,9 +16,11 @@ protected:
         Desktop().expected_menus.push_back({day_menu, item, meanwhile});
         Click(form, Box_Of(day), platform::Mouse_Button::Right);
     }
-    void Choose_On_Title(int right, const std::vector<std::string> &items, int item) {
-        Desktop().expected_menus.push_back({items, item, nullptr});
-        Send(Input_Kind::Mouse_Down, {form.Width() / 2 + right, 90}, platform::Mouse_Button::Right);
+    void Choose_On_Title(int right, const std::string &items, int item) {
+        Desktop().expected_menus.push_back({items, item});
+        Input(form, {.kind = Input_Kind::Mouse_Down,
+                     .point = {form.Width() / 2 + right, 90},
+                     .button = platform::Mouse_Button::Right});
     }
     /// The marked day, 0: none is seen.
     std::int16_t Marked() {
@@ -38,10 +39,22 @@ TEST_F(Menus, of_a_day) {
     EXPECT_EQ(Text_Of(6) + Box_Of(6).Tooltip() + Box_Of(6).Access().value, "");
     EXPECT_EQ(Data_File(), "\"6/3/9999=second\"\r\n\"7/3/2002=other\"\r\n");
     Choose(8, 1);
-    EXPECT_EQ(Fakes().writes, 1);
     Choose(1, 2, [this] { Press_Key(form, 123); }); // compact mode under the menu
-    EXPECT_EQ(edited, std::vector<int>{5});
+    EXPECT_TRUE(Fakes().writes == 1 && edited == std::vector<int>{5});
     Press_Key(form, 123);
+    // An item chosen after the month changed under the menu does nothing to another day in the same box.
+    edited.clear();
+    Show_Month(3, 2002);
+    Events({"20/3/2002=a", "24/4/2002=b", "20/4/2002=c", "16/3/2002=d"});
+    const auto step = [this] { form.Cur_Month == 3 ? form.Next_Month() : form.Previous_Month(); };
+    for (const int item : {1, 1, 2, 2})
+        Choose(20, item, step);
+    EXPECT_TRUE(Fakes().writes == 1 && edited.empty());
+    // A month or a year goes with what was shown beside it.
+    Show_Month(12, 2005);
+    Desktop().expected_menus.push_back({"2003|2004|Current Month\\Year|2006|2007", 5, step});
+    Press_Key(form, 89);
+    EXPECT_EQ(form.Which_Month_Lbl.Caption(), "December - 2007");
     for (const bool may_end : {false, true}) {
         form.Ask_Unsaved = [may_end] { return may_end; };
         Choose(1, 4);
@@ -49,38 +62,20 @@ TEST_F(Menus, of_a_day) {
     }
 }
 
-TEST_F(Menus, an_item_chosen_after_the_month_changed_under_the_menu_does_nothing_to_another_day) {
-    // Pairs of days that are in the same box.
-    Events({"20/3/2002=a", "24/4/2002=b", "20/4/2002=c", "16/3/2002=d"});
-    Start();
-    const auto step = [this] { form.Cur_Month == 3 ? form.Next_Month() : form.Previous_Month(); };
-    for (const int item : {1, 1, 2, 2})
-        Choose(20, item, step);
-    EXPECT_EQ(Fakes().writes, 0);
-    EXPECT_TRUE(edited.empty());
-    // A month or a year goes with what was shown beside it.
-    Show_Month(12, 2005);
-    Desktop().expected_menus.push_back({{"2003", "2004", "Current Month\\Year", "2006", "2007"}, 5, step});
-    Press_Key(form, 89);
-    EXPECT_EQ(form.Which_Month_Lbl.Caption(), "December - 2007");
-}
-
 TEST_F(Menus, of_the_title) {
-    const std::string now = "Current Month\\Year";
     struct {
         std::int16_t year;
-        std::vector<std::string> items;
+        const char *items;
         int answer;
-        std::string title;
+        const char *title;
     } const rows[] = {
-        {2002, {"2000", "2001", now, "2003", "2004"}, 1, "December - 2000"},
-        {1990, {"1988", "1989", now, "1991", "1992"}, 3, "5th March - 2002"},
-        {100, {now, "101", "102"}, 4, "December - 101"},
-        {9997, {"9995", "9996", now, "9998"}, 4, "December - 9998"},
+        {2002, "2000|2001|Current Month\\Year|2003|2004", 1, "December - 2000"},
+        {1990, "1988|1989|Current Month\\Year|1991|1992", 3, "5th March - 2002"},
+        {100, "Current Month\\Year|101|102", 4, "December - 101"},
+        {9997, "9995|9996|Current Month\\Year|9998", 4, "December - 9998"},
     };
     Start();
-    Choose_On_Title(
-        -1, {"Jan", "Feb", "- Mar", "Apr", "May", "Jun", "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"}, 12);
+    Choose_On_Title(-1, "Jan|Feb|- Mar|Apr|May|Jun|Jul|Aug|Sep|Oct|Nov|Dec", 12);
     EXPECT_EQ(form.Which_Month_Lbl.Caption(), "December - 2002");
     for (const auto &row : rows) {
         Show_Month(12, row.year);
@@ -88,30 +83,10 @@ TEST_F(Menus, of_the_title) {
         EXPECT_EQ(form.Which_Month_Lbl.Caption(), row.title);
     }
     Double_Click(form, form.Which_Month_Lbl);
-    Choose_On_Title(-1, {"Expand"}, 0);
-    EXPECT_TRUE(form.Compacted);
-    Choose_On_Title(1, {"Expand"}, 1);
-    EXPECT_FALSE(form.Compacted);
-}
-
-TEST_F(Menus, f8_steps_to_the_other_style_once_the_theme_s_style_is_off) {
-    Events({"6/3/2002=a text of several words"});
-    Start();
-    for (const Box_Answer answer : {Box_Answer::No, Box_Answer::Cancel, Box_Answer::Yes}) {
-        EXPECT_EQ(Fakes().registry_writes, 0);
-        Fakes().Expect_Box("You can't change the box style because Use Theme Style is selected. Do you want "
-                           "to turn off Use Theme Style?",
-                           answer);
-        Press_Key(form, 119);
+    for (const int answer : {0, 1}) {
+        Choose_On_Title(2 * answer - 1, "Expand", answer);
+        EXPECT_EQ(form.Compacted, answer == 0);
     }
-    EXPECT_EQ(Stored("Use Theme Style") + Stored("Style"), "00");
-    // The window still stands on the work area's edge, and its region is that of the new boxes.
-    EXPECT_EQ(form.Top() + form.Box_Lbl[35].Bounds().Bottom(), 740 * 15 - 75);
-    EXPECT_EQ(Desktop().mirrors.at(&form.Model()).clip, Seen());
-    EXPECT_EQ(Text_Of(6).find('\n'), std::string::npos);
-    form.Move(300, 450); // dragged away, it stays there
-    Press_Key(form, 120);
-    EXPECT_EQ(form.Left() + form.Top(), 750);
 }
 
 TEST_F(Menus, keys_move_the_mark_over_the_month_s_edges) {
@@ -135,7 +110,15 @@ TEST_F(Menus, keys_move_the_mark_over_the_month_s_edges) {
         EXPECT_EQ(Date_Key({form.Cur_Year, form.Cur_Month, Marked()}), Date_Key(row.to));
         EXPECT_EQ(form.Model().focused, Box_Of(row.to.day).State().index);
     }
-    Send(Input_Kind::Focus_Changed); // lost
+    Cur_Settings.Use_Theme_Style = 0;
+    for (const int key : {119, 120}) { // to the other style, and dragged away it stays there
+        EXPECT_EQ(form.Top() == 450, key == 120);
+        Press_Key(form, key);
+        EXPECT_EQ(Desktop().mirrors.at(&form.Model()).clip, Seen());
+        EXPECT_EQ(form.Top() + form.Box_Lbl[35].Bounds().Bottom() == 740 * 15 - 75, key == 119);
+        form.Move(300, 450);
+    }
+    Input(form, {.kind = Input_Kind::Focus_Changed}); // lost
     EXPECT_EQ(Marked(), 0);
 }
 
@@ -145,22 +128,16 @@ TEST_F(Menus, keys_act_on_the_marked_day_when_they_went_down_here) {
     Start();
     Press_Key(form, 46); // a mark that is not seen yet only appears
     Press_Key(form, 13);
-    platform::Input_Event up{}; // of a key that closed a message box
-    up.kind = Input_Kind::Key_Up;
-    up.key = 46;
-    form.Input(up);
+    Input(form, {.kind = Input_Kind::Key_Up, .key = 46}); // of a key that closed a message box
     EXPECT_EQ(Text_Of(5), "text");
-    Desktop().expected_menus.push_back({day_menu, 0, nullptr});
+    Desktop().expected_menus = {{day_menu, 0}, {"Expand", 1}};
     Press_Key(form, 93);
     EXPECT_EQ(form.Control_At(*Desktop().menu_at), &form.Box_Caption_Lbl[9]);
     Press_Key(form, 46);
     EXPECT_EQ(Text_Of(5) + Data_File(), "");
-    Press_Key(form, 123); // compact
-    Press_Key(form, 13);
-    EXPECT_EQ(edited, std::vector<int>{9});
-    Desktop().expected_menus.push_back({{"Expand"}, 1, nullptr});
-    Press_Key(form, 93);
-    EXPECT_EQ(Marked(), 5);
+    for (const int key : {123, 13, 93}) // compact, and out of it
+        Press_Key(form, key);
+    EXPECT_TRUE(edited == std::vector<int>{9} && Marked() == 5);
 }
 
 } // namespace

@@ -39,8 +39,8 @@ protected:
         RemoveDirectoryW(folder_.c_str());
         RegDeleteKeyW(HKEY_CURRENT_USER, win32::To_Wide(Scratch_Key() + "\\Below").c_str());
         RegDeleteKeyW(HKEY_CURRENT_USER, win32::To_Wide(Scratch_Key()).c_str());
-        if (!short_date_before_.empty())
-            SetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_SSHORTDATE, short_date_before_.c_str());
+        if (*short_date_before_ != 0)
+            SetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_SSHORTDATE, short_date_before_);
     }
 
     std::string Scratch(const std::string &name) const { return win32::From_Wide(folder_ + L"\\") + name; }
@@ -74,11 +74,8 @@ protected:
 
     /// `pattern` of d, dd, m, mm, yyyy and literals.
     void Use_Short_Date(const std::string &pattern) {
-        if (short_date_before_.empty()) {
-            wchar_t before[81] = {};
-            GetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_SSHORTDATE, before, 81);
-            short_date_before_ = before;
-        }
+        if (*short_date_before_ == 0)
+            GetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_SSHORTDATE, short_date_before_, 81);
         std::wstring wide = win32::To_Wide(pattern);
         std::replace(wide.begin(), wide.end(), L'm', L'M');
         ASSERT_TRUE(SetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_SSHORTDATE, wide.c_str()));
@@ -86,7 +83,7 @@ protected:
 
 private:
     std::wstring folder_;
-    std::wstring short_date_before_;
+    wchar_t short_date_before_[81] = {};
     std::vector<win32::Unique_File> locks_;
 };
 
@@ -109,10 +106,9 @@ protected:
     static std::vector<std::string> Names_Left() {
         const std::string folder = Scratch("");
         std::vector<std::string> names;
-        for (const auto &[path, bytes] : Fakes().files) {
+        for (const auto &[path, bytes] : Fakes().files)
             if (path.starts_with(folder))
                 names.push_back(path.substr(folder.size()));
-        }
         return names;
     }
 

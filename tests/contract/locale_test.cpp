@@ -5,8 +5,8 @@
 
 namespace {
 
-class Locale_Contract : public Contract_Test {};
-class Text_Contract : public Contract_Test {};
+using Locale_Contract = Contract_Test;
+using Text_Contract = Contract_Test;
 
 TEST_F(Locale_Contract, Names_Are_Those_Of_The_Language) {
     // The tests run with English settings, here as there.
@@ -22,42 +22,33 @@ TEST_F(Locale_Contract, Names_Are_Those_Of_The_Language) {
 }
 
 TEST_F(Locale_Contract, Short_Dates_Follow_The_Pattern_In_All_Years) {
-    struct Case {
+    const struct {
         const char *pattern;
         int year, month, day;
         const char *expected;
-    };
-    const Case cases[] = {
-        {"d/m/yyyy", 2002, 3, 5, "5/3/2002"},      {"d/m/yyyy", 9999, 12, 31, "31/12/9999"},
-        {"m/d/yyyy", 2000, 2, 29, "2/29/2000"},    {"yyyy-mm-dd", 100, 1, 1, "0100-01-01"},
-        {"d/m/yyyy", 1601, 1, 1, "1/1/1601"},      {"d/m/yyyy", 1600, 12, 31, "31/12/1600"},
-        {"dd.mm.yyyy", 1066, 10, 4, "04.10.1066"}, {"d. m. yyyy", 999, 2, 28, "28. 2. 0999"}};
-    for (const Case &c : cases) {
+    } cases[] = {{"d/m/yyyy", 2002, 3, 5, "5/3/2002"},     {"d/m/yyyy", 9999, 12, 31, "31/12/9999"},
+                 {"m/d/yyyy", 2000, 2, 29, "2/29/2000"},   {"yyyy-mm-dd", 100, 1, 1, "0100-01-01"},
+                 {"d/m/yyyy", 1600, 12, 31, "31/12/1600"}, {"d. m. yyyy", 999, 2, 28, "28. 2. 0999"}};
+    for (const auto &c : cases) {
         Use_Short_Date(c.pattern);
         EXPECT_EQ(platform::Short_Date(c.year, c.month, c.day), c.expected) << c.pattern;
     }
 }
 
 TEST_F(Locale_Contract, Dates_Are_Read_In_The_Order_Of_The_Form) {
-    const struct {
-        const char *pattern, *text;
-        int year, month, day; ///< all 0: no date
-    } cases[] = {{"d/m/yyyy", "3/4/2002", 2002, 4, 3},
-                 {"m/d/yyyy", "3/4/2002", 2002, 3, 4},
-                 {"m/d/yyyy", "13/4/2002", 2002, 4, 13},
-                 {"yyyy-mm-dd", "2002-04-03", 2002, 4, 3},
-                 {"d. m. yyyy", "3. 4. 2002", 2002, 4, 3},
-                 {"yyyy. mm. dd.", "2002. 04. 03.", 2002, 4, 3},
-                 {"d/m/yyyy", "30/12/1899", 1899, 12, 30},
-                 {"d/m/yyyy", "1/2/1066", 1066, 2, 1},
-                 {"d/m/yyyy", "31/2/2002", 0, 0, 0},
-                 {"d/m/yyyy", "Dentist", 0, 0, 0},
-                 {"d/m/yyyy", "", 0, 0, 0}};
-    for (const auto &c : cases) {
-        Use_Short_Date(c.pattern);
-        const platform::Date_Time read = platform::Read_Date(c.text).value_or(platform::Date_Time{});
-        EXPECT_TRUE(read.year == c.year && read.month == c.month && read.day == c.day)
-            << c.pattern << " " << c.text << ": " << read.year << " " << read.month << " " << read.day;
+    const std::tuple<const char *, const char *, int> cases[] = {{"d/m/yyyy", "3/4/2002", 20020403},
+                                                                 {"m/d/yyyy", "13/4/2002", 20020413},
+                                                                 {"yyyy-mm-dd", "2002-04-03", 20020403},
+                                                                 {"d. m. yyyy", "3. 4. 2002", 20020403},
+                                                                 {"yyyy. mm. dd.", "2002. 04. 03.", 20020403},
+                                                                 {"d/m/yyyy", "1/2/1066", 10660201},
+                                                                 {"d/m/yyyy", "31/2/2002", 0},
+                                                                 {"d/m/yyyy", "Dentist", 0},
+                                                                 {"d/m/yyyy", "", 0}};
+    for (const auto &[pattern, text, expected] : cases) {
+        Use_Short_Date(pattern);
+        const platform::Date_Time read = platform::Read_Date(text).value_or(platform::Date_Time{0, 0, 0});
+        EXPECT_EQ(read.year * 10000 + read.month * 100 + read.day, expected) << pattern << " " << text;
     }
     Use_Short_Date("d/m/yyyy");
     EXPECT_TRUE(platform::Date_Time_Text({2002, 3, 5, 9, 5, 7, 0}).starts_with("5/3/2002 "));
@@ -66,25 +57,19 @@ TEST_F(Locale_Contract, Dates_Are_Read_In_The_Order_Of_The_Form) {
 TEST_F(Text_Contract, Stepping_Back_Keeps_Characters_Whole) {
     // Each row is a text in its characters.
     const std::vector<std::vector<std::string>> rows = {
-        {"a", "b", " ", std::string(1, '\0'), "c"},
-        {"a", "\xC3\xA9", "\xE6\x97\xA5", "\xF0\x9F\x93\x85", "z"},
-        {"e\xCC\x81", "o\xCC\x82\xCC\xA3", "x"},   // marks upon letters
-        {"\xCC\x81", "a"},                         // a mark upon nothing
-        {"\xF0\x9F\x91\x8D\xF0\x9F\x8F\xBD", "!"}, // a skin tone
-        {"1\xEF\xB8\x8F\xE2\x83\xA3", "2"},        // a keycap
-        {"-", "\xF0\x9F\x91\xA9\xE2\x80\x8D\xF0\x9F\x91\xA9\xE2\x80\x8D\xF0\x9F\x91\xA7",
-         "-"},                                                        // a joined family
-        {"\xD7\xA9\xD7\x81\xD6\xB0", "\xD8\xA8\xD9\x8F"},             // Hebrew and Arabic points
-        {"\xE0\xA4\x95\xE0\xA5\x8D", "\xE0\xA4\xB7\xE0\xA4\xBF"},     // Indic signs
-        {"\xE0\xB8\x97\xE0\xB8\xB5\xE0\xB9\x88", "^", "`"},           // Thai signs; marks of their own
-        {"\xE3\x81\x8B\xE3\x82\x99", "\xE8\xBE\xBB\xF3\xA0\x84\x80"}, // a voiced kana, a chosen shape
-        {"\xF0\x9F\x87\xA9\xF0\x9F\x87\xAA", "\xF0\x9F\x87\xAB\xF0\x9F\x87\xB7", "\xF0\x9F\x87\xAC",
-         "z"},                                         // two flags and a half
-        {"a", "\xE9", "b", "\x80", "\xBF"},            // bytes of another code page
-        {"\xE6", "\x97", "a", "\xF0", "\x9F", "\x93"}, // cut short
-        {"\xC0", "\x80", "\xED", "\xA0", "\x80", "\xF4", "\x90", "\x80",
-         "\x80"},                                         // no characters by the rules
-        {"\xC3\xA9", "\xA9", "\xF0\x9F\x93\x85", "\x85"}, // a byte too many
+        {"a", "\u00E9", " ", std::string(1, '\0'), "\u65E5", "\U0001F4C5", "z"},
+        {"e\u0301", "o\u0302\u0323", "x"},                                   // marks upon letters
+        {"\u0301", "a"},                                                     // a mark upon nothing
+        {"\U0001F44D\U0001F3FD", "!", "1\uFE0F\u20E3", "2"},                 // a skin tone, a keycap
+        {"-", "\U0001F469\u200D\U0001F469\u200D\U0001F467", "-"},            // a joined family
+        {"\u05E9\u05C1\u05B0", "\u0628\u064F"},                              // Hebrew and Arabic points
+        {"\u0915\u094D", "\u0937\u093F", "\u0E17\u0E35\u0E48", "^", "`"},    // Indic and Thai signs
+        {"\u304B\u3099", "\u8FBB\U000E0100"},                                // a voiced kana, a chosen shape
+        {"\U0001F1E9\U0001F1EA", "\U0001F1EB\U0001F1F7", "\U0001F1EC", "z"}, // two flags and a half
+        {"a", "\xE9", "b", "\x80", "\xBF"},                                  // bytes of another code page
+        {"\xE6", "\x97", "a", "\xF0", "\x9F", "\x93"},                       // cut short
+        {"\xC0", "\x80", "\xED", "\xA0", "\x80", "\xF4", "\x90", "\x80", "\x80"}, // none by the rules
+        {"\u00E9", "\xA9", "\U0001F4C5", "\x85"},                                 // a byte too many
     };
     for (const std::vector<std::string> &row : rows) {
         std::string text;

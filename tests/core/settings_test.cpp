@@ -3,23 +3,22 @@
 #include "platform/registry.h"
 #include "tests/fakes/fake_test.h"
 
-#include <algorithm>
-
 namespace {
 
-class Settings_Test : public Fake_Test {
-protected:
-    std::string &Stored(const std::string &place) { return Fakes().registry["Software\\Vellatro\\" + place]; }
+using Settings_Test = Fake_Test;
 
-    static std::string Load_Error() {
-        try {
-            Load_Settings();
-        } catch (const Setting_Error &error) {
-            return error.what();
-        }
-        return "no error";
+std::string &Stored(const std::string &place) {
+    return Fakes().registry["Software\\Vellatro\\" + place];
+}
+
+std::string Load_Error() {
+    try {
+        Load_Settings();
+    } catch (const Setting_Error &error) {
+        return error.what();
     }
-};
+    return "no error";
+}
 
 /// Section, key and default of every setting in reading order.
 const std::string told =
@@ -35,17 +34,10 @@ const std::string told =
 TEST_F(Settings_Test, Table_And_First_Run) {
     Cur_Settings.Style = 9;
     Load_Settings();
-    std::string table, odd_names;
-    for (const Setting_Row &row : Setting_Rows()) {
+    std::string table;
+    for (const Setting_Row &row : Setting_Rows())
         table += std::string(row.section) + "\\" + row.key + "=" + Setting_Text(Cur_Settings, row) + ";";
-        // In a configuration file mostly the same, with exceptions that users' files have.
-        std::string key = row.key;
-        std::replace(key.begin(), key.end(), ' ', '_');
-        if (row.configuration_key == nullptr || row.configuration_key != key)
-            odd_names += (row.configuration_key == nullptr ? "-" : row.configuration_key) + std::string(" ");
-    }
     EXPECT_EQ(table, told);
-    EXPECT_EQ(odd_names, "TaskPos Col_Today Col_Normal Col_Fore Col_Num Col_Text Col_Back Menu_Col_Sorce - ");
     EXPECT_EQ(Fakes().registry_writes, 0);
 }
 
@@ -63,8 +55,6 @@ TEST_F(Settings_Test, Each_Setting_Is_Its_Own_Variable_And_Survives_The_Store) {
     Load_Settings();
     for (std::size_t i = 0; i < texts.size(); ++i)
         EXPECT_EQ(Setting_Text(Cur_Settings, Setting_Rows()[i]), texts[i]) << Setting_Rows()[i].key;
-    EXPECT_EQ(Stored("Colours\\Back"), "107");
-    EXPECT_EQ(Stored("Settings\\Bar Time"), "True");
 }
 
 TEST_F(Settings_Test, A_Malformed_Value_Is_Named_And_Ends_The_Loading) {
@@ -75,8 +65,7 @@ TEST_F(Settings_Test, A_Malformed_Value_Is_Named_And_Ends_The_Loading) {
     EXPECT_EQ(Load_Error(),
               "The setting \"Menu Colour Source\" in the section \"Colours\" is \"40000\", but must be a "
               "whole number from -32768 to 32767.");
-    EXPECT_EQ(Cur_Settings.Style, 2);
-    EXPECT_EQ(Cur_Settings.Col_Num, -2147483647 - 1);
+    EXPECT_TRUE(Cur_Settings.Style == 2 && Cur_Settings.Col_Num == -2147483647 - 1);
     EXPECT_EQ(Cur_Settings.Tooltips, 1);
     Fakes().registry.clear();
     // A long value is cut between whole characters.

@@ -15,16 +15,13 @@ Fake_Desktop &Desktop() {
     return desktop;
 }
 
-void Reset_Desktop() {
-    Desktop() = Fake_Desktop{};
-}
-
 Fake_Shell &Shell() {
     static Fake_Shell shell;
     return shell;
 }
 
-void Reset_Shell() {
+void Reset_Desktop() {
+    Desktop() = Fake_Desktop{};
     Shell() = Fake_Shell{};
 }
 
@@ -54,23 +51,12 @@ platform::Canvas Painted(const Form &form, const platform::Rect &clip) {
 namespace {
 
 void Mouse(Form &form, Input_Kind kind, const Control &control, Mouse_Button button) {
-    platform::Input_Event event{};
-    event.kind = kind;
-    event.button = button;
-    event.point = {control.Width() / 2, control.Height() / 2};
+    const platform::Point middle{control.Width() / 2, control.Height() / 2};
     // Controls of dialogs have windows of their own.
     if (form.Model().kind == platform::Form_Kind::Dialog)
-        event.control = control.State().index;
-    else
-        event.point = {event.point.x + control.Left(), event.point.y + control.Top()};
-    form.Model().input(event);
-}
-
-platform::Input_Event Event_Of(const Control &control, Input_Kind kind) {
-    platform::Input_Event event{};
-    event.kind = kind;
-    event.control = control.State().index;
-    return event;
+        return Input(form, {.kind = kind, .point = middle, .button = button}, &control);
+    Input(form,
+          {.kind = kind, .point = {middle.x + control.Left(), middle.y + control.Top()}, .button = button});
 }
 
 /// The native window that something is told to or done with: there must be one.
@@ -80,6 +66,12 @@ Fake_Mirror &Mirror_Of(const platform::Form_Model &model) {
 }
 
 } // namespace
+
+void Input(Form &form, platform::Input_Event event, const Control *control) {
+    if (control != nullptr)
+        event.control = control->State().index;
+    form.Model().input(event);
+}
 
 void Press(Form &form, const Control &control, Mouse_Button button) {
     Mouse(form, Input_Kind::Mouse_Down, control, button);
@@ -101,40 +93,20 @@ void Double_Click(Form &form, const Control &control) {
 }
 
 void Press_Key(Form &form, int key) {
-    platform::Input_Event event{};
-    event.key = key;
-    event.kind = Input_Kind::Key_Down;
-    form.Model().input(event);
-    event.kind = Input_Kind::Key_Up;
-    form.Model().input(event);
-}
-
-void Tell(Form &form, Input_Kind kind) {
-    platform::Input_Event event{};
-    event.kind = kind;
-    form.Model().input(event);
+    for (const Input_Kind kind : {Input_Kind::Key_Down, Input_Kind::Key_Up})
+        Input(form, {.kind = kind, .key = key});
 }
 
 void Push(Form &form, const Control &control, bool checked) {
-    platform::Input_Event event = Event_Of(control, Input_Kind::Clicked);
-    event.checked = checked;
-    form.Model().input(event);
+    Input(form, {.kind = Input_Kind::Clicked, .checked = checked}, &control);
 }
 
 void Enter_Text(Form &form, const Control &control, const std::string &text) {
-    platform::Input_Event event = Event_Of(control, Input_Kind::Text_Changed);
-    event.text = text;
-    form.Model().input(event);
+    Input(form, {.kind = Input_Kind::Text_Changed, .text = text}, &control);
 }
 
 void Choose(Form &form, const Control &control, int item, Input_Kind kind) {
-    platform::Input_Event event = Event_Of(control, kind);
-    event.selected = item;
-    form.Model().input(event);
-}
-
-void Activate(Form &form, const Control &control) {
-    form.Model().input(Event_Of(control, Input_Kind::Item_Activated));
+    Input(form, {.kind = kind, .selected = item}, &control);
 }
 
 namespace platform {
@@ -179,26 +151,24 @@ void Bring_To_Front(Form_Model &model) {
 }
 
 void Fill_Rect(Canvas &canvas, const Rect &rect, Colour colour) {
-    canvas.operations.push_back({Canvas_Operation::Kind::Fill, rect, colour, {}, {}, {}});
+    canvas.operations.push_back({Canvas_Operation::Kind::Fill, rect, colour});
 }
 
 void Frame_Rect(Canvas &canvas, const Rect &rect, Colour colour, int) {
-    canvas.operations.push_back({Canvas_Operation::Kind::Frame, rect, colour, {}, {}, {}});
+    canvas.operations.push_back({Canvas_Operation::Kind::Frame, rect, colour});
 }
 
-void Fill_Polygon(Canvas &canvas, const std::vector<Point> &corners, Colour colour) {
-    canvas.operations.push_back({Canvas_Operation::Kind::Polygon, {}, colour, {}, corners, {}});
+void Fill_Polygon(Canvas &canvas, const std::vector<Point> &, Colour colour) {
+    canvas.operations.push_back({Canvas_Operation::Kind::Polygon, {}, colour});
 }
 
 void Draw_Text(Canvas &canvas, std::string_view text, const Rect &rect, const Font &, Colour colour,
                Text_Align align) {
-    canvas.operations.push_back(
-        {Canvas_Operation::Kind::Text, rect, colour, std::string(text), {}, align, {}});
+    canvas.operations.push_back({Canvas_Operation::Kind::Text, rect, colour, std::string(text), align});
 }
 
-void Draw_Picture(Canvas &canvas, const Picture &picture, const Rect &rect) {
-    canvas.operations.push_back(
-        {Canvas_Operation::Kind::Picture, rect, 0, {}, {}, Text_Align::Left, picture});
+void Draw_Picture(Canvas &canvas, const Picture &, const Rect &rect) {
+    canvas.operations.push_back({Canvas_Operation::Kind::Picture, rect});
 }
 
 int Text_Width(std::string_view text, const Font &) {
@@ -223,7 +193,7 @@ int Dots_Per_Inch() {
 }
 
 Size Screen_Size() {
-    return Desktop().screen;
+    return {1024, 768};
 }
 
 Rect Work_Area() {
@@ -248,40 +218,22 @@ Point Mouse_Position() {
 
 int Track_Popup_Menu(Form_Model &, const std::vector<Menu_Item> &items, const Point *at) {
     Desktop().menu_at = at == nullptr ? std::nullopt : std::optional(*at);
-    const auto open = [](const auto &what_happens) {
-        Desktop().menu_open = true;
-        what_happens();
-        Desktop().menu_open = false;
-    };
-    int chosen = 0;
-    if (Desktop().choose)
-        return open([&] { chosen = Desktop().choose(items); }), chosen;
-    std::vector<std::string> texts;
-    std::string shown;
-    for (const Menu_Item &item : items) {
-        // A greyed item is told by brackets.
-        texts.push_back(item.enabled ? item.text : "(" + item.text + ")");
-        shown += "[" + texts.back() + "]";
-    }
+    std::string texts;
+    for (const Menu_Item &item : items)
+        texts += (texts.empty() ? "" : "|") + (item.enabled ? item.text : "(" + item.text + ")");
     auto &expected = Desktop().expected_menus;
-    if (expected.empty() || expected.front().texts != texts) {
-        Require(false, "an unexpected menu: " + shown);
+    const Expected_Menu menu = expected.empty() ? Expected_Menu{"none"} : expected.front();
+    Require(menu.texts == texts, "an unexpected menu: " + texts + "\nexpected: " + menu.texts);
+    if (menu.texts != texts)
         return 0;
-    }
-    const Expected_Menu menu = expected.front();
     expected.pop_front();
     if (menu.meanwhile)
-        open(menu.meanwhile);
-    for (const Menu_Item &item : items)
-        Require(item.id != menu.answer || item.enabled, "a greyed item was chosen: " + item.text);
+        Desktop().menu_open = true, menu.meanwhile();
+    Desktop().menu_open = false;
     return menu.answer;
 }
 
 void Run_Message_Loop() {
-    Desktop().loop_ended = false;
-    if (Desktop().in_the_loop)
-        Desktop().in_the_loop();
-    Require(Desktop().loop_ended, "the message loop never ends");
 }
 
 void End_Message_Loop() {
@@ -299,12 +251,9 @@ void Process_Waiting_Messages() {
 void Wait_For_Messages(unsigned milliseconds) {
     // Sleeping moves the clock on, in steps as messages would end it.
     const unsigned step = std::min(milliseconds, 50U);
-    const auto carry = [](int &low, int count, int &high) {
-        high += low / count;
-        low %= count;
-    };
     Date_Time &now = Fakes().now;
     now.millisecond += static_cast<int>(step);
+    const auto carry = [](int &low, int count, int &high) { high += low / count, low %= count; };
     carry(now.millisecond, 1000, now.second);
     carry(now.second, 60, now.minute);
     carry(now.minute, 60, now.hour);
@@ -327,7 +276,7 @@ void Listen_To_Broadcasts(Callback<bool(Broadcast)> listener) {
 }
 
 bool Claim_Single_Instance(const std::string &) {
-    return Desktop().first_instance;
+    return true;
 }
 
 Shell_Window Find_Desktop_Window() {
@@ -356,9 +305,7 @@ void Attach_To_Desktop(Form_Model &model, Shell_Window desktop) {
     if (Shell().dots_inside == 0 || Shell().dots_inside == Desktop().dots_per_inch)
         return;
     Desktop().dots_per_inch = Shell().dots_inside;
-    Input_Event event{};
-    event.kind = Input_Kind::Dots_Changed;
-    model.input(event);
+    model.input({.kind = Input_Kind::Dots_Changed});
 }
 
 void Open_Web_Page(const char *address) {

@@ -17,12 +17,10 @@ class Form;
 struct Canvas_Operation {
     enum class Kind { Fill, Frame, Polygon, Text, Picture };
     Kind kind;
-    platform::Rect rect;
+    platform::Rect rect{};
     platform::Colour colour = 0;
-    std::string text;
-    std::vector<platform::Point> corners;
+    std::string text{};
     platform::Text_Align align = platform::Text_Align::Left;
-    platform::Picture picture = {};
 };
 
 struct platform::Canvas {
@@ -46,9 +44,9 @@ struct Fake_Mirror {
 
 /// A popup menu that a test expects, in its turn.
 struct Expected_Menu {
-    std::vector<std::string> texts; ///< greyed ones in brackets
+    std::string texts; ///< parted by "|", greyed ones in brackets
     int answer = 0;
-    std::function<void()> meanwhile; ///< what happens while the menu is open; timers wait
+    std::function<void()> meanwhile{}; ///< what happens while the menu is open; timers wait
 };
 
 struct Fake_Timer {
@@ -58,12 +56,10 @@ struct Fake_Timer {
 
 struct Fake_Desktop {
     int dots_per_inch = 96;
-    platform::Size screen{1024, 768};
     platform::Rect work_area{0, 0, 1024, 740};
     platform::Point mouse;
     bool button_held = false;
     bool high_contrast = false;
-    bool first_instance = true;
     bool refuses_windows = false; ///< no form gets a native window
     int char_width = 100;         ///< twips of every character
 
@@ -74,15 +70,12 @@ struct Fake_Desktop {
     unsigned time = 0;
     platform::Callback<bool(platform::Broadcast)> listener;
     bool loop_ended = false;
-    std::function<void()> in_the_loop; ///< what happens while the message loop runs
-
     std::deque<std::function<void()>> messages; ///< processed one by one while the program waits
 
     std::deque<Expected_Menu> expected_menus;
     bool menu_open = false;
-    std::function<int(const std::vector<platform::Menu_Item> &)> choose; ///< answers all menus instead
-    std::optional<platform::Point> menu_at;                              ///< where the last menu was to open
-    int measured = 0;                                                    ///< calls of Text_Width
+    std::optional<platform::Point> menu_at; ///< where the last menu was to open
+    int measured = 0;                       ///< calls of Text_Width
 
     /// Lets the time pass, with the timers' ticks in their order.
     void Advance(unsigned milliseconds);
@@ -91,7 +84,6 @@ struct Fake_Desktop {
 
 /// The one faked desktop.
 Fake_Desktop &Desktop();
-void Reset_Desktop();
 
 /// The faked shell: which of its windows there are, what its icon list answers, and what was attached to it.
 struct Fake_Shell {
@@ -106,26 +98,27 @@ struct Fake_Shell {
 
 /// The one faked shell.
 Fake_Shell &Shell();
-void Reset_Shell();
+
+/// Makes the desktop and the shell new.
+void Reset_Desktop();
 
 /// Paints the form as its window would.
 platform::Canvas Painted(const Form &form, const platform::Rect &clip);
 
-// What a user does. Points are in the middle of the control.
+/// What a user does; with a control the event is about that one. A disabled or hidden one takes nothing.
+void Input(Form &form, platform::Input_Event event, const Control *control = nullptr);
+
+// In the middle of the control.
 void Press(Form &form, const Control &control, platform::Mouse_Button button = platform::Mouse_Button::Left);
 void Release(Form &form, const Control &control,
              platform::Mouse_Button button = platform::Mouse_Button::Left);
 void Click(Form &form, const Control &control, platform::Mouse_Button button = platform::Mouse_Button::Left);
 void Double_Click(Form &form, const Control &control);
 void Press_Key(Form &form, int key);
-/// What has no place: the close box, a lost window and the like.
-void Tell(Form &form, platform::Input_Kind kind);
 
-// The same for the native controls of dialogs. A disabled or hidden one takes nothing, as in a real window.
+// The same for the native controls of dialogs.
 void Push(Form &form, const Control &control, bool checked = false);
 void Enter_Text(Form &form, const Control &control, const std::string &text);
 /// Of a slider the value; kind Scrolled while it is moved.
 void Choose(Form &form, const Control &control, int item,
             platform::Input_Kind kind = platform::Input_Kind::Selected);
-/// A double click on the chosen item.
-void Activate(Form &form, const Control &control);

@@ -76,7 +76,9 @@ std::string Month_Name(int month) {
 }
 
 std::string Weekday_Name(int weekday) {
-    return Fakes().weekdays.at(static_cast<std::size_t>(weekday));
+    constexpr const char *names[] = {"Sunday",   "Monday", "Tuesday", "Wednesday",
+                                     "Thursday", "Friday", "Saturday"};
+    return names[weekday];
 }
 
 std::string Short_Weekday_Name(int weekday) {
@@ -113,37 +115,27 @@ std::string Date_Time_Text(const Date_Time &time) {
 
 // Three numbers in the order of the pattern; where they are no date so, day and month change places.
 std::optional<Date_Time> Read_Date(std::string_view text) {
-    if (text.ends_with('.'))
-        text.remove_suffix(1);
-    std::array<int, 3> numbers{};
-    std::size_t count = 0, at = 0;
-    while (at < text.size() && count < 3) {
-        const std::size_t digit = text.find_first_of("0123456789", at);
-        const std::size_t end = std::min(text.find_first_not_of("0123456789", digit), text.size());
-        if (digit == std::string_view::npos || end - digit > 4)
-            return std::nullopt;
-        numbers[count++] = std::atoi(std::string(text.substr(digit, end - digit)).c_str());
-        at = end;
-    }
+    std::string digits(text);
+    std::replace_if(
+        digits.begin(), digits.end(), [](char c) { return c < '0' || c > '9'; }, ' ');
     const std::string &pattern = Fakes().short_date_pattern;
-    const std::array<std::size_t, 3> places{pattern.find('y'), pattern.find('m'), pattern.find('d')};
-    std::array<int *, 3> parts{};
-    Date_Time date;
-    int *const fields[] = {&date.year, &date.month, &date.day};
-    for (std::size_t i = 0; i < 3; ++i)
-        parts[static_cast<std::size_t>(std::count_if(
-            places.begin(), places.end(), [&](std::size_t p) { return p < places[i]; }))] = fields[i];
-    for (std::size_t i = 0; i < 3; ++i)
-        *parts[i] = numbers[i];
+    std::map<std::size_t, int> numbers{
+        {pattern.find('y'), 0}, {pattern.find('m'), 0}, {pattern.find('d'), 0}};
+    std::size_t at = 0;
+    for (auto &[place, number] : numbers) {
+        at = std::min(digits.find_first_not_of(' ', at), digits.size());
+        number = std::atoi(digits.c_str() + at);
+        at = std::min(digits.find(' ', at), digits.size());
+    }
+    Date_Time date{numbers[pattern.find('y')], numbers[pattern.find('m')], numbers[pattern.find('d')]};
     if (date.month > 12 && date.day <= 12)
         std::swap(date.month, date.day);
     if (date.year < 100)
         date.year += date.year < 30 ? 2000 : 1900;
-    const bool valid =
-        count == 3 && at == text.size() && date.month >= 1 && date.month <= 12 && date.day >= 1 &&
-        date.day <=
-            DaysInMonth({static_cast<std::int16_t>(date.year), static_cast<std::int16_t>(date.month), 1});
-    return valid ? std::optional(date) : std::nullopt;
+    if (date.year > 9999 || date.month < 1 || date.month > 12 || date.day < 1)
+        return std::nullopt;
+    const Date first{static_cast<std::int16_t>(date.year), static_cast<std::int16_t>(date.month), 1};
+    return date.day <= DaysInMonth(first) ? std::optional(date) : std::nullopt;
 }
 
 // UTF-8, whatever the building machine's own encoding is.
@@ -170,9 +162,8 @@ bool Folder_Exists(const std::string &path) {
 std::vector<std::string> Names_In_Folder(const std::string &folder, Listed listed) {
     std::set<std::string, Name_Less> names;
     const auto add = [&](const std::string &path, bool is_folder) {
-        const std::string begin = folder + "\\";
-        if (path.size() <= begin.size() || Name_Less()(path.substr(0, begin.size()), begin) ||
-            Name_Less()(begin, path.substr(0, begin.size())))
+        const std::string begin = folder + "\\", own = path.substr(0, begin.size());
+        if (path.size() <= begin.size() || Name_Less()(own, begin) || Name_Less()(begin, own))
             return;
         const std::size_t separator = path.find('\\', begin.size());
         is_folder = is_folder || separator != std::string::npos;
@@ -194,7 +185,7 @@ void Delete_File(const std::string &path) {
 Date_Time Modified_Time(const std::string &path) {
     if (!File_Exists(path))
         throw File_Error(path + " is not there");
-    return Fakes().modified;
+    return {2002, 2, 1, 9, 5, 0, 0};
 }
 
 Picture Load_Picture(const std::string &path) {
@@ -251,51 +242,28 @@ void Write_User_Value(std::string_view key, std::string_view name, std::string_v
     Fakes().registry[Path(key, name)] = text;
 }
 
-namespace {
-
-constexpr const char *root_names[] = {"", "HKCU", "HKLM", "HKU", "HKDD", "HKCC", "HKCR"};
-
-void Store(std::string_view root, const std::string &value, const Registry_Value &content) {
-    const auto *text = std::get_if<std::string>(&content);
-    Fakes().other_values.erase(Path(root, value));
-    if (root != "HKCU" || text == nullptr)
-        Fakes().other_values[Path(root, value)] = content;
-    if (root == "HKCU" && text != nullptr)
-        Fakes().registry[value] = *text;
-    else if (root == "HKCU")
-        Fakes().registry.erase(value);
-}
-
-} // namespace
+// Values outside HKEY_CURRENT_USER have the root's name before; those that are no texts are not kept.
 
 Registry_Root Find_Registry_Root(std::string_view name) {
-    const auto *const root = std::find(std::begin(root_names), std::end(root_names), name);
-    return root == std::end(root_names) ? 0 : static_cast<Registry_Root>(root - root_names);
+    return name == "HKCU" ? 1 : 0;
 }
 
-Registry_Value Registry_Read(std::string_view root_name, std::string_view key, std::string_view name,
-                             char type_letter, const Registry_Value &standard) {
-    const std::size_t type = std::string("SBD").find(static_cast<char>(std::toupper(type_letter)));
-    const auto value = Fakes().other_values.find(Path(root_name, Path(key, name)));
-    if (value != Fakes().other_values.end())
-        return value->second.index() == type ? value->second : standard;
-    const std::optional<std::string> text = Read_User_Value(key, name);
-    return root_name == "HKCU" && type == 0 && text ? Registry_Value(*text) : standard;
+Registry_Value Registry_Read(std::string_view root_name, std::string_view key, std::string_view name, char,
+                             const Registry_Value &standard) {
+    const auto text = Read_User_Value(root_name == "HKCU" ? std::string(key) : Path(root_name, key), name);
+    return text ? Registry_Value(*text) : standard;
 }
 
-void Registry_Write(std::string_view root_name, std::string_view key, std::string_view name, char type_letter,
+void Registry_Write(std::string_view root_name, std::string_view key, std::string_view name, char,
                     const Registry_Value &value) {
-    if (Find_Registry_Root(root_name) == 0 || Fakes().registry_refuses_writes)
-        return;
-    Fakes().registry_keys.insert(Path(root_name, key));
-    if (type_letter == "SBD"[value.index()])
-        Store(root_name, Path(key, name), value);
+    Registry_Write_String(1, root_name == "HKCU" ? std::string(key) : Path(root_name, key), name,
+                          std::get<std::string>(value));
 }
 
 void Registry_Write_String(Registry_Root root, std::string_view key, std::string_view name,
                            std::string_view text) {
-    if (root != 0 && Fakes().registry_keys.contains(Path(root_names[root], key)))
-        Store(root_names[root], Path(key, name), std::string(text));
+    if (root != 0 && !Fakes().registry_refuses_writes)
+        Fakes().registry[Path(key, name)] = text;
 }
 
 Box_Answer Message_Box(std::string_view text, std::string_view title, Box_Icon icon, Box_Buttons buttons) {

@@ -50,8 +50,6 @@ struct Fake_System {
     int first_weekday = 0;
     std::array<std::string, 12> months{"January", "February", "March",     "April",   "May",      "June",
                                        "July",    "August",   "September", "October", "November", "December"};
-    std::array<std::string, 7> weekdays{"Sunday",   "Monday", "Tuesday", "Wednesday",
-                                        "Thursday", "Friday", "Saturday"};
     /// Of d, dd, m, mm, yy and yyyy; all else stands for itself.
     std::string short_date_pattern = "d/m/yyyy";
 
@@ -66,11 +64,8 @@ struct Fake_System {
     int loads = 0;                                                ///< calls of Load_Picture
     std::vector<std::string> wallpapers;                          ///< all that were set
 
-    /// Texts of HKEY_CURRENT_USER: key, "\" and value name to text.
+    /// Key, "\" and value name to text; of HKEY_LOCAL_MACHINE with "HKLM\" before.
     std::map<std::string, std::string, Name_Less> registry;
-    /// All other values, with the root's name and "\" before; and keys that are there without any.
-    std::map<std::string, platform::Registry_Value, Name_Less> other_values;
-    std::set<std::string, Name_Less> registry_keys{"HKCU\\Control Panel\\Desktop"};
     bool registry_refuses_writes = false;
     int registry_writes = 0; ///< calls of Write_User_Value, failed ones too
 
@@ -79,9 +74,8 @@ struct Fake_System {
     bool any_box = false;         ///< unexpected boxes are no failure; they get the answer that changes least
 
     std::deque<Expected_Dialog> expected_dialogs;
-    platform::Date_Time modified{2002, 2, 1, 9, 5, 0, 0}; ///< when all files were written last
-    unsigned milliseconds = 0;                            ///< of the clock that only counts
-    unsigned clock_step = 0;                              ///< what each look at that clock adds to it
+    unsigned milliseconds = 0;      ///< of the clock that only counts
+    unsigned clock_step = 0;        ///< what each look at that clock adds to it
     std::function<void()> painting; ///< what happens when a long piece of work lets windows be painted
 
     std::function<void(const std::string &message)> on_failure; ///< takes what the fakes find wrong

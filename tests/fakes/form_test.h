@@ -6,9 +6,6 @@
 
 class Form_Test : public Fake_Test {
 protected:
-    Form_Test() {
-        Reset_Desktop();
-        Reset_Shell();
-    }
+    Form_Test() { Reset_Desktop(); }
     ~Form_Test() override { EXPECT_TRUE(Desktop().expected_menus.empty()) << "an expected menu never came"; }
 };

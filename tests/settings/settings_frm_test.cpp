@@ -20,22 +20,20 @@ protected:
 };
 
 TEST_F(Settings_Window, opens_at_the_stored_tab_and_stores_the_last_one_however_it_ends) {
-    const std::pair<std::function<void()>, const char *> ends[] = {
-        {[this] { Push(*dialog, dialog->Ok_Btn); }, "OK"},
-        {[this] { Push(*dialog, dialog->Cancel_Btn); }, "Cancel"},
-        {[this] { Tell(*dialog, Input_Kind::Close); }, "close box"},
-        {[this] {
-             Desktop().mirrors.erase(&dialog->Model());
-             Tell(*dialog, Input_Kind::Window_Lost);
-         },
-         "lost"},
-        {[] { Desktop().Say(Broadcast::Session_Over); }, "session"},
-        {[this] { form.Close_Settings(); }, "program"},
+    const std::function<void()> ends[] = {
+        [this] { Push(*dialog, dialog->Ok_Btn); },
+        [this] { Push(*dialog, dialog->Cancel_Btn); },
+        [this] { Input(*dialog, {.kind = Input_Kind::Close}); },
+        [this] {
+            Desktop().mirrors.erase(&dialog->Model());
+            Input(*dialog, {.kind = Input_Kind::Window_Lost});
+        },
+        [] { Desktop().Say(Broadcast::Session_Over); },
+        [this] { form.Close_Settings(); }, // as the program's end does
     };
     std::int16_t tab = 1;
-    for (const auto &[end, name] : ends) {
-        SCOPED_TRACE(name);
-        Stored("Settings Tab") = "?";
+    for (const auto &end : ends) {
+        SCOPED_TRACE(tab);
         form.Compact_Timer.Set_Enabled(false);
         Cur_Settings.Auto_Compact = tab % 2 == 0;
         form.Compacted = tab == 4;
@@ -43,8 +41,9 @@ TEST_F(Settings_Window, opens_at_the_stored_tab_and_stores_the_last_one_however_
         form.Open_Settings();
         EXPECT_EQ(Pages(), std::to_string(tab - 1));
         Choose(*dialog, dialog->TabStrip1, tab);
-        EXPECT_EQ(Pages(), std::to_string(tab));
-        EXPECT_TRUE(form.Settings_Visible());
+        const Settings_Frm *first = dialog.get();
+        form.Open_Settings();
+        EXPECT_TRUE(form.Settings_Visible() && dialog.get() == first && Pages() == std::to_string(tab));
         // The calendar is blocked and its countdown sees the dialog.
         Press_Key(form, Key_F2);
         form.Compact_Timer_Timer();
@@ -57,118 +56,79 @@ TEST_F(Settings_Window, opens_at_the_stored_tab_and_stores_the_last_one_however_
         EXPECT_EQ(form.Cur_Month, 2);
         Press_Key(form, Key_F4);
     }
-    for (const int odd : {-5, 0, 9, 32767}) {
-        Cur_Settings.Settings_Tab = static_cast<std::int16_t>(odd);
+    for (const std::int16_t odd : std::initializer_list<std::int16_t>{-5, 0, 9, 32767}) {
+        Cur_Settings.Settings_Tab = odd;
         form.Open_Settings();
         EXPECT_EQ(Pages(), "0");
+        EXPECT_FALSE(dialog->General.Alert_Chk.Checked()) << "left from the former dialog";
+        Push(*dialog, dialog->General.Alert_Chk, true);
         form.Close_Settings();
     }
-}
-
-TEST_F(Settings_Window, is_one_and_a_new_one_has_nothing_of_the_former) {
-    Open(Settings_Frm::about_fra);
-    const Settings_Frm *first = dialog.get();
-    Push(*dialog, dialog->General.Alert_Chk, true);
-    form.Open_Settings();
-    EXPECT_EQ(dialog.get(), first);
-    Choose(*dialog, dialog->TabStrip1, Settings_Frm::general_fra);
-    Push(*dialog, dialog->General.Alert_Chk, true);
-    EXPECT_TRUE(dialog->General.Alert_Chk.Checked());
-    form.Close_Settings();
-    form.Open_Settings();
-    EXPECT_EQ(Pages(), "2");
-    EXPECT_FALSE(dialog->General.Alert_Chk.Checked());
-    for (int i = 0; i < Settings_Frm::page_count; ++i)
-        EXPECT_EQ(dialog->Settings_Fra[i].Left(), 225);
-    EXPECT_TRUE(dialog->Width() == 5730 && dialog->Height() == dialog->TabStrip1.Bounds().Bottom() + 420);
 }
 
 TEST_F(Settings_Window, previews_the_title_without_touching_a_setting) {
     General_Page &page = Open(Settings_Frm::general_fra).General;
     const int writes = Fakes().registry_writes;
-    EXPECT_EQ(page.Bar_Preview_Lbl.Caption(), "5th March - 2002");
-    Choose(*dialog, page.Bar_Time_Cbo, 5); // without the time
-    EXPECT_EQ(page.Bar_Preview_Lbl.Caption(), "5th March - 2002");
-    Push(*dialog, page.Bar_Time_Chk, true);
-    EXPECT_EQ(page.Bar_Preview_Lbl.Caption(), "10:30:00 AM - 5th March - 2002");
+    for (const bool with_time : {false, true}) {
+        Push(*dialog, page.Bar_Time_Chk, with_time);
+        Choose(*dialog, page.Bar_Time_Cbo, 5);
+        EXPECT_EQ(page.Bar_Preview_Lbl.Caption(),
+                  with_time ? "10:30:00 AM - 5th March - 2002" : "5th March - 2002");
+    }
     Enter_Text(*dialog, page.Bar_Time_Cbo, "H.mm:ss");
     Enter_Text(*dialog, page.Bar_Date_Cbo, "no format");
-    EXPECT_EQ(page.Bar_Preview_Lbl.Caption(), "10.30:00 - Tuesday 5th March - 2002");
     Fakes().now.second = 7;
     Desktop().Advance(1000);
     EXPECT_EQ(page.Bar_Preview_Lbl.Caption(), "10.30:07 - Tuesday 5th March - 2002");
     Push(*dialog, page.Bar_Time_Chk, false);
-    Fakes().now.day = 6;
-    Desktop().Advance(1000);
-    EXPECT_EQ(page.Bar_Preview_Lbl.Caption(), "Wednesday 6th March - 2002");
-    Choose(*dialog, dialog->TabStrip1, Settings_Frm::about_fra);
-    Fakes().now.day = 7;
-    Desktop().Advance(1000);
-    EXPECT_EQ(page.Bar_Preview_Lbl.Caption(), "Wednesday 6th March - 2002");
-    EXPECT_EQ(Fakes().registry_writes, writes);
+    for (const int tab : {Settings_Frm::general_fra, Settings_Frm::about_fra}) { // not while it is unseen
+        Choose(*dialog, dialog->TabStrip1, tab);
+        ++Fakes().now.day;
+        Desktop().Advance(1000);
+        EXPECT_EQ(page.Bar_Preview_Lbl.Caption(), "Wednesday 6th March - 2002");
+    }
     form.Set_Back_Colour(123); // as Apply does
     Choose(*dialog, dialog->TabStrip1, Settings_Frm::general_fra);
     EXPECT_EQ(page.Bar_Preview_Lbl.Back_Colour(), 123);
+    EXPECT_EQ(Fakes().registry_writes, writes);
     EXPECT_EQ(Cur_Settings.Bar_Date_Format, "d Month - yyyy");
 }
 
 TEST_F(Settings_Window, shows_the_example_balloon_while_the_left_button_is_held) {
-    const auto close = [this] {
+    Label Tooltips_Page::*const examples[] = {&Tooltips_Page::TipExample_Lbl,
+                                              &Tooltips_Page::TipBoxExample_Lbl};
+    for (Label Tooltips_Page::*label : examples)
+        for (const int kind : {0, 1, 2}) {
+            Tooltips_Page &now = Open(Settings_Frm::tooltips_fra).Tooltips;
+            Push(*dialog, now.Tips_Opt[kind], true);
+            EXPECT_EQ((now.*label).Tooltip(), kind == 1 ? "This is an example." : "");
+            Press(*dialog, now.*label);
+            EXPECT_EQ(form.Balloon_Showing(), kind == 2);
+            Release(*dialog, now.*label);
+            EXPECT_FALSE(form.Balloon_Showing());
+        }
+    Label &example = dialog->Tooltips.TipExample_Lbl;
+    const int at = form.Balloon.Left();
+    Input(*dialog, {.kind = Input_Kind::Moved, .point = {dialog->Left() - 900, dialog->Top()}});
+    Press(*dialog, example);
+    EXPECT_EQ(form.Balloon.Left(), at - 900) << "it goes with a dialog that the user moves";
+    EXPECT_EQ(form.Balloon.Title_Lbl.Caption(), "5/3/2002");
+    Input(*dialog, {.kind = Input_Kind::Capture_Lost});
+    Press(*dialog, example, Mouse_Button::Right);
+    EXPECT_FALSE(form.Balloon_Showing());
+    Desktop().messages.push_back([this] {
         Push(*dialog, dialog->Cancel_Btn);
         form.Open_Settings(); // must not put a new one into the place of one that still waits
-        EXPECT_FALSE(form.Settings_Visible());
-    };
-    const struct {
-        int kind;
-        Mouse_Button button;
-        bool shows, tooltip;
-        std::function<void()> meanwhile;
-    } rows[] = {
-        {0, Mouse_Button::Left, false, false, nullptr},
-        {1, Mouse_Button::Left, false, true, nullptr},
-        {2, Mouse_Button::Right, false, false, nullptr},
-        {2, Mouse_Button::Left, true, false, nullptr},
-        {2, Mouse_Button::Left, false, false, [this] { Release(*dialog, dialog->Tooltips.TipExample_Lbl); }},
-        {2, Mouse_Button::Left, false, false, close},
-    };
-    for (Label Tooltips_Page::*label : {&Tooltips_Page::TipExample_Lbl, &Tooltips_Page::TipBoxExample_Lbl})
-        for (const auto &row : rows) {
-            SCOPED_TRACE(row.kind);
-            Tooltips_Page &now = Open(Settings_Frm::tooltips_fra).Tooltips;
-            Label &example = now.*label;
-            Push(*dialog, now.Tips_Opt[row.kind], true);
-            EXPECT_EQ(example.Tooltip(), row.tooltip ? "This is an example." : "");
-            if (row.meanwhile)
-                Desktop().messages.push_back(row.meanwhile);
-            const int left = dialog->Left();
-            Press(*dialog, example, row.button);
-            EXPECT_EQ(form.Balloon_Showing(), row.shows);
-            if (row.shows) { // and it goes with a dialog that the user moves
-                const int at = form.Balloon.Left();
-                Tell(*dialog, Input_Kind::Capture_Lost);
-                platform::Input_Event moved{};
-                moved.kind = Input_Kind::Moved;
-                moved.point = {left - 900, dialog->Top()};
-                dialog->Input(moved);
-                Press(*dialog, example, row.button);
-                EXPECT_EQ(form.Balloon.Left(), at - 900);
-            }
-            EXPECT_EQ(form.Balloon.Title_Lbl.Caption(), row.shows ? "5/3/2002" : "");
-            Tell(*dialog, Input_Kind::Capture_Lost);
-            EXPECT_FALSE(form.Balloon_Showing());
-            form.Balloon.Title_Lbl.Set_Caption("");
-        }
+    });
+    Press(*dialog, example);
+    EXPECT_FALSE(form.Balloon_Showing() || form.Settings_Visible());
 }
 
 TEST_F(Settings_Window, opens_the_authors_page_by_mouse_and_keyboard) {
     About_Page &page = Open(Settings_Frm::about_fra).About;
     Double_Click(*dialog, page.Link_Lbl); // opens it once
     Push(*dialog, page.Link_Lbl);         // the space bar
-    platform::Input_Event enter{};
-    enter.kind = Input_Kind::Key_Down;
-    enter.control = page.Link_Lbl.State().index;
-    enter.key = Key_Return;
-    dialog->Input(enter);
+    Input(*dialog, {.kind = Input_Kind::Key_Down, .key = Key_Return}, &page.Link_Lbl);
     EXPECT_EQ(Shell().web_pages.size(), 3U);
 }
 

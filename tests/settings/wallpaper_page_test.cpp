@@ -25,7 +25,7 @@ protected:
     }
     /// Month m has the value text 0-m-1 and a picture that is m pixels wide.
     static void Make_Pack(const std::string &pack, const std::string &more_details = {}) {
-        std::string &ini = Fakes().files[Path(pack, "settings.ini")];
+        std::string &ini = Fakes().files[Path(pack, "settings.ini")] = "";
         for (int month = 1; month <= 12; ++month) {
             const std::string path = Path(pack, std::to_string(month) + ".jpg");
             Fakes().files[path] = "a picture";
@@ -54,8 +54,8 @@ protected:
         Desktop().Advance(50);
     }
     std::string Details() {
-        return Page().Theme_Display_Lbl.Caption() + "|" + Page().Theme_Style_Lbl.Caption() + "|" +
-               Page().Theme_Pos_Lbl.Caption();
+        return Page().Packs_Cbo.Text() + "|" + Page().Theme_Display_Lbl.Caption() + "|" +
+               Page().Theme_Style_Lbl.Caption() + "|" + Page().Theme_Pos_Lbl.Caption();
     }
     bool Choices_Enabled() {
         EXPECT_EQ(Page().Packs_Cbo.Enabled(), Page().Preview_Sli.Enabled());
@@ -65,59 +65,44 @@ protected:
 };
 
 TEST_F(Themes_Page, shows_what_the_selected_pack_says) {
-    struct {
-        const char *march, *details;
-        bool usable; ///< by the calendar
-    } const rows[] = {
-        {"3=1-4-2", "Display: Stretch|Box Style: Square Box|Position: Top Right", true},
-        {"3=0-7-0", "Display: Center|Box Style: Thin Box|Position: ", true},
-        {"3=2-10-3", "Display: |Box Style: |Position: ", true},
-        {"3=x--99999", "Display: |Box Style: |Position: ", false},
-    };
     Fakes().folders.insert("C:\\Vellatro\\no pack");
     Make_Pack("Winter");
     Cur_Settings.Pack_Name = "default"; // a folder is found in any letter case
-    for (const auto &row : rows) {
-        Fakes().files.erase(Path("Default", "settings.ini"));
-        Make_Pack("Default", row.march);
+    for (const std::string march : {"1-4-2", "2-10-3", "x--99999"}) {
+        Make_Pack("Default", "3=" + march);
         Open();
         EXPECT_EQ(Page().Packs_Cbo.Items(), (std::vector<std::string>{"Default", "Winter"}));
-        EXPECT_EQ(Page().Packs_Cbo.Text() + "|" + Details(), std::string("Default|") + row.details);
-        EXPECT_FALSE(Page().Look().style || Choices_Enabled());
-        Use_Themes(true);
-        EXPECT_TRUE(Choices_Enabled());
-        EXPECT_EQ(Page().Look().style.has_value(), row.usable) << row.march;
-        EXPECT_EQ(Page().Look().position.has_value(), row.usable) << row.march;
+        EXPECT_EQ(Details(), march == "1-4-2"
+                                 ? "Default|Display: Stretch|Box Style: Square Box|Position: Top Right"
+                                 : "Default|Display: |Box Style: |Position: ");
+        for (const bool use : {false, true}) {
+            Use_Themes(use);
+            const bool usable = use && march[0] != 'x'; // by the calendar
+            EXPECT_EQ(Choices_Enabled(), use);
+            EXPECT_EQ(Page().Look().style.has_value(), usable) << march;
+            EXPECT_EQ(Page().Look().position.has_value(), usable) << march;
+        }
     }
     for (const bool on : {true, false}) { // the theme's choices replace the user's
-        Push(*dialog, Page().Theme_Style_Chk, on);
-        Push(*dialog, Page().Theme_Pos_Chk, on);
-        Push(*dialog, Page().Other_Display_Chk, on);
+        for (Check_Box *box : {&Page().Theme_Style_Chk, &Page().Theme_Pos_Chk, &Page().Other_Display_Chk})
+            Push(*dialog, *box, on);
         EXPECT_TRUE(dialog->Style.Example4_Lbl.Enabled() != on && dialog->Style.Style1_Opt.Enabled() != on);
-        EXPECT_TRUE(dialog->Style.Pos_Set_Opt.Enabled() != on);
-        EXPECT_EQ(Page().Display_Cbo.Enabled(), on);
+        EXPECT_TRUE(dialog->Style.Pos_Set_Opt.Enabled() != on && Page().Display_Cbo.Enabled() == on);
     }
 }
 
 TEST_F(Themes_Page, refuses_packs_that_are_not_whole_and_themes_without_packs) {
-    for (const char *missing : {"settings.ini", "1.jpg", "12.jpg"}) {
-        for (const bool has_default : {true, false}) {
-            Fakes().files.clear();
-            if (has_default)
-                Make_Pack("Default");
-            Make_Pack("Winter");
-            Open();
-            Use_Themes(true);
-            Slide(11);
-            Fakes().files.erase(Path("Winter", missing)); // while the dialog is open
-            Fakes().Expect_Box("Error Loading Theme.");
-            Choose(*dialog, Page().Packs_Cbo, has_default ? 1 : 0);
-            Desktop().Advance(50);
-            EXPECT_EQ(Page().Packs_Cbo.Text(), has_default ? "Default" : "") << missing;
-            EXPECT_EQ(Page().Preview_Sli.Value(), 3);
-            EXPECT_EQ(Page().Look().picture.width, has_default ? 3 : 0);
-        }
-    }
+    Make_Pack("Default");
+    Make_Pack("Winter");
+    Open();
+    Use_Themes(true);
+    Slide(11);
+    Fakes().files.erase(Path("Winter", "12.jpg")); // while the dialog is open
+    Fakes().Expect_Box("Error Loading Theme.");
+    Choose(*dialog, Page().Packs_Cbo, 1);
+    Desktop().Advance(50);
+    EXPECT_EQ(Page().Packs_Cbo.Text(), "Default");
+    EXPECT_TRUE(Page().Preview_Sli.Value() == 3 && Page().Look().picture.width == 3);
     Fakes().files.clear();
     Open();
     Fakes().Expect_Box("No Themes Available!");
@@ -131,7 +116,7 @@ TEST_F(Themes_Page, refuses_packs_that_are_not_whole_and_themes_without_packs) {
     Fakes().Expect_Box("Missing Theme Default. Themes will now be disabled."); // once for three lookups
     Slide(5);
     EXPECT_FALSE(Page().Theme_Use_Chk.Checked() || Choices_Enabled());
-    EXPECT_EQ(Page().Packs_Cbo.Text() + "|" + Details(), "|Display:|Box Style:|Position:");
+    EXPECT_EQ(Details(), "|Display:|Box Style:|Position:");
 }
 
 TEST_F(Themes_Page, loads_only_the_picture_that_is_seen_and_tells_of_a_bad_one_once) {
@@ -143,94 +128,87 @@ TEST_F(Themes_Page, loads_only_the_picture_that_is_seen_and_tells_of_a_bad_one_o
     platform::Canvas canvas;
     Page().Theme_Preview_Img.State().paint(canvas, Page().Theme_Preview_Img.Bounds());
     Use_Themes(true);
-    for (const int month : {4, 5, 6})
-        Choose(*dialog, Page().Preview_Sli, month, platform::Input_Kind::Scrolled);
+    Choose(*dialog, Page().Preview_Sli, 6, platform::Input_Kind::Scrolled);
     Desktop().Advance(50);
-    EXPECT_EQ(Page().Preview_Sli.Caption(), "June");
-    EXPECT_EQ(Fakes().loads, 1) << "the thumb has not come to rest";
+    EXPECT_TRUE(Page().Preview_Sli.Caption() == "June" && Fakes().loads == 1)
+        << "the thumb has not come to rest";
     Fakes().Expect_Box(Path("Default", "5.jpg") + " cannot be loaded");
-    Slide(5);
+    for (const bool use : {true, false, true}) {
+        Use_Themes(use);
+        Slide(5);
+    }
     EXPECT_EQ(Page().Look().picture.width, 0);
-    Use_Themes(false);
-    Use_Themes(true);
     Choose(*dialog, Page().Preview_Sli, 6);
     EXPECT_TRUE(Page().Loading_Lbl.Visible());
     Desktop().Advance(50);
-    EXPECT_EQ(Page().Look().picture.width, 6);
-    EXPECT_FALSE(Page().Loading_Lbl.Visible());
+    EXPECT_TRUE(Page().Look().picture.width == 6 && !Page().Loading_Lbl.Visible());
 }
 
 TEST_F(Themes_Page, a_preview_leaves_all_as_it_was) {
     enum End { by_itself, stopped, unchecked, dialog_gone, bad_number, pack_gone };
-    const auto state = [this] {
-        std::string all = Fakes().registry["Control Panel\\Desktop\\WallpaperStyle"] +
-                          Fakes().registry["Control Panel\\Desktop\\TileWallpaper"] +
-                          Fakes().wallpapers.back() + form.Which_Month_Lbl.Caption() +
-                          std::to_string(form.Left()) + "," + std::to_string(form.Width()) + Text_Of(7);
+    const auto desktop = [](const char *name) -> std::string & {
+        return Fakes().registry[std::string("Control Panel\\Desktop\\") + name];
+    };
+    const auto state = [&] {
+        std::string all = desktop("WallpaperStyle") + desktop("TileWallpaper") + Fakes().wallpapers.back() +
+                          form.Which_Month_Lbl.Caption() + std::to_string(form.Left()) + "," + Text_Of(7);
         for (const Setting_Row &row : Setting_Rows())
             all += "\n" + Setting_Text(Cur_Settings, row);
         for (const auto &[path, bytes] : Fakes().files)
             all += path.ends_with(".bmp") ? "\n" + path : "";
         return all;
     };
-    for (const bool themes : {false, true}) {
-        for (const End end : {by_itself, stopped, unchecked, dialog_gone, bad_number, pack_gone}) {
-            SCOPED_TRACE(std::to_string(end) + (themes ? " with themes" : ""));
-            Fakes().files.clear();
-            Make_Pack("Default");
-            Make_Pack("Winter", end == bad_number ? "2=1-x-0" : "");
-            Cur_Settings = Settings{};
-            Cur_Settings.Alignment = 4;
-            Cur_Settings.Use_Themes = themes ? 1 : 0;
-            const auto desktop = [](const char *name) -> std::string & {
-                return Fakes().registry[std::string("Control Panel\\Desktop\\") + name];
-            };
-            desktop("WallpaperStyle") = "10";
-            desktop("TileWallpaper") = "0";
-            // Without themes: a wallpaper that stayed from a time when they were used.
-            desktop("Wallpaper") = Path(themes ? "Default" : "Winter", "3.bmp");
-            Fakes().files[desktop("Wallpaper")] = "";
-            Fakes().wallpapers = {desktop("Wallpaper")};
-            form.Get_Wallpaper_Stuff("Default");
-            form.Which_Style(form.Effective_Style());
-            form.Position_Form(form.Effective_Position());
-            Events({"7/3/2002=Wedding anniversary of the whole family in Winchester"});
-            form.Load_Dates();
-            const std::string before = state();
-            const std::string text = Text_Of(7);
-            Open();
-            Use_Themes(true);
-            Choose(*dialog, Page().Packs_Cbo, 1);
+    for (const End end : {by_itself, stopped, unchecked, dialog_gone, bad_number, pack_gone}) {
+        const bool themes = end % 2 == 0;
+        SCOPED_TRACE(end);
+        Fakes().files.clear();
+        Make_Pack("Default");
+        Make_Pack("Winter", end == bad_number ? "2=1-x-0" : "");
+        Cur_Settings = Settings{};
+        Cur_Settings.Alignment = 4;
+        Cur_Settings.Use_Themes = themes ? 1 : 0;
+        desktop("WallpaperStyle") = "10";
+        desktop("TileWallpaper") = "0";
+        // Without themes: a wallpaper that stayed from a time when they were used.
+        desktop("Wallpaper") = Path(themes ? "Default" : "Winter", "3.bmp");
+        Fakes().files[desktop("Wallpaper")] = "";
+        Fakes().wallpapers = {desktop("Wallpaper")};
+        Events({"7/3/2002=Wedding anniversary of the whole family in Winchester"});
+        form.Get_Wallpaper_Stuff("Default");
+        form.Which_Style(form.Effective_Style());
+        form.Redraw();
+        const std::string before = state(), text = Text_Of(7);
+        Open();
+        Use_Themes(true);
+        Choose(*dialog, Page().Packs_Cbo, 1);
 
-            Push(*dialog, Page().Preview_Btn);
-            EXPECT_FALSE(Choices_Enabled() || form.Dectect_Date_Timer.Enabled());
-            EXPECT_EQ(form.Which_Month_Lbl.Caption(), "Preview Mode - January");
-            EXPECT_EQ(Text_Of(7) == text, themes) << "fitted for another style";
-            EXPECT_EQ(Fakes().wallpapers.back(), Path("Winter", "1.bmp"));
-            if (end == bad_number)
-                Fakes().Expect_Box("In C:\\Vellatro\\Winter\\settings.ini the position of month 2 is \"x\", "
-                                   "but must be a whole number from -32768 to 32767.");
-            if (end == pack_gone) {
-                Fakes().Expect_Box("Missing Theme Winter. Themes will now be disabled.");
-                std::erase_if(Fakes().files, [](const auto &file) { return file.first[12] == 'W'; });
-            }
-            Desktop().Advance(end == by_itself ? 35'900 : 5'000);
-            EXPECT_EQ(form.Which_Month_Lbl.Caption() == "Preview Mode - February",
-                      end < bad_number && end != by_itself);
-            EXPECT_EQ(form.Which_Month_Lbl.Caption() == "Preview Mode - December", end == by_itself);
-            Desktop().Advance(end == by_itself ? 200 : 0);
-            EXPECT_EQ(end == stopped && Page().End_Preview(), end == stopped);
-            if (end == unchecked)
-                Use_Themes(false);
-            if (end == dialog_gone)
-                dialog.reset();
-            EXPECT_TRUE(form.Dectect_Date_Timer.Enabled());
-            if (end == pack_gone) // which can be put back as little as what the user was told of
-                EXPECT_EQ(Cur_Settings.Use_Themes, 0);
-            else
-                EXPECT_EQ(state(), before);
-            EXPECT_TRUE(!dialog || Choices_Enabled() == (end != unchecked && end != pack_gone));
+        Push(*dialog, Page().Preview_Btn);
+        EXPECT_FALSE(Choices_Enabled() || form.Dectect_Date_Timer.Enabled());
+        EXPECT_EQ(form.Which_Month_Lbl.Caption(), "Preview Mode - January");
+        EXPECT_EQ(Text_Of(7) == text, themes) << "fitted for another style";
+        EXPECT_EQ(Fakes().wallpapers.back(), Path("Winter", "1.bmp"));
+        if (end == bad_number)
+            Fakes().Expect_Box("In C:\\Vellatro\\Winter\\settings.ini the position of month 2 is \"x\", "
+                               "but must be a whole number from -32768 to 32767.");
+        if (end == pack_gone) {
+            Fakes().Expect_Box("Missing Theme Winter. Themes will now be disabled.");
+            std::erase_if(Fakes().files, [](const auto &file) { return file.first[12] == 'W'; });
         }
+        Desktop().Advance(end == by_itself ? 35'900 : 5'000);
+        EXPECT_EQ(form.Which_Month_Lbl.Caption().ends_with(end == by_itself ? "December" : "February"),
+                  end < bad_number);
+        Desktop().Advance(end == by_itself ? 200 : 0);
+        EXPECT_EQ(end == stopped && Page().End_Preview(), end == stopped);
+        if (end == unchecked)
+            Use_Themes(false);
+        if (end == dialog_gone)
+            dialog.reset();
+        EXPECT_TRUE(form.Dectect_Date_Timer.Enabled());
+        if (end == pack_gone) // which can be put back as little as what the user was told of
+            EXPECT_EQ(Cur_Settings.Use_Themes, 0);
+        else
+            EXPECT_EQ(state(), before);
+        EXPECT_TRUE(!dialog || Choices_Enabled() == (end != unchecked && end != pack_gone));
     }
 }
 

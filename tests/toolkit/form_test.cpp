@@ -38,14 +38,8 @@ struct Test_Form : Form {
         label.On_Double_Click = [this, &label] { log += label.Name() + " double; "; };
     }
 
-    void Send(Input_Kind kind, int x, Mouse_Button button = Mouse_Button::Left, int control = -1) {
-        platform::Input_Event event{};
-        event.kind = kind;
-        event.point = {x, 10};
-        event.button = button;
-        event.control = control;
-        event.text = "one\r\ntwo\nthree";
-        Input(event);
+    void Send(Input_Kind kind, int x, Mouse_Button button = Mouse_Button::Left) {
+        Input({.kind = kind, .point = {x, 10}, .button = button});
     }
 
     std::string Taken() { return std::exchange(log, {}); }
@@ -84,18 +78,16 @@ TEST_F(Form_Test, the_mouse_goes_to_the_topmost_control_and_stays_with_it_until_
     Double_Click(form, form.Low);
     form.Send(Input_Kind::Double_Click, 20, Mouse_Button::Right);
     EXPECT_EQ(form.Taken(), "High down 0; High up 0; High double; High up 0; Low down 20; ");
-}
 
-TEST_F(Form_Test, hidden_controls_are_looked_through_and_disabled_ones_take_nothing) {
-    Test_Form form;
+    // Hidden controls are looked through, and disabled ones take nothing.
+    form.Send(Input_Kind::Capture_Lost, 0);
     form.High.Set_Visible(false);
     form.Send(Input_Kind::Mouse_Move, 60, Mouse_Button::None);
     form.High.Set_Visible(true);
     form.High.Set_Enabled(false);
     form.Ok_Btn.Set_Enabled(false);
-    form.Send(Input_Kind::Mouse_Down, 60);
-    form.Send(Input_Kind::Mouse_Up, 60);
-    form.Send(Input_Kind::Clicked, 0, Mouse_Button::Left, form.Ok_Btn.State().index);
+    Click(form, form.High);
+    Push(form, form.Ok_Btn);
     EXPECT_EQ(form.Taken(), "Low move 60; ");
 }
 
@@ -105,7 +97,7 @@ TEST_F(Form_Test, the_mirror_is_told_of_the_program_s_changes_only_and_only_whil
     form.Show();
     EXPECT_FALSE(Desktop().mirrors.at(&form.Model()).shown_unclipped);
     Desktop().told.clear();
-    form.Send(Input_Kind::Text_Changed, 0, Mouse_Button::Left, form.Text_Txt.State().index);
+    Enter_Text(form, form.Text_Txt, "one\r\ntwo\nthree");
     for (int repeated = 0; repeated < 2; ++repeated) {
         form.Text_Txt.Set_Text("after");
         form.Low.Move({0, 0, 10, 10});

@@ -5,8 +5,7 @@
 namespace {
 
 struct Painted_Form : Form {
-    Painted_Form()
-        : Form(platform::Form_Kind::Painted, "Test"), A_Lbl(*this, "A_Lbl"), B_Lbl(*this, "B_Lbl") {
+    Painted_Form() : Form(platform::Form_Kind::Painted, "Test") {
         A_Lbl.Move({0, 0, 500, 600});
         A_Lbl.Set_Caption("a");
         A_Lbl.Set_Frame_Colour(3);
@@ -27,7 +26,7 @@ struct Painted_Form : Form {
         return shape;
     }
 
-    Label A_Lbl, B_Lbl;
+    Label A_Lbl{*this, "A_Lbl"}, B_Lbl{*this, "B_Lbl"};
     std::vector<Canvas_Operation> drawn;
 };
 

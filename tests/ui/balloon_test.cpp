@@ -11,23 +11,17 @@ namespace {
 using Lines = std::vector<std::string>;
 
 TEST_F(Form_Test, wrapped_text) {
-    struct {
-        std::string text;
-        std::size_t most;
-        Lines lines;
-    } const rows[] = {
+    const std::tuple<const char *, std::size_t, Lines> rows[] = {
         // Ten characters a line.
-        {"one two three four", 3, {"one two", "three four"}},
         {"exactlyten next", 3, {"exactlyten", "next"}},
         {"incomprehensible", 3, {"incomprehe", "nsible"}},
         {"a\r\nb\rc\n\nd\te \n\n", 9, {"a", "b", "c", "", "d e"}},
         {"one two three four five", 2, {"one two", "three f..."}},
-        {"one two three four", 1, {"one two..."}},
-        {"12345678\xC3\xA4\xC3\xB6\xC3\xBC", 2, {"12345678\xC3\xA4\xC3\xB6", "\xC3\xBC"}},
-        {"1234567\xC3\xA4\xC3\xB6\xC3\xBC\xC3\xA4", 1, {"1234567..."}},
+        {"12345678\u00E4\u00F6\u00FC", 2, {"12345678\u00E4\u00F6", "\u00FC"}},
+        {"1234567\u00E4\u00F6\u00FC\u00E4", 1, {"1234567..."}},
     };
-    for (const auto &row : rows)
-        EXPECT_EQ(Wrap_Text(row.text, {}, 1000, row.most), row.lines) << row.text;
+    for (const auto &[text, most, lines] : rows)
+        EXPECT_EQ(Wrap_Text(text, {}, 1000, most), lines) << text;
     EXPECT_EQ(Wrap_Text("ab", {}, 10, 5), (Lines{"a", "b"})); // narrower than a character
     EXPECT_EQ(Wrap_Text(std::string(1'000'000, 'x'), {}, 1000, 50).back(), "xxxxxxx...");
     EXPECT_LT(Desktop().measured, 2'000);
@@ -41,24 +35,23 @@ TEST(Balloon_Shape, stands_whole_on_the_screen_beside_the_mouse) {
         int height;
         Balloon_Side side;
     } const rows[] = {
-        {{-8000, 6000}, 1380, Balloon_Side::Above}, {{-15360, 11299}, 1380, Balloon_Side::Above},
-        {{-15360, 300}, 1380, Balloon_Side::Below}, {{-1, 300}, 1380, Balloon_Side::Below},
-        {{-8000, 1900}, 1380, Balloon_Side::Below}, {{-8000, 6000}, 10900, Balloon_Side::Right},
-        {{-3000, 6000}, 10900, Balloon_Side::Left}, {{-1, 11299}, 10900, Balloon_Side::Left},
+        {{-15360, 11299}, 1380, Balloon_Side::Above}, {{-1, 300}, 1380, Balloon_Side::Below},
+        {{-8000, 1900}, 1380, Balloon_Side::Below},   {{-8000, 6000}, 10900, Balloon_Side::Right},
+        {{-3000, 6000}, 10900, Balloon_Side::Left},   {{-1, 11299}, 10900, Balloon_Side::Left},
+    };
+    const auto within = [](const Rect &outer, const Rect &inner) {
+        return inner.left >= outer.left && inner.Right() <= outer.Right() && inner.top >= outer.top &&
+               inner.Bottom() <= outer.Bottom();
     };
     for (const auto &row : rows) {
-        SCOPED_TRACE(std::to_string(row.mouse.x) + "," + std::to_string(row.mouse.y));
+        SCOPED_TRACE(&row - rows);
         const Balloon_Place place = Place_Balloon(row.mouse, work, {4680, row.height});
         EXPECT_EQ(place.side, row.side);
-        EXPECT_TRUE(place.body.left >= work.left && place.body.Right() <= work.Right());
-        EXPECT_TRUE(place.body.top >= work.top && place.body.Bottom() <= work.Bottom());
-        EXPECT_FALSE(place.body.Contains(row.mouse));
+        EXPECT_TRUE(within(work, place.body) && !place.body.Contains(row.mouse));
         EXPECT_LE(std::abs(place.tip.x - row.mouse.x) + std::abs(place.tip.y - row.mouse.y), 300);
-        const Rect window = Window_Of(place);
         bool has_tip = false;
         for (const Point corner : Balloon_Outline(place)) {
-            EXPECT_TRUE(corner.x >= window.left && corner.x <= window.Right());
-            EXPECT_TRUE(corner.y >= window.top && corner.y <= window.Bottom());
+            EXPECT_TRUE(within(Window_Of(place), {corner.x, corner.y, 0, 0}));
             has_tip = has_tip || corner == place.tip;
         }
         EXPECT_TRUE(has_tip);
@@ -69,16 +62,12 @@ class Balloon : public Calendar_Test {
 protected:
     Balloon() {
         Events({"6/3/2002=first", "6/3/9999=second", "7/3/2002=other"});
-        Fakes().registry["Software\\Vellatro\\Settings\\Tooltips"] = "2";
+        Stored("Tooltips") = "2";
         Start();
         Desktop().mouse = {500, 400};
     }
     void Press_Day(int day) { Press(form, Box_Of(day)); }
-    void Tell(Input_Kind kind) {
-        platform::Input_Event event{};
-        event.kind = kind;
-        form.Input(event);
-    }
+    void Tell(Input_Kind kind) { Input(form, {.kind = kind}); }
     bool Shown() {
         EXPECT_EQ(form.Balloon_Showing(), Desktop().mirrors.contains(&form.Balloon.Model()));
         EXPECT_EQ(form.Balloon_Showing(), form.Timer2.Enabled());
@@ -94,28 +83,55 @@ TEST_F(Balloon, shows_the_day_s_text_after_a_third_of_a_second_until_the_release
     EXPECT_EQ(form.Balloon.Message_Lbl.Caption(), "second"); // the last record, as in the box
     EXPECT_EQ(form.Balloon.Height(), 1620);
     EXPECT_EQ(form.Balloon.Top() + form.Balloon.Height(), 400 * 15);
-    EXPECT_FALSE(Desktop().mirrors.at(&form.Balloon.Model()).shown_unclipped);
-    EXPECT_EQ(Desktop().mirrors.at(&form.Balloon.Model()).shape.size(), 4 * 7 + 3U);
+    const Fake_Mirror &window = Desktop().mirrors.at(&form.Balloon.Model());
+    EXPECT_TRUE(!window.shown_unclipped && window.shape.size() == 4 * 7 + 3U);
     Press(form, Box_Of(7), platform::Mouse_Button::Middle); // one at a time
     EXPECT_EQ(form.Tooltip_Box, 10);
     Release(form, Box_Of(20)); // wherever
     EXPECT_FALSE(Shown());
+    for (const std::size_t length : {300U, 20000U}) { // it grows with its text up to the work area
+        Events({"6/3/2002=" + std::string(length, 'w')});
+        form.Redraw();
+        Press_Day(6);
+        EXPECT_TRUE(form.Balloon.Height() > 1620 && form.Balloon.Height() <= 740 * 15);
+        EXPECT_EQ(form.Balloon.Message_Lbl.Caption().ends_with("..."), length == 20000);
+        EXPECT_LE(form.Balloon.Message_Lbl.Bounds().Bottom(), form.Balloon.Height());
+        Release(form, Box_Of(6));
+    }
 }
 
-TEST_F(Balloon, what_happens_during_the_wait) {
-    const std::function<void()> spoilers[] = {
-        [this] { Release(form, Box_Of(6)); }, [this] { Tell(Input_Kind::Capture_Lost); },
-        [this] { Press_Key(form, 115); },     [this] { Double_Click(form, form.Which_Month_Lbl); },
-        [this] { form.End_Program(); },
+TEST_F(Balloon, goes_with_whatever_takes_its_day_away_also_during_the_wait) {
+    const std::function<void()> ends[] = {
+        [this] { Release(form, Box_Of(6)); },
+        [this] { Tell(Input_Kind::Capture_Lost); },
+        [this] { Press_Key(form, 113); },
+        [this] { Press_Key(form, 123); },
+        [] {
+            Desktop().Advance(1000);
+            Desktop().button_held = false; // let go over another program's window
+            Desktop().Advance(1000);
+        },
     };
-    for (const auto &spoiler : spoilers) {
-        Desktop().messages = {[] {}, spoiler};
-        Show_Month(3, 2002);
-        Press_Day(6);
-        EXPECT_FALSE(Shown());
-        if (form.Compacted)
-            Press_Key(form, 123);
-    }
+    for (const bool at_once : {true, false})
+        for (const auto &end : ends) {
+            SCOPED_TRACE(&end - ends);
+            Show_Month(3, 2002);
+            Desktop().button_held = true;
+            if (at_once)
+                Desktop().messages = {[] {}, end};
+            Press_Day(6);
+            Desktop().Advance(at_once ? 0 : 1000);
+            EXPECT_EQ(Shown(), !at_once || &end == &ends[4]) << "that one is seen only by the timer";
+            if (!at_once)
+                end();
+            EXPECT_TRUE(at_once || !Shown());
+            Release(form, Box_Of(6));
+            if (form.Compacted)
+                Press_Key(form, 123);
+        }
+    Desktop().messages = {[] {}, [this] { form.End_Program(); }};
+    Press_Day(6);
+    EXPECT_FALSE(Shown());
 }
 
 TEST_F(Balloon, a_second_press_during_the_wait_waits_for_itself_and_an_empty_box_for_nothing) {
@@ -125,11 +141,8 @@ TEST_F(Balloon, a_second_press_during_the_wait_waits_for_itself_and_an_empty_box
     Press_Day(6);
     ASSERT_TRUE(Shown());
     EXPECT_EQ(form.Balloon.Message_Lbl.Caption(), "other");
-    EXPECT_GE(Fakes().now.millisecond, 600); // 0.3 s of its own
-}
-
-TEST_F(Balloon, the_wait_ends_at_midnight_and_when_the_clock_is_set) {
-    for (const int hour_then : {23, 11, 20}) {
+    EXPECT_GE(Fakes().now.millisecond, 600);   // 0.3 s of its own
+    for (const int hour_then : {23, 11, 20}) { // the wait ends at midnight and when the clock is set
         Fakes().now = {2002, 3, 5, hour_then == 23 ? 23 : 12, 59, 59, 900};
         Desktop().messages = {[hour_then] { Fakes().now.hour = hour_then; }};
         const unsigned begin = Desktop().time;
@@ -138,54 +151,14 @@ TEST_F(Balloon, the_wait_ends_at_midnight_and_when_the_clock_is_set) {
         EXPECT_LE(Desktop().time - begin, 310U);
         Release(form, Box_Of(6));
     }
-}
-
-TEST_F(Balloon, goes_with_whatever_takes_its_day_away) {
-    const std::function<void()> ends[] = {
-        [this] { Tell(Input_Kind::Capture_Lost); },
-        [this] { Press_Key(form, 113); },
-        [this] { Press_Key(form, 123); },
-        [] {
-            Desktop().Advance(1000);
-            Desktop().button_held = false; // let go over another program's window
-            Desktop().Advance(1000);
-        },
-        [this] { Tell(Input_Kind::Close); },
-    };
-    for (const auto &end : ends) {
-        Show_Month(3, 2002);
-        Press_Day(6);
-        Desktop().button_held = true;
-        Desktop().Advance(1000);
-        ASSERT_TRUE(Shown());
-        end();
-        EXPECT_FALSE(Shown());
-        if (form.Compacted)
-            Press_Key(form, 123);
-    }
-}
-
-TEST_F(Balloon, shows_what_can_be_read_unless_the_message_took_the_mouse) {
-    for (const bool kept : {false, true}) {
-        Fakes().files["C:\\Vellatro\\calendar.dat"] = "\"6/3/2002=first\"\r\n\"open";
+    for (const bool kept : {false, true}) { // what can be read is shown unless the message took the mouse
+        Data_File() = "\"6/3/2002=first\"\r\n\"open";
         Fakes().Expect_Box("Error loading in data file.", platform::Box_Answer::Ok, [this, kept] {
             if (!kept)
                 Tell(Input_Kind::Capture_Lost);
         });
         Press_Day(6);
         EXPECT_EQ(Shown(), kept);
-    }
-}
-
-TEST_F(Balloon, grows_with_its_text_up_to_the_work_area) {
-    for (const std::size_t length : {300U, 20000U}) {
-        Events({"6/3/2002=" + std::string(length, 'w')});
-        form.Redraw();
-        Press_Day(6);
-        EXPECT_TRUE(form.Balloon.Height() > 1620 && form.Balloon.Height() <= 740 * 15);
-        EXPECT_EQ(form.Balloon.Message_Lbl.Caption().ends_with("..."), length == 20000);
-        EXPECT_LE(form.Balloon.Message_Lbl.Bounds().Bottom(), form.Balloon.Height());
-        Release(form, Box_Of(6));
     }
 }
 
