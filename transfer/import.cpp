@@ -206,13 +206,13 @@ bool Importer::May_Replace() const {
     const auto modified = [](const std::string &path) {
         return platform::Date_Time_Text(platform::Modified_Time(path));
     };
+    constexpr std::string_view warning =
+        "You already have a working data file. Importing another one will completely overwrite the old one "
+        "and "
+        "you will lose all data. Are you absolutely sure you want to do this?\r\n\r\n";
     const std::string question = platform::Joined(
-        {"You already have a working data file. Importing another one will completely overwrite the old one "
-         "and you will lose all data. Are you absolutely sure you want to do this?\r\n\r\nReplace current "
-         "file "
-         "'calendar.dat' modified on ",
-         modified(Event_Store::Data_File()), "\r\n\r\nwith new file '", dialog_.FileTitle, "' modified on ",
-         modified(dialog_.FileName)});
+        {warning, "Replace current file 'calendar.dat' modified on ", modified(Event_Store::Data_File()),
+         "\r\n\r\nwith new file '", dialog_.FileTitle, "' modified on ", modified(dialog_.FileName)});
     return Tell(question, platform::Box_Icon::Exclamation, platform::Box_Buttons::Yes_No_Cancel) ==
            platform::Box_Answer::Yes;
 }
