@@ -4,8 +4,16 @@
 #include "platform/error.h"
 
 #include <cstdlib>
+#include <memory>
 #include <new>
 
+// What mends addresses of variables in DLLs at start. The program uses none; the linker is told to refuse
+// one.
+extern "C" void _pei386_runtime_relocator() {
+}
+
+// The library's names and its way of parameters are what the linker looks for.
+// NOLINTBEGIN(cert-dcl50-cpp,cert-dcl58-cpp,readability-redundant-declaration)
 namespace __gnu_cxx {
 
 void __verbose_terminate_handler();
@@ -15,7 +23,12 @@ void __verbose_terminate_handler() {
 
 } // namespace __gnu_cxx
 
-// Where std::string, std::vector and std::function find that they are used wrongly.
+// Tells make_shared's objects where there is no RTTI and two modules may differ; the program is one module.
+bool std::_Sp_make_shared_tag::_S_eq(const type_info &) noexcept {
+    return false;
+}
+
+// Where std::string and std::vector find that they are used wrongly.
 namespace std {
 
 void __throw_length_error(const char *what) {
@@ -35,10 +48,6 @@ void __throw_out_of_range_fmt(const char *what, ...) {
     throw platform::Error(what);
 }
 
-void __throw_bad_function_call() {
-    throw platform::Error("bad_function_call");
-}
-
 void __throw_bad_alloc() {
     throw std::bad_alloc();
 }
@@ -48,3 +57,4 @@ void __throw_bad_array_new_length() {
 }
 
 } // namespace std
+// NOLINTEND(cert-dcl50-cpp,cert-dcl58-cpp,readability-redundant-declaration)

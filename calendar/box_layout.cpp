@@ -49,10 +49,6 @@ int Pixels(int at_96) {
     return std::max(Twips_To_Pixels(at_96 * twips_at_96), 1);
 }
 
-int Line_Pixels(const platform::Font &font) {
-    return std::max(Twips_To_Pixels(platform::Line_Height(font)), 1);
-}
-
 void Set_Bold(Label &label, bool bold) {
     platform::Font font = label.Font();
     font.bold = bold;
@@ -60,6 +56,10 @@ void Set_Bold(Label &label, bool bold) {
 }
 
 } // namespace
+
+int Line_Pixels(const platform::Font &font) {
+    return std::max(Twips_To_Pixels(platform::Line_Height(font)), 1);
+}
 
 Box_Layout::Box_Layout(std::int16_t style) : one_line_(style == 0), gap_(Pixels(gap_length)) {
     const Style_Lengths &lengths = style == 0 ? thin_box : square_box;

@@ -47,6 +47,9 @@ private:
     int number_bottom_;
 };
 
+/// Height of a line of text in whole pixels, at least one.
+int Line_Pixels(const platform::Font &font);
+
 // The looks, without place, colours and caption.
 void Dress_Heading(Label &label, const platform::Font &font);
 /// Leaves the caption bold that is so.

@@ -18,10 +18,6 @@ constexpr std::size_t longest_shown = 1024;
 
 constexpr std::string_view more_sign = "...";
 
-int Line_Pixels(const platform::Font &font) {
-    return std::max(Twips_To_Pixels(platform::Line_Height(font)), 1);
-}
-
 void Place(Label &label, const Rect &pixels) {
     label.Move(Pixels_To_Twips(pixels));
 }

@@ -3,6 +3,7 @@
 #include "core/convert.h"
 #include "core/settings.h"
 #include "desktop/position.h"
+#include "platform/joined.h"
 #include "platform/message_box.h"
 #include "toolkit/keys.h"
 #include "toolkit/units.h"
@@ -15,8 +16,6 @@ using platform::Point;
 
 namespace {
 
-constexpr auto manual = static_cast<std::int16_t>(Position_Code::Manual);
-
 constexpr const char *manual_question =
     "Manual Positioning is not selected. This means that next time the program is started or the month is "
     "changed the program will revert back to the set position. Do you want to change the positioning mode to "
@@ -25,12 +24,12 @@ constexpr const char *manual_question =
 constexpr int big_step = 10; ///< pixels by which a key moves the calendar
 
 bool May_Drag() {
-    return Cur_Settings.Alignment == manual || Cur_Settings.Allow_Dragging != 0;
+    return Cur_Settings.Alignment == Manual_Position || Cur_Settings.Allow_Dragging != 0;
 }
 
 /// Whether the next placement would leave the calendar where it was dropped.
 bool Stays_Where_Dropped() {
-    return Cur_Settings.Alignment == manual && Cur_Settings.Use_Theme_Pos != 1;
+    return Cur_Settings.Alignment == Manual_Position && Cur_Settings.Use_Theme_Pos != 1;
 }
 
 } // namespace
@@ -92,9 +91,9 @@ void Main_Frm::Keep_Place(const std::optional<Drag> &drag) {
         left = Fit_Int16(Left());
         top = Fit_Int16(Top());
     } catch (const Conversion_Error &) {
-        throw Conversion_Error("The calendar's place on the screen, " + std::to_string(Left()) + " and " +
-                               std::to_string(Top()) +
-                               " twips, cannot be kept: it must lie between -32768 and 32767.");
+        throw Conversion_Error(platform::Joined(
+            {"The calendar's place on the screen, ", std::to_string(Left()), " and ", std::to_string(Top()),
+             " twips, cannot be kept: it must lie between -32768 and 32767."}));
     }
     Change_Setting(Cur_Settings.Manual_PosX, left, "Manual_PosX");
     Change_Setting(Cur_Settings.Manual_PosY, top, "Manual_PosY");
@@ -104,6 +103,6 @@ void Main_Frm::Keep_Place(const std::optional<Drag> &drag) {
     if (platform::Message_Box(manual_question, "Vellatro", platform::Box_Icon::Question,
                               platform::Box_Buttons::Yes_No) != platform::Box_Answer::Yes)
         return;
-    Change_Setting(Cur_Settings.Alignment, manual, "Alignment");
+    Change_Setting(Cur_Settings.Alignment, Manual_Position, "Alignment");
     Change_Setting(Cur_Settings.Use_Theme_Pos, 0, "Use Theme Pos");
 }

@@ -130,7 +130,7 @@ void Main_Frm::Move_Mark(int days) {
     }
 }
 
-int Main_Frm::Marked_Box() {
+int Main_Frm::Marked_Box() const {
     return Start_Box(Cur_Month, Cur_Year) + mark_day_ - 1;
 }
 

@@ -3,6 +3,7 @@
 
 #include "core/settings.h"
 #include "platform/drawing.h"
+#include "platform/joined.h"
 #include "platform/locale.h"
 #include "platform/message_box.h"
 #include "platform/screen.h"
@@ -50,9 +51,9 @@ void Main_Frm::Wire_Events() {
     On_Close = [this] { End_Program(); };
     On_Dots_Changed = [this] { Renew_Layout(); };
     Attach_Timer.On_Timer = [this] { Attach_Timer_Timer(); };
+    Which_Month_Lbl.On_Default_Action = [this] { Which_Month_Lbl_DblClick(); };
     // Without its window the program could only stand in the way of its next start. Nothing is asked here:
     // the window inside the shell's goes down in the middle of the shell's own end, which waits for it.
-    Which_Month_Lbl.On_Default_Action = [this] { Which_Month_Lbl_DblClick(); };
     On_Window_Lost = [this] {
         ended_ = true;
         platform::End_Message_Loop();
@@ -221,10 +222,11 @@ std::string Main_Frm::Regional_Look() {
     for (int month = 1; month <= 12; ++month)
         look += "\n" + platform::Month_Name(month);
     for (int day = 0; day < days_a_week; ++day)
-        look += "\n" + platform::Weekday_Name(day) + "\n" + platform::Short_Weekday_Name(day);
+        look +=
+            platform::Joined({"\n", platform::Weekday_Name(day), "\n", platform::Short_Weekday_Name(day)});
     const platform::Font font;
-    return look + "\n" + std::to_string(platform::Line_Height(font)) + "\n" +
-           std::to_string(platform::Text_Width("The quick brown fox 0123456789", font));
+    return platform::Joined({look, "\n", std::to_string(platform::Line_Height(font)), "\n",
+                             std::to_string(platform::Text_Width("The quick brown fox 0123456789", font))});
 }
 
 void Main_Frm::Take_Regional_Settings() {

@@ -7,6 +7,7 @@
 
 #include "core/date.h"
 #include "core/event_store.h"
+#include "platform/callback.h"
 #include "platform/message_loop.h"
 #include "platform/shell.h"
 #include "toolkit/control_array.h"
@@ -18,7 +19,6 @@
 
 #include <array>
 #include <cstdint>
-#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -39,7 +39,7 @@ public:
     std::int16_t Cur_Year = 0;
     bool Alert_Done = false; ///< no further alert today
     bool Compacted = false;
-    bool Timer_Compacted = false;  ///< the timer compacted it last, so the mouse over the title expands it
+    bool Timer_Compacted = false;  ///< by the timer once: the mouse over the title expands it, and ends this
     bool Mouse_Released = true;    ///< no button is held over a day box
     std::int16_t Tooltip_Box = -1; ///< the day box of the last balloon
     Event_Store Events;
@@ -50,14 +50,14 @@ public:
 
     // The event editor, of which the calendar knows no more than this. Whoever owns both windows fills it;
     // empty, there is no editor.
-    std::function<void(int index)> Open_Editor; ///< for a day box
-    std::function<bool()> Ask_Unsaved; ///< offers unsaved text for saving; false: the user wants to stay
-    std::function<bool()> Editor_Visible;
+    platform::Callback<void(int index)> Open_Editor; ///< for a day box
+    platform::Callback<bool()> Ask_Unsaved; ///< offers unsaved text for saving; false: the user wants to stay
+    platform::Callback<bool()> Editor_Visible;
 
     // The settings dialog, likewise.
-    std::function<void()> Open_Settings;
-    std::function<void()> Close_Settings; ///< at the end, whatever is in it
-    std::function<bool()> Settings_Visible;
+    platform::Callback<void()> Open_Settings;
+    platform::Callback<void()> Close_Settings; ///< at the end, whatever is in it
+    platform::Callback<bool()> Settings_Visible;
 
     /// Whether the program may end now; asks for unsaved text first.
     bool May_End() const;
@@ -216,7 +216,6 @@ private:
     void Renew_Layout();
 
     void Popup_Title_Menu(platform::Point mouse);
-    bool Still_Shown(std::int16_t month, std::int16_t year, int index);
 
     void Compact();
     void Expand();
@@ -232,7 +231,7 @@ private:
     void Move_Mark(int days);
     bool Show_Mark();
     void Update_Mark();
-    int Marked_Box();
+    int Marked_Box() const;
     void Take_Focus(bool has_focus);
 
     void Describe_Boxes();
@@ -276,7 +275,7 @@ private:
     bool stale_ = false;    ///< what was laid out is not what the month shows now: it changed in compact mode
     platform::Point placed_; ///< where Position_Form put the window last
     unsigned fills_ = 0;     ///< counts the fillings: one that begins inside another puts an end to that
-    int Desktop_Height = 0;  ///< of the work area at the last placement, twips
+    int desktop_height_ = 0; ///< of the work area at the last placement, twips
     std::optional<Drag> drag_;
     std::optional<Drag> nudge_; ///< where the arrow keys took it up
     Repeated_Guard placement_guard_;

@@ -1,5 +1,6 @@
-// The popup menus of a day, of the months and of the years. Timers go on while a menu is open, so what was
-// shown when it opened may not be shown any more when an item is chosen.
+// The popup menus of a day, of the months and of the years. Assistive technology and changed settings reach
+// the calendar while a menu is open, so what was shown when it opened may not be shown any more when an item
+// is chosen.
 #include "calendar/main_frm.h"
 #include "platform/menu.h"
 
@@ -19,25 +20,19 @@ constexpr int years_around = 2;
 
 } // namespace
 
-bool Main_Frm::Still_Shown(std::int16_t month, std::int16_t year, int index) {
-    return month == Cur_Month && year == Cur_Year && !Compacted && Box_Lbl[index].Visible();
-}
-
 void Main_Frm::Popup_Menu(int index, const Point *at) {
-    const std::int16_t month = Cur_Month;
-    const std::int16_t year = Cur_Year;
-    if (!Still_Shown(month, year, index))
+    if (!Box_Lbl[index].Visible())
         return;
-    const int start = Start_Box(month, year);
+    const Date date = Date_Of_Box(index);
     const int chosen = platform::Track_Popup_Menu(
         Model(),
         {{clear_item, "Clear", Menu_Image::Clear},
          {edit_item, "Edit", Menu_Image::Edit},
-         {settings_item, "Settings", Menu_Image::Settings, Open_Settings != nullptr},
+         {settings_item, "Settings", Menu_Image::Settings, static_cast<bool>(Open_Settings)},
          {exit_item, "Exit", Menu_Image::Exit}},
         at);
-    // Another day may be in the box by now, which nobody meant.
-    const bool same_day = Still_Shown(month, year, index) && Start_Box(month, year) == start;
+    // Another day may be in the box by now, which nobody meant. In compact mode it is still the same day.
+    const bool same_day = Date_Of_Box(index) == date;
     if (chosen == clear_item && same_day)
         Clear_Box(index);
     else if (chosen == edit_item && same_day)
@@ -90,6 +85,7 @@ void Main_Frm::Popup_Years(const Point *at) {
             Which_Month_Lbl_DblClick();
         return;
     }
+    const std::int16_t month = Cur_Month;
     const int middle = Cur_Year;
     std::vector<Menu_Item> items;
     for (int position = 0; position <= 2 * years_around; ++position) {
@@ -105,6 +101,7 @@ void Main_Frm::Popup_Years(const Point *at) {
     if (chosen == years_around + 1) {
         Take_Today();
     } else {
+        Cur_Month = month; // also when the month has changed under the menu
         Cur_Year = static_cast<std::int16_t>(middle + chosen - 1 - years_around);
     }
     Redraw();

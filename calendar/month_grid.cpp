@@ -5,6 +5,7 @@
 #include "core/convert.h"
 #include "core/settings.h"
 #include "core/title.h"
+#include "platform/joined.h"
 #include "platform/locale.h"
 #include "platform/message_box.h"
 
@@ -87,12 +88,15 @@ void Main_Frm::Load_Dates() {
     const Date today = Today();
     const unsigned fill = ++fills_;
     entered_ = {};
-    Events.Load_Dates([&](std::string_view record) {
-        if (fill == fills_)
-            Enter_Date(record, today);
-    });
-    if (fill == fills_)
-        Show_Entered();
+    Events.Load_Dates(
+        [&](std::string_view record) {
+            if (fill == fills_)
+                Enter_Date(record, today);
+        },
+        [&] {
+            if (fill == fills_)
+                Show_Entered();
+        });
 }
 
 /// Puts the texts that were entered since the last call into their boxes.
@@ -115,8 +119,9 @@ void Main_Frm::Enter_Date(std::string_view record, const Date &today) {
         const int index = Start_Box(Cur_Month, Cur_Year) + date.day - 1;
         entered_.at(static_cast<std::size_t>(index)) = parts.text;
     }
+    // A day that the date watch has not seen yet gets its alert from there, and not two.
     if (Cur_Settings.Show_Alerts == 1 && !Alert_Done && date.day == today.day && date.month == today.month &&
-        (date.year == today.year || date.year == every_year))
+        (date.year == today.year || date.year == every_year) && Date_Stamp(today) == date_stamp_)
         Alert(today, parts.text);
 }
 
@@ -192,10 +197,12 @@ void Main_Frm::Describe_Heading() {
 }
 
 std::string Full_Date(const Date &date) {
-    return platform::Weekday_Name(Weekday(date)) + " " + std::to_string(date.day) + Ordinal_Suffix(date.day) +
-           " " + platform::Month_Name(date.month) + " " + std::to_string(date.year);
+    return platform::Joined({platform::Weekday_Name(Weekday(date)), " ", std::to_string(date.day),
+                             Ordinal_Suffix(date.day), " ", platform::Month_Name(date.month), " ",
+                             std::to_string(date.year)});
 }
 
 std::string Today_Text(const Date &today, std::string_view text) {
-    return "Today: " + platform::Short_Date(today.year, today.month, today.day) + "\r\n" + std::string(text);
+    return platform::Joined(
+        {"Today: ", platform::Short_Date(today.year, today.month, today.day), "\r\n", text});
 }

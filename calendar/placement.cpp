@@ -3,6 +3,7 @@
 #include "core/convert.h"
 #include "core/settings.h"
 #include "desktop/position.h"
+#include "platform/joined.h"
 
 #include <string>
 #include <vector>
@@ -23,14 +24,13 @@ void Main_Frm::Position_Form(std::int16_t code) {
 void Main_Frm::Remember_Height(int twips) {
     // Kept whole before its conversion may fail: else every tick would find another height and place the
     // window anew, also one that is being dragged.
-    Desktop_Height = twips;
+    desktop_height_ = twips;
     try {
         Fit_Int16(twips);
     } catch (const Conversion_Error &) {
-        throw Conversion_Error(
-            "The height of the desktop's work area, " + std::to_string(twips) +
-            " twips, is beyond the 32767 that are allowed for. The calendar is placed all the "
-            "same.");
+        throw Conversion_Error(platform::Joined(
+            {"The height of the desktop's work area, ", std::to_string(twips),
+             " twips, is beyond the 32767 that are allowed for. The calendar is placed all the same."}));
     }
 }
 
@@ -40,7 +40,7 @@ void Main_Frm::Set_Repos() {
 
 void Main_Frm::RePosition() {
     const int height = GetDesktopRect(true).height;
-    if (height == Desktop_Height)
+    if (height == desktop_height_)
         return;
     Position_Form(Effective_Position());
     Remember_Height(height);

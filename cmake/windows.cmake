@@ -7,11 +7,19 @@ target_sources(vellatro PRIVATE ${win32_sources} win32/vellatro.rc)
 set_source_files_properties(win32/vellatro.rc PROPERTIES
     OBJECT_DEPENDS "${CMAKE_SOURCE_DIR}/win32/vellatro.manifest;${CMAKE_SOURCE_DIR}/win32/vellatro.ico")
 target_include_directories(vellatro PRIVATE ${CMAKE_SOURCE_DIR}/win32)
-target_compile_definitions(vellatro PRIVATE _WIN32_WINNT=0x0601 WINVER=0x0601 _WIN32_IE=0x0700 NOMINMAX)
+target_compile_definitions(vellatro PRIVATE _WIN32_WINNT=0x0601 WINVER=0x0601 _WIN32_IE=0x0700 NOMINMAX
+    # No function of the system throws: what Windows calls back catches at the border.
+    "$<$<COMPILE_LANGUAGE:CXX>:DECLSPEC_IMPORT=__attribute__((dllimport,nothrow))>")
 target_compile_options(vellatro PRIVATE
     $<$<COMPILE_LANGUAGE:CXX>:-Oz -flto -ffunction-sections -fdata-sections -fno-rtti -fmerge-all-constants
         # Or each file keeps constructors of its own that no linker can merge.
-        -fno-declone-ctor-dtor>)
+        -fno-declone-ctor-dtor
+        # The only other thread, which hangs the wallpaper, uses no static variable of a function.
+        -fno-threadsafe-statics>)
+# Here the constructors of the large forms are called once. Inlined into one another they run out of registers,
+# and each control costs more instructions.
+set_source_files_properties(app/program.cpp settings/settings_frm.cpp PROPERTIES
+    COMPILE_OPTIONS -fno-inline-functions-called-once)
 if(CMAKE_SIZEOF_VOID_P EQUAL 4)
     # On x86_64 exceptions need these tables; without them the compiler takes another model, or breaks off.
     set(size_options -fno-asynchronous-unwind-tables)
@@ -25,8 +33,8 @@ endif()
 target_link_libraries(vellatro PRIVATE vellatro_options
     comctl32 comdlg32 gdi32 user32 advapi32 shell32 ole32 oleaut32 oleacc uuid)
 # One partition: with several GCC 12 breaks off while it links.
-target_link_options(vellatro PRIVATE -Oz -flto -flto-partition=none -static -s -Wl,--gc-sections -Wl,--nxcompat
-    -Wl,--dynamicbase -Wl,--no-insert-timestamp)
+target_link_options(vellatro PRIVATE -Oz -flto -flto-partition=none -static -s -Wl,--gc-sections
+    -Wl,--disable-auto-import -Wl,--nxcompat -Wl,--dynamicbase -Wl,--no-insert-timestamp)
 add_custom_target(package
     COMMAND ${CMAKE_COMMAND} -D PROGRAM=$<TARGET_FILE:vellatro> -D SOURCES=${CMAKE_SOURCE_DIR}
         -D OUT=${CMAKE_BINARY_DIR} -P ${CMAKE_SOURCE_DIR}/cmake/package.cmake

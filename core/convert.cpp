@@ -1,6 +1,9 @@
 // Conversions of stored texts. The process's regional settings have no say in them.
 #include "core/convert.h"
 
+#include "core/letters.h"
+#include "platform/joined.h"
+
 #include <algorithm>
 #include <charconv>
 #include <limits>
@@ -15,27 +18,25 @@ std::string_view Without_Blanks(std::string_view text) {
 }
 
 template <class Integer>
-Integer To_Integer(std::string_view text) {
+bool Read_Integer(std::string_view text, Integer &value) {
     std::string_view digits = Without_Blanks(text);
     // from_chars knows no plus sign; after one there must be no other sign.
     if (digits.size() > 1 && digits[0] == '+' && digits[1] != '-')
         digits.remove_prefix(1);
-    Integer value{};
     const char *end = digits.data() + digits.size();
     const std::from_chars_result result = std::from_chars(digits.data(), end, value);
-    if (result.ec != std::errc() || result.ptr != end || digits.empty()) {
-        using Limits = std::numeric_limits<Integer>;
-        throw Conversion_Error("a whole number from " + std::to_string(Limits::min()) + " to " +
-                               std::to_string(Limits::max()));
-    }
-    return value;
+    return result.ec == std::errc() && result.ptr == end && !digits.empty();
 }
 
-/// Compares with a word in lower case.
-bool Is_Word(std::string_view text, std::string_view word) {
-    return std::equal(text.begin(), text.end(), word.begin(), word.end(), [](char a, char b) {
-        return (a >= 'A' && a <= 'Z' ? static_cast<char>(a - 'A' + 'a') : a) == b;
-    });
+template <class Integer>
+Integer To_Integer(std::string_view text) {
+    Integer value{};
+    if (!Read_Integer(text, value)) {
+        using Limits = std::numeric_limits<Integer>;
+        throw Conversion_Error(platform::Joined(
+            {"a whole number from ", std::to_string(Limits::min()), " to ", std::to_string(Limits::max())}));
+    }
+    return value;
 }
 
 /// Digits, at most one point among them, and a sign before them. A number of any size will do.
@@ -57,11 +58,16 @@ std::int32_t To_Int32(std::string_view text) {
     return To_Integer<std::int32_t>(text);
 }
 
+std::optional<std::int16_t> Int16_Of(std::string_view text) {
+    std::int16_t value{};
+    return Read_Integer(text, value) ? std::optional(value) : std::nullopt;
+}
+
 bool To_Flag(std::string_view text) {
-    const std::string_view word = Without_Blanks(text);
-    if (Is_Word(word, "true"))
+    const std::string word = Capitals(Without_Blanks(text));
+    if (word == "TRUE")
         return true;
-    if (Is_Word(word, "false"))
+    if (word == "FALSE")
         return false;
     if (!Is_Number(word))
         throw Conversion_Error("True or False");

@@ -4,6 +4,7 @@
 #include "platform/error.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -17,6 +18,9 @@ public:
 /// Conversion_Error.
 std::int16_t To_Int16(std::string_view text);
 std::int32_t To_Int32(std::string_view text);
+
+/// The same, or nothing.
+std::optional<std::int16_t> Int16_Of(std::string_view text);
 
 /// The words True and False in any letter case, or a number, of which 0 alone is false. Throws
 /// Conversion_Error.

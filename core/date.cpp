@@ -3,6 +3,7 @@
 
 #include "core/convert.h"
 #include "platform/clock.h"
+#include "platform/joined.h"
 
 #include <chrono>
 
@@ -30,6 +31,12 @@ bool Plain_Number(const char *&at, const char *end, char separator, std::int16_t
     return true;
 }
 
+/// Day, month and year.
+std::string Parted_By(std::string_view separator, const Date &date) {
+    return platform::Joined({std::to_string(date.day), separator, std::to_string(date.month), separator,
+                             std::to_string(date.year)});
+}
+
 } // namespace
 
 Date Today() {
@@ -39,7 +46,9 @@ Date Today() {
 }
 
 int Weekday(const Date &date) {
-    return static_cast<int>(std::chrono::weekday(std::chrono::sys_days(Calendar_Day(date))).c_encoding());
+    // Day 0 was a Saturday.
+    const int weekday = (Day_Number(date) + 6) % 7;
+    return weekday < 0 ? weekday + 7 : weekday;
 }
 
 std::int32_t DaysInMonth(const Date &date) {
@@ -54,7 +63,7 @@ std::int32_t Day_Number(const Date &date) {
 }
 
 std::string Date_Key(const Date &date) {
-    return std::to_string(date.day) + "/" + std::to_string(date.month) + "/" + std::to_string(date.year);
+    return Parted_By("/", date);
 }
 
 std::string Every_Year_Key(const std::string &key) {
@@ -80,7 +89,7 @@ Date Parse_Date_Key(std::string_view key) {
 }
 
 std::string Date_Stamp(const Date &date) {
-    return std::to_string(date.day) + ":" + std::to_string(date.month) + ":" + std::to_string(date.year);
+    return Parted_By(":", date);
 }
 
 std::string Ordinal_Suffix(int day) {

@@ -8,13 +8,34 @@
 #include "platform/locale.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <exception>
 #include <string>
+#include <utility>
 
 namespace {
 
 constexpr std::int16_t leap_year = 2000;
 constexpr std::string_view yearly_year = "/yyyy";
+
+/// By date, the events of a day in file order. What is sorted are plain numbers, the day above the place in
+/// the file, because C's procedure for these is a tenth of the code of a template for the entries.
+void Sort_By_Day(std::vector<Sort_Entry> &entries) {
+    std::vector<std::int64_t> order;
+    order.reserve(entries.size());
+    for (const Sort_Entry &entry : entries)
+        order.push_back((std::int64_t{entry.number} << 32) + static_cast<std::int64_t>(order.size()));
+    std::qsort(order.data(), order.size(), sizeof order[0], [](const void *a, const void *b) {
+        const auto left = *static_cast<const std::int64_t *>(a);
+        const auto right = *static_cast<const std::int64_t *>(b);
+        return left < right ? -1 : static_cast<int>(left > right);
+    });
+    std::vector<Sort_Entry> sorted;
+    sorted.reserve(entries.size());
+    for (const std::int64_t each : order)
+        sorted.push_back(std::move(entries[static_cast<std::uint32_t>(each)]));
+    entries.swap(sorted);
+}
 
 } // namespace
 
@@ -37,7 +58,7 @@ bool Read_Entry(std::string_view record, Event_Entry &entry) {
     return date.day <= DaysInMonth({entry.yearly ? leap_year : date.year, date.month, 1});
 }
 
-Reading Read_Entries(const std::function<void(const Event_Entry &)> &take) {
+Reading Read_Entries(platform::Callback_Ref<void(const Event_Entry &)> take) {
     const std::string path = Event_Store::Data_File();
     if (!platform::File_Exists(path))
         return Reading::No_File;
@@ -71,10 +92,9 @@ Reading Load_Entries(std::vector<Sort_Entry> &entries, Sort_Order order, const D
         entries.push_back(
             {Day_Number(date), date, entry.yearly, std::string(entry.key), std::string(entry.text)});
     });
-    if (order == Sort_Order::Date_Added)
+    if (order == Sort_Order::Date_Added || entries.empty())
         return reading;
-    std::stable_sort(entries.begin(), entries.end(),
-                     [](const Sort_Entry &a, const Sort_Entry &b) { return a.number < b.number; });
+    Sort_By_Day(entries);
     if (order == Sort_Order::Descending_Date)
         std::reverse(entries.begin(), entries.end());
     return reading;

@@ -3,9 +3,9 @@
 #pragma once
 
 #include "core/date.h"
+#include "platform/callback.h"
 
 #include <cstdint>
-#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -29,7 +29,7 @@ enum class Reading {
 };
 
 /// Calls `take` for each event of the data file in file order. Shows no message.
-Reading Read_Entries(const std::function<void(const Event_Entry &)> &take);
+Reading Read_Entries(platform::Callback_Ref<void(const Event_Entry &)> take);
 
 /// The day of an event's date, of a yearly one in `year`. In a year without a 29 February its events are on
 /// the 28th: the event stays in its month, where it is counted too.

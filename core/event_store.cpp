@@ -5,6 +5,7 @@
 #include "core/date.h"
 #include "core/sequential.h"
 #include "platform/files.h"
+#include "platform/joined.h"
 #include "platform/message_box.h"
 
 #include <algorithm>
@@ -82,11 +83,11 @@ void Event_Store::Check_For_Pre(const std::string &key, const std::string &text,
     if (text.empty())
         Temp_Lst.erase(match);
     else
-        *match = (each_year ? every : key) + "=" + text;
+        *match = platform::Joined({each_year ? every : key, "=", text});
     Write_ALL();
 }
 
-void Event_Store::Write_Whole(const std::string &added) {
+void Event_Store::Write_Whole(const std::string &added) const {
     if (partly_loaded_)
         throw platform::File_Error("what else the file holds is not known");
     std::string bytes = All_Records(Temp_Lst);
@@ -113,7 +114,7 @@ void Event_Store::Write_ALL() {
 
 void Event_Store::Write_New_Line(const std::string &key, const std::string &text, bool each_year) {
     if (!text.empty())
-        Rewrite_File((each_year ? Every_Year_Key(key) : key) + "=" + text);
+        Rewrite_File(platform::Joined({each_year ? Every_Year_Key(key) : key, "=", text}));
 }
 
 Stored_Message Event_Store::Get_Message(const std::string &key) {
@@ -142,15 +143,20 @@ Stored_Message Event_Store::Get_Message(const std::string &key) {
     return message;
 }
 
-void Event_Store::Load_Dates(const std::function<void(std::string_view record)> &enter) {
+void Event_Store::Load_Dates(platform::Callback_Ref<void(std::string_view record)> enter,
+                             platform::Callback<void()> entered) {
+    bool complete = false;
     try {
         std::string bytes;
-        if (!Read_Data_File(bytes))
-            return;
+        Read_Data_File(bytes);
         Sequential_Reader reader(bytes);
         for (std::string_view item; reader.Next(item);)
             enter(item);
-    } catch (const std::exception &) {
-        Tell_Loading_Failed();
+        complete = true;
+    } catch (const std::exception &) { // told below
     }
+    if (entered)
+        entered();
+    if (!complete)
+        Tell_Loading_Failed();
 }

@@ -2,7 +2,8 @@
 // here.
 #pragma once
 
-#include <functional>
+#include "platform/callback.h"
+
 #include <string>
 #include <string_view>
 #include <vector>
@@ -61,12 +62,14 @@ public:
     Stored_Message Get_Message(const std::string &key);
 
     /// Calls `enter` for each record in file order; the view it is given lasts for the call. An exception of
-    /// it ends the reading with the message of Load_File.
-    void Load_Dates(const std::function<void(std::string_view record)> &enter);
+    /// it ends the reading with the message of Load_File. `entered` is called after the last record, before
+    /// that message.
+    void Load_Dates(platform::Callback_Ref<void(std::string_view record)> enter,
+                    platform::Callback<void()> entered = nullptr);
 
 private:
     /// Writes Temp_Lst and, unless it is empty, the record `added`. Throws as Write_Data_File does.
-    void Write_Whole(const std::string &added);
+    void Write_Whole(const std::string &added) const;
     /// The same with a message for a failure.
     void Rewrite_File(const std::string &added);
 

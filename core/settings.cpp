@@ -3,6 +3,7 @@
 #include "core/settings.h"
 
 #include "core/convert.h"
+#include "platform/joined.h"
 #include "platform/registry.h"
 #include "platform/text.h"
 
@@ -71,7 +72,7 @@ const Setting_Row &Setting_Row_Of(std::string_view key) {
     for (const Setting_Row &row : rows)
         if (row.key == key)
             return row;
-    throw platform::Error("there is no setting \"" + std::string(key) + "\"");
+    throw platform::Error(platform::Joined({"there is no setting \"", key, "\""}));
 }
 
 std::string Setting_Text(const Settings &settings, const Setting_Row &row) {
@@ -117,9 +118,9 @@ void Load_Settings() {
         try {
             Set_From_Text(Cur_Settings, row, *stored);
         } catch (const Conversion_Error &expected) {
-            throw Setting_Error("The setting \"" + std::string(row.key) + "\" in the section \"" +
-                                row.section + "\" is \"" + Shortened(*stored) + "\", but must be " +
-                                expected.what() + ".");
+            throw Setting_Error(
+                platform::Joined({"The setting \"", row.key, "\" in the section \"", row.section, "\" is \"",
+                                  Shortened(*stored), "\", but must be ", expected.what(), "."}));
         }
     }
 }

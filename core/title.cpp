@@ -2,7 +2,9 @@
 #include "core/title.h"
 
 #include "core/date.h"
+#include "core/letters.h"
 #include "core/settings.h"
+#include "platform/joined.h"
 #include "platform/locale.h"
 #include "platform/registry.h"
 #include "platform/text.h"
@@ -24,10 +26,6 @@ struct Token {
 
 using Characters = std::vector<std::string_view>;
 
-char Lower(char c) {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
 /// The whole characters of the pattern, of a long one those that lie in its first bytes. Letters are only
 /// looked for among whole characters, because in some code pages a letter's byte can be the second half of
 /// one.
@@ -45,13 +43,13 @@ Characters Split(std::string_view pattern) {
     return characters;
 }
 
-/// Whether the word, in lower case, stands at `at` in any letter case.
+/// Whether the word, in capitals, stands at `at` in any letter case.
 bool Stands_At(const Characters &characters, std::size_t at, std::string_view word) {
     if (characters.size() - at < word.size())
         return false;
     for (std::size_t i = 0; i < word.size(); ++i) {
         const std::string_view character = characters[at + i];
-        if (character.size() != 1 || Lower(character[0]) != word[i])
+        if (character.size() != 1 || Capital(character[0]) != word[i])
             return false;
     }
     return true;
@@ -104,10 +102,10 @@ std::vector<Token> Read_Pattern(const Characters &characters) {
         } else if (characters[at] == "\\" && at + 1 < characters.size()) {
             tokens.push_back({Field::Literal, 1, characters[at + 1]});
             at += 2;
-        } else if (Stands_At(characters, at, "am/pm")) {
+        } else if (Stands_At(characters, at, "AM/PM")) {
             tokens.push_back({Field::Half_Day, 2, std::string_view(characters[at].data(), 5)});
             at += 5;
-        } else if (Stands_At(characters, at, "a/p")) {
+        } else if (Stands_At(characters, at, "A/P")) {
             tokens.push_back({Field::Half_Day, 1, std::string_view(characters[at].data(), 3)});
             at += 3;
         } else {
@@ -181,15 +179,17 @@ constexpr const char *weekday_form = "Weekday - d month - yyyy";
 std::string Date_Text(const std::string &date_format, const platform::Date_Time &now) {
     if (date_format == "mm/yyyy" || date_format == "dd/mm/yyyy")
         return Format_Pattern(date_format, now);
-    const std::string month_and_year = platform::Month_Name(now.month) + " - " + std::to_string(now.year);
+    std::string month_and_year =
+        platform::Joined({platform::Month_Name(now.month), " - ", std::to_string(now.year)});
     if (date_format == "Month - yyyy")
         return month_and_year;
-    const std::string day = std::to_string(now.day) + Ordinal_Suffix(now.day) + " " + month_and_year;
+    std::string day =
+        platform::Joined({std::to_string(now.day), Ordinal_Suffix(now.day), " ", month_and_year});
     if (date_format == "d Month - yyyy")
         return day;
     const Date today{static_cast<std::int16_t>(now.year), static_cast<std::int16_t>(now.month),
                      static_cast<std::int16_t>(now.day)};
-    return platform::Weekday_Name(Weekday(today)) + " " + day;
+    return platform::Joined({platform::Weekday_Name(Weekday(today)), " ", day});
 }
 
 } // namespace
@@ -209,7 +209,7 @@ std::string Title_Of_Today(bool show_time, const std::string &time_format, const
 std::string Bar_Date_Text(bool show_time, const std::string &time_format, const std::string &date_format,
                           std::int16_t month, std::int16_t year, const platform::Date_Time &now) {
     if (month != now.month || year != now.year)
-        return platform::Month_Name(month) + " - " + std::to_string(year);
+        return platform::Joined({platform::Month_Name(month), " - ", std::to_string(year)});
     std::string title = Title_Of_Today(show_time, time_format, date_format, now);
     const auto &formats = Bar_Date_Formats();
     if (std::find(formats.begin(), formats.end(), date_format) == formats.end()) {

@@ -21,6 +21,9 @@ enum class Position_Code : std::int16_t {
     Center_Left = 9,
 };
 
+/// The one that is no place on the screen, as settings and packs hold it.
+constexpr auto Manual_Position = static_cast<std::int16_t>(Position_Code::Manual);
+
 /// What a placement depends on, in twips.
 struct Placement {
     platform::Rect work_area;

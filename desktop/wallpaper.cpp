@@ -29,10 +29,9 @@ void Set_Display_Mode_Wallpaper(const std::string &path, std::int16_t display_mo
 }
 
 void Set_Word_Wallpaper(const std::string &path, std::string_view mode_word) {
-    constexpr const char *key = "Control Panel\\Desktop";
     const platform::Registry_Root user = platform::Find_Registry_Root("HKCU");
     const bool stretched = mode_word != "CENTER" && mode_word != "TILED";
-    platform::Registry_Write_String(user, key, "TileWallpaper", mode_word == "TILED" ? "1" : "0");
-    platform::Registry_Write_String(user, key, "WallpaperStyle", stretched ? "2" : "0");
+    platform::Registry_Write_String(user, Desktop_Key, "TileWallpaper", mode_word == "TILED" ? "1" : "0");
+    platform::Registry_Write_String(user, Desktop_Key, "WallpaperStyle", stretched ? "2" : "0");
     platform::Set_Wallpaper(path);
 }

@@ -5,6 +5,9 @@
 #include <string>
 #include <string_view>
 
+/// Where the system keeps the current user's wallpaper and its display mode.
+inline constexpr const char *Desktop_Key = "Control Panel\\Desktop";
+
 /// Hangs the bitmap at `path` up in a display mode: 0 centred, 1 tiled, 2 stretched, as is every other
 /// number. Errors are silent.
 void Set_Display_Mode_Wallpaper(const std::string &path, std::int16_t display_mode) noexcept;

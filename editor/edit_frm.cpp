@@ -1,6 +1,7 @@
 // What the event editor does, and where its controls are.
 #include "editor/edit_frm.h"
 
+#include "platform/joined.h"
 #include "platform/message_box.h"
 #include "platform/screen.h"
 #include "toolkit/units.h"
@@ -96,9 +97,9 @@ bool Edit_Frm::May_Leave() {
     Box_Answer answer{};
     {
         const Raised raised(busy_);
-        answer =
-            platform::Message_Box("Save changes for the " + Date_Lbl.Caption() + "?", "Desktop Wallpaper",
-                                  platform::Box_Icon::Question, platform::Box_Buttons::Yes_No_Cancel);
+        answer = platform::Message_Box(platform::Joined({"Save changes for the ", Date_Lbl.Caption(), "?"}),
+                                       "Desktop Wallpaper", platform::Box_Icon::Question,
+                                       platform::Box_Buttons::Yes_No_Cancel);
     }
     if (answer == Box_Answer::No || (answer == Box_Answer::Yes && Apply_Btn_Click()))
         return true;

@@ -4,7 +4,6 @@
 #include "core/sequential.h"
 #include "tests/fakes/fakes.h"
 #include "transfer/import.h"
-#include "transfer/paths.h"
 
 #include <cstdint>
 #include <cstdlib>
@@ -22,7 +21,7 @@ std::vector<CSV_Event> Read(std::string_view bytes) {
     try {
         CSV_Lines lines(bytes);
         CSV_Columns columns;
-        if (!Check_CSV_Headings(Lower_Case(std::string(lines.Next_Line())), columns))
+        if (!Check_CSV_Headings(lines.Next_Line(), columns))
             return events;
         for (CSV_Event event; !lines.At_End();)
             if (Read_CSV_Line(lines.Next_Record(), columns, event))

@@ -3,13 +3,13 @@
 // mirror only reads it.
 #pragma once
 
+#include "platform/callback.h"
 #include "platform/colour.h"
 #include "platform/drawing.h"
 #include "platform/error.h"
 #include "platform/geometry.h"
 
 #include <cstdint>
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -90,7 +90,7 @@ struct Control_State {
     bool link = false;     ///< a painted control with the hand pointer
     /// Paints a painted control of a dialog, in twips from its own top left corner. Never throws. The mirror
     /// adds the dotted rectangle of the keyboard focus.
-    std::function<void(Canvas &canvas, const Rect &clip)> paint;
+    Callback<void(Canvas &canvas, const Rect &clip)> paint;
 
     Access_State access;
 };
@@ -161,9 +161,9 @@ struct Form_Model {
     std::vector<Control_State *> controls; ///< in paint and tab order
     int focused = -1;                      ///< index of the control with the keyboard focus, -1: none
 
-    std::function<void(const Input_Event &)> input;
+    Callback<void(const Input_Event &)> input;
     /// Paints all that lies in `clip` (twips).
-    std::function<void(Canvas &canvas, const Rect &clip)> paint;
+    Callback<void(Canvas &canvas, const Rect &clip)> paint;
 };
 
 /// What of a form or control is no longer what the mirror shows.

@@ -2,8 +2,9 @@
 // alive.
 #pragma once
 
+#include "platform/callback.h"
+
 #include <cstdint>
-#include <functional>
 #include <string>
 
 namespace platform {
@@ -30,15 +31,15 @@ void Wait_For_Messages(unsigned milliseconds);
 /// Identifies a running timer; 0 is none.
 using Timer_Id = std::uintptr_t;
 
-/// Calls `tick` every `milliseconds` (1 or more) from the message loop until Stop_Timer. `tick` may stop its
-/// own timer. `tick` must not throw.
-Timer_Id Start_Timer(unsigned milliseconds, std::function<void()> tick);
+/// Calls `tick` every `milliseconds` (1 or more) from the message loop until Stop_Timer, but not while a menu
+/// is open or the user moves a window. `tick` may stop its own timer. `tick` must not throw.
+Timer_Id Start_Timer(unsigned milliseconds, Callback<void()> tick);
 void Stop_Timer(Timer_Id id);
 
 /// What the system tells every program.
 enum class Broadcast {
     Settings_Changed, ///< regional settings, work area and the like
-    Time_Changed,     ///< the clock was set
+    Time_Changed,     ///< the clock was set; not told while timers wait
     Display_Changed,  ///< the screen's size or depth
     Colours_Changed,  ///< the Windows colours
     Session_Ends,     ///< the user is about to log off or shut down; the last chance to keep something
@@ -49,7 +50,7 @@ enum class Broadcast {
 /// Names the one listener of the broadcasts. It must not throw. Its answer counts for Session_Ends: false
 /// asks the system not to end the session. A hidden top-level window hears them, because windows inside the
 /// shell's desktop do not.
-void Listen_To_Broadcasts(std::function<bool(Broadcast)> listener);
+void Listen_To_Broadcasts(Callback<bool(Broadcast)> listener);
 
 /// True when this process is the first of the user's session that claims `name`; the claim ends with the
 /// process.

@@ -25,7 +25,7 @@ About_Page::About_Page(Form &dialog, Frame &frame)
     : Logo_Pic(dialog, "Logo_Pic"), Name_Lbl(dialog, "Name_Lbl", "Vellatro"),
       Version_Lbl(dialog, "Version_Lbl", "v0.3b"),
       Designed_Lbl(dialog, "Designed_Lbl", "Designed for Win 98 and 2k."), Link_Lbl(dialog, "Link_Lbl") {
-    Put_Into(frame, {&Logo_Pic, &Name_Lbl, &Version_Lbl, &Designed_Lbl, &Link_Lbl});
+    frame.Hold(Logo_Pic, Link_Lbl);
     Logo_Pic.Set_Transparent(true);
     Logo_Pic.On_Paint = [this](platform::Canvas &canvas) { Paint_Logo(canvas); };
     Name_Lbl.Set_Font(name_font);

@@ -5,7 +5,7 @@
 
 class About_Page {
 public:
-    About_Page(Form &dialog, Frame &frame);
+    [[gnu::noinline]] About_Page(Form &dialog, Frame &frame);
     /// Places the controls, also after a change of the dots per inch.
     void Lay_Out();
 

@@ -15,19 +15,10 @@ constexpr int left_width = 2400; ///< of the column with the swatches
 constexpr int swatch_row = 19 * 15;
 constexpr int swatch_height = 17 * 15;
 constexpr int swatch_width = 36 * 15;
-constexpr int group_gap = 5 * 15; ///< between group boxes, which have room at their tops
 constexpr int group_bottom = 7 * 15;
-constexpr int button_height = 23 * 15;
 constexpr int value_label_width = 45 * 15;
 constexpr int gradient_width = 16 * 15;
 constexpr int value_rows = 3;
-
-/// A rectangle of the calendar's layout with its left top corner elsewhere.
-Rect Moved(Rect pixels, const Rect &from, int left, int top) {
-    pixels.left += Twips_To_Pixels(left) - from.left;
-    pixels.top += Twips_To_Pixels(top) - from.top;
-    return Pixels_To_Twips(pixels);
-}
 
 } // namespace
 
@@ -113,16 +104,9 @@ void Colours_Page::Lay_Out_Preview() {
     const int second_left = first_left + Pixels_To_Twips(thin.Box(1).left);
     const int third_left = margin + inner_width - backdrop - Pixels_To_Twips(square.Box(0).width);
     Preview_Back_Pic.Move({margin, group_top, inner_width, height + 2 * backdrop});
-    const auto place = [](const Box_Layout &style, Label &number, Label &text, int left, int box_top) {
-        number.Move(Moved(style.Box(0), style.Box(0), left, box_top));
-        text.Move(Moved(style.Text(0), style.Box(0), left, box_top));
-        Dress_Number(number);
-        Dress_Text(text);
-        text.Set_Transparent(false);
-    };
-    place(thin, Preview_Today_Lbl, Preview_Caption_Today_Lbl, first_left, boxes_top);
-    place(thin, Preview_Style0_Lbl, Preview_Caption0_Lbl, second_left, boxes_top);
-    place(square, Preview_Style1_Lbl, Preview_Caption1_Lbl, third_left, first_top);
+    Place_Example(thin, Preview_Today_Lbl, Preview_Caption_Today_Lbl, first_left, boxes_top);
+    Place_Example(thin, Preview_Style0_Lbl, Preview_Caption0_Lbl, second_left, boxes_top);
+    Place_Example(square, Preview_Style1_Lbl, Preview_Caption1_Lbl, third_left, first_top);
     for (Label *heading : {&Preview_Prev_Lbl, &Preview_Month_Lbl}) {
         Dress_Heading(*heading, Box_Layout::title_font);
         heading->Set_Transparent(false);

@@ -25,14 +25,7 @@ using platform::Rect;
 namespace {
 
 constexpr int first_menu_swatch = 4; ///< Back and Fore: those of the title and the headers
-constexpr int one_pixel = 15;        ///< twips at 96 dots per inch
 constexpr int big_step = 10;         ///< pixels of the cross-hair with the Shift key
-
-// System colours.
-constexpr Colour face = platform::System_Colour(15);
-constexpr Colour shadow = platform::System_Colour(16);
-constexpr Colour grey_text = platform::System_Colour(17);
-constexpr Colour text = platform::System_Colour(18);
 
 struct Rgb_Parts {
     int red;
@@ -59,11 +52,16 @@ std::string Web_Text(Colour colour) {
     return "#" + Web_Part(parts.red) + Web_Part(parts.green) + Web_Part(parts.blue);
 }
 
+/// The three parts as numbers, with a text before each.
+std::string Parts_Text(Colour colour, const char *red, const char *green, const char *blue) {
+    const Rgb_Parts parts = Parts_Of(colour);
+    return red + std::to_string(parts.red) + green + std::to_string(parts.green) + blue +
+           std::to_string(parts.blue);
+}
+
 /// As it is read aloud.
 std::string Spoken(Colour colour) {
-    const Rgb_Parts parts = Parts_Of(platform::Resolve_Colour(colour));
-    return "red " + std::to_string(parts.red) + ", green " + std::to_string(parts.green) + ", blue " +
-           std::to_string(parts.blue);
+    return Parts_Text(platform::Resolve_Colour(colour), "red ", ", green ", ", blue ");
 }
 
 } // namespace
@@ -93,7 +91,11 @@ Colours_Page::Colours_Page(Form &dialog, Frame &frame, Main_Frm &calendar)
                                       {&Col_Text_Lbl, &Col_Text_Pic, &Settings::Col_Text},
                                       {&Col_Back_Lbl, &Col_Back_Pic, &Settings::Col_Back},
                                       {&Col_Fore_Lbl, &Col_Fore_Pic, &Settings::Col_Fore}}} {
-    Put_Into_Frames(frame);
+    frame.Hold(Boxes_Fra, Preview_Caption1_Lbl);
+    Boxes_Fra.Hold(Col_Today_Pic, Col_Text_Lbl);
+    Menu_Fra.Hold(Col_Sys_Opt, Col_Fore_Lbl);
+    Palette_Fra.Hold(Pal, Names_Cbo);
+    Preview_Fra.Hold(Preview_Back_Pic, Preview_Caption1_Lbl);
     for (int i = 0; i < colour_count; ++i)
         Wire_Swatch(i);
     Col_Sys_Opt.On_Click = [this] { Col_Sys_Opt_Click(); };
@@ -113,21 +115,6 @@ Colours_Page::Colours_Page(Form &dialog, Frame &frame, Main_Frm &calendar)
     Dress_Preview();
     Lay_Out();
     Move_Cross(cross_);
-}
-
-void Colours_Page::Put_Into_Frames(const Frame &frame) {
-    Put_Into(frame, {&Boxes_Fra, &Menu_Fra, &Default_Cols_Btn, &Palette_Fra, &Preview_Fra});
-    for (int i = 0; i < colour_count; ++i) {
-        const Swatch &swatch = swatches_[static_cast<std::size_t>(i)];
-        Put_Into(i < first_menu_swatch ? Boxes_Fra : Menu_Fra, {swatch.label, swatch.picture});
-    }
-    Put_Into(Menu_Fra, {&Col_Sys_Opt, &Col_Other_Opt});
-    Put_Into(Palette_Fra, {&Pal, &Gradient_Pic, &Names_Lbl, &Names_Cbo});
-    for (int i = 0; i < 3; ++i)
-        Put_Into(Palette_Fra, {&txCol_Lbl[i], &txCol[i]});
-    Put_Into(Preview_Fra, {&Preview_Back_Pic, &Preview_Prev_Lbl, &Preview_Month_Lbl, &Preview_Today_Lbl,
-                           &Preview_Caption_Today_Lbl, &Preview_Style0_Lbl, &Preview_Caption0_Lbl,
-                           &Preview_Style1_Lbl, &Preview_Caption1_Lbl});
 }
 
 void Colours_Page::Wire_Swatch(int index) {
@@ -179,6 +166,12 @@ void Colours_Page::Load_Settings() {
     Select(selector_);
 }
 
+void Colours_Page::Put_Choices(Settings &settings) const {
+    for (const Swatch &swatch : swatches_)
+        settings.*swatch.setting = swatch.picture->Back_Colour();
+    settings.Menu_Col_Sorce = Col_Sys_Opt.Checked() ? 0 : 1;
+}
+
 void Colours_Page::Reset_Labels() {
     for (const Swatch &swatch : swatches_) {
         platform::Font font = swatch.label->Font();
@@ -220,11 +213,9 @@ void Colours_Page::Describe_Swatches() {
 void Colours_Page::ShowColors(Colour colour) {
     Gradient_Pic.Set_Visible(false);
     colour = platform::Resolve_Colour(colour);
-    const Rgb_Parts parts = Parts_Of(colour);
     txCol[0].Set_Text(std::to_string(colour));
     txCol[1].Set_Text(Web_Text(colour));
-    txCol[2].Set_Text(std::to_string(parts.red) + "," + std::to_string(parts.green) + "," +
-                      std::to_string(parts.blue));
+    txCol[2].Set_Text(Parts_Text(colour, "", ",", ","));
     // A colour with two names keeps the one that was chosen.
     const auto names = Named_Colours();
     const int chosen = Names_Cbo.Selected();
@@ -320,7 +311,7 @@ void Colours_Page::Col_Other_Opt_Click() {
 void Colours_Page::Enable_Menu_Swatches(bool enabled) {
     for (std::size_t i = first_menu_swatch; i < swatches_.size(); ++i) {
         swatches_[i].label->Set_Enabled(enabled);
-        swatches_[i].label->Set_Fore_Colour(enabled ? text : grey_text);
+        swatches_[i].label->Set_Fore_Colour(enabled ? text_colour : grey_text_colour);
         swatches_[i].picture->Set_Enabled(enabled);
         swatches_[i].picture->Repaint();
     }
@@ -380,9 +371,11 @@ void Colours_Page::Paint_Swatch(int index, platform::Canvas &canvas) {
     const Rect all{0, 0, picture.Width(), picture.Height()};
     // Half of a colour that is not in use is covered.
     if (!picture.Enabled())
-        platform::Fill_Polygon(canvas, {{all.width, 0}, {all.width, all.height}, {0, all.height}}, face);
+        platform::Fill_Polygon(canvas, {{all.width, 0}, {all.width, all.height}, {0, all.height}},
+                               face_colour);
     const bool selected = index == selector_;
-    platform::Frame_Rect(canvas, all, selected ? text : shadow, selected ? 2 * one_pixel : one_pixel);
+    platform::Frame_Rect(canvas, all, selected ? text_colour : shadow_colour,
+                         selected ? 2 * layout::one_pixel : layout::one_pixel);
 }
 
 void Colours_Page::Paint_Palette(platform::Canvas &canvas) {
@@ -391,7 +384,7 @@ void Colours_Page::Paint_Palette(platform::Canvas &canvas) {
     int reach = 4;
     for (const Colour colour : {platform::Rgb(0, 0, 0), platform::Rgb(255, 255, 255)}) {
         const Rect frame{cross_.x - reach, cross_.y - reach, 2 * reach + 1, 2 * reach + 1};
-        platform::Frame_Rect(canvas, Pixels_To_Twips(frame), colour, one_pixel);
+        platform::Frame_Rect(canvas, Pixels_To_Twips(frame), colour, layout::one_pixel);
         --reach;
     }
 }

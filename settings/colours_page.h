@@ -20,6 +20,8 @@ public:
 
     /// Shows the colours of the settings.
     void Load_Settings();
+    /// Puts what is chosen into `settings`.
+    void Put_Choices(Settings &settings) const;
     /// Places the controls, also after a change of the dots per inch.
     void Lay_Out();
 
@@ -81,7 +83,6 @@ private:
         platform::Colour Settings::*setting;
     };
 
-    void Put_Into_Frames(const Frame &frame);
     void Wire_Swatch(int index);
     void Paint_Swatch(int index, platform::Canvas &canvas);
     void Paint_Palette(platform::Canvas &canvas);

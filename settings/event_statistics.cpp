@@ -8,6 +8,10 @@ namespace {
 constexpr const char *month_titles[] = {"Jan: ",  "Feb: ", "Mar: ", "Apr: ", "May: ", "Jun: ",
                                         "July: ", "Aug: ", "Sep: ", "Oct: ", "Nov: ", "Dec: "};
 
+std::string Line(const char *title, std::int16_t count) {
+    return title + std::to_string(count);
+}
+
 void Count(std::int16_t &counter) {
     if (counter < std::numeric_limits<std::int16_t>::max())
         ++counter;
@@ -32,22 +36,22 @@ void Workout_Stats(Event_Statistics &statistics, const Event_Entry &entry, const
 }
 
 std::string Total_Line(const Event_Statistics &statistics) {
-    return "Total Events: " + std::to_string(statistics.total);
+    return Line("Total Events: ", statistics.total);
 }
 
 std::string Year_Line(const Event_Statistics &statistics) {
-    return "Events This Year: " + std::to_string(statistics.this_year);
+    return Line("Events This Year: ", statistics.this_year);
 }
 
 std::string Before_Line(const Event_Statistics &statistics) {
-    return "No. Before Today: " + std::to_string(statistics.future);
+    return Line("No. Before Today: ", statistics.future);
 }
 
 std::string After_Line(const Event_Statistics &statistics) {
-    return "No. After Today: " + std::to_string(statistics.past);
+    return Line("No. After Today: ", statistics.past);
 }
 
 std::string Month_Line(const Event_Statistics &statistics, int month) {
     const auto index = static_cast<std::size_t>(month);
-    return month_titles[index] + std::to_string(statistics.months.at(index));
+    return Line(month_titles[index], statistics.months.at(index));
 }

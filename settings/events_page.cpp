@@ -10,38 +10,35 @@
 
 namespace {
 
-constexpr const char *overview_title = "Events";
-constexpr const char *statistics_title = "Events";
+constexpr const char *events_title = "Events"; ///< of the overview and of the statistics
 
 /// A list or counts that are not whole must not look so. There is no message box for it: every choice on the
 /// page reads the file, and each would bring another one.
-void Title_Frame(Frame &frame, const char *title, Reading reading) {
-    frame.Set_Caption(reading == Reading::Incomplete ? "Error loading in data file." : title);
+void Title_Frame(Frame &frame, Reading reading) {
+    frame.Set_Caption(reading == Reading::Incomplete ? "Error loading in data file." : events_title);
 }
 
 } // namespace
 
-Events_Page::Events_Page(Form &dialog, const Frame &frame, Main_Frm &calendar)
+Events_Page::Events_Page(Form &dialog, Frame &frame, Main_Frm &calendar)
     : Overview_Opt(dialog, "Overview_Opt", "Events &Overview"),
       Stats_Opt(dialog, "Stats_Opt", "General &Statstics"),
-      Overview_Fra(dialog, "Overview_Fra", overview_title), Sort_Lbl(dialog, "Sort_Lbl", "Sort &by:"),
+      Overview_Fra(dialog, "Overview_Fra", events_title), Sort_Lbl(dialog, "Sort_Lbl", "Sort &by:"),
       Sort_Cbo(dialog, "Sort_Cbo"),
       Events_Lst_Lbl(dialog, "Events_Lst_Lbl", "&Events (double-click or Delete removes one):"),
       Events_Lst(dialog, "Events_Lst"), Countdown_Name_Lbl(dialog, "Countdown_Name_Lbl", "Countdown:"),
-      Countdown_Lbl(dialog, "Countdown_Lbl"), Events_Fra(dialog, "Events_Fra", statistics_title),
+      Countdown_Lbl(dialog, "Countdown_Lbl"), Events_Fra(dialog, "Events_Fra", events_title),
       Total_All_Lbl(dialog, "Total_All_Lbl"), Total_Year_Lbl(dialog, "Total_Year_Lbl"),
       Before_Lbl(dialog, "Before_Lbl"), After_Lbl(dialog, "After_Lbl"),
       Yearview_Fra(dialog, "Yearview_Fra", "This Year"), Month_Count_Lbl(dialog, "Month_Count_Lbl"),
       calendar_(calendar) {
-    Put_Into(frame, {&Overview_Opt, &Stats_Opt, &Overview_Fra, &Events_Fra, &Yearview_Fra});
-    Put_Into(Overview_Fra,
-             {&Sort_Lbl, &Sort_Cbo, &Events_Lst_Lbl, &Events_Lst, &Countdown_Name_Lbl, &Countdown_Lbl});
-    Put_Into(Events_Fra, {&Total_All_Lbl, &Total_Year_Lbl, &Before_Lbl, &After_Lbl});
-    for (Label &label : Month_Count_Lbl)
-        label.Set_Container(Yearview_Fra);
+    frame.Hold(Overview_Opt, Month_Count_Lbl[11]);
+    Overview_Fra.Hold(Sort_Lbl, Countdown_Lbl);
+    Events_Fra.Hold(Total_All_Lbl, After_Lbl);
+    Yearview_Fra.Hold(Month_Count_Lbl[0], Month_Count_Lbl[11]);
     Sort_Cbo.Set_Items({"Ascending Date", "Descending Date", "Date Added"});
     Sort_Cbo.Select(0);
-    Events_Lst.Set_Access({platform::Access_Role::None, false, "Events", {}, {}});
+    Name_Aloud(Events_Lst, "Events");
     Write_Labels();
     Overview_Opt.Set_Checked(true);
     Show_View(true);
@@ -65,7 +62,7 @@ void Events_Page::Write_Month_Titles() {
 
 void Events_Page::Get_Stats() {
     Reset_Vars();
-    Title_Frame(Events_Fra, statistics_title, Load_Dates());
+    Title_Frame(Events_Fra, Load_Dates());
 }
 
 void Events_Page::Reset_Vars() {
@@ -102,6 +99,7 @@ void Events_Page::Reload() {
 
 void Events_Page::Show_Imported(std::vector<Sort_Entry> staged) {
     Dates_Lst = std::move(staged);
+    Overview_Fra.Set_Caption("Events"); // and no more that the data file could not be read
     Sort_List();
     Get_Stats();
 }
@@ -126,7 +124,7 @@ void Events_Page::Sort_Cbo_Click() {
 }
 
 void Events_Page::List_Events() {
-    Title_Frame(Overview_Fra, overview_title, Loadin_Data());
+    Title_Frame(Overview_Fra, Loadin_Data());
     Sort_List();
 }
 

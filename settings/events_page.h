@@ -13,7 +13,7 @@
 class Events_Page {
 public:
     /// `frame` is the page's frame on `dialog`. All three must outlive the page.
-    Events_Page(Form &dialog, const Frame &frame, Main_Frm &calendar);
+    [[gnu::noinline]] Events_Page(Form &dialog, Frame &frame, Main_Frm &calendar);
     /// Places the controls, also after a change of the dots per inch.
     void Lay_Out();
 

@@ -18,10 +18,9 @@ General_Page::General_Page(Form &dialog, Frame &frame, Main_Frm &calendar)
                          "Allow d&ragging when Manual Position is not selected"),
       Alert_Chk(dialog, "Alert_Chk", "A&lert me when a date Comes up"),
       Startup_Chk(dialog, "Startup_Chk", "Run at &Startup"), calendar_(calendar) {
-    Put_Into(frame, {&Title_Bar_Fra, &General_Fra});
-    Put_Into(Title_Bar_Fra,
-             {&Bar_Time_Chk, &Bar_Time_Lbl, &Bar_Time_Cbo, &Bar_Date_Lbl, &Bar_Date_Cbo, &Bar_Preview_Lbl});
-    Put_Into(General_Fra, {&Auto_Compact_Chk, &Allow_Dragging_Chk, &Alert_Chk, &Startup_Chk});
+    frame.Hold(Title_Bar_Fra, Startup_Chk);
+    Title_Bar_Fra.Hold(Bar_Time_Chk, Bar_Preview_Lbl);
+    General_Fra.Hold(Auto_Compact_Chk, Startup_Chk);
     Bar_Time_Lbl.Set_Visible(false);
     Bar_Time_Cbo.Set_Editable();
     Bar_Time_Cbo.Set_Items({"H:mm", "HH:mm", "H:mm:ss", "HH:mm:ss", "h:mm AM/PM", "h:mm:ss AM/PM"});

@@ -7,7 +7,7 @@
 
 class General_Page {
 public:
-    General_Page(Form &dialog, Frame &frame, Main_Frm &calendar);
+    [[gnu::noinline]] General_Page(Form &dialog, Frame &frame, Main_Frm &calendar);
     /// Places the controls, also after a change of the dots per inch.
     void Lay_Out();
 

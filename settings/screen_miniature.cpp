@@ -11,15 +11,13 @@
 
 #include <algorithm>
 
+using layout::one_pixel;
 using platform::Canvas;
 using platform::Rect;
 using platform::Size;
 
 namespace {
 
-constexpr platform::Colour task_bar = platform::System_Colour(15);
-constexpr platform::Colour shadow = platform::System_Colour(16);
-constexpr int one_pixel = 15; ///< twips at 96 dots per inch
 constexpr int cells = 3;      ///< of the work area, in each direction
 constexpr int fifth_row = 28; ///< its first box, and that of the sixth: the lowest row of the month
 constexpr int sixth_row = 35;
@@ -84,7 +82,7 @@ void Screen_Miniature::Paint(Canvas &canvas, const platform::Picture &wallpaper,
         platform::Fill_Rect(canvas, all, desktop_colour);
     Paint_Calendar(canvas, size);
     Paint_Task_Bar(canvas, size);
-    platform::Frame_Rect(canvas, all, shadow, one_pixel);
+    platform::Frame_Rect(canvas, all, shadow_colour, one_pixel);
 }
 
 /// What is not work area, at whichever edge.
@@ -96,8 +94,8 @@ void Screen_Miniature::Paint_Task_Bar(Canvas &canvas, Size size) const {
           Rect{work.Right(), work.top, size.width - work.Right(), work.height}}) {
         if (bar.Empty())
             continue;
-        platform::Fill_Rect(canvas, bar, task_bar);
-        platform::Frame_Rect(canvas, bar, shadow, one_pixel);
+        platform::Fill_Rect(canvas, bar, face_colour);
+        platform::Frame_Rect(canvas, bar, shadow_colour, one_pixel);
     }
 }
 
@@ -118,7 +116,7 @@ void Screen_Miniature::Paint_Calendar(Canvas &canvas, Size size) const {
         box.width += layout.Gap();
         box.height += layout.Gap();
         const Rect small = place(box);
-        platform::Fill_Rect(canvas, small, shadow);
+        platform::Fill_Rect(canvas, small, shadow_colour);
         platform::Fill_Rect(canvas,
                             {small.left, small.top, std::max(small.width - one_pixel, 1),
                              std::max(small.height - one_pixel, 1)},

@@ -7,7 +7,6 @@
 #include "toolkit/units.h"
 
 #include <algorithm>
-#include <functional>
 #include <initializer_list>
 #include <utility>
 
@@ -82,7 +81,7 @@ void Settings_Frm::Form_Load() {
 
 void Settings_Frm::Open() {
     // What cannot be shown of one page is told, and keeps nobody from the others.
-    const std::initializer_list<std::function<void()>> steps = {
+    const std::initializer_list<Handler<>> steps = {
         [this] { Events.Write_Month_Titles(); },
         [this] { Load_Settings(); },
         [this] { Events.Get_Stats(); },

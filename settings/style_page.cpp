@@ -20,20 +20,16 @@ using platform::Rect;
 
 namespace {
 
-constexpr int group_gap = 5 * 15;
 constexpr int group_bottom = 8 * 15;
 constexpr int options_width = 118 * 15; ///< column left of the miniature
 constexpr int hint_lines = 4;
 constexpr int coordinate_lines = 2;
 constexpr int option_mark = 18 * 15; ///< before the caption
 constexpr int marker_size = 7 * 15;
-constexpr int one_pixel = 15;
 constexpr int last_cell = 2;
 
 /// The position codes as they lie on the screen.
 constexpr std::int16_t places[last_cell + 1][last_cell + 1] = {{6, 5, 4}, {9, 3, 8}, {2, 1, 0}};
-
-constexpr auto manual = static_cast<std::int16_t>(Position_Code::Manual);
 
 /// Column and row of a code.
 Point Cell_Of(std::int16_t code) {
@@ -60,11 +56,9 @@ Style_Page::Style_Page(Form &dialog, Frame &frame, Main_Frm &calendar)
       Pos_Hint_Lbl(dialog, "Pos_Hint_Lbl", "Click a place on the screen, or choose it with the arrow keys."),
       Pos_Manual_Opt(dialog, "Pos_Manual_Opt", "&Manual position"), Manual_Lbl(dialog, "Manual_Lbl"),
       Pos_Preview_Img(dialog, "Pos_Preview_Img"), Position_Lbl(dialog, "Position_Lbl"), calendar_(calendar) {
-    Put_Into(frame, {&Style_Fra, &Position_Fra});
-    Put_Into(Style_Fra, {&Style1_Opt, &Style2_Opt, &Backdrop1_Pic, &Backdrop2_Pic, &Example1_Lbl,
-                         &Example2_Lbl, &Example3_Lbl, &Example4_Lbl});
-    Put_Into(Position_Fra,
-             {&Pos_Set_Opt, &Pos_Hint_Lbl, &Pos_Manual_Opt, &Manual_Lbl, &Pos_Preview_Img, &Position_Lbl});
+    frame.Hold(Style_Fra, Position_Lbl);
+    Style_Fra.Hold(Style1_Opt, Example4_Lbl);
+    Position_Fra.Hold(Pos_Set_Opt, Position_Lbl);
     Wire_Examples();
     Style1_Opt.On_Click = [this] { Choose_Style(Style1_Opt); };
     Style2_Opt.On_Click = [this] { Choose_Style(Style2_Opt); };
@@ -97,7 +91,7 @@ void Style_Page::Wire_Examples() {
 void Style_Page::Load_Settings() {
     // The calendar shows every number but 0 as the square box.
     (Cur_Settings.Style == 0 ? Style1_Opt : Style2_Opt).Set_Checked(true);
-    (Cur_Settings.Alignment == manual ? Pos_Manual_Opt : Pos_Set_Opt).Set_Checked(true);
+    (Cur_Settings.Alignment == Manual_Position ? Pos_Manual_Opt : Pos_Set_Opt).Set_Checked(true);
     set_position_ = Cell_Of(Cur_Settings.Alignment).x == -1 ? std::int16_t{0} : Cur_Settings.Alignment;
     Manual_Lbl.Set_Caption("X: " + std::to_string(Cur_Settings.Manual_PosX) + " twips\n" +
                            "Y: " + std::to_string(Cur_Settings.Manual_PosY) + " twips");
@@ -107,8 +101,8 @@ void Style_Page::Load_Settings() {
 
 void Style_Page::Set_Theme(const Theme_Look &look) {
     theme_ = look;
-    Pos_Hint_Lbl.Set_Enabled(!look.use_position);
-    Manual_Lbl.Set_Enabled(!look.use_position);
+    Pos_Hint_Lbl.Set_Enabled(!look.position);
+    Manual_Lbl.Set_Enabled(!look.position);
     Style_Preview();
     Show_Position();
 }
@@ -157,16 +151,20 @@ void Style_Page::Key_Over_Miniature(const platform::Input_Event &event) {
     Choose_Position(cell.x, cell.y);
 }
 
-std::int16_t Style_Page::Shown_Style() const {
-    if (theme_.use_style)
-        return theme_.style;
+std::int16_t Style_Page::Chosen_Style() const {
     return Style1_Opt.Checked() ? 0 : 1;
 }
 
+std::int16_t Style_Page::Chosen_Position() const {
+    return Pos_Manual_Opt.Checked() ? Manual_Position : set_position_;
+}
+
+std::int16_t Style_Page::Shown_Style() const {
+    return theme_.style.value_or(Chosen_Style());
+}
+
 std::int16_t Style_Page::Shown_Position() const {
-    if (theme_.use_position)
-        return theme_.position;
-    return Pos_Manual_Opt.Checked() ? manual : set_position_;
+    return theme_.position.value_or(Chosen_Position());
 }
 
 void Style_Page::Show_Position() {
@@ -181,7 +179,7 @@ void Style_Page::Style_Preview() {
         label->Set_Back_Colour(Cur_Settings.Col_Normal);
     for (Label *text : {&Example2_Lbl, &Example4_Lbl})
         text->Set_Fore_Colour(Cur_Settings.Col_Text);
-    Pos_Preview_Img.Repaint();
+    Preview_Position();
 }
 
 void Style_Page::Preview_Position() {
@@ -190,11 +188,10 @@ void Style_Page::Preview_Position() {
 
 void Style_Page::Position_Boxes() {
     const std::int16_t code = Shown_Position();
-    const std::string name = code == manual ? "Manual" : Position_Name(code);
+    const std::string name = code == Manual_Position ? "Manual" : Position_Name(code);
     Position_Lbl.Set_Caption(name);
     Pos_Preview_Img.Set_Access(
         {platform::Access_Role::Button, false, "Position on the screen, " + name, {}, {}});
-    Pos_Preview_Img.Repaint();
 }
 
 void Style_Page::Paint_Miniature(platform::Canvas &canvas) {
@@ -206,7 +203,7 @@ void Style_Page::Paint_Miniature(platform::Canvas &canvas) {
     for (int row = 0; row <= last_cell; ++row) {
         for (int column = 0; column <= last_cell; ++column) {
             const bool marked = chosen == Point{column, row};
-            if (theme_.use_position && !marked)
+            if (theme_.position && !marked)
                 continue; // not to be chosen now
             const Rect cell = miniature.Cell(column, row, size);
             const int side = marked ? marker_size + 4 * one_pixel : marker_size;
@@ -226,20 +223,9 @@ void Style_Page::Lay_Out() {
     const auto example = [](const Box_Layout &style, Option_Button &option, Picture_Box &desktop,
                             Label &number, Label &text, int left) {
         option.Move({left, group_top, column_width - margin, check_height});
-        const Rect corner = style.Box(0);
-        const int box_left = left + option_mark + backdrop;
-        const auto place = [&](Rect pixels) {
-            pixels.left += Twips_To_Pixels(box_left) - corner.left;
-            pixels.top += Twips_To_Pixels(box_top) - corner.top;
-            return Pixels_To_Twips(pixels);
-        };
-        number.Move(place(corner));
+        Place_Example(style, number, text, left + option_mark + backdrop, box_top);
         desktop.Move({number.Left() - backdrop, number.Top() - backdrop, number.Width() + 2 * backdrop,
                       number.Height() + 2 * backdrop});
-        text.Move(place(style.Text(0)));
-        Dress_Number(number);
-        Dress_Text(text);
-        text.Set_Transparent(false);
     };
     example(styles[0], Style1_Opt, Backdrop1_Pic, Example1_Lbl, Example2_Lbl, margin);
     example(styles[1], Style2_Opt, Backdrop2_Pic, Example3_Lbl, Example4_Lbl, column_width);

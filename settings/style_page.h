@@ -6,13 +6,12 @@
 #include "settings/page.h"
 
 #include <cstdint>
+#include <optional>
 
 /// What a theme pack decides in place of the page.
 struct Theme_Look {
-    bool use_style = false;
-    bool use_position = false;
-    std::int16_t style = 0;
-    std::int16_t position = 0; ///< 7 is the manual position
+    std::optional<std::int16_t> style;
+    std::optional<std::int16_t> position;
     platform::Picture picture; ///< the wallpaper; none: the desktop's own colour is shown
 };
 
@@ -20,7 +19,7 @@ class Style_Page {
 public:
     using Theme_Look = ::Theme_Look;
 
-    Style_Page(Form &dialog, Frame &frame, Main_Frm &calendar);
+    [[gnu::noinline]] Style_Page(Form &dialog, Frame &frame, Main_Frm &calendar);
 
     /// Shows style and position of the settings. A position that is no code is shown as the first one.
     void Load_Settings();
@@ -33,10 +32,14 @@ public:
     /// The code of the chosen place: 0 to 6, 8 or 9.
     std::int16_t Get_Set_Position() const { return set_position_; }
 
+    // As the settings hold the choices.
+    std::int16_t Chosen_Style() const;
+    std::int16_t Chosen_Position() const;
+
     // These keep the previews true to the choices.
     void Style_Preview();
     void Preview_Position();
-    /// Marks the box of the chosen place, of nine on the miniature, and names it.
+    /// Names the chosen place, which Preview_Position marks among nine on the miniature.
     void Position_Boxes();
 
     Frame Style_Fra;

@@ -46,12 +46,11 @@ Tooltips_Page::Tooltips_Page(Form &dialog, Frame &frame, Main_Frm &calendar)
       TipExample_Lbl(dialog, "TipExample_Lbl", "Example"), TipBoxExample_Lbl(dialog, "TipBoxExample_Lbl"),
       dialog_(dialog), calendar_(calendar) {
     for (int i = 0; i < static_cast<int>(kinds.size()); ++i) {
-        Tips_Opt[i].Set_Container(frame);
         Tips_Opt[i].Set_Caption(kinds[static_cast<std::size_t>(i)].caption);
         Tips_Opt[i].On_Click = [this, i] { Tips_Opt_Click(i); };
     }
-    Put_Into(frame, {&TipsNotes_Lbl, &Preview_Fra});
-    Put_Into(Preview_Fra, {&TipsTrigger_Lbl, &TipExample_Lbl, &TipBoxExample_Lbl});
+    frame.Hold(Tips_Opt[0], TipBoxExample_Lbl);
+    Preview_Fra.Hold(TipsTrigger_Lbl, TipBoxExample_Lbl);
     for (Label *label : {&TipExample_Lbl, &TipBoxExample_Lbl}) {
         label->Set_Painted();
         label->On_Mouse_Down = [this](Mouse_Button button, platform::Point) { Example_Mouse_Down(button); };

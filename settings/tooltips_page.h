@@ -9,7 +9,7 @@
 
 class Tooltips_Page {
 public:
-    Tooltips_Page(Form &dialog, Frame &frame, Main_Frm &calendar);
+    [[gnu::noinline]] Tooltips_Page(Form &dialog, Frame &frame, Main_Frm &calendar);
     /// Places the controls, also after a change of the dots per inch.
     void Lay_Out();
 

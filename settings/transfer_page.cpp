@@ -27,7 +27,6 @@ constexpr Button_Text import_texts[] = {
     {"CSV Fi&le...", "Adds the events of a table to those that are there."}};
 
 constexpr int button_width = 115 * 15;
-constexpr int button_height = 23 * 15;
 constexpr int bar_height = 16 * 15;
 constexpr int explanation_lines = 2;
 
@@ -39,15 +38,15 @@ Transfer_Page::Transfer_Page(Form &dialog, Frame &frame, Main_Frm &calendar)
       Import_Btn(dialog, "Import_Btn"), Import_Lbl(dialog, "Import_Lbl"),
       Progress_Lbl(dialog, "Progress_Lbl", "Progress:"), Progress_Bar1(dialog, "Progress_Bar1"),
       Dialog1(&dialog.Model()), dialog_(dialog), importer_(calendar, Dialog1) {
-    Put_Into(frame, {&Export_Fra, &Import_Fra, &Progress_Lbl, &Progress_Bar1});
+    frame.Hold(Export_Fra, Progress_Bar1);
+    Export_Fra.Hold(Export_Btn[0], Export_Lbl[3]);
+    Import_Fra.Hold(Import_Btn[0], Import_Lbl[2]);
     for (std::int16_t i = 0; i < 4; ++i) {
-        Put_Into(Export_Fra, {&Export_Btn[i], &Export_Lbl[i]});
         Export_Btn[i].Set_Caption(export_texts[i].caption);
         Export_Lbl[i].Set_Caption(export_texts[i].explanation);
         Export_Btn[i].On_Click = [this, i] { Export_Btn_Click(i); };
     }
     for (std::int16_t i = 0; i < 3; ++i) {
-        Put_Into(Import_Fra, {&Import_Btn[i], &Import_Lbl[i]});
         Import_Btn[i].Set_Caption(import_texts[i].caption);
         Import_Lbl[i].Set_Caption(import_texts[i].explanation);
         Import_Btn[i].On_Click = [this, i] { Import_Btn_Click(i); };

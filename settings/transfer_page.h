@@ -1,29 +1,29 @@
 // The page "Import\Export" of the settings dialog. What its buttons do is in transfer/.
 #pragma once
 
+#include "platform/callback.h"
 #include "settings/page.h"
 #include "toolkit/control_array.h"
 #include "transfer/export.h"
 #include "transfer/import.h"
 
 #include <cstdint>
-#include <functional>
 #include <vector>
 
 class Transfer_Page {
 public:
-    Transfer_Page(Form &dialog, Frame &frame, Main_Frm &calendar);
+    [[gnu::noinline]] Transfer_Page(Form &dialog, Frame &frame, Main_Frm &calendar);
 
     // To be filled by the dialog.
 
     /// The configuration that the dialog shows, changes that are not applied yet included.
-    std::function<Settings()> Shown_Configuration;
+    platform::Callback<Settings()> Shown_Configuration;
     /// Lists imported events instead of what is listed.
-    std::function<void(std::vector<Sort_Entry>)> Show_Staged;
+    platform::Callback<void(std::vector<Sort_Entry>)> Show_Staged;
     /// Lists and counts the events of the data file anew.
-    std::function<void()> Data_File_Replaced;
+    platform::Callback<void()> Data_File_Replaced;
     /// Closes the dialog, which does not show the settings any more.
-    std::function<void()> Configuration_Imported;
+    platform::Callback<void()> Configuration_Imported;
 
     void Export_Btn_Click(std::int16_t index);
     void Import_Btn_Click(std::int16_t index);

@@ -20,7 +20,6 @@
 namespace {
 
 constexpr int months_a_year = 12;
-constexpr std::int16_t manual_position = 7;
 /// The picture is as wide as a screen of these proportions.
 constexpr int picture_height = 108 * 15;
 constexpr int picture_width = 192 * 15;
@@ -31,21 +30,7 @@ std::string Picture_File(const std::string &pack, int month) {
 
 /// A number's name, with a blank before it; only that for a text that is no number.
 std::string Named(const char *(*name)(std::int16_t), const std::string &number) {
-    try {
-        return std::string(" ") + name(To_Int16(number));
-    } catch (const Conversion_Error &) {
-        return " ";
-    }
-}
-
-/// Whether a part of a pack's value text is a number, which it puts into `number` then.
-bool Take_Number(const std::string &text, std::int16_t &number) {
-    try {
-        number = To_Int16(text);
-        return true;
-    } catch (const Conversion_Error &) {
-        return false;
-    }
+    return std::string(" ") + name(Int16_Of(number).value_or(-1));
 }
 
 } // namespace
@@ -65,15 +50,13 @@ Wallpaper_Page::Wallpaper_Page(Form &dialog, Frame &frame, Main_Frm &calendar, S
       Preview_Lbl(dialog, "Preview_Lbl", "Preview running: Esc ends it."), dialog_(dialog),
       style_page_(style_page), preview_(calendar) {
     Display_Cbo.Set_Items({Display_Mode_Name(0), Display_Mode_Name(1), Display_Mode_Name(2)});
-    Theme_Preview_Img.Set_Frame_Colour(platform::System_Colour(16));
-    Theme_Preview_Img.Set_Access({platform::Access_Role::None, false, "Wallpaper of the month", {}, {}});
-    Preview_Sli.Set_Access({platform::Access_Role::None, false, "Month", {}, {}});
+    Theme_Preview_Img.Set_Frame_Colour(shadow_colour);
+    Name_Aloud(Theme_Preview_Img, "Wallpaper of the month");
+    Name_Aloud(Preview_Sli, "Month");
     Loading_Lbl.Set_Visible(false);
     Preview_Lbl.Set_Visible(false);
-    Put_Into(frame, {&Theme_Use_Chk, &Packs_Lbl, &Packs_Cbo, &Theme_Preview_Img, &Theme_Display_Lbl,
-                     &Theme_Style_Lbl, &Theme_Pos_Lbl, &Loading_Lbl, &Month_Lbl, &Preview_Sli, &Theme_Fra,
-                     &Preview_Btn, &Preview_Lbl});
-    Put_Into(Theme_Fra, {&Theme_Style_Chk, &Theme_Pos_Chk, &Other_Display_Chk, &Display_Lbl, &Display_Cbo});
+    frame.Hold(Theme_Use_Chk, Preview_Lbl);
+    Theme_Fra.Hold(Theme_Style_Chk, Display_Cbo);
     Lay_Out();
     Wire_Events();
     Clear_Details();
@@ -138,7 +121,6 @@ void Wallpaper_Page::Lay_Out() {
     Display_Cbo.Move({indent + label_width, row, 2 * label_width, row_height});
     top += Theme_Fra.Height() + gap;
 
-    constexpr int button_height = 23 * 15;
     const int button_width = text_width("Preview all months") + 2 * margin;
     Preview_Btn.Move({0, top, button_width, button_height});
     const int after_button = button_width + margin;
@@ -160,9 +142,16 @@ void Wallpaper_Page::Get_Themes() {
 }
 
 void Wallpaper_Page::Get_Wallpaper() {
-    Packs_Cbo.Set_Text(Cur_Settings.Pack_Name);
+    Select_Stored_Pack();
     Preview_Sli.Set_Value(Today().month);
     Preview_Sli_Change();
+}
+
+/// Leaves what is selected where that pack is not there.
+void Wallpaper_Page::Select_Stored_Pack() {
+    for (const std::string &pack : Packs_Cbo.Items())
+        if (Same_Pack(pack, Cur_Settings.Pack_Name))
+            return Packs_Cbo.Set_Text(pack);
 }
 
 void Wallpaper_Page::Enable_Choices(bool enabled) {
@@ -196,9 +185,9 @@ void Wallpaper_Page::Check_Vaild() {
         return;
     platform::Message_Box("Error Loading Theme.", "Vellatro", platform::Box_Icon::Stop);
     // None, where the pack of the settings is not there: the refused one must not stay selected.
-    if (pack != Cur_Settings.Pack_Name)
+    if (!Same_Pack(pack, Cur_Settings.Pack_Name))
         Packs_Cbo.Select(-1);
-    Packs_Cbo.Set_Text(Cur_Settings.Pack_Name);
+    Select_Stored_Pack();
 }
 
 void Wallpaper_Page::Show_Month_Name() {
@@ -244,8 +233,8 @@ void Wallpaper_Page::Get_Theme_Pos() {
 /// After the user was told that the pack cannot be read. Its entry goes, if it is not there any more.
 void Wallpaper_Page::Drop_Pack(const std::string &pack) {
     Get_Papers();
-    if (pack != Cur_Settings.Pack_Name)
-        Packs_Cbo.Set_Text(Cur_Settings.Pack_Name);
+    if (!Same_Pack(pack, Cur_Settings.Pack_Name))
+        Select_Stored_Pack();
     // A missing pack has ended the use of themes.
     if (Cur_Settings.Use_Themes == 0)
         Theme_Use_Chk.Set_Checked(false);
@@ -306,8 +295,10 @@ Style_Page::Theme_Look Wallpaper_Page::Look() const {
     Style_Page::Theme_Look look;
     if (!Theme_Use_Chk.Checked() || Packs_Cbo.Text().empty())
         return look;
-    look.use_style = Theme_Style_Chk.Checked() && Take_Number(Get_Paper_BoxStyle(details_), look.style);
-    look.use_position = Theme_Pos_Chk.Checked() && Take_Number(Get_Paper_Pos(details_), look.position);
+    if (Theme_Style_Chk.Checked())
+        look.style = Int16_Of(Get_Paper_BoxStyle(details_));
+    if (Theme_Pos_Chk.Checked())
+        look.position = Int16_Of(Get_Paper_Pos(details_));
     look.picture = picture_;
     return look;
 }
@@ -371,13 +362,16 @@ void Wallpaper_Page::Other_Display_Chk_Click() {
 
 Settings Wallpaper_Page::Choices() const {
     Settings choices = Cur_Settings;
-    choices.Style = style_page_.Style1_Opt.Checked() ? 0 : 1;
-    choices.Alignment =
-        style_page_.Pos_Manual_Opt.Checked() ? manual_position : style_page_.Get_Set_Position();
-    choices.Use_Themes = Theme_Use_Chk.Checked() ? 1 : 0;
-    choices.Use_Theme_Style = Theme_Style_Chk.Checked() ? 1 : 0;
-    choices.Use_Theme_Pos = Theme_Pos_Chk.Checked() ? 1 : 0;
+    choices.Style = style_page_.Chosen_Style();
+    choices.Alignment = style_page_.Chosen_Position();
+    choices.Use_Themes = Theme_Use_Chk.Checked();
+    choices.Use_Theme_Style = Theme_Style_Chk.Checked();
+    choices.Use_Theme_Pos = Theme_Pos_Chk.Checked();
+    // None is selected where the pack of the settings is missing: it may come back.
+    if (!Packs_Cbo.Text().empty())
+        choices.Pack_Name = Packs_Cbo.Text();
     choices.Use_Other_Display_Mode = Other_Display_Chk.Checked();
+    // A number that the list does not have shows as none and stays, as long as no other is chosen.
     if (Display_Cbo.Selected() != -1)
         choices.Other_Display_Mode = static_cast<std::int16_t>(Display_Cbo.Selected());
     return choices;

@@ -15,7 +15,7 @@
 class Wallpaper_Page {
 public:
     /// All must outlive the page.
-    Wallpaper_Page(Form &dialog, Frame &frame, Main_Frm &calendar, Style_Page &style_page);
+    [[gnu::noinline]] Wallpaper_Page(Form &dialog, Frame &frame, Main_Frm &calendar, Style_Page &style_page);
 
     /// Places the controls, also after a change of the dots per inch.
     void Lay_Out();
@@ -31,6 +31,8 @@ public:
 
     /// Ends a running preview and puts all back. Returns whether one was running.
     bool End_Preview();
+    /// The settings with what this page and that of style and position show.
+    Settings Choices() const;
     /// What the selected pack makes of the calendar in the month of the slider, as far as it is to be used.
     Style_Page::Theme_Look Look() const;
 
@@ -73,6 +75,7 @@ public:
 
 private:
     void Wire_Events();
+    void Select_Stored_Pack();
     void Enable_Choices(bool enabled);
     void Show_Month_Name();
     void Clear_Details();
@@ -82,7 +85,6 @@ private:
     void Drop_Pack(const std::string &pack);
     void Preview_Ended(bool pack_failed);
     std::int16_t Month() const { return static_cast<std::int16_t>(Preview_Sli.Value()); }
-    Settings Choices() const;
     void Enable_Styles(bool enabled);
     void Enable_Positions(bool enabled);
     void Enable_As_Ruled();

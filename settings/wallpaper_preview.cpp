@@ -1,6 +1,7 @@
 // The steps of the preview, and putting everything back.
 #include "settings/wallpaper_preview.h"
 
+#include "desktop/wallpaper.h"
 #include "platform/locale.h"
 #include "platform/registry.h"
 #include "platform/wallpaper.h"
@@ -14,19 +15,18 @@
 namespace {
 
 constexpr std::int16_t last_month = 12;
-constexpr const char *desktop_key = "Control Panel\\Desktop";
 constexpr const char *unknown = "UNKNOWN";
 
 std::string Desktop_Value(const char *name) {
     const platform::Registry_Value value =
-        platform::Registry_Read("HKCU", desktop_key, name, 'S', std::string(unknown));
+        platform::Registry_Read("HKCU", Desktop_Key, name, 'S', std::string(unknown));
     const auto *text = std::get_if<std::string>(&value);
     return text == nullptr ? unknown : *text;
 }
 
 void Write_Desktop_Value(const char *name, const std::string &text) {
     // What was not there before is written as what the system takes it for.
-    platform::Registry_Write_String(platform::Find_Registry_Root("HKCU"), desktop_key, name,
+    platform::Registry_Write_String(platform::Find_Registry_Root("HKCU"), Desktop_Key, name,
                                     text == unknown ? "0" : text);
 }
 

@@ -2,31 +2,22 @@
 #include "themes/theme_pack.h"
 
 #include "core/convert.h"
+#include "core/letters.h"
 #include "core/sequential.h"
 #include "core/settings.h"
 #include "platform/files.h"
+#include "platform/joined.h"
 #include "platform/message_box.h"
 #include "platform/pictures.h"
 #include "themes/bitmap.h"
 
 #include <algorithm>
 #include <array>
-#include <utility>
 
 namespace {
 
 constexpr const char *settings_file = "settings.ini";
 constexpr std::string_view bitmap_ending = ".bmp";
-
-char Capital(char c) {
-    return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
-}
-
-std::string Capitals(std::string_view text) {
-    std::string capitals(text);
-    std::transform(capitals.begin(), capitals.end(), capitals.begin(), Capital);
-    return capitals;
-}
 
 /// Whether the system takes the name for a device, in every folder and with any ending.
 bool Is_Device(std::string_view name) {
@@ -43,21 +34,12 @@ bool Is_Device(std::string_view name) {
 }
 
 std::string Pack_Folder(const std::string &pack) {
-    return platform::Program_Folder() + "\\" + pack;
+    return platform::Joined({platform::Program_Folder(), "\\", pack});
 }
 
-/// What is not like the other settings' whole numbers is no month.
-bool Is_Month(std::string_view key, std::int16_t month) {
-    try {
-        return To_Int32(key) == month;
-    } catch (const Conversion_Error &) {
-        return false;
-    }
-}
-
-std::string Tell_Missing_Pack(const std::string &pack, const std::function<void()> &remove_wallpaper) {
-    platform::Message_Box("Missing Theme " + pack + ". Themes will now be disabled.", "Vellatro",
-                          platform::Box_Icon::Stop);
+std::string Tell_Missing_Pack(const std::string &pack, platform::Callback_Ref<void()> remove_wallpaper) {
+    platform::Message_Box(platform::Joined({"Missing Theme ", pack, ". Themes will now be disabled."}),
+                          "Vellatro", platform::Box_Icon::Stop);
     // A store that takes no change lets it be told again, but not before the next start.
     Cur_Settings.Use_Themes = 0;
     Store_Setting("Use Themes");
@@ -77,20 +59,25 @@ bool Is_Pack_Name(std::string_view name) {
            std::none_of(name.begin(), name.end(), is_bad) && !Is_Device(name);
 }
 
+bool Same_Pack(std::string_view a, std::string_view b) {
+    return Capitals(a) == Capitals(b);
+}
+
 std::vector<std::string> Find_Packs() {
-    std::vector<std::string> packs =
-        platform::Names_In_Folder(platform::Program_Folder(), platform::Listed::Folders);
-    std::erase_if(packs, [](const std::string &name) {
-        return !Is_Pack_Name(name) || !platform::File_Exists(Pack_File(name, settings_file));
-    });
-    std::sort(packs.begin(), packs.end(), [](const std::string &a, const std::string &b) {
-        return std::pair(Capitals(a), a) < std::pair(Capitals(b), b);
-    });
+    const auto comes_before = [](const std::string &a, const std::string &b) {
+        const int order = Capitals(a).compare(Capitals(b));
+        return order < 0 || (order == 0 && a < b);
+    };
+    std::vector<std::string> packs;
+    for (const std::string &name :
+         platform::Names_In_Folder(platform::Program_Folder(), platform::Listed::Folders))
+        if (Is_Pack_Name(name) && platform::File_Exists(Pack_File(name, settings_file)))
+            packs.insert(std::upper_bound(packs.begin(), packs.end(), name, comes_before), name);
     return packs;
 }
 
 std::string Pack_File(const std::string &pack, const std::string &name) {
-    return Pack_Folder(pack) + "\\" + name;
+    return platform::Joined({Pack_Folder(pack), "\\", name});
 }
 
 std::string Month_Details(std::string_view bytes, std::int16_t month) {
@@ -100,14 +87,14 @@ std::string Month_Details(std::string_view bytes, std::int16_t month) {
         const std::size_t equals = item.find('=');
         if (equals == std::string_view::npos)
             break;
-        if (Is_Month(item.substr(0, equals), month))
+        if (Int16_Of(item.substr(0, equals)) == month)
             details = item.substr(equals + 1);
     }
     return std::string(details);
 }
 
 std::string Get_Paper_Details(std::int16_t month, const std::string &pack,
-                              const std::function<void()> &remove_wallpaper) {
+                              platform::Callback_Ref<void()> remove_wallpaper) {
     if (!Is_Pack_Name(pack) || !platform::Folder_Exists(Pack_Folder(pack)))
         return Tell_Missing_Pack(pack, remove_wallpaper);
     const std::string path = Pack_File(pack, settings_file);
@@ -142,7 +129,7 @@ std::string Get_Paper_Path(std::int16_t month, const std::string &pack) {
     if (!Is_Pack_Name(pack))
         return Theme_Error;
     const std::string number = std::to_string(month);
-    const std::string path = Pack_File(pack, number + std::string(bitmap_ending));
+    std::string path = Pack_File(pack, number + std::string(bitmap_ending));
     if (platform::File_Exists(path))
         return path;
     Delete_Old_Bmps(pack);

@@ -3,8 +3,9 @@
 // that a wallpaper needs. Hanging it up is not here.
 #pragma once
 
+#include "platform/callback.h"
+
 #include <cstdint>
-#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -14,6 +15,9 @@ inline constexpr const char *Theme_Error = "ERROR";
 
 /// Whether a text can be a pack's name: the plain name of a folder, which leads nowhere else.
 bool Is_Pack_Name(std::string_view name);
+
+/// Whether two names are the same pack's: folders are found in any letter case.
+bool Same_Pack(std::string_view a, std::string_view b);
 
 /// The names of the folders beside the program that hold a settings.ini, in the order of the alphabet.
 std::vector<std::string> Find_Packs();
@@ -28,7 +32,7 @@ std::string Month_Details(std::string_view bytes, std::int16_t month);
 /// The value text of a month in a pack, or Theme_Error. A pack that is missing ends the use of themes: the
 /// user is told, the setting is changed, and `remove_wallpaper` has to take the wallpaper away.
 std::string Get_Paper_Details(std::int16_t month, const std::string &pack,
-                              const std::function<void()> &remove_wallpaper);
+                              platform::Callback_Ref<void()> remove_wallpaper);
 
 /// The parts of a value text: before its first "-", between the first and the second, and after the second.
 /// A part that is not there is empty.

@@ -101,10 +101,6 @@ void Control::Set_Access(platform::Access_State access) {
     Store(state_.access, std::move(access), Aspect::Access);
 }
 
-void Control::Set_Container(const Frame &frame) {
-    state_.container = frame.State().index;
-}
-
 void Control::Take(const platform::Input_Event &event) {
     if (event.kind == platform::Input_Kind::Clicked)
         Fire(On_Click);
@@ -115,7 +111,10 @@ Label::Label(Form &form, const char *name, const char *caption)
 }
 
 void Label::Set_Painted() {
-    Paint_Itself(state_, nullptr);
+    state_.painted = true;
+    state_.paint = [this](platform::Canvas &canvas, const platform::Rect &clip) {
+        Paint_Itself(state_, canvas, clip);
+    };
 }
 
 Button::Button(Form &form, const char *name, const char *caption)

@@ -11,8 +11,6 @@
 
 class Form;
 
-class Frame;
-
 /// A place, a look and events. Positions and sizes are twips on the form, or on the frame that holds it. What
 /// the program itself changes raises no event, except the change of a text box.
 class Control {
@@ -57,9 +55,6 @@ public:
     void Set_Glyph(platform::Glyph glyph);
     const platform::Access_State &Access() const { return state_.access; }
     void Set_Access(platform::Access_State access);
-    /// Puts the control into a frame that was declared before it: it moves, hides and is disabled with it.
-    /// To be called before there is a native window.
-    void Set_Container(const Frame &frame);
 
     // Events. The point is relative to the control's top left corner.
     /// A button of any kind pressed, a painted control clicked with the left button. The second click of a

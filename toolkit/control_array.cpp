@@ -2,12 +2,14 @@
 #include "toolkit/control_array.h"
 
 #include "platform/error.h"
+#include "platform/joined.h"
 
 std::string Element_Name(std::string_view array, int index) {
-    return std::string(array) + "(" + std::to_string(index) + ")";
+    return platform::Joined({array, "(", std::to_string(index), ")"});
 }
 
 void Throw_No_Element(const Control &first, int index) {
     const std::string_view name = first.Name();
-    throw platform::Error("There is no " + Element_Name(name.substr(0, name.find('(')), index) + ".");
+    throw platform::Error(
+        platform::Joined({"There is no ", Element_Name(name.substr(0, name.find('(')), index), "."}));
 }

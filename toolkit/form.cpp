@@ -9,7 +9,6 @@
 #include <utility>
 
 using platform::Aspect;
-using platform::Control_Kind;
 using platform::Form_Kind;
 using platform::Input_Event;
 using platform::Input_Kind;

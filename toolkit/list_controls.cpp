@@ -20,6 +20,11 @@ Frame::Frame(Form &form, const char *name, const char *caption)
     : Control(form, Control_Kind::Frame, name, caption) {
 }
 
+void Frame::Hold(const Control &first, const Control &last) {
+    for (int i = first.State().index; i <= last.State().index; ++i)
+        form_.Model().controls[static_cast<std::size_t>(i)]->container = state_.index;
+}
+
 Option_Button::Option_Button(Form &form, const char *name, const char *caption)
     : Control(form, Control_Kind::Option_Button, name, caption) {
 }
@@ -142,7 +147,10 @@ void Slider::Take(const Input_Event &event) {
 }
 
 Picture_Box::Picture_Box(Form &form, const char *name) : Control(form, Control_Kind::Picture_Box, name) {
-    Paint_Itself(state_, [this](platform::Canvas &canvas) { Paint_Content(canvas); });
+    state_.painted = true;
+    state_.paint = [this](platform::Canvas &canvas, const platform::Rect &clip) {
+        Paint_Itself(state_, canvas, clip, [this](platform::Canvas &content) { Paint_Content(content); });
+    };
 }
 
 void Picture_Box::Set_Tab_Stop() {

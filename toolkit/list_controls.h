@@ -9,10 +9,14 @@
 #include <string_view>
 #include <vector>
 
-/// Holds other controls (Control::Set_Container). With a caption it is drawn as a box around them.
+/// Holds other controls. With a caption it is drawn as a box around them.
 class Frame : public Control {
 public:
     Frame(Form &form, const char *name, const char *caption = "");
+    /// Takes the controls from `first` to `last`, in the order of the form, which come behind it: they move,
+    /// hide and are disabled with it. A frame among them may take its own afterwards. To be called before
+    /// there is a native window.
+    void Hold(const Control &first, const Control &last);
 };
 
 /// One of several choices: of all the option buttons in one frame (or on the form itself) at most one is

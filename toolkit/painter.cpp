@@ -113,19 +113,16 @@ void Paint_Form(const platform::Form_Model &model, Canvas &canvas, const Rect &c
     Paint_Controls(model, canvas, clip);
 }
 
-void Paint_Itself(Control_State &control, std::function<void(Canvas &)> more) {
-    control.painted = true;
-    control.paint = [&control, more = std::move(more)](Canvas &canvas, const Rect &clip) {
-        try {
-            Control_State here = control;
-            here.bounds.left = 0;
-            here.bounds.top = 0;
-            // Of a transparent one the mirror has drawn the dialog's background.
-            Paint_Control(here, canvas, clip);
-            if (more)
-                more(canvas);
-        } catch (...) {
-            // A message box would ask for the same painting again; the next change paints anew.
-        }
-    };
+void Paint_Itself(const Control_State &control, Canvas &canvas, const Rect &clip,
+                  platform::Callback_Ref<void(Canvas &)> more) noexcept {
+    try {
+        Control_State here = control;
+        here.bounds.left = 0;
+        here.bounds.top = 0;
+        // Of a transparent one the mirror has drawn the dialog's background.
+        Paint_Control(here, canvas, clip);
+        more(canvas);
+    } catch (...) {
+        // A message box would ask for the same painting again; the next change paints anew.
+    }
 }

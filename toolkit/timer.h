@@ -2,7 +2,10 @@
 #pragma once
 
 #include "platform/message_loop.h"
+#include "toolkit/guard.h"
 #include "toolkit/handler.h"
+
+#include <memory>
 
 /// Calls On_Timer from the message loop every `interval` milliseconds while it is enabled. Switching it off
 /// and on begins the interval anew. A failure that comes with every tick is told to the user once.
@@ -21,4 +24,5 @@ public:
 private:
     unsigned interval_;
     platform::Timer_Id id_ = 0;
+    std::shared_ptr<Repeated_Guard> guard_; ///< from one switching on to the next
 };

@@ -3,6 +3,7 @@
 
     make_icon.py ICON.ico [FOLDER]    writes the icon, and with FOLDER each size as FOLDER/SIZE.png to look at
 
+Systems that read no PNG know neither 256 pixels nor the small icons of finer screens; these sizes are PNG.
 Every size is drawn for itself on its own pixel grid, from rectangles with round corners; corners and the rings
 are smoothed by samples within each pixel. Needs nothing but Python's standard library.
 """
@@ -12,6 +13,7 @@ import sys
 import zlib
 
 SIZES = (16, 20, 24, 32, 48, 256)
+AS_PNG = (20, 24, 256)
 SAMPLES = 8  # per pixel and direction
 
 DEEP_BLUE = (31, 8, 128)
@@ -139,7 +141,7 @@ def main(arguments):
     pictures = []
     for size in SIZES:
         pixels = draw(size)
-        pictures.append((size, png(pixels) if size == 256 else bitmap(pixels)))
+        pictures.append((size, png(pixels) if size in AS_PNG else bitmap(pixels)))
         if len(arguments) == 2:
             with open(os.path.join(arguments[1], f'{size}.png'), 'wb') as file:
                 file.write(png(pixels))

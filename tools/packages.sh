@@ -18,6 +18,7 @@ x86_64-w64-mingw32-g++-win32         g++-mingw-w64-x86-64-win32
 /usr/src/googletest/CMakeLists.txt   googletest
 /usr/include/gtest/gtest.h           libgtest-dev
 /usr/include/benchmark/benchmark.h   libbenchmark-dev
+clang++                              clang
 clang-format                         clang-format
 clang-tidy                           clang-tidy'
 desktop_packages='

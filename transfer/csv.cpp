@@ -2,6 +2,7 @@
 #include "transfer/csv.h"
 
 #include "core/convert.h"
+#include "core/letters.h"
 #include "platform/locale.h"
 #include "platform/message_box.h"
 
@@ -88,25 +89,25 @@ std::string_view CSV_Lines::Next_Record() {
 }
 
 bool Check_CSV_Headings(std::string_view line, CSV_Columns &columns) {
-    for (const char *const word : {"description", "start date", "subject"}) {
-        if (line.find(word) != std::string_view::npos)
+    std::string headings = Capitals(line);
+    for (const char *const word : {"DESCRIPTION", "START DATE", "SUBJECT"}) {
+        if (headings.find(word) != std::string::npos)
             continue;
         platform::Message_Box("Invalid CSV file or missing required headings.", "Vellatro",
                               platform::Box_Icon::Stop);
         return false;
     }
-    std::string headings(line);
     std::erase(headings, '"');
     headings += ',';
     std::int16_t column = 0;
     for (std::size_t begin = 0, end = 0; (end = headings.find(',', begin)) != std::string::npos;
          begin = end + 1) {
         const std::string_view heading = std::string_view(headings).substr(begin, end - begin);
-        if (heading == "start date")
+        if (heading == "START DATE")
             columns.Start_Date_Col = column;
-        if (heading == "description")
+        if (heading == "DESCRIPTION")
             columns.Description_Col = column;
-        if (heading == "subject")
+        if (heading == "SUBJECT")
             columns.Subject_Col = column;
         column = Fit_Int16(column + 1);
     }

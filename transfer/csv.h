@@ -44,7 +44,7 @@ private:
     std::string joined_;
 };
 
-/// Finds the columns in a heading line that is in lower case. False when one of the three words is nowhere in
+/// Finds the columns in a heading line, in any letter case. False when one of the three words is nowhere in
 /// the line, which the user has been told then. Throws Conversion_Error for more than 32,767 columns.
 bool Check_CSV_Headings(std::string_view line, CSV_Columns &columns);
 

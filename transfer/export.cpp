@@ -2,11 +2,12 @@
 #include "transfer/export.h"
 
 #include "core/event_store.h"
+#include "core/letters.h"
 #include "platform/files.h"
+#include "platform/joined.h"
 #include "platform/locale.h"
 #include "platform/message_box.h"
 #include "transfer/configuration.h"
-#include "transfer/paths.h"
 
 #include <array>
 
@@ -27,7 +28,7 @@ constexpr std::array<Kind_Row, 4> kinds{
      {"Export Events as CSV File", "Comma Separated Values File (*.csv)|*.csv", ".csv",
       " events to the CSV file..."}}};
 
-void Tell(const std::string &text, platform::Box_Icon icon) {
+void Tell(std::string_view text, platform::Box_Icon icon) {
     platform::Message_Box(text, "Vellatro", icon);
 }
 
@@ -41,10 +42,10 @@ std::string Ask_Name(const Kind_Row &kind, OpenSaveDialog &dialog) {
         std::string name = dialog.FileName;
         if (name.empty())
             return name;
-        if (Lower_Case(name.substr(name.size() < 4 ? 0 : name.size() - 4)) != kind.extension)
+        if (!Capitals(name).ends_with(Capitals(kind.extension)))
             name += kind.extension;
         // The copy would do no harm, but it would be none either.
-        if (Lower_Case(name) == Lower_Case(Event_Store::Data_File())) {
+        if (Capitals(name) == Capitals(Event_Store::Data_File())) {
             Tell("You can't export to the data file you're currently using!",
                  platform::Box_Icon::Exclamation);
             continue;
@@ -80,7 +81,7 @@ std::string Short_Date(const Date &date) {
 
 /// The file's bytes and the closing message without the file's name. False when there is nothing to export,
 /// which the user has been told.
-bool Make_Content(Export_Kind kind, const std::function<Settings()> &shown, Progress &progress,
+bool Make_Content(Export_Kind kind, platform::Callback_Ref<Settings()> shown, Progress &progress,
                   std::string &bytes, std::string &message) {
     const std::string to = kinds[static_cast<std::size_t>(kind)].to;
     message = "Successfully exported " + to;
@@ -104,7 +105,7 @@ bool Make_Content(Export_Kind kind, const std::function<Settings()> &shown, Prog
         return false;
     }
     bytes = kind == Export_Kind::CSV ? CSV_Bytes(entries, progress) : Text_Bytes(entries, progress);
-    message = "Successfully exported " + std::to_string(entries.size()) + to;
+    message = platform::Joined({"Successfully exported ", std::to_string(entries.size()), to});
     return true;
 }
 
@@ -137,7 +138,7 @@ std::string CSV_Bytes(const std::vector<Sort_Entry> &entries, Progress &progress
     return bytes;
 }
 
-void Export_File(Export_Kind kind, OpenSaveDialog &dialog, const std::function<Settings()> &shown,
+void Export_File(Export_Kind kind, OpenSaveDialog &dialog, platform::Callback_Ref<Settings()> shown,
                  Progress &progress) {
     const std::string name = Ask_Name(kinds[static_cast<std::size_t>(kind)], dialog);
     if (name.empty())
@@ -148,5 +149,5 @@ void Export_File(Export_Kind kind, OpenSaveDialog &dialog, const std::function<S
         return;
     platform::Replace_File(name, bytes);
     progress.End();
-    Tell(message + "\r\n" + name, platform::Box_Icon::Information);
+    Tell(platform::Joined({message, "\r\n", name}), platform::Box_Icon::Information);
 }

@@ -1,12 +1,13 @@
 // The imports and their messages.
 #include "transfer/import.h"
 
+#include "core/letters.h"
 #include "core/settings.h"
 #include "platform/files.h"
+#include "platform/joined.h"
 #include "platform/locale.h"
 #include "platform/message_box.h"
 #include "transfer/configuration.h"
-#include "transfer/paths.h"
 
 #include <algorithm>
 #include <exception>
@@ -15,7 +16,7 @@
 
 namespace {
 
-platform::Box_Answer Tell(const std::string &text, platform::Box_Icon icon,
+platform::Box_Answer Tell(std::string_view text, platform::Box_Icon icon,
                           platform::Box_Buttons buttons = platform::Box_Buttons::Ok) {
     return platform::Message_Box(text, "Vellatro", icon, buttons);
 }
@@ -50,7 +51,6 @@ private:
 } // namespace
 
 Record_Merger::Record_Merger(std::vector<std::string> &records) : records_(records) {
-    first_.reserve(records.size());
     // A record without "=", which only another hand can have written, is one of no day.
     for (std::size_t i = 0; i < records.size(); ++i)
         if (Event_Record parts; Part_Record(records[i], parts))
@@ -63,7 +63,7 @@ void Record_Merger::Merge(const Date &date, const std::string &text) {
     const auto yearly = first_.find(Date_Key({every_year, date.month, date.day}));
     if (exact == first_.end() && yearly == first_.end()) {
         first_.emplace(key, records_.size());
-        records_.push_back(key + "=" + text);
+        records_.push_back(platform::Joined({key, "=", text}));
         return;
     }
     const std::size_t index = exact == first_.end()    ? yearly->second
@@ -90,7 +90,7 @@ bool Importer::Ask_File(const char *title, const char *filter, bool not_own_file
             return false;
         if (!platform::File_Exists(dialog_.FileName))
             Tell("File doesn't exist!", platform::Box_Icon::Exclamation);
-        else if (not_own_file && Lower_Case(dialog_.FileName) == Lower_Case(Event_Store::Data_File()))
+        else if (not_own_file && Capitals(dialog_.FileName) == Capitals(Event_Store::Data_File()))
             Tell("You can't import the data file your currently using!", platform::Box_Icon::Exclamation);
         else
             return true;
@@ -114,8 +114,8 @@ void Importer::Import_CSV() {
         Show_Staged(std::move(staged));
         Work.End();
         calendar_.Redraw();
-        Tell("Successfully imported " + std::to_string(count) + " events from the CSV file...\r\n\r\n" +
-                 dialog_.FileName,
+        Tell(platform::Joined({"Successfully imported ", std::to_string(count),
+                               " events from the CSV file...\r\n\r\n", dialog_.FileName}),
              platform::Box_Icon::Information);
     } catch (const std::exception &) {
         try {
@@ -136,7 +136,7 @@ void Importer::Import_CSV() {
 /// not read, would change the day. Where the form can be read back the result is the same.
 void Importer::Read_Events(const std::string &bytes, std::vector<Sort_Entry> &staged) {
     CSV_Lines lines(bytes);
-    if (!Check_CSV_Headings(Lower_Case(std::string(lines.Next_Line())), columns_))
+    if (!Check_CSV_Headings(lines.Next_Line(), columns_))
         throw CSV_Error("the headings are not those of events");
     CSV_Event event;
     while (!lines.At_End()) {
@@ -206,13 +206,13 @@ bool Importer::May_Replace() const {
     const auto modified = [](const std::string &path) {
         return platform::Date_Time_Text(platform::Modified_Time(path));
     };
-    const std::string question =
-        "You already have a working data file. Importing another one will completely overwrite the old one "
-        "and you will lose all data. Are you absolutely sure you want to do this?\r\n\r\nReplace current "
-        "file "
-        "'calendar.dat' modified on " +
-        modified(Event_Store::Data_File()) + "\r\n\r\nwith new file '" + dialog_.FileTitle +
-        "' modified on " + modified(dialog_.FileName);
+    const std::string question = platform::Joined(
+        {"You already have a working data file. Importing another one will completely overwrite the old one "
+         "and you will lose all data. Are you absolutely sure you want to do this?\r\n\r\nReplace current "
+         "file "
+         "'calendar.dat' modified on ",
+         modified(Event_Store::Data_File()), "\r\n\r\nwith new file '", dialog_.FileTitle, "' modified on ",
+         modified(dialog_.FileName)});
     return Tell(question, platform::Box_Icon::Exclamation, platform::Box_Buttons::Yes_No_Cancel) ==
            platform::Box_Answer::Yes;
 }

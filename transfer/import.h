@@ -4,13 +4,13 @@
 
 #include "calendar/main_frm.h"
 #include "core/event_entries.h"
+#include "platform/callback.h"
 #include "transfer/csv.h"
 #include "transfer/progress.h"
 #include "ui/open_save_dialog.h"
 
-#include <functional>
+#include <map>
 #include <string>
-#include <unordered_map>
 #include <vector>
 
 /// Folds events into the records as they are stored: an event joins the first record of its day, be that one
@@ -24,7 +24,7 @@ public:
 
 private:
     std::vector<std::string> &records_;
-    std::unordered_map<std::string, std::size_t> first_; ///< key to index
+    std::map<std::string, std::size_t> first_; ///< key to index
 };
 
 /// The three imports, with all messages to the user. None throws.
@@ -41,13 +41,13 @@ public:
 
     Progress Work;
     /// The list of events is to show these instead of what it shows.
-    std::function<void(std::vector<Sort_Entry>)> Show_Staged;
+    platform::Callback<void(std::vector<Sort_Entry>)> Show_Staged;
     /// The list of events and their counts are to be those of the data file, which is another one now.
-    std::function<void()> Data_File_Replaced;
+    platform::Callback<void()> Data_File_Replaced;
     /// The pointer over the dialog is to be the hourglass until the work's end.
-    std::function<void()> Show_Hourglass;
+    platform::Callback<void()> Show_Hourglass;
     /// The settings are not what the dialog shows any more: it is to be closed.
-    std::function<void()> Configuration_Changed;
+    platform::Callback<void()> Configuration_Changed;
 
     static std::string Backup_File();
 

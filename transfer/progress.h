@@ -2,14 +2,15 @@
 // slots.
 #pragma once
 
+#include "platform/callback.h"
+
 #include <cstddef>
-#include <functional>
 
 /// Nothing is told in the first second, afterwards something twice a second.
 class Progress {
 public:
-    std::function<void(int percent)> On_Show; ///< may let windows be painted, but nothing else happen
-    std::function<void()> On_End;             ///< after On_Show: nothing more is to be told
+    platform::Callback<void(int percent)> On_Show; ///< may let windows be painted, but nothing else happen
+    platform::Callback<void()> On_End;             ///< after On_Show: nothing more is to be told
 
     void Begin();
     /// Whether it is time to tell. To be asked after every small step.

@@ -19,7 +19,7 @@ constexpr int tail_length = 240;
 
 /// Places a body of this size beside the pointer: above it where there is room, else below, right or left of
 /// it. Where there is room on no side, the body covers the pointer.
-Balloon_Place Place_Balloon(platform::Point pointer, const platform::Rect &work_area, platform::Size body);
+Balloon_Place Place_Balloon(platform::Point pointer, const platform::Rect &work, platform::Size size);
 
 /// The smallest rectangle that holds body and tip.
 platform::Rect Window_Of(const Balloon_Place &place);

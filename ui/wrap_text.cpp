@@ -10,7 +10,7 @@ namespace {
 constexpr std::string_view more_sign = "...";
 
 /// No screen shows more than this.
-constexpr std::size_t longest_text = 16 * 1024;
+constexpr std::size_t longest_text = std::size_t{16} * 1024;
 
 /// No line holds more bytes than this, so that a long word is not measured again and again in full.
 constexpr std::size_t longest_line = 512;
@@ -41,8 +41,7 @@ public:
         if (rest.size() <= longest_line && Fits(rest))
             return rest.size();
         std::size_t end = 0;
-        for (std::size_t at = rest.find(' ');
-             at != std::string_view::npos && at <= longest_line && Fits(rest.substr(0, at));
+        for (std::size_t at = rest.find(' '); at <= longest_line && Fits(rest.substr(0, at));
              at = rest.find(' ', at + 1))
             end = at;
         if (end == 0)

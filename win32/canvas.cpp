@@ -178,7 +178,7 @@ Unique_Bitmap Make_Pixel_Bitmap(int width, int height, Pixel_Buffer &pixels) {
 }
 
 std::uint32_t Pixel_Colour(platform::Colour colour) {
-    const COLORREF plain = static_cast<COLORREF>(platform::Resolve_Colour(colour));
+    const auto plain = static_cast<COLORREF>(platform::Resolve_Colour(colour));
     return (static_cast<std::uint32_t>(GetRValue(plain)) << 16) |
            (static_cast<std::uint32_t>(GetGValue(plain)) << 8) | GetBValue(plain);
 }

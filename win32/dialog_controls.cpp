@@ -36,19 +36,6 @@ std::wstring Native_Caption(const Control_State &control) {
                : text;
 }
 
-/// Marks the program's changes for the length of a scope.
-class Updating_Scope {
-public:
-    explicit Updating_Scope(bool &updating) : updating_(updating), before_(std::exchange(updating, true)) {}
-    ~Updating_Scope() { updating_ = before_; }
-    Updating_Scope(const Updating_Scope &) = delete;
-    Updating_Scope &operator=(const Updating_Scope &) = delete;
-
-private:
-    bool &updating_;
-    bool before_;
-};
-
 } // namespace
 
 HWND Dialog_Window::Control_Window(int index) const {

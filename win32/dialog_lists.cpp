@@ -68,7 +68,7 @@ void Fill_List_Box(HWND list, const Control_State &control) {
     const LRESULT top = SendMessageW(list, LB_GETTOPINDEX, 0, 0);
     SendMessageW(list, WM_SETREDRAW, FALSE, 0);
     SendMessageW(list, LB_RESETCONTENT, 0, 0);
-    SendMessageW(list, LB_INITSTORAGE, control.items.size(), static_cast<LPARAM>(control.items.size() * 64));
+    SendMessageW(list, LB_INITSTORAGE, control.items.size(), static_cast<LPARAM>(control.items.size()) * 64);
     for (const std::string &item : control.items)
         Send_Text(list, LB_ADDSTRING, item);
     SendMessageW(list, LB_SETTOPINDEX, static_cast<WPARAM>(top), 0);

@@ -8,7 +8,6 @@
 #include <commctrl.h>
 
 #include <algorithm>
-#include <utility>
 
 namespace win32 {
 
@@ -115,7 +114,7 @@ void Dialog_Window::Create() {
 /// with the controls of one. Returns whether there was anything to make.
 bool Dialog_Window::Make_Missing() {
     int last_made = -1;
-    const bool updating_before = std::exchange(updating_, true);
+    const Updating_Scope updating(updating_);
     for (const Control_State *control : Model()->controls) {
         const bool in_sight =
             control->container == -1 ||
@@ -123,7 +122,6 @@ bool Dialog_Window::Make_Missing() {
         if (in_sight && Control_Window(control->index) == nullptr && Make_Control(*control))
             last_made = control->index;
     }
-    updating_ = updating_before;
     if (last_made == -1)
         return false;
     // The Tab key takes the windows from the top to the bottom: those that come after a page made later lie

@@ -18,8 +18,7 @@ HWND Make_Dialog(const std::wstring &class_name, WNDPROC procedure) {
     std::vector<DWORD> bytes((sizeof head + text_bytes) / sizeof(DWORD) + 1);
     auto *place = reinterpret_cast<unsigned char *>(bytes.data());
     std::memcpy(place, &head, sizeof head);
-    std::memcpy(place + sizeof head + sizeof(wchar_t), class_name.data(),
-                class_name.size() * sizeof(wchar_t));
+    class_name.copy(reinterpret_cast<wchar_t *>(place + sizeof head) + 1, class_name.size());
     return CreateDialogIndirectParamW(
         GetModuleHandleW(nullptr), reinterpret_cast<const DLGTEMPLATE *>(bytes.data()), nullptr, nullptr, 0);
 }

@@ -2,6 +2,7 @@
 // ".vellatro-new"; one that a killed run left behind is thrown away by the next replacement.
 #include "platform/files.h"
 
+#include "platform/joined.h"
 #include "win32/handles.h"
 #include "win32/paths.h"
 #include "win32/system_error.h"
@@ -25,7 +26,7 @@ constexpr int Rename_Tries = 10;
 constexpr DWORD Milliseconds_Between_Tries = 30;
 
 [[noreturn]] void Throw(const std::string &path, DWORD code) {
-    throw File_Error(path + ": " + win32::System_Error_Text(code));
+    throw File_Error(Joined({path, ": ", win32::System_Error_Text(code)}));
 }
 
 /// Keeps the system from asking the user for a missing disk; the call fails instead.

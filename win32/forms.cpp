@@ -93,7 +93,7 @@ void Mirror::Form_Changed(platform::Aspect aspect) {
     }
 }
 
-void Mirror::Destroy() {
+void Mirror::Destroy() noexcept {
     const std::shared_ptr<Mirror> keep = weak_from_this().lock();
     model_ = nullptr;
     Forget_Mirror(*this);
@@ -102,7 +102,7 @@ void Mirror::Destroy() {
     window_ = nullptr;
 }
 
-void Mirror::Send(const platform::Input_Event &event) {
+void Mirror::Send(const platform::Input_Event &event) noexcept {
     if (model_ == nullptr || !model_->input)
         return;
     // A copy, because the handler may destroy the form that holds it.
@@ -110,7 +110,7 @@ void Mirror::Send(const platform::Input_Event &event) {
     input(event);
 }
 
-void Mirror::Send(platform::Input_Kind kind) {
+void Mirror::Send(platform::Input_Kind kind) noexcept {
     platform::Input_Event event{};
     event.kind = kind;
     Send(event);

@@ -1,6 +1,7 @@
 // Names and dates of the user's regional settings: platform/locale.h over Win32.
 #include "platform/locale.h"
 
+#include "platform/joined.h"
 #include "win32/handles.h"
 #include "win32/system_library.h"
 #include "win32/wide_text.h"
@@ -109,7 +110,7 @@ std::string Date_Time_Text(const Date_Time &time) {
     const int length =
         GetTimeFormatW(LOCALE_USER_DEFAULT, 0, &system, nullptr, text.data(), static_cast<int>(text.size()));
     text.resize(length > 0 ? static_cast<std::size_t>(length - 1) : 0);
-    return Short_Date(time.year, time.month, time.day) + " " + win32::From_Wide(text);
+    return Joined({Short_Date(time.year, time.month, time.day), " ", win32::From_Wide(text)});
 }
 
 std::optional<Date_Time> Read_Date(std::string_view text) {

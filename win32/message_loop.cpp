@@ -13,23 +13,34 @@ namespace {
 
 struct Timer {
     platform::Timer_Id id;
-    std::function<void()> tick;
+    platform::Callback<void()> tick;
 };
 
 std::vector<Timer> timers;
 platform::Timer_Id last_timer = 0;
-std::function<bool(platform::Broadcast)> listener;
+platform::Callback<bool(platform::Broadcast)> broadcast_listener;
 HWND broadcasts = nullptr;
 
 /// The listener's answer.
-bool Tell(platform::Broadcast broadcast) {
-    const auto now = listener;
+bool Tell(platform::Broadcast broadcast) noexcept {
+    const auto now = broadcast_listener;
     return !now || now(broadcast);
+}
+
+/// Whether an open menu, or a window that is being moved, has the mouse. What comes by itself waits then: a
+/// message box that it shows would get no click.
+bool Mouse_Is_Taken() {
+    constexpr DWORD taken = GUI_INMENUMODE | GUI_POPUPMENUMODE | GUI_SYSTEMMENUMODE | GUI_INMOVESIZE;
+    GUITHREADINFO state = {};
+    state.cbSize = sizeof state;
+    return GetGUIThreadInfo(GetCurrentThreadId(), &state) && (state.flags & taken) != 0;
 }
 
 void Tick(platform::Timer_Id id) {
     // The windows inside the shell's may vanish without a message.
     win32::Find_Lost_Windows();
+    if (Mouse_Is_Taken())
+        return;
     const auto timer =
         std::find_if(timers.begin(), timers.end(), [id](const Timer &t) { return t.id == id; });
     if (timer == timers.end())
@@ -60,7 +71,8 @@ bool Heard(UINT message, WPARAM wparam) {
         }
         return true;
     case WM_TIMECHANGE:
-        Tell(platform::Broadcast::Time_Changed);
+        if (!Mouse_Is_Taken()) // else the next tick finds it out
+            Tell(platform::Broadcast::Time_Changed);
         return true;
     case WM_DISPLAYCHANGE:
         win32::Check_Scale(false);
@@ -166,9 +178,9 @@ void Wait_For_Messages(unsigned milliseconds) {
     MsgWaitForMultipleObjects(0, nullptr, FALSE, milliseconds, QS_ALLINPUT);
 }
 
-Timer_Id Start_Timer(unsigned milliseconds, std::function<void()> tick) {
+Timer_Id Start_Timer(unsigned milliseconds, Callback<void()> tick) {
     const Timer_Id id = ++last_timer;
-    timers.push_back({id, std::move(tick)});
+    timers.push_back({id, tick});
     if (SetTimer(Broadcast_Window(), id, milliseconds, nullptr) == 0) {
         timers.pop_back();
         return 0;
@@ -181,9 +193,9 @@ void Stop_Timer(Timer_Id id) {
         KillTimer(Broadcast_Window(), id);
 }
 
-void Listen_To_Broadcasts(std::function<bool(Broadcast)> heard) {
-    listener = std::move(heard);
-    if (listener)
+void Listen_To_Broadcasts(Callback<bool(Broadcast)> listener) {
+    broadcast_listener = listener;
+    if (broadcast_listener)
         Broadcast_Window();
 }
 

@@ -35,10 +35,10 @@ public:
     virtual bool Take_First(const MSG &) { return false; }
 
     /// Takes the window down without an event.
-    void Destroy();
+    void Destroy() noexcept;
     /// Gives a user action to the form. Afterwards the form may be gone.
-    void Send(const platform::Input_Event &event);
-    void Send(platform::Input_Kind kind);
+    void Send(const platform::Input_Event &event) noexcept;
+    void Send(platform::Input_Kind kind) noexcept;
 
 protected:
     /// A window that the system has just been asked for. Throws platform::Error when there is none.

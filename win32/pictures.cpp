@@ -3,6 +3,7 @@
 #include "platform/pictures.h"
 
 #include "platform/files.h"
+#include "platform/joined.h"
 #include "platform/jpeg.h"
 #include "win32/handles.h"
 #include "win32/system_library.h"
@@ -121,17 +122,17 @@ Picture Load_Picture(const std::string &path) {
     }
     const std::optional<Size> size = Jpeg_Size(bytes);
     if (!size)
-        throw Picture_Error(path + ": This is no JPEG picture, or a part of it is missing.");
+        throw Picture_Error(Joined({path, ": This is no JPEG picture, or a part of it is missing."}));
     if (static_cast<std::int64_t>(size->width) * size->height > most_picture_pixels)
-        throw Picture_Error(path + ": This picture is too large.");
+        throw Picture_Error(Joined({path, ": This picture is too large."}));
     try {
         auto pixels = std::make_shared<const std::vector<std::uint8_t>>(Decode(bytes, *size));
         if (!pixels->empty())
             return {size->width, size->height, std::move(pixels)};
     } catch (const std::bad_alloc &) {
-        throw Picture_Error(path + ": There is not enough memory for this picture.");
+        throw Picture_Error(Joined({path, ": There is not enough memory for this picture."}));
     }
-    throw Picture_Error(path + ": This picture is damaged, or of a kind that cannot be read.");
+    throw Picture_Error(Joined({path, ": This picture is damaged, or of a kind that cannot be read."}));
 }
 
 } // namespace platform

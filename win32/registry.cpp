@@ -1,6 +1,7 @@
 // The registry: platform/registry.h over Win32. Texts are stored as REG_SZ.
 #include "platform/registry.h"
 
+#include "platform/joined.h"
 #include "win32/handles.h"
 #include "win32/system_error.h"
 #include "win32/wide_text.h"
@@ -34,7 +35,7 @@ LONG Query(HKEY key, const std::wstring &name, Raw_Value &value) {
 std::optional<std::string> Unread(LONG code) {
     if (code == ERROR_FILE_NOT_FOUND)
         return std::nullopt;
-    return "(" + win32::System_Error_Text(static_cast<unsigned long>(code)) + ")";
+    return Joined({"(", win32::System_Error_Text(static_cast<unsigned long>(code)), ")"});
 }
 
 /// The text of stored wide characters, which need not end with a zero.
@@ -54,12 +55,12 @@ std::string Expanded(const std::string &text) {
     return size == 0 || size > expanded.size() ? text : win32::From_Wide(expanded.c_str());
 }
 
-LONG Set_Value(HKEY key, const std::string &name, DWORD type, const void *data, std::size_t size) {
+LONG Set_Value(HKEY key, std::string_view name, DWORD type, const void *data, std::size_t size) {
     return RegSetValueExW(key, win32::To_Wide(name).c_str(), 0, type, static_cast<const BYTE *>(data),
                           static_cast<DWORD>(size));
 }
 
-LONG Set_Text(HKEY key, const std::string &name, const std::string &text) {
+LONG Set_Text(HKEY key, std::string_view name, std::string_view text) {
     const std::wstring wide = win32::To_Wide(text);
     return Set_Value(key, name, REG_SZ, wide.c_str(), (wide.size() + 1) * sizeof(wchar_t));
 }
@@ -68,7 +69,7 @@ HKEY Key_Of(Registry_Root root) {
     return reinterpret_cast<HKEY>(root);
 }
 
-win32::Unique_Key Open_Key(Registry_Root root, const std::string &key, REGSAM access) {
+win32::Unique_Key Open_Key(Registry_Root root, std::string_view key, REGSAM access) {
     HKEY opened = nullptr;
     if (root == 0 ||
         RegOpenKeyExW(Key_Of(root), win32::To_Wide(key).c_str(), 0, access, &opened) != ERROR_SUCCESS)
@@ -85,14 +86,14 @@ bool Take_Number(const Raw_Value &value, DWORD type, Number &number) {
     return true;
 }
 
-[[noreturn]] void Throw(const std::string &key, LONG code) {
-    throw Registry_Error("HKEY_CURRENT_USER\\" + key + ": " +
-                         win32::System_Error_Text(static_cast<unsigned long>(code)));
+[[noreturn]] void Throw(std::string_view key, LONG code) {
+    throw Registry_Error(Joined(
+        {"HKEY_CURRENT_USER\\", key, ": ", win32::System_Error_Text(static_cast<unsigned long>(code))}));
 }
 
 } // namespace
 
-std::optional<std::string> Read_User_Value(const std::string &key, const std::string &name) {
+std::optional<std::string> Read_User_Value(std::string_view key, std::string_view name) {
     HKEY opened = nullptr;
     LONG result = RegOpenKeyExW(HKEY_CURRENT_USER, win32::To_Wide(key).c_str(), 0, KEY_QUERY_VALUE, &opened);
     if (result != ERROR_SUCCESS)
@@ -110,7 +111,7 @@ std::optional<std::string> Read_User_Value(const std::string &key, const std::st
     return std::to_string(number);
 }
 
-void Write_User_Value(const std::string &key, const std::string &name, const std::string &text) {
+void Write_User_Value(std::string_view key, std::string_view name, std::string_view text) {
     HKEY opened = nullptr;
     LONG result = RegCreateKeyExW(HKEY_CURRENT_USER, win32::To_Wide(key).c_str(), 0, nullptr,
                                   REG_OPTION_NON_VOLATILE, KEY_SET_VALUE, nullptr, &opened, nullptr);
@@ -122,7 +123,7 @@ void Write_User_Value(const std::string &key, const std::string &name, const std
         Throw(key, result);
 }
 
-Registry_Root Find_Registry_Root(const std::string &name) {
+Registry_Root Find_Registry_Root(std::string_view name) {
     const struct {
         const char *name;
         HKEY key;
@@ -134,7 +135,7 @@ Registry_Root Find_Registry_Root(const std::string &name) {
     return 0;
 }
 
-Registry_Value Registry_Read(const std::string &root_name, const std::string &key, const std::string &name,
+Registry_Value Registry_Read(std::string_view root_name, std::string_view key, std::string_view name,
                              char type_letter, const Registry_Value &standard) {
     const win32::Unique_Key opened = Open_Key(Find_Registry_Root(root_name), key, KEY_QUERY_VALUE);
     Raw_Value value;
@@ -154,8 +155,8 @@ Registry_Value Registry_Read(const std::string &root_name, const std::string &ke
     return standard;
 }
 
-void Registry_Write(const std::string &root_name, const std::string &key, const std::string &name,
-                    char type_letter, const Registry_Value &value) {
+void Registry_Write(std::string_view root_name, std::string_view key, std::string_view name, char type_letter,
+                    const Registry_Value &value) {
     const Registry_Root root = Find_Registry_Root(root_name);
     HKEY opened = nullptr;
     wchar_t no_class[] = L"";
@@ -176,9 +177,10 @@ void Registry_Write(const std::string &root_name, const std::string &key, const 
         Set_Value(opened, name, REG_DWORD, number, sizeof *number);
 }
 
-void Registry_Write_String(Registry_Root root, const std::string &key, const std::string &name,
-                           const std::string &text) {
-    const win32::Unique_Key opened = Open_Key(root, key, KEY_SET_VALUE);
+void Registry_Write_String(Registry_Root root, std::string_view key, std::string_view name,
+                           std::string_view text) {
+    // The flush asks for the right to query.
+    const win32::Unique_Key opened = Open_Key(root, key, KEY_SET_VALUE | KEY_QUERY_VALUE);
     if (!opened)
         return;
     Set_Text(opened.Get(), name, text);

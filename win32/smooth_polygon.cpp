@@ -17,10 +17,12 @@ void Find_Crossings(const std::vector<Smooth_Point> &corners, double y, std::vec
     for (std::size_t i = 0; i < corners.size(); ++i) {
         const Smooth_Point &a = corners[i];
         const Smooth_Point &b = corners[(i + 1) % corners.size()];
-        if ((a.y <= y) != (b.y <= y))
-            crossings.push_back(a.x + (y - a.y) * (b.x - a.x) / (b.y - a.y));
+        if ((a.y <= y) == (b.y <= y))
+            continue;
+        const double x = a.x + (y - a.y) * (b.x - a.x) / (b.y - a.y);
+        // There are few of them; sorting each into its place needs less code than sorting them all.
+        crossings.insert(std::upper_bound(crossings.begin(), crossings.end(), x), x);
     }
-    std::sort(crossings.begin(), crossings.end());
 }
 
 /// Adds the cover of one slice between `from` and `to` to the row.

@@ -43,7 +43,7 @@ std::wstring With_Broken_Words(HDC dc, std::wstring_view text, LONG width) {
     std::wstring broken;
     while (!text.empty()) {
         const std::size_t end = text.find_first_of(L" \t\r\n");
-        const std::wstring_view word = text.substr(0, end == text.npos ? end : end + 1);
+        const std::wstring_view word = text.substr(0, end == std::wstring_view::npos ? end : end + 1);
         // No line is longer.
         const std::size_t looked_at = std::min<std::size_t>(word.size(), 4096);
         int fitting = 0;

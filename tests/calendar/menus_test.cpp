@@ -39,8 +39,9 @@ TEST_F(Menus, of_a_day) {
     EXPECT_EQ(Data_File(), "\"6/3/9999=second\"\r\n\"7/3/2002=other\"\r\n");
     Choose(8, 1);
     EXPECT_EQ(Fakes().writes, 1);
-    Choose(1, 2);
+    Choose(1, 2, [this] { Press_Key(form, 123); }); // compact mode under the menu
     EXPECT_EQ(edited, std::vector<int>{5});
+    Press_Key(form, 123);
     for (const bool may_end : {false, true}) {
         form.Ask_Unsaved = [may_end] { return may_end; };
         Choose(1, 4);
@@ -52,13 +53,16 @@ TEST_F(Menus, an_item_chosen_after_the_month_changed_under_the_menu_does_nothing
     // Pairs of days that are in the same box.
     Events({"20/3/2002=a", "24/4/2002=b", "20/4/2002=c", "16/3/2002=d"});
     Start();
+    const auto step = [this] { form.Cur_Month == 3 ? form.Next_Month() : form.Previous_Month(); };
     for (const int item : {1, 1, 2, 2})
-        Choose(20, item, [] {
-            Fakes().now.month = Fakes().now.month == 3 ? 4 : 3;
-            Desktop().Advance(1000);
-        });
+        Choose(20, item, step);
     EXPECT_EQ(Fakes().writes, 0);
     EXPECT_TRUE(edited.empty());
+    // A month or a year goes with what was shown beside it.
+    Show_Month(12, 2005);
+    Desktop().expected_menus.push_back({{"2003", "2004", "Current Month\\Year", "2006", "2007"}, 5, step});
+    Press_Key(form, 89);
+    EXPECT_EQ(form.Which_Month_Lbl.Caption(), "December - 2007");
 }
 
 TEST_F(Menus, of_the_title) {

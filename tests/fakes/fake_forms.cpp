@@ -39,7 +39,8 @@ void Fake_Desktop::Advance(unsigned milliseconds) {
         time = std::max(time, next->second.due);
         next->second.due += next->second.interval;
         const auto tick = next->second.tick;
-        tick();
+        if (!menu_open)
+            tick();
     }
     time = std::max(time, end);
 }
@@ -214,7 +215,7 @@ int Line_Height(const Font &font) {
 
 Colour Resolve_Colour(Colour colour) {
     // All system colours are the same light grey here.
-    return colour < 0 ? Rgb(192, 192, 192) : colour;
+    return colour < 0 ? Rgb(192, 192, 192) : colour & 0xFFFFFF;
 }
 
 int Dots_Per_Inch() {
@@ -247,8 +248,14 @@ Point Mouse_Position() {
 
 int Track_Popup_Menu(Form_Model &, const std::vector<Menu_Item> &items, const Point *at) {
     Desktop().menu_at = at == nullptr ? std::nullopt : std::optional(*at);
+    const auto open = [](const auto &what_happens) {
+        Desktop().menu_open = true;
+        what_happens();
+        Desktop().menu_open = false;
+    };
+    int chosen = 0;
     if (Desktop().choose)
-        return Desktop().choose(items);
+        return open([&] { chosen = Desktop().choose(items); }), chosen;
     std::vector<std::string> texts;
     std::string shown;
     for (const Menu_Item &item : items) {
@@ -264,7 +271,7 @@ int Track_Popup_Menu(Form_Model &, const std::vector<Menu_Item> &items, const Po
     const Expected_Menu menu = expected.front();
     expected.pop_front();
     if (menu.meanwhile)
-        menu.meanwhile();
+        open(menu.meanwhile);
     for (const Menu_Item &item : items)
         Require(item.id != menu.answer || item.enabled, "a greyed item was chosen: " + item.text);
     return menu.answer;
@@ -305,9 +312,9 @@ void Wait_For_Messages(unsigned milliseconds) {
     Desktop().Advance(step);
 }
 
-Timer_Id Start_Timer(unsigned milliseconds, std::function<void()> tick) {
+Timer_Id Start_Timer(unsigned milliseconds, Callback<void()> tick) {
     static Timer_Id last = 0;
-    Desktop().timers[++last] = {milliseconds, Desktop().time + milliseconds, std::move(tick)};
+    Desktop().timers[++last] = {milliseconds, Desktop().time + milliseconds, tick};
     return last;
 }
 
@@ -315,8 +322,8 @@ void Stop_Timer(Timer_Id id) {
     Desktop().timers.erase(id);
 }
 
-void Listen_To_Broadcasts(std::function<bool(Broadcast)> listener) {
-    Desktop().listener = std::move(listener);
+void Listen_To_Broadcasts(Callback<bool(Broadcast)> listener) {
+    Desktop().listener = listener;
 }
 
 bool Claim_Single_Instance(const std::string &) {

@@ -48,7 +48,7 @@ struct Fake_Mirror {
 struct Expected_Menu {
     std::vector<std::string> texts; ///< greyed ones in brackets
     int answer = 0;
-    std::function<void()> meanwhile; ///< what happens while the menu is open, as timers go on then
+    std::function<void()> meanwhile; ///< what happens while the menu is open; timers wait
 };
 
 struct Fake_Timer {
@@ -72,13 +72,14 @@ struct Fake_Desktop {
 
     std::map<platform::Timer_Id, Fake_Timer> timers;
     unsigned time = 0;
-    std::function<bool(platform::Broadcast)> listener;
+    platform::Callback<bool(platform::Broadcast)> listener;
     bool loop_ended = false;
     std::function<void()> in_the_loop; ///< what happens while the message loop runs
 
     std::deque<std::function<void()>> messages; ///< processed one by one while the program waits
 
     std::deque<Expected_Menu> expected_menus;
+    bool menu_open = false;
     std::function<int(const std::vector<platform::Menu_Item> &)> choose; ///< answers all menus instead
     std::optional<platform::Point> menu_at;                              ///< where the last menu was to open
     int measured = 0;                                                    ///< calls of Text_Width

@@ -231,27 +231,35 @@ void Replace_File(const std::string &path, std::string_view bytes) {
     Fakes().files[path] = bytes;
 }
 
-std::optional<std::string> Read_User_Value(const std::string &key, const std::string &name) {
-    const auto value = Fakes().registry.find(key + "\\" + name);
+namespace {
+
+std::string Path(std::string_view folder, std::string_view name) {
+    return std::string(folder).append("\\").append(name);
+}
+
+} // namespace
+
+std::optional<std::string> Read_User_Value(std::string_view key, std::string_view name) {
+    const auto value = Fakes().registry.find(Path(key, name));
     return value == Fakes().registry.end() ? std::nullopt : std::optional(value->second);
 }
 
-void Write_User_Value(const std::string &key, const std::string &name, const std::string &text) {
+void Write_User_Value(std::string_view key, std::string_view name, std::string_view text) {
     ++Fakes().registry_writes;
     if (Fakes().registry_refuses_writes)
-        throw Registry_Error(key + " cannot be written");
-    Fakes().registry[key + "\\" + name] = text;
+        throw Registry_Error(std::string(key) + " cannot be written");
+    Fakes().registry[Path(key, name)] = text;
 }
 
 namespace {
 
 constexpr const char *root_names[] = {"", "HKCU", "HKLM", "HKU", "HKDD", "HKCC", "HKCR"};
 
-void Store(const std::string &root, const std::string &value, const Registry_Value &content) {
+void Store(std::string_view root, const std::string &value, const Registry_Value &content) {
     const auto *text = std::get_if<std::string>(&content);
-    Fakes().other_values.erase(root + "\\" + value);
+    Fakes().other_values.erase(Path(root, value));
     if (root != "HKCU" || text == nullptr)
-        Fakes().other_values[root + "\\" + value] = content;
+        Fakes().other_values[Path(root, value)] = content;
     if (root == "HKCU" && text != nullptr)
         Fakes().registry[value] = *text;
     else if (root == "HKCU")
@@ -260,34 +268,34 @@ void Store(const std::string &root, const std::string &value, const Registry_Val
 
 } // namespace
 
-Registry_Root Find_Registry_Root(const std::string &name) {
+Registry_Root Find_Registry_Root(std::string_view name) {
     const auto *const root = std::find(std::begin(root_names), std::end(root_names), name);
     return root == std::end(root_names) ? 0 : static_cast<Registry_Root>(root - root_names);
 }
 
-Registry_Value Registry_Read(const std::string &root_name, const std::string &key, const std::string &name,
+Registry_Value Registry_Read(std::string_view root_name, std::string_view key, std::string_view name,
                              char type_letter, const Registry_Value &standard) {
     const std::size_t type = std::string("SBD").find(static_cast<char>(std::toupper(type_letter)));
-    const auto value = Fakes().other_values.find(root_name + "\\" + key + "\\" + name);
+    const auto value = Fakes().other_values.find(Path(root_name, Path(key, name)));
     if (value != Fakes().other_values.end())
         return value->second.index() == type ? value->second : standard;
     const std::optional<std::string> text = Read_User_Value(key, name);
     return root_name == "HKCU" && type == 0 && text ? Registry_Value(*text) : standard;
 }
 
-void Registry_Write(const std::string &root_name, const std::string &key, const std::string &name,
-                    char type_letter, const Registry_Value &value) {
+void Registry_Write(std::string_view root_name, std::string_view key, std::string_view name, char type_letter,
+                    const Registry_Value &value) {
     if (Find_Registry_Root(root_name) == 0 || Fakes().registry_refuses_writes)
         return;
-    Fakes().registry_keys.insert(root_name + "\\" + key);
+    Fakes().registry_keys.insert(Path(root_name, key));
     if (type_letter == "SBD"[value.index()])
-        Store(root_name, key + "\\" + name, value);
+        Store(root_name, Path(key, name), value);
 }
 
-void Registry_Write_String(Registry_Root root, const std::string &key, const std::string &name,
-                           const std::string &text) {
-    if (root != 0 && Fakes().registry_keys.contains(std::string(root_names[root]) + "\\" + key))
-        Store(root_names[root], key + "\\" + name, text);
+void Registry_Write_String(Registry_Root root, std::string_view key, std::string_view name,
+                           std::string_view text) {
+    if (root != 0 && Fakes().registry_keys.contains(Path(root_names[root], key)))
+        Store(root_names[root], Path(key, name), std::string(text));
 }
 
 Box_Answer Message_Box(std::string_view text, std::string_view title, Box_Icon icon, Box_Buttons buttons) {

@@ -100,7 +100,6 @@ TEST_F(Style, the_miniature_shows_the_calendar_where_it_will_be) {
             form.Which_Style(row.thin ? 0 : 1);
             form.Position_Form(row.position);
             Style_Page::Theme_Look look;
-            look.use_style = look.use_position = true;
             look.style = row.thin ? 0 : 1;
             look.position = row.position;
             page.Set_Theme(look);

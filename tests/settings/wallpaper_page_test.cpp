@@ -76,17 +76,18 @@ TEST_F(Themes_Page, shows_what_the_selected_pack_says) {
     };
     Fakes().folders.insert("C:\\Vellatro\\no pack");
     Make_Pack("Winter");
+    Cur_Settings.Pack_Name = "default"; // a folder is found in any letter case
     for (const auto &row : rows) {
         Fakes().files.erase(Path("Default", "settings.ini"));
         Make_Pack("Default", row.march);
         Open();
         EXPECT_EQ(Page().Packs_Cbo.Items(), (std::vector<std::string>{"Default", "Winter"}));
         EXPECT_EQ(Page().Packs_Cbo.Text() + "|" + Details(), std::string("Default|") + row.details);
-        EXPECT_FALSE(Page().Look().use_style || Choices_Enabled());
+        EXPECT_FALSE(Page().Look().style || Choices_Enabled());
         Use_Themes(true);
         EXPECT_TRUE(Choices_Enabled());
-        EXPECT_EQ(Page().Look().use_style, row.usable) << row.march;
-        EXPECT_EQ(Page().Look().use_position, row.usable) << row.march;
+        EXPECT_EQ(Page().Look().style.has_value(), row.usable) << row.march;
+        EXPECT_EQ(Page().Look().position.has_value(), row.usable) << row.march;
     }
     for (const bool on : {true, false}) { // the theme's choices replace the user's
         Push(*dialog, Page().Theme_Style_Chk, on);

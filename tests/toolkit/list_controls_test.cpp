@@ -10,10 +10,8 @@ namespace {
 
 struct Dialog : Form {
     explicit Dialog(platform::Form_Kind kind = platform::Form_Kind::Dialog) : Form(kind, "Dialog") {
-        for (Control *control : std::initializer_list<Control *>{&inner, &second, &box})
-            control->Set_Container(outer);
-        for (Control *control : std::initializer_list<Control *>{&third, &fourth, &list, &picture})
-            control->Set_Container(inner);
+        outer.Hold(second, inner);
+        inner.Hold(third, picture);
         for (Control *control : Controls())
             control->On_Click = [this, control] { heard += control->Name() + " "; };
         box.On_Change = [this] { heard += "box=" + box.Text() + " "; };

@@ -29,5 +29,9 @@ private:
         if (!message.empty())
             Fakes().Expect_Box(message);
         Push(*dialog, button);
+        // The last box tells of success, with another icon than all others.
+        const bool good = message.starts_with("Successfully") || message.starts_with("Loaded");
+        EXPECT_TRUE(message.empty() ||
+                    (Fakes().boxes.back().icon == platform::Box_Icon::Information) == good);
     }
 };

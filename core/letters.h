@@ -1,0 +1,17 @@
+// Letter case of ASCII, in which names of files, keywords and headings are compared. Other letters are left
+// as they are, whatever the regional settings say.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+constexpr char Capital(char c) {
+    return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
+}
+
+inline std::string Capitals(std::string_view text) {
+    std::string capitals(text);
+    for (char &c : capitals)
+        c = Capital(c);
+    return capitals;
+}

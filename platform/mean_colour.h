@@ -1,0 +1,46 @@
+// Making pictures smaller by taking means: which pixels of a picture a pixel of its copy stands for, and
+// their colour. Where the copy goes is not here.
+#pragma once
+
+#include "platform/pictures.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+
+namespace platform {
+
+/// The pixels from `begin` to before `end` of a row or column of a picture.
+struct Span {
+    int begin;
+    int end;
+};
+
+/// Those that pixel `i` of `count` stands for, where the picture has `length`: at least one.
+inline Span Source_Of(int i, int count, int length) {
+    const auto at = [count, length](int pixel) {
+        return static_cast<int>(static_cast<std::int64_t>(pixel) * length / count);
+    };
+    return {at(i), std::max(at(i) + 1, at(i + 1))};
+}
+
+/// 0x00RRGGBB: the mean colour of a part of the picture.
+inline std::uint32_t Mean_Colour(const Picture &picture, Span columns, Span rows) {
+    std::uint64_t blue = 0;
+    std::uint64_t green = 0;
+    std::uint64_t red = 0;
+    for (int y = rows.begin; y < rows.end; ++y) {
+        const std::ptrdiff_t first = (static_cast<std::ptrdiff_t>(y) * picture.width + columns.begin) * 3;
+        const std::uint8_t *pixel = picture.pixels->data() + first;
+        for (int x = columns.begin; x < columns.end; ++x, pixel += 3) {
+            blue += pixel[0];
+            green += pixel[1];
+            red += pixel[2];
+        }
+    }
+    const auto count = static_cast<std::uint64_t>(columns.end - columns.begin) *
+                       static_cast<std::uint64_t>(rows.end - rows.begin);
+    return static_cast<std::uint32_t>(red / count << 16U | green / count << 8U | blue / count);
+}
+
+} // namespace platform
