@@ -377,3 +377,12 @@ std::ptrdiff_t Program::Handles() const {
     return std::count_if(entries, entries + *reinterpret_cast<const ULONG *>(bytes.data()),
                          [this](const Entry &entry) { return entry.process == id_; });
 }
+
+::testing::AssertionResult Program::Holds_No_More_Than(const Held &before) const {
+    Held now{};
+    const auto less = [&] { return now[0] <= before[0] && now[1] <= before[1] && now[2] <= before[2] + 8; };
+    if (before[0] > 0 && Wait_Until([&] { return now = Holds(), less(); }, 3000))
+        return ::testing::AssertionSuccess();
+    return ::testing::AssertionFailure()
+           << ::testing::PrintToString(before) << ", then " << ::testing::PrintToString(now);
+}

@@ -4,6 +4,7 @@
 
 #include <windows.h>
 
+#include <array>
 #include <functional>
 #include <gtest/gtest.h>
 #include <memory>
@@ -110,6 +111,11 @@ public:
     std::ptrdiff_t Gdi_Objects() const; ///< -1: not to be had
     std::ptrdiff_t Windows(bool only_visible) const;
     std::ptrdiff_t Handles() const; ///< of the kernel; -1: not to be had
+    /// GDI objects, windows and handles.
+    using Held = std::array<std::ptrdiff_t, 3>;
+    Held Holds() const { return {Gdi_Objects(), Windows(false), Handles()}; }
+    /// It holds no more than before, or will soon. The system's own handles come and go by a few.
+    ::testing::AssertionResult Holds_No_More_Than(const Held &before) const;
 
 private:
     /// What the host tells of the process in the file of that name; empty when it does not.

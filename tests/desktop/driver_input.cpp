@@ -115,10 +115,10 @@ bool Program::Uncover(POINT point) const {
         if (Picture().At(point.x, point.y) != Bare_Screen->At(point.x, point.y) &&
             WindowFromPoint(point) == calendar)
             return true;
-        // What it paints during the move, and right after it, is lost now and then.
-        InvalidateRect(calendar, nullptr, FALSE);
         if (GetAncestor(calendar, GA_PARENT) == GetDesktopWindow())
             Raise(calendar);
+        else // what it paints during the move, and right after it, is lost now and then
+            InvalidateRect(calendar, nullptr, FALSE);
         return false;
     });
 }
