@@ -6,7 +6,7 @@ set -euo pipefail
 . "$(dirname "${BASH_SOURCE[0]}")/desktop.sh"
 
 out=$PROJECT/build/desktop-bench
-Desktop_Open "$out"
+Desktop_Open "$out" vellatro shell_standin desktop_bench
 WINE_OUT=$out/bench.log
 Desktop_Drive "$out" 400 desktop_bench || {
   cat "$WINE_OUT" >&2

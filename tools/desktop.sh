@@ -6,7 +6,7 @@
 #                               the Wine; BINARIES is where the build for it lies. Times are UTC, as the drivers set them.
 #   Desktop_Build LOG [TARGET...]   builds the Windows programs, all of them or the targets
 #   Desktop_Open FOLDER [TARGET...]   all of it: prepares, builds, starts a display, a prefix and the stand-in
-#   Desktop_Drive FOLDER SECONDS DRIVER [ARGUMENT...]   runs one of the drivers in tests/desktop on the built program,
+#   Desktop_Drive FOLDER SECONDS DRIVER [ARGUMENT...]   runs a test or benchmark that drives the built program,
 #                               in FOLDER, with a clock that the driver can move; gives its exit code
 #   Desktop_Start STANDIN.exe [DPI [NAME [WxH [OPTION...]]]]   96 dots per inch, "vellatro", 1024x768. A desktop named
 #                       "shell" has a task bar. The options are the stand-in's; "none" as STANDIN leaves it out.
