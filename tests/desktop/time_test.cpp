@@ -154,13 +154,23 @@ TEST_F(Opened, Bears_Jumps_Of_The_Clock) {
                  {2027, 5, 12, "12th May - 2027", 31}};
     for (const Row &row : rows_) {
         SCOPED_TRACE(row.window);
-        program_->Uncover(day_);
-        row.open();
-        ASSERT_TRUE(Wait_Until([&] { return program_->Window(row.window) != nullptr; }));
+        const auto open = [&] {
+            program_->Uncover(day_);
+            row.open();
+            return Wait_Until([&] { return program_->Window(row.window) != nullptr; });
+        };
+        ASSERT_TRUE(open());
         for (const auto &[year, month, day, title, days] : jumps) {
             Set_Clock(year, month, day, 12, 0, 0);
+            const bool menu = row.window == rows_[0].window;
+            if (menu) { // what the clock asks for waits for its end
+                Sleep(1100);
+                EXPECT_NE(program_->Title(), title);
+                row.close();
+            }
             ASSERT_TRUE(Becomes(std::string(title), [this] { return program_->Title(); }));
             EXPECT_TRUE(Becomes(days, [this] { return program_->Items(ROLE_SYSTEM_CELL).size(); }));
+            ASSERT_TRUE(!menu || open());
         }
         row.close();
         ASSERT_TRUE(Wait_Until([&] { return program_->Windows(true) == 1; }));
