@@ -9,7 +9,7 @@
 namespace win32 {
 
 HWND Make_Dialog(const std::wstring &class_name, WNDPROC procedure) {
-    Register_Class(class_name.c_str(), procedure, 0, DLGWINDOWEXTRA);
+    Register_Class(class_name.c_str(), procedure, 0, true);
     DLGTEMPLATE head = {};
     head.style = WS_POPUP | WS_CAPTION | WS_SYSMENU | DS_MODALFRAME | DS_3DLOOK;
     head.dwExtendedStyle = WS_EX_CONTROLPARENT;

@@ -113,7 +113,7 @@ HWND Broadcast_Window() {
     if (broadcasts != nullptr)
         return broadcasts;
     constexpr wchar_t class_name[] = L"Vellatro_Broadcasts";
-    win32::Register_Class(class_name, Broadcast_Procedure);
+    win32::Register_Class(class_name, Broadcast_Procedure, 0);
     broadcasts = CreateWindowExW(WS_EX_TOOLWINDOW, class_name, L"Vellatro", WS_POPUP, 0, 0, 0, 0, nullptr,
                                  nullptr, GetModuleHandleW(nullptr), nullptr);
     return broadcasts;

@@ -11,7 +11,7 @@ enum class System_Pointer : WORD { Arrow = 32512, Hourglass = 32514, Move = 3264
 /// Null when the system has none of that shape.
 HCURSOR Load_Pointer(System_Pointer shape);
 
-/// Registers a window class with the arrow and the program's icon, at its first use.
-void Register_Class(const wchar_t *name, WNDPROC procedure, UINT style = 0, int extra_bytes = 0);
+/// Registers a window class with the arrow, at its first use; a dialog's with the icon for its title bar.
+void Register_Class(const wchar_t *name, WNDPROC procedure, UINT style, bool dialog = false);
 
 } // namespace win32
