@@ -9,7 +9,7 @@
 #include "transfer/progress.h"
 #include "ui/open_save_dialog.h"
 
-#include <map>
+#include <unordered_map>
 #include <string>
 #include <vector>
 
@@ -24,7 +24,7 @@ public:
 
 private:
     std::vector<std::string> &records_;
-    std::map<std::string, std::size_t> first_; ///< key to index
+    std::unordered_map<std::string, std::size_t> first_; ///< key to index
 };
 
 /// The three imports, with all messages to the user. None throws.
