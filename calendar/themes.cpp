@@ -16,9 +16,9 @@ std::int16_t Theme_Number(const std::string &text, const char *what, const std::
     try {
         return To_Int16(text);
     } catch (const Conversion_Error &expected) {
-        throw Conversion_Error(platform::Joined(
-            {"In ", Pack_File(pack, "settings.ini"), " the ", what, " of month ", std::to_string(month),
-             " is \"", text.substr(0, 60), "\", but must be ", expected.what(), "."}));
+        throw Conversion_Error(platform::Joined({"In ", Pack_File(pack, "settings.ini"), " the ", what,
+                                                 " of month ", std::to_string(month), " is \"",
+                                                 Shortened(text), "\", but must be ", expected.what(), "."}));
     }
 }
 

@@ -3,6 +3,7 @@
 
 #include "core/letters.h"
 #include "platform/joined.h"
+#include "platform/text.h"
 
 #include <algorithm>
 #include <charconv>
@@ -83,4 +84,15 @@ std::int16_t Fit_Int16(std::int64_t value) {
     if (value < Limits::min() || value > Limits::max())
         throw Conversion_Error(std::to_string(value) + " is no whole number from -32768 to 32767");
     return static_cast<std::int16_t>(value);
+}
+
+std::string Shortened(std::string_view text) {
+    constexpr std::size_t longest = 60;
+    if (text.size() <= longest)
+        return std::string(text);
+    // A few bytes more than are shown, to find where a whole character ends.
+    std::size_t end = longest + 4 < text.size() ? longest + 4 : text.size();
+    while (end > longest)
+        end = platform::Previous_Character(text, end);
+    return std::string(text.substr(0, end)) + "...";
 }

@@ -5,7 +5,6 @@
 #include "core/convert.h"
 #include "platform/joined.h"
 #include "platform/registry.h"
-#include "platform/text.h"
 
 #include <array>
 #include <type_traits>
@@ -48,18 +47,6 @@ constexpr std::array<Setting_Row, 25> rows{{
 
 std::string Store_Key(const Setting_Row &row) {
     return std::string("Software\\Vellatro\\") + row.section;
-}
-
-/// A value as a message can show it: a long one ends in "...".
-std::string Shortened(std::string_view text) {
-    constexpr std::size_t longest = 60;
-    if (text.size() <= longest)
-        return std::string(text);
-    // A few bytes more than are shown, to find where a whole character ends.
-    std::size_t end = longest + 4 < text.size() ? longest + 4 : text.size();
-    while (end > longest)
-        end = platform::Previous_Character(text, end);
-    return std::string(text.substr(0, end)) + "...";
 }
 
 } // namespace

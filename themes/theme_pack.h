@@ -10,7 +10,7 @@
 #include <string_view>
 #include <vector>
 
-/// What a lookup gives when it has failed, which the user has been told then.
+/// What a lookup gives when it has failed. Of a missing pack the user has been told then.
 inline constexpr const char *Theme_Error = "ERROR";
 
 /// Whether a text can be a pack's name: the plain name of a folder, which leads nowhere else.
