@@ -7,6 +7,7 @@
 #include "win32/window_class.h"
 
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -20,6 +21,9 @@ std::vector<Timer> timers;
 platform::Timer_Id last_timer = 0;
 platform::Callback<bool(platform::Broadcast)> broadcast_listener;
 HWND broadcasts = nullptr;
+
+/// What the system told while the mouse was taken, each thing once.
+std::vector<std::pair<UINT, WPARAM>> unheard;
 
 /// The listener's answer.
 bool Tell(platform::Broadcast broadcast) noexcept {
@@ -36,11 +40,36 @@ bool Mouse_Is_Taken() {
     return GetGUIThreadInfo(GetCurrentThreadId(), &state) && (state.flags & taken) != 0;
 }
 
+bool Concerns_Fonts(WPARAM setting) {
+    return setting == SPI_SETNONCLIENTMETRICS || setting == SPI_SETFONTSMOOTHING ||
+           setting == SPI_SETFONTSMOOTHINGTYPE;
+}
+
+/// Does what one of the system's broadcasts means to the program.
+void Hear(UINT message, WPARAM wparam) {
+    if (message == WM_SETTINGCHANGE && Concerns_Fonts(wparam)) {
+        // Fonts are no other setting besides: of them all forms hear, which then lay themselves out once.
+        win32::Check_Scale(true);
+    } else if (message == WM_SETTINGCHANGE) {
+        win32::Check_Scale(false);
+        Tell(platform::Broadcast::Settings_Changed);
+    } else if (message == WM_DISPLAYCHANGE) {
+        win32::Check_Scale(false);
+        Tell(platform::Broadcast::Display_Changed);
+    } else if (message == WM_TIMECHANGE) {
+        Tell(platform::Broadcast::Time_Changed);
+    } else {
+        Tell(platform::Broadcast::Colours_Changed);
+    }
+}
+
 void Tick(platform::Timer_Id id) {
     // The windows inside the shell's may vanish without a message.
     win32::Find_Lost_Windows();
     if (Mouse_Is_Taken())
         return;
+    for (const auto &[message, wparam] : std::exchange(unheard, {}))
+        Hear(message, wparam);
     const auto timer =
         std::find_if(timers.begin(), timers.end(), [id](const Timer &t) { return t.id == id; });
     if (timer == timers.end())
@@ -50,37 +79,21 @@ void Tick(platform::Timer_Id id) {
     tick();
 }
 
-bool Concerns_Fonts(WPARAM setting) {
-    return setting == SPI_SETNONCLIENTMETRICS || setting == SPI_SETFONTSMOOTHING ||
-           setting == SPI_SETFONTSMOOTHINGTYPE;
-}
-
-/// Does what a message means to the program. Returns whether it was one of those.
+/// Returns whether a message was one of those that mean something to the program.
 bool Heard(UINT message, WPARAM wparam) {
     switch (message) {
     case WM_TIMER:
         Tick(wparam);
         return true;
     case WM_SETTINGCHANGE:
-        // Fonts are no other setting besides: of them all forms hear, which then lay themselves out once.
-        if (Concerns_Fonts(wparam)) {
-            win32::Check_Scale(true);
-        } else {
-            win32::Check_Scale(false);
-            Tell(platform::Broadcast::Settings_Changed);
-        }
-        return true;
     case WM_TIMECHANGE:
-        if (!Mouse_Is_Taken()) // else the next tick finds it out
-            Tell(platform::Broadcast::Time_Changed);
-        return true;
     case WM_DISPLAYCHANGE:
-        win32::Check_Scale(false);
-        Tell(platform::Broadcast::Display_Changed);
-        return true;
     case WM_SYSCOLORCHANGE:
     case WM_THEMECHANGED:
-        Tell(platform::Broadcast::Colours_Changed);
+        if (!Mouse_Is_Taken())
+            Hear(message, wparam);
+        else if (const std::pair told(message, wparam); std::ranges::find(unheard, told) == unheard.end())
+            unheard.push_back(told); // until the next tick
         return true;
     default:
         return false;
