@@ -9,8 +9,8 @@
 #include "transfer/progress.h"
 #include "ui/open_save_dialog.h"
 
-#include <unordered_map>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 /// Folds events into the records as they are stored: an event joins the first record of its day, be that one
