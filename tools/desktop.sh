@@ -17,11 +17,12 @@
 #                       fails after SECONDS, or when JOB, the calendar's WINE_JOB, has ended
 #   Desktop_End                          ends it and everything else in the prefix
 
-for part in common packages display wine; do
+# shellcheck source=/dev/null
+. "${BASH_SOURCE[0]%/*}/packages.sh"
+for part in display wine; do
   # shellcheck source=/dev/null
-  . "${BASH_SOURCE[0]%/*}/$part.sh"
+  . "tools/$part.sh"
 done
-cd "$PROJECT" || exit
 
 desktop_name=
 desktop_standin_job=

@@ -2,12 +2,8 @@
 # fuzz.sh [SECONDS]: gives each reader of files and texts made-up input for SECONDS (60), beginning with fuzz/corpus, and
 # fails at the first that breaks off; what it was given then is in build/fuzz-found. Installs what is missing.
 set -euo pipefail
-cd "$(dirname "${BASH_SOURCE[0]}")/.."
-for part in common packages; do
-  # shellcheck source=/dev/null
-  . "tools/$part.sh"
-done
-cd "$PROJECT"
+# shellcheck source=/dev/null
+. "$(dirname "${BASH_SOURCE[0]}")/packages.sh"
 seconds=${1:-60}
 [[ $seconds =~ ^[1-9][0-9]*$ ]] || Fail "fuzz.sh [SECONDS]" 2
 Packages_Need build

@@ -1,11 +1,16 @@
 # shellcheck shell=bash disable=SC2034 # the lists are used by name
 # Installs the Debian packages that building and the Wine tests need, and only those that are missing.
-# Sourced after common.sh. Which Wine is used, and how it gets there, is wine.sh's matter.
+# Sourcing it brings common.sh along and changes into the project's folder. Which Wine is used, and how it gets there,
+# is wine.sh's matter.
 #
 #   Packages_Need build     compilers, CMake, test and benchmark libraries, formatter and checker
 #   Packages_Need desktop   Wine, a virtual display, its tools, fonts
 #   Apt_Allowed             succeeds when this user may install packages
 #   Apt_Install PACKAGE...  installs, trying again after refreshing the lists
+
+# shellcheck source=/dev/null
+. "${BASH_SOURCE[0]%/*}/common.sh"
+cd "$PROJECT" || exit
 
 # A line is the file or command that shows that a package is there, and the package. The existence of one
 # file is cheaper to ask than the package database, so that a run with everything in place costs nothing.

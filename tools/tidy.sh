@@ -5,12 +5,8 @@
 # names collide make a further one. The flags are those of the presets host and win32, as far as clang knows them;
 # for win32 it is shown MinGW's headers. Builds nothing. Usage: tools/tidy.sh [FOLDER_OR_SOURCE...], all without.
 set -euo pipefail
-cd "$(dirname "${BASH_SOURCE[0]}")/.."
-for part in common packages; do
-  # shellcheck source=/dev/null
-  . "tools/$part.sh"
-done
-cd "$PROJECT"
+# shellcheck source=/dev/null
+. "$(dirname "${BASH_SOURCE[0]}")/packages.sh"
 Packages_Need build
 mkdir -p build
 out=$(mktemp -d build/tidy.XXXXXX) # inside of the project, where .clang-tidy is found
