@@ -1,6 +1,5 @@
-// The popup menus of a day, of the months and of the years. Assistive technology and changed settings reach
-// the calendar while a menu is open, so what was shown when it opened may not be shown any more when an item
-// is chosen.
+// The popup menus of a day, of the months and of the years. Assistive technology reaches the calendar while a
+// menu is open, so what was shown when it opened may not be shown any more when an item is chosen.
 #include "calendar/main_frm.h"
 #include "platform/menu.h"
 

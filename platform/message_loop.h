@@ -36,10 +36,10 @@ using Timer_Id = std::uintptr_t;
 Timer_Id Start_Timer(unsigned milliseconds, Callback<void()> tick);
 void Stop_Timer(Timer_Id id);
 
-/// What the system tells every program.
+/// What the system tells every program. The first four wait as timers do.
 enum class Broadcast {
     Settings_Changed, ///< regional settings, work area and the like
-    Time_Changed,     ///< the clock was set; not told while timers wait
+    Time_Changed,     ///< the clock was set
     Display_Changed,  ///< the screen's size or depth
     Colours_Changed,  ///< the Windows colours
     Session_Ends,     ///< the user is about to log off or shut down; the last chance to keep something
