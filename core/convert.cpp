@@ -91,7 +91,7 @@ std::string Shortened(std::string_view text) {
     if (text.size() <= longest)
         return std::string(text);
     // A few bytes more than are shown, to find where a whole character ends.
-    std::size_t end = longest + 4 < text.size() ? longest + 4 : text.size();
+    std::size_t end = std::min(longest + 4, text.size());
     while (end > longest)
         end = platform::Previous_Character(text, end);
     return std::string(text.substr(0, end)) + "...";

@@ -99,7 +99,7 @@ void Events_Page::Reload() {
 
 void Events_Page::Show_Imported(std::vector<Sort_Entry> staged) {
     Dates_Lst = std::move(staged);
-    Overview_Fra.Set_Caption("Events"); // and no more that the data file could not be read
+    Title_Frame(Overview_Fra, Reading::Complete);
     Sort_List();
     Get_Stats();
 }

@@ -8,19 +8,19 @@
 
 namespace {
 
-void Save(const Settings_Frm &dialog, const char *key) {
+/// Takes a choice over, or with `if_changed` only another one. Returns whether it did.
+bool Save(const Settings_Frm &dialog, const char *key, bool if_changed = false) {
     const Setting_Row &row = Setting_Row_Of(key);
-    Set_From_Text(Cur_Settings, row, Setting_Text(dialog.Shown_Configuration(), row));
+    const std::string shown = Setting_Text(dialog.Shown_Configuration(), row);
+    if (if_changed && Setting_Text(Cur_Settings, row) == shown)
+        return false;
+    Set_From_Text(Cur_Settings, row, shown);
     Store_Setting(key);
+    return true;
 }
 
-/// Takes a choice over, if it is another one. Returns whether it was.
 bool Save_Changed(const Settings_Frm &dialog, const char *key) {
-    const Setting_Row &row = Setting_Row_Of(key);
-    if (Setting_Text(Cur_Settings, row) == Setting_Text(dialog.Shown_Configuration(), row))
-        return false;
-    Save(dialog, key);
-    return true;
+    return Save(dialog, key, true);
 }
 
 } // namespace

@@ -16,13 +16,6 @@ namespace {
 constexpr int rounds = 15;
 constexpr int pages = 8;
 
-double Now() {
-    LARGE_INTEGER count, frequency;
-    QueryPerformanceCounter(&count);
-    QueryPerformanceFrequency(&frequency);
-    return 1000.0 * static_cast<double>(count.QuadPart) / static_cast<double>(frequency.QuadPart);
-}
-
 double Median(std::vector<double> times) {
     std::sort(times.begin(), times.end());
     return times.at(times.size() / 2);
@@ -39,7 +32,7 @@ INT_PTR CALLBACK Do_The_Usual(HWND, UINT, WPARAM, LPARAM) {
 
 /// Milliseconds until an empty dialog with a client area of that size is painted.
 double Open_Empty(const RECT &client) {
-    const double begin = Now();
+    const double begin = Milliseconds_Now();
     struct {
         DLGTEMPLATE head;
         WORD menu, window_class, title;
@@ -50,7 +43,7 @@ double Open_Empty(const RECT &client) {
     SetWindowPos(dialog, nullptr, 0, 0, client.right, client.bottom, SWP_NOZORDER);
     ShowWindow(dialog, SW_SHOW);
     Paint(dialog);
-    const double end = Now();
+    const double end = Milliseconds_Now();
     DestroyWindow(dialog);
     return end - begin;
 }
@@ -68,12 +61,12 @@ protected:
             return -1;
         for (int i = 0; i < 2; ++i)
             PostMessageA(calendar, WM_KEYDOWN, VK_UP, 1);
-        const double begin = Now();
+        const double begin = Milliseconds_Now();
         PostMessageA(calendar, WM_KEYDOWN, VK_RETURN, 1);
-        while (!Dialog() && Now() - begin < 5000)
+        while (!Dialog() && Milliseconds_Now() - begin < 5000)
             Sleep(1);
         Paint(Dialog());
-        return Now() - begin;
+        return Milliseconds_Now() - begin;
     }
     static void Close() {
         PostMessageA(Dialog(), WM_CLOSE, 0, 0);
@@ -94,10 +87,10 @@ TEST_F(Dialogs, Open_And_Turn) {
             const auto shown = SendMessageA(tabs, TCM_GETCURSEL, 0, 0);
             openings[shown].push_back(opened);
             GetClientRect(Dialog(), &client);
-            const double begin = Now();
+            const double begin = Milliseconds_Now();
             SendMessageA(tabs, TCM_SETCURFOCUS, static_cast<WPARAM>(page), 0);
             Paint(Dialog());
-            turns[page].push_back(Now() - begin);
+            turns[page].push_back(Milliseconds_Now() - begin);
             Close();
         }
         empty.push_back(Open_Empty(client));

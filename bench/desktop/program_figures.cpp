@@ -30,13 +30,6 @@ struct Subject {
     std::wstring Folder() const { return path.substr(0, path.find_last_of(L'\\')); }
 };
 
-double Now() {
-    LARGE_INTEGER count, frequency;
-    QueryPerformanceCounter(&count);
-    QueryPerformanceFrequency(&frequency);
-    return 1000.0 * static_cast<double>(count.QuadPart) / static_cast<double>(frequency.QuadPart);
-}
-
 /// Looks where a calendar can be, too, with few questions: they keep the Wine server from its work.
 HWND Visible_Window(const std::string &window_class) {
     HWND window = FindWindowA(window_class.c_str(), nullptr);
@@ -61,9 +54,9 @@ bool Is_Painted(const std::string &window_class) {
 
 /// False when the window is not painted in time.
 bool Wait_For_Picture(const std::string &window_class) {
-    const double begin = Now();
+    const double begin = Milliseconds_Now();
     while (!Is_Painted(window_class)) {
-        if (Now() - begin > patience)
+        if (Milliseconds_Now() - begin > patience)
             return false;
         Sleep(1);
     }
@@ -74,11 +67,11 @@ bool Measure_Start(Subject &subject) {
     if (!Wait_Until([&] { return !Visible_Window(subject.window_class); }))
         return false;
     Sleep(500); // what the program before it has left behind is tidied up
-    const double begin = Now();
+    const double begin = Milliseconds_Now();
     const Program program(subject.path, subject.Folder());
     if (!Wait_For_Picture(subject.window_class))
         return false;
-    subject.times.push_back(Now() - begin);
+    subject.times.push_back(Milliseconds_Now() - begin);
     Sleep(500); // what it does right after its picture belongs to no other
     return true;
 }

@@ -17,16 +17,11 @@ protected:
     /// The median of what `act` costs, in milliseconds.
     template <typename Act>
     static double Median(const Act &act) {
-        LARGE_INTEGER frequency;
-        QueryPerformanceFrequency(&frequency);
         std::vector<double> times;
         for (int i = 0; i < steps; ++i) {
-            LARGE_INTEGER begin, end;
-            QueryPerformanceCounter(&begin);
+            const double begin = Milliseconds_Now();
             act();
-            QueryPerformanceCounter(&end);
-            times.push_back(1000.0 * static_cast<double>(end.QuadPart - begin.QuadPart) /
-                            static_cast<double>(frequency.QuadPart));
+            times.push_back(Milliseconds_Now() - begin);
         }
         std::nth_element(times.begin(), times.begin() + steps / 2, times.end());
         return times[steps / 2];

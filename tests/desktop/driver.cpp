@@ -137,6 +137,13 @@ Item Item_Of(HWND control, bool act) {
     return accessible ? Item_Of(*accessible, self) : Item{};
 }
 
+double Milliseconds_Now() {
+    LARGE_INTEGER count, frequency;
+    QueryPerformanceCounter(&count);
+    QueryPerformanceFrequency(&frequency);
+    return 1000.0 * static_cast<double>(count.QuadPart) / static_cast<double>(frequency.QuadPart);
+}
+
 bool Wait_Until(const std::function<bool()> &holds, DWORD milliseconds) {
     const DWORD begin = GetTickCount();
     while (!holds()) {

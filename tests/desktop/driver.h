@@ -52,6 +52,8 @@ bool Has_Keyboard(HWND window);
 Item Item_Of(HWND control, bool act = false);
 std::string Text_Of(HWND window); ///< also of a control; nothing from a window that does not answer
 
+double Milliseconds_Now(); ///< of a clock that nothing sets
+
 /// Polls until `holds` gives true; false after the deadline.
 bool Wait_Until(const std::function<bool()> &holds, DWORD milliseconds = 5000);
 
