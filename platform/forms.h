@@ -10,6 +10,7 @@
 #include "platform/geometry.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -227,6 +228,11 @@ void Clip_Window(Form_Model &model, const std::vector<Rect> &rects);
 
 /// Clips the form's window to a polygon (twips on the form).
 void Shape_Window(Form_Model &model, const std::vector<Point> &corners);
+
+/// Returns where the left top corner of the form's window is on the screen, in pixels, also when another
+/// program has moved the window or the one that it is in. Nothing without a native window or while it is
+/// minimised.
+std::optional<Point> Window_Corner(const Form_Model &model);
 
 /// Shows the form in front of the other windows and gives it the keyboard.
 void Bring_To_Front(Form_Model &model);

@@ -4,6 +4,7 @@
 #include "toolkit/guard.h"
 #include "toolkit/handler.h"
 #include "toolkit/painter.h"
+#include "toolkit/units.h"
 
 #include <algorithm>
 #include <utility>
@@ -48,12 +49,29 @@ void Form::Tell(Aspect aspect) {
         platform::Form_Changed(model_, aspect);
 }
 
+platform::Point Form::Corner() const {
+    // The form's own twips where they are the window's pixels, lest a place drifts by being looked at.
+    const std::optional<platform::Point> pixels = created_ ? platform::Window_Corner(model_) : std::nullopt;
+    const platform::Point put = Put_At();
+    if (!pixels || *pixels == platform::Point{Twips_To_Pixels(put.x), Twips_To_Pixels(put.y)})
+        return put;
+    return {Pixels_To_Twips(pixels->x), Pixels_To_Twips(pixels->y)};
+}
+
 void Form::Move(int left, int top) {
-    if (left == Left() && top == Top())
-        return;
+    const bool there = Corner() == platform::Point{left, top};
     model_.bounds.left = left;
     model_.bounds.top = top;
+    if (!there)
+        Tell(Aspect::Bounds);
+}
+
+void Form::Put_Back() {
+    const platform::Point now = Corner();
+    if (now == Put_At() || now == stuck_at_)
+        return;
     Tell(Aspect::Bounds);
+    stuck_at_ = Corner();
 }
 
 void Form::Resize(int width, int height) {

@@ -21,12 +21,17 @@ public:
     const platform::Form_Model &Model() const { return model_; }
     platform::Form_Model &Model() { return model_; }
 
-    // Place on the screen, also where the user moved it, and size, in twips.
-    int Left() const { return model_.bounds.left; }
-    int Top() const { return model_.bounds.top; }
+    // Place on the screen, also where others have moved the window, and size, in twips.
+    int Left() const { return Corner().x; }
+    int Top() const { return Corner().y; }
     int Width() const { return model_.bounds.width; }
     int Height() const { return model_.bounds.height; }
     void Move(int left, int top);
+    /// Returns where the form itself put its window last.
+    platform::Point Put_At() const { return {model_.bounds.left, model_.bounds.top}; }
+    /// Brings a window that others have moved back there. One that does not come is left where it is until it
+    /// is moved again.
+    void Put_Back();
     void Resize(int width, int height);
 
     bool Visible() const { return model_.visible; }
@@ -79,6 +84,7 @@ private:
     void Register(Control &control);
     void Forget(const Control &control);
     void Tell(platform::Aspect aspect);
+    platform::Point Corner() const;
     void Make_Window(bool visible);
     void Handle(const platform::Input_Event &event);
     void Handle_Mouse(const platform::Input_Event &event);
@@ -97,5 +103,6 @@ private:
     std::optional<std::vector<platform::Rect>> clip_; ///< nothing: not clipped
     std::vector<platform::Point> shape_;              ///< empty: no polygon
     bool created_ = false;                            ///< there is a native window
+    std::optional<platform::Point> stuck_at_;         ///< where the last Put_Back left the window
     Form *modal_ = nullptr;                           ///< takes what the user does here
 };

@@ -203,6 +203,14 @@ void Shape_Window(Form_Model &model, const std::vector<Point> &corners) {
         mirror->Shape(corners);
 }
 
+std::optional<Point> Window_Corner(const Form_Model &model) {
+    const HWND window = win32::Window_Of_Form(model);
+    RECT place = {};
+    if (window == nullptr || IsIconic(window) || !GetWindowRect(window, &place))
+        return std::nullopt;
+    return Point{place.left, place.top};
+}
+
 void Bring_To_Front(Form_Model &model) {
     if (const std::shared_ptr<win32::Mirror> mirror = win32::Find_Mirror(model))
         mirror->Bring_To_Front();

@@ -234,11 +234,11 @@ void Painted_Window::Shape(const std::vector<platform::Point> &corners) {
 }
 
 void Painted_Window::Place() {
-    const RECT place = To_Pixels(Model()->bounds);
-    POINT corner = {place.left, place.top};
+    RECT place = To_Pixels(Model()->bounds);
+    // Both corners: a mirrored parent counts from its right edge to the window's right one.
     if (!Is_Top_Level(window_))
-        MapWindowPoints(nullptr, GetAncestor(window_, GA_PARENT), &corner, 1);
-    SetWindowPos(window_, nullptr, corner.x, corner.y, place.right - place.left, place.bottom - place.top,
+        MapWindowPoints(nullptr, GetAncestor(window_, GA_PARENT), reinterpret_cast<POINT *>(&place), 2);
+    SetWindowPos(window_, nullptr, place.left, place.top, place.right - place.left, place.bottom - place.top,
                  SWP_NOACTIVATE | SWP_NOZORDER);
 }
 

@@ -3,6 +3,7 @@
 
 #include "platform/pictures.h"
 #include "platform/text.h"
+#include "platform/twips.h"
 #include "toolkit/form.h"
 
 #include <algorithm>
@@ -115,7 +116,8 @@ void Create_Mirror(Form_Model &model) {
     if (Desktop().refuses_windows)
         throw Error("The window cannot be made");
     Require(!Desktop().mirrors.contains(&model), "a second native window for " + model.name);
-    Desktop().mirrors[&model] = {model.visible, {}, model.visible, {}};
+    Fake_Mirror &mirror = Desktop().mirrors[&model];
+    mirror.shown = mirror.shown_unclipped = model.visible;
 }
 
 void Destroy_Mirror(Form_Model &model) {
@@ -129,6 +131,8 @@ void Form_Changed(Form_Model &model, Aspect aspect) {
     Desktop().told.push_back({"", aspect});
     Fake_Mirror &mirror = Mirror_Of(model);
     mirror.shown = model.visible;
+    if (aspect == Aspect::Bounds && !mirror.stuck)
+        mirror.displaced = {};
     mirror.shown_unclipped |= model.visible && mirror.clip.empty() && mirror.shape.empty();
 }
 
@@ -144,6 +148,15 @@ void Clip_Window(Form_Model &model, const std::vector<Rect> &rects) {
 
 void Shape_Window(Form_Model &model, const std::vector<Point> &corners) {
     Mirror_Of(model).shape = corners;
+}
+
+std::optional<Point> Window_Corner(const Form_Model &model) {
+    const auto mirror = Desktop().mirrors.find(&model);
+    if (mirror == Desktop().mirrors.end())
+        return std::nullopt;
+    const auto pixels = [](int twips) { return Twips_To_Pixels(twips, Dots_Per_Inch()); };
+    return Point{pixels(model.bounds.left) + mirror->second.displaced.x,
+                 pixels(model.bounds.top) + mirror->second.displaced.y};
 }
 
 void Bring_To_Front(Form_Model &model) {

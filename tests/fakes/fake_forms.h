@@ -40,6 +40,8 @@ struct Fake_Mirror {
     std::vector<platform::Rect> clip;
     bool shown_unclipped = false; ///< it was visible before it had a clip
     std::vector<platform::Point> shape;
+    platform::Point displaced{}; ///< how far others have moved it since it was put where it belongs, pixels
+    bool stuck = false;          ///< and it stays there
 };
 
 /// A popup menu that a test expects, in its turn.
