@@ -1,6 +1,7 @@
 // The steps of the preview, and putting everything back.
 #include "settings/wallpaper_preview.h"
 
+#include "core/letters.h"
 #include "desktop/wallpaper.h"
 #include "platform/locale.h"
 #include "platform/registry.h"
@@ -42,13 +43,12 @@ void Copy_Previewed(const Settings &from, Settings &to) {
 }
 
 /// Deletes the bitmaps that the preview left in the pack, but for the wallpaper `path`, which is made anew if
-/// it is one of them. Gives that path.
-std::string Keep_Only(const std::string &path, const std::string &pack) {
+/// it is one of them, in whichever letter case it is named.
+void Keep_Only(const std::string &path, const std::string &pack) {
     Delete_Old_Bmps(pack);
     for (std::int16_t month = 1; month <= last_month; ++month)
-        if (path == Pack_File(pack, std::to_string(month) + ".bmp"))
-            return Get_Paper_Path(month, pack);
-    return path;
+        if (Capitals(path) == Capitals(Pack_File(pack, std::to_string(month) + ".bmp")))
+            Get_Paper_Path(month, pack);
 }
 
 } // namespace
@@ -150,8 +150,11 @@ void Wallpaper_Preview::End() noexcept {
 void Wallpaper_Preview::Put_Wallpaper_Back(const Before &before) const {
     // None, if its bitmap went in the preview and cannot be made again.
     std::string path;
-    Run_Guarded([&] { path = Keep_Only(before.wallpaper, pack_); });
+    Run_Guarded([&] {
+        Keep_Only(before.wallpaper, pack_);
+        path = before.wallpaper;
+    });
     Write_Desktop_Value("TileWallpaper", before.tiled);
     Write_Desktop_Value("WallpaperStyle", before.wallpaper_style);
-    platform::Set_Wallpaper(path == unknown || path == Theme_Error ? "" : path);
+    platform::Set_Wallpaper(path == unknown ? "" : path);
 }

@@ -169,9 +169,9 @@ TEST_F(Themes_Page, a_preview_leaves_all_as_it_was) {
         Cur_Settings.Use_Themes = themes ? 1 : 0;
         desktop("WallpaperStyle") = "10";
         desktop("TileWallpaper") = "0";
-        // Without themes: a wallpaper that stayed from a time when they were used.
-        desktop("Wallpaper") = Path(themes ? "Default" : "Winter", "3.bmp");
-        Fakes().files[desktop("Wallpaper")] = "";
+        // Without themes: a wallpaper that stayed from a time when they were used, in another letter case.
+        desktop("Wallpaper") = themes ? Path("Default", "3.bmp") : Path("WINTER", "3.BMP");
+        Fakes().files[Path(themes ? "Default" : "Winter", "3.bmp")] = "";
         Fakes().wallpapers = {desktop("Wallpaper")};
         Events({"7/3/2002=Wedding anniversary of the whole family in Winchester"});
         form.Get_Wallpaper_Stuff("Default");
