@@ -56,7 +56,8 @@ void Main_Frm::Compact_Timer_Timer() {
     Compact_Timer.Set_Enabled(false);
     const bool busy =
         (Editor_Visible && Editor_Visible()) || (Settings_Visible && Settings_Visible()) || Balloon_Showing();
-    if (busy || Compacted)
+    // The setting may have gone while the minute ran: an import stores what it read before it fails.
+    if (busy || Compacted || Cur_Settings.Auto_Compact != 1)
         return;
     Timer_Compacted = true;
     Which_Month_Lbl_DblClick();

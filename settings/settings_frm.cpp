@@ -190,6 +190,7 @@ void Settings_Frm::Apply_Btn_Click() {
          {&Settings_Frm::Save_Colours, &Settings_Frm::Save_General_Settings, &Settings_Frm::Save_Other_DM,
           &Settings_Frm::Save_Theme, &Settings_Frm::Save_Bar_Settings})
         Run_Guarded([this, save] { (this->*save)(); });
+    calendar_.Restart_Countdown();
     // Its examples have the calendar's colours.
     Style.Style_Preview();
 }

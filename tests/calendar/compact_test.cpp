@@ -25,7 +25,7 @@ TEST_F(Compact_Mode, states_and_what_leads_from_one_to_the_other) {
     // D: double click on the title, M: the mouse moves over it, T: a minute passes, Y and N: the setting;
     // after each "=", C is compact, E expanded, and t follows when the timer's compaction is remembered.
     std::istringstream steps("D=C M=C T=C D=E T=Ct M=E T=Ct D=Et D=Ct M=E T=Ct N=Ct M=Ct D=Et T=Et Y=Et M=Et "
-                             "T=Ct M=E M=E T=Ct T=Ct D=Et T=Ct");
+                             "T=Ct M=E M=E T=Ct T=Ct D=Et T=Ct D=Et N=Et T=Et");
     Stored("Auto Compact") = "1";
     Start();
     for (std::string step; steps >> step;) {
