@@ -72,19 +72,20 @@ void Main_Frm::End_Program() {
 
 void Main_Frm::Change_Style(int step) {
     // No and Cancel both leave all as it is: while the theme's style rules, there is no other to step to.
-    if (Cur_Settings.Use_Theme_Style == 1) {
-        if (platform::Message_Box(style_question, "Vellatro", platform::Box_Icon::Question,
-                                  platform::Box_Buttons::Yes_No_Cancel) != platform::Box_Answer::Yes)
-            return;
+    const bool theme_rules = Cur_Settings.Use_Theme_Style == 1;
+    if (theme_rules &&
+        platform::Message_Box(style_question, "Vellatro", platform::Box_Icon::Question,
+                              platform::Box_Buttons::Yes_No_Cancel) != platform::Box_Answer::Yes)
+        return;
+    // From what is seen, which may be the theme's until its tick goes. All numbers but 0 are the same style.
+    const int style = ((Effective_Style() == 0 ? 0 : 1) + step + style_count) % style_count;
+    if (theme_rules)
         Change_Setting(Cur_Settings.Use_Theme_Style, 0, "Use Theme Style");
-    }
-    // All numbers but 0 are the same style.
-    const int style = ((Cur_Settings.Style == 0 ? 0 : 1) + step + style_count) % style_count;
     Change_Setting(Cur_Settings.Style, static_cast<std::int16_t>(style), "Style");
     Hide_Balloon();
     // The window gets another size. One that stands at its set position keeps to it, so that it neither runs
     // off the screen nor floats; one that was dragged away, or is only its title, stays where it is.
-    const bool stands = !Compacted && placed_ == platform::Point{Left(), Top()};
+    const bool stands = !Compacted && placed_ == Put_At();
     Which_Style(Effective_Style());
     if (stands)
         Position_Form(Effective_Position());
