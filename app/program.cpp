@@ -4,6 +4,7 @@
 #include "calendar/main_frm.h"
 #include "editor/edit_frm.h"
 #include "platform/message_loop.h"
+#include "platform/wallpaper.h"
 #include "settings/settings_frm.h"
 #include "toolkit/guard.h"
 
@@ -29,6 +30,7 @@ int Run_Program() {
         edit_frm->On_Unload = nullptr;
         exit_code = 0;
     });
+    platform::Finish_Wallpaper();
     return exit_code;
 }
 

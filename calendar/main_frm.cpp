@@ -7,6 +7,7 @@
 #include "platform/locale.h"
 #include "platform/message_box.h"
 #include "platform/screen.h"
+#include "platform/wallpaper.h"
 
 using platform::Broadcast;
 using platform::Mouse_Button;
@@ -197,6 +198,7 @@ bool Main_Frm::Hear(Broadcast broadcast) {
         // The process may go at once: the dialog keeps its tab now.
         if (Close_Settings)
             Close_Settings();
+        platform::Finish_Wallpaper();
         platform::End_Message_Loop();
         break;
     case Broadcast::Close_Request:

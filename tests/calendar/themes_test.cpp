@@ -1,4 +1,5 @@
 // What the calendar takes from a theme pack, and when.
+#include "app/program.h"
 #include "tests/calendar/calendar_test.h"
 #include "themes/theme_pack.h"
 
@@ -36,6 +37,13 @@ TEST_F(Themes, A_Pack_Rules_Wallpaper_Style_And_Position) {
     EXPECT_EQ(Fakes().wallpapers, (Paths{In_Pack("3.bmp"), In_Pack("4.bmp")}));
     EXPECT_EQ(Mode(), "02");
     EXPECT_TRUE(form.Effective_Style() == 1 && form.Left() == 300);
+    // A box style key steps from the one that is seen.
+    Cur_Settings.Style = 0;
+    Fakes().Expect_Box("You can't change the box style because Use Theme Style is selected. Do you want to "
+                       "turn off Use Theme Style?",
+                       platform::Box_Answer::Yes);
+    Press_Key(form, 119);
+    EXPECT_EQ(Stored("Style") + Stored("Use Theme Style") + std::to_string(form.Effective_Style()), "000");
     // What is not wanted is not even read.
     Fakes().files[In_Pack("settings.ini")] = "4=x-y-1";
     Cur_Settings.Use_Theme_Pos = Cur_Settings.Use_Theme_Style = 0;
@@ -47,6 +55,14 @@ TEST_F(Themes, A_Pack_Rules_Wallpaper_Style_And_Position) {
     EXPECT_EQ(Fakes().wallpapers.size(), 3U);
     form.Preview_Wallpaper_Stuff("Default", 3);
     EXPECT_EQ(Fakes().wallpapers.back(), In_Pack("3.bmp"));
+}
+
+TEST_F(Themes, The_End_Waits_For_The_Wallpaper) {
+    Start();
+    Desktop().Say(platform::Broadcast::Session_Over);
+    EXPECT_FALSE(Fakes().wallpaper_ordered);
+    EXPECT_EQ(Run_Program(), 0);
+    EXPECT_TRUE(Fakes().wallpapers.size() == 2 && !Fakes().wallpaper_ordered);
 }
 
 TEST_F(Themes, A_Faulty_Pack_Is_Told_Once_A_Day_And_The_Calendar_Lives) {

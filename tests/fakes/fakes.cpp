@@ -198,9 +198,11 @@ Picture Load_Picture(const std::string &path) {
 
 void Set_Wallpaper(const std::string &path) {
     Fakes().wallpapers.push_back(path);
+    Fakes().wallpaper_ordered = true;
 }
 
 void Finish_Wallpaper() {
+    Fakes().wallpaper_ordered = false;
 }
 
 bool Path_Exists(const std::string &path) {

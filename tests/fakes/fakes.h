@@ -63,6 +63,7 @@ struct Fake_System {
     std::map<std::string, platform::Picture, Name_Less> pictures; ///< path to what is loaded from it
     int loads = 0;                                                ///< calls of Load_Picture
     std::vector<std::string> wallpapers;                          ///< all that were set
+    bool wallpaper_ordered = false; ///< the last one does not hang yet, and would not if the program ended
 
     /// Key, "\" and value name to text; of HKEY_LOCAL_MACHINE with "HKLM\" before.
     std::map<std::string, std::string, Name_Less> registry;
