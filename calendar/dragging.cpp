@@ -3,12 +3,10 @@
 #include "core/convert.h"
 #include "core/settings.h"
 #include "desktop/position.h"
-#include "platform/joined.h"
 #include "platform/message_box.h"
 #include "toolkit/keys.h"
 #include "toolkit/units.h"
 
-#include <string>
 #include <utility>
 
 using platform::Mouse_Button;
@@ -57,8 +55,7 @@ void Main_Frm::Drop(Mouse_Button button) {
         End_Drag();
     if (button == Mouse_Button::Right || !May_Drag())
         return;
-    // On a wide screen the set position itself may be beyond the limit: then a click on the title, which
-    // moves nothing, is told of it once and not every time.
+    // A store that refuses is told once, and not with every click on the title.
     drop_guard_.Run([&] { Keep_Place(drag); });
 }
 
@@ -85,18 +82,9 @@ void Main_Frm::End_Nudge() {
 }
 
 void Main_Frm::Keep_Place(const std::optional<Drag> &drag) {
-    std::int16_t left = 0;
-    std::int16_t top = 0;
-    try {
-        left = Fit_Int16(Left());
-        top = Fit_Int16(Top());
-    } catch (const Conversion_Error &) {
-        throw Conversion_Error(platform::Joined(
-            {"The calendar's place on the screen, ", std::to_string(Left()), " and ", std::to_string(Top()),
-             " twips, cannot be kept: it must lie between -32768 and 32767."}));
-    }
-    Change_Setting(Cur_Settings.Manual_PosX, left, "Manual_PosX");
-    Change_Setting(Cur_Settings.Manual_PosY, top, "Manual_PosY");
+    manual_ = {Left(), Top()};
+    Change_Setting(Cur_Settings.Manual_PosX, Nearest_Int16(manual_.x), "Manual_PosX");
+    Change_Setting(Cur_Settings.Manual_PosY, Nearest_Int16(manual_.y), "Manual_PosY");
     // Only a move in both directions asks; a push along one edge is taken for a passing one.
     if (!drag || Left() == drag->form.x || Top() == drag->form.y || Stays_Where_Dropped())
         return;

@@ -113,8 +113,7 @@ bool Main_Frm::Form_Load() {
     Which_Style(Effective_Style());
     const Date today = Take_Today();
     Setup_Boxes(Cur_Month, Cur_Year);
-    // A work area too high for the remembered height is told, but is no reason to show no calendar.
-    placement_guard_.Run([this] { Set_Repos(); });
+    Set_Repos();
     // Heard from here on, with the day's stamp: an alert may stay open for hours.
     date_stamp_ = Date_Stamp(today);
     Hear_Broadcasts();
@@ -140,7 +139,7 @@ Date Main_Frm::Take_Today() {
 }
 
 void Main_Frm::Dectect_Date_Timer_Timer() {
-    placement_guard_.Run([this] { RePosition(); });
+    RePosition();
     Update_Title();
     const Date today = Today();
     const std::string stamp = Date_Stamp(today);
@@ -183,7 +182,7 @@ bool Main_Frm::Hear(Broadcast broadcast) {
         Dectect_Date_Timer_Timer();
         break;
     case Broadcast::Display_Changed:
-        placement_guard_.Run([this] { RePosition(); });
+        RePosition();
         break;
     case Broadcast::Colours_Changed:
         // System colours are looked up while painting; only the frame of today's box is worked out before.

@@ -106,9 +106,10 @@ public:
     // Place and shape.
     /// Moves the window to a position code (desktop/position.h); a number that is none leaves it.
     void Position_Form(std::int16_t code);
-    /// Remembers the work area's height. Throws Conversion_Error when it leaves 16 bits, as RePosition does.
+    /// Remembers the work area's height.
     void Set_Repos();
-    /// Places the window anew when the work area's height is another one.
+    /// Places the window anew when the work area's height is another one; puts it back when something else
+    /// has moved it.
     void RePosition();
     /// Clips the window to its visible controls.
     void TransparentForm();
@@ -241,8 +242,6 @@ private:
     void Show_Entered();
     void Alert(const Date &today, std::string_view text);
 
-    void Remember_Height(int twips);
-
     /// A drag by the title: where the mouse is in the title, and where the window was. Wider than the 16 bits
     /// that a place is kept in, so that a calendar beyond them can be dragged back.
     struct Drag {
@@ -274,11 +273,11 @@ private:
     bool contrast_ = false; ///< the shown colours are those of high contrast
     bool stale_ = false;    ///< what was laid out is not what the month shows now: it changed in compact mode
     platform::Point placed_; ///< where Position_Form put the window last
+    platform::Point manual_; ///< where the user put it last, of which the settings hold what fits 16 bits
     unsigned fills_ = 0;     ///< counts the fillings: one that begins inside another puts an end to that
     int desktop_height_ = 0; ///< of the work area at the last placement, twips
     std::optional<Drag> drag_;
     std::optional<Drag> nudge_; ///< where the arrow keys took it up
-    Repeated_Guard placement_guard_;
 
     std::int16_t mark_day_ = 0; ///< of the shown month, 0: none yet
     bool mark_used_ = false;    ///< the keyboard has been used to go over the days

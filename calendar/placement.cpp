@@ -3,10 +3,22 @@
 #include "core/convert.h"
 #include "core/settings.h"
 #include "desktop/position.h"
-#include "platform/joined.h"
+#include "platform/screen.h"
+#include "toolkit/units.h"
 
-#include <string>
+#include <utility>
 #include <vector>
+
+namespace {
+
+/// Returns whether anything of a place on the screen (twips) can be seen: its monitor may be gone.
+bool Is_On_A_Monitor(const platform::Rect &place) {
+    const platform::Rect pixels = Twips_To_Pixels(place);
+    const platform::Point middle{pixels.left + pixels.width / 2, pixels.top + pixels.height / 2};
+    return platform::Work_Area_Around(middle).Intersects(pixels);
+}
+
+} // namespace
 
 void Main_Frm::Position_Form(std::int16_t code) {
     Label &lowest = Box_Lbl[35].Visible() ? Box_Lbl[35] : Box_Lbl[28];
@@ -14,36 +26,25 @@ void Main_Frm::Position_Form(std::int16_t code) {
     placement.work_area = GetDesktopRect(true);
     placement.form = {Width(), Height()};
     placement.lowest_box_bottom = lowest.Top() + lowest.Height();
-    placement.manual = {Cur_Settings.Manual_PosX, Cur_Settings.Manual_PosY};
+    const platform::Point kept{Cur_Settings.Manual_PosX, Cur_Settings.Manual_PosY};
+    const platform::Point manual{Nearest_Int16(manual_.x), Nearest_Int16(manual_.y)};
+    placement.manual = manual == kept ? manual_ : kept;
     if (const auto place = Position_Of(code, placement)) {
         Move(place->x, place->y);
-        placed_ = {Left(), Top()};
-    }
-}
-
-void Main_Frm::Remember_Height(int twips) {
-    // Kept whole before its conversion may fail: else every tick would find another height and place the
-    // window anew, also one that is being dragged.
-    desktop_height_ = twips;
-    try {
-        Fit_Int16(twips);
-    } catch (const Conversion_Error &) {
-        throw Conversion_Error(platform::Joined(
-            {"The height of the desktop's work area, ", std::to_string(twips),
-             " twips, is beyond the 32767 that are allowed for. The calendar is placed all the same."}));
+        placed_ = *place;
     }
 }
 
 void Main_Frm::Set_Repos() {
-    Remember_Height(GetDesktopRect(true).height);
+    desktop_height_ = GetDesktopRect(true).height;
 }
 
 void Main_Frm::RePosition() {
     const int height = GetDesktopRect(true).height;
-    if (height == desktop_height_)
-        return;
-    Position_Form(Effective_Position());
-    Remember_Height(height);
+    if (std::exchange(desktop_height_, height) != height)
+        Position_Form(Effective_Position());
+    else if (!drag_ && Is_On_A_Monitor(Model().bounds))
+        Put_Back();
 }
 
 void Main_Frm::TransparentForm() {

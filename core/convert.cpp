@@ -86,6 +86,11 @@ std::int16_t Fit_Int16(std::int64_t value) {
     return static_cast<std::int16_t>(value);
 }
 
+std::int16_t Nearest_Int16(int value) {
+    using Limits = std::numeric_limits<std::int16_t>;
+    return static_cast<std::int16_t>(std::clamp<int>(value, Limits::min(), Limits::max()));
+}
+
 std::string Shortened(std::string_view text) {
     constexpr std::size_t longest = 60;
     if (text.size() <= longest)

@@ -32,5 +32,8 @@ std::string Flag_Text(bool flag);
 /// Narrows to 16 bits. Throws Conversion_Error when the value does not fit.
 std::int16_t Fit_Int16(std::int64_t value);
 
+/// Returns the 16-bit integer that is nearest to a value.
+std::int16_t Nearest_Int16(int value);
+
 /// A value as a message can show it: of a long one whole characters, and "...".
 std::string Shortened(std::string_view text);

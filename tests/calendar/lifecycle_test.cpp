@@ -2,6 +2,8 @@
 #include "calendar/box_layout.h"
 #include "tests/calendar/calendar_test.h"
 
+#include <algorithm>
+
 using platform::Broadcast;
 
 namespace {
@@ -92,17 +94,46 @@ TEST_F(Lifecycle, keeps_its_place_when_the_work_area_changes_height) {
     EXPECT_EQ(form.Left() + form.Width(), 1280 * 15);
 }
 
-TEST_F(Lifecycle, a_work_area_beyond_16_bits_is_told_once_and_undoes_no_drag) {
-    Desktop().work_area.height = 2560;
-    Fakes().Expect_Box("The height of the desktop's work area, 38400 twips, is beyond the 32767 that are "
-                       "allowed for. The calendar is placed all the same.");
+TEST_F(Lifecycle, comes_back_from_where_something_else_has_moved_it) {
+    Desktop().work_area.height = 2560; // more than 16 bits of twips
     Start();
-    form.Move(300, 450);
-    Desktop().Advance(3000);
-    EXPECT_EQ(form.Left(), 300);
-    Fakes().now.day = 6;
-    Desktop().Advance(1000);
-    EXPECT_EQ(Box_Of(6).Back_Colour(), Cur_Settings.Col_Today);
+    Fake_Mirror &window = Desktop().mirrors.at(&form.Model());
+    const platform::Point set{form.Left(), form.Top()}, dragged{3000, 600}, off_screen{-90000, 600};
+    const platform::Point title{form.Which_Month_Lbl.Left() + 15, 90};
+    struct {
+        platform::Point from;
+        std::function<void()> event;
+        bool comes, stuck = false;
+    } const rows[] = {
+        {set, [] { Desktop().Advance(1000); }, true},
+        {set, [] { Desktop().Say(Broadcast::Display_Changed); }, true},
+        {set, [this] { form.Redraw(); }, true},
+        {set, [] { Desktop().Advance(9000); }, false, true},
+        {dragged, [] { Desktop().Advance(1000); }, true},
+        {off_screen, [] { Desktop().Advance(1000); }, false}, // its monitor has gone
+        {dragged,
+         [&] {
+             Input(form, {.kind = platform::Input_Kind::Mouse_Down,
+                          .point = title,
+                          .button = platform::Mouse_Button::Left});
+             Desktop().Advance(1000);
+         },
+         false},
+    };
+    for (const auto &row : rows) {
+        SCOPED_TRACE(&row - rows);
+        window.stuck = false;
+        form.Move(row.from.x, row.from.y);
+        window.displaced = {60, -20};
+        window.stuck = row.stuck;
+        const platform::Point moved{row.from.x + 60 * 15, row.from.y - 20 * 15};
+        EXPECT_EQ((platform::Point{form.Left(), form.Top()}), moved);
+        Desktop().told.clear();
+        row.event();
+        EXPECT_EQ((platform::Point{form.Left(), form.Top()}), row.comes ? row.from : moved);
+        EXPECT_EQ(std::ranges::count(Desktop().told, Told_Change{"", platform::Aspect::Bounds}),
+                  row.comes || row.stuck ? 1 : 0);
+    }
 }
 
 TEST_F(Lifecycle, what_happens_under_an_alert_holds_after_it) {
