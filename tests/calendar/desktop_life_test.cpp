@@ -113,12 +113,11 @@ TEST_F(Desktop_Life, a_yes_makes_the_position_manual_and_a_no_lasts_until_the_ne
     EXPECT_EQ(Stored("Alignment") + Stored("Use Theme Pos"), "70");
     Drag(40000, -60000); // beyond 16 bits, which the store alone is limited to
     EXPECT_EQ(Stored("Manual_PosX") + Stored("Manual_PosY"), "32767-32768");
-    form.Redraw();
-    EXPECT_EQ(form.Left(), left - 300 + 40000);
-    Load_Settings();
-    Cur_Settings.Manual_PosY = 300; // by an import
-    form.Redraw();
-    EXPECT_EQ(form.Left() + form.Top(), 32767 + 300);
+    for (const int expected : {left - 300 + 40000, 32767}) { // until another place is chosen
+        form.Redraw();
+        EXPECT_EQ(form.Left(), expected);
+        Cur_Settings.Manual_PosY = 300;
+    }
 }
 
 TEST_F(Desktop_Life, arrow_keys_with_ctrl_move_it_and_its_place_is_kept_when_ctrl_comes_up) {

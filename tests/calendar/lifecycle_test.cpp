@@ -1,8 +1,7 @@
 // Start-up, the date watch, the system's broadcasts, steps, keys, colours and placement.
+#include "app/program.h"
 #include "calendar/box_layout.h"
 #include "tests/calendar/calendar_test.h"
-
-#include <algorithm>
 
 using platform::Broadcast;
 
@@ -98,42 +97,26 @@ TEST_F(Lifecycle, comes_back_from_where_something_else_has_moved_it) {
     Desktop().work_area.height = 2560; // more than 16 bits of twips
     Start();
     Fake_Mirror &window = Desktop().mirrors.at(&form.Model());
-    const platform::Point set{form.Left(), form.Top()}, dragged{3000, 600}, off_screen{-90000, 600};
-    const platform::Point title{form.Which_Month_Lbl.Left() + 15, 90};
-    struct {
-        platform::Point from;
-        std::function<void()> event;
-        bool comes, stuck = false;
-    } const rows[] = {
-        {set, [] { Desktop().Advance(1000); }, true},
-        {set, [] { Desktop().Say(Broadcast::Display_Changed); }, true},
-        {set, [this] { form.Redraw(); }, true},
-        {set, [] { Desktop().Advance(9000); }, false, true},
-        {dragged, [] { Desktop().Advance(1000); }, true},
-        {off_screen, [] { Desktop().Advance(1000); }, false}, // its monitor has gone
-        {dragged,
-         [&] {
-             Input(form, {.kind = platform::Input_Kind::Mouse_Down,
-                          .point = title,
-                          .button = platform::Mouse_Button::Left});
-             Desktop().Advance(1000);
-         },
-         false},
-    };
-    for (const auto &row : rows) {
-        SCOPED_TRACE(&row - rows);
-        window.stuck = false;
-        form.Move(row.from.x, row.from.y);
+    const platform::Point set{form.Left(), form.Top()}, dragged{3000, 600};
+    const auto second = [] { Desktop().Advance(1000); };
+    const auto comes_back = [&](platform::Point from, const std::function<void()> &event) {
+        form.Move(from.x, from.y);
         window.displaced = {60, -20};
-        window.stuck = row.stuck;
-        const platform::Point moved{row.from.x + 60 * 15, row.from.y - 20 * 15};
-        EXPECT_EQ((platform::Point{form.Left(), form.Top()}), moved);
-        Desktop().told.clear();
-        row.event();
-        EXPECT_EQ((platform::Point{form.Left(), form.Top()}), row.comes ? row.from : moved);
-        EXPECT_EQ(std::ranges::count(Desktop().told, Told_Change{"", platform::Aspect::Bounds}),
-                  row.comes || row.stuck ? 1 : 0);
-    }
+        EXPECT_TRUE(form.Left() == from.x + 900 && form.Top() == from.y - 300);
+        event();
+        return platform::Point{form.Left(), form.Top()} == from;
+    };
+    EXPECT_TRUE(comes_back(set, second) && comes_back(dragged, second));
+    EXPECT_TRUE(comes_back(dragged, [] { Desktop().Say(Broadcast::Display_Changed); }));
+    EXPECT_TRUE(comes_back(set, [this] { form.Redraw(); }));
+    EXPECT_FALSE(comes_back({-90000, 600}, second)) << "its monitor has gone";
+    window.stuck = true;
+    Desktop().told.clear();
+    EXPECT_FALSE(comes_back(set, [] { Desktop().Advance(9000); }));
+    EXPECT_EQ(Desktop().told.size(), 2U) << "its own move, and one try to bring it back";
+    window.stuck = false;
+    Press(form, form.Which_Month_Lbl);
+    EXPECT_FALSE(comes_back(dragged, second)) << "while it is dragged";
 }
 
 TEST_F(Lifecycle, what_happens_under_an_alert_holds_after_it) {
@@ -157,10 +140,14 @@ TEST_F(Lifecycle, ends_when_it_is_asked_to_and_when_the_session_is_over) {
     for (const Broadcast say :
          {Broadcast::Close_Request, Broadcast::Close_Request, Broadcast::Session_Over}) {
         Desktop().loop_ended = false;
+        Fakes().wallpaper_ordered = true; // which the session's end and the program's wait for
         Desktop().Say(say);
         EXPECT_EQ(Desktop().loop_ended, say == Broadcast::Session_Over || !unsaved);
+        EXPECT_EQ(Fakes().wallpaper_ordered, say != Broadcast::Session_Over);
         unsaved = !unsaved;
     }
+    Fakes().wallpaper_ordered = true;
+    EXPECT_TRUE(Run_Program() == 0 && !Fakes().wallpaper_ordered);
 }
 
 } // namespace

@@ -1,5 +1,4 @@
 // What the calendar takes from a theme pack, and when.
-#include "app/program.h"
 #include "tests/calendar/calendar_test.h"
 #include "themes/theme_pack.h"
 
@@ -55,14 +54,6 @@ TEST_F(Themes, A_Pack_Rules_Wallpaper_Style_And_Position) {
     EXPECT_EQ(Fakes().wallpapers.size(), 3U);
     form.Preview_Wallpaper_Stuff("Default", 3);
     EXPECT_EQ(Fakes().wallpapers.back(), In_Pack("3.bmp"));
-}
-
-TEST_F(Themes, The_End_Waits_For_The_Wallpaper) {
-    Start();
-    Desktop().Say(platform::Broadcast::Session_Over);
-    EXPECT_FALSE(Fakes().wallpaper_ordered);
-    EXPECT_EQ(Run_Program(), 0);
-    EXPECT_TRUE(Fakes().wallpapers.size() == 2 && !Fakes().wallpaper_ordered);
 }
 
 TEST_F(Themes, A_Faulty_Pack_Is_Told_Once_A_Day_And_The_Calendar_Lives) {

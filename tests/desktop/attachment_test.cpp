@@ -116,15 +116,6 @@ TEST_F(Attachment, Region_Is_What_Is_Seen) {
         EXPECT_EQ(tops.size(), weeks);
         Is_Only_Its_Items(program);
     }
-    RECT before{}, after{};
-    GetWindowRect(program.Calendar(), &before);
-    for (const int away : {30, 0}) { // as the shell's window moves when monitors come and go
-        SetWindowPos(FindWindowA("Progman", nullptr), nullptr, away, away, 0, 0,
-                     SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOCOPYBITS);
-        EXPECT_TRUE(Wait_Until([&] {
-            return GetWindowRect(program.Calendar(), &after) && EqualRect(&before, &after);
-        })) << "the calendar stays beside its place";
-    }
     for (const std::size_t items : {1U, 41U}) {
         program.Press(VK_F12);
         ASSERT_TRUE(Becomes(items, [&] { return program.Items().size(); }));
