@@ -6,9 +6,12 @@
 #include "platform/joined.h"
 #include "themes/theme_pack.h"
 
+#include <optional>
 #include <string>
 
 namespace {
+
+constexpr std::int16_t stretched = 2; ///< display mode
 
 /// A part of a month's value text as a number. Throws Conversion_Error that says where it stands.
 std::int16_t Theme_Number(const std::string &text, const char *what, const std::string &pack,
@@ -37,17 +40,34 @@ void Main_Frm::Preview_Wallpaper_Stuff(const std::string &pack, std::int16_t mon
     const std::string details = Get_Paper_Details(month, pack);
     if (details == Theme_Error)
         return;
+    // What this month does not have is the user's own, and not that of the month or pack before. A bad number
+    // keeps nothing else of the pack away, and is told last.
+    std::optional<Conversion_Error> fault;
+    const auto number = [&](const std::string &text, const char *what) -> std::optional<std::int16_t> {
+        try {
+            return Theme_Number(text, what, pack, month);
+        } catch (const Conversion_Error &error) {
+            if (!fault)
+                fault = error;
+            return std::nullopt;
+        }
+    };
+    Theme_BoxStyle.reset();
+    Theme_Pos.reset();
     if (Cur_Settings.Use_Theme_Style == 1)
-        Theme_BoxStyle = Theme_Number(Get_Paper_BoxStyle(details), "box style", pack, month);
+        Theme_BoxStyle = number(Get_Paper_BoxStyle(details), "box style");
     if (Cur_Settings.Use_Theme_Pos == 1)
-        Theme_Pos = Theme_Number(Get_Paper_Pos(details), "position", pack, month);
+        Theme_Pos = number(Get_Paper_Pos(details), "position");
     const std::string path = Get_Paper_Path(month, pack);
     if (path == Theme_Error)
         return;
-    Set_Display_Mode_Wallpaper(
-        path, Cur_Settings.Use_Other_Display_Mode
-                  ? Cur_Settings.Other_Display_Mode
-                  : Theme_Number(Get_Paper_DisplayMode(details), "display mode", pack, month));
+    // As every number that is no mode, a bad one is stretched.
+    const std::optional<std::int16_t> mode = Cur_Settings.Use_Other_Display_Mode
+                                                 ? Cur_Settings.Other_Display_Mode
+                                                 : number(Get_Paper_DisplayMode(details), "display mode");
+    Set_Display_Mode_Wallpaper(path, mode.value_or(stretched));
+    if (fault)
+        throw *fault;
 }
 
 // As long as no pack has told its own, the user's choice is the nearest.

@@ -37,6 +37,7 @@ struct Settings {
     std::int16_t Auto_Compact = 0;
     std::int16_t Tooltips = 1;
     std::int16_t Settings_Tab = 4;
+    friend bool operator==(const Settings &, const Settings &) = default;
 };
 
 /// The program-wide settings, which every window reads directly.

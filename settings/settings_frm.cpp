@@ -58,6 +58,7 @@ Settings_Frm::Settings_Frm(Main_Frm &calendar)
     };
     Transfer.Data_File_Replaced = [this] { Events.Reload(); };
     Transfer.Configuration_Imported = [this] { Form_Unload(); };
+    Transfer.Configuration_Partly_Imported = [this] { Load_Pages(); };
     On_Close = [this] { Form_Unload(); };
     On_Window_Lost = [this] { Form_Unload(); };
     On_Dots_Changed = [this] { Lay_Out(); };
@@ -80,12 +81,23 @@ void Settings_Frm::Form_Load() {
 }
 
 void Settings_Frm::Open() {
+    Load_Pages();
+    Place_Beside_Calendar();
+    Set_Focus(TabStrip1);
+    Show();
+    open_ = true;
+    calendar_.Set_Blocked_By(this);
+}
+
+void Settings_Frm::Load_Pages() {
     // What cannot be shown of one page is told, and keeps nobody from the others.
     const std::initializer_list<Handler<>> steps = {
         [this] { Events.Write_Month_Titles(); },
         [this] { Load_Settings(); },
         [this] { Events.Get_Stats(); },
         [this] {
+            if (open_)
+                return;
             Resize(dialog_width, tabs.Bottom() + below_tabs);
             Position_Frames();
             Select_Stored_Tab();
@@ -105,11 +117,6 @@ void Settings_Frm::Open() {
     };
     for (const auto &step : steps)
         Run_Guarded(step);
-    Place_Beside_Calendar();
-    Set_Focus(TabStrip1);
-    Show();
-    open_ = true;
-    calendar_.Set_Blocked_By(this);
 }
 
 /// The pages measure their texts, which are a little wider or narrower at other dots per inch.

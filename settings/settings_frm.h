@@ -83,6 +83,7 @@ public:
 private:
     void Lay_Out();
     void Open();
+    void Load_Pages();
     void Load_Settings();
     void Load_General_Settings();
     void Position_Frames();

@@ -23,10 +23,13 @@ namespace {
 constexpr int group_bottom = 8 * 15;
 constexpr int options_width = 118 * 15; ///< column left of the miniature
 constexpr int hint_lines = 4;
-constexpr int coordinate_lines = 2;
+constexpr int manual_lines = 4;
 constexpr int option_mark = 18 * 15; ///< before the caption
 constexpr int marker_size = 7 * 15;
 constexpr int last_cell = 2;
+
+constexpr const char *place_hint = "Click a place on the screen, or choose it with the arrow keys.";
+constexpr const char *theme_hint = "The theme pack decides; see Wallpaper.";
 
 /// The position codes as they lie on the screen.
 constexpr std::int16_t places[last_cell + 1][last_cell + 1] = {{6, 5, 4}, {9, 3, 8}, {2, 1, 0}};
@@ -51,13 +54,13 @@ Style_Page::Style_Page(Form &dialog, Frame &frame, Main_Frm &calendar)
       Style2_Opt(dialog, "Style2_Opt", Box_Style_Name(1)), Backdrop1_Pic(dialog, "Backdrop1_Pic"),
       Backdrop2_Pic(dialog, "Backdrop2_Pic"), Example1_Lbl(dialog, "Example1_Lbl", " 12"),
       Example2_Lbl(dialog, "Example2_Lbl", "Event"), Example3_Lbl(dialog, "Example3_Lbl", " 12"),
-      Example4_Lbl(dialog, "Example4_Lbl", "Event"), Position_Fra(dialog, "Position_Fra", "Position"),
-      Pos_Set_Opt(dialog, "Pos_Set_Opt", "&Set position"),
-      Pos_Hint_Lbl(dialog, "Pos_Hint_Lbl", "Click a place on the screen, or choose it with the arrow keys."),
+      Example4_Lbl(dialog, "Example4_Lbl", "Event"), Style_Theme_Lbl(dialog, "Style_Theme_Lbl", theme_hint),
+      Position_Fra(dialog, "Position_Fra", "Position"), Pos_Set_Opt(dialog, "Pos_Set_Opt", "&Set position"),
+      Pos_Hint_Lbl(dialog, "Pos_Hint_Lbl", place_hint),
       Pos_Manual_Opt(dialog, "Pos_Manual_Opt", "&Manual position"), Manual_Lbl(dialog, "Manual_Lbl"),
       Pos_Preview_Img(dialog, "Pos_Preview_Img"), Position_Lbl(dialog, "Position_Lbl"), calendar_(calendar) {
     frame.Hold(Style_Fra, Position_Lbl);
-    Style_Fra.Hold(Style1_Opt, Example4_Lbl);
+    Style_Fra.Hold(Style1_Opt, Style_Theme_Lbl);
     Position_Fra.Hold(Pos_Set_Opt, Position_Lbl);
     Wire_Examples();
     Style1_Opt.On_Click = [this] { Choose_Style(Style1_Opt); };
@@ -71,6 +74,7 @@ Style_Page::Style_Page(Form &dialog, Frame &frame, Main_Frm &calendar)
             Click_At(at);
     };
     Pos_Preview_Img.On_Key_Down = [this](const platform::Input_Event &event) { Key_Over_Miniature(event); };
+    Style_Theme_Lbl.Set_Visible(false);
     Position_Lbl.Set_Painted();
     Position_Lbl.Set_Transparent(true);
     Position_Lbl.Set_Align(platform::Text_Align::Centre, true);
@@ -93,16 +97,22 @@ void Style_Page::Load_Settings() {
     (Cur_Settings.Style == 0 ? Style1_Opt : Style2_Opt).Set_Checked(true);
     (Cur_Settings.Alignment == Manual_Position ? Pos_Manual_Opt : Pos_Set_Opt).Set_Checked(true);
     set_position_ = Cell_Of(Cur_Settings.Alignment).x == -1 ? std::int16_t{0} : Cur_Settings.Alignment;
-    Manual_Lbl.Set_Caption("X: " + std::to_string(Cur_Settings.Manual_PosX) + " twips\n" +
-                           "Y: " + std::to_string(Cur_Settings.Manual_PosY) + " twips");
+    const auto pixels = [](int twips) { return std::to_string(Twips_To_Pixels(twips)) + " pixels\n"; };
+    Manual_Lbl.Set_Caption("X: " + pixels(Cur_Settings.Manual_PosX) +
+                           "Y: " + pixels(Cur_Settings.Manual_PosY) + "Drag the calendar by its title.");
     Style_Preview();
     Show_Position();
 }
 
 void Style_Page::Set_Theme(const Theme_Look &look) {
     theme_ = look;
-    Pos_Hint_Lbl.Set_Enabled(!look.position);
-    Manual_Lbl.Set_Enabled(!look.position);
+    for (Control *control : std::initializer_list<Control *>{&Style1_Opt, &Style2_Opt, &Example1_Lbl,
+                                                             &Example2_Lbl, &Example3_Lbl, &Example4_Lbl})
+        control->Set_Enabled(!look.rules_style);
+    for (Control *control : std::initializer_list<Control *>{&Pos_Set_Opt, &Pos_Manual_Opt, &Manual_Lbl})
+        control->Set_Enabled(!look.rules_position);
+    Style_Theme_Lbl.Set_Visible(look.rules_style);
+    Pos_Hint_Lbl.Set_Caption(look.rules_position ? theme_hint : place_hint);
     Style_Preview();
     Show_Position();
 }
@@ -203,7 +213,7 @@ void Style_Page::Paint_Miniature(platform::Canvas &canvas) {
     for (int row = 0; row <= last_cell; ++row) {
         for (int column = 0; column <= last_cell; ++column) {
             const bool marked = chosen == Point{column, row};
-            if (theme_.position && !marked)
+            if (theme_.rules_position && !marked)
                 continue; // not to be chosen now
             const Rect cell = miniature.Cell(column, row, size);
             const int side = marked ? marker_size + 4 * one_pixel : marker_size;
@@ -229,17 +239,18 @@ void Style_Page::Lay_Out() {
     };
     example(styles[0], Style1_Opt, Backdrop1_Pic, Example1_Lbl, Example2_Lbl, margin);
     example(styles[1], Style2_Opt, Backdrop2_Pic, Example3_Lbl, Example4_Lbl, column_width);
-    Style_Fra.Move({0, 0, page_width, Backdrop2_Pic.Bounds().Bottom() + group_bottom});
+    const int line = platform::Line_Height(Manual_Lbl.Font());
+    Style_Theme_Lbl.Move({margin, Backdrop2_Pic.Bounds().Bottom() + small_gap, inner_width, line});
+    Style_Fra.Move({0, 0, page_width, Style_Theme_Lbl.Bounds().Bottom() + group_bottom});
 
     const int top = Style_Fra.Height() + group_gap;
     Position_Fra.Move({0, top, page_width, page_height - top});
-    const int line = platform::Line_Height(Manual_Lbl.Font());
     const int text_width = options_width - option_mark;
     Pos_Set_Opt.Move({margin, group_top, options_width, check_height});
     Pos_Hint_Lbl.Move({margin + option_mark, group_top + check_height, text_width, hint_lines * line});
     Pos_Manual_Opt.Move({margin, Pos_Hint_Lbl.Bounds().Bottom() + gap, options_width, check_height});
     Manual_Lbl.Move(
-        {margin + option_mark, Pos_Manual_Opt.Bounds().Bottom(), text_width, coordinate_lines * line});
+        {margin + option_mark, Pos_Manual_Opt.Bounds().Bottom(), text_width, manual_lines * line});
 
     const int left = margin + options_width + gap;
     const platform::Size room{page_width - left - margin,

@@ -8,8 +8,10 @@
 #include <cstdint>
 #include <optional>
 
-/// What a theme pack decides in place of the page.
+/// What a theme pack decides this month in place of the page.
 struct Theme_Look {
+    bool rules_style = false; ///< also where the pack has no style for the month
+    bool rules_position = false;
     std::optional<std::int16_t> style;
     std::optional<std::int16_t> position;
     platform::Picture picture; ///< the wallpaper; none: the desktop's own colour is shown
@@ -23,8 +25,7 @@ public:
 
     /// Shows style and position of the settings. A position that is no code is shown as the first one.
     void Load_Settings();
-    /// Shows what a theme pack decides. Who says so enables and disables the choices, too; the miniature
-    /// goes with Pos_Set_Opt.
+    /// Shows what a theme pack decides, and locks the choices that it rules.
     void Set_Theme(const Theme_Look &look);
     /// Places the controls, also after a change of the dots per inch.
     void Lay_Out();
@@ -51,9 +52,10 @@ public:
     Label Example2_Lbl; ///< the text in it
     Label Example3_Lbl; ///< the same in style 2
     Label Example4_Lbl;
+    Label Style_Theme_Lbl; ///< says why the styles are locked
     Frame Position_Fra;
     Option_Button Pos_Set_Opt;
-    Label Pos_Hint_Lbl;
+    Label Pos_Hint_Lbl; ///< says how a place is chosen, or why none can be
     Option_Button Pos_Manual_Opt;
     Label Manual_Lbl;            ///< the coordinates of the manual position
     Picture_Box Pos_Preview_Img; ///< the miniature

@@ -55,6 +55,7 @@ Transfer_Page::Transfer_Page(Form &dialog, Frame &frame, Main_Frm &calendar)
     importer_.Data_File_Replaced = [this] { Data_File_Replaced(); };
     importer_.Show_Hourglass = [this] { dialog_.Set_Pointer(platform::Pointer_Shape::Hourglass); };
     importer_.Configuration_Changed = [this] { Configuration_Imported(); };
+    importer_.Configuration_Partly_Changed = [this] { Configuration_Partly_Imported(); };
     for (Progress *progress : {&importer_.Work, &progress_}) {
         progress->On_Show = [this](int percent) { Show_Progress(percent); };
         progress->On_End = [this] { End_Progress(); };

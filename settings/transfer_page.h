@@ -24,6 +24,8 @@ public:
     platform::Callback<void()> Data_File_Replaced;
     /// Closes the dialog, which does not show the settings any more.
     platform::Callback<void()> Configuration_Imported;
+    /// Shows the settings anew: a part of a configuration was imported.
+    platform::Callback<void()> Configuration_Partly_Imported;
 
     void Export_Btn_Click(std::int16_t index);
     void Import_Btn_Click(std::int16_t index);

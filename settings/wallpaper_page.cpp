@@ -73,10 +73,10 @@ void Wallpaper_Page::Wire_Events() {
     Other_Display_Chk.On_Click = [this] { Other_Display_Chk_Click(); };
     Preview_Btn.On_Click = [this] { Preview_Btn_Click(); };
     preview_.On_End = [this](bool pack_failed) { Preview_Ended(pack_failed); };
-    Load_Timer.On_Timer = [this] { Load_Shown_Picture(); };
+    Load_Timer.On_Timer = [this] { Load_Pictures(); };
     // A picture that nobody could see was not loaded: a dialog that opens on another page is there sooner.
     Theme_Preview_Img.On_Paint = [this](platform::Canvas &) {
-        if (pending_)
+        if (shown_.pending)
             Load_Timer.Set_Enabled(true);
     };
 }
@@ -136,7 +136,6 @@ void Wallpaper_Page::Get_Themes() {
     Theme_Style_Chk.Set_Checked(Cur_Settings.Use_Theme_Style != 0);
     Theme_Pos_Chk.Set_Checked(Cur_Settings.Use_Theme_Pos != 0);
     Enable_Choices(Theme_Use_Chk.Checked());
-    Enable_As_Ruled();
     Hand_Over_Look();
     Other_Display_Chk_Click();
 }
@@ -163,13 +162,14 @@ void Wallpaper_Page::Enable_Choices(bool enabled) {
 
 void Wallpaper_Page::Clear_Details() {
     details_.clear();
+    todays_details_.clear();
     Theme_Style_Lbl.Set_Caption("Box Style:");
     Theme_Pos_Lbl.Set_Caption("Position:");
     Theme_Display_Lbl.Set_Caption("Display:");
 }
 
 void Wallpaper_Page::Packs_Cbo_Click() {
-    Forget_Picture(); // it is loaded anew, also if it was this one
+    Forget_Pictures(); // they are loaded anew, also if they were these
     Clear_Details();
     Check_Vaild();
     Preview_Sli.Set_Value(Today().month);
@@ -210,7 +210,10 @@ void Wallpaper_Page::Preview_Sli_Change() {
     }
     // Once for all three: a pack that was deleted meanwhile is told once.
     details_ = Main_Frm::Get_Paper_Details(Month(), pack);
-    if (details_ == Theme_Error)
+    const std::int16_t today = Today().month;
+    todays_details_ =
+        details_ == Theme_Error || Month() == today ? details_ : Main_Frm::Get_Paper_Details(today, pack);
+    if (todays_details_ == Theme_Error)
         return Drop_Pack(pack);
     Get_Theme_Display();
     Get_Theme_Style();
@@ -239,67 +242,81 @@ void Wallpaper_Page::Drop_Pack(const std::string &pack) {
     if (Cur_Settings.Use_Themes == 0)
         Theme_Use_Chk.Set_Checked(false);
     Enable_Choices(Theme_Use_Chk.Checked());
-    Enable_As_Ruled();
     Preview_Sli_Change();
 }
 
 void Wallpaper_Page::Get_Theme_Picture() {
     const std::string pack = Packs_Cbo.Text();
-    const std::string path = pack.empty() ? std::string() : Picture_File(pack, Month());
-    if (path.empty())
-        return Forget_Picture();
-    if (std::exchange(picture_path_, path) == path)
-        return;
-    pending_ = true;
-    Loading_Lbl.Set_Visible(true);
-    Load_Timer.Set_Enabled(true);
+    if (pack.empty())
+        return Forget_Pictures();
+    const auto want = [&pack](Month_Picture &picture, int month) {
+        if (std::string path = Picture_File(pack, month); picture.path != path)
+            picture = {std::move(path), true, std::move(picture.picture)};
+    };
+    want(shown_, Month());
+    want(todays_, Today().month);
+    Loading_Lbl.Set_Visible(shown_.pending);
+    Load_Timer.Set_Enabled(shown_.pending || todays_.pending);
 }
 
-void Wallpaper_Page::Forget_Picture() {
-    picture_path_.clear();
-    pending_ = false;
-    Loading_Lbl.Set_Visible(false);
-    Take_Picture({});
+void Wallpaper_Page::Forget_Pictures() {
+    shown_ = {};
+    todays_ = {};
+    Show_Picture();
 }
 
-void Wallpaper_Page::Load_Shown_Picture() {
-    Load_Timer.Set_Enabled(false);
-    const bool seen = dialog_.Visible() && platform::Is_Shown(dialog_.Model(), Theme_Preview_Img.State());
-    if (!pending_ || !(seen || Theme_Use_Chk.Checked()))
-        return;
-    std::string failure;
-    platform::Picture picture;
+void Wallpaper_Page::Show_Picture() {
+    Loading_Lbl.Set_Visible(shown_.pending);
+    Theme_Preview_Img.Set_Picture(shown_.picture);
+    Hand_Over_Look();
+}
+
+/// Returns why the picture could not be loaded; empty if it was. Then it is none.
+std::string Wallpaper_Page::Load(Month_Picture &wanted) const {
+    wanted.pending = false;
+    for (const Month_Picture *other : {&shown_, &todays_}) {
+        if (other->path != wanted.path || other->pending || other->picture.width == 0 || other == &wanted)
+            continue;
+        wanted.picture = other->picture;
+        return {};
+    }
     try {
         const platform::Rect box = Twips_To_Pixels(Theme_Preview_Img.Bounds());
-        picture = Thumbnail(platform::Load_Picture(picture_path_), box.width, box.height);
+        wanted.picture = Thumbnail(platform::Load_Picture(wanted.path), box.width, box.height);
     } catch (const platform::Picture_Error &error) {
-        // Who is on another page is told when the picture would be seen.
-        if (!seen)
-            return;
-        failure = error.what();
+        wanted.picture = {};
+        return error.what();
     }
-    pending_ = false;
-    Loading_Lbl.Set_Visible(false);
-    Take_Picture(std::move(picture));
+    return {};
+}
+
+void Wallpaper_Page::Load_Pictures() {
+    Load_Timer.Set_Enabled(false);
+    const bool seen = dialog_.Visible() && platform::Is_Shown(dialog_.Model(), Theme_Preview_Img.State());
+    std::string failure;
+    if (shown_.pending && seen)
+        failure = Load(shown_);
+    // A failure is told where the picture would be seen in full.
+    if (todays_.pending && Theme_Use_Chk.Checked())
+        Load(todays_);
+    Show_Picture();
     if (!failure.empty())
         platform::Message_Box(failure, "Vellatro", platform::Box_Icon::Stop);
 }
 
-void Wallpaper_Page::Take_Picture(platform::Picture picture) {
-    picture_ = std::move(picture);
-    Theme_Preview_Img.Set_Picture(picture_);
-    Hand_Over_Look();
-}
-
+// Both boxes are ticked in the settings of a first run. While no theme is in use nothing replaces the user's
+// own style and position, so their choice is free.
 Style_Page::Theme_Look Wallpaper_Page::Look() const {
     Style_Page::Theme_Look look;
-    if (!Theme_Use_Chk.Checked() || Packs_Cbo.Text().empty())
+    if (!Theme_Use_Chk.Checked())
         return look;
-    if (Theme_Style_Chk.Checked())
-        look.style = Int16_Of(Get_Paper_BoxStyle(details_));
-    if (Theme_Pos_Chk.Checked())
-        look.position = Int16_Of(Get_Paper_Pos(details_));
-    look.picture = picture_;
+    look.rules_style = Theme_Style_Chk.Checked();
+    look.rules_position = Theme_Pos_Chk.Checked();
+    if (look.rules_style)
+        look.style = Int16_Of(Get_Paper_BoxStyle(todays_details_));
+    if (look.rules_position)
+        look.position = Int16_Of(Get_Paper_Pos(todays_details_));
+    look.picture = todays_.picture;
     return look;
 }
 
@@ -318,41 +335,17 @@ void Wallpaper_Page::Theme_Use_Chk_Click() {
         Packs_Cbo_Click();
     }
     Enable_Choices(Theme_Use_Chk.Checked());
-    Enable_As_Ruled();
     Preview_Sli_Change();
     // The miniature screen may need a picture that has not been loaded yet.
-    Load_Timer.Set_Enabled(pending_);
+    Load_Timer.Set_Enabled(shown_.pending || todays_.pending);
 }
 
 void Wallpaper_Page::Theme_Style_Chk_Click() {
     Hand_Over_Look();
-    Enable_Styles(!Theme_Style_Chk.Checked());
 }
 
 void Wallpaper_Page::Theme_Pos_Chk_Click() {
-    Enable_Positions(!Theme_Pos_Chk.Checked());
     Hand_Over_Look();
-}
-
-void Wallpaper_Page::Enable_Styles(bool enabled) {
-    Style_Page &page = style_page_;
-    for (Label *example : {&page.Example1_Lbl, &page.Example2_Lbl, &page.Example3_Lbl, &page.Example4_Lbl})
-        example->Set_Enabled(enabled);
-    page.Style1_Opt.Set_Enabled(enabled);
-    page.Style2_Opt.Set_Enabled(enabled);
-}
-
-void Wallpaper_Page::Enable_Positions(bool enabled) {
-    style_page_.Pos_Set_Opt.Set_Enabled(enabled);
-    style_page_.Pos_Manual_Opt.Set_Enabled(enabled);
-}
-
-// Both boxes are ticked in the settings of a first run. While no theme is in use nothing replaces the user's
-// own style and position, so their choice is free until a box is clicked.
-void Wallpaper_Page::Enable_As_Ruled() {
-    const bool in_use = Theme_Use_Chk.Checked();
-    Enable_Styles(!in_use || !Theme_Style_Chk.Checked());
-    Enable_Positions(!in_use || !Theme_Pos_Chk.Checked());
 }
 
 void Wallpaper_Page::Other_Display_Chk_Click() {

@@ -33,7 +33,7 @@ public:
     bool End_Preview();
     /// The settings with what this page and that of style and position show.
     Settings Choices() const;
-    /// What the selected pack makes of the calendar in the month of the slider, as far as it is to be used.
+    /// What the selected pack makes of the calendar this month, as far as it is to be used.
     Style_Page::Theme_Look Look() const;
 
     void Packs_Cbo_Click();
@@ -42,8 +42,9 @@ public:
     void Check_Vaild();
     void Preview_Sli_Change();
     void Preview_Sli_Scroll();
-    /// Has the picture of the slider's month loaded as soon as the page can be seen, or the miniature screen
-    /// of the other page needs it. One that cannot be loaded is told once for each choice.
+    /// Has the picture of the slider's month loaded as soon as the page can be seen, and that of today's
+    /// month as soon as the miniature screen of the other page needs it. A picture that is to be seen here
+    /// and cannot be loaded is told once for each choice.
     void Get_Theme_Picture();
     void Get_Theme_Display();
     void Get_Theme_Style();
@@ -79,23 +80,27 @@ private:
     void Enable_Choices(bool enabled);
     void Show_Month_Name();
     void Clear_Details();
-    void Forget_Picture();
-    void Load_Shown_Picture();
-    void Take_Picture(platform::Picture picture);
+    /// A month's picture of a pack, no larger than needed, which is loaded when somebody can see it.
+    struct Month_Picture {
+        std::string path; ///< empty: there is none
+        bool pending = false;
+        platform::Picture picture;
+    };
+    void Forget_Pictures();
+    void Show_Picture();
+    void Load_Pictures();
+    std::string Load(Month_Picture &wanted) const;
     void Drop_Pack(const std::string &pack);
     void Preview_Ended(bool pack_failed);
     std::int16_t Month() const { return static_cast<std::int16_t>(Preview_Sli.Value()); }
-    void Enable_Styles(bool enabled);
-    void Enable_Positions(bool enabled);
-    void Enable_As_Ruled();
     void Hand_Over_Look();
 
     Form &dialog_;
     Style_Page &style_page_;
-    std::string details_;       ///< the value text of the selected pack and month
-    std::string picture_path_;  ///< of the picture that is shown or to be loaded, empty: none
-    bool pending_ = false;      ///< that picture has not been loaded yet
-    platform::Picture picture_; ///< that is shown, no larger than needed for that
-    Timer Load_Timer{1};        ///< once: after what is on the screen has been painted
+    std::string details_;        ///< the value text of the selected pack and month
+    std::string todays_details_; ///< that of today's month
+    Month_Picture shown_;
+    Month_Picture todays_;
+    Timer Load_Timer{1}; ///< once: after what is on the screen has been painted
     Wallpaper_Preview preview_;
 };

@@ -7,6 +7,7 @@
 #include "platform/joined.h"
 #include "platform/locale.h"
 #include "platform/message_box.h"
+#include "toolkit/guard.h"
 #include "transfer/configuration.h"
 
 #include <algorithm>
@@ -171,15 +172,27 @@ void Importer::Merge_Imported(const std::vector<Sort_Entry> &staged) {
 }
 
 void Importer::Import_Config() {
+    const Settings before = Cur_Settings;
+    bool imported = false;
     try {
         if (!Ask_File("Import Configuration File", "Configuration File (*.ini)|*.ini", false))
             return;
         Show_Hourglass();
         Import_Configuration(platform::Read_File(dialog_.FileName));
-        Apply_Configuration();
+        imported = true;
+        calendar_.Get_Wallpaper_Stuff(Cur_Settings.Pack_Name);
+        Redraw_Configured();
     } catch (const std::exception &) {
         Work.End();
         Tell("Error when importing configuration from file.", platform::Box_Icon::Exclamation);
+        if (Cur_Settings == before)
+            return;
+        // What came before the error stays. The calendar and the dialog follow it; else the next OK would put
+        // the old settings back.
+        if (!imported)
+            Run_Guarded([this] { calendar_.Get_Wallpaper_Stuff(Cur_Settings.Pack_Name); });
+        Run_Guarded([this] { Redraw_Configured(); });
+        Configuration_Partly_Changed();
         return;
     }
     Work.End();
@@ -187,8 +200,7 @@ void Importer::Import_Config() {
     Configuration_Changed();
 }
 
-void Importer::Apply_Configuration() {
-    calendar_.Get_Wallpaper_Stuff(Cur_Settings.Pack_Name);
+void Importer::Redraw_Configured() {
     calendar_.Which_Style(calendar_.Effective_Style());
     calendar_.Redraw();
     if (!calendar_.Compacted)

@@ -48,6 +48,8 @@ public:
     platform::Callback<void()> Show_Hourglass;
     /// The settings are not what the dialog shows any more: it is to be closed.
     platform::Callback<void()> Configuration_Changed;
+    /// The same, but only a part was imported: the dialog is to stay, and to show the settings.
+    platform::Callback<void()> Configuration_Partly_Changed;
 
     static std::string Backup_File();
 
@@ -55,7 +57,7 @@ private:
     bool Ask_File(const char *title, const char *filter, bool not_own_file);
     void Read_Events(const std::string &bytes, std::vector<Sort_Entry> &staged);
     void Merge_Imported(const std::vector<Sort_Entry> &staged);
-    void Apply_Configuration();
+    void Redraw_Configured();
     bool May_Replace() const;
 
     Main_Frm &calendar_;

@@ -59,25 +59,33 @@ TEST_F(Themes, A_Pack_Rules_Wallpaper_Style_And_Position) {
 TEST_F(Themes, A_Faulty_Pack_Is_Told_Once_A_Day_And_The_Calendar_Lives) {
     const std::string number = "\", but must be a whole number from -32768 to 32767.";
     const std::string in = "In " + In_Pack("settings.ini") + " the ";
-    const std::pair<const char *, std::string> cases[] = {
-        {"", in + "box style of month 3 is \"" + number},
-        {"3=1-32768-1", in + "position of month 3 is \"32768" + number},
-        {"3=1-1", in + "display mode of month 3 is \"" + number},
-        {"3=1-1-1", In_Pack("3.jpg") + " cannot be loaded"}};
+    const struct {
+        const char *bytes;
+        std::string text;
+        int style, position; ///< the user's own, 1 and 8, where the pack has none
+    } cases[] = {{"", in + "box style of month 3 is \"" + number, 1, 8},
+                 {"3=0-32768-1", in + "position of month 3 is \"32768" + number, 0, 8},
+                 {"3=x-1", in + "box style of month 3 is \"x" + number, 1, 1},
+                 {"3=0-2-1", In_Pack("3.jpg") + " cannot be loaded", 0, 2}};
+    Stored("Alignment") = "8";
     Fakes().pictures.erase(In_Pack("3.jpg"));
     Fakes().files[In_Pack("3.bmp")] = "made before";
-    for (const auto &[bytes, text] : cases) {
+    for (const auto &[bytes, text, style, position] : cases) {
+        SCOPED_TRACE(text);
         Fakes().files[In_Pack("settings.ini")] = bytes;
         if (text.find("cannot") != std::string::npos)
             Fakes().files.erase(In_Pack("3.bmp"));
         ++Fakes().now.day;
         Fakes().Expect_Box(text, platform::Box_Answer::Ok, [] { Desktop().Advance(5000); });
+        form.Theme_BoxStyle = form.Theme_Pos = 6; // of another pack
         if (Fakes().now.day > 6)
             Desktop().Advance(1000);
         else
             Start();
+        EXPECT_EQ(form.Effective_Style(), style);
+        EXPECT_EQ(form.Effective_Position(), position);
     }
-    EXPECT_TRUE(Fakes().wallpapers.empty());
+    EXPECT_EQ(Fakes().wallpapers, Paths(3, In_Pack("3.bmp"))) << "of each month that has a picture";
 }
 
 } // namespace

@@ -83,11 +83,19 @@ TEST_F(Themes_Page, shows_what_the_selected_pack_says) {
             EXPECT_EQ(Page().Look().position.has_value(), usable) << march;
         }
     }
+    Use_Themes(false);
+    for (const bool on : {false, true}) // and do so no more while no theme is in use
+        for (Check_Box *box : {&Page().Theme_Style_Chk, &Page().Theme_Pos_Chk})
+            Push(*dialog, *box, on);
+    EXPECT_TRUE(dialog->Style.Style1_Opt.Enabled() && dialog->Style.Pos_Set_Opt.Enabled());
+    Use_Themes(true);
     for (const bool on : {true, false}) { // the theme's choices replace the user's
         for (Check_Box *box : {&Page().Theme_Style_Chk, &Page().Theme_Pos_Chk, &Page().Other_Display_Chk})
             Push(*dialog, *box, on);
         EXPECT_TRUE(dialog->Style.Example4_Lbl.Enabled() != on && dialog->Style.Style1_Opt.Enabled() != on);
         EXPECT_TRUE(dialog->Style.Pos_Set_Opt.Enabled() != on && Page().Display_Cbo.Enabled() == on);
+        EXPECT_EQ(dialog->Style.Style_Theme_Lbl.Visible(), on);
+        EXPECT_EQ(dialog->Style.Pos_Hint_Lbl.Caption() == dialog->Style.Style_Theme_Lbl.Caption(), on);
     }
 }
 
@@ -137,11 +145,14 @@ TEST_F(Themes_Page, loads_only_the_picture_that_is_seen_and_tells_of_a_bad_one_o
         Use_Themes(use);
         Slide(5);
     }
-    EXPECT_EQ(Page().Look().picture.width, 0);
+    EXPECT_EQ(Page().Look().picture.width, 3) << "the other page shows this month, here and below";
+    EXPECT_EQ(Page().Look().position, 3);
     Choose(*dialog, Page().Preview_Sli, 6);
     EXPECT_TRUE(Page().Loading_Lbl.Visible());
     Desktop().Advance(50);
-    EXPECT_TRUE(Page().Look().picture.width == 6 && !Page().Loading_Lbl.Visible());
+    EXPECT_FALSE(Page().Loading_Lbl.Visible());
+    EXPECT_EQ(Page().Look().picture.width, 3);
+    EXPECT_EQ(Fakes().loads, 4) << "March, June, May, which fails, and June";
 }
 
 TEST_F(Themes_Page, a_preview_leaves_all_as_it_was) {

@@ -146,7 +146,7 @@ TEST_F(Importing, takes_a_configuration_over_up_to_an_error) {
     } cases[] = {
         {"\"Tooltips=2\"\r\n\"Unknown=x\"\r\n\"Bar_Time_Format=H, mm\"\r\n\"TaskPos=3\"\r\nStyle=0\n", true,
          "2"},
-        {"Tooltips=0\r\nBar_Date_Format=d Month, yyyy\r\nStyle=1\r\n", false, "0"},
+        {"Tooltips=0\r\nCol_Normal=255\r\nBar_Date_Format=d Month, yyyy\r\nStyle=1\r\n", false, "0"},
         {"Tooltips=2,Tooltips=abc,Style=1", false, "2"},
         {"\"Tooltips=1", false, "2"}};
     for (const auto &[bytes, taken, stored] : cases) {
@@ -158,6 +158,12 @@ TEST_F(Importing, takes_a_configuration_over_up_to_an_error) {
         EXPECT_EQ(form.Settings_Visible(), !taken) << bytes;
         EXPECT_EQ(Stored("Tooltips"), stored) << bytes;
         EXPECT_EQ(Cur_Settings.Style, 0) << bytes;
+        if (taken)
+            continue;
+        EXPECT_EQ(form.Box_Lbl[20].Back_Colour(), 255);
+        EXPECT_EQ(dialog->Which_Tab() - 1, Settings_Frm::transfer_fra);
+        Push(*dialog, dialog->Ok_Btn); // what the pages showed before the import does not come back
+        EXPECT_EQ(Stored("Tooltips"), stored) << bytes;
     }
     EXPECT_EQ(Stored("Alignment") + Stored("Bar Time Format"), "3H, mm");
     EXPECT_EQ(Cur_Settings.Alignment, 3);
