@@ -148,6 +148,7 @@ void Shape_Window(Form_Model &model, const std::vector<Point> &corners) {
 
 void Bring_To_Front(Form_Model &model) {
     Mirror_Of(model);
+    Desktop().front = &model;
 }
 
 void Fill_Rect(Canvas &canvas, const Rect &rect, Colour colour) {
