@@ -38,12 +38,13 @@ void Connect_Editor(Main_Frm &calendar, Edit_Frm &editor) {
     calendar.Open_Editor = [&editor](int index) { editor.Edit_Box(index); };
     calendar.Ask_Unsaved = [&editor] { return editor.Ask_Unsaved(); };
     calendar.Editor_Visible = [&editor] { return editor.Visible(); };
+    calendar.Block_Editor = [&editor](Form *modal) { editor.Set_Blocked_By(modal); };
 }
 
 void Connect_Settings(Main_Frm &calendar, std::unique_ptr<Settings_Frm> &settings) {
     calendar.Open_Settings = [&calendar, &settings] {
         if (settings && settings->Visible())
-            return platform::Bring_To_Front(settings->Model());
+            return settings->Bring_To_Front();
         // A former dialog whose last event still waits for something must not go from under it.
         if (settings && settings->Busy())
             return;

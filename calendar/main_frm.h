@@ -53,6 +53,7 @@ public:
     platform::Callback<void(int index)> Open_Editor; ///< for a day box
     platform::Callback<bool()> Ask_Unsaved; ///< offers unsaved text for saving; false: the user wants to stay
     platform::Callback<bool()> Editor_Visible;
+    platform::Callback<void(Form *modal)> Block_Editor; ///< as Set_Blocked_By does with the calendar
 
     // The settings dialog, likewise.
     platform::Callback<void()> Open_Settings;

@@ -20,8 +20,9 @@ constexpr int small_gap = 4 * 15;
 constexpr int button_width = 75 * 15;
 constexpr int button_height = 23 * 15;
 constexpr int text_width = 370 * 15;
-constexpr int text_lines = 5; ///< room for 200 characters, also for wide ones
+constexpr int text_room = 200; ///< characters that are seen at once, also wide ones
 constexpr int text_frame = 8 * 15;
+constexpr int scroll_bar = 17 * 15;
 constexpr int check_mark = 26 * 15; ///< with its distances from the caption
 constexpr int title_bar = 40 * 15;  ///< with the frame, estimated
 
@@ -120,7 +121,7 @@ bool Edit_Frm::Ask_Unsaved() {
 
 /// The user goes on in the open editor.
 void Edit_Frm::Stay() {
-    platform::Bring_To_Front(Model());
+    Bring_To_Front();
     Set_Focus(Message_Txt);
 }
 
@@ -169,6 +170,10 @@ void Edit_Frm::Lay_Out() {
     platform::Font bold = Message_Txt.Font();
     bold.bold = true;
     Date_Lbl.Set_Font(bold);
+
+    const int wide = std::max(1, platform::Text_Width("W", Message_Txt.Font()));
+    const int in_line = std::max(1, (text_width - text_frame - scroll_bar) / wide);
+    const int text_lines = (text_room + in_line - 1) / in_line;
 
     int top = margin;
     const auto row = [&top](Control &control, int width, int height, int distance) {

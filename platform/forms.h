@@ -114,7 +114,7 @@ enum class Input_Kind : std::uint8_t {
     Key_Down,
     Key_Up,
     Clicked,        ///< a button, check box or option button was pressed (`checked` is its new state), or the
-                    ///< space bar on a painted control
+                    ///< space bar on a painted control; `key` is Esc where that stood for the button
     Text_Changed,   ///< the user changed a native text box or the text of a combo box to `text`
     Selected,       ///< the user chose item `selected` of a combo box, list box or tab strip (of one that was
                     ///< chosen already, too), or let a slider go at that value
@@ -154,6 +154,7 @@ struct Form_Model {
     std::string title;
     Rect bounds; ///< on the screen, twips; of a dialog the client area's size counts
     bool visible = false;
+    bool enabled = true; ///< without this the window of a dialog takes no mouse and no keys
     /// A painted form that appears above all windows and never takes the keyboard. It has no owner: the
     /// calendar may be inside a window of the shell's process, which an owned window would be tied to.
     bool floating = false;

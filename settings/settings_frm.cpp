@@ -51,6 +51,11 @@ Settings_Frm::Settings_Frm(Main_Frm &calendar)
     TabStrip1.On_Click = [this] { TabStrip1_Click(); };
     Ok_Btn.On_Click = [this] { Ok_Btn_Click(); };
     Cancel_Btn.On_Click = [this] { Cancel_Btn_Click(); };
+    Cancel_Btn.On_Escape = [this] {
+        // The page promises that Esc ends its preview.
+        if (!Wallpaper.End_Preview())
+            Cancel_Btn_Click();
+    };
     Apply_Btn.On_Click = [this] { Apply_Btn_Click(); };
     Transfer.Shown_Configuration = [this] { return Shown_Configuration(); };
     Transfer.Show_Staged = [this](std::vector<Sort_Entry> staged) {
@@ -86,7 +91,7 @@ void Settings_Frm::Open() {
     Set_Focus(TabStrip1);
     Show();
     open_ = true;
-    calendar_.Set_Blocked_By(this);
+    Block_Others(this);
 }
 
 void Settings_Frm::Load_Pages() {
@@ -117,6 +122,13 @@ void Settings_Frm::Load_Pages() {
     };
     for (const auto &step : steps)
         Run_Guarded(step);
+}
+
+/// An event that changed elsewhere would leave the list and the counts of the pages stale.
+void Settings_Frm::Block_Others(Form *modal) {
+    calendar_.Set_Blocked_By(modal);
+    if (calendar_.Block_Editor)
+        calendar_.Block_Editor(modal);
 }
 
 /// The pages measure their texts, which are a little wider or narrower at other dots per inch.
@@ -184,9 +196,6 @@ void Settings_Frm::Ok_Btn_Click() {
 }
 
 void Settings_Frm::Cancel_Btn_Click() {
-    // The page promises that Esc ends its preview.
-    if (Wallpaper.End_Preview())
-        return;
     Form_Unload();
 }
 
@@ -208,7 +217,7 @@ void Settings_Frm::Form_Unload() {
     Wallpaper.End_Preview();
     Tooltips.Release();
     General.Set_Watched(false);
-    calendar_.Set_Blocked_By(nullptr);
+    Block_Others(nullptr);
     Cur_Settings.Settings_Tab = Which_Tab();
     Store_Setting("Settings Tab");
     Close();

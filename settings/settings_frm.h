@@ -20,8 +20,8 @@
 #include <string>
 #include <string_view>
 
-/// Modal to the calendar. An object serves one opening, so that nothing of a former one can survive in it;
-/// after its end it must stay until its last event has returned (Busy).
+/// Modal to the calendar and to the editor. An object serves one opening, so that nothing of a former one can
+/// survive in it; after its end it must stay until its last event has returned (Busy).
 class Settings_Frm : public Form {
 public:
     static constexpr int page_count = 8;
@@ -89,6 +89,7 @@ private:
     void Position_Frames();
     void Select_Stored_Tab();
     void Place_Beside_Calendar();
+    void Block_Others(Form *modal);
 
     Main_Frm &calendar_;
     int events_ = 0; ///< that have not returned yet

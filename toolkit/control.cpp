@@ -4,6 +4,7 @@
 #include "platform/line_breaks.h"
 #include "toolkit/form.h"
 #include "toolkit/handler.h"
+#include "toolkit/keys.h"
 #include "toolkit/list_controls.h"
 #include "toolkit/painter.h"
 
@@ -127,6 +128,12 @@ void Button::Set_Default(bool is_default) {
 
 void Button::Set_Cancel(bool is_cancel) {
     Store(state_.is_cancel, is_cancel, Aspect::Look);
+}
+
+void Button::Take(const platform::Input_Event &event) {
+    if (event.key == Key_Escape && On_Escape)
+        return Fire(On_Escape);
+    Control::Take(event);
 }
 
 Check_Box::Check_Box(Form &form, const char *name, const char *caption)

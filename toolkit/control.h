@@ -105,6 +105,11 @@ public:
     Button(Form &form, const char *name, const char *caption = "");
     void Set_Default(bool is_default);
     void Set_Cancel(bool is_cancel);
+    /// Esc, where it stands for the button. Empty: `On_Click` comes then, too.
+    Handler<> On_Escape;
+
+private:
+    void Take(const platform::Input_Event &event) override;
 };
 
 class Check_Box : public Control {

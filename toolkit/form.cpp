@@ -164,6 +164,12 @@ Control *Form::Control_At(platform::Point point) {
 void Form::Set_Blocked_By(Form *modal) {
     modal_ = modal;
     captured_ = nullptr;
+    if (std::exchange(model_.enabled, modal == nullptr) != model_.enabled)
+        Tell(Aspect::Enabled);
+}
+
+void Form::Bring_To_Front() {
+    platform::Bring_To_Front(modal_ == nullptr ? model_ : modal_->model_);
 }
 
 bool Form::Blocked(const Input_Event &event) {
@@ -174,9 +180,10 @@ bool Form::Blocked(const Input_Event &event) {
     case Input_Kind::Double_Click:
     case Input_Kind::Key_Down:
     case Input_Kind::Default_Action:
-        platform::Bring_To_Front(modal_->model_);
+        Bring_To_Front();
         return true;
     case Input_Kind::Close:
+    case Input_Kind::Moved:
     case Input_Kind::Window_Lost:
     case Input_Kind::Focus_Changed:
     case Input_Kind::Capture_Lost:

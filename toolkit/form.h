@@ -51,6 +51,8 @@ public:
     /// Lets another form, which is modal to this one, take all that the user does here: pressing a mouse
     /// button or a key brings it to the front instead. Null ends that.
     void Set_Blocked_By(Form *modal);
+    /// Shows the form, or the one that blocks it, in front of the other windows and gives it the keyboard.
+    void Bring_To_Front();
     /// All controls in paint and tab order.
     const std::vector<Control *> &Controls() const { return controls_; }
     /// Clips the window to these rectangles (twips on the form); also a window that is made later.

@@ -3,6 +3,7 @@
 
 enum Key : int {
     Key_Return = 13,
+    Key_Escape = 27,
     Key_Page_Up = 33,
     Key_Page_Down = 34,
     Key_Home = 36,

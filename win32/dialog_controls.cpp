@@ -106,7 +106,10 @@ void Dialog_Window::Set_Caption(const Control_State &control) {
     if (Window_Text(window) == text)
         return;
     const Updating_Scope updating(updating_);
-    SetWindowTextW(window, text.c_str());
+    if (control.kind == Control_Kind::Text_Box)
+        Set_Box_Text(window, text);
+    else
+        SetWindowTextW(window, text.c_str());
 }
 
 void Dialog_Window::Place_Control(const Control_State &control) {

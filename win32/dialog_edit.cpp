@@ -10,9 +10,6 @@ namespace win32 {
 
 namespace {
 
-/// The system's procedure of edit controls, the same for all of them.
-WNDPROC edit_procedure = nullptr;
-
 /// The clipboard for the length of a scope.
 class Clipboard {
 public:
@@ -39,14 +36,46 @@ private:
     bool open_;
 };
 
-/// How many more characters fit in the place of the selection.
-std::size_t Room(HWND edit) {
+/// The selected characters, from the first one to behind the last one.
+struct Selection {
     DWORD begin = 0;
     DWORD end = 0;
-    SendMessageW(edit, EM_GETSEL, reinterpret_cast<WPARAM>(&begin), reinterpret_cast<LPARAM>(&end));
+};
+
+Selection Selection_Of(HWND edit) {
+    Selection selection;
+    SendMessageW(edit, EM_GETSEL, reinterpret_cast<WPARAM>(&selection.begin),
+                 reinterpret_cast<LPARAM>(&selection.end));
+    return selection;
+}
+
+/// How many more characters fit in the place of the selection.
+std::size_t Room(HWND edit) {
+    const auto [begin, end] = Selection_Of(edit);
     const auto limit = static_cast<std::size_t>(SendMessageW(edit, EM_GETLIMITTEXT, 0, 0));
     const auto kept = static_cast<std::size_t>(GetWindowTextLengthW(edit)) - (end - begin);
     return limit > kept ? limit - kept : 0;
+}
+
+/// Returns the length of the beginning of `text` that fits in `room` and does not end inside a character.
+std::size_t Whole_Characters(std::wstring_view text, std::size_t room) {
+    if (text.size() <= room)
+        return text.size();
+    const bool splits = (text[room] & 0xFC00) == 0xDC00;
+    return room - (splits && room > 0 ? 1 : 0);
+}
+
+/// Puts `text` into the place of the selection. The system breaks a text into lines in a time that grows with
+/// the square of its length, so a long one goes to the end of what is there by pieces. Of those only the last
+/// can be undone.
+void Replace_Selection(HWND edit, std::wstring_view text, bool can_undo) {
+    const auto length = static_cast<DWORD>(GetWindowTextLengthW(edit));
+    const std::size_t most = Selection_Of(edit).end == length ? 2048 : text.size();
+    while (!text.empty()) {
+        const std::wstring piece(text.substr(0, Whole_Characters(text, most)));
+        SendMessageW(edit, EM_REPLACESEL, can_undo ? TRUE : FALSE, reinterpret_cast<LPARAM>(piece.c_str()));
+        text.remove_prefix(piece.size());
+    }
 }
 
 void Paste(HWND edit) {
@@ -54,16 +83,53 @@ void Paste(HWND edit) {
     const std::size_t room = Room(edit);
     if (text.size() > room) {
         MessageBeep(MB_OK);
-        const bool splits = (text[room] & 0xFC00) == 0xDC00;
-        text.resize(room - (splits && room > 0 ? 1 : 0));
+        text.resize(Whole_Characters(text, room));
     }
-    if (!text.empty())
-        SendMessageW(edit, EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(text.c_str()));
+    Replace_Selection(edit, text, true);
+}
+
+bool Has_Style(HWND edit, DWORD style) {
+    return (static_cast<DWORD>(GetWindowLongW(edit, GWL_STYLE)) & style) != 0;
+}
+
+/// Deletes the selection or, without one, the word before the caret with the blanks behind it.
+void Delete_Word(HWND edit) {
+    auto [begin, end] = Selection_Of(edit);
+    if (begin == end) {
+        const std::wstring text = Window_Text(edit).substr(0, end);
+        const std::size_t last = text.find_last_not_of(L" \t");
+        const std::size_t blank = last == std::wstring::npos ? last : text.find_last_of(L" \t", last);
+        begin = blank == std::wstring::npos ? 0 : static_cast<DWORD>(blank) + 1;
+        SendMessageW(edit, EM_SETSEL, begin, static_cast<LPARAM>(end));
+    }
+    if (begin != end)
+        SendMessageW(edit, EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(L""));
+}
+
+/// Does what differs with the keys. Returns whether that was all.
+bool Handle_Key(HWND edit, UINT message, WPARAM wparam) {
+    constexpr WPARAM select_all = 1;     // what Ctrl+A types
+    constexpr WPARAM delete_word = 0x7F; // what Ctrl+Backspace types
+    if (message == WM_KEYDOWN) {
+        const bool is_it = wparam == VK_BACK && GetKeyState(VK_CONTROL) < 0 && GetKeyState(VK_MENU) >= 0;
+        if (is_it && !Has_Style(edit, ES_READONLY))
+            Delete_Word(edit);
+        return is_it;
+    }
+    if (wparam == select_all)
+        SendMessageW(edit, EM_SETSEL, 0, -1);
+    // Enter closes the list of a combo box by this.
+    const bool breaks_line = wparam == L'\r' || wparam == L'\n';
+    return wparam == select_all || wparam == delete_word || (breaks_line && Has_Style(edit, ES_MULTILINE));
 }
 
 /// Does what differs from the system's edit control. Returns whether that was all.
 bool Handle(HWND edit, UINT message, WPARAM wparam, LRESULT &result) {
-    constexpr WPARAM select_all = 1; // what Ctrl+A types
+    if (message == WM_KEYDOWN || message == WM_CHAR)
+        return Handle_Key(edit, message, wparam);
+    // A combo box has its own ways with the rest.
+    if (!Has_Style(edit, ES_MULTILINE))
+        return false;
     switch (message) {
     case WM_GETDLGCODE:
         // Not all keys, as a control of several lines asks for: Enter, Esc and Tab are the dialog's.
@@ -71,13 +137,9 @@ bool Handle(HWND edit, UINT message, WPARAM wparam, LRESULT &result) {
         return true;
     case WM_PASTE:
         // What puts the text in asks nobody whether it may.
-        if ((GetWindowLongW(edit, GWL_STYLE) & ES_READONLY) == 0)
+        if (!Has_Style(edit, ES_READONLY))
             Paste(edit);
         return true;
-    case WM_CHAR:
-        if (wparam == select_all)
-            SendMessageW(edit, EM_SETSEL, 0, -1);
-        return wparam == select_all || wparam == L'\r' || wparam == L'\n';
     default:
         return false;
     }
@@ -93,19 +155,27 @@ LRESULT CALLBACK Procedure(HWND edit, UINT message, WPARAM wparam, LPARAM lparam
         MessageBeep(MB_OK);
         return 0;
     }
-    return CallWindowProcW(edit_procedure, edit, message, wparam, lparam);
+    const auto usual = reinterpret_cast<WNDPROC>(GetWindowLongPtrW(edit, GWLP_USERDATA));
+    return CallWindowProcW(usual, edit, message, wparam, lparam);
 }
 
 } // namespace
 
 void Make_Text_Box(HWND edit) {
-    const LONG_PTR before = SetWindowLongPtrW(edit, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(Procedure));
-    edit_procedure = reinterpret_cast<WNDPROC>(before);
+    SetWindowLongPtrW(edit, GWLP_USERDATA, GetWindowLongPtrW(edit, GWLP_WNDPROC));
+    SetWindowLongPtrW(edit, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(Procedure));
 }
 
 std::wstring Without_Breaks(std::wstring text) {
     std::replace(text.begin(), text.end(), L'\0', L' ');
     return platform::Without_Line_Breaks(std::move(text));
+}
+
+void Set_Box_Text(HWND edit, const std::wstring &text) {
+    SetWindowTextW(edit, L"");
+    Replace_Selection(edit, text, false);
+    SendMessageW(edit, EM_SETSEL, 0, 0);
+    SendMessageW(edit, EM_SCROLLCARET, 0, 0);
 }
 
 std::wstring Window_Text(HWND window) {

@@ -78,14 +78,15 @@ void Dialog_Window::Cancel() {
         if (!control->is_cancel)
             continue;
         if (platform::Is_Usable(*Model(), *control) && platform::Is_Shown(*Model(), *control))
-            Click(*control);
+            Click(*control, VK_ESCAPE);
         return;
     }
     Send(Input_Kind::Close);
 }
 
-void Dialog_Window::Click(const Control_State &control) {
+void Dialog_Window::Click(const Control_State &control, int key) {
     Input_Event event = Event_Of(Input_Kind::Clicked);
+    event.key = key;
     event.checked = SendMessageW(Control_Window(control.index), BM_GETCHECK, 0, 0) == BST_CHECKED;
     Tell(control, std::move(event));
 }
@@ -97,6 +98,9 @@ void Dialog_Window::Text_Edited(const Control_State &control) {
     event.text = From_Wide(Without_Breaks(Window_Text(Control_Window(control.index))));
     event.control = control.index;
     Send(event);
+    // A disabled form did not take what another program has put in.
+    if (Model() != nullptr && !Model()->enabled)
+        Set_Caption(control);
 }
 
 void Dialog_Window::List_Command(const Control_State &control, int code) {

@@ -108,6 +108,7 @@ void Dialog_Window::Create() {
     Find_Page_Colour();
     Update_Tooltips();
     Place();
+    EnableWindow(window_, Model()->enabled);
 }
 
 /// What a hidden frame holds is made when the frame is shown for the first time: a dialog of many pages opens
@@ -171,6 +172,8 @@ bool Dialog_Window::Make_Control(const Control_State &control) {
         Make_Text_Box(native.window);
         SendMessageW(native.window, EM_LIMITTEXT, 0, 0);
     }
+    if (control.kind == Control_Kind::Combo_Box && control.editable)
+        Make_Text_Box(FindWindowExW(native.window, nullptr, L"EDIT", nullptr));
     if (control.kind == Control_Kind::Slider)
         Set_Slider_Steps(native.window, control);
     Look_Changed(control);

@@ -44,6 +44,11 @@ LRESULT Dialog_Window::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
         Command(LOWORD(wparam), HIWORD(wparam));
         return 0;
     case WM_SETCURSOR:
+        // All that a disabled window hears of a press.
+        if (!Model()->enabled && HIWORD(lparam) == WM_LBUTTONDOWN && Open_Modal_Boxes == 0) {
+            Send(Input_Kind::Mouse_Down);
+            return TRUE;
+        }
         // The controls ask here before they take their own.
         if (Model()->pointer != platform::Pointer_Shape::Hourglass || LOWORD(lparam) != HTCLIENT)
             break;
@@ -105,6 +110,8 @@ void Dialog_Window::Window_Gone() {
 void Dialog_Window::Own_Aspect_Changed(Aspect aspect) {
     if (aspect == Aspect::Focus)
         Focus();
+    if (aspect == Aspect::Enabled)
+        EnableWindow(window_, Model()->enabled);
     POINT mouse = {};
     if (aspect != Aspect::Pointer || !GetCursorPos(&mouse) ||
         GetAncestor(WindowFromPoint(mouse), GA_ROOT) != window_)
@@ -170,7 +177,7 @@ void Dialog_Window::Bring_To_Front() {
 }
 
 void Dialog_Window::Focus() {
-    if (!IsWindowVisible(window_))
+    if (!IsWindowVisible(window_) || !IsWindowEnabled(window_))
         return;
     HWND control = Control_Window(Model()->focused);
     if (control == nullptr || !IsWindowEnabled(control) || !IsWindowVisible(control))

@@ -88,7 +88,7 @@ private:
     void Cancel();
     void Tell(const Control_State &control, platform::Input_Kind kind, int selected = -1);
     void Tell(const Control_State &control, platform::Input_Event event);
-    void Click(const Control_State &control);
+    void Click(const Control_State &control, int key = 0);
     void Text_Edited(const Control_State &control);
     void List_Command(const Control_State &control, int code);
     void Combo_Command(const Control_State &control, int code);

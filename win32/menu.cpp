@@ -6,6 +6,10 @@
 #include "win32/units.h"
 #include "win32/wide_text.h"
 
+#include <cstdlib>
+#include <optional>
+#include <utility>
+
 namespace platform {
 
 namespace {
@@ -31,6 +35,51 @@ void Insert_Item(HMENU menu, UINT position, const Menu_Item &item) {
     InsertMenuItemW(menu, position, TRUE, &info);
 }
 
+/// The press that opens a menu. While this exists, its release chooses nothing in the menu if it comes soon
+/// after it or near to it: a hand that clicks does not hold still. At most one exists.
+class Opening_Press {
+public:
+    Opening_Press() : place_(GetMessagePos()), time_(GetMessageTime()) {
+        open_ = this;
+        hook_ = SetWindowsHookExW(WH_MSGFILTER, Filter, nullptr, GetCurrentThreadId());
+    }
+    ~Opening_Press() {
+        UnhookWindowsHookEx(hook_);
+        open_ = nullptr;
+    }
+    Opening_Press(const Opening_Press &) = delete;
+    Opening_Press &operator=(const Opening_Press &) = delete;
+
+private:
+    /// Sees the messages of the menu before the menu does, which drops those that this answers with 1.
+    static LRESULT CALLBACK Filter(int code, WPARAM wparam, LPARAM message_address) {
+        const auto &message = *reinterpret_cast<const MSG *>(message_address);
+        if (code == MSGF_MENU && open_ != nullptr && open_->Is_Click(message))
+            return 1;
+        return CallNextHookEx(nullptr, code, wparam, message_address);
+    }
+
+    /// Returns whether `message` is the release and makes a click of the press.
+    bool Is_Click(const MSG &message) {
+        const bool released = message.message == WM_RBUTTONUP;
+        if (!released && message.message != WM_RBUTTONDOWN)
+            return false;
+        if (!std::exchange(held_, false) || !released)
+            return false;
+        constexpr DWORD short_time = 250;
+        const POINTS pressed = MAKEPOINTS(place_);
+        return message.time - static_cast<DWORD>(time_) < short_time ||
+               (std::abs(message.pt.x - pressed.x) <= GetSystemMetrics(SM_CXDRAG) &&
+                std::abs(message.pt.y - pressed.y) <= GetSystemMetrics(SM_CYDRAG));
+    }
+
+    static inline Opening_Press *open_ = nullptr;
+    HHOOK hook_ = nullptr;
+    DWORD place_;
+    LONG time_; ///< milliseconds, as messages have it
+    bool held_ = true;
+};
+
 } // namespace
 
 int Track_Popup_Menu(Form_Model &owner, const std::vector<Menu_Item> &items, const Point *at) {
@@ -51,6 +100,9 @@ int Track_Popup_Menu(Form_Model &owner, const std::vector<Menu_Item> &items, con
     // Without the foreground a click elsewhere would not close the menu, and without a message after it the
     // next menu would close at once.
     SetForegroundWindow(window);
+    std::optional<Opening_Press> press;
+    if (at == nullptr)
+        press.emplace();
     constexpr UINT flags = TPM_RETURNCMD | TPM_NONOTIFY | TPM_CENTERALIGN | TPM_RIGHTBUTTON;
     static_assert(flags == 390);
     const BOOL chosen = TrackPopupMenu(menu.Get(), flags, place.x, place.y, 0, window, nullptr);

@@ -31,13 +31,29 @@ bool Tell(platform::Broadcast broadcast) noexcept {
     return !now || now(broadcast);
 }
 
-/// Whether an open menu, or a window that is being moved, has the mouse. What comes by itself waits then: a
-/// message box that it shows would get no click.
+/// Looks for a menu that can be seen, at the address in `found_address`. Returns whether to look further.
+BOOL CALLBACK Find_Open_Menu(HWND window, LPARAM found_address) {
+    constexpr ULONG_PTR menu_class = 32768;
+    const bool found = GetClassLongPtrW(window, GCW_ATOM) == menu_class && IsWindowVisible(window);
+    *reinterpret_cast<bool *>(found_address) = found;
+    return found ? FALSE : TRUE;
+}
+
+/// Returns whether an open menu, or a window that is being moved, has the mouse. What comes by itself waits
+/// then: a message box that it shows would get no click.
 bool Mouse_Is_Taken() {
-    constexpr DWORD taken = GUI_INMENUMODE | GUI_POPUPMENUMODE | GUI_SYSTEMMENUMODE | GUI_INMOVESIZE;
     GUITHREADINFO state = {};
     state.cbSize = sizeof state;
-    return GetGUIThreadInfo(GetCurrentThreadId(), &state) && (state.flags & taken) != 0;
+    if (!GetGUIThreadInfo(GetCurrentThreadId(), &state))
+        return false;
+    if ((state.flags & (GUI_POPUPMENUMODE | GUI_INMOVESIZE)) != 0)
+        return true;
+    // Alt alone sets this as well, and the one of the system menu, without any menu to be seen.
+    if ((state.flags & GUI_INMENUMODE) == 0)
+        return false;
+    bool menu_open = false;
+    EnumThreadWindows(GetCurrentThreadId(), Find_Open_Menu, reinterpret_cast<LPARAM>(&menu_open));
+    return menu_open;
 }
 
 bool Concerns_Fonts(WPARAM setting) {

@@ -15,6 +15,11 @@ bool Is_Key(UINT message) {
            message == WM_SYSKEYUP || message == WM_SYSCHAR;
 }
 
+/// Returns whether the system makes a command of the key: volume, media, browser, start of a program.
+bool Is_Command_Key(UINT message, WPARAM key) {
+    return Is_Key(message) && message != WM_SYSCHAR && key >= VK_BROWSER_BACK && key <= VK_LAUNCH_APP2;
+}
+
 } // namespace
 
 bool Painted_Window::Handle_Input(UINT message, WPARAM wparam, LPARAM lparam, LRESULT &result) {
@@ -26,6 +31,8 @@ bool Painted_Window::Handle_Input(UINT message, WPARAM wparam, LPARAM lparam, LR
     }
     if (Mouse_Input::Is_Mouse(message))
         return modal || Handle_Mouse(message, wparam, lparam);
+    if (Is_Command_Key(message, wparam))
+        return false;
     if (Is_Key(message))
         return modal || Handle_Key(message, wparam, lparam);
     switch (message) {

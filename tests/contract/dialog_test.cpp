@@ -84,6 +84,7 @@ protected:
 
     std::string Heard() { return std::exchange(heard_, {}); }
     HWND Native(int index) const { return GetDlgItem(window_, 100 + index); }
+    HWND Typed_Text() const { return GetWindow(Native(Typed), GW_CHILD); }
     void Change(int index, Aspect aspect) {
         platform::Control_Changed(model_, controls_[index], aspect, controls_[index].bounds);
     }
@@ -106,7 +107,7 @@ protected:
         BYTE keys[256] = {};
         keys[VK_CONTROL] = with_control ? 0x80 : 0;
         SetKeyboardState(keys);
-        PostMessageW(Native(index), WM_KEYDOWN, key, 1);
+        PostMessageW(index == Typed ? Typed_Text() : Native(index), WM_KEYDOWN, key, 1);
         platform::Process_Waiting_Messages();
         SetKeyboardState(std::fill_n(keys, 256, BYTE{0}) - 256);
     }
@@ -129,7 +130,10 @@ TEST_F(Dialog_Contract, The_Form_Hears_What_The_User_Does) {
         {[this] { Send(Combo, CB_SETCURSEL, 2), Notify(Combo, CBN_SELCHANGE); }, "selected 6 2; "},
         // A list that closes on another item than it was opened with.
         {[this] { Send(Combo, CB_SETCURSEL, 1), Notify(Combo, CBN_CLOSEUP); }, "selected 6 1; "},
-        {[this] { SendMessageA(GetWindow(Native(Typed), GW_CHILD), WM_CHAR, 'x', 0); }, "text 7 x; "},
+        {[this] { SendMessageA(Typed_Text(), WM_CHAR, 'x', 0); }, "text 7 x; "},
+        {[this] { SendMessageA(Typed_Text(), EM_REPLACESEL, 0, reinterpret_cast<LPARAM>(" yz ")); },
+         "text 7 x yz ; "},
+        {[this] { Type(Typed, VK_BACK, true); }, "text 7 x ; "},
         {[this] { Send(List, LB_SETCURSEL, 1), Notify(List, LBN_SELCHANGE); }, "selected 8 1; "},
         {[this] { Notify(List, LBN_DBLCLK); }, "activated 8 1; "},
         {[this] { Type(List, VK_DELETE), Type(List, VK_RETURN); }, "key 8 46; key 8 13; "},
@@ -177,6 +181,10 @@ TEST_F(Dialog_Contract, Its_Own_Changes_Show_And_Are_Not_Told) {
     EXPECT_EQ(GetObjectType(reinterpret_cast<HGDIOBJ>(Send(List, WM_GETFONT))), DWORD{OBJ_FONT});
     EXPECT_TRUE(Send(List, WM_GETFONT) == Send(Check, WM_GETFONT) && Send(List, WM_GETFONT) != font);
     EXPECT_EQ(Heard(), "");
+    model_.enabled = false; // and a text that it does not take is put back
+    platform::Form_Changed(model_, Aspect::Enabled);
+    SendMessageW(Typed_Text(), WM_CHAR, 'x', 0);
+    EXPECT_TRUE(!IsWindowEnabled(window_) && GetWindowTextLengthW(Typed_Text()) == 0);
 }
 
 TEST_F(Dialog_Contract, A_Page_Is_Made_In_Its_Place_When_It_Is_First_Shown) {

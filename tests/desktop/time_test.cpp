@@ -160,6 +160,8 @@ TEST_F(Opened, Bears_Jumps_Of_The_Clock) {
             return Wait_Until([&] { return program_->Window(row.window) != nullptr; });
         };
         ASSERT_TRUE(open());
+        if (&row >= rows_ + 2)
+            Send_Key(VK_MENU); // which opens no menu
         for (const auto &[year, month, day, title, days] : jumps) {
             Set_Clock(year, month, day, 12, 0, 0);
             const bool menu = row.window == rows_[0].window;

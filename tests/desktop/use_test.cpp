@@ -145,6 +145,27 @@ TEST_F(Use, Every_Item_Of_The_Menus) {
     EXPECT_EQ(program.Exit_Code(), 0U);
 }
 
+TEST_F(Use, A_Right_Click_That_Slips_Chooses_Nothing) {
+    const std::string kept = "\"5/5/2027=Kept\"\r\n";
+    Write_Data(kept);
+    const Program &program = Start_Calendar();
+    const auto menu = [&] { return program.Window("#32768") != nullptr; };
+    const POINT middle = Middle(program.Named("Wednesday 5th May 2027").place);
+    for (const auto &[slip, held, chooses] : {std::tuple(3, 400, false), {14, 0, false}, {14, 400, true}}) {
+        ASSERT_TRUE(program.Uncover(middle));
+        Send_Mouse(middle, right_button);
+        EXPECT_TRUE(held == 0 || Wait_Until(menu));
+        Sleep(static_cast<DWORD>(held));
+        for (const DWORD flags : {0UL, DWORD{MOUSEEVENTF_RIGHTUP}})
+            Send_Mouse({middle.x, middle.y + slip}, flags);
+        EXPECT_TRUE(Becomes(chooses ? "" : kept, [&] { return Data(); }));
+        if (!chooses) {
+            EXPECT_TRUE(Wait_Until(menu) && !Wait_Until([&] { return !menu(); }, 500)) << slip;
+            program.Choose({VK_ESCAPE});
+        }
+    }
+}
+
 TEST_F(Use, Compact_After_A_Minute) {
     Set_Setting("Settings", "Auto Compact", "1");
     const DWORD begin = GetTickCount();

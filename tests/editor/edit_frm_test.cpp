@@ -2,6 +2,7 @@
 #include "app/program.h"
 #include "core/settings.h"
 #include "editor/edit_frm.h"
+#include "settings/settings_frm.h"
 #include "tests/calendar/calendar_test.h"
 
 using platform::Box_Answer;
@@ -137,6 +138,24 @@ TEST_F(Editor, asks_for_unsaved_text_before_another_day_and_the_end_of_session_a
             Push(editor, editor.Cancel_Btn);
         }
     }
+}
+
+TEST_F(Editor, waits_for_the_end_of_the_settings_and_is_asked_for_meanwhile) {
+    std::unique_ptr<Settings_Frm> settings;
+    Connect_Settings(form, settings);
+    Open(5);
+    Type("new");
+    form.Open_Settings();
+    Type("newer");
+    Push(editor, editor.Ok_Btn);
+    EXPECT_TRUE(Has_Window() && !editor.Model().enabled && editor.Message_Txt.Text() == "new");
+    Fakes().Expect_Box(question, Box_Answer::Cancel);
+    EXPECT_FALSE(Desktop().Say(Broadcast::Session_Ends));
+    EXPECT_EQ(Desktop().front, &settings->Model());
+    Push(*settings, settings->Cancel_Btn);
+    EXPECT_TRUE(editor.Model().enabled && Records().empty());
+    Push(editor, editor.Ok_Btn);
+    EXPECT_EQ(Records(), "5/3/2002=new|");
 }
 
 TEST_F(Editor, keeps_its_day_whatever_the_calendar_shows) {

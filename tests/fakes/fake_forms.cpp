@@ -161,6 +161,7 @@ std::optional<Point> Window_Corner(const Form_Model &model) {
 
 void Bring_To_Front(Form_Model &model) {
     Mirror_Of(model);
+    Desktop().front = &model;
 }
 
 void Fill_Rect(Canvas &canvas, const Rect &rect, Colour colour) {

@@ -67,6 +67,7 @@ struct Fake_Desktop {
 
     std::map<const platform::Form_Model *, Fake_Mirror> mirrors;
     std::vector<Told_Change> told;
+    const platform::Form_Model *front = nullptr; ///< brought there last
 
     std::map<platform::Timer_Id, Fake_Timer> timers;
     unsigned time = 0;

@@ -23,6 +23,7 @@ TEST_F(Settings_Window, opens_at_the_stored_tab_and_stores_the_last_one_however_
     const std::function<void()> ends[] = {
         [this] { Push(*dialog, dialog->Ok_Btn); },
         [this] { Push(*dialog, dialog->Cancel_Btn); },
+        [this] { Input(*dialog, {.kind = Input_Kind::Clicked, .key = Key_Escape}, &dialog->Cancel_Btn); },
         [this] { Input(*dialog, {.kind = Input_Kind::Close}); },
         [this] {
             Desktop().mirrors.erase(&dialog->Model());
@@ -63,6 +64,23 @@ TEST_F(Settings_Window, opens_at_the_stored_tab_and_stores_the_last_one_however_
         EXPECT_FALSE(dialog->General.Alert_Chk.Checked()) << "left from the former dialog";
         Push(*dialog, dialog->General.Alert_Chk, true);
         form.Close_Settings();
+    }
+}
+
+TEST_F(Settings_Window, esc_ends_a_preview_only_and_the_cancel_button_the_dialog_too) {
+    const std::string pack = "C:\\Vellatro\\Default\\";
+    for (int month = 1; month <= 12; ++month)
+        Fakes().files[pack + std::to_string(month) + ".jpg"] = "a picture";
+    Fakes().files[pack + "settings.ini"] = "1=0-1-1\r\n";
+    Fakes().pictures[pack + "1.jpg"] = {1, 1, std::make_shared<std::vector<std::uint8_t>>(3)};
+    const Wallpaper_Page &page = Open(Settings_Frm::wallpaper_fra).Wallpaper;
+    Push(*dialog, page.Theme_Use_Chk, true);
+    for (const int key : {int{Key_Escape}, 0}) {
+        Push(*dialog, page.Preview_Btn);
+        EXPECT_TRUE(page.Preview_Lbl.Visible());
+        Input(*dialog, {.kind = Input_Kind::Clicked, .key = key}, &dialog->Cancel_Btn);
+        EXPECT_FALSE(form.Which_Month_Lbl.Caption().starts_with("Preview"));
+        EXPECT_EQ(form.Settings_Visible(), key == Key_Escape);
     }
 }
 
