@@ -23,7 +23,7 @@ namespace {
 constexpr int group_bottom = 8 * 15;
 constexpr int options_width = 118 * 15; ///< column left of the miniature
 constexpr int hint_lines = 4;
-constexpr int manual_lines = 4;
+constexpr int manual_lines = 5;
 constexpr int option_mark = 18 * 15; ///< before the caption
 constexpr int marker_size = 7 * 15;
 constexpr int last_cell = 2;
