@@ -2,6 +2,7 @@
 #include "core/convert.h"
 
 #include "core/letters.h"
+#include "platform/characters.h"
 #include "platform/joined.h"
 #include "platform/text.h"
 
@@ -84,6 +85,10 @@ std::int16_t Fit_Int16(std::int64_t value) {
     if (value < Limits::min() || value > Limits::max())
         throw Conversion_Error(std::to_string(value) + " is no whole number from -32768 to 32767");
     return static_cast<std::int16_t>(value);
+}
+
+std::string_view As_Utf8(std::string_view text, std::string &room) {
+    return platform::Is_Utf8(text) ? text : std::string_view(room = platform::Ansi_To_Utf8(text));
 }
 
 std::string Shortened(std::string_view text) {

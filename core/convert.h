@@ -32,5 +32,9 @@ std::string Flag_Text(bool flag);
 /// Narrows to 16 bits. Throws Conversion_Error when the value does not fit.
 std::int16_t Fit_Int16(std::int64_t value);
 
+/// Returns `text` where it is UTF-8. Where it is not, returns what it is in the system's ANSI code page, as a
+/// view into `room`.
+std::string_view As_Utf8(std::string_view text, std::string &room);
+
 /// A value as a message can show it: of a long one whole characters, and "...".
 std::string Shortened(std::string_view text);

@@ -129,7 +129,8 @@ TEST_F(Dialog_Contract, The_Form_Hears_What_The_User_Does) {
         {[this] { Send(Combo, CB_SETCURSEL, 2), Notify(Combo, CBN_SELCHANGE); }, "selected 6 2; "},
         // A list that closes on another item than it was opened with.
         {[this] { Send(Combo, CB_SETCURSEL, 1), Notify(Combo, CBN_CLOSEUP); }, "selected 6 1; "},
-        {[this] { SendMessageA(GetWindow(Native(Typed), GW_CHILD), WM_CHAR, 'x', 0); }, "text 7 x; "},
+        {[this] { SendMessageW(GetWindow(Native(Typed), GW_CHILD), WM_CHAR, L'\u65E5', 0); },
+         "text 7 \u65E5; "},
         {[this] { Send(List, LB_SETCURSEL, 1), Notify(List, LBN_SELCHANGE); }, "selected 8 1; "},
         {[this] { Notify(List, LBN_DBLCLK); }, "activated 8 1; "},
         {[this] { Type(List, VK_DELETE), Type(List, VK_RETURN); }, "key 8 46; key 8 13; "},

@@ -19,6 +19,11 @@ namespace {
 
 using Windows_Only = Contract_Test;
 
+/// All that these tests show of texts, they show where the process's code page is not the program's.
+TEST_F(Windows_Only, The_Processs_Code_Page_Is_Not_Utf8) {
+    EXPECT_EQ(GetACP(), 1252U);
+}
+
 /// The calendar repeats after 400 years, so the same day 400 years later, which the system formats, differs
 /// from our own text in the year alone.
 TEST_F(Windows_Only, Early_Dates_Are_Formatted_As_The_System_Does) {
@@ -138,8 +143,8 @@ TEST_F(Windows_Only, Message_Boxes_Show_Their_Text_And_Answer) {
         std::wstring shown;
     } cases[] = {
         {"Sure & safe?", Box_Buttons::Yes_No, IDNO, Box_Answer::No, L"Sure & safe?"},
-        {std::string("z\xC3\xA9ro\0", 6), Box_Buttons::Yes_No_Cancel, IDCANCEL, Box_Answer::Cancel,
-         L"z\x00E9ro "},
+        {std::string("z\xC3\xA9ro\0", 6) + "\u0414\u65E5", Box_Buttons::Yes_No_Cancel, IDCANCEL,
+         Box_Answer::Cancel, L"z\u00E9ro \u0414\u65E5"},
         {std::string(5000, 'x'), Box_Buttons::Yes_No, IDYES, Box_Answer::Yes,
          std::wstring(1000, L'x') + L"..."},
         {lines, Box_Buttons::Ok, IDOK, Box_Answer::Ok, win32::To_Wide(lines.substr(0, 30 * 6 - 2)) + L"..."}};
