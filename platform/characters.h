@@ -81,9 +81,9 @@ inline bool Is_Flag_Letter(std::uint32_t code) {
 
 /// The code of the `length` bytes from `begin`, or No_Character when they are not one well-formed character.
 inline std::uint32_t Decode_Utf8(std::string_view text, std::size_t begin, std::size_t length) {
-    constexpr unsigned marks[] = {0, 0, 0xC0, 0xE0, 0xF0};
-    constexpr unsigned masks[] = {0, 0x80, 0xE0, 0xF0, 0xF8};
-    constexpr std::uint32_t smallest[] = {0, 0, 0x80, 0x800, 0x10000};
+    static constexpr unsigned marks[] = {0, 0, 0xC0, 0xE0, 0xF0};
+    static constexpr unsigned masks[] = {0, 0x80, 0xE0, 0xF0, 0xF8};
+    static constexpr std::uint32_t smallest[] = {0, 0, 0x80, 0x800, 0x10000};
     const unsigned lead = static_cast<unsigned char>(text[begin]);
     if ((lead & masks[length]) != marks[length])
         return No_Character;
@@ -111,20 +111,28 @@ inline Code_Step Step_Back_Utf8(std::string_view text, std::size_t end) {
 /// pair, nothing above U+10FFFF.
 inline bool Is_Utf8(std::string_view text) {
     constexpr std::uint64_t high_bits = 0x8080808080808080U;
+    constexpr std::size_t block = 64;
     for (std::size_t at = 0; at < text.size();) {
-        // Most texts are ASCII for the most part: eight bytes at a time.
-        std::uint64_t eight = high_bits;
-        if (text.size() - at >= sizeof eight)
-            std::memcpy(&eight, text.data() + at, sizeof eight);
-        if ((eight & high_bits) == 0) {
-            at += sizeof eight;
-            continue;
+        // Most texts are ASCII for the most part: a block at a time.
+        std::uint64_t bits = high_bits;
+        if (text.size() - at >= block) {
+            bits = 0;
+            for (std::size_t i = 0; i < block; i += sizeof bits) {
+                std::uint64_t eight = 0;
+                std::memcpy(&eight, text.data() + at + i, sizeof eight);
+                bits |= eight;
+            }
         }
-        const unsigned lead = static_cast<unsigned char>(text[at]);
-        const std::size_t length = lead < 0x80 ? 1 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
-        if (text.size() - at < length || Decode_Utf8(text, at, length) == No_Character)
-            return false;
-        at += length;
+        const std::size_t end = std::min(at + block, text.size());
+        if ((bits & high_bits) == 0)
+            at = end;
+        while (at < end) {
+            const unsigned lead = static_cast<unsigned char>(text[at]);
+            const std::size_t length = lead < 0x80 ? 1 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
+            if (text.size() - at < length || Decode_Utf8(text, at, length) == No_Character)
+                return false;
+            at += length;
+        }
     }
     return true;
 }
