@@ -31,7 +31,6 @@ TEST(Sequential, Reads_By_Comma_And_Quote_Rules) {
         {"a,b \x1A\"", {"a", "b"}},
         {"a\n\n\n \x1A\xFF,\0"s, {"a"}},
         {"a\n\n\nb\x1A", {"a", "", "", "b"}},
-        {"\x1A", {}},
         // Each item is of one encoding.
         {"\"\xE9\x80\",\u00E9\u65E5\n\xE9", {"\u00E9\u20AC", "\u00E9\u65E5", "\u00E9"}},
         {"a\nb\rc\r\nd", {"a", "b", "c", "d"}},
