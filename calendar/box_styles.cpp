@@ -2,8 +2,8 @@
 // styles are in box_layout.h.
 #include "calendar/box_layout.h"
 #include "calendar/main_frm.h"
+#include "platform/characters.h"
 #include "platform/drawing.h"
-#include "platform/text.h"
 #include "toolkit/units.h"
 #include "ui/wrap_text.h"
 

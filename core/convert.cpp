@@ -2,6 +2,7 @@
 #include "core/convert.h"
 
 #include "core/letters.h"
+#include "platform/characters.h"
 #include "platform/joined.h"
 #include "platform/text.h"
 
@@ -89,6 +90,10 @@ std::int16_t Fit_Int16(std::int64_t value) {
 std::int16_t Nearest_Int16(int value) {
     using Limits = std::numeric_limits<std::int16_t>;
     return static_cast<std::int16_t>(std::clamp<int>(value, Limits::min(), Limits::max()));
+}
+
+std::string_view As_Utf8(std::string_view text, std::string &room) {
+    return platform::Is_Utf8(text) ? text : std::string_view(room = platform::Ansi_To_Utf8(text));
 }
 
 std::string Shortened(std::string_view text) {

@@ -1,12 +1,16 @@
-// One pass over the bytes of a sequential file. Items are views into them: nothing is copied, no item is too
-// long.
+// One pass over the bytes of a sequential file. Items are views into them: nothing is copied but what has to
+// be converted, no item is too long.
 #include "core/sequential.h"
+
+#include "core/convert.h"
+#include "platform/characters.h"
 
 #include <cstring>
 
 namespace {
 
 constexpr std::string_view byte_order_mark = "\xEF\xBB\xBF";
+constexpr char end_mark = '\x1A'; ///< of sequential input, since before files knew their own length
 
 bool Is_Blank(char c) {
     return c == ' ' || c == '\t';
@@ -16,7 +20,7 @@ bool Is_Line_End(char c) {
     return c == '\r' || c == '\n';
 }
 
-bool Ends_Item(char c) {
+bool Is_Separator(char c) {
     return c == ',' || Is_Line_End(c);
 }
 
@@ -28,7 +32,7 @@ const char *Skip_Blanks(const char *at, const char *end) {
 
 /// Steps over one comma or line end, where `at` stands at one.
 const char *Skip_Separator(const char *at, const char *end) {
-    if (at == end || !Ends_Item(*at))
+    if (at == end || !Is_Separator(*at))
         return at;
     const bool pair = *at == '\r' && end - at > 1 && at[1] == '\n';
     return at + (pair ? 2 : 1);
@@ -39,45 +43,66 @@ const char *Skip_Separator(const char *at, const char *end) {
 bool Reads_Back_Plain(std::string_view item) {
     if (item.empty() || item.front() == '"' || Is_Blank(item.front()) || Is_Blank(item.back()))
         return false;
-    return item.find_first_of(",\r\n") == std::string_view::npos;
+    constexpr char breaking[] = {',', '\r', '\n', '\0', end_mark};
+    return item.find_first_of({breaking, sizeof breaking}) == std::string_view::npos;
 }
 
 } // namespace
 
 Sequential_Reader::Sequential_Reader(std::string_view bytes) {
+    if (bytes.starts_with("\xFF\xFE") || bytes.starts_with("\xFE\xFF"))
+        throw No_Text_Error("the text is UTF-16");
     if (bytes.starts_with(byte_order_mark))
         bytes.remove_prefix(byte_order_mark.size());
-    // Blanks and line ends before the end of the file are no items. Taking them off here keeps it one pass; a
-    // closed quoted item ends in its quote and loses nothing.
-    while (!bytes.empty() && (Is_Blank(bytes.back()) || Is_Line_End(bytes.back())))
-        bytes.remove_suffix(1);
-    at_ = bytes.data();
+    at_ = looked_to_ = bytes.data();
     end_ = at_ + bytes.size();
+    all_utf8_ = platform::Is_Utf8(bytes);
 }
 
-bool Sequential_Reader::Next(std::string_view &item) {
-    at_ = Skip_Blanks(at_, end_);
-    if (at_ == end_)
-        return false;
-    if (*at_ == '"') {
-        const char *begin = at_ + 1;
-        const void *quote = std::memchr(begin, '"', static_cast<std::size_t>(end_ - begin));
-        if (quote == nullptr)
-            throw Sequential_Error("a quoted item has no closing quote");
-        const char *close = static_cast<const char *>(quote);
-        item = std::string_view(begin, static_cast<std::size_t>(close - begin));
-        // Where something else follows the closing quote, the next item begins right there.
-        at_ = Skip_Separator(Skip_Blanks(close + 1, end_), end_);
-        return true;
+/// Blanks and line ends before the end of the file are no items. Each run of them is looked over once.
+bool Sequential_Reader::At_End() {
+    if (at_ != end_ && Is_Line_End(*at_) && at_ >= looked_to_) {
+        looked_to_ = at_;
+        while (looked_to_ != end_ && (Is_Blank(*looked_to_) || Is_Line_End(*looked_to_)))
+            ++looked_to_;
+        if (looked_to_ == end_ || *looked_to_ == end_mark)
+            at_ = looked_to_;
     }
+    return at_ == end_ || *at_ == end_mark;
+}
+
+std::string_view Sequential_Reader::Take_Quoted() {
+    const char *begin = at_ + 1;
+    const void *quote = std::memchr(begin, '"', static_cast<std::size_t>(end_ - begin));
+    if (quote == nullptr)
+        throw Sequential_Error("a quoted item has no closing quote");
+    const char *close = static_cast<const char *>(quote);
+    // Where something else follows the closing quote, the next item begins right there.
+    at_ = Skip_Blanks(close + 1, end_);
+    return {begin, static_cast<std::size_t>(close - begin)};
+}
+
+std::string_view Sequential_Reader::Take_Plain() {
     const char *begin = at_;
-    while (at_ != end_ && !Ends_Item(*at_))
+    while (at_ != end_ && !Is_Separator(*at_) && *at_ != end_mark)
         ++at_;
     const char *last = at_;
     while (last != begin && Is_Blank(last[-1]))
         --last;
-    item = std::string_view(begin, static_cast<std::size_t>(last - begin));
+    const std::string_view item(begin, static_cast<std::size_t>(last - begin));
+    if (item.find('\0') != std::string_view::npos)
+        throw No_Text_Error("there is a NUL outside of quotes");
+    return item;
+}
+
+bool Sequential_Reader::Next(std::string_view &item) {
+    at_ = Skip_Blanks(at_, end_);
+    if (At_End())
+        return false;
+    item = *at_ == '"' ? Take_Quoted() : Take_Plain();
     at_ = Skip_Separator(at_, end_);
+    if (!all_utf8_)
+        item = As_Utf8(item, converted_);
     return true;
 }
 

@@ -13,21 +13,37 @@ public:
     using Error::Error;
 };
 
+/// The bytes are no text that this program or an older one writes, but UTF-16 or no text at all.
+class No_Text_Error : public Sequential_Error {
+public:
+    using Sequential_Error::Sequential_Error;
+};
+
 /// Walks over the bytes of a file once. An item ends at a comma or a line end (CR LF, LF or CR); blanks
 /// around it are no part of it. An item that begins with a quote goes to its closing quote exactly as
-/// written, line ends and NULs included. A byte-order mark of UTF-8 at the very start, and blanks and empty
-/// lines at the end, are skipped; any other empty line is an empty item. The bytes must outlive the reader
-/// and the items.
+/// written, line ends and NULs included. The byte 0x1A outside of quotes is the end of the file, whatever
+/// stands behind it. A byte-order mark of UTF-8 at the very start, and blanks and empty lines at the end, are
+/// skipped; any other empty line is an empty item. Items are given as UTF-8: one that is none is taken as
+/// text of the system's ANSI code page. The bytes must outlive the reader.
 class Sequential_Reader {
 public:
+    /// Throws No_Text_Error for bytes with a byte-order mark of UTF-16.
     explicit Sequential_Reader(std::string_view bytes);
 
-    /// The next item in `item`, as a view into the bytes; false at the end. Throws Sequential_Error.
+    /// The next item in `item`, as a view that is good until the next call; false at the end. Throws
+    /// Sequential_Error, of a NUL outside of quotes No_Text_Error.
     bool Next(std::string_view &item);
 
 private:
+    bool At_End();
+    std::string_view Take_Quoted();
+    std::string_view Take_Plain();
+
     const char *at_;
     const char *end_;
+    const char *looked_to_; ///< no line end before this one is among the last bytes of the file
+    bool all_utf8_;         ///< no item needs a look
+    std::string converted_; ///< the last item that was not UTF-8
 };
 
 /// Appends one item to `bytes` so that it reads back the same: in quotes, followed by CR LF. An item that

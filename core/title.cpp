@@ -4,10 +4,10 @@
 #include "core/date.h"
 #include "core/letters.h"
 #include "core/settings.h"
+#include "platform/characters.h"
 #include "platform/joined.h"
 #include "platform/locale.h"
 #include "platform/registry.h"
-#include "platform/text.h"
 
 #include <algorithm>
 #include <vector>
@@ -26,9 +26,8 @@ struct Token {
 
 using Characters = std::vector<std::string_view>;
 
-/// The whole characters of the pattern, of a long one those that lie in its first bytes. Letters are only
-/// looked for among whole characters, because in some code pages a letter's byte can be the second half of
-/// one.
+/// The whole characters of the pattern, of a long one those that lie in its first bytes. A letter with a mark
+/// upon it is none of the pattern's.
 Characters Split(std::string_view pattern) {
     // A few bytes more than are used, so that the last character is not taken for whole when it is not.
     std::size_t end = std::min(pattern.size(), longest_pattern + 16);

@@ -1,5 +1,7 @@
-// Any bytes are read as items or refused; the items, written again, read back the same.
+// Any bytes are read as items of UTF-8 or refused; the items, written again, read back the same.
 #include "core/sequential.h"
+
+#include "platform/characters.h"
 
 #include <cstdint>
 #include <cstdlib>
@@ -8,12 +10,12 @@
 namespace {
 
 /// The items up to the end or the first error.
-std::vector<std::string_view> Read(std::string_view bytes) {
-    std::vector<std::string_view> items;
+std::vector<std::string> Read(std::string_view bytes) {
+    std::vector<std::string> items;
     try {
         Sequential_Reader reader(bytes);
         for (std::string_view item; reader.Next(item);)
-            items.push_back(item);
+            items.emplace_back(item);
     } catch (const Sequential_Error &) {
     }
     return items;
@@ -23,18 +25,24 @@ std::vector<std::string_view> Read(std::string_view bytes) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
     const std::string_view bytes(reinterpret_cast<const char *>(data), size);
-    const std::vector<std::string_view> items = Read(bytes);
+    const std::vector<std::string> items = Read(bytes);
     std::string written;
-    for (const std::string_view item : items)
+    for (const std::string &item : items) {
+        if (!platform::Is_Utf8(item))
+            std::abort();
         Append_Item(written, item);
+    }
     if (Read(written) != items)
         std::abort();
 
-    // The input as one item: written so that it is the one item of the file, or refused for its quotes.
+    // The input as one item, if it can be one: written so that it is the one item of the file, or refused for
+    // its quotes.
+    if (!platform::Is_Utf8(bytes))
+        return 0;
     std::string alone;
     try {
         Append_Item(alone, bytes);
-        if (Read(alone) != std::vector<std::string_view>{bytes})
+        if (Read(alone) != std::vector<std::string>{std::string(bytes)})
             std::abort();
     } catch (const Sequential_Error &) {
         if (bytes.find('"') == std::string_view::npos || !alone.empty())

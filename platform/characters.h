@@ -1,10 +1,12 @@
-// What one character of a text is, whichever way its bytes are told apart: which code points belong to the
-// one before them. Behind platform/text.h; nothing here asks the system.
+// The characters of UTF-8 texts: which bytes are valid, and which code points belong to the one before them.
+// Nothing here asks the system.
 #pragma once
 
 #include <algorithm>
 #include <cstdint>
+#include <cstring>
 #include <iterator>
+#include <string>
 #include <string_view>
 
 namespace platform {
@@ -79,15 +81,19 @@ inline bool Is_Flag_Letter(std::uint32_t code) {
 
 /// The code of the `length` bytes from `begin`, or No_Character when they are not one well-formed character.
 inline std::uint32_t Decode_Utf8(std::string_view text, std::size_t begin, std::size_t length) {
-    constexpr unsigned marks[] = {0, 0, 0xC0, 0xE0, 0xF0};
-    constexpr unsigned masks[] = {0, 0x80, 0xE0, 0xF0, 0xF8};
-    constexpr std::uint32_t smallest[] = {0, 0, 0x80, 0x800, 0x10000};
+    static constexpr unsigned marks[] = {0, 0, 0xC0, 0xE0, 0xF0};
+    static constexpr unsigned masks[] = {0, 0x80, 0xE0, 0xF0, 0xF8};
+    static constexpr std::uint32_t smallest[] = {0, 0, 0x80, 0x800, 0x10000};
     const unsigned lead = static_cast<unsigned char>(text[begin]);
     if ((lead & masks[length]) != marks[length])
         return No_Character;
     std::uint32_t code = lead & ~masks[length];
-    for (std::size_t i = begin + 1; i < begin + length; ++i)
-        code = (code << 6) | (static_cast<unsigned char>(text[i]) & 0x3FU);
+    for (std::size_t i = begin + 1; i < begin + length; ++i) {
+        const unsigned byte = static_cast<unsigned char>(text[i]);
+        if ((byte & 0xC0U) != 0x80U)
+            return No_Character;
+        code = (code << 6) | (byte & 0x3FU);
+    }
     const bool surrogate = code >= 0xD800 && code <= 0xDFFF;
     return code < smallest[length] || code > 0x10FFFF || surrogate ? No_Character : code;
 }
@@ -101,18 +107,60 @@ inline Code_Step Step_Back_Utf8(std::string_view text, std::size_t end) {
     return code == No_Character ? Code_Step{end - 1, code} : Code_Step{begin, code};
 }
 
-/// Where the character that ends before byte `end` begins; `step_back` tells the code points apart.
-template <typename Step_Back>
-std::size_t Character_Begin(std::string_view text, std::size_t end, const Step_Back &step_back) {
+/// Returns whether all bytes are well-formed UTF-8: nothing longer than it need be, no half of a surrogate
+/// pair, nothing above U+10FFFF.
+inline bool Is_Utf8(std::string_view text) {
+    constexpr std::uint64_t high_bits = 0x8080808080808080U;
+    constexpr std::size_t block = 64;
+    for (std::size_t at = 0; at < text.size();) {
+        // Most texts are ASCII for the most part: a block at a time.
+        std::uint64_t bits = high_bits;
+        if (text.size() - at >= block) {
+            bits = 0;
+            for (std::size_t i = 0; i < block; i += sizeof bits) {
+                std::uint64_t eight = 0;
+                std::memcpy(&eight, text.data() + at + i, sizeof eight);
+                bits |= eight;
+            }
+        }
+        const std::size_t end = std::min(at + block, text.size());
+        if ((bits & high_bits) == 0)
+            at = end;
+        while (at < end) {
+            const unsigned lead = static_cast<unsigned char>(text[at]);
+            const std::size_t length = lead < 0x80 ? 1 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
+            if (text.size() - at < length || Decode_Utf8(text, at, length) == No_Character)
+                return false;
+            at += length;
+        }
+    }
+    return true;
+}
+
+/// Appends a code point. One that is no character, as half of a surrogate pair, becomes U+FFFD.
+inline void Append_Utf8(std::string &text, std::uint32_t code) {
+    if (code > 0x10FFFF || (code >= 0xD800 && code <= 0xDFFF))
+        code = 0xFFFD;
+    const unsigned shift = code < 0x80 ? 0 : code < 0x800 ? 6 : code < 0x10000 ? 12 : 18;
+    constexpr unsigned marks[] = {0, 0xC0, 0xE0, 0xF0};
+    text += static_cast<char>(marks[shift / 6] | (code >> shift));
+    for (unsigned left = shift; left > 0; left -= 6)
+        text += static_cast<char>(0x80U | ((code >> (left - 6)) & 0x3FU));
+}
+
+/// Returns where the character that ends just before byte `end` of `text` begins. `end` is 1 to text.size().
+/// Bytes that are no valid character count as one character each. Marks that combine with the character
+/// before them, parts of a joined picture and the two letters of a flag are one character with it.
+inline std::size_t Previous_Character(std::string_view text, std::size_t end) {
     constexpr std::uint32_t joiner = 0x200D;
-    Code_Step step = step_back(text, end);
+    Code_Step step = Step_Back_Utf8(text, end);
     while (step.begin > 0) {
-        const Code_Step before = step_back(text, step.begin);
+        const Code_Step before = Step_Back_Utf8(text, step.begin);
         if (Is_Flag_Letter(step.code) && Is_Flag_Letter(before.code)) {
             // Flags are paired from the first letter of a run.
             std::size_t letters_before = 1;
             for (Code_Step more = before; more.begin > 0; ++letters_before) {
-                more = step_back(text, more.begin);
+                more = Step_Back_Utf8(text, more.begin);
                 if (!Is_Flag_Letter(more.code))
                     break;
             }

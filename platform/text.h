@@ -1,14 +1,13 @@
-// Stepping through texts in the process's own code page, which is UTF-8 where the system can do that.
+// The border between the program's texts, which are UTF-8, and those of older files.
 #pragma once
 
-#include <cstddef>
+#include <string>
 #include <string_view>
 
 namespace platform {
 
-/// Where the character that ends just before byte `end` of `text` begins. `end` is 1 to text.size(). Bytes
-/// that are no valid character count as one character each. Marks that combine with the
-/// character before them, parts of a joined picture and the two letters of a flag are one character with it.
-std::size_t Previous_Character(std::string_view text, std::size_t end);
+/// Returns as UTF-8 what `bytes` are in the system's ANSI code page. That is the page of the system's locale,
+/// in which older programs wrote, whatever the user's formats or the process's page are.
+std::string Ansi_To_Utf8(std::string_view bytes);
 
 } // namespace platform

@@ -18,7 +18,7 @@ NEWEST_SYSTEM = (5, 0)  # Windows 2000 starts no program that asks for more
 IMPORTS, RESOURCES, DELAY_IMPORTS = 1, 2, 13
 RESOURCE_KINDS = {14: 'icon', 16: 'version', 24: 'manifest'}
 # Of the manifest's elements, each as its name, attributes and text.
-IN_MANIFEST = (r'activeCodePage .*UTF-8', r'requestedExecutionLevel .*level=asInvoker', r'dpiAwareness ',
+IN_MANIFEST = (r'requestedExecutionLevel .*level=asInvoker', r'dpiAwareness ',
                r'assemblyIdentity .*name=Microsoft\.Windows\.Common-Controls version=6\.')
 
 

@@ -81,7 +81,7 @@ std::string Pack_File(const std::string &pack, const std::string &name) {
 }
 
 std::string Month_Details(std::string_view bytes, std::int16_t month) {
-    std::string_view details;
+    std::string details;
     Sequential_Reader reader(bytes);
     for (std::string_view item; reader.Next(item);) {
         const std::size_t equals = item.find('=');
@@ -90,7 +90,7 @@ std::string Month_Details(std::string_view bytes, std::int16_t month) {
         if (Int16_Of(item.substr(0, equals)) == month)
             details = item.substr(equals + 1);
     }
-    return std::string(details);
+    return details;
 }
 
 std::string Get_Paper_Details(std::int16_t month, const std::string &pack,

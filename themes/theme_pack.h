@@ -26,7 +26,7 @@ std::vector<std::string> Find_Packs();
 std::string Pack_File(const std::string &pack, const std::string &name);
 
 /// The value text of a month ("2-4-1") in a settings.ini with these bytes; of several the last, empty for
-/// none. Throws Sequential_Error for a quote without its end.
+/// none. Throws Sequential_Error.
 std::string Month_Details(std::string_view bytes, std::int16_t month);
 
 /// The value text of a month in a pack, or Theme_Error. A pack that is missing ends the use of themes: the

@@ -16,5 +16,5 @@ std::string Configuration_Bytes(const Settings &settings);
 void Import_Config_Line(std::string_view item);
 
 /// Takes all items of a configuration file over, up to the first that cannot be taken. Throws as
-/// Import_Config_Line does, and Sequential_Error for an open quote.
+/// Import_Config_Line does, and Sequential_Error.
 void Import_Configuration(std::string_view bytes);

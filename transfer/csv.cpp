@@ -3,6 +3,7 @@
 
 #include "core/convert.h"
 #include "core/letters.h"
+#include "platform/characters.h"
 #include "platform/locale.h"
 #include "platform/message_box.h"
 
@@ -11,6 +12,19 @@
 namespace {
 
 constexpr std::string_view byte_order_mark = "\xEF\xBB\xBF";
+
+/// Returns where the first 0x1A outside of quotes is; npos: nowhere.
+std::size_t End_Mark(std::string_view bytes) {
+    bool quoted = false;
+    std::size_t mark = bytes.find('\x1A');
+    for (std::size_t from = 0; mark != std::string_view::npos; mark = bytes.find('\x1A', mark + 1)) {
+        for (; from < mark; ++from)
+            quoted = quoted != (bytes[from] == '"');
+        if (!quoted)
+            break;
+    }
+    return mark;
+}
 
 /// The record without pairs of quotes, and with a comma behind its last field.
 std::string Prepared(std::string_view record) {
@@ -63,6 +77,8 @@ std::string Event_Text(const std::string &subject, const std::string &descriptio
 CSV_Lines::CSV_Lines(std::string_view bytes) : bytes_(bytes) {
     if (bytes_.starts_with(byte_order_mark))
         bytes_.remove_prefix(byte_order_mark.size());
+    bytes_ = bytes_.substr(0, End_Mark(bytes_));
+    all_utf8_ = platform::Is_Utf8(bytes_);
 }
 
 std::string_view CSV_Lines::Next_Line() {
@@ -72,7 +88,8 @@ std::string_view CSV_Lines::Next_Line() {
     const std::string_view line = bytes_.substr(at_, end - at_);
     const bool pair = bytes_.substr(end).starts_with("\r\n");
     at_ = std::min(end + (pair ? 2 : 1), bytes_.size());
-    return line;
+    // As a whole: in some code pages a byte like that of "|" is the second half of a character.
+    return all_utf8_ ? line : As_Utf8(line, converted_);
 }
 
 std::string_view CSV_Lines::Next_Record() {

@@ -24,15 +24,17 @@ struct CSV_Columns {
     std::int16_t Subject_Col = 0;
 };
 
-/// Walks over the lines of a file once, each ended by CR LF, CR or LF. A byte-order mark of UTF-8 at the very
-/// start is skipped. The bytes must outlive it.
+/// Walks over the lines of a file once, each ended by CR LF, CR or LF, and gives them as UTF-8: one that is
+/// none is taken as text of the system's ANSI code page. A byte-order mark of UTF-8 at the very start is
+/// skipped. The byte 0x1A outside of quotes is the end of the file; in quotes it is text, as the export
+/// writes it. The bytes must outlive it.
 class CSV_Lines {
 public:
     explicit CSV_Lines(std::string_view bytes);
 
     bool At_End() const { return at_ == bytes_.size(); }
     std::size_t Position() const { return at_; }
-    /// Throws CSV_Error at the end.
+    /// The view is good until the next call. Throws CSV_Error at the end.
     std::string_view Next_Line();
     /// Lines up to one that ends in a quote, joined by blanks. The view is good until the next call. Throws
     /// CSV_Error when the file ends before that.
@@ -41,7 +43,8 @@ public:
 private:
     std::string_view bytes_;
     std::size_t at_ = 0;
-    std::string joined_;
+    bool all_utf8_; ///< no line needs a look
+    std::string converted_, joined_;
 };
 
 /// Finds the columns in a heading line, in any letter case. False when one of the three words is nowhere in

@@ -2,6 +2,7 @@
 #include "transfer/import.h"
 
 #include "core/letters.h"
+#include "core/sequential.h"
 #include "core/settings.h"
 #include "platform/files.h"
 #include "platform/joined.h"
@@ -20,6 +21,20 @@ namespace {
 platform::Box_Answer Tell(std::string_view text, platform::Box_Icon icon,
                           platform::Box_Buttons buttons = platform::Box_Buttons::Ok) {
     return platform::Message_Box(text, "Vellatro", icon, buttons);
+}
+
+/// Throws No_Text_Error for a file of which no event could be read, as one in UTF-16: nobody can want it in
+/// the place of his own. What else may be wrong with it is not looked at.
+void Demand_Text(const std::string &path) {
+    const std::string bytes = platform::Read_File(path);
+    try {
+        Sequential_Reader reader(bytes);
+        for (std::string_view item; reader.Next(item);) {
+        }
+    } catch (const No_Text_Error &) {
+        throw;
+    } catch (const Sequential_Error &) { // an open quote, behind which no more can be told
+    }
 }
 
 void Copy_File(const std::string &from, const std::string &to) {
@@ -233,6 +248,7 @@ void Importer::Import_Data_File() {
     try {
         if (!Ask_File("Import Data File", "Data File (calendar.dat)|*.dat", true))
             return;
+        Demand_Text(dialog_.FileName);
         if (May_Replace()) {
             Copy_File(dialog_.FileName, Event_Store::Data_File());
             Data_File_Replaced();

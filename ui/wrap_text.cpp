@@ -1,7 +1,7 @@
 // Breaking a text into lines: each takes the longest beginning of the rest that fits.
 #include "ui/wrap_text.h"
 
-#include "platform/text.h"
+#include "platform/characters.h"
 
 #include <algorithm>
 

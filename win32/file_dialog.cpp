@@ -3,7 +3,6 @@
 
 #include "win32/mirror.h"
 #include "win32/modal.h"
-#include "win32/paths.h"
 #include "win32/system_library.h"
 #include "win32/wide_text.h"
 
@@ -72,8 +71,7 @@ bool Show_File_Dialog(File_Dialog &dialog) {
         L"comdlg32.dll", dialog.saves ? "GetSaveFileNameW" : "GetOpenFileNameW");
     if (show == nullptr || !show(&record))
         return false;
-    dialog.file = (dialog.flags & Multiple_Files) != 0 ? win32::From_Wide(file)
-                                                       : win32::Path_From_System(Up_To_Nul(file));
+    dialog.file = win32::From_Wide((dialog.flags & Multiple_Files) != 0 ? file : Up_To_Nul(file));
     dialog.file_title = win32::From_Wide(Up_To_Nul(file_title));
     dialog.flags = static_cast<std::int32_t>(record.Flags);
     dialog.filter_index = static_cast<std::int32_t>(record.nFilterIndex);

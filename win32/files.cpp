@@ -145,7 +145,7 @@ std::string Program_Folder() {
     std::wstring path = Program_Path();
     const std::size_t separator = path.rfind(L'\\');
     path.resize(separator == std::wstring::npos ? 0 : separator);
-    return win32::Path_From_System(path);
+    return win32::From_Wide(path);
 }
 
 std::string Program_Name() {
@@ -178,7 +178,7 @@ std::vector<std::string> Names_In_Folder(const std::string &folder, Listed liste
         const bool is_folder = (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
         if (is_folder != (listed == Listed::Folders) || name == L"." || name == L"..")
             continue;
-        // One that the process's code page cannot say would name something else.
+        // One that is no valid text would name something else.
         std::string text = win32::From_Wide(name);
         if (win32::To_Wide(text) == name)
             names.push_back(std::move(text));

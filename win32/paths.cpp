@@ -37,17 +37,4 @@ std::wstring Path_For_Call(const std::string &path) {
     return wide;
 }
 
-std::string Path_From_System(const std::wstring &path) {
-    std::string text = From_Wide(path);
-    if (To_Wide(text) == path)
-        return text;
-    std::wstring short_path(path.size() + 1, L'\0');
-    const DWORD length =
-        GetShortPathNameW(path.c_str(), short_path.data(), static_cast<DWORD>(short_path.size()));
-    if (length == 0 || length >= short_path.size())
-        return text;
-    short_path.resize(length);
-    return From_Wide(short_path);
-}
-
 } // namespace win32

@@ -9,8 +9,4 @@ namespace win32 {
 /// plain form can be. Empty when the path holds a zero byte and so can name nothing.
 std::wstring Path_For_Call(const std::string &path);
 
-/// A path that the system gave, as text of the program. Where the process's code page lacks characters of it,
-/// the path's short form is given, so that it still names the same thing.
-std::string Path_From_System(const std::wstring &path);
-
 } // namespace win32

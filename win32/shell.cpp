@@ -3,6 +3,7 @@
 
 #include "win32/mirror.h"
 #include "win32/system_library.h"
+#include "win32/wide_text.h"
 
 #include <windows.h>
 
@@ -31,7 +32,7 @@ void Change_Style(HWND window, DWORD take, DWORD give) {
 
 std::optional<Colour> Ask_Colour(HWND list, UINT question, UINT patience) {
     DWORD_PTR answer = 0;
-    if (SendMessageTimeoutA(list, question, 0, 0, SMTO_ABORTIFHUNG, patience, &answer) == 0)
+    if (SendMessageTimeoutW(list, question, 0, 0, SMTO_ABORTIFHUNG, patience, &answer) == 0)
         return std::nullopt;
     return static_cast<Colour>(answer);
 }
@@ -39,15 +40,15 @@ std::optional<Colour> Ask_Colour(HWND list, UINT question, UINT patience) {
 } // namespace
 
 Shell_Window Find_Desktop_Window() {
-    return Id_Of(FindWindowA("Progman", "Program Manager"));
+    return Id_Of(FindWindowW(L"Progman", L"Program Manager"));
 }
 
 Shell_Window Find_Shell_View(Shell_Window desktop) {
-    return Id_Of(FindWindowExA(Window_Of(desktop), nullptr, "SHELLDLL_DefView", nullptr));
+    return Id_Of(FindWindowExW(Window_Of(desktop), nullptr, L"SHELLDLL_DefView", nullptr));
 }
 
 Shell_Window Find_Icon_List(Shell_Window view) {
-    return Id_Of(FindWindowExA(Window_Of(view), nullptr, "SysListView32", nullptr));
+    return Id_Of(FindWindowExW(Window_Of(view), nullptr, L"SysListView32", nullptr));
 }
 
 std::optional<Label_Colours> Icon_Label_Colours(Shell_Window list, unsigned patience) {
@@ -81,8 +82,8 @@ void Attach_To_Desktop(Form_Model &model, Shell_Window desktop) {
 }
 
 void Open_Web_Page(const char *address) {
-    if (const auto execute = win32::Look_Up<decltype(ShellExecuteA)>(L"shell32.dll", "ShellExecuteA"))
-        execute(nullptr, nullptr, address, nullptr, "C:\\", SW_SHOWNORMAL);
+    if (const auto execute = win32::Look_Up<decltype(ShellExecuteW)>(L"shell32.dll", "ShellExecuteW"))
+        execute(nullptr, nullptr, win32::To_Wide(address).c_str(), nullptr, L"C:\\", SW_SHOWNORMAL);
 }
 
 } // namespace platform

@@ -1,6 +1,7 @@
-// Conversions between the program's text and wide text.
+// Conversions between the program's texts and wide texts.
 #include "win32/wide_text.h"
 
+#include "platform/characters.h"
 #include "win32/handles.h"
 
 #include <algorithm>
@@ -8,61 +9,28 @@
 
 namespace win32 {
 
-namespace {
-
-/// The system's calls count in int.
-int Length_For_Call(std::size_t length) {
-    return static_cast<int>(std::min<std::size_t>(length, INT_MAX / 4));
-}
-
-/// The user's own ANSI code page, which the process's is not when the manifest makes that UTF-8.
-UINT Locale_Code_Page() {
-    wchar_t digits[8] = {};
-    UINT page = 0;
-    if (GetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_IDEFAULTANSICODEPAGE, digits, 8) != 0) {
-        for (const wchar_t *digit = digits; *digit >= L'0' && *digit <= L'9'; ++digit)
-            page = page * 10 + static_cast<UINT>(*digit - L'0');
-    }
-    // Locales without an ANSI code page answer 0; Western text is the likeliest then.
-    return page == 0 || page == CP_UTF8 ? 1252 : page;
-}
-
-std::wstring Decode(UINT page, DWORD flags, std::string_view text) {
-    const int length = Length_For_Call(text.size());
-    const int needed = MultiByteToWideChar(page, flags, text.data(), length, nullptr, 0);
+std::wstring Decode(unsigned code_page, std::string_view bytes) {
+    // The system counts in int.
+    const auto length = static_cast<int>(std::min<std::size_t>(bytes.size(), INT_MAX / 4));
+    const int needed = MultiByteToWideChar(code_page, 0, bytes.data(), length, nullptr, 0);
     std::wstring wide(static_cast<std::size_t>(std::max(needed, 0)), L'\0');
-    if (needed > 0)
-        MultiByteToWideChar(page, flags, text.data(), length, wide.data(), needed);
+    MultiByteToWideChar(code_page, 0, bytes.data(), length, wide.data(), needed);
     return wide;
 }
 
-} // namespace
-
 std::wstring To_Wide(std::string_view text) {
-    if (text.empty())
-        return {};
-    const bool ascii = std::all_of(text.begin(), text.end(), [](char c) { return (c & 0x80) == 0; });
-    if (ascii)
-        return std::wstring(text.begin(), text.end());
-    if (GetACP() == CP_UTF8) {
-        std::wstring wide = Decode(CP_UTF8, MB_ERR_INVALID_CHARS, text);
-        if (!wide.empty())
-            return wide;
-        wide = Decode(Locale_Code_Page(), 0, text);
-        if (!wide.empty())
-            return wide;
-    }
-    return Decode(CP_ACP, 0, text);
+    return Decode(CP_UTF8, text);
 }
 
 std::string From_Wide(std::wstring_view text) {
-    if (text.empty())
-        return {};
-    const int length = Length_For_Call(text.size());
-    const int needed = WideCharToMultiByte(CP_ACP, 0, text.data(), length, nullptr, 0, nullptr, nullptr);
-    std::string narrow(static_cast<std::size_t>(std::max(needed, 0)), '\0');
-    if (needed > 0)
-        WideCharToMultiByte(CP_ACP, 0, text.data(), length, narrow.data(), needed, nullptr, nullptr);
+    std::string narrow;
+    narrow.reserve(text.size());
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        std::uint32_t code = text[i];
+        if (IS_HIGH_SURROGATE(code) && i + 1 < text.size() && IS_LOW_SURROGATE(text[i + 1]))
+            code = 0x10000 + ((code - 0xD800) << 10) + (text[++i] - 0xDC00U);
+        platform::Append_Utf8(narrow, code);
+    }
     return narrow;
 }
 

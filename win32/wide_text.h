@@ -1,4 +1,5 @@
-// The one pair of conversions between the program's text and the wide text of system calls. No formatting.
+// Conversions between the program's texts, which are UTF-8, and the wide texts of system calls. No
+// formatting.
 #pragma once
 
 #include <string>
@@ -6,12 +7,15 @@
 
 namespace win32 {
 
-/// `text` in wide characters. Text in the process's code page; where that is UTF-8 and `text` is none (a file
-/// of an older system), the user's ANSI code page is taken instead, so that it still shows. Never throws but
-/// for want of memory.
+/// Returns bytes of a code page in wide characters; those that are no characters there become the system's
+/// replacement. Never throws but for want of memory.
+std::wstring Decode(unsigned code_page, std::string_view bytes);
+
+/// Returns a text of the program in wide characters.
 std::wstring To_Wide(std::string_view text);
 
-/// Wide text in the process's code page. Characters that it lacks become the system's replacement.
+/// Returns wide text as text of the program. Half of a surrogate pair becomes U+FFFD, which older systems
+/// would write as bytes that are no UTF-8.
 std::string From_Wide(std::wstring_view text);
 
 } // namespace win32

@@ -87,6 +87,7 @@ TEST_F(Windows_Only, All_Kinds_Of_Stored_Texts_And_Numbers_Are_Read) {
                  {REG_SZ, 16, "abc", text},
                  {REG_SZ, 5, "ab", text},
                  {REG_SZ, 0, "", text},
+                 {REG_SZ, 4, "\uFFFDx", L"\xD83Dx"},
                  {REG_EXPAND_SZ, 8, "%x%", text + 4},
                  {REG_DWORD, 4, std::to_string(number), &number},
                  {REG_DWORD, 2, "(binary data)", &number},
@@ -138,8 +139,8 @@ TEST_F(Windows_Only, Message_Boxes_Show_Their_Text_And_Answer) {
         std::wstring shown;
     } cases[] = {
         {"Sure & safe?", Box_Buttons::Yes_No, IDNO, Box_Answer::No, L"Sure & safe?"},
-        {std::string("z\xC3\xA9ro\0", 6), Box_Buttons::Yes_No_Cancel, IDCANCEL, Box_Answer::Cancel,
-         L"z\x00E9ro "},
+        {std::string("z\xC3\xA9ro\0", 6) + "\u0414\u65E5", Box_Buttons::Yes_No_Cancel, IDCANCEL,
+         Box_Answer::Cancel, L"z\u00E9ro \u0414\u65E5"},
         {std::string(5000, 'x'), Box_Buttons::Yes_No, IDYES, Box_Answer::Yes,
          std::wstring(1000, L'x') + L"..."},
         {lines, Box_Buttons::Ok, IDOK, Box_Answer::Ok, win32::To_Wide(lines.substr(0, 30 * 6 - 2)) + L"..."}};

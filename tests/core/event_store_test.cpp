@@ -5,6 +5,7 @@
 #include <stdexcept>
 
 using Items = std::vector<std::string>;
+using namespace std::string_literals;
 
 namespace {
 
@@ -71,27 +72,30 @@ TEST_F(Event_Store_Test, The_Last_Record_Of_The_Day_Is_Shown_And_The_First_One_C
 
 TEST_F(Event_Store_Test, A_Rewrite_Loses_Nothing_Of_A_Hand_Written_File) {
     File() = "\xEF\xBB\xBF 1/1/2002=it\"s \n\n\"2/1/2002=a, b\",5/3/2002\r\"two\r\nlines\"\"5/3/2002=old\"  "
-             "\r\n\r\n";
+             "\r\n3/1/2002=\x93\xE9\x94\n\r\n\x1A 4/1/2002=behind the end";
     for (int repeated = 0; repeated < 2; ++repeated) {
         Save("new");
-        EXPECT_EQ(File(), "1/1/2002=it\"s\r\n" +
-                              Quoted({"", "2/1/2002=a, b", "5/3/2002", "two\r\nlines", "5/3/2002=new"}));
+        EXPECT_EQ(File(), "1/1/2002=it\"s\r\n" + Quoted({"", "2/1/2002=a, b", "5/3/2002", "two\r\nlines",
+                                                         "5/3/2002=new", "3/1/2002=\u201C\u00E9\u201D"}));
     }
 }
 
 TEST_F(Event_Store_Test, What_Cannot_Be_Read_Is_Told_And_Never_Overwritten) {
     const std::string path = "C:\\Vellatro\\calendar.dat";
-    for (const bool locked : {false, true}) { // or with a quote that is not closed
-        const std::string bytes = File() = "\"1/1/2002=A\"\r\n\"5/3/2002=B\r\n";
+    // A quote that is not closed, a NUL, UTF-16, and a file that another program holds.
+    for (const std::string &bytes : {"\"1/1/2002=A\"\r\n\"5/3/2002=B\r\n"s, "\"1/1/2002=A\"\0"s,
+                                     "\xFF\xFE\"\0001\0"s, "\"1/1/2002=A\""s}) {
+        const bool locked = bytes.ends_with("A\""), none = locked || bytes[0] != '"';
+        File() = bytes;
         if (locked)
             Fakes().unreadable.insert(path);
         for (const char *told :
              {loading_failed, loading_failed, loading_failed, saving_failed, saving_failed})
             Fakes().Expect_Box(told);
-        EXPECT_EQ(Entered(), locked ? Items{} : Items{"1/1/2002=A"});
-        EXPECT_EQ(store.Get_Message("1/1/2002").text, locked ? "" : "A");
+        EXPECT_EQ(Entered(), none ? Items{} : Items{"1/1/2002=A"});
+        EXPECT_EQ(store.Get_Message("1/1/2002").text, none ? "" : "A");
         Save("new");
-        store.Check_For_Pre("1/1/2002", locked ? "new" : "", false);
+        store.Check_For_Pre("2/1/2002", "new", false);
         EXPECT_EQ(File(), bytes);
     }
     EXPECT_EQ(Fakes().writes, 0);

@@ -10,8 +10,8 @@ namespace {
 
 std::vector<std::string> Read(std::string_view bytes) {
     std::vector<std::string> items;
-    Sequential_Reader reader(bytes);
     try {
+        Sequential_Reader reader(bytes);
         for (std::string_view item; reader.Next(item);)
             items.emplace_back(item);
     } catch (const Sequential_Error &) {
@@ -24,7 +24,15 @@ TEST(Sequential, Reads_By_Comma_And_Quote_Rules) {
     const std::pair<std::string, std::vector<std::string>> cases[] = {
         {"", {}},
         {"\"a, b\",\"c\"\r\n", {"a, b", "c"}},
-        {"\"nul\0inside\",n\0l"s, {"nul\0inside"s, "n\0l"s}},
+        {"\"nul\0inside\",n\0l"s, {"nul\0inside"s, "!"}},
+        {"\xFF\xFEn\0"s, {"!"}},
+        {"\xFE\xFF\0n"s, {"!"}},
+        {"\"1\x1A\" \x1A", {"1\x1A"}},
+        {"a,b \x1A\"", {"a", "b"}},
+        {"a\n\n\n \x1A\xFF,\0"s, {"a"}},
+        {"a\n\n\nb\x1A", {"a", "", "", "b"}},
+        // Each item is of one encoding.
+        {"\"\xE9\x80\",\u00E9\u65E5\n\xE9", {"\u00E9\u20AC", "\u00E9\u65E5", "\u00E9"}},
         {"a\nb\rc\r\nd", {"a", "b", "c", "d"}},
         {" \t a b \t,\t\" c \" \t, d \r\n", {"a b", " c ", "d"}},
         {"\"a\"\"b\" c\r\n\"d\"  \r\ne", {"a", "b", "c", "d", "e"}},
@@ -42,15 +50,15 @@ TEST(Sequential, Reads_By_Comma_And_Quote_Rules) {
 }
 
 TEST(Sequential, What_Is_Written_Reads_Back_The_Same) {
-    // A mark is one at the file's beginning only.
+    // A byte-order mark is one at the file's beginning only.
     const std::vector<std::string> items{
-        "\xEF\xBB\xBF \" quote", "a, b = c",     "",      " blanks ",
-        "two\r\nlines",          "nul\0inside"s, "it\"s", "\xEF\xBB\xBFmark"};
+        "\xEF\xBB\xBF \" quote", "a, b = c", "", " blanks ", "two\r\nlines", "nul\0inside"s, "it\"s",
+        "\xEF\xBB\xBFmark",      "\x1A"};
     std::string bytes;
     for (const std::string &item : items)
         Append_Item(bytes, item);
     const std::string before = bytes;
-    for (const char *impossible : {"\"a", "a\",b", "a\"\nb", " a\"", "a\" ", "\""})
+    for (const char *impossible : {"\"a", "a\",b", "a\"\nb", " a\"", "a\" ", "\"", "a\"\x1A"})
         EXPECT_THROW(Append_Item(bytes, impossible), Sequential_Error) << impossible;
     EXPECT_EQ(bytes, before);
     EXPECT_EQ(Read(bytes), items);

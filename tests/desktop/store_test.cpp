@@ -106,16 +106,6 @@ TEST_F(Damaged, File_Is_Told_And_Left_Alone) {
     }
 }
 
-TEST_F(Damaged, File_Held_By_Another_Program) {
-    const std::string bytes = "\"1/5/2027=Held\"\r\n";
-    Write_Data(bytes);
-    const HANDLE held = CreateFileW(Data_Path().c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
-    ASSERT_NE(held, INVALID_HANDLE_VALUE);
-    Is_Told_And_Survived("held", "");
-    CloseHandle(held);
-    EXPECT_EQ(Data(), bytes);
-}
-
 TEST_F(Stored, What_Cannot_Be_Written_Is_Told_And_Shown) {
     const std::string bytes = "\"1/5/2027=Before\"\r\n";
     const std::string loading = "stop [Vellatro] Error loading in data file.";

@@ -1,8 +1,8 @@
 // Windows, canvas, timers, screen, menus and the shell without a screen.
 #include "tests/fakes/fake_forms.h"
 
+#include "platform/characters.h"
 #include "platform/pictures.h"
-#include "platform/text.h"
 #include "platform/twips.h"
 #include "toolkit/form.h"
 

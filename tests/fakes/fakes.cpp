@@ -138,9 +138,17 @@ std::optional<Date_Time> Read_Date(std::string_view text) {
     return date.day <= DaysInMonth(first) ? std::optional(date) : std::nullopt;
 }
 
-// UTF-8, whatever the building machine's own encoding is.
-std::size_t Previous_Character(std::string_view text, std::size_t end) {
-    return Character_Begin(text, end, Step_Back_Utf8);
+// Windows-1252.
+std::string Ansi_To_Utf8(std::string_view bytes) {
+    constexpr char16_t from_80[] = u"\u20AC\u0081\u201A\u0192\u201E\u2026\u2020\u2021\u02C6\u2030\u0160"
+                                   u"\u2039\u0152\u008D\u017D\u008F\u0090\u2018\u2019\u201C\u201D\u2022"
+                                   u"\u2013\u2014\u02DC\u2122\u0161\u203A\u0153\u009D\u017E\u0178";
+    std::string text;
+    for (const char byte : bytes) {
+        const auto code = static_cast<unsigned char>(byte);
+        Append_Utf8(text, code >= 0x80 && code < 0xA0 ? from_80[code - 0x80] : code);
+    }
+    return text;
 }
 
 std::string Program_Folder() {

@@ -22,8 +22,9 @@ std::string Quoted(std::string text) {
 }
 
 TEST_F(Importing, reads_files_of_many_hands) {
-    const std::string before = "'25/12/9999=Christmas'\r\n'3/4/2002=Payday'\r\n";
-    const std::string yearly = "'25/12/9999=Christmas", payday = "'\r\n'3/4/2002=Payday", end = "'\r\n";
+    const std::string before = "'25/12/9999=Christmas'\r\n'3/4/2002=Payday \u20AC'\r\n";
+    const std::string yearly = "'25/12/9999=Christmas", payday = "'\r\n'3/4/2002=Payday \u20AC",
+                      end = "'\r\n";
     const std::string megabyte(1'000'000, 'x');
     const struct {
         const char *name;
@@ -57,6 +58,8 @@ TEST_F(Importing, reads_files_of_many_hands) {
          yearly + payday + " + s - " + megabyte + end},
         {"two digits of the year in the list", headings + "'s','3/4/1932','d'", 1,
          yearly + payday + "'\r\n'3/4/1932=s - d" + end},
+        {"an older code page, and an end mark", headings + "'s','3/4/2002','\xE9|\x1A'\r\n\x1A x", 1,
+         yearly + payday + " + s - \u00E9,\x1A" + end},
         {"no line", "", -1, before},
         {"an empty line at the end", headings + "'s','3/4/2002','d'\r\n\r\n", -1, before},
         {"no quote at all", headings + std::string(200'000, '\n'), -1, before},
@@ -190,6 +193,9 @@ TEST_F(Importing, replaces_the_data_file_when_the_user_agrees) {
         EXPECT_EQ(Text_Of(6), has_one ? "Newer" : "New");
         EXPECT_EQ(dialog->Events.Events_Lst.Items(), std::vector<std::string>{"6/3/2002  -  " + Text_Of(6)});
     }
+    File("C:\\other.dat") = std::string("\"\0006\0\"\0", 6); // UTF-16 without a mark
+    Import(0, "C:\\other.dat", "Error when importing data file.");
+    EXPECT_EQ(Data_File(), "\"6/3/2002=Newer\"\r\n");
 }
 
 } // namespace
