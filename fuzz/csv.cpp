@@ -3,7 +3,8 @@
 #include "core/convert.h"
 #include "core/sequential.h"
 #include "tests/fakes/fakes.h"
-#include "transfer/import.h"
+#include "transfer/csv.h"
+#include "transfer/merging.h"
 
 #include <cstdint>
 #include <cstdlib>
@@ -43,7 +44,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     for (const CSV_Event &event : events) {
         Demand(event.text.find_first_of("\"\r\n") == std::string::npos);
         Demand(event.date.month >= 1 && event.date.month <= 12 && event.date.day <= DaysInMonth(event.date));
-        merger.Merge(event.date, event.text);
+        Sort_Entry staged{0, event.date, false, {}, event.text};
+        merger.Merge(staged);
     }
     std::string bytes;
     for (const std::string &record : records)
