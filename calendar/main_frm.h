@@ -82,7 +82,8 @@ public:
     /// Takes one record in: into its box, if it belongs to the shown month, and as an alert, if it is
     /// today's. Throws Conversion_Error or another std::exception for a malformed one.
     void Enter_Date(std::string_view record, const Date &today);
-    /// Shows the text that was saved for a day in its box, if that is one of the shown month.
+    /// Shows the text that was saved for a day in its box, if that is one of the shown month. Where the same
+    /// month of another year is shown, a yearly event comes or goes with it.
     void Show_Saved(const Date &date, std::string_view text);
     void Update_Title();
     /// Makes today's month the shown one, without drawing it. Gives today.
@@ -273,10 +274,11 @@ private:
     std::array<std::optional<std::string>, box_count> entered_;
     bool contrast_ = false; ///< the shown colours are those of high contrast
     bool stale_ = false;    ///< what was laid out is not what the month shows now: it changed in compact mode
-    platform::Point placed_; ///< where Position_Form put the window last
-    platform::Point manual_; ///< where the user put it last, of which the settings hold what fits 16 bits
-    unsigned fills_ = 0;     ///< counts the fillings: one that begins inside another puts an end to that
-    int desktop_height_ = 0; ///< of the work area at the last placement, twips
+    platform::Point placed_;  ///< where Position_Form put the window last
+    platform::Point manual_;  ///< where the user put it last, of which the settings hold what fits 16 bits
+    unsigned fills_ = 0;      ///< counts the fillings: one that begins inside another puts an end to that
+    bool broken_off_ = false; ///< the last filling: events of the month may not be in their boxes
+    int desktop_height_ = 0;  ///< of the work area at the last placement, twips
     std::optional<Drag> drag_;
     std::optional<Drag> nudge_; ///< where the arrow keys took it up
 

@@ -45,10 +45,11 @@ void Main_Frm::Popup_Menu(int index, const Point *at) {
 void Main_Frm::Clear_Box(int index) {
     // A key of its own: an open editor keeps the day that it edits.
     const Date date = Date_Of_Box(index);
+    // A box that is empty because the reading broke off is no event that the user means.
+    if (broken_off_ && Box_Lbl[index].Access().value.empty())
+        return;
     Events.Load_File();
-    Events.Check_For_Pre(Date_Key(date), "", false);
-    // Midnight may have come while a failure was told, and the box may be another day's.
-    if (date != Date_Of_Box(index))
+    if (!Events.Check_For_Pre(Date_Key(date), "", false))
         return;
     Box_Caption_Lbl[index].Set_Caption({});
     Box_Caption_Lbl[index].Set_Tooltip({});

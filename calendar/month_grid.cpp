@@ -88,7 +88,7 @@ void Main_Frm::Load_Dates() {
     const Date today = Today();
     const unsigned fill = ++fills_;
     entered_ = {};
-    Events.Load_Dates(
+    const bool complete = Events.Load_Dates(
         [&](std::string_view record) {
             if (fill == fills_)
                 Enter_Date(record, today);
@@ -97,6 +97,8 @@ void Main_Frm::Load_Dates() {
             if (fill == fills_)
                 Show_Entered();
         });
+    if (fill == fills_)
+        broken_off_ = !complete;
 }
 
 /// Puts the texts that were entered since the last call into their boxes.
@@ -126,8 +128,15 @@ void Main_Frm::Enter_Date(std::string_view record, const Date &today) {
 }
 
 void Main_Frm::Show_Saved(const Date &date, std::string_view text) {
-    if (date.month == Cur_Month && date.year == Cur_Year)
-        Fill_Box(Start_Box(Cur_Month, Cur_Year) + date.day - 1, text);
+    if (date.month != Cur_Month)
+        return;
+    const int index = Start_Box(Cur_Month, Cur_Year) + date.day - 1;
+    if (date.year == Cur_Year)
+        return Fill_Box(index, text);
+    // In another year the day has another event, or the same one when it is or was a yearly one.
+    const Stored_Message message = Events.Get_Message(Date_Key({Cur_Year, date.month, date.day}));
+    if (!message.incomplete)
+        Fill_Box(index, message.text);
 }
 
 void Main_Frm::Fill_Box(int index, std::string_view text) {

@@ -5,6 +5,7 @@
 #include "core/event_store.h"
 #include "core/sequential.h"
 #include "platform/files.h"
+#include "platform/joined.h"
 #include "platform/locale.h"
 
 #include <algorithm>
@@ -66,7 +67,7 @@ Reading Read_Entries(platform::Callback_Ref<void(const Event_Entry &)> take) {
         const std::string bytes = platform::Read_File(path);
         Sequential_Reader reader(bytes);
         Event_Entry entry;
-        for (std::string_view item; reader.Next(item);)
+        for (std::string_view item; reader.Next(item); ++entry.place)
             if (Read_Entry(item, entry))
                 take(entry);
     } catch (const platform::File_Error &) {
@@ -89,8 +90,8 @@ Reading Load_Entries(std::vector<Sort_Entry> &entries, Sort_Order order, const D
     entries.clear();
     const Reading reading = Read_Entries([&](const Event_Entry &entry) {
         const Date date = Day_In_Year(entry, today.year);
-        entries.push_back(
-            {Day_Number(date), date, entry.yearly, std::string(entry.key), std::string(entry.text)});
+        entries.push_back({Day_Number(date), date, entry.yearly, std::string(entry.key),
+                           std::string(entry.text), entry.place});
     });
     if (order == Sort_Order::Date_Added || entries.empty())
         return reading;
@@ -98,6 +99,20 @@ Reading Load_Entries(std::vector<Sort_Entry> &entries, Sort_Order order, const D
     if (order == Sort_Order::Descending_Date)
         std::reverse(entries.begin(), entries.end());
     return reading;
+}
+
+bool Remove_Record(std::vector<std::string> &records, const Sort_Entry &event) {
+    const std::string record = platform::Joined({event.key, "=", event.text});
+    // Of records that are alike the place tells which one; the file may have changed since.
+    auto at = records.end();
+    if (event.place < records.size() && records[event.place] == record)
+        at = records.begin() + static_cast<std::ptrdiff_t>(event.place);
+    else
+        at = std::find(records.begin(), records.end(), record);
+    if (at == records.end())
+        return false;
+    records.erase(at);
+    return true;
 }
 
 std::string Line_Head(const Sort_Entry &entry) {

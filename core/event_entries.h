@@ -5,6 +5,7 @@
 #include "core/date.h"
 #include "platform/callback.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -16,6 +17,7 @@ struct Event_Entry {
     std::string_view text;
     Date date; ///< of a yearly event the year is `every_year`
     bool yearly = false;
+    std::size_t place = 0; ///< of the record among the items of the file, from 0
 };
 
 /// Takes a record apart; false for a malformed one: without "=" or with a key that is no day of the years
@@ -44,11 +46,16 @@ struct Sort_Entry {
     bool yearly = false;
     std::string key; ///< of its record, as it is written in the data file
     std::string text;
+    std::size_t place = 0; ///< of its record in the file; of an imported event, of its text in the record's
 };
 
 /// Replaces `entries` by the events of the data file, by `order`: by date, the events of a day in file order
 /// and, descending, in the reverse of that; or all in file order. What cannot be read is left out.
 Reading Load_Entries(std::vector<Sort_Entry> &entries, Sort_Order order, const Date &today);
+
+/// Takes the record of the event out of `records`, the items of the data file. False when it is not among
+/// them any more.
+bool Remove_Record(std::vector<std::string> &records, const Sort_Entry &event);
 
 /// What stands before the text in the line of an event: its date in the user's short form, and the separator.
 std::string Line_Head(const Sort_Entry &entry);

@@ -1,7 +1,6 @@
 // The procedures over calendar.dat, and the one place each where a failure is told to the user.
 #include "core/event_store.h"
 
-#include "core/convert.h"
 #include "core/date.h"
 #include "core/sequential.h"
 #include "platform/files.h"
@@ -25,6 +24,24 @@ bool Read_Data_File(std::string &bytes) {
         return false;
     bytes = platform::Read_File(path);
     return true;
+}
+
+/// Calls `take` with each item of the data file that is a record, parted. A line without "=", as of a note or
+/// an empty one, is none and hides no other. Returns whether the file held none of those. Throws
+/// platform::File_Error, Sequential_Error and what `take` throws.
+bool Each_Record(platform::Callback_Ref<void(std::string_view item, const Event_Record &parts)> take) {
+    std::string bytes;
+    if (!Read_Data_File(bytes))
+        return true;
+    bool sound = true;
+    Sequential_Reader reader(bytes);
+    for (std::string_view item; reader.Next(item);) {
+        if (Event_Record parts; Part_Record(item, parts))
+            take(item, parts);
+        else
+            sound = false;
+    }
+    return sound;
 }
 
 std::string All_Records(const std::vector<std::string> &records) {
@@ -53,7 +70,7 @@ std::string Event_Store::Data_File() {
     return platform::Program_Folder() + "\\calendar.dat";
 }
 
-void Event_Store::Load_File() {
+bool Event_Store::Load_File() {
     try {
         std::string bytes;
         partly_loaded_ = true;
@@ -67,24 +84,23 @@ void Event_Store::Load_File() {
     } catch (const std::exception &) {
         Tell_Loading_Failed();
     }
+    return !partly_loaded_;
 }
 
-void Event_Store::Check_For_Pre(const std::string &key, const std::string &text, bool each_year) {
+bool Event_Store::Check_For_Pre(const std::string &key, const std::string &text, bool each_year) {
     const std::string every = Every_Year_Key(key);
     const auto same_day = [&](const std::string &record) {
         Event_Record parts;
         return Part_Record(record, parts) && (parts.key == key || parts.key == every);
     };
     const auto match = std::find_if(Temp_Lst.begin(), Temp_Lst.end(), same_day);
-    if (match == Temp_Lst.end()) {
-        Write_New_Line(key, text, each_year);
-        return;
-    }
+    if (match == Temp_Lst.end())
+        return Write_New_Line(key, text, each_year);
     if (text.empty())
         Temp_Lst.erase(match);
     else
         *match = platform::Joined({each_year ? every : key, "=", text});
-    Write_ALL();
+    return Write_ALL();
 }
 
 void Event_Store::Write_Whole(const std::string &added) const {
@@ -100,63 +116,63 @@ void Event_Store::Write_Data_File() {
     Write_Whole({});
 }
 
-void Event_Store::Rewrite_File(const std::string &added) {
+bool Event_Store::Rewrite_File(const std::string &added) {
     try {
         Write_Whole(added);
+        return true;
     } catch (const std::exception &) {
-        platform::Message_Box("Error saving data file.", "Vellatro", platform::Box_Icon::Stop);
+        return Refuse_Save();
     }
 }
 
-void Event_Store::Write_ALL() {
-    Rewrite_File({});
+bool Event_Store::Refuse_Save() {
+    platform::Message_Box("Error saving data file.", "Vellatro", platform::Box_Icon::Stop);
+    return false;
 }
 
-void Event_Store::Write_New_Line(const std::string &key, const std::string &text, bool each_year) {
-    if (!text.empty())
-        Rewrite_File(platform::Joined({each_year ? Every_Year_Key(key) : key, "=", text}));
+bool Event_Store::Write_ALL() {
+    return Rewrite_File({});
+}
+
+bool Event_Store::Write_New_Line(const std::string &key, const std::string &text, bool each_year) {
+    if (text.empty())
+        return !partly_loaded_;
+    return Rewrite_File(platform::Joined({each_year ? Every_Year_Key(key) : key, "=", text}));
 }
 
 Stored_Message Event_Store::Get_Message(const std::string &key) {
     const std::string every = Every_Year_Key(key);
     Stored_Message message;
+    bool sound = false;
     try {
-        std::string bytes;
-        if (!Read_Data_File(bytes))
-            return message;
-        Sequential_Reader reader(bytes);
-        for (std::string_view item; reader.Next(item);) {
-            Event_Record parts;
-            if (!Part_Record(item, parts))
-                throw Conversion_Error("a record of the form date=text");
+        sound = Each_Record([&](std::string_view, const Event_Record &parts) {
             if (parts.key == every)
                 message.every_year = true;
             else if (parts.key != key)
-                continue;
+                return;
             message.text = parts.text;
-        }
+        });
     } catch (const std::exception &) {
         // What was found so far is kept: an editor that showed nothing would invite to save nothing.
         message.incomplete = true;
-        Tell_Loading_Failed();
     }
+    if (!sound)
+        Tell_Loading_Failed();
     return message;
 }
 
-void Event_Store::Load_Dates(platform::Callback_Ref<void(std::string_view record)> enter,
+bool Event_Store::Load_Dates(platform::Callback_Ref<void(std::string_view record)> enter,
                              platform::Callback<void()> entered) {
     bool complete = false;
+    bool sound = false;
     try {
-        std::string bytes;
-        Read_Data_File(bytes);
-        Sequential_Reader reader(bytes);
-        for (std::string_view item; reader.Next(item);)
-            enter(item);
+        sound = Each_Record([&](std::string_view item, const Event_Record &) { enter(item); });
         complete = true;
     } catch (const std::exception &) { // told below
     }
     if (entered)
         entered();
-    if (!complete)
+    if (!sound)
         Tell_Loading_Failed();
+    return complete;
 }

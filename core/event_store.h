@@ -35,43 +35,47 @@ public:
     /// The path of calendar.dat.
     static std::string Data_File();
 
-    /// Fills Temp_Lst from the file; without a file it stays as it is. A failure shows "Error loading in data
-    /// file.".
-    void Load_File();
+    /// Fills Temp_Lst from the file, with the lines that are no records; without a file it stays as it is.
+    /// Returns false when the file could not be read to its end, which shows "Error loading in data file.".
+    bool Load_File();
 
     /// Stores `text` as the event of the day `key`, an exact key: replaces, removes or adds the record, then
     /// saves. The first record of the day counts, be it exact or every-year. An empty text removes it, and
-    /// where there is none leaves the file untouched.
-    void Check_For_Pre(const std::string &key, const std::string &text, bool each_year);
+    /// where there is none leaves the file untouched. Returns false when the file does not hold `text` now,
+    /// which the user has been told.
+    bool Check_For_Pre(const std::string &key, const std::string &text, bool each_year);
 
     /// Rewrites the file from Temp_Lst. Throws platform::File_Error, Sequential_Error for a record that
     /// cannot be written, and the former after a failed Load_File, too: a rewrite would lose what was not
     /// read. The file is as it was then.
     void Write_Data_File();
 
-    /// The same, but a failure shows "Error saving data file.".
-    void Write_ALL();
+    /// The same, but a failure shows "Error saving data file." and returns false.
+    bool Write_ALL();
 
     /// Rewrites the file from Temp_Lst with one record more, which does not enter Temp_Lst. Does nothing when
-    /// `text` is empty.
-    void Write_New_Line(const std::string &key, const std::string &text, bool each_year);
+    /// `text` is empty. Returns false when that failed, or the last Load_File did.
+    bool Write_New_Line(const std::string &key, const std::string &text, bool each_year);
+
+    /// Shows "Error saving data file." for a save that must not be tried. Returns false.
+    static bool Refuse_Save();
 
     /// The event of the day `key`: of several records the last one in the file. Without a file there is none.
-    /// A failure, of which a record without "=" is one, shows the message of Load_File; what was found before
-    /// it is returned.
+    /// A failure shows the message of Load_File; what was found before it is returned. Lines without "=" show
+    /// it, too, but once, and the records behind them count.
     Stored_Message Get_Message(const std::string &key);
 
     /// Calls `enter` for each record in file order; the view it is given lasts for the call. An exception of
-    /// it ends the reading with the message of Load_File. `entered` is called after the last record, before
-    /// that message.
-    void Load_Dates(platform::Callback_Ref<void(std::string_view record)> enter,
+    /// it ends the reading with the message of Load_File, which lines without "=" show, too. `entered` is
+    /// called after the last record, before that message. Returns whether all records were entered.
+    bool Load_Dates(platform::Callback_Ref<void(std::string_view record)> enter,
                     platform::Callback<void()> entered = nullptr);
 
 private:
     /// Writes Temp_Lst and, unless it is empty, the record `added`. Throws as Write_Data_File does.
     void Write_Whole(const std::string &added) const;
     /// The same with a message for a failure.
-    void Rewrite_File(const std::string &added);
+    bool Rewrite_File(const std::string &added);
 
     bool partly_loaded_ = false; ///< the last Load_File failed: a rewrite would lose what it did not read
 };

@@ -86,6 +86,7 @@ void Edit_Frm::Fill() {
     const Raised raised(busy_);
     Message_Txt.Set_Text({});
     const Stored_Message message = calendar_.Events.Get_Message(Date_Key(day_));
+    unread_ = message.incomplete;
     if (message.every_year)
         Every_Year_Chk.Set_Checked(true);
     Message_Txt.Set_Text(message.text);
@@ -138,7 +139,14 @@ bool Edit_Frm::Apply_Btn_Click() {
     }
     const std::string text = Message_Txt.Text();
     calendar_.Events.Load_File();
-    calendar_.Events.Check_For_Pre(Date_Key(day_), text, Every_Year_Chk.Checked());
+    // What the day had may not be here: it would go unseen, also when the file can be read by now.
+    const bool saved = unread_
+                           ? Event_Store::Refuse_Save()
+                           : calendar_.Events.Check_For_Pre(Date_Key(day_), text, Every_Year_Chk.Checked());
+    if (!saved) {
+        Apply_Btn.Set_Enabled(true);
+        return false;
+    }
     calendar_.Show_Saved(day_, text);
     Apply_Btn.Set_Enabled(false);
     calendar_.Alert_Done = true;

@@ -24,7 +24,8 @@ public:
     /// False when the text holds a double quote, which no record can carry.
     bool Check_Quotes() const;
 
-    /// Saves and closes. False when the text was refused, which the user has been told.
+    /// Saves and closes. False when the text was refused or could not be saved, which the user has been told;
+    /// the editor stays open with it then.
     bool Apply_Btn_Click();
     void Ok_Btn_Click();
     void Cancel_Btn_Click();
@@ -50,6 +51,7 @@ private:
     void Place_Near(const Control &box);
 
     Main_Frm &calendar_;
-    Date day_;          ///< being edited; its key and its box follow from it
-    bool busy_ = false; ///< in a procedure that shows message boxes
+    Date day_;            ///< being edited; its key and its box follow from it
+    bool unread_ = false; ///< the day's event may be one that the editor has not seen
+    bool busy_ = false;   ///< in a procedure that shows message boxes
 };

@@ -46,9 +46,14 @@ Date_Time Modified_Time(const std::string &path);
 std::string Read_File(const std::string &path);
 
 /// Makes `bytes` the content of the file, whole or not at all: they are written to a new file beside it,
-/// flushed to the disk, and the new file takes the name over. Throws File_Error, and then the old file is as
-/// it was.
+/// flushed to the disk, and the new file takes the name over, with the access list of the old one where that
+/// has one of its own. Behind a symbolic link it is the file that the link names. Throws File_Error, and then
+/// the old file is as it was.
 void Replace_File(const std::string &path, std::string_view bytes);
+
+/// Makes `to` a copy of the file `from`, whole or not at all, which counts as written when `from` was. Throws
+/// File_Error, and then an old `to` is as it was.
+void Copy_File(const std::string &from, const std::string &to);
 
 /// Deletes a plain file, also one that is hidden, but none that is write-protected. Throws File_Error.
 void Delete_File(const std::string &path);

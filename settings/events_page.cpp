@@ -1,8 +1,10 @@
 // What the Events page does. Where its controls are is in events_page_layout.cpp.
 #include "settings/events_page.h"
 
+#include "platform/files.h"
 #include "platform/message_box.h"
 #include "toolkit/keys.h"
+#include "transfer/merging.h"
 
 #include <algorithm>
 #include <string>
@@ -99,6 +101,7 @@ void Events_Page::Reload() {
 
 void Events_Page::Show_Imported(std::vector<Sort_Entry> staged) {
     Dates_Lst = std::move(staged);
+    staged_ = true;
     Title_Frame(Overview_Fra, Reading::Complete);
     Sort_List();
     Get_Stats();
@@ -124,6 +127,7 @@ void Events_Page::Sort_Cbo_Click() {
 }
 
 void Events_Page::List_Events() {
+    staged_ = false;
     Title_Frame(Overview_Fra, Loadin_Data());
     Sort_List();
 }
@@ -160,27 +164,41 @@ void Events_Page::Events_Lst_DblClick() {
     if (index == -1)
         return;
     const auto line = static_cast<std::size_t>(index);
-    // The key as the record has it: of a yearly event that of no single day, which would also match another
-    // event. A key of its own, too: an open editor keeps the day that it edits.
-    const std::string key = Dates_Lst[line].key;
     const platform::Box_Answer answer =
         platform::Message_Box("Do you really want to remove the event..\r\n\r\n" + Events_Lst.Items()[line],
                               "Vellatro", platform::Box_Icon::Question, platform::Box_Buttons::Yes_No_Cancel);
-    if (answer != platform::Box_Answer::Yes)
+    if (answer != platform::Box_Answer::Yes || !Remove_Event(line))
         return;
-    calendar_.Events.Load_File();
-    calendar_.Events.Check_For_Pre(key, "", false);
-    Show_Change(index);
+    // The line that is in its place now is the selected one, for who goes on by keyboard.
+    Events_Lst.Select(std::min(index, static_cast<int>(Events_Lst.Items().size()) - 1));
+    Events_Lst_Click();
     // A compact calendar shows no event; it lays its month out anew when it expands.
     if (!calendar_.Compacted)
         calendar_.Redraw();
 }
 
-/// Shows the events after the one of line `index` was removed. They are read again, so that a removal that
-/// failed leaves its line. The line that is in its place now is the selected one, for who goes on by
-/// keyboard.
-void Events_Page::Show_Change(int index) {
-    Reload();
-    Events_Lst.Select(std::min(index, static_cast<int>(Events_Lst.Items().size()) - 1));
-    Events_Lst_Click();
+/// Removes the event of the line, and that one alone, from the data file and the line from the list. False:
+/// it is still in both, which the user has been told.
+bool Events_Page::Remove_Event(std::size_t line) {
+    Event_Store &events = calendar_.Events;
+    if (!events.Load_File())
+        return false;
+    std::vector<Sort_Entry> rest = Dates_Lst;
+    // Without a file Temp_Lst is not what is stored.
+    const bool there =
+        platform::File_Exists(Event_Store::Data_File()) &&
+        (staged_ ? Unmerge(events.Temp_Lst, rest, line) : Remove_Record(events.Temp_Lst, rest[line]));
+    if (!there)
+        platform::Message_Box("This event is no longer in the data file.", "Vellatro",
+                              platform::Box_Icon::Exclamation);
+    else if (!events.Write_ALL())
+        return false;
+    if (staged_) {
+        Dates_Lst = std::move(rest);
+        Events_Lst.Remove_Item(static_cast<int>(line));
+        Get_Stats();
+    } else {
+        Reload();
+    }
+    return true;
 }

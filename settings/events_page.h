@@ -71,10 +71,11 @@ private:
     void Sort_List();
     void List_Events();
     void Events_Lst_KeyDown(const platform::Input_Event &event);
-    void Show_Change(int index);
+    bool Remove_Event(std::size_t line);
     void Lay_Out_Overview();
     void Lay_Out_Statistics();
 
     Main_Frm &calendar_;
     Event_Statistics statistics_;
+    bool staged_ = false; ///< the list shows what was imported, and not the data file
 };

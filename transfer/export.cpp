@@ -79,8 +79,8 @@ std::string Short_Date(const Date &date) {
     return platform::Short_Date(date.year, date.month, date.day);
 }
 
-/// The file's bytes and the closing message without the file's name. False when there is nothing to export,
-/// which the user has been told.
+/// The bytes of a file that is not a copy, and the closing message without the file's name. False when there
+/// is nothing to export, which the user has been told.
 bool Make_Content(Export_Kind kind, platform::Callback_Ref<Settings()> shown, Progress &progress,
                   std::string &bytes, std::string &message) {
     const std::string to = kinds[static_cast<std::size_t>(kind)].to;
@@ -95,7 +95,6 @@ bool Make_Content(Export_Kind kind, platform::Callback_Ref<Settings()> shown, Pr
                  platform::Box_Icon::Exclamation);
             return false;
         }
-        bytes = platform::Read_File(Event_Store::Data_File());
         return true;
     }
     std::vector<Sort_Entry> entries;
@@ -147,7 +146,10 @@ void Export_File(Export_Kind kind, OpenSaveDialog &dialog, platform::Callback_Re
     std::string bytes, message;
     if (!Make_Content(kind, shown, progress, bytes, message))
         return;
-    platform::Replace_File(name, bytes);
+    if (kind == Export_Kind::Data_File)
+        platform::Copy_File(Event_Store::Data_File(), name);
+    else
+        platform::Replace_File(name, bytes);
     progress.End();
     Tell(platform::Joined({message, "\r\n", name}), platform::Box_Icon::Information);
 }

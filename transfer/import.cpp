@@ -10,6 +10,7 @@
 #include "platform/message_box.h"
 #include "toolkit/guard.h"
 #include "transfer/configuration.h"
+#include "transfer/merging.h"
 
 #include <algorithm>
 #include <exception>
@@ -37,56 +38,52 @@ void Demand_Text(const std::string &path) {
     }
 }
 
-void Copy_File(const std::string &from, const std::string &to) {
-    platform::Replace_File(to, platform::Read_File(from));
-}
-
 /// Keeps the data file for the length of an import, and longer when that went well.
 class Backup {
 public:
-    Backup() : file_was_there_(platform::File_Exists(Event_Store::Data_File())) {
+    explicit Backup(std::vector<std::string> &records)
+        : records_(records), before_(records),
+          file_was_there_(platform::File_Exists(Event_Store::Data_File())) {
         if (file_was_there_)
-            Copy_File(Event_Store::Data_File(), Importer::Backup_File());
+            platform::Copy_File(Event_Store::Data_File(), Importer::Backup_File());
     }
-    /// Makes the data file what it was; the copy goes. Where there was none, there is none again; a copy that
-    /// an earlier import has left does not come back then, but stays: it may be all that the user has.
+    /// Makes the records and the data file what they were; the copy goes. Where there was no file, there is
+    /// none again; a copy that an earlier import has left does not come back then, but stays: it may be all
+    /// that the user has.
     void Restore() const {
+        records_ = before_;
         if (!file_was_there_) {
             if (platform::File_Exists(Event_Store::Data_File()))
                 platform::Delete_File(Event_Store::Data_File());
         } else if (platform::File_Exists(Importer::Backup_File())) {
-            Copy_File(Importer::Backup_File(), Event_Store::Data_File());
+            platform::Copy_File(Importer::Backup_File(), Event_Store::Data_File());
             platform::Delete_File(Importer::Backup_File());
         }
     }
 
 private:
+    std::vector<std::string> &records_;
+    std::vector<std::string> before_;
     bool file_was_there_;
 };
 
-} // namespace
-
-Record_Merger::Record_Merger(std::vector<std::string> &records) : records_(records) {
-    // A record without "=", which only another hand can have written, is one of no day.
-    for (std::size_t i = 0; i < records.size(); ++i)
-        if (Event_Record parts; Part_Record(records[i], parts))
-            first_.emplace(parts.key, i);
-}
-
-void Record_Merger::Merge(const Date &date, const std::string &text) {
-    const std::string key = Date_Key(date);
-    const auto exact = first_.find(key);
-    const auto yearly = first_.find(Date_Key({every_year, date.month, date.day}));
-    if (exact == first_.end() && yearly == first_.end()) {
-        first_.emplace(key, records_.size());
-        records_.push_back(platform::Joined({key, "=", text}));
-        return;
+/// The key of the first record that cannot be written: a hand-written one that holds a quote, and that was
+/// joined by a text with a comma in it.
+std::string First_Unwritable(const std::vector<std::string> &records) {
+    Event_Record parts;
+    std::string bytes;
+    try {
+        for (const std::string &record : records) {
+            Part_Record(record, parts);
+            Append_Item(bytes, record);
+        }
+    } catch (const Sequential_Error &) {
+        return std::string(parts.key);
     }
-    const std::size_t index = exact == first_.end()    ? yearly->second
-                              : yearly == first_.end() ? exact->second
-                                                       : std::min(exact->second, yearly->second);
-    records_[index].append(" + ").append(text);
+    return {};
 }
+
+} // namespace
 
 Importer::Importer(Main_Frm &calendar, OpenSaveDialog &dialog) : calendar_(calendar), dialog_(dialog) {
 }
@@ -118,7 +115,7 @@ void Importer::Import_CSV() {
     std::vector<Sort_Entry> staged;
     bool listed = true; // nothing is to be listed before a file is chosen
     try {
-        backup.emplace();
+        backup.emplace(calendar_.Events.Temp_Lst);
         if (!Ask_File("Import Events from CSV File", "Comma Separated Values File (*.csv)|*.csv", false))
             return;
         Work.Begin();
@@ -140,8 +137,11 @@ void Importer::Import_CSV() {
                 backup->Restore();
         } catch (const std::exception &) { // the copy stays, for whoever looks
         }
-        if (!listed) // the events before the error, beside the counts of the restored file
+        if (!listed) { // the events before the error, beside the counts of the restored file
+            for (Sort_Entry &event : staged)
+                event.key.clear(); // none is in the file
             Show_Staged(std::move(staged));
+        }
         Work.End();
         Tell("Error when importing from CSV file.", platform::Box_Icon::Exclamation);
     }
@@ -157,8 +157,7 @@ void Importer::Read_Events(const std::string &bytes, std::vector<Sort_Entry> &st
     CSV_Event event;
     while (!lines.At_End()) {
         if (Read_CSV_Line(lines.Next_Record(), columns_, event))
-            staged.push_back(
-                {Day_Number(event.date), event.date, false, Date_Key(event.date), std::move(event.text)});
+            staged.push_back({Day_Number(event.date), event.date, false, {}, std::move(event.text)});
         if (Work.Due())
             Work.Show(lines.Position(), bytes.size() / 9 * 10);
     }
@@ -169,21 +168,40 @@ void Importer::Read_Events(const std::string &bytes, std::vector<Sort_Entry> &st
 /// what it is after some number of events, so that nobody can tell the difference, also when the program is
 /// killed. While windows are painted a session that ends may have unsaved text stored; so the file is read
 /// again afterwards.
-void Importer::Merge_Imported(const std::vector<Sort_Entry> &staged) {
+void Importer::Merge_Imported(std::vector<Sort_Entry> &staged) {
     std::size_t i = 0;
     do {
         calendar_.Events.Load_File();
         Record_Merger merger(calendar_.Events.Temp_Lst);
         bool due = false;
         for (; i < staged.size() && !due; ++i) {
-            merger.Merge(staged[i].date, staged[i].text);
+            merger.Merge(staged[i]);
             due = Work.Due();
         }
         if (!staged.empty())
-            calendar_.Events.Write_Data_File();
+            Write_Merged(staged);
         if (due)
             Work.Show(9 * staged.size() + i, 10 * staged.size());
     } while (i < staged.size());
+}
+
+/// Throws as Write_Data_File does, and tells which day's record cannot be written.
+void Importer::Write_Merged(const std::vector<Sort_Entry> &staged) const {
+    try {
+        calendar_.Events.Write_Data_File();
+    } catch (const Sequential_Error &) {
+        const std::string key = First_Unwritable(calendar_.Events.Temp_Lst);
+        const auto event = std::find_if(staged.begin(), staged.end(),
+                                        [&](const Sort_Entry &each) { return each.key == key; });
+        if (event != staged.end())
+            Tell(
+                platform::Joined(
+                    {"The event of ",
+                     platform::Short_Date(event->date.year, event->date.month, event->date.day),
+                     " holds a quotation mark (\"). Remove it before you import another event of that day."}),
+                platform::Box_Icon::Exclamation);
+        throw;
+    }
 }
 
 void Importer::Import_Config() {
@@ -250,7 +268,7 @@ void Importer::Import_Data_File() {
             return;
         Demand_Text(dialog_.FileName);
         if (May_Replace()) {
-            Copy_File(dialog_.FileName, Event_Store::Data_File());
+            platform::Copy_File(dialog_.FileName, Event_Store::Data_File());
             Data_File_Replaced();
         }
         calendar_.Redraw();

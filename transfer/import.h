@@ -1,5 +1,6 @@
 // Importing: events, a configuration and whole data files out of files that the user chooses. How a file of
-// events is read is in csv.h, a configuration in configuration.h.
+// events is read is in csv.h and how its events join the others in merging.h, a configuration in
+// configuration.h.
 #pragma once
 
 #include "calendar/main_frm.h"
@@ -10,22 +11,7 @@
 #include "ui/open_save_dialog.h"
 
 #include <string>
-#include <unordered_map>
 #include <vector>
-
-/// Folds events into the records as they are stored: an event joins the first record of its day, be that one
-/// an exact or an every-year one, and otherwise becomes the last record. Knows each day's first record, so
-/// that no event costs a search.
-class Record_Merger {
-public:
-    /// `records` must outlive the merger, and nobody else may change it.
-    explicit Record_Merger(std::vector<std::string> &records);
-    void Merge(const Date &date, const std::string &text);
-
-private:
-    std::vector<std::string> &records_;
-    std::unordered_map<std::string, std::size_t> first_; ///< key to index
-};
 
 /// The three imports, with all messages to the user. None throws.
 class Importer {
@@ -56,7 +42,8 @@ public:
 private:
     bool Ask_File(const char *title, const char *filter, bool not_own_file);
     void Read_Events(const std::string &bytes, std::vector<Sort_Entry> &staged);
-    void Merge_Imported(const std::vector<Sort_Entry> &staged);
+    void Merge_Imported(std::vector<Sort_Entry> &staged);
+    void Write_Merged(const std::vector<Sort_Entry> &staged) const;
     void Redraw_Configured();
     bool May_Replace() const;
 

@@ -1,11 +1,14 @@
 // Whole files: platform/files.h over Win32. A file is replaced through a neighbour that bears its name and
-// ".vellatro-new"; one that a killed run left behind is thrown away by the next replacement.
+// ".vellatro-new"; one that a killed run left behind is thrown away by the next replacement. Renaming is what
+// the system does whole or not at all. ReplaceFile, which would keep the access list, is not: between its two
+// steps there is no file of the name.
 #include "platform/files.h"
 
 #include "platform/joined.h"
 #include "win32/handles.h"
 #include "win32/paths.h"
 #include "win32/system_error.h"
+#include "win32/system_library.h"
 #include "win32/wide_text.h"
 
 #include <algorithm>
@@ -16,6 +19,7 @@ namespace platform {
 namespace {
 
 constexpr const char *New_File_Ending = ".vellatro-new";
+constexpr DWORD Share_All = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
 
 /// What a 32-bit process can surely hold twice; longer files are refused.
 constexpr DWORD Longest_File = 0x20000000;
@@ -103,11 +107,58 @@ DWORD Write_All(HANDLE file, std::string_view bytes) {
     return code == ERROR_INVALID_FUNCTION || code == ERROR_NOT_SUPPORTED ? DWORD{NO_ERROR} : code;
 }
 
-/// Makes the file anew with these bytes and attributes. Gives an error code.
-DWORD Write_New_File(const std::wstring &path, std::string_view bytes, DWORD attributes) {
+/// Opens a file for asking about it, which also goes while another program has it for itself.
+win32::Unique_File Open_To_Ask(const std::wstring &path) {
+    return win32::Unique_File(CreateFileW(path.c_str(), 0, Share_All, nullptr, OPEN_EXISTING, 0, nullptr));
+}
+
+/// The file's path behind all symbolic links; empty where the system cannot tell, as before Windows Vista,
+/// which has no such links, or when there is no file.
+std::wstring Behind_Links(const std::wstring &path) {
+    using Final_Path = DWORD WINAPI(HANDLE, LPWSTR, DWORD, DWORD);
+    auto *const final_path = win32::Look_Up<Final_Path>(L"kernel32.dll", "GetFinalPathNameByHandleW");
+    const win32::Unique_File file = Open_To_Ask(path);
+    if (final_path == nullptr || !file)
+        return {};
+    std::wstring found(MAX_PATH, L'\0');
+    DWORD length = final_path(file.Get(), found.data(), MAX_PATH, 0);
+    if (length > MAX_PATH) { // with the zero at its end
+        found.resize(length);
+        length = final_path(file.Get(), found.data(), length, 0);
+    }
+    found.resize(length < found.size() ? length : 0);
+    return found;
+}
+
+/// Gives a new file the access list of another one. Where there are no such lists it keeps what its folder
+/// gives.
+void Take_Access_List(const std::wstring &from, const std::wstring &to) {
+    DWORD size = 0;
+    GetFileSecurityW(from.c_str(), DACL_SECURITY_INFORMATION, nullptr, 0, &size);
+    std::string space(size, '\0');
+    auto *const list = reinterpret_cast<SECURITY_DESCRIPTOR_RELATIVE *>(space.data());
+    if (size < sizeof *list || !GetFileSecurityW(from.c_str(), DACL_SECURITY_INFORMATION, list, size, &size))
+        return;
+    // What the list has from the folder goes on following that.
+    if ((list->Control & SE_DACL_AUTO_INHERITED) != 0)
+        list->Control |= SE_DACL_AUTO_INHERIT_REQ;
+    SetFileSecurityW(to.c_str(), DACL_SECURITY_INFORMATION, list);
+}
+
+/// Makes the file anew with these bytes and attributes, and with the access list of the file `old`, if there
+/// is one. Gives an error code.
+DWORD Write_New_File(const std::wstring &path, std::string_view bytes, DWORD attributes,
+                     const std::wstring &old, const FILETIME *written) {
     const win32::Unique_File file(
         CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, attributes, nullptr));
-    return file ? Write_All(file.Get(), bytes) : GetLastError();
+    if (!file)
+        return GetLastError();
+    Take_Access_List(old, path);
+    const DWORD code = Write_All(file.Get(), bytes);
+    // A disk that does not keep the time is no reason to keep no copy.
+    if (code == NO_ERROR && written != nullptr)
+        SetFileTime(file.Get(), nullptr, nullptr, written);
+    return code;
 }
 
 /// Gives the file the name `to`, in whose place nothing else stays. Gives an error code.
@@ -127,6 +178,48 @@ void Remove_File(const std::wstring &path) {
     // A copy that kept a write protection could never be thrown away.
     SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_NORMAL);
     DeleteFileW(path.c_str());
+}
+
+/// Replaces the file; `written` is the time that it counts as written, null: now. Throws File_Error.
+void Replace(const std::string &path, std::string_view bytes, const FILETIME *written) {
+    std::wstring wide = win32::Path_For_Call(path);
+    std::wstring new_file = win32::Path_For_Call(path + New_File_Ending);
+    if (wide.empty())
+        Throw(path, ERROR_INVALID_NAME);
+    const Quiet_Errors quiet;
+    if (const std::wstring real = Behind_Links(wide); !real.empty()) {
+        wide = real;
+        new_file = real + win32::To_Wide(New_File_Ending);
+    }
+    DWORD attributes = GetFileAttributesW(wide.c_str());
+    if (attributes == INVALID_FILE_ATTRIBUTES)
+        attributes = 0;
+    if ((attributes & (FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY)) != 0)
+        Throw(path, ERROR_ACCESS_DENIED);
+    // A hidden file stays hidden, an encrypted one encrypted.
+    attributes &= FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_ENCRYPTED |
+                  FILE_ATTRIBUTE_NOT_CONTENT_INDEXED;
+    Remove_File(new_file);
+    DWORD code = Write_New_File(new_file, bytes, attributes | FILE_ATTRIBUTE_ARCHIVE, wide, written);
+    if (code == NO_ERROR)
+        code = Rename_Over(new_file, wide);
+    if (code != NO_ERROR) {
+        Remove_File(new_file);
+        Throw(path, code);
+    }
+}
+
+/// When the file was written last. Throws File_Error.
+FILETIME Written(const std::string &path) {
+    const std::wstring wide = win32::Path_For_Call(path);
+    if (wide.empty())
+        Throw(path, ERROR_INVALID_NAME);
+    const Quiet_Errors quiet;
+    const win32::Unique_File file = Open_To_Ask(wide);
+    FILETIME written = {};
+    if (!file || !GetFileTime(file.Get(), nullptr, nullptr, &written))
+        Throw(path, GetLastError());
+    return written;
 }
 
 std::wstring Program_Path() {
@@ -197,9 +290,8 @@ std::string Read_File(const std::string &path) {
     if (wide.empty())
         Throw(path, ERROR_INVALID_NAME);
     const Quiet_Errors quiet;
-    const win32::Unique_File file(CreateFileW(wide.c_str(), GENERIC_READ,
-                                              FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
-                                              OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
+    const win32::Unique_File file(CreateFileW(wide.c_str(), GENERIC_READ, Share_All, nullptr, OPEN_EXISTING,
+                                              FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
     if (!file)
         Throw(path, GetLastError());
     // A device's name, like that of a serial port, would keep the program waiting.
@@ -213,41 +305,19 @@ std::string Read_File(const std::string &path) {
 }
 
 void Replace_File(const std::string &path, std::string_view bytes) {
-    const std::wstring wide = win32::Path_For_Call(path);
-    const std::wstring new_file = win32::Path_For_Call(path + New_File_Ending);
-    if (wide.empty())
-        Throw(path, ERROR_INVALID_NAME);
-    const Quiet_Errors quiet;
-    DWORD attributes = GetFileAttributesW(wide.c_str());
-    if (attributes == INVALID_FILE_ATTRIBUTES)
-        attributes = 0;
-    if ((attributes & (FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY)) != 0)
-        Throw(path, ERROR_ACCESS_DENIED);
-    // A hidden file stays hidden, an encrypted one encrypted.
-    attributes &= FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_ENCRYPTED |
-                  FILE_ATTRIBUTE_NOT_CONTENT_INDEXED;
-    Remove_File(new_file);
-    DWORD code = Write_New_File(new_file, bytes, attributes | FILE_ATTRIBUTE_ARCHIVE);
-    if (code == NO_ERROR)
-        code = Rename_Over(new_file, wide);
-    if (code != NO_ERROR) {
-        Remove_File(new_file);
-        Throw(path, code);
-    }
+    Replace(path, bytes, nullptr);
+}
+
+void Copy_File(const std::string &from, const std::string &to) {
+    const FILETIME written = Written(from);
+    Replace(to, Read_File(from), &written);
 }
 
 Date_Time Modified_Time(const std::string &path) {
-    const std::wstring wide = win32::Path_For_Call(path);
-    if (wide.empty())
-        Throw(path, ERROR_INVALID_NAME);
-    const Quiet_Errors quiet;
-    WIN32_FIND_DATAW found = {};
-    const win32::Unique_Find find(FindFirstFileW(wide.c_str(), &found));
-    if (!find)
-        Throw(path, GetLastError());
+    const FILETIME written = Written(path);
     FILETIME local = {};
     SYSTEMTIME time = {};
-    if (!FileTimeToLocalFileTime(&found.ftLastWriteTime, &local) || !FileTimeToSystemTime(&local, &time))
+    if (!FileTimeToLocalFileTime(&written, &local) || !FileTimeToSystemTime(&local, &time))
         Throw(path, GetLastError());
     return {time.wYear, time.wMonth, time.wDay, time.wHour, time.wMinute, time.wSecond, time.wMilliseconds};
 }

@@ -58,6 +58,14 @@ protected:
         SetFileAttributesW(win32::To_Wide(path).c_str(), FILE_ATTRIBUTE_READONLY);
     }
 
+    /// The file counts as written in the year 2000.
+    void Age_File(const std::string &path) {
+        const FILETIME time = {0, 0x01C00000};
+        const win32::Unique_File file(CreateFileW(win32::To_Wide(path).c_str(), FILE_WRITE_ATTRIBUTES, 0,
+                                                  nullptr, OPEN_EXISTING, 0, nullptr));
+        ASSERT_TRUE(SetFileTime(file.Get(), nullptr, nullptr, &time));
+    }
+
     /// Names in the scratch folder, in order.
     std::vector<std::string> Names_Left() const {
         std::vector<std::string> names;
@@ -102,6 +110,8 @@ protected:
     }
 
     static void Protect_File(const std::string &path) { Fakes().unwritable.insert(path); }
+
+    static void Age_File(const std::string &path) { Fakes().written[path] = {2000, 8, 7, 0, 0, 0, 0}; }
 
     static std::vector<std::string> Names_Left() {
         const std::string folder = Scratch("");

@@ -27,6 +27,11 @@ TEST_F(Files_Contract, Keeps_Every_Byte_Under_Any_Name) {
     platform::Replace_File(Scratch("NOTES 1.txt"), "new");
     EXPECT_EQ(platform::Read_File(Scratch("Notes 1.TXT")), "new");
     EXPECT_EQ(Names_Left().size(), 4U);
+    Age_File(Scratch("Notes 1.txt"));
+    platform::Copy_File(Scratch("Notes 1.txt"), path); // which is as old as the original then
+    EXPECT_EQ(platform::Read_File(path) + std::to_string(platform::Modified_Time(path).year), "new2000");
+    platform::Replace_File(path, "newer");
+    EXPECT_NE(platform::Modified_Time(path).year, 2000);
 }
 
 TEST_F(Files_Contract, What_Cannot_Be_Read_Or_Replaced_Stays_And_Is_Told) {
@@ -48,6 +53,7 @@ TEST_F(Files_Contract, What_Cannot_Be_Read_Or_Replaced_Stays_And_Is_Told) {
     Make_Folder(folder);
     for (const std::string &path : {held, kept, folder}) {
         EXPECT_THROW(platform::Replace_File(path, "new"), platform::File_Error);
+        EXPECT_FALSE(platform::File_Exists(path + ".vellatro-new"));
         EXPECT_TRUE(platform::Path_Exists(path) && platform::File_Exists(path) == (path != folder));
     }
     for (const std::string &path : {held, folder})

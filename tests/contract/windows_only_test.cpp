@@ -52,6 +52,24 @@ TEST_F(Windows_Only, A_Hidden_File_Stays_Hidden_And_The_Rest_Of_A_Killed_Run_Goe
     EXPECT_EQ(Names_Left(), std::vector<std::string>{"calendar.dat"});
 }
 
+TEST_F(Windows_Only, A_File_Keeps_Its_Own_Access_List) {
+    const std::wstring wide = win32::To_Wide(Scratch("calendar.dat"));
+    std::vector<SECURITY_DESCRIPTOR> space(100);
+    PACL list = nullptr;
+    const auto entries = [&] {
+        DWORD size = 0;
+        BOOL present = FALSE;
+        platform::Replace_File(Scratch("calendar.dat"), "new");
+        GetFileSecurityW(wide.c_str(), DACL_SECURITY_INFORMATION, space.data(), 2000, &size);
+        GetSecurityDescriptorDacl(space.data(), &present, &list, &present);
+        return DWORD{list->AceCount};
+    };
+    const DWORD before = entries();
+    ASSERT_TRUE(DeleteAce(list, before - 1));
+    ASSERT_TRUE(SetFileSecurityW(wide.c_str(), DACL_SECURITY_INFORMATION, space.data()));
+    EXPECT_EQ(entries(), before - 1);
+}
+
 /// Only the prefix lets older systems take long names; and names that are none are refused.
 TEST_F(Windows_Only, Names_Are_Given_In_The_Form_That_The_System_Takes) {
     const std::string part(300, 'x');

@@ -95,7 +95,8 @@ TEST_F(Event_Store_Test, What_Cannot_Be_Read_Is_Told_And_Never_Overwritten) {
         EXPECT_EQ(Entered(), none ? Items{} : Items{"1/1/2002=A"});
         EXPECT_EQ(store.Get_Message("1/1/2002").text, none ? "" : "A");
         Save("new");
-        store.Check_For_Pre("2/1/2002", "new", false);
+        EXPECT_FALSE(store.Check_For_Pre("1/1/2002", none ? "new" : "", false));
+        EXPECT_FALSE(store.Check_For_Pre("9/9/2002", "", false)); // there may be one
         EXPECT_EQ(File(), bytes);
     }
     EXPECT_EQ(Fakes().writes, 0);
@@ -114,17 +115,20 @@ TEST_F(Event_Store_Test, What_Cannot_Be_Read_Is_Told_And_Never_Overwritten) {
     }
 }
 
-TEST_F(Event_Store_Test, A_Malformed_Record_Ends_The_Reading) {
-    File() = Quoted({"5/3/2002=A", "malformed", "5/3/2002=B"});
-    Fakes().Expect_Box(loading_failed);
-    EXPECT_EQ(store.Get_Message("5/3/2002").text, "A");
+TEST_F(Event_Store_Test, A_Note_Between_The_Records_Is_Told_And_Hides_None) {
+    File() = "5/3/2002=A\n\nnote, to myself\n6/3/2002=bad\n5/3/9999=B\n";
+    for (int reading = 0; reading < 3; ++reading)
+        Fakes().Expect_Box(loading_failed); // once a reading
+    const Stored_Message message = store.Get_Message("5/3/2002");
+    EXPECT_EQ(message.text, "B");
+    EXPECT_TRUE(message.every_year && !message.incomplete);
+    EXPECT_EQ(Entered(), (Items{"5/3/2002=A", "6/3/2002=bad", "5/3/9999=B"}));
     Items shown;
-    Fakes().Expect_Box(loading_failed);
-    store.Load_Dates([&](std::string_view record) {
-        if (record == "malformed")
+    EXPECT_FALSE(store.Load_Dates([&](std::string_view record) {
+        if (record == "6/3/2002=bad")
             throw std::out_of_range("no such box");
         shown.emplace_back(record);
-    });
+    }));
     EXPECT_EQ(shown, Items{"5/3/2002=A"});
     // The store may be entered again while a month is filled.
     File() = Quoted({"5/3/2002=A", "6/3/2002=B"});

@@ -92,8 +92,6 @@ TEST_F(Damaged, File_Is_Told_And_Left_Alone) {
         byte = static_cast<char>((state = state * 1664525U + 1013904223U) >> 24U);
     const std::pair<const char *, std::string> cases[] = {
         {"no equals sign", "\"2/5/2027 Text\"\r\n"},
-        {"no slash", "\"252027=Text\"\r\n"},
-        {"letters", "\"two/5/2027=Text\"\r\n"},
         {"day 99", "\"99/5/2027=Text\"\r\n\"99/6/2027=Text\"\r\n"},
         {"unclosed quote", "\"2/5/2027=Text\r\n"},
         {"zeros", "\0\0\0\0"s},
@@ -103,45 +101,6 @@ TEST_F(Damaged, File_Is_Told_And_Left_Alone) {
         Write_Data(all);
         Is_Told_And_Survived(what, "Before");
         EXPECT_TRUE(Data() == all) << what << " was changed";
-    }
-}
-
-TEST_F(Stored, What_Cannot_Be_Written_Is_Told_And_Shown) {
-    const std::string bytes = "\"1/5/2027=Before\"\r\n";
-    const std::string loading = "stop [Vellatro] Error loading in data file.";
-    const std::string saving = "stop [Vellatro] Error saving data file.";
-    const struct {
-        DWORD attributes, sharing; // of the file, and of another program that has it open
-        std::vector<std::string> boxes;
-    } rows[] = {{FILE_ATTRIBUTE_READONLY, FILE_SHARE_READ | FILE_SHARE_WRITE, {saving}},
-                {FILE_ATTRIBUTE_NORMAL, FILE_SHARE_READ, {saving}},
-                {FILE_ATTRIBUTE_NORMAL, 0, {loading, saving}}};
-    Write_Data(bytes);
-    const Program &program = Start_Calendar();
-    for (const auto &[attributes, sharing, boxes] : rows) {
-        program.Do_Default("Sunday 2nd May 2027");
-        const auto part = [&](int control) {
-            return GetDlgItem(program.Window("Vellatro_Edit_Frm"), control);
-        };
-        ASSERT_TRUE(Wait_Until([&] { return Has_Keyboard(part(102)); }));
-        Send_Text("New");
-        ASSERT_TRUE(Becomes(std::string("New"), [&] { return Text_Of(part(102)); }));
-        SetFileAttributesW(Data_Path().c_str(), attributes);
-        const HANDLE other =
-            CreateFileW(Data_Path().c_str(), GENERIC_READ, sharing, nullptr, OPEN_EXISTING, 0, nullptr);
-        PostMessageW(part(104), BM_CLICK, 0, 0);
-        for (const std::string &box : boxes) {
-            EXPECT_TRUE(Becomes(box, [&] { return program.Box(); }));
-            program.Answer();
-        }
-        CloseHandle(other);
-        SetFileAttributesW(Data_Path().c_str(), FILE_ATTRIBUTE_NORMAL);
-        EXPECT_TRUE(Wait_Until([&] { return !part(102) && program.Box().empty(); }));
-        EXPECT_EQ(program.Named("Sunday 2nd May 2027").value, "New");
-        EXPECT_EQ(Data(), bytes);
-        EXPECT_EQ(GetFileAttributesW((Data_Path() + L".vellatro-new").c_str()), INVALID_FILE_ATTRIBUTES);
-        program.Press(VK_F5);
-        EXPECT_TRUE(Becomes(std::string(), [&] { return program.Named("Sunday 2nd May 2027").value; }));
     }
 }
 

@@ -73,6 +73,37 @@ TEST_F(Editor, shows_and_saves_the_event_of_a_day) {
     }
 }
 
+TEST_F(Editor, keeps_a_text_that_cannot_be_saved_and_shows_what_is_stored) {
+    Events({"5/3/2002=A"});
+    form.Redraw();
+    for (const bool unread : {false, true}) {
+        if (unread) { // What the 6th has is not seen when the editor opens, and could be read when it saves.
+            Data_File() += "\"6/3/2002=open";
+            Fakes().Expect_Box("Error loading in data file.");
+        } else {
+            Fakes().unwritable.insert("C:\\Vellatro\\calendar.dat");
+        }
+        Open(unread ? 6 : 5);
+        Type("typed");
+        if (unread)
+            Data_File() += "\"";
+        for (int box = 0; box < 3; ++box)
+            Fakes().Expect_Box("Error saving data file.");
+        for (Button *button : {&editor.Ok_Btn, &editor.Apply_Btn}) {
+            Push(editor, *button);
+            EXPECT_TRUE(Has_Window() && editor.Apply_Btn.Enabled() && !form.Alert_Done);
+        }
+        Fakes().unwritable.insert("C:\\Vellatro\\calendar.dat");
+        form.Clear_Box(Index_Of(5));
+        EXPECT_EQ(editor.Message_Txt.Text() + Text_Of(5) + Text_Of(6), "typedA");
+        EXPECT_EQ(Records(), unread ? "5/3/2002=A|6/3/2002=open" : "5/3/2002=A|");
+        Push(editor, editor.Cancel_Btn);
+        Fakes().unwritable.clear();
+    }
+    Open(6); // which reads it now
+    EXPECT_EQ(editor.Message_Txt.Text(), "open");
+}
+
 TEST_F(Editor, closes_without_saving_and_lets_compact_mode_go_on) {
     form.Edit_Box(4); // the last box before 1 March
     EXPECT_FALSE(Has_Window());
@@ -183,6 +214,17 @@ TEST_F(Editor, keeps_its_day_whatever_the_calendar_shows) {
     Type("six");
     Push(editor, editor.Ok_Btn);
     EXPECT_EQ(Records(), "5/3/2002=other|6/3/2002=six|");
+    // A yearly event comes to the same month of another year, and goes from it.
+    Events({"5/3/2010=ten"});
+    for (const std::string text : {"yearly", "once", "yearly", ""}) {
+        Show_Month(3, 2002);
+        Open(7);
+        Push(editor, editor.Every_Year_Chk, text == "yearly");
+        Type(text);
+        Show_Month(3, 2010);
+        Push(editor, editor.Ok_Btn);
+        EXPECT_EQ(Text_Of(7) + Text_Of(5), (text == "yearly" ? text : "") + "ten") << Records();
+    }
     for (const int day : {1, 15, 31}) { // and it lies beside its box
         Show_Month(3, 2002);
         Open(day);

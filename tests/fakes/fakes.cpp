@@ -193,7 +193,8 @@ void Delete_File(const std::string &path) {
 Date_Time Modified_Time(const std::string &path) {
     if (!File_Exists(path))
         throw File_Error(path + " is not there");
-    return {2002, 2, 1, 9, 5, 0, 0};
+    const auto written = Fakes().written.find(path);
+    return written == Fakes().written.end() ? Date_Time{2002, 2, 1, 9, 5, 0, 0} : written->second;
 }
 
 Picture Load_Picture(const std::string &path) {
@@ -230,6 +231,12 @@ void Replace_File(const std::string &path, std::string_view bytes) {
     if (Fakes().folders.contains(path) || Fakes().unwritable.contains(path))
         throw File_Error(path + " cannot be written");
     Fakes().files[path] = bytes;
+    Fakes().written[path] = Now();
+}
+
+void Copy_File(const std::string &from, const std::string &to) {
+    Replace_File(to, Read_File(from));
+    Fakes().written[to] = Modified_Time(from);
 }
 
 namespace {

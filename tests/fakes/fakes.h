@@ -54,6 +54,8 @@ struct Fake_System {
     std::string short_date_pattern = "d/m/yyyy";
 
     std::map<std::string, std::string, Name_Less> files; ///< path to bytes
+    /// When files were written; of one that a test put here it was on 1 February 2002, 9:05.
+    std::map<std::string, platform::Date_Time, Name_Less> written;
     std::set<std::string, Name_Less> folders;
     std::set<std::string, Name_Less> unreadable; ///< files that others have locked against reading
     std::set<std::string, Name_Less> unwritable; ///< names under which nothing can be put

@@ -94,17 +94,16 @@ TEST_F(Events_Page_Test, lists_events_in_each_order_and_short_date) {
 }
 
 TEST_F(Events_Page_Test, removes_the_event_of_the_line) {
-    const std::vector<std::string> all{"6/3/2002=exact", "6/3/9999=every", "29/2/9999=leap",
-                                       "8/03/9999=hand"};
+    const std::vector<std::string> all{"6/3/9999=every", "30/2/2002=none", "6/3/2002=exact",
+                                       "29/2/9999=leap", "8/03/9999=hand", "6/3/2002=exact"};
     struct {
         int line, key;
         std::size_t record;
-        bool compact;
-    } const rows[] = {{0, Key_Delete, 2, true}, {1, 0, 0, false}, {2, Key_Return, 1, true}, {3, 0, 3, false}};
+    } const rows[] = {{0, Key_Delete, 3}, {1, 0, 0}, {2, Key_Return, 2}, {3, 0, 5}, {4, 0, 4}};
     for (const auto &row : rows) {
         Events(all);
         Open();
-        form.Compacted = row.compact;
+        form.Compacted = row.record != 0;
         form.Which_Month_Lbl.Set_Caption("stale");
         for (const Box_Answer answer : {Box_Answer::No, Box_Answer::Cancel, Box_Answer::Yes})
             Remove(row.line, answer, row.key);
@@ -113,21 +112,34 @@ TEST_F(Events_Page_Test, removes_the_event_of_the_line) {
         const std::string after = Data_File();
         Events(rest);
         EXPECT_EQ(after, Data_File()) << row.line;
-        EXPECT_TRUE(page.Events_Lst.Items().size() == 3 &&
-                    page.Events_Lst.Selected() == std::min(row.line, 2));
-        EXPECT_EQ(form.Which_Month_Lbl.Caption() == "stale", row.compact);
+        EXPECT_TRUE(page.Events_Lst.Items().size() == 4 &&
+                    page.Events_Lst.Selected() == std::min(row.line, 3));
+        EXPECT_EQ(form.Which_Month_Lbl.Caption() == "stale", row.record != 0);
         form.Compacted = false;
     }
-    EXPECT_EQ(page.Month_Count_Lbl[2].Caption(), "Mar: 2"); // counted anew after the removal
+    EXPECT_EQ(page.Month_Count_Lbl[2].Caption(), "Mar: 3"); // counted anew after the removal
 }
 
 TEST_F(Events_Page_Test, bears_a_file_that_fails_or_changes_behind_it) {
     Events({"6/3/2002=a", "7/3/2002=b"});
     Open();
-    Remove(0, Box_Answer::Yes, 0, [] { Events({"7/3/2002=b"}); }); // someone else was quicker
-    EXPECT_EQ(Lines(), "7/3/2002  -  b|");
+    for (const bool gone : {false, true}) { // someone else was quicker, and another event of the day stays
+        Remove(0, Box_Answer::Yes, 0, [gone] {
+            Events({"6/3/9999=A", "7/3/2002=b"});
+            if (gone)
+                Fakes().files.clear();
+            Fakes().Expect_Box("This event is no longer in the data file.");
+        });
+        EXPECT_EQ(Lines(), gone ? "" : "6/3/2002 (every year)  -  A|7/3/2002  -  b|");
+    }
+    Events({"7/3/2002=b"});
+    Open();
     Fakes().unwritable.insert("C:\\Vellatro\\calendar.dat");
     Remove(0, Box_Answer::Yes, 0, [] { Fakes().Expect_Box("Error saving data file."); });
+    EXPECT_EQ(Lines(), "7/3/2002  -  b|");
+    Fakes().unreadable.insert("C:\\Vellatro\\calendar.dat");
+    Remove(0, Box_Answer::Yes, 0, [] { Fakes().Expect_Box("Error loading in data file."); });
+    Fakes().unreadable.clear();
     Data_File() += "\"8/3/2002=unclosed";
     Open();
     EXPECT_EQ(Lines() + page.Overview_Fra.Caption(), "7/3/2002  -  b|Error loading in data file.");

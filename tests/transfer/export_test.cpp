@@ -74,6 +74,7 @@ TEST_F(Exporting, keeps_a_file_when_its_replacement_fails) {
         Fakes().unwritable.clear();
     }
     EXPECT_EQ(File("C:\\copy.DAT"), Data_File());
+    EXPECT_EQ(Fakes().written["C:\\copy.DAT"].month, 2); // as old as the original
 }
 
 } // namespace

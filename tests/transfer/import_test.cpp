@@ -109,6 +109,64 @@ TEST_F(Importing, backs_the_data_file_up_and_refuses_other_files) {
     }
 }
 
+TEST_F(Importing, is_taken_back_line_by_line) {
+    const std::string before = Data_File() = Quoted("'25/12/9999=C'\r\n'1/2/2003=C'\r\n");
+    File("C:\\in.csv") = Quoted(headings + "'','25/12/2003','a + b'\n'','1/2/2003','C'\n'','25/12/2004','b'\n"
+                                           "'','3/3/2003','n'\n'','25/12/2003','b'\n'','3/3/2003','m'\n");
+    Import(2, "C:\\in.csv", Imported(6));
+    List_Box &list = dialog->Events.Events_Lst;
+    const std::string yearly = "'25/12/9999=C + a + b + b'\r\n'1/2/2003=C + C'\r\n";
+    const struct {
+        std::size_t line;
+        std::string
+            after; ///< what was there before the import stays in the end, also where it reads the same
+        int selected;
+        const char *told = nullptr;
+    } steps[] = {{2, "'25/12/9999=C + a + b + b + b'\r\n'1/2/2003=C + C'\r\n'3/3/2003=n + m'\r\n", 2,
+                  "Error saving data file."},
+                 {2, yearly + "'3/3/2003=n + m'\r\n", 2},
+                 {2, yearly + "'3/3/2003=m'\r\n", 2},
+                 {3, yearly, 2},
+                 {0, "'25/12/9999=C + b'\r\n'1/2/2003=C + C'\r\n", 0},
+                 {0, before, 0, "This event is no longer in the data file."},
+                 {0, before, -1, "This event is no longer in the data file."}};
+    for (const auto &[line, after, selected, told] : steps) {
+        if (after == before)
+            Data_File() = before;
+        else if (told != nullptr)
+            Fakes().unwritable.insert("C:\\Vellatro\\calendar.dat");
+        const std::string text = list.Items().at(line);
+        Fakes().Expect_Box("Do you really want to remove the event..\r\n\r\n" + text,
+                           platform::Box_Answer::Yes);
+        if (told != nullptr)
+            Fakes().Expect_Box(told);
+        list.Select(static_cast<int>(line));
+        dialog->Events.Events_Lst_DblClick();
+        EXPECT_EQ(Data_File(), Quoted(after));
+        EXPECT_EQ(list.Selected(), selected);
+        Fakes().unwritable.clear();
+    }
+    EXPECT_TRUE(list.Items().empty());
+}
+
+TEST_F(Importing, leaves_nothing_behind_when_it_fails) {
+    // Without a data file, which cannot be written either.
+    File("C:\\in.csv") = Quoted(headings + "'s','6/3/2002','a, b'");
+    Fakes().unwritable.insert("C:\\Vellatro\\calendar.dat");
+    Import(2, "C:\\in.csv", failed);
+    Fakes().unwritable.clear();
+    form.Events.Load_File();
+    form.Events.Check_For_Pre("7/3/2002", "x", false);
+    EXPECT_EQ(Data_File(), Quoted("'7/3/2002=x'\r\n"));
+    // A hand-written quote, beside which no comma can be written, is told with its day.
+    Data_File() = "6/3/9999=a \"quote\"\r\n";
+    const std::string before = Data_File();
+    Fakes().Expect_Box("The event of 6/3/2002 holds a quotation mark (\"). Remove it before you import "
+                       "another event of that day.");
+    Import(2, "C:\\in.csv", failed);
+    EXPECT_EQ(Data_File(), before);
+}
+
 TEST_F(Importing, is_seen_while_it_takes_long_and_the_file_is_whole_then) {
     std::string bytes = Quoted(headings);
     constexpr int count = 2000;

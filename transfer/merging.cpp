@@ -1,0 +1,82 @@
+// Joining events to records, and parting them.
+#include "transfer/merging.h"
+
+#include "core/event_store.h"
+#include "platform/joined.h"
+
+#include <algorithm>
+#include <string_view>
+#include <utility>
+
+namespace {
+
+constexpr std::string_view joint = " + ";
+
+/// Takes the event's text out of `record`, with one of the joints beside it. False when it is not there.
+bool Part_From(std::string &record, const Sort_Entry &event) {
+    std::size_t begin = event.key.size() + 1 + event.place;
+    std::size_t length = event.text.size();
+    const std::string_view whole = record;
+    if (begin > whole.size() || whole.substr(begin, length) != event.text)
+        return false;
+    const std::string_view behind = whole.substr(begin + length);
+    if (!behind.empty() && !behind.starts_with(joint))
+        return false;
+    if (event.place != 0) {
+        if (!whole.substr(0, begin).ends_with(joint))
+            return false;
+        begin -= joint.size();
+    }
+    if (event.place != 0 || !behind.empty())
+        length += joint.size();
+    record.erase(begin, length);
+    return true;
+}
+
+} // namespace
+
+Record_Merger::Record_Merger(std::vector<std::string> &records) : records_(records) {
+    // A record without "=", which only another hand can have written, is one of no day.
+    for (std::size_t i = 0; i < records.size(); ++i)
+        if (Event_Record parts; Part_Record(records[i], parts))
+            first_.emplace(parts.key, i);
+}
+
+void Record_Merger::Merge(Sort_Entry &event) {
+    event.key = Date_Key(event.date);
+    const auto exact = first_.find(event.key);
+    const auto yearly = first_.find(Date_Key({every_year, event.date.month, event.date.day}));
+    if (exact == first_.end() && yearly == first_.end()) {
+        event.place = 0;
+        first_.emplace(event.key, records_.size());
+        records_.push_back(platform::Joined({event.key, "=", event.text}));
+        return;
+    }
+    const bool joins_yearly =
+        exact == first_.end() || (yearly != first_.end() && yearly->second < exact->second);
+    const auto &[key, index] = joins_yearly ? *yearly : *exact;
+    std::string &record = records_[index];
+    record.append(joint);
+    event.key = key;
+    event.place = record.size() - key.size() - 1;
+    record.append(event.text);
+}
+
+bool Unmerge(std::vector<std::string> &records, std::vector<Sort_Entry> &staged, std::size_t line) {
+    const auto at = staged.begin() + static_cast<std::ptrdiff_t>(line);
+    const Sort_Entry event = std::move(*at);
+    staged.erase(at);
+    const auto record = std::find_if(records.begin(), records.end(), [&](const std::string &each) {
+        Event_Record parts;
+        return Part_Record(each, parts) && parts.key == event.key;
+    });
+    if (event.key.empty() || record == records.end() || !Part_From(*record, event))
+        return false;
+    // The texts behind it move up.
+    for (Sort_Entry &other : staged)
+        if (other.key == event.key && other.place > event.place)
+            other.place -= event.text.size() + joint.size();
+    if (record->size() == event.key.size() + 1 && event.place == 0)
+        records.erase(record);
+    return true;
+}
