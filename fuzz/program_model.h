@@ -121,7 +121,7 @@ inline Outcomes After_Save(const Model &model, const Model_Day &day, const std::
     const bool whole = !model.file || model.file->whole;
     const std::size_t at = Model::Find(records, day);
     if (text.empty() && at == records.size())
-        return {{model.file, whole ? std::optional(records) : std::nullopt}};
+        return {{model.file, whole && (model.file || model.scratch) ? std::optional(records) : std::nullopt}};
     if (!whole)
         return {};
     Records scratch = records;
