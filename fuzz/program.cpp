@@ -88,9 +88,9 @@ void Run::Use_Day(Form_Model &calendar) {
     const int count = static_cast<int>(boxes.size());
     const int which = std::min(in_.Pick(2) == 0 ? likely[in_.Pick(4)] : in_.Pick(count), count - 1);
     const Control_State &box = *boxes[static_cast<std::size_t>(which)];
-    menu_day_ = Day_Of(box.access.name);
+    menu_box_ = &box;
     const int way = in_.Pick(5);
-    action_ = "the box of " + menu_day_.Key() + " is used in way " + std::to_string(way);
+    action_ = "the box of " + Day_Of(box.access.name).Key() + " is used in way " + std::to_string(way);
     if (way == 0) {
         Click_Painted(calendar, box, Mouse_Button::Right);
     } else if (way == 1) {
@@ -165,10 +165,8 @@ void Run::Use_Key(Form_Model &calendar) {
                       Window("Settings_Frm") == nullptr && Control(calendar, "Prev_Month_Lbl").visible;
     Send(calendar, event);
     for (const Control_State *box : calendar.controls) {
-        if (!acts || !box->marked)
-            continue;
-        const Model_Day day = Day_Of(box->access.name);
-        pending_.push_back({[day](const Model &model) { return After_Save(model, day, {}, false); }});
+        if (acts && box->marked)
+            Clear(*box);
     }
     event.kind = Input_Kind::Key_Up;
     event.control_key = event.control_key && in_.Pick(3) == 1;
@@ -215,7 +213,7 @@ void Run::Use_Editor(Form_Model &editor) {
                        Control(*Window("Edit_Frm"), "Message_Txt").caption == from.text &&
                        Control(*Window("Edit_Frm"), "Apply_Btn").enabled,
                    "a save that failed has closed the editor, or its text is not unsaved");
-        if (strict && failed)
+        if (strict && (failed || loading_failed_))
             typed_ = true; // a text that was not unsaved is so now
         return;
     }

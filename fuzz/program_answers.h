@@ -14,13 +14,16 @@ protected:
     Box_Answer Answer_Box(const Shown_Box &box);
     int Answer_Menu(const std::vector<platform::Menu_Item> &items);
     std::string Answer_Dialog(const platform::File_Dialog &dialog);
+    /// The user wants the day of the box to be without its event. Of one that shows none, since a reading
+    /// failed, it may stay.
+    void Clear(const Control_State &box);
     void Step_Clock();
     void Pass_Time();
 
     Bytes &in_;
     Made_Files files_;
-    Model_Day menu_day_;  ///< of the box that was clicked for its menu
-    bool staged_ = false; ///< the list of events may be that of an import
+    const Control_State *menu_box_ = nullptr; ///< that was clicked for its menu
+    bool staged_ = false;                     ///< the list of events may be that of an import
 
 private:
     void Interrupt();
@@ -157,6 +160,12 @@ inline Box_Answer Answers::Answer_Box(const Shown_Box &box) {
     return answer;
 }
 
+inline void Answers::Clear(const Control_State &box) {
+    const Model_Day day = Day_Of(box.access.name);
+    pending_.push_back({[day](const Model &model) { return After_Save(model, day, {}, false); },
+                        strict && box.access.value.empty()});
+}
+
 inline int Answers::Answer_Menu(const std::vector<platform::Menu_Item> &items) {
     if (in_.Out())
         return 0;
@@ -172,10 +181,9 @@ inline int Answers::Answer_Menu(const std::vector<platform::Menu_Item> &items) {
     if (!item.enabled)
         return 0;
     if (item.text == "Clear") {
-        Model_Day day = menu_day_;
-        if (Form_Model *calendar = Window("Calendar"); calendar != nullptr && Desktop().menu_at)
-            day = Day_Of(Control_At(*calendar, *Desktop().menu_at)->access.name);
-        pending_.push_back({[day](const Model &model) { return After_Save(model, day, {}, false); }});
+        const Form_Model *calendar = Window("Calendar");
+        const bool at_box = calendar != nullptr && Desktop().menu_at;
+        Clear(at_box ? Box_At(*calendar, *Desktop().menu_at) : *menu_box_);
     }
     return item.id;
 }

@@ -61,13 +61,13 @@ inline Model_File Written(const Records &records) {
     return file;
 }
 
-/// A file that the program wrote, of records without quotes.
+/// A file that the program wrote: no record has a line break.
 inline Model_File Read_Plain(const std::string &bytes) {
     Model_File file{bytes, {}, true};
-    for (std::size_t begin = bytes.find('"'), end = 0; begin != std::string::npos;
-         begin = bytes.find('"', end + 1)) {
-        end = bytes.find('"', begin + 1);
-        file.records.push_back(bytes.substr(begin + 1, end - begin - 1));
+    for (std::size_t begin = 0, end = 0; (end = bytes.find("\r\n", begin)) != std::string::npos;
+         begin = end + 2) {
+        const bool quoted = bytes[begin] == '"';
+        file.records.push_back(bytes.substr(begin + quoted, end - begin - 2 * quoted));
     }
     return file;
 }

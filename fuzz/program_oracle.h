@@ -165,19 +165,21 @@ inline void Oracle::Follow_Editor() {
     now.text = Control(*window, "Message_Txt").caption;
     now.yearly = Control(*window, "Every_Year_Chk").checked;
     now.unsaved = Control(*window, "Apply_Btn").enabled;
+    const bool readable = !model_.file || (model_.file->whole && !Fakes().unreadable.contains(Data_Path));
     if (editor_) {
-        now.blind = editor_->blind;
-        now.maybe_blind = editor_->maybe_blind;
-        if (typed_ || (now.day == editor_->day && now.text == editor_->text &&
-                       now.yearly == editor_->yearly && now.unsaved == editor_->unsaved)) {
+        const bool same = now.day == editor_->day && now.text == editor_->text &&
+                          now.yearly == editor_->yearly && now.unsaved == editor_->unsaved;
+        // It may have been opened once more for its day.
+        now.blind = editor_->blind && (typed_ || !readable);
+        now.maybe_blind = editor_->maybe_blind || editor_->blind || (!typed_ && loading_failed_);
+        if (typed_ || same) {
             editor_ = now;
             return;
         }
     }
     const auto [text, yearly] = model_.Message(now.day);
-    const bool whole = !model_.file || model_.file->whole;
     now.maybe_blind = loading_failed_;
-    now.blind = strict && (!whole || Fakes().unreadable.contains(Data_Path));
+    now.blind = strict && !readable;
     if (!loading_failed_) {
         Demand(now.text == text, "the editor shows \"" + now.text + "\", not \"" + text + "\"");
         Demand(now.yearly == (yearly || (editor_ && !saved_ && editor_->yearly)),

@@ -37,15 +37,15 @@ inline const platform::Control_State &Control(const platform::Form_Model &window
     std::abort();
 }
 
-/// The last control that is seen there; there must be one.
-inline const platform::Control_State *Control_At(const platform::Form_Model &window, platform::Point at) {
+/// The day box that is seen there; there must be one.
+inline const platform::Control_State &Box_At(const platform::Form_Model &window, platform::Point at) {
     const platform::Control_State *found = nullptr;
     for (const platform::Control_State *control : window.controls)
         if (control->visible && control->access.role == platform::Access_Role::Cell &&
             control->bounds.Contains(at))
             found = control;
     Require(found != nullptr, "a menu opens over no day");
-    return found;
+    return *found;
 }
 
 inline void Send(platform::Form_Model &window, const platform::Input_Event &event) {
