@@ -1,7 +1,7 @@
 // The whole program on the fakes: the bytes choose what the user, the clock, the files and the session do.
 // After each action the data file is what a plain model of the rules (program_model.h) holds, the editor and
 // the month show it, no key of the store has changed that the action may not write, and nothing is told to
-// have failed without a cause. VELLATRO_FUZZ_TELL in the environment prints the actions.
+// have failed without a cause. With --tell the actions are printed.
 #include "app/program.h"
 
 #include "fuzz/program_answers.h"
@@ -208,12 +208,12 @@ void Run::Use_Editor(Form_Model &editor) {
         const std::size_t boxes = Fakes().boxes.size();
         Send(editor, {.kind = Input_Kind::Clicked, .control = ok.index});
         const bool failed = Told_Since(boxes, "Error saving data file.");
-        if (strict && asked && failed && !Desktop().loop_ended)
+        if (asked && failed && strict && !Desktop().loop_ended)
             Demand(Window("Edit_Frm") != nullptr &&
                        Control(*Window("Edit_Frm"), "Message_Txt").caption == from.text &&
                        Control(*Window("Edit_Frm"), "Apply_Btn").enabled,
                    "a save that failed has closed the editor, or its text is not unsaved");
-        if (strict && (failed || loading_failed_))
+        if ((failed || loading_failed_) && strict)
             typed_ = true; // a text that was not unsaved is so now
         return;
     }
@@ -467,6 +467,12 @@ void Run::Whole_Program() {
 }
 
 } // namespace
+
+extern "C" int LLVMFuzzerInitialize(const int *argc, char ***argv) {
+    for (int i = 1; i < *argc; ++i)
+        tells = tells || std::string_view((*argv)[i]) == "--tell";
+    return 0;
+}
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
     Bytes in(data, size);

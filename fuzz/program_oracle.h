@@ -4,6 +4,7 @@
 #include "fuzz/program_files.h"
 #include "fuzz/program_model.h"
 #include "fuzz/program_windows.h"
+#include "platform/joined.h"
 #include "tests/fakes/fake_forms.h"
 
 #include <cstdio>
@@ -11,6 +12,9 @@
 
 using platform::Control_State;
 using platform::Form_Model;
+
+/// Each action, box and answer is printed.
+inline bool tells = false;
 
 /// What the user has before the eyes in the editor.
 struct Model_Editor {
@@ -33,8 +37,8 @@ protected:
     void Demand(bool holds, const std::string &what);
     /// Prints it, where that is wanted.
     static void Tell(const std::string &text) {
-        if (std::getenv("VELLATRO_FUZZ_TELL") != nullptr)
-            std::fprintf(stderr, "%s\n", text.c_str());
+        if (tells)
+            static_cast<void>(std::puts(text.c_str()));
     }
     void Begin_Action();
     void End_Action();
@@ -67,15 +71,17 @@ private:
 inline void Oracle::Demand(bool holds, const std::string &what) {
     if (holds)
         return;
-    std::fprintf(stderr, "action %d, %s: %s\n", actions_, action_.c_str(), what.c_str());
+    tells = true;
+    Tell(platform::Joined({"action ", std::to_string(actions_), ", ", action_, ": ", what}));
     const auto show = [](const char *name, const std::optional<std::string> &bytes) {
-        std::fprintf(stderr, "%s: %s\n", name, bytes ? bytes->c_str() : "no file");
+        Tell(platform::Joined({name, ": ", bytes ? *bytes : "no file"}));
     };
     show("disk", Disk());
     show("model", model_.file ? std::optional(model_.file->bytes) : std::nullopt);
     for (const Pending &each : pending_)
         for (const Outcome &outcome : each.outcomes(model_))
             show("wanted", outcome.file ? std::optional(outcome.file->bytes) : std::nullopt);
+    static_cast<void>(std::fflush(stdout));
     std::abort();
 }
 
@@ -207,14 +213,15 @@ inline void Oracle::Check_Store() {
             continue;
         Demand(!Fakes().registry_refuses_writes || key.starts_with("Control Panel"),
                "a store that refuses has taken " + key);
-        const std::string from = before == store_.end() ? "nothing" : "\"" + before->second + "\"";
-        Demand(may(key), "the store's key " + key + " has changed from " + from + " to \"" + text + "\"");
+        const std::string from =
+            before == store_.end() ? "nothing" : platform::Joined({"\"", before->second, "\""});
+        const std::string change = platform::Joined({key, " has changed from ", from, " to \"", text, "\""});
+        Demand(may(key), "the store's key " + change);
         const bool same = before == store_.end() || touched_ || refused_ || !dialog_ || configures_ ||
                           !(key.starts_with(general) || key.starts_with(colours));
         const bool one_value = key == general + "Bar Time"; // 1 and True
         Demand(same || one_value || key == general + "Settings Tab" || key == general + "Use Themes",
-               "a dialog in which nothing was chosen has changed " + key + " from " + from + " to \"" + text +
-                   "\"");
+               "a dialog in which nothing was chosen: " + change);
     }
     Demand(Fakes().registry.size() >= store_.size(), "a key of the store has gone");
 }

@@ -6,7 +6,6 @@
 #include "toolkit/keys.h"
 
 #include <cstdint>
-#include <cstdlib>
 #include <string>
 
 /// The bytes that choose what happens; after the last one there are only zeros.
@@ -73,13 +72,21 @@ inline bool Told_Since(std::size_t boxes, const std::string &text) {
     return false;
 }
 
+/// The number that begins there in the text.
+inline int Number_At(const std::string &text, std::size_t begin) {
+    int number = 0;
+    for (; begin < text.size() && text[begin] >= '0' && text[begin] <= '9' && number < 10000; ++begin)
+        number = number * 10 + (text[begin] - '0');
+    return number;
+}
+
 /// Of "Tuesday 5th March 2002", with or without more behind a comma.
 inline Model_Day Day_Of(const std::string &name) {
     Model_Day day;
     const std::size_t first = name.find(' ') + 1, second = name.find(' ', first) + 1;
     const std::size_t third = name.find(' ', second) + 1;
-    day.day = std::atoi(name.c_str() + first);
-    day.year = std::atoi(name.c_str() + third);
+    day.day = Number_At(name, first);
+    day.year = Number_At(name, third);
     for (std::size_t i = 0; i < 12; ++i)
         if (Fakes().months[i] == name.substr(second, third - second - 1))
             day.month = static_cast<int>(i) + 1;
