@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# fuzz.sh [SECONDS]: gives each reader of files and texts made-up input for SECONDS (60), beginning with fuzz/corpus, and
-# fails at the first that breaks off; what it was given then is in build/fuzz-found. Installs what is missing.
+# fuzz.sh [SECONDS]: gives each reader of files and texts, and the whole program, made-up input for SECONDS (60),
+# beginning with fuzz/corpus, and fails at the first that breaks off; what it was given then is in build/fuzz-found.
+# Installs what is missing.
 set -euo pipefail
 # shellcheck source=/dev/null
 . "$(dirname "${BASH_SOURCE[0]}")/packages.sh"

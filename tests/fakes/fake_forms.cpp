@@ -1,6 +1,7 @@
 // Windows, canvas, timers, screen, menus and the shell without a screen.
 #include "tests/fakes/fake_forms.h"
 
+#include "core/date.h"
 #include "platform/characters.h"
 #include "platform/pictures.h"
 #include "platform/twips.h"
@@ -232,6 +233,12 @@ Point Mouse_Position() {
 
 int Track_Popup_Menu(Form_Model &, const std::vector<Menu_Item> &items, const Point *at) {
     Desktop().menu_at = at == nullptr ? std::nullopt : std::optional(*at);
+    if (Desktop().answer_menu && Desktop().expected_menus.empty()) {
+        Desktop().menu_open = true;
+        const int answer = Desktop().answer_menu(items);
+        Desktop().menu_open = false;
+        return answer;
+    }
     std::string texts;
     for (const Menu_Item &item : items)
         texts += (texts.empty() ? "" : "|") + (item.enabled ? item.text : "(" + item.text + ")");
@@ -248,6 +255,11 @@ int Track_Popup_Menu(Form_Model &, const std::vector<Menu_Item> &items, const Po
 }
 
 void Run_Message_Loop() {
+    if (!Desktop().in_loop)
+        return;
+    while (!Desktop().loop_ended)
+        Desktop().in_loop();
+    Desktop().loop_ended = false;
 }
 
 void End_Message_Loop() {
@@ -271,7 +283,12 @@ void Wait_For_Messages(unsigned milliseconds) {
     carry(now.millisecond, 1000, now.second);
     carry(now.second, 60, now.minute);
     carry(now.minute, 60, now.hour);
-    carry(now.hour, 24, now.day); // the tests keep away from the month's end
+    carry(now.hour, 24, now.day);
+    const auto month = static_cast<std::int16_t>(now.month);
+    if (now.day > DaysInMonth({static_cast<std::int16_t>(now.year), month, 1}))
+        now.day = 1, ++now.month;
+    if (now.month > 12)
+        now.month = 1, ++now.year;
     Desktop().Advance(step);
 }
 

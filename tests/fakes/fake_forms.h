@@ -80,6 +80,10 @@ struct Fake_Desktop {
     std::optional<platform::Point> menu_at; ///< where the last menu was to open
     int measured = 0;                       ///< calls of Text_Width
 
+    std::function<int(const std::vector<platform::Menu_Item> &)>
+        answer_menu;               ///< for menus that no test expects
+    std::function<void()> in_loop; ///< again and again, until the message loop is ended
+
     /// Lets the time pass, with the timers' ticks in their order.
     void Advance(unsigned milliseconds);
     bool Say(platform::Broadcast broadcast) { return listener(broadcast); }

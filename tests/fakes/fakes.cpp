@@ -56,6 +56,8 @@ void Paint_Waiting(const Form_Model &) {
 
 bool Show_File_Dialog(File_Dialog &dialog) {
     Fake_System &system = Fakes();
+    if (system.answer_dialog && system.expected_dialogs.empty())
+        system.expected_dialogs.push_back({dialog.title, system.answer_dialog(dialog)});
     const std::string next = system.expected_dialogs.empty() ? "none" : system.expected_dialogs.front().title;
     Require(next == dialog.title, "unexpected file dialog: " + dialog.title + "\nexpected: " + next);
     if (next != dialog.title)
@@ -185,13 +187,21 @@ std::vector<std::string> Names_In_Folder(const std::string &folder, Listed liste
     return {names.begin(), names.end()};
 }
 
+namespace {
+
+bool Fails(const std::string &path) {
+    return Fakes().file_fails && Fakes().file_fails(path);
+}
+
+} // namespace
+
 void Delete_File(const std::string &path) {
-    if (Fakes().unwritable.contains(path) || Fakes().files.erase(path) == 0)
+    if (Fails(path) || Fakes().unwritable.contains(path) || Fakes().files.erase(path) == 0)
         throw File_Error(path + " cannot be deleted");
 }
 
 Date_Time Modified_Time(const std::string &path) {
-    if (!File_Exists(path))
+    if (Fails(path) || !File_Exists(path))
         throw File_Error(path + " is not there");
     const auto written = Fakes().written.find(path);
     return written == Fakes().written.end() ? Date_Time{2002, 2, 1, 9, 5, 0, 0} : written->second;
@@ -221,14 +231,14 @@ bool Path_Exists(const std::string &path) {
 std::string Read_File(const std::string &path) {
     ++Fakes().reads;
     const auto file = Fakes().files.find(path);
-    if (file == Fakes().files.end() || Fakes().unreadable.contains(path))
+    if (Fails(path) || file == Fakes().files.end() || Fakes().unreadable.contains(path))
         throw File_Error(path + " cannot be read");
     return file->second;
 }
 
 void Replace_File(const std::string &path, std::string_view bytes) {
     ++Fakes().writes;
-    if (Fakes().folders.contains(path) || Fakes().unwritable.contains(path))
+    if (Fails(path) || Fakes().folders.contains(path) || Fakes().unwritable.contains(path))
         throw File_Error(path + " cannot be written");
     Fakes().files[path] = bytes;
     Fakes().written[path] = Now();
@@ -290,6 +300,8 @@ Box_Answer Message_Box(std::string_view text, std::string_view title, Box_Icon i
     const Box_Answer safest = buttons == Box_Buttons::Ok       ? Box_Answer::Ok
                               : buttons == Box_Buttons::Yes_No ? Box_Answer::No
                                                                : Box_Answer::Cancel;
+    if (system.answer_box && system.expected_boxes.empty())
+        return system.answer_box(Shown_Box(system.boxes.back()));
     const std::string next = system.expected_boxes.empty() ? "none" : system.expected_boxes.front().text;
     if (next != text) {
         Require(system.any_box, "unexpected message box: " + std::string(text) + "\nexpected: " + next);

@@ -83,6 +83,12 @@ struct Fake_System {
 
     std::function<void(const std::string &message)> on_failure; ///< takes what the fakes find wrong
 
+    // What no test expects, where these are filled: how a box is answered, which path a file dialog gives,
+    // and whether a call for a file fails.
+    std::function<platform::Box_Answer(const Shown_Box &)> answer_box;
+    std::function<std::string(const platform::File_Dialog &)> answer_dialog;
+    std::function<bool(const std::string &path)> file_fails;
+
     /// Says that the next message box after those expected already shows `text`, and how it is answered.
     void Expect_Box(std::string text, platform::Box_Answer answer = platform::Box_Answer::Ok,
                     std::function<void()> meanwhile = nullptr) {

@@ -1,0 +1,211 @@
+// What the program asks, and the answers: boxes, menus and file dialogs. Each that changes the data file
+// becomes something pending for the oracle. Time and the session go on meanwhile.
+#pragma once
+
+#include "fuzz/program_oracle.h"
+
+using platform::Box_Answer;
+using platform::Broadcast;
+
+class Answers : protected Oracle {
+protected:
+    explicit Answers(Bytes &in) : in_(in), files_(in) {}
+
+    Box_Answer Answer_Box(const Shown_Box &box);
+    int Answer_Menu(const std::vector<platform::Menu_Item> &items);
+    std::string Answer_Dialog(const platform::File_Dialog &dialog);
+    /// The user wants the day of the box to be without its event. Of one that shows none, since a reading
+    /// failed, it may stay.
+    void Clear(const Control_State &box);
+    void Step_Clock();
+    void Pass_Time();
+
+    Bytes &in_;
+    Made_Files files_;
+    const Control_State *menu_box_ = nullptr; ///< that was clicked for its menu
+    bool staged_ = false;                     ///< the list of events may be that of an import
+
+private:
+    void Interrupt();
+    void Hear_Failure(const Shown_Box &box);
+    void Agree(const std::string &question);
+
+    int depth_ = 0;
+};
+
+inline void Answers::Step_Clock() {
+    platform::Date_Time &now = Fakes().now;
+    constexpr int years[] = {2001, 2002, 2003, 2004, 1900, 9998, 2002, 2002};
+    constexpr int months[] = {3, 1, 2, 12, 3, 6, 7, 9};
+    now = {years[in_.Pick(8)], months[in_.Pick(8)], 1, 0, 0, 0, 0};
+    constexpr int days[] = {5, 1, 28, 29, 31, 31, 31};
+    now.day = std::min(days[in_.Pick(7)], Days_In_Month(now.year, now.month));
+    if (in_.Pick(2) == 1)
+        now.hour = 23, now.minute = 59, now.second = 59, now.millisecond = 900;
+    if (in_.Pick(2) == 1)
+        Desktop().Say(Broadcast::Time_Changed);
+    Desktop().Advance(1100);
+}
+
+inline void Answers::Pass_Time() {
+    constexpr unsigned spans[] = {1000, 300, 61000, 5000};
+    const unsigned span = spans[in_.Pick(4)];
+    for (unsigned left = span; left > 0; left -= std::min(left, 1000U)) {
+        platform::Date_Time &now = Fakes().now;
+        if (++now.second > 59)
+            now.second = 0, ++now.minute;
+        if (now.minute > 59)
+            now.minute = 0, now.hour = std::min(now.hour + 1, 23);
+        Desktop().Advance(std::min(left, 1000U));
+    }
+}
+
+inline void Answers::Interrupt() {
+    if (depth_ > 3)
+        return;
+    switch (in_.Pick(24)) {
+    case 1:
+        return Pass_Time();
+    case 2:
+        return Step_Clock();
+    case 3:
+        Desktop().Say(Broadcast::Session_Ends);
+        return;
+    case 4:
+        if (in_.Pick(4) == 0)
+            Desktop().Say(Broadcast::Session_Over);
+        return;
+    case 5:
+        Desktop().Say(Broadcast::Settings_Changed);
+        return;
+    default:
+        return;
+    }
+}
+
+/// A failure that is told has a cause, and leaves the data file as it was.
+inline void Answers::Hear_Failure(const Shown_Box &box) {
+    const auto begins = [&box](const char *text) { return box.text.starts_with(text); };
+    if (begins("Error loading in data file.")) {
+        loading_failed_ = true;
+        Demand(Has_Cause() || (model_.file && !All_Keyed(model_.file->records)),
+               "a reading that went well has failed");
+        for (Pending &each : pending_)
+            each.may_stay = true;
+    } else if (begins("Error saving data file.")) {
+        const bool unwritable = !All_Writable(model_.Base());
+        const bool blind = editor_ && (editor_->blind || editor_->maybe_blind);
+        Demand(Has_Cause() || unwritable || blind, "a save without a cause to fail has failed");
+        Fail_Pending();
+    } else if (begins("Error when importing from CSV file.")) {
+        const bool expected = !pending_.empty() && pending_.back().outcomes(model_).empty();
+        Demand(Has_Cause() || expected, "an import without a cause to fail has failed");
+        Fail_Pending();
+    } else if (begins("Error when importing data file.")) {
+        Demand(Has_Cause(), "an import without a cause to fail has failed");
+        Fail_Pending();
+    }
+}
+
+/// The user wants it.
+inline void Answers::Agree(const std::string &question) {
+    const auto begins = [&question](const char *text) { return question.starts_with(text); };
+    if (begins("Save changes for the ") && editor_ && editor_->text.find('"') == std::string::npos) {
+        const Model_Editor from = *editor_;
+        saved_ = true; // and closed, so that another day's editor starts afresh
+        pending_.push_back({[from](const Model &model) {
+                                return from.blind ? Outcomes{}
+                                                  : After_Save(model, from.day, from.text, from.yearly);
+                            },
+                            from.maybe_blind});
+    } else if (begins("Do you really want to remove the event..")) {
+        const std::string line = question.substr(question.find("\r\n\r\n") + 4);
+        const bool staged = staged_;
+        pending_.push_back({[this, line, staged](const Model &model) {
+            Outcomes outcomes = After_Removal(model, line, staged,
+                                              [this](const std::string &record) { return Line_Of(record); });
+            if (strict || (model.file && !model.file->whole))
+                return outcomes;
+            for (std::size_t i = 0; i < model.Base().size(); ++i) {
+                Records records = model.Base();
+                records.erase(records.begin() + static_cast<std::ptrdiff_t>(i));
+                outcomes.push_back({Written(records), {}});
+            }
+            return outcomes;
+        }});
+    } else if (begins("You already have a working data file.")) {
+        const Model_File chosen = files_.Data(files_.chosen);
+        pending_.push_back({[chosen](const Model &) { return Outcomes{{chosen, {}}}; }});
+    } else if (begins("Manual Positioning is not selected.")) {
+        places_ = true;
+    }
+}
+
+inline Box_Answer Answers::Answer_Box(const Shown_Box &box) {
+    Tell("   box: " + box.text);
+    ++depth_;
+    Commit(false);
+    Hear_Failure(box);
+    Interrupt();
+    Box_Answer answer = Box_Answer::Ok;
+    if (box.buttons != platform::Box_Buttons::Ok) {
+        const int last = box.buttons == platform::Box_Buttons::Yes_No ? 2 : 3;
+        constexpr Box_Answer answers[] = {Box_Answer::No, Box_Answer::Yes, Box_Answer::Cancel};
+        answer = in_.Out() ? Box_Answer::No : answers[in_.Pick(last)];
+    }
+    if (answer == Box_Answer::Yes)
+        Agree(box.text);
+    --depth_;
+    Tell("   answer " + std::to_string(static_cast<int>(answer)));
+    return answer;
+}
+
+inline void Answers::Clear(const Control_State &box) {
+    const Model_Day day = Day_Of(box.access.name);
+    pending_.push_back({[day](const Model &model) { return After_Save(model, day, {}, false); },
+                        strict && box.access.value.empty()});
+}
+
+inline int Answers::Answer_Menu(const std::vector<platform::Menu_Item> &items) {
+    if (in_.Out())
+        return 0;
+    int chosen = in_.Pick(static_cast<int>(items.size()) + 1);
+    if (items.front().text == "Clear" && in_.Pick(2) == 0)
+        chosen = 3; // the settings
+    if (chosen == 0)
+        return 0;
+    const platform::Menu_Item &item = items[static_cast<std::size_t>(chosen - 1)];
+    if (item.text == "Exit" && in_.Pick(3) != 0)
+        return 0;
+    Tell("   menu: " + item.text);
+    if (!item.enabled)
+        return 0;
+    if (item.text == "Clear") {
+        const Form_Model *calendar = Window("Calendar");
+        const bool at_box = calendar != nullptr && Desktop().menu_at;
+        Clear(at_box ? Box_At(*calendar, *Desktop().menu_at) : *menu_box_);
+    }
+    return item.id;
+}
+
+inline std::string Answers::Answer_Dialog(const platform::File_Dialog &dialog) {
+    ++depth_;
+    Commit(false);
+    Interrupt();
+    --depth_;
+    std::string path = in_.Out() ? std::string() : files_.Choose(dialog.title);
+    Tell("   " + dialog.title + ": " + path);
+    if (path.empty() || dialog.saves || !Fakes().files.contains(path))
+        return path;
+    if (dialog.title == "Import Data File" && !Name_Is(path, Data_Path) && !model_.file) {
+        const Model_File chosen = files_.Data(path);
+        pending_.push_back({[chosen](const Model &) { return Outcomes{{chosen, {}}}; }});
+    } else if (dialog.title == "Import Events from CSV File") {
+        const Model_CSV csv = files_.CSV(path);
+        staged_ = true;
+        pending_.push_back({[csv](const Model &model) { return After_Import(model, csv); }});
+    } else if (dialog.title == "Import Configuration File") {
+        configures_ = touched_ = true;
+    }
+    return path;
+}

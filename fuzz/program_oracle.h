@@ -1,0 +1,238 @@
+// What holds after each action of the whole program: the data file against the model, the editor, the store.
+#pragma once
+
+#include "fuzz/program_files.h"
+#include "fuzz/program_model.h"
+#include "fuzz/program_windows.h"
+#include "platform/joined.h"
+#include "tests/fakes/fake_forms.h"
+
+#include <cstdio>
+#include <cstdlib>
+
+using platform::Control_State;
+using platform::Form_Model;
+
+/// Each action, box and answer is printed.
+inline bool tells = false;
+
+/// What the user has before the eyes in the editor.
+struct Model_Editor {
+    Model_Day day;
+    std::string text;
+    bool yearly = false, unsaved = false;
+    bool blind = false;       ///< its reading failed: nothing may be saved from it
+    bool maybe_blind = false; ///< some reading failed when it was opened
+};
+
+/// A change of the data file that the user asked for and of which no end has been seen.
+struct Pending {
+    std::function<Outcomes(const Model &)> outcomes;
+    bool may_stay = false; ///< its reading failed, which was told
+};
+
+class Oracle {
+protected:
+    /// Breaks off where `holds` is false, and tells where the program and the model are then.
+    void Demand(bool holds, const std::string &what);
+    /// Prints it, where that is wanted.
+    static void Tell(const std::string &text) {
+        if (tells)
+            static_cast<void>(std::puts(text.c_str()));
+    }
+    void Begin_Action();
+    void End_Action();
+    void Commit(bool at_end);
+    void Fail_Pending();
+    bool Has_Cause() const;
+    std::string Line_Of(const std::string &record) const;
+
+    Model model_;
+    std::optional<Model_Editor> editor_;
+    std::vector<Pending> pending_;
+    std::string action_; ///< what the user does now
+    int actions_ = 0;
+    int fails_ = 0; ///< calls for files that failed in this action
+    bool typed_ = false, saved_ = false, loading_failed_ = false;
+    /// What the action may store.
+    bool places_ = false, styles_ = false, dialog_ = false, configures_ = false;
+    bool refused_ = false; ///< the store has not taken all that the program holds
+    bool touched_ = false; ///< something was chosen in the settings dialog that is open
+
+private:
+    std::optional<std::string> Disk() const;
+    void Forget();
+    void Follow_Editor();
+    void Check_Store();
+
+    std::map<std::string, std::string, Name_Less> store_; ///< before the action
+};
+
+inline void Oracle::Demand(bool holds, const std::string &what) {
+    if (holds)
+        return;
+    tells = true;
+    Tell(platform::Joined({"action ", std::to_string(actions_), ", ", action_, ": ", what}));
+    const auto show = [](const char *name, const std::optional<std::string> &bytes) {
+        Tell(platform::Joined({name, ": ", bytes ? *bytes : "no file"}));
+    };
+    show("disk", Disk());
+    show("model", model_.file ? std::optional(model_.file->bytes) : std::nullopt);
+    for (const Pending &each : pending_)
+        for (const Outcome &outcome : each.outcomes(model_))
+            show("wanted", outcome.file ? std::optional(outcome.file->bytes) : std::nullopt);
+    static_cast<void>(std::fflush(stdout));
+    std::abort();
+}
+
+inline std::optional<std::string> Oracle::Disk() const {
+    const auto file = Fakes().files.find(Data_Path);
+    return file == Fakes().files.end() ? std::nullopt : std::optional(file->second);
+}
+
+inline bool Oracle::Has_Cause() const {
+    const bool held = !Fakes().unreadable.empty() || !Fakes().unwritable.empty();
+    return fails_ > 0 || held || (model_.file && !model_.file->whole);
+}
+
+/// Takes what is on the disk for the end of what was asked for, where it is. At the end of an action it must
+/// be.
+inline void Oracle::Commit(bool at_end) {
+    const std::optional<std::string> disk = Disk();
+    if (!model_.file && !model_.scratch && disk) { // nobody can say what was saved
+        model_.file = Read_Plain(*disk);
+        pending_.clear();
+    }
+    while (!pending_.empty()) {
+        const Pending pending = pending_.back();
+        const Outcomes outcomes = pending.outcomes(model_);
+        const auto done = std::find_if(outcomes.begin(), outcomes.end(), [&](const Outcome &outcome) {
+            return outcome.file.has_value() == disk.has_value() && (!disk || outcome.file->bytes == *disk);
+        });
+        const bool stays = model_.Is_Now(disk);
+        if (!at_end && stays)
+            return; // still to come
+        const bool whole = !model_.file || model_.file->whole;
+        if (done == outcomes.end()) {
+            Demand(stays && (pending.may_stay || !whole), "the data file is not what the user made of it");
+            Forget();
+        } else {
+            model_.file = done->file;
+            model_.scratch = done->scratch;
+            if (pending.may_stay)
+                Forget();
+        }
+        pending_.pop_back();
+    }
+    Demand(model_.Is_Now(disk), "the data file is another one than the user's");
+}
+
+/// What was asked for last failed, and was told: the file is as it was.
+inline void Oracle::Fail_Pending() {
+    const std::optional<std::string> disk = Disk();
+    Demand(model_.Is_Now(disk), "a failure has changed the data file");
+    if (pending_.empty())
+        return;
+    pending_.pop_back();
+    Forget();
+}
+
+/// After a failure the memory may hold what was read before it.
+inline void Oracle::Forget() {
+    if (model_.file || !strict)
+        model_.scratch.reset();
+}
+
+inline void Oracle::Begin_Action() {
+    ++actions_;
+    fails_ = 0;
+    typed_ = saved_ = loading_failed_ = false;
+    places_ = styles_ = configures_ = false;
+    dialog_ = Window("Settings_Frm") != nullptr;
+    store_ = Fakes().registry;
+}
+
+inline void Oracle::End_Action() {
+    Commit(true);
+    Follow_Editor();
+    Check_Store();
+    Tell(std::to_string(actions_) + ": " + action_);
+}
+
+/// The editor shows what it showed, or it was opened and shows the day's event.
+inline void Oracle::Follow_Editor() {
+    Form_Model *window = Window("Edit_Frm");
+    if (window == nullptr) {
+        editor_.reset();
+        return;
+    }
+    Model_Editor now;
+    now.day = Day_Of(Control(*window, "Date_Lbl").caption);
+    now.text = Control(*window, "Message_Txt").caption;
+    now.yearly = Control(*window, "Every_Year_Chk").checked;
+    now.unsaved = Control(*window, "Apply_Btn").enabled;
+    const bool readable = !model_.file || (model_.file->whole && !Fakes().unreadable.contains(Data_Path));
+    if (editor_) {
+        const bool same = now.day == editor_->day && now.text == editor_->text &&
+                          now.yearly == editor_->yearly && now.unsaved == editor_->unsaved;
+        // It may have been opened once more for its day.
+        now.blind = editor_->blind && (typed_ || !readable);
+        now.maybe_blind = editor_->maybe_blind || editor_->blind || (!typed_ && loading_failed_);
+        if (typed_ || same) {
+            editor_ = now;
+            return;
+        }
+    }
+    const auto [text, yearly] = model_.Message(now.day);
+    now.maybe_blind = loading_failed_;
+    now.blind = strict && !readable;
+    if (!loading_failed_) {
+        Demand(now.text == text, "the editor shows \"" + now.text + "\", not \"" + text + "\"");
+        Demand(now.yearly == (yearly || (editor_ && !saved_ && editor_->yearly)),
+               "the editor's tick is wrong");
+    }
+    Demand(!now.unsaved, "an editor that was just opened has unsaved text");
+    editor_ = now;
+}
+
+inline void Oracle::Check_Store() {
+    const std::string general = "Software\\Vellatro\\Settings\\", colours = "Software\\Vellatro\\Colours\\";
+    const auto may = [&](const std::string &key) {
+        const auto is = [&](std::initializer_list<const char *> names) {
+            return std::any_of(names.begin(), names.end(),
+                               [&](const char *name) { return key == general + name; });
+        };
+        return key.starts_with("Control Panel\\Desktop\\") || is({"Use Themes", "Bar Date Format"}) ||
+               configures_ || (places_ && is({"Manual_PosX", "Manual_PosY", "Alignment", "Use Theme Pos"})) ||
+               (styles_ && is({"Style", "Use Theme Style"})) ||
+               (dialog_ && (is({"Settings Tab"}) || !is({"Manual_PosX", "Manual_PosY"})));
+    };
+    for (const auto &[key, text] : Fakes().registry) {
+        const auto before = store_.find(key);
+        if (before != store_.end() && before->second == text)
+            continue;
+        Demand(!Fakes().registry_refuses_writes || key.starts_with("Control Panel"),
+               "a store that refuses has taken " + key);
+        const std::string from =
+            before == store_.end() ? "nothing" : platform::Joined({"\"", before->second, "\""});
+        const std::string change = platform::Joined({key, " has changed from ", from, " to \"", text, "\""});
+        Demand(may(key), "the store's key " + change);
+        const bool same = before == store_.end() || touched_ || refused_ || !dialog_ || configures_ ||
+                          !(key.starts_with(general) || key.starts_with(colours));
+        const bool one_value = key == general + "Bar Time"; // 1 and True
+        Demand(same || one_value || key == general + "Settings Tab" || key == general + "Use Themes",
+               "a dialog in which nothing was chosen: " + change);
+    }
+    Demand(Fakes().registry.size() >= store_.size(), "a key of the store has gone");
+}
+
+inline std::string Oracle::Line_Of(const std::string &record) const {
+    const std::optional<Model_Day> day = Day_Of_Key(Key_Of(record));
+    if (!day)
+        return {};
+    const bool yearly = day->year == 9999;
+    const int year = yearly ? Fakes().now.year : day->year;
+    const int last = Days_In_Month(year, day->month);
+    return platform::Short_Date(year, day->month, std::min(day->day, last)) +
+           (yearly ? " (every year)  -  " : "  -  ") + Text_Of(record);
+}

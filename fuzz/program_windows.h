@@ -1,0 +1,95 @@
+// The program's windows as a user has them: found by name, and acted on through their mirrors alone.
+#pragma once
+
+#include "fuzz/program_model.h"
+#include "tests/fakes/fake_forms.h"
+#include "toolkit/keys.h"
+
+#include <cstdint>
+#include <string>
+
+/// The bytes that choose what happens; after the last one there are only zeros.
+class Bytes {
+public:
+    Bytes(const std::uint8_t *data, std::size_t size) : at_(data), end_(data + size) {}
+    bool Out() const { return at_ == end_; }
+    /// 0 to `count` - 1.
+    int Pick(int count) { return at_ == end_ || count < 2 ? 0 : *at_++ % count; }
+
+private:
+    const std::uint8_t *at_, *end_;
+};
+
+/// Null where there is none.
+inline platform::Form_Model *Window(const std::string &name) {
+    for (const auto &[model, mirror] : Desktop().mirrors)
+        if (model->name == name)
+            return const_cast<platform::Form_Model *>(model); // which the program gave to be used
+    return nullptr;
+}
+
+inline const platform::Control_State &Control(const platform::Form_Model &window, const std::string &name) {
+    for (const platform::Control_State *control : window.controls)
+        if (control->name == name)
+            return *control;
+    Require(false, "no control " + name);
+    std::abort();
+}
+
+/// The day box that is seen there; there must be one.
+inline const platform::Control_State &Box_At(const platform::Form_Model &window, platform::Point at) {
+    const platform::Control_State *found = nullptr;
+    for (const platform::Control_State *control : window.controls)
+        if (control->visible && control->access.role == platform::Access_Role::Cell &&
+            control->bounds.Contains(at))
+            found = control;
+    Require(found != nullptr, "a menu opens over no day");
+    return *found;
+}
+
+inline void Send(platform::Form_Model &window, const platform::Input_Event &event) {
+    const auto input = window.input;
+    input(event);
+}
+
+inline void Mouse(platform::Form_Model &window, const platform::Control_State &control,
+                  platform::Input_Kind kind, platform::Mouse_Button button) {
+    const platform::Rect &at = control.bounds;
+    Send(window, {.kind = kind, .point = {at.left + at.width / 2, at.top + at.height / 2}, .button = button});
+}
+
+inline void Click_Painted(platform::Form_Model &window, const platform::Control_State &control,
+                          platform::Mouse_Button button) {
+    Mouse(window, control, platform::Input_Kind::Mouse_Down, button);
+    if (Desktop().mirrors.contains(&window))
+        Mouse(window, control, platform::Input_Kind::Mouse_Up, button);
+}
+
+inline bool Told_Since(std::size_t boxes, const std::string &text) {
+    for (std::size_t i = boxes; i < Fakes().boxes.size(); ++i)
+        if (Fakes().boxes[i].text == text)
+            return true;
+    return false;
+}
+
+/// The number that begins there in the text.
+inline int Number_At(const std::string &text, std::size_t begin) {
+    int number = 0;
+    for (; begin < text.size() && text[begin] >= '0' && text[begin] <= '9' && number < 10000; ++begin)
+        number = number * 10 + (text[begin] - '0');
+    return number;
+}
+
+/// Of "Tuesday 5th March 2002", with or without more behind a comma.
+inline Model_Day Day_Of(const std::string &name) {
+    Model_Day day;
+    const std::size_t first = name.find(' ') + 1, second = name.find(' ', first) + 1;
+    const std::size_t third = name.find(' ', second) + 1;
+    day.day = Number_At(name, first);
+    day.year = Number_At(name, third);
+    for (std::size_t i = 0; i < 12; ++i)
+        if (Fakes().months[i] == name.substr(second, third - second - 1))
+            day.month = static_cast<int>(i) + 1;
+    Require(day.month != 0 && day.day != 0 && day.year != 0, "no date: " + name);
+    return day;
+}
