@@ -50,28 +50,6 @@ private:
 
 } // namespace
 
-Record_Merger::Record_Merger(std::vector<std::string> &records) : records_(records) {
-    // A record without "=", which only another hand can have written, is one of no day.
-    for (std::size_t i = 0; i < records.size(); ++i)
-        if (Event_Record parts; Part_Record(records[i], parts))
-            first_.emplace(parts.key, i);
-}
-
-void Record_Merger::Merge(const Date &date, const std::string &text) {
-    const std::string key = Date_Key(date);
-    const auto exact = first_.find(key);
-    const auto yearly = first_.find(Date_Key({every_year, date.month, date.day}));
-    if (exact == first_.end() && yearly == first_.end()) {
-        first_.emplace(key, records_.size());
-        records_.push_back(platform::Joined({key, "=", text}));
-        return;
-    }
-    const std::size_t index = exact == first_.end()    ? yearly->second
-                              : yearly == first_.end() ? exact->second
-                                                       : std::min(exact->second, yearly->second);
-    records_[index].append(" + ").append(text);
-}
-
 Importer::Importer(Main_Frm &calendar, OpenSaveDialog &dialog) : calendar_(calendar), dialog_(dialog) {
 }
 
@@ -231,5 +209,61 @@ void Importer::Import_Data_File() {
              platform::Box_Icon::Information);
     } catch (const std::exception &) {
         Tell("Error when importing data file.", platform::Box_Icon::Exclamation);
+    }
+}
+
+void Importer::Import_ICalendar() {
+    const auto fail = [this](std::string_view reason) {
+        Work.End();
+        Tell(platform::Joined(
+                 {"Error when importing from iCalendar file.", reason.empty() ? "" : "\r\n\r\n", reason}),
+             platform::Box_Icon::Exclamation);
+    };
+    try {
+        if (!Ask_File("Import Events from iCalendar File", "iCalendar File (*.ics)|*.ics", false))
+            return;
+        Work.Begin();
+        const Join_Counts counts = Join_Calendar(platform::Read_File(dialog_.FileName));
+        Data_File_Replaced();
+        Work.End();
+        calendar_.Redraw();
+        const auto number = [](std::size_t count) { return std::to_string(count); };
+        std::string message = platform::Joined(
+            {"Successfully imported ", number(counts.imported), " events from the iCalendar file...\r\n\r\n",
+             dialog_.FileName, "\r\n\r\nImported: ", number(counts.imported), ", already there: ",
+             number(counts.already_there), ", passed over: ", number(counts.passed_over)});
+        if (counts.not_understood > 0)
+            message += "\r\nOn their first day only, since their repetition is not understood: " +
+                       number(counts.not_understood);
+        Tell(message, platform::Box_Icon::Information);
+    } catch (const platform::Error &error) {
+        fail(error.what());
+    } catch (const std::exception &) {
+        fail({});
+    }
+}
+
+/// Folds the events of a calendar file in as a whole: the data file is written once, at the end, and neither
+/// it nor the copy where nothing is new. No window is painted between reading and writing it, so that nothing
+/// else can be stored meanwhile.
+Join_Counts Importer::Join_Calendar(const std::string &bytes) {
+    const Calendar_File file = Read_ICalendar(bytes, Work);
+    const Event_Days days = Find_Event_Days(file, Today(), Work);
+    calendar_.Events.Load_File();
+    std::vector<std::string> &records = calendar_.Events.Temp_Lst;
+    std::vector<std::string> before = records;
+    std::optional<Backup> backup;
+    try {
+        const Join_Counts counts = Join_Events(file, days, records);
+        if (counts.imported > 0) {
+            backup.emplace();
+            calendar_.Events.Write_Data_File();
+        }
+        return counts;
+    } catch (...) {
+        records.swap(before);
+        if (backup)
+            backup->Restore();
+        throw;
     }
 }

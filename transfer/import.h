@@ -6,28 +6,14 @@
 #include "core/event_entries.h"
 #include "platform/callback.h"
 #include "transfer/csv.h"
+#include "transfer/joining.h"
 #include "transfer/progress.h"
 #include "ui/open_save_dialog.h"
 
 #include <string>
-#include <unordered_map>
 #include <vector>
 
-/// Folds events into the records as they are stored: an event joins the first record of its day, be that one
-/// an exact or an every-year one, and otherwise becomes the last record. Knows each day's first record, so
-/// that no event costs a search.
-class Record_Merger {
-public:
-    /// `records` must outlive the merger, and nobody else may change it.
-    explicit Record_Merger(std::vector<std::string> &records);
-    void Merge(const Date &date, const std::string &text);
-
-private:
-    std::vector<std::string> &records_;
-    std::unordered_map<std::string, std::size_t> first_; ///< key to index
-};
-
-/// The three imports, with all messages to the user. None throws.
+/// The imports, with all messages to the user. None throws.
 class Importer {
 public:
     /// Both must outlive it. The files are asked for in `dialog`.
@@ -36,6 +22,7 @@ public:
     void Import_CSV();
     void Import_Config();
     void Import_Data_File();
+    void Import_ICalendar();
 
     // All to be filled.
 
@@ -56,6 +43,7 @@ private:
     void Read_Events(const std::string &bytes, std::vector<Sort_Entry> &staged);
     void Merge_Imported(const std::vector<Sort_Entry> &staged);
     void Apply_Configuration();
+    Join_Counts Join_Calendar(const std::string &bytes);
     bool May_Replace() const;
 
     Main_Frm &calendar_;
