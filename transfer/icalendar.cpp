@@ -350,7 +350,7 @@ std::string Unescaped(std::string_view value) {
     text.reserve(value.size());
     for (std::size_t i = 0; i < value.size(); ++i) {
         const char next = value[i] == '\\' && i + 1 < value.size() ? Capital(value[i + 1]) : '\0';
-        if (next == 'N' || next == ',' || next == ';' || next == '\\') {
+        if (next != '\0' && std::string_view("N,;\\\"").find(next) != std::string_view::npos) {
             text += next == 'N' ? '\n' : next;
             ++i;
         } else {

@@ -51,7 +51,8 @@ private:
 /// The value of a parameter, without the quotes around it; empty: it is not there.
 std::string_view Parameter(const Content_Line &line, std::string_view name);
 
-/// A text without its escapes: \n is a line end, and \, \; \\ are the characters themselves.
+/// A text without its escapes: \n is a line end, and \, \; \\ are the characters themselves. So is \", which some
+/// write although they need not.
 std::string Unescaped(std::string_view value);
 
 /// One VEVENT.

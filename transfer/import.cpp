@@ -244,26 +244,24 @@ void Importer::Import_ICalendar() {
 }
 
 /// Folds the events of a calendar file in as a whole: the data file is written once, at the end, and neither
-/// it nor the copy where nothing is new. No window is painted between reading and writing it, so that nothing
-/// else can be stored meanwhile.
+/// it nor the copy where nothing is new. A write that fails leaves the file as it was, so that the copy is
+/// not needed to restore it. No window is painted between reading and writing, so that nothing else can be
+/// stored meanwhile.
 Join_Counts Importer::Join_Calendar(const std::string &bytes) {
     const Calendar_File file = Read_ICalendar(bytes, Work);
     const Event_Days days = Find_Event_Days(file, Today(), Work);
     calendar_.Events.Load_File();
     std::vector<std::string> &records = calendar_.Events.Temp_Lst;
     std::vector<std::string> before = records;
-    std::optional<Backup> backup;
     try {
         const Join_Counts counts = Join_Events(file, days, records);
         if (counts.imported > 0) {
-            backup.emplace();
+            const Backup backup;
             calendar_.Events.Write_Data_File();
         }
         return counts;
     } catch (...) {
         records.swap(before);
-        if (backup)
-            backup->Restore();
         throw;
     }
 }
