@@ -39,6 +39,41 @@ void Import_Events(benchmark::State &state, const std::string &bytes) {
     state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(bytes.size()));
 }
 
+/// A file of as many events, on the same days, with what a web calendar writes about each.
+std::string ICalendar_File(std::int64_t count) {
+    const auto two = [](std::int64_t number) { return std::to_string(100 + number).substr(1); };
+    std::string bytes = "BEGIN:VCALENDAR\r\nVERSION:2.0\r\n";
+    for (std::int64_t i = 0; i < count; ++i) {
+        const std::int64_t mixed = i * 7919 % 100'003;
+        bytes += "BEGIN:VEVENT\r\nUID:" + std::to_string(i) +
+                 "@example.org\r\nDTSTART;VALUE=DATE:" + std::to_string(1970 + mixed / 336 % 60) +
+                 two(1 + mixed / 28 % 12) + two(1 + mixed % 28) +
+                 "\r\nDTSTAMP:20261122T101500Z\r\nSUMMARY:Event " + std::to_string(i) +
+                 "\r\nLOCATION:at noon\\, \"as always\"\r\nTRANSP:TRANSPARENT\r\nEND:VEVENT\r\n";
+    }
+    return bytes + "END:VCALENDAR\r\n";
+}
+
+void Import_ICalendar(benchmark::State &state) {
+    const std::string bytes = ICalendar_File(state.range(0));
+    Reset_Desktop();
+    Main_Frm form;
+    OpenSaveDialog dialog(nullptr);
+    Importer importer(form, dialog);
+    importer.Data_File_Replaced = [] {};
+    for (auto _ : state) {
+        Reset_Fakes();
+        Fakes().any_box = true;
+        form.Events.Temp_Lst.clear(); // without a file they would stay
+        Fakes().files["C:\\in.ics"] = bytes;
+        Fakes().Expect_Dialog("Import Events from iCalendar File", "C:\\in.ics");
+        importer.Import_ICalendar();
+    }
+    if (Fakes().boxes.size() != 1 || Fakes().boxes[0].icon != platform::Box_Icon::Information)
+        state.SkipWithError("it went another way");
+    state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(bytes.size()));
+}
+
 void Import_Many(benchmark::State &state) {
     Import_Events(state, CSV_File(state.range(0)));
 }
@@ -64,5 +99,6 @@ void Export_Events(benchmark::State &state) {
 } // namespace
 
 BENCHMARK(Import_Many)->Arg(1'000)->Arg(100'000)->Unit(benchmark::kMillisecond);
+BENCHMARK(Import_ICalendar)->Arg(1'000)->Arg(100'000)->Unit(benchmark::kMillisecond);
 BENCHMARK(Import_Unclosed)->Arg(1'000)->Arg(100'000)->Unit(benchmark::kMillisecond);
 BENCHMARK(Export_Events)->Arg(100'000)->Unit(benchmark::kMillisecond);

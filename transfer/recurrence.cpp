@@ -11,7 +11,8 @@
 namespace {
 
 constexpr int minutes_an_hour = 60;
-constexpr std::int64_t longest_count = 200 * 366; ///< days for which a count is followed
+constexpr std::int64_t longest_count = 100 * 366; ///< days for which a count is followed
+constexpr std::size_t longest_list = 1000;         ///< of numbers; there are no more that differ
 
 /// Reads the whole text as a number from `least` to `most`. A plus sign may stand before it.
 template <typename Integer>
@@ -60,7 +61,7 @@ bool Read_List(std::string_view text, const List_Row &row, std::vector<int> &num
     numbers.clear();
     while (!text.empty()) {
         int number = 0;
-        if (!Read_Number(Take_Part(text, ','), row.from_end ? -row.most : row.least, row.most, number) ||
+        if (numbers.size() == longest_list || !Read_Number(Take_Part(text, ','), row.from_end ? -row.most : row.least, row.most, number) ||
             (number == 0 && row.least > 0))
             return false;
         numbers.push_back(number);
@@ -72,7 +73,7 @@ bool Read_Weekdays(std::string_view text, std::vector<Repeated_Weekday> &weekday
     weekdays.clear();
     while (!text.empty()) {
         const std::string_view part = Take_Part(text, ',');
-        if (part.size() < 2)
+        if (part.size() < 2 || weekdays.size() == longest_list)
             return false;
         Repeated_Weekday day;
         day.weekday = Read_Weekday(part.substr(part.size() - 2));

@@ -54,6 +54,15 @@ TEST_F(Locale_Contract, Dates_Are_Read_In_The_Order_Of_The_Form) {
     EXPECT_TRUE(platform::Date_Time_Text({2002, 3, 5, 9, 5, 7, 0}).starts_with("5/3/2002 "));
 }
 
+TEST_F(Locale_Contract, The_Time_Now_Is_That_Of_The_Zone) {
+    const auto order = [](const platform::Date_Time &time) {
+        return std::tuple(time.year, time.month, time.day, time.hour, time.minute, time.second);
+    };
+    const auto before = order(platform::Now());
+    const auto local = order(platform::Local_Time(platform::Now_In_Utc()));
+    EXPECT_TRUE(before <= local && local <= order(platform::Now()));
+}
+
 TEST_F(Text_Contract, Stepping_Back_Keeps_Characters_Whole) {
     // Each row is a text in its characters.
     const std::vector<std::vector<std::string>> rows = {
