@@ -124,13 +124,13 @@ void Transfer_Page::Lay_Out() {
     for (int i = 0; i < 4; ++i)
         place(Export_Btn[i], Export_Lbl[i], top);
     place(Export_ICalendar_Btn, Export_ICalendar_Lbl, top);
-    Export_Fra.Move({0, 0, page_width, top - small_gap + margin});
+    Export_Fra.Move({0, 0, page_width, top - small_gap + gap});
     top = group_top;
     for (int i = 0; i < 3; ++i)
         place(Import_Btn[i], Import_Lbl[i], top);
     place(Import_ICalendar_Btn, Import_ICalendar_Lbl, top);
-    Import_Fra.Move({0, Export_Fra.Height() + gap, page_width, top - small_gap + margin});
-    top = Import_Fra.Bounds().Bottom() + gap;
+    Import_Fra.Move({0, Export_Fra.Height() + group_gap, page_width, top - small_gap + gap});
+    top = Import_Fra.Bounds().Bottom() + small_gap;
     constexpr int bar_left = 60 * 15;
     Progress_Lbl.Move({0, top + (bar_height - line) / 2, bar_left, line});
     Progress_Bar1.Move({bar_left, top, page_width - bar_left, bar_height});

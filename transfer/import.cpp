@@ -215,32 +215,32 @@ void Importer::Import_Data_File() {
 void Importer::Import_ICalendar() {
     const auto fail = [this](std::string_view reason) {
         Work.End();
-        Tell(platform::Joined(
-                 {"Error when importing from iCalendar file.", reason.empty() ? "" : "\r\n\r\n", reason}),
+        Tell(platform::Joined({"Error when importing from iCalendar file.", reason}),
              platform::Box_Icon::Exclamation);
     };
+    Join_Counts counts;
     try {
         if (!Ask_File("Import Events from iCalendar File", "iCalendar File (*.ics)|*.ics", false))
             return;
         Work.Begin();
-        const Join_Counts counts = Join_Calendar(platform::Read_File(dialog_.FileName));
-        Data_File_Replaced();
-        Work.End();
-        calendar_.Redraw();
-        const auto number = [](std::size_t count) { return std::to_string(count); };
-        std::string message = platform::Joined(
-            {"Successfully imported ", number(counts.imported), " events from the iCalendar file...\r\n\r\n",
-             dialog_.FileName, "\r\n\r\nImported: ", number(counts.imported), ", already there: ",
-             number(counts.already_there), ", passed over: ", number(counts.passed_over)});
-        if (counts.not_understood > 0)
-            message += "\r\nOn their first day only, since their repetition is not understood: " +
-                       number(counts.not_understood);
-        Tell(message, platform::Box_Icon::Information);
+        counts = Join_Calendar(platform::Read_File(dialog_.FileName));
     } catch (const platform::Error &error) {
-        fail(error.what());
+        return fail(platform::Joined({"\r\n\r\n", error.what()}));
     } catch (const std::exception &) {
-        fail({});
+        return fail({});
     }
+    Work.End();
+    Data_File_Replaced();
+    calendar_.Redraw();
+    const auto number = [](std::size_t count) { return std::to_string(count); };
+    std::string message = platform::Joined(
+        {"Successfully imported ", number(counts.imported), " events from the iCalendar file...\r\n\r\n",
+         dialog_.FileName, "\r\n\r\nImported: ", number(counts.imported),
+         ", already there: ", number(counts.already_there), ", passed over: ", number(counts.passed_over)});
+    if (counts.not_understood > 0)
+        message += "\r\nOn their first day only, since their repetition is not understood: " +
+                   number(counts.not_understood);
+    Tell(message, platform::Box_Icon::Information);
 }
 
 /// Folds the events of a calendar file in as a whole: the data file is written once, at the end, and neither

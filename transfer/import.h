@@ -13,7 +13,7 @@
 #include <string>
 #include <vector>
 
-/// The imports, with all messages to the user. None throws.
+/// The imports, with all messages to the user. None throws for its file.
 class Importer {
 public:
     /// Both must outlive it. The files are asked for in `dialog`.

@@ -50,9 +50,9 @@ namespace {
 Date_Time Later(const Date_Time &time, int minutes) {
     const Date date{static_cast<std::int16_t>(time.year), static_cast<std::int16_t>(time.month),
                     static_cast<std::int16_t>(time.day)};
-    const int moment = Day_Number(date) * 1440 + time.hour * 60 + time.minute + minutes;
+    const int moment = time.hour * 60 + time.minute + minutes;
     const int of_day = (moment % 1440 + 1440) % 1440;
-    const Date day = Date_Of((moment - of_day) / 1440);
+    const Date day = Date_Of(Day_Number(date) + (moment - of_day) / 1440);
     return {day.year, day.month, day.day, of_day / 60, of_day % 60, time.second, time.millisecond};
 }
 
