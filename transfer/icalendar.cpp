@@ -289,8 +289,11 @@ void Append_Event(std::string &bytes, const Sort_Entry &entry, std::string_view 
 
 /// The next line of the file, with what follows it.
 std::string_view Content_Lines::Next_Physical() {
-    const std::size_t end = std::min(bytes_.find_first_of("\r\n", at_), bytes_.size());
-    std::string_view line = bytes_.substr(at_, end - at_);
+    if (line_feed_ < at_)
+        line_feed_ = std::min(bytes_.find('\n', at_), bytes_.size());
+    std::string_view line = bytes_.substr(at_, line_feed_ - at_);
+    line = line.substr(0, line.find('\r'));
+    const std::size_t end = at_ + line.size();
     at_ = std::min(bytes_.find_first_not_of("\r\n", end), bytes_.size());
     if (line.starts_with(byte_order_mark))
         line.remove_prefix(byte_order_mark.size());

@@ -8,6 +8,7 @@
 #include "transfer/progress.h"
 #include "transfer/recurrence.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <optional>
 #include <string>
@@ -33,7 +34,8 @@ struct Content_Line {
 /// the beginnings of lines and lines that are no properties are passed over. The bytes must outlive it.
 class Content_Lines {
 public:
-    explicit Content_Lines(std::string_view bytes) : bytes_(bytes) {}
+    explicit Content_Lines(std::string_view bytes)
+        : bytes_(bytes), line_feed_(std::min(bytes.find('\n'), bytes.size())) {}
 
     /// False at the end.
     bool Next(Content_Line &line);
@@ -45,14 +47,15 @@ private:
 
     std::string_view bytes_;
     std::size_t at_ = 0;
+    std::size_t line_feed_; ///< the first one that is not before at_
     std::string joined_;
 };
 
 /// The value of a parameter, without the quotes around it; empty: it is not there.
 std::string_view Parameter(const Content_Line &line, std::string_view name);
 
-/// A text without its escapes: \n is a line end, and \, \; \\ are the characters themselves. So is \", which some
-/// write although they need not.
+/// A text without its escapes: \n is a line end, and \, \; \\ are the characters themselves. So is \", which
+/// some write although they need not.
 std::string Unescaped(std::string_view value);
 
 /// One VEVENT.
