@@ -22,7 +22,8 @@ std::int64_t Local_Seconds(std::int64_t utc) {
         {date.year, date.month, date.day, second / 3600, second / 60 % 60, second % 60, 0});
     const Date day{static_cast<std::int16_t>(local.year), static_cast<std::int16_t>(local.month),
                    static_cast<std::int16_t>(local.day)};
-    return Day_Number(day) * seconds_a_day + local.hour * 3600 + local.minute * 60 + local.second;
+    const int seconds = local.hour * 3600 + local.minute * 60 + local.second;
+    return Day_Number(day) * seconds_a_day + seconds;
 }
 
 /// Moments to be searched: by kind, a date, a local time or another, and those of a kind by time.
@@ -234,8 +235,8 @@ void Day_Finder::Find(std::uint32_t index, Event_Days &result) {
 Event_Days Find_Event_Days(const Calendar_File &file, const Date &today, Progress &progress) {
     Event_Days result;
     Day_Finder finder(file, today);
-    for (std::uint32_t i = 0; i < file.events.size(); ++i) {
-        finder.Find(i, result);
+    for (std::size_t i = 0; i < file.events.size(); ++i) {
+        finder.Find(static_cast<std::uint32_t>(i), result);
         if (progress.Due())
             progress.Show(8 * file.events.size() + 2 * i, 10 * file.events.size());
     }

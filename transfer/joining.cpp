@@ -39,31 +39,31 @@ std::string Yearly_Key(const Date &date) {
 /// The texts that stand on days. A text with separators of its own stands there when all of its pieces do.
 class Day_Texts {
 public:
-    explicit Day_Texts(const std::vector<std::string> &records) {
+    Day_Texts(const std::vector<std::string> &records, std::size_t more) {
+        known_.reserve(records.size() + more);
         for (const std::string &record : records)
             if (Event_Record parts; Part_Record(record, parts))
-                Add(parts.key, parts.text);
+                Add(parts.key, {}, parts.text);
     }
-    void Add(std::string_view key, std::string_view text) {
-        Pieces pieces(text);
-        for (std::string_view piece; pieces.Next(piece);)
-            known_.insert(platform::Joined({key, "=", piece}));
-    }
+    /// False: it stands there already. What stands on the day of every year stands on that of each.
+    bool Add(const Date &date, std::string_view text) { return Add(Date_Key(date), Yearly_Key(date), text); }
     bool Holds(std::string_view key, std::string_view piece) const {
         return known_.contains(platform::Joined({key, "=", piece}));
     }
-    /// A text of every year stands on the day of each year.
-    bool Holds_All(const Date &date, std::string_view text) const {
-        const std::string key = Date_Key(date), every = Yearly_Key(date);
-        Pieces pieces(text);
-        for (std::string_view piece; pieces.Next(piece);)
-            if (!Holds(every, piece) && !Holds(key, piece))
-                return false;
-        return true;
-    }
 
 private:
+    bool Add(std::string_view key, std::string_view every, std::string_view text) {
+        bool any_new = false;
+        Pieces pieces(text);
+        for (std::string_view piece; pieces.Next(piece);)
+            if (!any_yearly_ || !Holds(every, piece))
+                any_new = known_.insert(platform::Joined({key, "=", piece})).second || any_new;
+        any_yearly_ = any_yearly_ || key.ends_with("/9999");
+        return any_new;
+    }
+
     std::unordered_set<std::string> known_; ///< as records of one piece
+    bool any_yearly_ = false;
 };
 
 /// Day and month of a key, with the separators behind them.
@@ -133,7 +133,7 @@ Join_Counts Join_Events(const Calendar_File &file, const Event_Days &days,
                         std::vector<std::string> &records) {
     const std::size_t first_new = records.size();
     Record_Merger merger(records);
-    Day_Texts texts(records);
+    Day_Texts texts(records, days.days.size());
     Join_Counts counts;
     counts.not_understood = days.not_understood;
     auto day = days.days.begin();
@@ -142,10 +142,9 @@ Join_Counts Join_Events(const Calendar_File &file, const Event_Days &days,
         bool joined = false;
         for (; day != days.days.end() && day->event == i; ++day) {
             const std::string text = Text_On(*day, file.events[i]);
-            if (texts.Holds_All(day->date, text))
+            if (!texts.Add(day->date, text))
                 continue;
             merger.Merge(day->date, text);
-            texts.Add(Date_Key(day->date), text);
             joined = true;
         }
         ++(joined ? counts.imported : has_days ? counts.already_there : counts.passed_over);

@@ -10,9 +10,8 @@
 
 namespace {
 
-constexpr int minutes_an_hour = 60;
-constexpr std::int64_t longest_count = 100 * 366; ///< days for which a count is followed
-constexpr std::size_t longest_list = 1000;         ///< of numbers; there are no more that differ
+constexpr std::int64_t longest_count = 36'600; ///< days for which a count is followed: a hundred years
+constexpr std::size_t longest_list = 1000;     ///< of numbers; there are no more that differ
 
 /// Reads the whole text as a number from `least` to `most`. A plus sign may stand before it.
 template <typename Integer>
@@ -52,16 +51,17 @@ struct List_Row {
     bool from_end; ///< the negative ones, too
 };
 
-constexpr List_Row list_rows[Recurrence::lists] = {{"BYMONTH", 1, 12, false},   {"BYWEEKNO", 1, 53, true},
-                                                   {"BYYEARDAY", 1, 366, true}, {"BYMONTHDAY", 1, 31, true},
-                                                   {"BYSETPOS", 1, 366, true},  {"BYHOUR", 0, 23, false},
-                                                   {"BYMINUTE", 0, 59, false},  {"BYSECOND", 0, 60, false}};
+constexpr List_Row list_rows[Recurrence::List_Count] = {
+    {"BYMONTH", 1, 12, false},   {"BYWEEKNO", 1, 53, true},  {"BYYEARDAY", 1, 366, true},
+    {"BYMONTHDAY", 1, 31, true}, {"BYSETPOS", 1, 366, true}, {"BYHOUR", 0, 23, false},
+    {"BYMINUTE", 0, 59, false},  {"BYSECOND", 0, 60, false}};
 
 bool Read_List(std::string_view text, const List_Row &row, std::vector<int> &numbers) {
     numbers.clear();
     while (!text.empty()) {
         int number = 0;
-        if (numbers.size() == longest_list || !Read_Number(Take_Part(text, ','), row.from_end ? -row.most : row.least, row.most, number) ||
+        if (numbers.size() == longest_list ||
+            !Read_Number(Take_Part(text, ','), row.from_end ? -row.most : row.least, row.most, number) ||
             (number == 0 && row.least > 0))
             return false;
         numbers.push_back(number);
@@ -128,7 +128,7 @@ void Complete(Recurrence &rule, const Moment &start) {
 /// Whether the lists of hours and the like only say again when it starts.
 bool At_Time_Of_Start(const Recurrence &rule, const Moment &start) {
     const auto second = static_cast<int>(Second_Of_Day(start.seconds));
-    const int own[] = {second / 3600, second / 60 % minutes_an_hour, second % 60};
+    const int own[] = {second / 3600, second / 60 % 60, second % 60};
     for (std::size_t i = 0; i < 3; ++i) {
         const std::vector<int> &numbers = rule.numbers[Recurrence::Hours + i];
         if (std::any_of(numbers.begin(), numbers.end(), [&](int number) { return number != own[i]; }))

@@ -38,13 +38,23 @@ struct Repeated_Weekday {
 /// empty limits nothing. Numbers below 0 count from the end.
 struct Recurrence {
     enum Frequency { Daily, Weekly, Monthly, Yearly };
-    enum List { Months, Week_Numbers, Year_Days, Month_Days, Set_Positions, Hours, Minutes, Seconds, lists };
+    enum List {
+        Months,
+        Week_Numbers,
+        Year_Days,
+        Month_Days,
+        Set_Positions,
+        Hours,
+        Minutes,
+        Seconds,
+        List_Count
+    };
     Frequency frequency = Daily;
     std::int64_t interval = 1;
     std::optional<std::int64_t> count;
     std::optional<Moment> until; ///< the last moment that may be one
     int week_start = 1;
-    std::array<std::vector<int>, lists> numbers;
+    std::array<std::vector<int>, List_Count> numbers;
     std::vector<Repeated_Weekday> weekdays;
 };
 
