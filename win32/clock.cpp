@@ -32,7 +32,7 @@ Date_Time Local_Time(const Date_Time &utc) {
                           word(utc.hour), word(utc.minute), word(utc.second), word(utc.millisecond)};
     // A zone's rules have changed with the years, which older systems do not know.
     using Zone_Of_Year = BOOL WINAPI(USHORT, void *, TIME_ZONE_INFORMATION *);
-    static Zone_Of_Year *const zone_of_year =
+    static auto *const zone_of_year =
         win32::Look_Up<Zone_Of_Year>(L"kernel32.dll", "GetTimeZoneInformationForYear");
     TIME_ZONE_INFORMATION zone{};
     const bool known = zone_of_year != nullptr && zone_of_year(time.wYear, nullptr, &zone);
