@@ -21,26 +21,56 @@ std::string CSV_File(std::int64_t count) {
     return bytes;
 }
 
-void Import_Events(benchmark::State &state, const std::string &bytes) {
+/// A file of as many events, on the same days, with what a web calendar writes about each.
+std::string ICalendar_File(std::int64_t count) {
+    const auto two = [](std::int64_t number) { return std::to_string(100 + number).substr(1); };
+    std::string bytes = "BEGIN:VCALENDAR\r\nVERSION:2.0\r\n";
+    for (std::int64_t i = 0; i < count; ++i) {
+        const std::int64_t mixed = i * 7919 % 100'003;
+        bytes += "BEGIN:VEVENT\r\nUID:" + std::to_string(i) +
+                 "@example.org\r\nDTSTART;VALUE=DATE:" + std::to_string(1970 + mixed / 336 % 60) +
+                 two(1 + mixed / 28 % 12) + two(1 + mixed % 28) +
+                 "\r\nDTSTAMP:20261122T101500Z\r\nSUMMARY:Event " + std::to_string(i) +
+                 "\r\nLOCATION:at noon\\, \"as always\"\r\nTRANSP:TRANSPARENT\r\nEND:VEVENT\r\n";
+    }
+    return bytes + "END:VCALENDAR\r\n";
+}
+
+/// Imports a file again and again into no events, and expects it to be told as `good`.
+void Import_Events(benchmark::State &state, const std::string &bytes, const char *title,
+                   void (Importer::*import)(), bool good = true) {
     Reset_Desktop();
     Main_Frm form;
+    form.Alert_Done = true;
+    form.Which_Style(1);
+    form.Cur_Month = 5;
+    form.Cur_Year = 2027;
     OpenSaveDialog dialog(nullptr);
     Importer importer(form, dialog);
     importer.Show_Staged = [](const std::vector<Sort_Entry> &) {};
+    importer.Data_File_Replaced = [] {};
     for (auto _ : state) {
         Reset_Fakes();
         Fakes().any_box = true;
-        Fakes().files["C:\\in.csv"] = bytes;
-        Fakes().Expect_Dialog("Import Events from CSV File", "C:\\in.csv");
-        importer.Import_CSV();
+        form.Events.Temp_Lst.clear(); // without a data file they would stay
+        Fakes().files["C:\\in"] = bytes;
+        Fakes().Expect_Dialog(title, "C:\\in");
+        (importer.*import)();
     }
-    if (dialog.FileName.empty() || Fakes().boxes.size() != 1)
+    if (Fakes().boxes.size() != 1 || (Fakes().boxes[0].icon == platform::Box_Icon::Information) != good)
         state.SkipWithError("it went another way");
     state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(bytes.size()));
 }
 
+constexpr const char *csv_title = "Import Events from CSV File";
+
+void Import_ICalendar(benchmark::State &state) {
+    Import_Events(state, ICalendar_File(state.range(0)), "Import Events from iCalendar File",
+                  &Importer::Import_ICalendar);
+}
+
 void Import_Many(benchmark::State &state) {
-    Import_Events(state, CSV_File(state.range(0)));
+    Import_Events(state, CSV_File(state.range(0)), csv_title, &Importer::Import_CSV);
 }
 
 /// Never a line that ends in a quote: all are joined, and then refused.
@@ -48,7 +78,7 @@ void Import_Unclosed(benchmark::State &state) {
     std::string bytes = "\"Subject\",\"Start Date\",\"Description\"\r\n";
     for (std::int64_t i = 0; i < state.range(0); ++i)
         bytes += "\"a line without an end\r\n";
-    Import_Events(state, bytes);
+    Import_Events(state, bytes, csv_title, &Importer::Import_CSV, false);
 }
 
 void Export_Events(benchmark::State &state) {
@@ -64,5 +94,6 @@ void Export_Events(benchmark::State &state) {
 } // namespace
 
 BENCHMARK(Import_Many)->Arg(1'000)->Arg(100'000)->Unit(benchmark::kMillisecond);
+BENCHMARK(Import_ICalendar)->Arg(1'000)->Arg(100'000)->Unit(benchmark::kMillisecond);
 BENCHMARK(Import_Unclosed)->Arg(1'000)->Arg(100'000)->Unit(benchmark::kMillisecond);
 BENCHMARK(Export_Events)->Arg(100'000)->Unit(benchmark::kMillisecond);

@@ -9,6 +9,8 @@
 
 namespace {
 
+constexpr std::chrono::sys_days day_0 = std::chrono::year(1899) / std::chrono::December / 30;
+
 std::chrono::year_month_day Calendar_Day(const Date &date) {
     return std::chrono::year(date.year) / std::chrono::month(static_cast<unsigned>(date.month)) /
            std::chrono::day(static_cast<unsigned>(date.day));
@@ -58,8 +60,14 @@ std::int32_t DaysInMonth(const Date &date) {
 }
 
 std::int32_t Day_Number(const Date &date) {
-    constexpr std::chrono::sys_days day_0 = std::chrono::year(1899) / std::chrono::December / 30;
     return static_cast<std::int32_t>((std::chrono::sys_days(Calendar_Day(date)) - day_0).count());
+}
+
+Date Date_Of(std::int32_t day_number) {
+    const std::chrono::year_month_day day(day_0 + std::chrono::days(day_number));
+    return {static_cast<std::int16_t>(static_cast<int>(day.year())),
+            static_cast<std::int16_t>(static_cast<unsigned>(day.month())),
+            static_cast<std::int16_t>(static_cast<unsigned>(day.day()))};
 }
 
 std::string Date_Key(const Date &date) {

@@ -32,6 +32,9 @@ std::int32_t DaysInMonth(const Date &date);
 /// Days from 30 December 1899, which is day 0, to a date; less than 0 for an earlier one.
 std::int32_t Day_Number(const Date &date);
 
+/// The date of a day number; its year must be one of 16 bits.
+Date Date_Of(std::int32_t day_number);
+
 /// The exact key of a date: 5/3/2002.
 std::string Date_Key(const Date &date);
 

@@ -45,8 +45,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     for (const CSV_Event &event : events) {
         Demand(event.text.find_first_of("\"\r\n") == std::string::npos && platform::Is_Utf8(event.text));
         Demand(event.date.month >= 1 && event.date.month <= 12 && event.date.day <= DaysInMonth(event.date));
-        Sort_Entry staged{0, event.date, false, {}, event.text};
-        merger.Merge(staged);
+        merger.Merge(event.date, event.text);
     }
     std::string bytes;
     for (const std::string &record : records)

@@ -17,6 +17,13 @@ struct Date_Time {
 /// The local time now.
 Date_Time Now();
 
+/// The same in Coordinated Universal Time.
+Date_Time Now_In_Utc();
+
+/// The time in the user's zone, by the zone's rules for that day, at a time of Coordinated Universal Time.
+/// The time itself where the system does not know.
+Date_Time Local_Time(const Date_Time &utc);
+
 /// Milliseconds since some moment, which only tell how much time passes. They begin anew after 49 days.
 unsigned Milliseconds();
 

@@ -34,13 +34,18 @@ constexpr int explanation_lines = 2;
 
 Transfer_Page::Transfer_Page(Form &dialog, Frame &frame, Main_Frm &calendar)
     : Export_Fra(dialog, "Export_Fra", "Export"), Export_Btn(dialog, "Export_Btn"),
-      Export_Lbl(dialog, "Export_Lbl"), Import_Fra(dialog, "Import_Fra", "Import"),
-      Import_Btn(dialog, "Import_Btn"), Import_Lbl(dialog, "Import_Lbl"),
+      Export_Lbl(dialog, "Export_Lbl"), Export_ICalendar_Btn(dialog, "Export_ICalendar_Btn", "&iCalendar..."),
+      Export_ICalendar_Lbl(dialog, "Export_ICalendar_Lbl",
+                           "All events, for calendars on the web and in phones."),
+      Import_Fra(dialog, "Import_Fra", "Import"), Import_Btn(dialog, "Import_Btn"),
+      Import_Lbl(dialog, "Import_Lbl"), Import_ICalendar_Btn(dialog, "Import_ICalendar_Btn", "iCal&endar..."),
+      Import_ICalendar_Lbl(dialog, "Import_ICalendar_Lbl",
+                           "Adds the events of another calendar to those that are there."),
       Progress_Lbl(dialog, "Progress_Lbl", "Progress:"), Progress_Bar1(dialog, "Progress_Bar1"),
       Dialog1(&dialog.Model()), dialog_(dialog), importer_(calendar, Dialog1) {
     frame.Hold(Export_Fra, Progress_Bar1);
-    Export_Fra.Hold(Export_Btn[0], Export_Lbl[3]);
-    Import_Fra.Hold(Import_Btn[0], Import_Lbl[2]);
+    Export_Fra.Hold(Export_Btn[0], Export_ICalendar_Lbl);
+    Import_Fra.Hold(Import_Btn[0], Import_ICalendar_Lbl);
     for (std::int16_t i = 0; i < 4; ++i) {
         Export_Btn[i].Set_Caption(export_texts[i].caption);
         Export_Lbl[i].Set_Caption(export_texts[i].explanation);
@@ -51,6 +56,8 @@ Transfer_Page::Transfer_Page(Form &dialog, Frame &frame, Main_Frm &calendar)
         Import_Lbl[i].Set_Caption(import_texts[i].explanation);
         Import_Btn[i].On_Click = [this, i] { Import_Btn_Click(i); };
     }
+    Export_ICalendar_Btn.On_Click = [this] { Export(Export_Kind::ICalendar); };
+    Import_ICalendar_Btn.On_Click = [this] { importer_.Import_ICalendar(); };
     importer_.Show_Staged = [this](std::vector<Sort_Entry> staged) { Show_Staged(std::move(staged)); };
     importer_.Data_File_Replaced = [this] { Data_File_Replaced(); };
     importer_.Show_Hourglass = [this] { dialog_.Set_Pointer(platform::Pointer_Shape::Hourglass); };
@@ -65,10 +72,13 @@ Transfer_Page::Transfer_Page(Form &dialog, Frame &frame, Main_Frm &calendar)
 }
 
 void Transfer_Page::Export_Btn_Click(std::int16_t index) {
-    if (index < 0 || index > 3)
-        return;
+    if (index >= 0 && index <= 3)
+        Export(static_cast<Export_Kind>(index));
+}
+
+void Transfer_Page::Export(Export_Kind kind) {
     try {
-        Export_File(static_cast<Export_Kind>(index), Dialog1, Shown_Configuration, progress_);
+        Export_File(kind, Dialog1, Shown_Configuration, progress_);
     } catch (...) {
         progress_.End();
         throw;
@@ -109,17 +119,20 @@ void Transfer_Page::Lay_Out() {
         constexpr int label_left = margin + button_width + gap;
         button.Move({margin, top + (row - button_height) / 2, button_width, button_height});
         label.Move({label_left, top, page_width - label_left - margin, row});
-        top += row + gap;
+        top += row + small_gap;
     };
     int top = group_top;
     for (int i = 0; i < 4; ++i)
         place(Export_Btn[i], Export_Lbl[i], top);
-    Export_Fra.Move({0, 0, page_width, top - gap + margin});
+    place(Export_ICalendar_Btn, Export_ICalendar_Lbl, top);
+    Export_Fra.Move({0, 0, page_width, top - small_gap + gap});
     top = group_top;
     for (int i = 0; i < 3; ++i)
         place(Import_Btn[i], Import_Lbl[i], top);
-    Import_Fra.Move({0, Export_Fra.Height() + gap, page_width, top - gap + margin});
-    top = Import_Fra.Bounds().Bottom() + gap;
-    Progress_Lbl.Move({0, top, page_width, line});
-    Progress_Bar1.Move({0, top + line + small_gap, page_width, bar_height});
+    place(Import_ICalendar_Btn, Import_ICalendar_Lbl, top);
+    Import_Fra.Move({0, Export_Fra.Height() + group_gap, page_width, top - small_gap + gap});
+    top = Import_Fra.Bounds().Bottom() + small_gap;
+    constexpr int bar_left = 60 * 15;
+    Progress_Lbl.Move({0, top + (bar_height - line) / 2, bar_left, line});
+    Progress_Bar1.Move({bar_left, top, page_width - bar_left, bar_height});
 }

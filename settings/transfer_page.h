@@ -35,14 +35,19 @@ public:
     Frame Export_Fra;
     Control_Array<Button, 4> Export_Btn;
     Control_Array<Label, 4> Export_Lbl;
+    Button Export_ICalendar_Btn;
+    Label Export_ICalendar_Lbl;
     Frame Import_Fra;
     Control_Array<Button, 3> Import_Btn;
     Control_Array<Label, 3> Import_Lbl;
+    Button Import_ICalendar_Btn;
+    Label Import_ICalendar_Lbl;
     Label Progress_Lbl; ///< names the bar; both are seen while something takes long
     Progress_Bar Progress_Bar1;
     OpenSaveDialog Dialog1;
 
 private:
+    void Export(Export_Kind kind);
     void Show_Progress(int percent);
     void End_Progress();
 

@@ -3,7 +3,8 @@
 # Sourcing it brings common.sh along and changes into the project's folder. Which Wine is used, and how it gets there,
 # is wine.sh's matter.
 #
-#   Packages_Need build     compilers, CMake, test and benchmark libraries, formatter and checker
+#   Packages_Need build     compilers, CMake, test and benchmark libraries, formatter and checker, another reader of
+#                           calendar files
 #   Packages_Need desktop   Wine, a virtual display, its tools, fonts
 #   Apt_Allowed             succeeds when this user may install packages
 #   Apt_Install PACKAGE...  installs, trying again after refreshing the lists
@@ -25,7 +26,9 @@ x86_64-w64-mingw32-g++-win32         g++-mingw-w64-x86-64-win32
 /usr/include/benchmark/benchmark.h   libbenchmark-dev
 clang++                              clang
 clang-format                         clang-format
-clang-tidy                           clang-tidy'
+clang-tidy                           clang-tidy
+/usr/lib/python3/dist-packages/icalendar                 python3-icalendar
+/usr/lib/python3/dist-packages/recurring_ical_events.py  python3-recurring-ical-events'
 desktop_packages='
 Xvfb                                 xvfb
 xdotool                              xdotool

@@ -8,6 +8,7 @@
 #include "platform/locale.h"
 #include "platform/message_box.h"
 #include "transfer/configuration.h"
+#include "transfer/icalendar.h"
 
 #include <array>
 
@@ -20,13 +21,15 @@ struct Kind_Row {
     const char *to; ///< the target in the closing message; of events behind their number
 };
 
-constexpr std::array<Kind_Row, 4> kinds{
+constexpr std::array<Kind_Row, 5> kinds{
     {{"Export Data File", "Data File (calendar.dat)|*.dat", ".dat", "data file to..."},
      {"Export Configuration File", "Configuration File (*.ini)|*.ini", ".ini",
       "current configuration to file..."},
      {"Export Events to Text File", "Text File (*.txt)|*.txt", ".txt", " events to the text file..."},
      {"Export Events as CSV File", "Comma Separated Values File (*.csv)|*.csv", ".csv",
-      " events to the CSV file..."}}};
+      " events to the CSV file..."},
+     {"Export Events as iCalendar File", "iCalendar File (*.ics)|*.ics", ".ics",
+      " events to the iCalendar file..."}}};
 
 void Tell(std::string_view text, platform::Box_Icon icon) {
     platform::Message_Box(text, "Vellatro", icon);
@@ -67,14 +70,6 @@ void Append_Field(std::string &bytes, std::string_view text, const char *after) 
     bytes += after;
 }
 
-Date Next_Day(const Date &date) {
-    if (date.day < DaysInMonth(date))
-        return {date.year, date.month, static_cast<std::int16_t>(date.day + 1)};
-    if (date.month < 12)
-        return {date.year, static_cast<std::int16_t>(date.month + 1), 1};
-    return {static_cast<std::int16_t>(date.year + 1), 1, 1};
-}
-
 std::string Short_Date(const Date &date) {
     return platform::Short_Date(date.year, date.month, date.day);
 }
@@ -103,7 +98,9 @@ bool Make_Content(Export_Kind kind, platform::Callback_Ref<Settings()> shown, Pr
         Tell("Error loading in data file.", platform::Box_Icon::Stop);
         return false;
     }
-    bytes = kind == Export_Kind::CSV ? CSV_Bytes(entries, progress) : Text_Bytes(entries, progress);
+    bytes = kind == Export_Kind::CSV         ? CSV_Bytes(entries, progress)
+            : kind == Export_Kind::ICalendar ? ICalendar_Bytes(entries, progress)
+                                             : Text_Bytes(entries, progress);
     message = platform::Joined({"Successfully exported ", std::to_string(entries.size()), to});
     return true;
 }
@@ -129,7 +126,7 @@ std::string CSV_Bytes(const std::vector<Sort_Entry> &entries, Progress &progress
         Append_Field(bytes, Short_Date(entries[i].date), ",");
         Append_Field(bytes, entries[i].text, ",");
         Append_Field(bytes, midnight, ",");
-        Append_Field(bytes, Short_Date(Next_Day(entries[i].date)), ",");
+        Append_Field(bytes, Short_Date(Date_Of(Day_Number(entries[i].date) + 1)), ",");
         Append_Field(bytes, midnight, "\r\n");
         if (progress.Due())
             progress.Show(i, entries.size());

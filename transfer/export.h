@@ -11,7 +11,7 @@
 #include <string>
 #include <vector>
 
-enum class Export_Kind { Data_File, Configuration, Text, CSV };
+enum class Export_Kind { Data_File, Configuration, Text, CSV, ICalendar };
 
 /// The bytes of a file with these events, in their order.
 std::string Text_Bytes(const std::vector<Sort_Entry> &entries, Progress &progress);

@@ -38,15 +38,19 @@ void Demand_Text(const std::string &path) {
     }
 }
 
+/// Copies the data file to data.bak. Returns whether there is one.
+bool Backup_Data() {
+    if (!platform::File_Exists(Event_Store::Data_File()))
+        return false;
+    platform::Copy_File(Event_Store::Data_File(), Importer::Backup_File());
+    return true;
+}
+
 /// Keeps the data file for the length of an import, and longer when that went well.
 class Backup {
 public:
     explicit Backup(std::vector<std::string> &records)
-        : records_(records), before_(records),
-          file_was_there_(platform::File_Exists(Event_Store::Data_File())) {
-        if (file_was_there_)
-            platform::Copy_File(Event_Store::Data_File(), Importer::Backup_File());
-    }
+        : records_(records), before_(records), file_was_there_(Backup_Data()) {}
     /// Makes the records and the data file what they were; the copy goes. Where there was no file, there is
     /// none again; a copy that an earlier import has left does not come back then, but stays: it may be all
     /// that the user has.
@@ -175,7 +179,9 @@ void Importer::Merge_Imported(std::vector<Sort_Entry> &staged) {
         Record_Merger merger(calendar_.Events.Temp_Lst);
         bool due = false;
         for (; i < staged.size() && !due; ++i) {
-            merger.Merge(staged[i]);
+            Merged_Text merged = merger.Merge(staged[i].date, staged[i].text);
+            staged[i].key = std::move(merged.key);
+            staged[i].place = merged.place;
             due = Work.Due();
         }
         if (!staged.empty())
@@ -277,5 +283,59 @@ void Importer::Import_Data_File() {
              platform::Box_Icon::Information);
     } catch (const std::exception &) {
         Tell("Error when importing data file.", platform::Box_Icon::Exclamation);
+    }
+}
+
+void Importer::Import_ICalendar() {
+    const auto fail = [this](std::string_view reason) {
+        Work.End();
+        Tell(platform::Joined({"Error when importing from iCalendar file.", reason}),
+             platform::Box_Icon::Exclamation);
+    };
+    Join_Counts counts;
+    try {
+        if (!Ask_File("Import Events from iCalendar File", "iCalendar File (*.ics)|*.ics", false))
+            return;
+        Work.Begin();
+        counts = Join_Calendar(platform::Read_File(dialog_.FileName));
+    } catch (const platform::Error &error) {
+        return fail(platform::Joined({"\r\n\r\n", error.what()}));
+    } catch (const std::exception &) {
+        return fail({});
+    }
+    Work.End();
+    Data_File_Replaced();
+    calendar_.Redraw();
+    const auto number = [](std::size_t count) { return std::to_string(count); };
+    std::string message = platform::Joined(
+        {"Successfully imported ", number(counts.imported), " events from the iCalendar file...\r\n\r\n",
+         dialog_.FileName, "\r\n\r\nImported: ", number(counts.imported),
+         ", already there: ", number(counts.already_there), ", passed over: ", number(counts.passed_over)});
+    if (counts.not_understood > 0)
+        message += "\r\nOn their first day only, since their repetition is not understood: " +
+                   number(counts.not_understood);
+    Tell(message, platform::Box_Icon::Information);
+}
+
+/// Folds the events of a calendar file in as a whole: the data file is written once, at the end, and neither
+/// it nor the copy where nothing is new. A write that fails leaves the file as it was, so that the copy is
+/// not needed to restore it. No window is painted between reading and writing, so that nothing else can be
+/// stored meanwhile.
+Join_Counts Importer::Join_Calendar(const std::string &bytes) {
+    const Calendar_File file = Read_ICalendar(bytes, Work);
+    const Event_Days days = Find_Event_Days(file, Today(), Work);
+    calendar_.Events.Load_File();
+    std::vector<std::string> &records = calendar_.Events.Temp_Lst;
+    std::vector<std::string> before = records;
+    try {
+        const Join_Counts counts = Join_Events(file, days, records);
+        if (counts.imported > 0) {
+            Backup_Data();
+            calendar_.Events.Write_Data_File();
+        }
+        return counts;
+    } catch (...) {
+        records.swap(before);
+        throw;
     }
 }

@@ -7,13 +7,14 @@
 #include "core/event_entries.h"
 #include "platform/callback.h"
 #include "transfer/csv.h"
+#include "transfer/icalendar_merging.h"
 #include "transfer/progress.h"
 #include "ui/open_save_dialog.h"
 
 #include <string>
 #include <vector>
 
-/// The three imports, with all messages to the user. None throws.
+/// The imports, with all messages to the user. None throws for its file.
 class Importer {
 public:
     /// Both must outlive it. The files are asked for in `dialog`.
@@ -22,6 +23,7 @@ public:
     void Import_CSV();
     void Import_Config();
     void Import_Data_File();
+    void Import_ICalendar();
 
     // All to be filled.
 
@@ -45,6 +47,7 @@ private:
     void Merge_Imported(std::vector<Sort_Entry> &staged);
     void Write_Merged(const std::vector<Sort_Entry> &staged) const;
     void Redraw_Configured();
+    Join_Counts Join_Calendar(const std::string &bytes);
     bool May_Replace() const;
 
     Main_Frm &calendar_;

@@ -10,8 +10,6 @@
 
 namespace {
 
-constexpr std::string_view joint = " + ";
-
 /// Takes the event's text out of `record`, with one of the joints beside it. False when it is not there.
 bool Part_From(std::string &record, const Sort_Entry &event) {
     std::size_t begin = event.key.size() + 1 + event.place;
@@ -42,24 +40,23 @@ Record_Merger::Record_Merger(std::vector<std::string> &records) : records_(recor
             first_.emplace(parts.key, i);
 }
 
-void Record_Merger::Merge(Sort_Entry &event) {
-    event.key = Date_Key(event.date);
-    const auto exact = first_.find(event.key);
-    const auto yearly = first_.find(Date_Key({every_year, event.date.month, event.date.day}));
+Merged_Text Record_Merger::Merge(const Date &date, std::string_view text) {
+    std::string own_key = Date_Key(date);
+    const auto exact = first_.find(own_key);
+    const auto yearly = first_.find(Date_Key({every_year, date.month, date.day}));
     if (exact == first_.end() && yearly == first_.end()) {
-        event.place = 0;
-        first_.emplace(event.key, records_.size());
-        records_.push_back(platform::Joined({event.key, "=", event.text}));
-        return;
+        first_.emplace(own_key, records_.size());
+        records_.push_back(platform::Joined({own_key, "=", text}));
+        return {std::move(own_key), 0};
     }
     const bool joins_yearly =
         exact == first_.end() || (yearly != first_.end() && yearly->second < exact->second);
     const auto &[key, index] = joins_yearly ? *yearly : *exact;
     std::string &record = records_[index];
     record.append(joint);
-    event.key = key;
-    event.place = record.size() - key.size() - 1;
-    record.append(event.text);
+    const std::size_t place = record.size() - key.size() - 1;
+    record.append(text);
+    return {key, place};
 }
 
 bool Unmerge(std::vector<std::string> &records, std::vector<Sort_Entry> &staged, std::size_t line) {

@@ -5,8 +5,18 @@
 #include "core/event_entries.h"
 
 #include <string>
+#include <string_view>
 #include <unordered_map>
 #include <vector>
+
+/// Stands between the texts of a record that several events have joined.
+inline constexpr std::string_view joint = " + ";
+
+/// Where a text is that was merged.
+struct Merged_Text {
+    std::string key;       ///< of its record
+    std::size_t place = 0; ///< in the record's text
+};
 
 /// Folds events into the records as they are stored: an event joins the first record of its day, be that one
 /// an exact or an every-year one, and otherwise becomes the last record. Knows each day's first record, so
@@ -15,8 +25,8 @@ class Record_Merger {
 public:
     /// `records` must outlive the merger, and nobody else may change it.
     explicit Record_Merger(std::vector<std::string> &records);
-    /// Stores the event by its date, and in its `key` and `place` where its text is now.
-    void Merge(Sort_Entry &event);
+    /// Stores the text on the day, and returns where it is now.
+    Merged_Text Merge(const Date &date, std::string_view text);
 
 private:
     std::vector<std::string> &records_;

@@ -62,4 +62,13 @@ TEST_F(Locale_Contract, Older_Texts_Are_Those_Of_The_Systems_Code_Page) {
     EXPECT_EQ(platform::Ansi_To_Utf8("a|\xE9\x80\x9F \x81"), "a|\u00E9\u20AC\u0178 \u0081");
 }
 
+TEST_F(Locale_Contract, The_Time_Now_Is_That_Of_The_Zone) {
+    const auto order = [](const platform::Date_Time &time) {
+        return std::tuple(time.year, time.month, time.day, time.hour, time.minute, time.second);
+    };
+    const auto before = order(platform::Now());
+    const auto local = order(platform::Local_Time(platform::Now_In_Utc()));
+    EXPECT_TRUE(before <= local && local <= order(platform::Now()));
+}
+
 } // namespace

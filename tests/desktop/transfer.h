@@ -12,7 +12,8 @@ protected:
         Desktop_Test::SetUp();
         for (const wchar_t character : Data_Path().substr(0, Data_Path().rfind(L'\\') + 1))
             folder_ += static_cast<char>(character);
-        for (const char *name : {"out.csv", "out.dat", "out.ini", "out.txt", "data.bak"}) // of an earlier run
+        for (const char *name :
+             {"out.csv", "out.dat", "out.ics", "out.ini", "out.txt", "data.bak"}) // of an earlier run
             Set_File(name, nullptr);
     }
 

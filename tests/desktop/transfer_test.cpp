@@ -34,7 +34,9 @@ TEST_F(Transfer, Every_Export_Asks_And_Keeps_What_It_May_Not_Replace) {
                 {'X', "Export Events to Text File", "out.txt", "3 events to the text file...",
                  "5/6/2027  -  Say \"no\" twice\r\n5/12/2027 (every year)  -  Every, year\r\n2/28/2028  -  "},
                 {'V', "Export Events as CSV File", "out.csv", "3 events to the CSV file...",
-                 "\"Vellatro\",\"5/6/2027\",\"Say \"\"no\"\" twice\",\"12:00:00 AM\",\"5/7/2027\","}};
+                 "\"Vellatro\",\"5/6/2027\",\"Say \"\"no\"\" twice\",\"12:00:00 AM\",\"5/7/2027\","},
+                {'I', "Export Events as iCalendar File", "out.ics", "3 events to the iCalendar file...",
+                 "DTSTART;VALUE=DATE:20270506\r\nDTEND;VALUE=DATE:20270507\r\nSUMMARY:Say \"no\" twice\r\n"}};
     for (const auto &[key, title, name, report, content] : rows) {
         SCOPED_TRACE(title);
         const std::string question = "[Vellatro] Overwrite existing file?";
@@ -71,12 +73,15 @@ TEST_F(Transfer, Every_Import_Refuses_And_Asks) {
              "\"Subject\",\"Start Date\",\"Description\"\r\n\"Vellatro\",\"5/6/2027\",\"New\"\r\n");
     Set_File("out.txt", "\"Subject\",\"Description\"\r\n\"Vellatro\",\"New\"\r\n");
     Set_File("out.dat", "\"7/5/2027=Other\"\r\n");
+    Set_File("out.ics",
+             "BEGIN:VCALENDAR\nBEGIN:VEVENT\nDTSTART:20270509\nSUMMARY:Web\nEND:VEVENT\nEND:VCALENDAR\n");
     Set_File("out.ini", "\"Tooltips=2\"\r\n\"Unknown=1\"\r\n");
     Write_Data(old);
     Open();
     const auto title = [](WORD key) {
         return key == 'T'   ? "Import Data File"
                : key == 'L' ? "Import Events from CSV File"
+               : key == 'E' ? "Import Events from iCalendar File"
                             : "Import Configuration File";
     };
     const std::string warning = "warning [Vellatro] ";
@@ -104,6 +109,7 @@ TEST_F(Transfer, Every_Import_Refuses_And_Asks) {
     const std::string failed = warning + "Error when importing ";
     const std::string headings = "stop [Vellatro] Invalid CSV file or missing required headings.";
     const std::string one = "[Vellatro] Successfully imported 1 events from the CSV file...";
+    const std::string events = "[Vellatro] Successfully imported 1 events from the iCalendar file...";
     const struct {
         WORD key;
         const char *name;
@@ -111,12 +117,15 @@ TEST_F(Transfer, Every_Import_Refuses_And_Asks) {
         WORD answer;    ///< to the first of the boxes
         bool read_only; ///< the data file
         std::string after;
-    } rows[] = {{'T', "out.dat", {replace, replaced}, IDNO, false, old},
-                {'T', "out.dat", {replace, failed + "data file."}, IDYES, true, old},
-                {'L', "out.csv", {failed + "from CSV file."}, IDOK, true, old},
-                {'L', "out.txt", {headings, failed + "from CSV file."}, IDOK, false, old},
-                {'L', "out.csv", {one}, IDOK, false, "\"6/5/2027=Old + New\"\r\n"},
-                {'T', "out.dat", {replace, replaced}, IDYES, false, "\"7/5/2027=Other\"\r\n"}};
+    } rows[] = {
+        {'T', "out.dat", {replace, replaced}, IDNO, false, old},
+        {'T', "out.dat", {replace, failed + "data file."}, IDYES, true, old},
+        {'L', "out.csv", {failed + "from CSV file."}, IDOK, true, old},
+        {'L', "out.txt", {headings, failed + "from CSV file."}, IDOK, false, old},
+        {'L', "out.csv", {one}, IDOK, false, "\"6/5/2027=Old + New\"\r\n"},
+        {'E', "out.csv", {failed + "from iCalendar file."}, IDOK, false, "\"6/5/2027=Old + New\"\r\n"},
+        {'E', "out.ics", {events}, IDOK, false, "\"6/5/2027=Old + New\"\r\n\"9/5/2027=Web\"\r\n"},
+        {'T', "out.dat", {replace, replaced}, IDYES, false, "\"7/5/2027=Other\"\r\n"}};
     for (const auto &[key, name, boxes, answer, read_only, after] : rows) {
         SCOPED_TRACE(name + boxes.back());
         Set_Read_Only("calendar.dat", read_only);

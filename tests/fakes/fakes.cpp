@@ -45,6 +45,27 @@ Date_Time Now() {
     return Fakes().now;
 }
 
+namespace {
+
+Date_Time Later(const Date_Time &time, int minutes) {
+    const Date date{static_cast<std::int16_t>(time.year), static_cast<std::int16_t>(time.month),
+                    static_cast<std::int16_t>(time.day)};
+    const int moment = time.hour * 60 + time.minute + minutes;
+    const int of_day = (moment % 1440 + 1440) % 1440;
+    const Date day = Date_Of(Day_Number(date) + (moment - of_day) / 1440);
+    return {day.year, day.month, day.day, of_day / 60, of_day % 60, time.second, time.millisecond};
+}
+
+} // namespace
+
+Date_Time Now_In_Utc() {
+    return Later(Fakes().now, -Fakes().zone_minutes);
+}
+
+Date_Time Local_Time(const Date_Time &utc) {
+    return Later(utc, Fakes().zone_minutes);
+}
+
 unsigned Milliseconds() {
     return Fakes().milliseconds += Fakes().clock_step;
 }

@@ -46,6 +46,7 @@ struct Expected_Dialog {
 struct Fake_System {
     /// A Tuesday.
     platform::Date_Time now{2002, 3, 5, 10, 30, 0, 0};
+    int zone_minutes = 0; ///< how far local time is ahead of Coordinated Universal Time
 
     int first_weekday = 0;
     std::array<std::string, 12> months{"January", "February", "March",     "April",   "May",      "June",

@@ -1,0 +1,81 @@
+// Any bytes are read as a calendar or refused. What is read joins records that can be written and read back,
+// and joining it again changes nothing. Its export is read back as the same events.
+#include "core/sequential.h"
+#include "tests/fakes/fakes.h"
+#include "transfer/icalendar_merging.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <cstdlib>
+
+namespace {
+
+const Date today{2026, 11, 22};
+
+void Demand(bool holds) {
+    if (!holds)
+        std::abort();
+}
+
+/// The file's events joined to the records. Each of its days is one that the calendar shows.
+void Join(const Calendar_File &file, std::vector<std::string> &records, Progress &progress) {
+    const Event_Days days = Find_Event_Days(file, today, progress);
+    for (const Event_Day &day : days.days) {
+        Demand(day.date.year >= first_year && day.date.year <= every_year && day.event < file.events.size());
+        Demand(Text_On(day, file.events[day.event]).find_first_of("\"\r\n") == std::string::npos);
+    }
+    const Join_Counts counts = Join_Events(file, days, records);
+    Demand(counts.imported + counts.already_there + counts.passed_over == file.events.size());
+}
+
+std::vector<std::string> Read_Back(const std::string &bytes) {
+    std::vector<std::string> records;
+    Sequential_Reader reader(bytes);
+    for (std::string_view item; reader.Next(item);)
+        records.emplace_back(item);
+    return records;
+}
+
+/// The records' own events: one for each, on its date.
+std::vector<Sort_Entry> Entries(const std::vector<std::string> &records) {
+    std::vector<Sort_Entry> entries;
+    Event_Entry entry;
+    for (const std::string &record : records)
+        if (Read_Entry(record, entry)) {
+            const Date date = Day_In_Year(entry, today.year);
+            entries.push_back(
+                {Day_Number(date), date, entry.yearly, std::string(entry.key), std::string(entry.text)});
+        }
+    return entries;
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
+    Reset_Fakes();
+    Fakes().zone_minutes = 90;
+    Progress progress;
+    Calendar_File file;
+    try {
+        file = Read_ICalendar({reinterpret_cast<const char *>(data), size}, progress);
+    } catch (const ICalendar_Error &) {
+        return 0;
+    }
+    std::vector<std::string> records{"1/1/9999=New Year", "no record", "25/12/2026=x"};
+    Join(file, records, progress);
+    std::vector<std::string> again = records;
+    Join(file, again, progress);
+    Demand(again == records);
+    std::string bytes;
+    for (const std::string &record : records)
+        Append_Item(bytes, record);
+    Demand(Read_Back(bytes) == records);
+
+    const std::vector<Sort_Entry> entries = Entries(records);
+    const Calendar_File exported = Read_ICalendar(ICalendar_Bytes(entries, progress), progress);
+    Demand(exported.events.size() == entries.size());
+    const Event_Days days = Find_Event_Days(exported, today, progress);
+    for (const Event_Day &day : days.days)
+        Demand(Date_Key(day.date) == entries[day.event].key && day.minute < 0);
+    return 0;
+}

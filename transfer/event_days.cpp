@@ -1,0 +1,251 @@
+// Clocks are made one here. A local time counts as it stands, whatever its zone; one of Coordinated Universal
+// Time is shown by the user's clock, but is repeated and compared by its own.
+#include "transfer/event_days.h"
+
+#include "platform/clock.h"
+#include "platform/joined.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+constexpr std::int64_t most_days = 366;          ///< of an event
+constexpr std::size_t most_repeated_days = 1000; ///< of one that is repeated
+constexpr std::int64_t half_a_day = seconds_a_day / 2;
+
+/// The seconds by the user's clock at those of Coordinated Universal Time.
+std::int64_t Local_Seconds(std::int64_t utc) {
+    const Date date = Date_Of(Day_Of(utc));
+    const auto second = static_cast<int>(Second_Of_Day(utc));
+    const platform::Date_Time local = platform::Local_Time(
+        {date.year, date.month, date.day, second / 3600, second / 60 % 60, second % 60, 0});
+    const Date day{static_cast<std::int16_t>(local.year), static_cast<std::int16_t>(local.month),
+                   static_cast<std::int16_t>(local.day)};
+    const int seconds = local.hour * 3600 + local.minute * 60 + local.second;
+    return Day_Number(day) * seconds_a_day + seconds;
+}
+
+/// Moments to be searched: by kind, a date, a local time or another, and those of a kind by time.
+using Moments = std::vector<Moment>;
+
+std::pair<int, std::int64_t> Sort_Key(const Moment &moment) {
+    return {moment.timed ? (moment.utc ? 2 : 1) : 0, moment.seconds};
+}
+
+bool Earlier(const Moment &a, const Moment &b) {
+    return Sort_Key(a) < Sort_Key(b);
+}
+
+/// Whether there is one of the kind of `least`, from its time up to `most`.
+bool Has(const Moments &sorted, const Moment &least, std::int64_t most) {
+    const auto found = std::lower_bound(sorted.begin(), sorted.end(), least, Earlier);
+    return found != sorted.end() && !Earlier({most, least.timed, least.utc}, *found);
+}
+
+/// Works the days of the events out, one event after the other.
+class Day_Finder {
+public:
+    Day_Finder(const Calendar_File &file, const Date &today);
+    void Find(std::uint32_t index, Event_Days &result);
+
+private:
+    struct Replacements {
+        Moments moments;
+        bool of_repeated = false; ///< the event whose days they replace is in the file
+    };
+
+    std::int64_t Ahead(std::int64_t utc) const;
+    std::int64_t Length() const;
+    std::int64_t In_Clock_Of_Start(const Moment &moment) const;
+    bool Is_In(const Moments &moments, std::int64_t moment) const;
+    bool Is_Removed(std::int64_t moment) const;
+    bool Find_Repetitions();
+    void Put(std::int64_t begin, std::int32_t first, std::int32_t last, bool every_year_again,
+             Event_Days &result);
+
+    const Calendar_File &file_;
+    std::int32_t window_begin_, window_end_;
+    std::unordered_map<std::string, Replacements> replacements_; ///< by UID
+
+    // Of the event that is being worked on:
+    const Calendar_Event *event_ = nullptr;
+    const Replacements *replaced_ = nullptr;
+    std::uint32_t index_ = 0;
+    Moment start_;
+    std::int64_t length_ = 0; ///< seconds
+    Moments removed_;
+    std::vector<std::int64_t> repetitions_; ///< seconds by the clock of the start
+    bool yearly_ = false;
+    std::size_t put_ = 0;       ///< days
+    std::int32_t last_put_ = 0; ///< the last of them
+};
+
+bool Repeats(const Calendar_Event &event) {
+    return !event.rules.empty() || !event.added.empty();
+}
+
+Day_Finder::Day_Finder(const Calendar_File &file, const Date &today) : file_(file) {
+    const Date this_month{today.year, today.month, 1};
+    const Date last_month = Date_Of(Day_Number(this_month) - 1);
+    window_begin_ = Day_Number({last_month.year, last_month.month, 1});
+    const auto next_year = static_cast<std::int16_t>(today.year + 1);
+    window_end_ = Day_Number({std::min(next_year, last_year), 12, 31});
+    for (const Calendar_Event &event : file.events)
+        if (event.replaces)
+            replacements_[event.uid].moments.push_back(*event.replaces);
+    for (auto &[uid, replaced] : replacements_)
+        std::sort(replaced.moments.begin(), replaced.moments.end(), Earlier);
+    for (const Calendar_Event &event : file.events)
+        if (const auto found = replacements_.find(event.uid); found != replacements_.end())
+            found->second.of_repeated = found->second.of_repeated || (!event.replaces && Repeats(event));
+}
+
+/// Seconds that the clock of the start is ahead of Coordinated Universal Time. A zone of which the file does
+/// not tell is taken for the user's.
+std::int64_t Day_Finder::Ahead(std::int64_t utc) const {
+    const auto zone = file_.zones.find(event_->zone);
+    return zone != file_.zones.end() ? zone->second : Local_Seconds(utc) - utc;
+}
+
+std::int64_t Day_Finder::Length() const {
+    std::int64_t length = event_->duration.value_or(0);
+    if (event_->end) {
+        const auto local = [](const Moment &moment) {
+            return moment.utc ? Local_Seconds(moment.seconds) : moment.seconds;
+        };
+        length = event_->end->utc == start_.utc ? event_->end->seconds - start_.seconds
+                                                : local(*event_->end) - local(start_);
+    }
+    return std::clamp(length, start_.timed ? 0 : seconds_a_day, most_days * seconds_a_day);
+}
+
+/// The seconds of another moment of the event. A date is meant at the time of the start.
+std::int64_t Day_Finder::In_Clock_Of_Start(const Moment &moment) const {
+    if (!moment.timed || !start_.timed)
+        return Day_Of(moment.seconds) * seconds_a_day + Second_Of_Day(start_.seconds);
+    return moment.utc && !start_.utc ? moment.seconds + Ahead(moment.seconds) : moment.seconds;
+}
+
+/// Whether a repetition is one of the moments. A date means all of its day. Of another clock than the start's
+/// the nearest one is meant: when their zones change the clock is not known here.
+bool Day_Finder::Is_In(const Moments &moments, std::int64_t moment) const {
+    if (moments.empty())
+        return false;
+    const std::int64_t day = moment - Second_Of_Day(moment), end = day + seconds_a_day - 1;
+    if (Has(moments, {day, false, false}, day))
+        return true;
+    if (!start_.timed)
+        return Has(moments, {day, true, false}, end) || Has(moments, {day, true, true}, end);
+    const std::int64_t other = start_.utc ? Local_Seconds(moment) : moment - Ahead(moment);
+    return Has(moments, {moment, true, start_.utc}, moment) ||
+           Has(moments, {other - half_a_day + 1, true, !start_.utc}, other + half_a_day - 1);
+}
+
+bool Day_Finder::Is_Removed(std::int64_t moment) const {
+    return Is_In(removed_, moment) || (replaced_ != nullptr && Is_In(replaced_->moments, moment));
+}
+
+/// False: there is a rule that is not understood.
+bool Day_Finder::Find_Repetitions() {
+    repetitions_.clear();
+    if (event_->not_understood)
+        return false;
+    repetitions_.push_back(start_.seconds);
+    for (const Moment &moment : event_->added)
+        repetitions_.push_back(In_Clock_Of_Start(moment));
+    for (const std::string &text : event_->rules) {
+        std::optional<Recurrence> rule = Read_Recurrence(text, start_);
+        if (!rule)
+            return false;
+        yearly_ = event_->rules.size() == 1 && event_->added.empty() && removed_.empty() &&
+                  replaced_ == nullptr && Is_Plain_Yearly(*rule, start_);
+        if (yearly_)
+            return true;
+        if (rule->until && rule->until->timed && start_.timed)
+            rule->until->seconds = In_Clock_Of_Start(*rule->until);
+        const auto before = static_cast<std::int32_t>(length_ / seconds_a_day + 1);
+        if (!Expand(*rule, start_, window_begin_ - before, window_end_ + 1, 2 * most_repeated_days,
+                    repetitions_))
+            return false;
+    }
+    std::sort(repetitions_.begin(), repetitions_.end());
+    repetitions_.erase(std::unique(repetitions_.begin(), repetitions_.end()), repetitions_.end());
+    return true;
+}
+
+/// Adds the days from `first` to `last` that a repetition touches. An end at midnight does not touch the day
+/// that begins then.
+void Day_Finder::Put(std::int64_t begin, std::int32_t first, std::int32_t last, bool every_year_again,
+                     Event_Days &result) {
+    const std::int64_t local_begin = start_.utc ? Local_Seconds(begin) : begin;
+    const std::int64_t local_end = start_.utc ? Local_Seconds(begin + length_) : begin + length_;
+    const std::int32_t begin_day = Day_Of(local_begin);
+    const std::int32_t end_day = std::max(begin_day, Day_Of(local_end - 1));
+    const auto minute = static_cast<std::int16_t>(start_.timed ? Second_Of_Day(local_begin) / 60 : -1);
+    last = std::min({last, end_day, begin_day + static_cast<std::int32_t>(most_days) - 1});
+    for (std::int32_t day = std::max(first, begin_day); day <= last; ++day) {
+        const bool again = put_ > 0 && day <= last_put_ && result.days.back().minute == minute;
+        if (again || put_ == most_repeated_days)
+            continue;
+        Date date = Date_Of(day);
+        if (every_year_again)
+            date.year = every_year;
+        result.days.push_back({index_, minute, date});
+        last_put_ = std::max(last_put_, day);
+        ++put_;
+    }
+}
+
+void Day_Finder::Find(std::uint32_t index, Event_Days &result) {
+    constexpr std::int32_t all = INT32_MAX;
+    index_ = index;
+    event_ = &file_.events[index];
+    if (!event_->start || event_->text.empty() || event_->cancelled)
+        return;
+    const auto replaced = replacements_.find(event_->uid);
+    const bool replaces = event_->replaces && replaced->second.of_repeated;
+    replaced_ = replaced == replacements_.end() || event_->replaces ? nullptr : &replaced->second;
+    start_ = *event_->start;
+    length_ = Length();
+    removed_ = event_->removed;
+    std::sort(removed_.begin(), removed_.end(), Earlier);
+    yearly_ = false;
+    put_ = 0;
+    last_put_ = -all;
+    const auto first_day = Day_Number({first_year, 1, 1}), last_day = Day_Number({last_year, 12, 31});
+    const bool repeats = !event_->replaces && (Repeats(*event_) || event_->not_understood);
+    const bool understood = repeats && Find_Repetitions();
+    if (repeats && !understood)
+        ++result.not_understood;
+    if (yearly_) // also one that has begun before all years, as one for whom no year is known
+        Put(start_.seconds, -all, all, true, result);
+    else if (replaces)
+        Put(start_.seconds, window_begin_, window_end_, false, result);
+    else if (!understood && !Is_Removed(start_.seconds))
+        Put(start_.seconds, first_day, last_day, false, result);
+    else if (understood)
+        for (const std::int64_t moment : repetitions_)
+            if (!Is_Removed(moment))
+                Put(moment, window_begin_, window_end_, false, result);
+}
+
+} // namespace
+
+Event_Days Find_Event_Days(const Calendar_File &file, const Date &today, Progress &progress) {
+    Event_Days result;
+    Day_Finder finder(file, today);
+    for (std::size_t i = 0; i < file.events.size(); ++i) {
+        finder.Find(static_cast<std::uint32_t>(i), result);
+        if (progress.Due())
+            progress.Show(8 * file.events.size() + 2 * i, 10 * file.events.size());
+    }
+    return result;
+}
+
+std::string Text_On(const Event_Day &day, const Calendar_Event &event) {
+    if (day.minute < 0)
+        return event.text;
+    const auto two = [](int number) { return std::to_string(100 + number).substr(1); };
+    return platform::Joined({two(day.minute / 60), ":", two(day.minute % 60), " ", event.text});
+}

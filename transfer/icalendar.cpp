@@ -1,0 +1,392 @@
+// The reader goes through the lines once, with the names of the components that are open. Each part of an
+// event has its rule here once.
+#include "transfer/icalendar.h"
+
+#include "core/convert.h"
+#include "core/letters.h"
+#include "platform/clock.h"
+#include "platform/joined.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr std::string_view byte_order_mark = "\xEF\xBB\xBF";
+constexpr std::string_view blanks = " \t\r\n";
+
+bool Same_Word(std::string_view text, std::string_view capitals) {
+    return text.size() == capitals.size() &&
+           std::equal(text.begin(), text.end(), capitals.begin(),
+                      [](char letter, char capital) { return Capital(letter) == capital; });
+}
+
+/// Where the first of the characters stands outside of quotes; at the end: nowhere.
+std::size_t Find_Unquoted(std::string_view text, std::string_view characters) {
+    bool quoted = false;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (text[i] == '"')
+            quoted = !quoted;
+        else if (!quoted && characters.find(text[i]) != std::string_view::npos)
+            return i;
+    }
+    return text.size();
+}
+
+std::string_view Trimmed(std::string_view text) {
+    const std::size_t begin = std::min(text.find_first_not_of(blanks), text.size());
+    return text.substr(begin, text.find_last_not_of(blanks) + 1 - begin);
+}
+
+/// As the data file can hold it and a day show it: in one line, and with apostrophes for double quotes.
+std::string In_One_Line(std::string_view text) {
+    std::string line;
+    line.reserve(text.size());
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (text.substr(i).starts_with("\r\n"))
+            ++i;
+        const bool control = static_cast<unsigned char>(text[i]) < ' ' || text[i] == '\x7F';
+        line += control ? ' ' : text[i] == '"' ? '\'' : text[i];
+    }
+    return line;
+}
+
+/// The properties of an event of which its text is made, as they are written.
+struct Text_Parts {
+    std::string summary;
+    std::string description;
+    std::string location;
+};
+
+/// Its summary, else the first line of its description, and its location. Empty: it has neither of the first
+/// two, so there is nothing that says what it is.
+std::string Event_Text(const Text_Parts &parts) {
+    const std::string summary = Unescaped(parts.summary);
+    std::string_view name = Trimmed(summary);
+    const std::string description = name.empty() ? Unescaped(parts.description) : std::string();
+    if (name.empty()) {
+        name = Trimmed(description);
+        name = Trimmed(name.substr(0, name.find_first_of("\r\n")));
+    }
+    if (name.empty())
+        return {};
+    const std::string location = Unescaped(parts.location);
+    const std::string_view place = Trimmed(location);
+    return In_One_Line(platform::Joined({name, place.empty() ? "" : ", ", place}));
+}
+
+/// Adds the moments of a list. Of a period, which is written with a slash, the begin counts.
+void Read_Moments(std::string_view list, std::vector<Moment> &moments) {
+    while (!list.empty()) {
+        const std::size_t end = std::min(list.find(','), list.size());
+        const std::string_view part = list.substr(0, end);
+        if (const auto moment = Read_Moment(Trimmed(part.substr(0, part.find('/')))))
+            moments.push_back(*moment);
+        list.remove_prefix(std::min(end + 1, list.size()));
+    }
+}
+
+/// Keeps the first of several properties that are to be there once.
+void Keep(std::string &text, std::string_view value) {
+    if (text.empty())
+        text = value;
+}
+
+void Read_Property(const Content_Line &line, Calendar_Event &event, Text_Parts &parts) {
+    const auto is = [&](std::string_view name) { return Same_Word(line.name, name); };
+    if (is("SUMMARY")) {
+        Keep(parts.summary, line.value);
+    } else if (is("DESCRIPTION")) {
+        Keep(parts.description, line.value);
+    } else if (is("LOCATION")) {
+        Keep(parts.location, line.value);
+    } else if (is("UID")) {
+        Keep(event.uid, line.value);
+    } else if (is("DTSTART")) {
+        event.start = Read_Moment(Trimmed(line.value));
+        event.zone = Parameter(line, "TZID");
+    } else if (is("DTEND")) {
+        event.end = Read_Moment(Trimmed(line.value));
+    } else if (is("DURATION")) {
+        event.duration = Read_Duration(Trimmed(line.value));
+    } else if (is("RRULE")) {
+        event.rules.emplace_back(Trimmed(line.value));
+    } else if (is("EXRULE")) {
+        event.not_understood = true;
+    } else if (is("RDATE")) {
+        Read_Moments(line.value, event.added);
+    } else if (is("EXDATE")) {
+        Read_Moments(line.value, event.removed);
+    } else if (is("RECURRENCE-ID")) {
+        event.replaces = Read_Moment(Trimmed(line.value));
+    } else if (is("STATUS")) {
+        event.cancelled = Same_Word(Trimmed(line.value), "CANCELLED");
+    }
+}
+
+/// Reads an offset such as +0100 or -123045 in seconds.
+std::int64_t Offset(std::string_view text) {
+    std::int64_t digits = 0;
+    for (const char c : text.substr(0, 7))
+        if (c >= '0' && c <= '9')
+            digits = digits * 10 + (c - '0');
+    if (text.size() <= 5)
+        digits *= 100;
+    const std::int64_t seconds = digits / 10000 * 3600 + digits / 100 % 100 * 60 + digits % 100;
+    return text.starts_with('-') ? -seconds : seconds;
+}
+
+/// The components that are open, and what has been read of the innermost.
+class Calendar_Reader {
+public:
+    void Take(const Content_Line &line) {
+        if (Same_Word(line.name, "BEGIN"))
+            Begin(Capitals(Trimmed(line.value)));
+        else if (Same_Word(line.name, "END"))
+            End(Capitals(Trimmed(line.value)));
+        else if (In("VEVENT") && open_.size() == 2)
+            Read_Property(line, event_, parts_);
+        else if (In("VTIMEZONE"))
+            Take_Of_Zone(line);
+    }
+    Calendar_File Finish() {
+        if (!any_calendar_)
+            throw ICalendar_Error("The file is no iCalendar file.");
+        if (!open_.empty())
+            throw ICalendar_Error("The file is cut short: the end of " + open_.back() + " is missing.");
+        return std::move(file_);
+    }
+
+private:
+    bool In(std::string_view component) const {
+        return open_.size() > 1 && open_[1] == component && open_[0] == "VCALENDAR";
+    }
+    void Begin(std::string name) {
+        any_calendar_ = any_calendar_ || name == "VCALENDAR";
+        open_.push_back(std::move(name));
+        if (open_.size() != 2)
+            return;
+        event_ = {};
+        parts_ = {};
+        zone_.clear();
+        zone_offset_.reset();
+    }
+    void End(const std::string &name) {
+        if (open_.empty() || open_.back() != name)
+            throw ICalendar_Error("The file is damaged: " + name + " ends where it has not begun.");
+        if (In("VEVENT") && open_.size() == 2) {
+            event_.text = Event_Text(parts_);
+            file_.events.push_back(std::move(event_));
+        }
+        if (In("VTIMEZONE") && open_.size() == 2 && zone_offset_) {
+            const auto [zone, is_new] = file_.zones.emplace(zone_, *zone_offset_);
+            zone->second = std::max(zone->second, *zone_offset_);
+        }
+        open_.pop_back();
+    }
+    void Take_Of_Zone(const Content_Line &line) {
+        if (Same_Word(line.name, "TZID") && open_.size() == 2) {
+            zone_ = Trimmed(line.value);
+        } else if (Same_Word(line.name, "TZOFFSETTO") && open_.size() == 3) {
+            const std::int64_t offset = Offset(Trimmed(line.value));
+            zone_offset_ = std::max(zone_offset_.value_or(offset), offset);
+        }
+    }
+
+    Calendar_File file_;
+    std::vector<std::string> open_;
+    Calendar_Event event_;
+    Text_Parts parts_;
+    std::string zone_;
+    std::optional<std::int64_t> zone_offset_;
+    bool any_calendar_ = false;
+};
+
+// What follows writes.
+
+/// Appends a line in pieces of at most 75 octets, between characters.
+void Append_Line(std::string &bytes, std::string_view line) {
+    constexpr std::size_t longest = 75;
+    std::size_t room = longest;
+    while (line.size() > room) {
+        std::size_t end = room;
+        while (end > room - 4 && (static_cast<unsigned char>(line[end]) & 0xC0U) == 0x80U)
+            --end;
+        bytes.append(line.substr(0, end)).append("\r\n ");
+        line.remove_prefix(end);
+        room = longest - 1;
+    }
+    bytes.append(line).append("\r\n");
+}
+
+std::string Escaped(std::string_view text) {
+    std::string escaped;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (text.substr(i).starts_with("\r\n"))
+            ++i;
+        const char c = text[i];
+        if (c == '\n' || c == '\r') {
+            escaped += "\\n";
+        } else {
+            if (c == '\\' || c == ';' || c == ',')
+                escaped += '\\';
+            escaped += c;
+        }
+    }
+    return escaped;
+}
+
+std::string Digits(int number, std::size_t width) {
+    std::string digits = std::to_string(number);
+    return digits.insert(0, width - std::min(width, digits.size()), '0');
+}
+
+std::string Date_Digits(const Date &date) {
+    return platform::Joined({Digits(date.year, 4), Digits(date.month, 2), Digits(date.day, 2)});
+}
+
+/// A number that is the same each time for the same record, and another one for another. It is that of
+/// Fowler, Noll and Vo.
+std::string Record_Number(std::string_view record) {
+    std::uint64_t hash = 0xCBF29CE484222325;
+    for (const char c : record)
+        hash = (hash ^ static_cast<unsigned char>(c)) * 0x100000001B3;
+    std::string digits;
+    for (int shift = 60; shift >= 0; shift -= 4)
+        digits += "0123456789abcdef"[hash >> shift & 15];
+    return digits;
+}
+
+/// The day on which an event begins. A yearly one of 29 February begins in the last year that had one: others
+/// show it in those years then, as the month does here.
+Date First_Day(const Sort_Entry &entry) {
+    if (!entry.yearly || !entry.key.starts_with("29/2/"))
+        return entry.date;
+    Date day{entry.date.year, 2, 1};
+    while (DaysInMonth(day) < 29)
+        --day.year;
+    day.day = 29;
+    return day;
+}
+
+void Append_Event(std::string &bytes, const Sort_Entry &entry, std::string_view stamp) {
+    const Date day = First_Day(entry);
+    const std::string key = Date_Key(entry.yearly ? Date{every_year, day.month, day.day} : day);
+    const auto append = [&](std::initializer_list<std::string_view> parts) {
+        Append_Line(bytes, platform::Joined(parts));
+    };
+    append({"BEGIN:VEVENT"});
+    append({"UID:", Record_Number(platform::Joined({key, "=", entry.text})), "@vellatro"});
+    append({"DTSTAMP:", stamp});
+    append({"DTSTART;VALUE=DATE:", Date_Digits(day)});
+    append({"DTEND;VALUE=DATE:", Date_Digits(Date_Of(Day_Number(day) + 1))});
+    if (entry.yearly)
+        append({"RRULE:FREQ=YEARLY"});
+    append({"SUMMARY:", Escaped(entry.text)});
+    append({"TRANSP:TRANSPARENT"});
+    append({"END:VEVENT"});
+}
+
+} // namespace
+
+/// The next line of the file, with what follows it.
+std::string_view Content_Lines::Next_Physical() {
+    if (line_feed_ < at_)
+        line_feed_ = std::min(bytes_.find('\n', at_), bytes_.size());
+    std::string_view line = bytes_.substr(at_, line_feed_ - at_);
+    line = line.substr(0, line.find('\r'));
+    const std::size_t end = at_ + line.size();
+    at_ = std::min(bytes_.find_first_not_of("\r\n", end), bytes_.size());
+    if (line.starts_with(byte_order_mark))
+        line.remove_prefix(byte_order_mark.size());
+    return line;
+}
+
+std::string_view Content_Lines::Next_Unfolded() {
+    std::string_view line = Next_Physical();
+    const auto continues = [this] {
+        return at_ < bytes_.size() && (bytes_[at_] == ' ' || bytes_[at_] == '\t');
+    };
+    if (!continues())
+        return line;
+    joined_ = line;
+    while (continues()) {
+        ++at_;
+        joined_ += Next_Physical();
+    }
+    return joined_;
+}
+
+bool Content_Lines::Next(Content_Line &line) {
+    while (at_ < bytes_.size()) {
+        const std::string_view text = Next_Unfolded();
+        const std::size_t name_end = std::min(text.find_first_of(";:"), text.size());
+        std::size_t colon = name_end + Find_Unquoted(text.substr(name_end), ":");
+        if (colon == text.size()) // a quote is not closed
+            colon = text.find(':', name_end);
+        if (colon == std::string_view::npos)
+            continue;
+        line.name = text.substr(0, name_end);
+        line.parameters = colon == name_end ? "" : text.substr(name_end + 1, colon - name_end - 1);
+        line.value = text.substr(colon + 1);
+        return true;
+    }
+    return false;
+}
+
+std::string_view Parameter(const Content_Line &line, std::string_view name) {
+    for (std::string_view rest = line.parameters; !rest.empty();) {
+        const std::size_t end = Find_Unquoted(rest, ";");
+        const std::string_view parameter = rest.substr(0, end);
+        const std::size_t equals = std::min(parameter.find('='), parameter.size() - 1);
+        if (Same_Word(Trimmed(parameter.substr(0, equals)), name)) {
+            std::string_view value = Trimmed(parameter.substr(equals + 1));
+            if (value.size() > 1 && value.front() == '"' && value.back() == '"')
+                value = value.substr(1, value.size() - 2);
+            return value;
+        }
+        rest.remove_prefix(std::min(end + 1, rest.size()));
+    }
+    return {};
+}
+
+std::string Unescaped(std::string_view value) {
+    std::string text, room;
+    value = As_Utf8(value, room);
+    text.reserve(value.size());
+    for (std::size_t i = 0; i < value.size(); ++i) {
+        const char next = value[i] == '\\' && i + 1 < value.size() ? Capital(value[i + 1]) : '\0';
+        if (next != '\0' && std::string_view("N,;\\\"").find(next) != std::string_view::npos) {
+            text += next == 'N' ? '\n' : next;
+            ++i;
+        } else {
+            text += value[i];
+        }
+    }
+    return text;
+}
+
+Calendar_File Read_ICalendar(std::string_view bytes, Progress &progress) {
+    Calendar_Reader reader;
+    Content_Lines lines(bytes);
+    for (Content_Line line; lines.Next(line);) {
+        reader.Take(line);
+        if (progress.Due())
+            progress.Show(lines.Position(), bytes.size() / 8 * 10);
+    }
+    return reader.Finish();
+}
+
+std::string ICalendar_Bytes(const std::vector<Sort_Entry> &entries, Progress &progress) {
+    const platform::Date_Time now = platform::Now_In_Utc();
+    const std::string stamp =
+        platform::Joined({Digits(now.year, 4), Digits(now.month, 2), Digits(now.day, 2), "T",
+                          Digits(now.hour, 2), Digits(now.minute, 2), Digits(now.second, 2), "Z"});
+    std::string bytes = "BEGIN:VCALENDAR\r\nVERSION:2.0\r\nPRODID:-//Vellatro//Vellatro//EN\r\n";
+    for (std::size_t i = 0; i < entries.size(); ++i) {
+        Append_Event(bytes, entries[i], stamp);
+        if (progress.Due())
+            progress.Show(i, entries.size());
+    }
+    bytes += "END:VCALENDAR\r\n";
+    return bytes;
+}
