@@ -1,5 +1,5 @@
 // June, July and August.
-#include "tools/packs/scenery.h"
+#include "scenery.h"
 
 namespace {
 
@@ -147,7 +147,7 @@ void June(Canvas &canvas) {
         pixel = Mix(pixel, Rgb(0xfdfdf8), foam * 0.93f);
     });
     Footprints(canvas, random);
-    Rowing_Boat(canvas, 1180, 330, 0.62f);
+    Rowing_Boat(canvas, 1540, 235, 0.62f);
     canvas.Bloom(0.8f, 30, 0.2f);
     Vignette(canvas, 0.18f);
 }
@@ -200,6 +200,7 @@ void July(Canvas &canvas) {
             pixel = pixel + Colour{1.9f, 0.95f, 0.36f} * (spark * 0.8f);
         },
         horizon);
+    canvas.Mirror(); // the calm water comes to the right, where the calendar stands
     canvas.Bloom(0.8f, 44, 0.4f);
     Vignette(canvas, 0.25f);
 }
