@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # Paints the pack's pictures anew: make.sh [FOLDER [MONTH...]]. See README.md in this folder.
 set -euo pipefail
+folder=$(realpath -m "${1:-$(dirname "$0")/..}")
 cd "$(dirname "$0")"
-folder=$(realpath "${1:-..}")
 shift || true
 [ $# -gt 0 ] || set -- {1..12}
 work=../../../build/packs

@@ -184,7 +184,7 @@ void July(Canvas &canvas) {
         0, horizon);
     const Ridge cape{horizon - 6, 34, 420, 741, 0.2f};
     canvas.Below(
-        [&](float x) { return std::min(horizon, Mix(horizon + 8, cape(x) - 22, Ramp(620, 120, x))); },
+        [&](float x) { return Mix(horizon + 8, cape(x) - 22, Ramp(620, 120, x)); },
         [](float, float, float depth) { return Mix(Rgb(0x7d4a73), Rgb(0xb46678), Unit(depth / 70)); },
         horizon);
     Sail(canvas, 1085, horizon + 3, 52, Rgb(0x5a2f4a), Rgb(0xa34c55));
