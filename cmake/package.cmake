@@ -6,18 +6,14 @@ endif()
 set(stage "${OUT}/package")
 set(folder "${stage}/Vellatro")
 file(REMOVE_RECURSE "${stage}")
-file(COPY "${PROGRAM}" "${SOURCES}/packs/Default" DESTINATION "${folder}" PATTERN "*.bmp" EXCLUDE)
+# Neither the bitmap that a start leaves in a pack, nor the program that painted it.
+file(COPY "${PROGRAM}" "${SOURCES}/packs/Default" DESTINATION "${folder}"
+    PATTERN "*.bmp" EXCLUDE PATTERN painter EXCLUDE)
 # Older Windows' editor shows line ends of this kind only.
 configure_file("${SOURCES}/LICENSE" "${folder}/LICENSE.txt" @ONLY NEWLINE_STYLE CRLF)
-# Users read the guide first; its pictures go into a folder. One that is not there breaks off.
-file(READ "${SOURCES}/docs/guide.md" guide)
-string(REGEX REPLACE "\\(([a-z-]+\\.png)\\)" "(docs/\\1)" readme "${guide}")
-file(WRITE "${stage}/README.md" "${readme}")
-configure_file("${stage}/README.md" "${folder}/README.md" @ONLY NEWLINE_STYLE CRLF)
-string(REGEX MATCHALL "[a-z-]+\\.png" pictures "${guide}")
-foreach(picture ${pictures})
-    file(COPY "${SOURCES}/docs/${picture}" DESTINATION "${folder}/docs")
-endforeach()
+find_program(python NAMES python3 python REQUIRED)
+execute_process(COMMAND "${python}" "${SOURCES}/tools/make_guide.py" "${SOURCES}/docs/guide.md" "${folder}"
+    COMMAND_ERROR_IS_FATAL ANY)
 file(REMOVE "${OUT}/vellatro.zip")
 execute_process(COMMAND "${CMAKE_COMMAND}" -E tar cf "${OUT}/vellatro.zip" --format=zip Vellatro
     WORKING_DIRECTORY "${stage}" COMMAND_ERROR_IS_FATAL ANY)

@@ -3,7 +3,7 @@
 
     make_icon.py ICON.ico [FOLDER]    writes the icon, and with FOLDER each size as FOLDER/SIZE.png to look at
 
-Systems that read no PNG know neither 256 pixels nor the small icons of finer screens; these sizes are PNG.
+Only 256 pixels are PNG: Windows 2000 and XP read none, and ask for no icon so large.
 Every size is drawn for itself on its own pixel grid, from rectangles with round corners; corners and the rings
 are smoothed by samples within each pixel. Needs nothing but Python's standard library.
 """
@@ -13,7 +13,10 @@ import sys
 import zlib
 
 SIZES = (16, 20, 24, 32, 48, 256)
-AS_PNG = (20, 24, 256)
+AS_PNG = (256,)
+# Set by hand in the small sizes, so that the grid stands in the middle: cell and gap in pixels. An even gap gives four
+# columns an even width, as the page has.
+GRIDS = {16: (2, 2), 20: (2, 2), 24: (2, 2), 32: (3, 2)}
 SAMPLES = 8  # per pixel and direction
 
 DEEP_BLUE = (31, 8, 128)
@@ -51,15 +54,13 @@ def layers(size):
         yield (x - line, 0, x + ring + line, head - round(unit * 1.4) + line, ring), DEEP_BLUE
         yield (x, round(unit * 0.5), x + ring, head - round(unit * 1.4), ring / 2), VIOLET
 
-    # Days: as many squares as stay readable; today is the light one. The smallest sizes are set by hand so
-    # that a white pixel stays around each square.
+    # Days: as many squares as stay readable; today is the light one.
     width, height = right - left - 2 * line, bottom - line - head
-    if size == 16:
-        columns, rows, cell, gap, today = 3, 2, 2, 2, (1, 0)
-    elif size == 20:
-        columns, rows, cell, gap, today = 4, 3, 2, 2, (2, 1)
+    columns, rows, today = (3, 2, (1, 0)) if size == 16 else (4, 3, (2, 1))
+    if size in GRIDS:
+        cell, gap = GRIDS[size]
     else:
-        columns, rows, gap, today = 4, 3, max(1, round(unit * 0.7)), (2, 1)
+        gap = round(unit * 0.7)
         cell = min((width - gap * (columns + 1)) // columns, (height - gap * (rows + 1)) // rows)
     x0 = left + line + (width - columns * cell - (columns - 1) * gap) // 2
     y0 = head + (height - rows * cell - (rows - 1) * gap + 1) // 2
@@ -113,13 +114,14 @@ def png(pixels):
 
 
 def bitmap(pixels):
-    """The icon form of a bitmap: bottom row first, then a mask for systems that know no alpha."""
+    """The icon form of a bitmap: bottom row first, then a mask for systems that know no alpha. They show what the mask
+    hides inverted unless it is black, so they get the smoothed edge as a solid one."""
     size = len(pixels)
     header = struct.pack('<IiiHHIIiiII', 40, size, 2 * size, 1, 32, 0, 0, 0, 0, 0, 0)
     colours = b''.join(struct.pack('BBBB', b, g, r, a) for row in reversed(pixels) for r, g, b, a in row)
     mask = b''
     for row in reversed(pixels):
-        bits = ''.join('1' if pixel[3] < 128 else '0' for pixel in row)
+        bits = ''.join('0' if pixel[3] else '1' for pixel in row)
         bits += '0' * (-len(bits) % 32)
         mask += int(bits, 2).to_bytes(len(bits) // 8, 'big')
     return header + colours + mask

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Looks for faults with clang-tidy, by the settings of .clang-tidy, in the program, the native benchmarks and the fuzz
-# targets; the tests and the makers of the theme packs are left out. Most of its time goes into the headers of the
+# targets; the tests and the painter of the wallpapers are left out. Most of its time goes into the headers of the
 # language and of Windows, so it is given the sources of a folder as one, which takes far less; those whose
 # names collide make a further one. The flags are those of the presets host and win32, as far as clang knows them;
 # for win32 it is shown MinGW's headers. Builds nothing. Usage: tools/tidy.sh [FOLDER_OR_SOURCE...], all without.

@@ -1,5 +1,5 @@
 // Ridges, water, trees, snow, clouds and grass.
-#include "tools/packs/scenery.h"
+#include "scenery.h"
 
 float Ridge::operator()(float x) const {
     const float u = x / width, rolling = Fractal(u, 0.37f, seed, octaves, 0.42f);
@@ -168,6 +168,13 @@ void Blade(Canvas &canvas, Random &random, float x, float foot, float height, Co
     canvas.Stroke(x, foot, wide, middle_x, middle_y, wide * 0.8f, Mix(root, half, 0.5f), 1, soft);
     canvas.Curve(middle_x, middle_y, x + lean * 0.4f, foot - height * 0.85f, x + lean, end_y, wide * 0.8f,
                  0.2f, tip, 1, soft);
+}
+
+void Shade_Icons(Canvas &canvas, float strength) {
+    constexpr Colour taken{1.05f, 0.98f, 0.8f}; // blue stays longest, as in a sky without the sun
+    canvas.Each([&](float x, float y, Colour &pixel) {
+        pixel = pixel * (Colour{1, 1, 1} + taken * (-strength * Ramp(860, 100, x) * Ramp(1000, 500, y)));
+    });
 }
 
 void Vignette(Canvas &canvas, float strength) {

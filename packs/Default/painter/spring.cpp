@@ -1,5 +1,5 @@
 // March, April and May.
-#include "tools/packs/scenery.h"
+#include "scenery.h"
 
 #include <array>
 
@@ -166,10 +166,10 @@ void March(Canvas &canvas) {
                                                                      {1010, 842, 33, -0.03f, 0.3f, 0.7f},
                                                                      {1790, 850, 34, 0.02f, 0.3f, 0.7f},
                                                                      {1420, 835, 27, 0.01f, 0.4f, 0.8f},
-                                                                     {430, 890, 54, -0.02f, 0.14f, 0.4f},
+                                                                     {500, 890, 54, -0.02f, 0.14f, 0.4f},
                                                                      {800, 905, 50, 0.03f, 0.13f, 0.4f},
-                                                                     {90, 900, 58, 0.03f, 0.12f, 0.4f},
-                                                                     {255, 1010, 92, 0.015f, 0, 0}}) {
+                                                                     {205, 900, 58, 0.03f, 0.12f, 0.4f},
+                                                                     {335, 1010, 92, 0.015f, 0, 0}}) {
         Birch(canvas, random, birch, fog);
         // Moss and old leaves hide where the bark meets the ground.
         for (int i = 0; i < 90; ++i) {
@@ -181,6 +181,7 @@ void March(Canvas &canvas) {
         }
     }
     canvas.Bloom(0.72f, 60, 0.25f);
+    Shade_Icons(canvas, 0.45f);
     Vignette(canvas, 0.2f);
 }
 
@@ -355,5 +356,7 @@ void May(Canvas &canvas) {
     }
     canvas.Bloom(0.75f, 50, 0.3f);
     canvas.Glow(330, 330, 420, Colour{0.10f, 0.08f, 0.03f});
+    canvas.Mirror(); // the sun comes to the right, away from the desktop's icons
+    Shade_Icons(canvas, 0.45f);
     Vignette(canvas, 0.15f);
 }

@@ -1,5 +1,5 @@
 // June, July and August.
-#include "tools/packs/scenery.h"
+#include "scenery.h"
 
 namespace {
 
@@ -147,7 +147,7 @@ void June(Canvas &canvas) {
         pixel = Mix(pixel, Rgb(0xfdfdf8), foam * 0.93f);
     });
     Footprints(canvas, random);
-    Rowing_Boat(canvas, 1180, 330, 0.62f);
+    Rowing_Boat(canvas, 1540, 235, 0.62f);
     canvas.Bloom(0.8f, 30, 0.2f);
     Vignette(canvas, 0.18f);
 }
@@ -184,7 +184,7 @@ void July(Canvas &canvas) {
         0, horizon);
     const Ridge cape{horizon - 6, 34, 420, 741, 0.2f};
     canvas.Below(
-        [&](float x) { return std::min(horizon, Mix(horizon + 8, cape(x) - 22, Ramp(620, 120, x))); },
+        [&](float x) { return Mix(horizon + 8, cape(x) - 22, Ramp(620, 120, x)); },
         [](float, float, float depth) { return Mix(Rgb(0x7d4a73), Rgb(0xb46678), Unit(depth / 70)); },
         horizon);
     Sail(canvas, 1085, horizon + 3, 52, Rgb(0x5a2f4a), Rgb(0xa34c55));
@@ -200,6 +200,7 @@ void July(Canvas &canvas) {
             pixel = pixel + Colour{1.9f, 0.95f, 0.36f} * (spark * 0.8f);
         },
         horizon);
+    canvas.Mirror(); // the calm water comes to the right, where the calendar stands
     canvas.Bloom(0.8f, 44, 0.4f);
     Vignette(canvas, 0.25f);
 }

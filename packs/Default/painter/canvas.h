@@ -1,17 +1,18 @@
 // The canvas: a picture of floating-point light with soft-edged shapes, blur and bloom, and its way into a
-// PPM file. What the shapes show is scenery.h's. All coordinates are pixels of the finished picture, from the
-// top left.
+// PPM file. What the shapes show is scenery.h's. All lengths and coordinates are units from the top left,
+// 1920 by 1080 to a picture; a unit is larger than a pixel of the finished picture.
 #pragma once
 
-#include "tools/packs/light.h"
+#include "light.h"
 
 #include <cstdio>
 
 constexpr float picture_width = 1920, picture_height = 1080;
+constexpr int finished_width = 2560, finished_height = 1440; ///< in pixels
 
 class Canvas {
 public:
-    /// `scale` canvas pixels to one of the finished picture, in both directions; from 1.
+    /// `scale` canvas pixels to a pixel of the finished picture, in both directions; from 1.
     explicit Canvas(int scale);
 
     /// Calls paint(x, y, colour) for every pixel between the two lines; the procedure changes the colour.
@@ -53,7 +54,7 @@ public:
             }
     }
 
-    /// The weight of a pixel that lies `inside` pixels within an edge blurred over `soft` pixels.
+    /// The weight of a pixel that lies `inside` units within an edge blurred over `soft` units.
     float Edge(float inside, float soft = 0) const { return Unit(inside / (1 / fine_ + soft) + 0.5f); }
 
     /// A round-ended line that changes its width.
@@ -72,6 +73,9 @@ public:
     /// The colour at a place, between pixels; places outside give the nearest edge.
     Colour At(float x, float y) const;
 
+    /// Swaps left and right.
+    void Mirror();
+
     /// Lets what is brighter than `threshold` shine over its surroundings.
     void Bloom(float threshold, float radius, float strength);
 
@@ -81,19 +85,22 @@ public:
 
 private:
     float Middle(int index) const { return (static_cast<float>(index) + 0.5f) / fine_; }
-    int Row(float y) const { return std::clamp(static_cast<int>(y * fine_), 0, rows_); }
-    int Column(float x) const { return std::clamp(static_cast<int>(x * fine_), 0, columns_); }
+    // The first row or column whose middle does not lie before the place.
+    int Row(float y) const { return std::clamp(static_cast<int>(std::ceil(y * fine_ - 0.5f)), 0, rows_); }
+    int Column(float x) const {
+        return std::clamp(static_cast<int>(std::ceil(x * fine_ - 0.5f)), 0, columns_);
+    }
     Colour &Pixel(int column, int row) {
         return pixels_[static_cast<std::size_t>(row) * static_cast<std::size_t>(columns_) +
                        static_cast<std::size_t>(column)];
     }
 
     int scale_, columns_, rows_;
-    float fine_; ///< the scale as a factor
+    float fine_; ///< canvas pixels to a unit
     std::vector<Colour> pixels_;
 };
 
-/// Values of a slow procedure f(x, y) worked out every `step` pixels; asked between them, it answers
+/// Values of a slow procedure f(x, y) worked out every `step` units; asked between them, it answers
 /// smoothly.
 template <class Value>
 class Coarse {

@@ -2,7 +2,7 @@
 // from back to front, so what is called later stands nearer.
 #pragma once
 
-#include "tools/packs/canvas.h"
+#include "canvas.h"
 
 /// The upper edge of a hill or a mountain range.
 struct Ridge {
@@ -19,7 +19,7 @@ struct Ridge {
 /// Fills the sky, or all, with a gradient from the top to `bottom`.
 void Sky(Canvas &canvas, const Gradient &colours, float bottom = picture_height);
 
-/// A ridge in haze: `crest` at its edge, turning into `foot` over `fade` pixels; `texture` 0 to 1 mottles it.
+/// A ridge in haze: `crest` at its edge, turning into `foot` over `fade` units; `texture` 0 to 1 mottles it.
 void Hill(Canvas &canvas, const Ridge &ridge, Colour crest, Colour foot, float fade, float texture = 0.15f);
 
 struct Conifer_Look {
@@ -85,6 +85,10 @@ void Blade(Canvas &canvas, Random &random, float x, float foot, float height, Co
 
 /// Darkens the corners a little.
 void Vignette(Canvas &canvas, float strength);
+
+/// Darkens the upper left, where the names of the desktop's icons must be legible in white: by the share
+/// `strength` at the left edge, by nothing from the middle.
+void Shade_Icons(Canvas &canvas, float strength);
 
 /// The twelve pictures.
 void January(Canvas &canvas);

@@ -1,5 +1,5 @@
 // September, October and November.
-#include "tools/packs/scenery.h"
+#include "scenery.h"
 
 namespace {
 
@@ -146,14 +146,17 @@ void September(Canvas &canvas) {
         Bird(canvas, 1010 + 27 * static_cast<float>(i) + random.Between(-12, 12),
              270 + random.Between(-40, 40), random.Between(7, 12), random.Between(-0.2f, 0.5f),
              Rgb(0x6a5a4c));
+    canvas.Mirror(); // the empty sky comes to the right, where the calendar stands
     canvas.Bloom(0.8f, 50, 0.3f);
+    Shade_Icons(canvas, 0.4f);
     Vignette(canvas, 0.2f);
 }
 
 void October(Canvas &canvas) {
     Random random(1010);
+    constexpr float sun_x = 800, sun_y = 340;
     Sky(canvas, {{0, 0x9fb4bf}, {0.3f, 0xcbcdc4}, {0.6f, 0xf0dcb8}, {1, 0xf4cf9c}}, 700);
-    canvas.Glow(420, 330, 420, Colour{0.42f, 0.30f, 0.14f});
+    canvas.Glow(sun_x, sun_y, 420, Colour{0.42f, 0.30f, 0.14f});
     struct Slope {
         Ridge ridge;
         float spacing, size, haze;
@@ -204,7 +207,8 @@ void October(Canvas &canvas) {
              Rgb(lit[static_cast<std::size_t>(z * 3.9f)]), z > 0.75f ? 3.5f : 0.5f);
     }
     canvas.Bloom(0.75f, 50, 0.3f);
-    canvas.Glow(420, 330, 600, Colour{0.07f, 0.045f, 0.015f});
+    canvas.Glow(sun_x, sun_y, 600, Colour{0.07f, 0.045f, 0.015f});
+    Shade_Icons(canvas, 0.45f);
     Vignette(canvas, 0.25f);
 }
 

@@ -1,5 +1,5 @@
 // What every painter needs: colours in linear light, gradients, noise and a random source with fixed results.
-// Nothing here knows of a canvas. Lengths are pixels of the finished picture.
+// Nothing here knows of a canvas. Lengths are units of a canvas.
 #pragma once
 
 #include <algorithm>

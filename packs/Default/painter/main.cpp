@@ -1,6 +1,6 @@
 // Paints one month's picture of the theme pack: paint MONTH SCALE OUT.ppm. SCALE 2 is the finished quality, 1
 // a quick look.
-#include "tools/packs/scenery.h"
+#include "scenery.h"
 
 #include <cstdlib>
 

@@ -1,5 +1,5 @@
 // The canvas's shapes, bloom and output.
-#include "tools/packs/canvas.h"
+#include "canvas.h"
 
 namespace {
 
@@ -32,8 +32,8 @@ void Blur_Line(Colour *values, std::size_t stride, int count, int reach, std::ve
 } // namespace
 
 Canvas::Canvas(int scale)
-    : scale_{scale}, columns_{static_cast<int>(picture_width) * scale},
-      rows_{static_cast<int>(picture_height) * scale}, fine_{static_cast<float>(scale)},
+    : scale_{scale}, columns_{finished_width * scale}, rows_{finished_height * scale},
+      fine_{static_cast<float>(columns_) / picture_width},
       pixels_(static_cast<std::size_t>(columns_) * static_cast<std::size_t>(rows_)) {
 }
 
@@ -142,6 +142,11 @@ void Canvas::Bloom(float threshold, float radius, float strength) {
     Each([&](float x, float y, Colour &pixel) {
         pixel = pixel + light.At(x - step / 2, y - step / 2) * strength;
     });
+}
+
+void Canvas::Mirror() {
+    for (int row = 0; row < rows_; ++row)
+        std::reverse(&Pixel(0, row), &Pixel(0, row) + columns_);
 }
 
 bool Canvas::Write(const char *path, float grain) const {

@@ -1,5 +1,5 @@
 // December, January and February.
-#include "tools/packs/scenery.h"
+#include "scenery.h"
 
 namespace {
 
