@@ -1,7 +1,7 @@
 // What the program answers in the place of the C++ runtime, whose own versions bring 120 KB that it never
 // needs: the decoding of names for a text on a console, and exceptions that hold their text in a string class
 // of old. The linker takes these and leaves the library's out.
-#include "platform/error.h"
+#include "base/error.h"
 
 #include <cstdlib>
 #include <memory>
@@ -32,20 +32,20 @@ bool std::_Sp_make_shared_tag::_S_eq(const type_info &) noexcept {
 namespace std {
 
 void __throw_length_error(const char *what) {
-    throw platform::Error(what);
+    throw Error(what);
 }
 
 void __throw_logic_error(const char *what) {
-    throw platform::Error(what);
+    throw Error(what);
 }
 
 void __throw_out_of_range(const char *what) {
-    throw platform::Error(what);
+    throw Error(what);
 }
 
 /// The text stays as it is written, without the numbers.
 void __throw_out_of_range_fmt(const char *what, ...) {
-    throw platform::Error(what);
+    throw Error(what);
 }
 
 void __throw_bad_alloc() {

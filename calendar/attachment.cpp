@@ -51,7 +51,7 @@ void Main_Frm::Attach_Timer_Timer() {
     Mark_Today();
 }
 
-void Main_Frm::Set_Icon_Colours(platform::Shell_Window, platform::Colour background, platform::Colour text) {
+void Main_Frm::Set_Icon_Colours(platform::Shell_Window, Colour background, Colour text) {
     Icon_BackColour = background;
     Icon_TextColour = text;
 }

@@ -5,8 +5,6 @@
 
 #include <algorithm>
 
-using platform::Rect;
-
 namespace {
 
 // Lengths in pixels at 96 dots per inch.
@@ -107,7 +105,7 @@ void Dress_Text(Label &label) {
     label.Set_Transparent(true);
 }
 
-void Dress_Today(Label &label, platform::Colour colour) {
+void Dress_Today(Label &label, Colour colour) {
     label.Set_Back_Colour(colour);
     label.Set_Frame_Colour(Strong_Shade(colour));
     Set_Bold(label, true);
@@ -118,7 +116,7 @@ void Undress_Today(Label &label) {
     Set_Bold(label, false);
 }
 
-platform::Colour Strong_Shade(platform::Colour colour) {
+Colour Strong_Shade(Colour colour) {
     const auto value = static_cast<std::uint32_t>(platform::Resolve_Colour(colour));
     const Channels base{static_cast<int>(value & 0xFFU), static_cast<int>((value >> 8U) & 0xFFU),
                         static_cast<int>((value >> 16U) & 0xFFU)};
@@ -133,5 +131,5 @@ platform::Colour Strong_Shade(platform::Colour colour) {
         while (shade.Brightness() < brightness + frame_contrast)
             shade = shade.Each([](int channel) { return 255 - (255 - channel) * 4 / 5; });
     }
-    return platform::Rgb(shade.red, shade.green, shade.blue);
+    return Rgb(shade.red, shade.green, shade.blue);
 }

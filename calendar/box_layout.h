@@ -9,7 +9,7 @@
 #include <cstdint>
 
 /// Background behind the title where the desktop draws its labels without one.
-constexpr platform::Colour dark_grey = 4934475;
+constexpr Colour dark_grey = 4934475;
 
 /// Rectangles are whole pixels on the calendar, so that all columns are equally wide at any dots per inch.
 class Box_Layout {
@@ -25,15 +25,15 @@ public:
     /// of now.
     explicit Box_Layout(std::int16_t style);
 
-    platform::Rect Previous() const { return {0, 0, title_, title_}; }
-    platform::Rect Month() const { return {title_ + gap_, 0, Full_Width() - 2 * (title_ + gap_), title_}; }
-    platform::Rect Next() const { return {Full_Width() - title_, 0, title_, title_}; }
-    platform::Rect Header(int column) const;
-    platform::Rect Box(int index) const;
+    Rect Previous() const { return {0, 0, title_, title_}; }
+    Rect Month() const { return {title_ + gap_, 0, Full_Width() - 2 * (title_ + gap_), title_}; }
+    Rect Next() const { return {Full_Width() - title_, 0, title_, title_}; }
+    Rect Header(int column) const;
+    Rect Box(int index) const;
     /// The place of the event text in a box.
-    platform::Rect Text(int index) const;
+    Rect Text(int index) const;
     /// Of the whole calendar.
-    platform::Size Whole() const { return {Full_Width(), Box(columns * rows - 1).Bottom()}; }
+    Size Whole() const { return {Full_Width(), Box(columns * rows - 1).Bottom()}; }
     int Gap() const { return gap_; }
 
 private:
@@ -41,7 +41,7 @@ private:
 
     bool one_line_;
     int gap_;
-    platform::Size box_;
+    Size box_;
     int title_;  ///< height of the title, also the width of its arrows
     int header_; ///< height of the weekday headers
     int number_bottom_;
@@ -56,9 +56,9 @@ void Dress_Heading(Label &label, const platform::Font &font);
 void Dress_Number(Label &label);
 void Dress_Text(Label &label);
 /// Gives a box the look of today's.
-void Dress_Today(Label &label, platform::Colour colour);
+void Dress_Today(Label &label, Colour colour);
 /// Takes it away; the background stays.
 void Undress_Today(Label &label);
 
 /// A colour that stands out from `colour` and is of its hue.
-platform::Colour Strong_Shade(platform::Colour colour);
+Colour Strong_Shade(Colour colour);

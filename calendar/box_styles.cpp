@@ -1,15 +1,13 @@
 // The two box styles on the calendar, and the fitting of event texts into the boxes. The measures of the
 // styles are in box_layout.h.
+#include "base/characters.h"
 #include "calendar/box_layout.h"
 #include "calendar/main_frm.h"
-#include "platform/characters.h"
 #include "platform/drawing.h"
 #include "toolkit/units.h"
 #include "ui/wrap_text.h"
 
 #include <algorithm>
-
-using platform::Rect;
 
 namespace {
 
@@ -29,7 +27,7 @@ std::size_t Whole_Prefix(std::string_view text, std::size_t limit) {
     constexpr std::size_t run_up = 16;
     std::size_t end = std::min(text.size(), limit + run_up);
     while (end > limit)
-        end = platform::Previous_Character(text, end);
+        end = Previous_Character(text, end);
     return end;
 }
 
@@ -103,7 +101,7 @@ bool Main_Frm::Fits(const Label &label, std::string_view text) {
 void Main_Frm::Get_Line(const Label &label) {
     while (!DotDotDot_Lbl.Caption().empty() && !Fits(label, DotDotDot_Lbl.Caption())) {
         std::string caption = DotDotDot_Lbl.Caption();
-        caption.resize(platform::Previous_Character(caption, caption.size()));
+        caption.resize(Previous_Character(caption, caption.size()));
         DotDotDot_Lbl.Set_Caption(caption);
     }
 }

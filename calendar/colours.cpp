@@ -8,11 +8,11 @@
 namespace {
 
 // System colours, which high contrast gives values that stand out from each other.
-constexpr platform::Colour window = platform::System_Colour(5);
-constexpr platform::Colour window_text = platform::System_Colour(8);
-constexpr platform::Colour highlight = platform::System_Colour(13);
-constexpr platform::Colour highlight_text = platform::System_Colour(14);
-constexpr platform::Colour shadow = platform::System_Colour(16);
+constexpr Colour window = System_Colour(5);
+constexpr Colour window_text = System_Colour(8);
+constexpr Colour highlight = System_Colour(13);
+constexpr Colour highlight_text = System_Colour(14);
+constexpr Colour shadow = System_Colour(16);
 
 } // namespace
 
@@ -63,7 +63,7 @@ void Main_Frm::Follow_Contrast() {
 }
 
 void Main_Frm::Colour_Menus() {
-    platform::Colour text = Cur_Settings.Col_Fore;
+    Colour text = Cur_Settings.Col_Fore;
     if (contrast_) {
         Set_Back_Colour(window);
         text = window_text;

@@ -10,7 +10,6 @@
 #include <utility>
 
 using platform::Mouse_Button;
-using platform::Point;
 
 namespace {
 

@@ -5,8 +5,6 @@
 
 #include <algorithm>
 
-using platform::Point;
-
 void Main_Frm::Form_KeyDown(const platform::Input_Event &event) {
     // Keys come only to a window that has the focus.
     has_focus_ = true;

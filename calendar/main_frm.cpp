@@ -1,9 +1,9 @@
 // The calendar window's start-up, its timer and the system's broadcasts.
 #include "calendar/main_frm.h"
 
+#include "base/joined.h"
 #include "core/settings.h"
 #include "platform/drawing.h"
-#include "platform/joined.h"
 #include "platform/locale.h"
 #include "platform/message_box.h"
 #include "platform/screen.h"
@@ -28,12 +28,12 @@ Main_Frm::~Main_Frm() {
 }
 
 void Main_Frm::Wire_Events() {
-    Prev_Month_Lbl.On_Mouse_Up = [this](Mouse_Button button, platform::Point) {
+    Prev_Month_Lbl.On_Mouse_Up = [this](Mouse_Button button, Point) {
         if (button == Mouse_Button::Left)
             Previous_Month();
     };
     Prev_Month_Lbl.On_Default_Action = [this] { Previous_Month(); };
-    Next_Month_Lbl.On_Mouse_Up = [this](Mouse_Button button, platform::Point) {
+    Next_Month_Lbl.On_Mouse_Up = [this](Mouse_Button button, Point) {
         if (button == Mouse_Button::Left)
             Next_Month();
     };
@@ -59,35 +59,33 @@ void Main_Frm::Wire_Events() {
         ended_ = true;
         platform::End_Message_Loop();
     };
-    Which_Month_Lbl.On_Mouse_Down = [this](Mouse_Button button, platform::Point at) {
+    Which_Month_Lbl.On_Mouse_Down = [this](Mouse_Button button, Point at) {
         Begin_Drag(button, at);
         if (button == Mouse_Button::Right)
             Popup_Title_Menu(at);
     };
-    Which_Month_Lbl.On_Mouse_Move = [this](Mouse_Button held, platform::Point at) {
+    Which_Month_Lbl.On_Mouse_Move = [this](Mouse_Button held, Point at) {
         Drag_Along(held, at);
         Caption_Moved();
     };
     Which_Month_Lbl.On_Double_Click = [this] { Which_Month_Lbl_DblClick(); };
     for (Control *label : std::initializer_list<Control *>{&Prev_Month_Lbl, &Next_Month_Lbl})
-        label->On_Mouse_Move = [this](Mouse_Button, platform::Point) { Restart_Countdown(); };
+        label->On_Mouse_Move = [this](Mouse_Button, Point) { Restart_Countdown(); };
     for (Label &header : Day_Lbl)
-        header.On_Mouse_Move = [this](Mouse_Button, platform::Point) { Restart_Countdown(); };
+        header.On_Mouse_Move = [this](Mouse_Button, Point) { Restart_Countdown(); };
     Compact_Timer.On_Timer = [this] { Compact_Timer_Timer(); };
     Timer2.On_Timer = [this] {
         if (!platform::Mouse_Button_Held())
             Hide_Balloon();
     };
-    Which_Month_Lbl.On_Mouse_Up = [this](Mouse_Button button, platform::Point) { Drop(button); };
+    Which_Month_Lbl.On_Mouse_Up = [this](Mouse_Button button, Point) { Drop(button); };
     Dectect_Date_Timer.On_Timer = [this] { Dectect_Date_Timer_Timer(); };
 }
 
 void Main_Frm::Wire_Box(Label &label, int index) {
-    label.On_Mouse_Down = [this, index](Mouse_Button button, platform::Point) {
-        Box_Mouse_Down(button, index);
-    };
-    label.On_Mouse_Move = [this](Mouse_Button, platform::Point) { Restart_Countdown(); };
-    label.On_Mouse_Up = [this](Mouse_Button, platform::Point) { Hide_Balloon(); };
+    label.On_Mouse_Down = [this, index](Mouse_Button button, Point) { Box_Mouse_Down(button, index); };
+    label.On_Mouse_Move = [this](Mouse_Button, Point) { Restart_Countdown(); };
+    label.On_Mouse_Up = [this](Mouse_Button, Point) { Hide_Balloon(); };
     label.On_Double_Click = [this, index] { Edit_Box(index); };
     label.On_Default_Action = [this, index] { Edit_Box(index); };
 }
@@ -223,11 +221,10 @@ std::string Main_Frm::Regional_Look() {
     for (int month = 1; month <= 12; ++month)
         look += "\n" + platform::Month_Name(month);
     for (int day = 0; day < days_a_week; ++day)
-        look +=
-            platform::Joined({"\n", platform::Weekday_Name(day), "\n", platform::Short_Weekday_Name(day)});
+        look += Joined({"\n", platform::Weekday_Name(day), "\n", platform::Short_Weekday_Name(day)});
     const platform::Font font;
-    return platform::Joined({look, "\n", std::to_string(platform::Line_Height(font)), "\n",
-                             std::to_string(platform::Text_Width("The quick brown fox 0123456789", font))});
+    return Joined({look, "\n", std::to_string(platform::Line_Height(font)), "\n",
+                   std::to_string(platform::Text_Width("The quick brown fox 0123456789", font))});
 }
 
 void Main_Frm::Take_Regional_Settings() {

@@ -5,9 +5,9 @@
 // dragging.cpp, and the place inside the shell (attachment.cpp).
 #pragma once
 
+#include "base/callback.h"
 #include "core/date.h"
 #include "core/event_store.h"
-#include "platform/callback.h"
 #include "platform/message_loop.h"
 #include "platform/shell.h"
 #include "toolkit/control_array.h"
@@ -45,20 +45,20 @@ public:
     Event_Store Events;
 
     // Colours of the desktop's icon labels; a background of -1 is none.
-    platform::Colour Icon_BackColour = 0;
-    platform::Colour Icon_TextColour = 0;
+    Colour Icon_BackColour = 0;
+    Colour Icon_TextColour = 0;
 
     // The event editor, of which the calendar knows no more than this. Whoever owns both windows fills it;
     // empty, there is no editor.
-    platform::Callback<void(int index)> Open_Editor; ///< for a day box
-    platform::Callback<bool()> Ask_Unsaved; ///< offers unsaved text for saving; false: the user wants to stay
-    platform::Callback<bool()> Editor_Visible;
-    platform::Callback<void(Form *modal)> Block_Editor; ///< as Set_Blocked_By does with the calendar
+    Callback<void(int index)> Open_Editor; ///< for a day box
+    Callback<bool()> Ask_Unsaved;          ///< offers unsaved text for saving; false: the user wants to stay
+    Callback<bool()> Editor_Visible;
+    Callback<void(Form *modal)> Block_Editor; ///< as Set_Blocked_By does with the calendar
 
     // The settings dialog, likewise.
-    platform::Callback<void()> Open_Settings;
-    platform::Callback<void()> Close_Settings; ///< at the end, whatever is in it
-    platform::Callback<bool()> Settings_Visible;
+    Callback<void()> Open_Settings;
+    Callback<void()> Close_Settings; ///< at the end, whatever is in it
+    Callback<bool()> Settings_Visible;
 
     /// Whether the program may end now; asks for unsaved text first.
     bool May_End() const;
@@ -120,7 +120,7 @@ public:
     /// Puts the window into the shell's desktop and takes the colours of its icon labels over; also shows the
     /// splash window. What of the shell is missing is left out in silence.
     void No_ShowDesktop_and_IconColours();
-    void Set_Icon_Colours(platform::Shell_Window list, platform::Colour background, platform::Colour text);
+    void Set_Icon_Colours(platform::Shell_Window list, Colour background, Colour text);
 
     // Colours.
     void Set_Colours();
@@ -160,10 +160,10 @@ public:
     void End_Program();
 
     // Popup menus. With `at`, in twips on the form, they open there instead of at the mouse.
-    void Popup_Menu(int index, const platform::Point *at = nullptr);
-    void Popup_Months(const platform::Point *at = nullptr);
+    void Popup_Menu(int index, const Point *at = nullptr);
+    void Popup_Months(const Point *at = nullptr);
     /// The years around the shown one that the calendar can show; in compact mode only "Expand".
-    void Popup_Years(const platform::Point *at = nullptr);
+    void Popup_Years(const Point *at = nullptr);
     /// Deletes the event of a day box.
     void Clear_Box(int index);
 
@@ -218,7 +218,7 @@ private:
     void Take_Regional_Settings();
     void Renew_Layout();
 
-    void Popup_Title_Menu(platform::Point mouse);
+    void Popup_Title_Menu(Point mouse);
 
     void Compact();
     void Expand();
@@ -247,11 +247,11 @@ private:
     /// A drag by the title: where the mouse is in the title, and where the window was. Wider than the 16 bits
     /// that a place is kept in, so that a calendar beyond them can be dragged back.
     struct Drag {
-        platform::Point mouse;
-        platform::Point form;
+        Point mouse;
+        Point form;
     };
-    void Begin_Drag(platform::Mouse_Button button, platform::Point mouse);
-    void Drag_Along(platform::Mouse_Button held, platform::Point mouse);
+    void Begin_Drag(platform::Mouse_Button button, Point mouse);
+    void Drag_Along(platform::Mouse_Button held, Point mouse);
     void Drop(platform::Mouse_Button button);
     void End_Drag();
     /// Moves the calendar by one arrow key, `fine` by a pixel. The keys' last place is kept when Ctrl comes
@@ -274,9 +274,9 @@ private:
     std::array<std::optional<std::string>, box_count> entered_;
     bool contrast_ = false; ///< the shown colours are those of high contrast
     bool stale_ = false;    ///< what was laid out is not what the month shows now: it changed in compact mode
-    platform::Point placed_;  ///< where Position_Form put the window last
-    platform::Point manual_;  ///< where the user put it last, of which the settings hold what fits 16 bits
-    unsigned fills_ = 0;      ///< counts the fillings: one that begins inside another puts an end to that
+    Point placed_;          ///< where Position_Form put the window last
+    Point manual_;          ///< where the user put it last, of which the settings hold what fits 16 bits
+    unsigned fills_ = 0;    ///< counts the fillings: one that begins inside another puts an end to that
     bool broken_off_ = false; ///< the last filling: events of the month may not be in their boxes
     int desktop_height_ = 0;  ///< of the work area at the last placement, twips
     std::optional<Drag> drag_;

@@ -7,7 +7,6 @@
 
 using platform::Menu_Image;
 using platform::Menu_Item;
-using platform::Point;
 
 namespace {
 

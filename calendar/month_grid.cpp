@@ -1,11 +1,11 @@
 // The month in the day boxes: numbers, hidden boxes, today, events, the alert, and what assistive technology
 // is told of the boxes.
+#include "base/joined.h"
 #include "calendar/box_layout.h"
 #include "calendar/main_frm.h"
 #include "core/convert.h"
 #include "core/settings.h"
 #include "core/title.h"
-#include "platform/joined.h"
 #include "platform/locale.h"
 #include "platform/message_box.h"
 
@@ -13,7 +13,7 @@
 
 namespace {
 
-constexpr platform::Colour white = platform::Rgb(255, 255, 255);
+constexpr Colour white = Rgb(255, 255, 255);
 
 } // namespace
 
@@ -206,12 +206,11 @@ void Main_Frm::Describe_Heading() {
 }
 
 std::string Full_Date(const Date &date) {
-    return platform::Joined({platform::Weekday_Name(Weekday(date)), " ", std::to_string(date.day),
-                             Ordinal_Suffix(date.day), " ", platform::Month_Name(date.month), " ",
-                             std::to_string(date.year)});
+    return Joined({platform::Weekday_Name(Weekday(date)), " ", std::to_string(date.day),
+                   Ordinal_Suffix(date.day), " ", platform::Month_Name(date.month), " ",
+                   std::to_string(date.year)});
 }
 
 std::string Today_Text(const Date &today, std::string_view text) {
-    return platform::Joined(
-        {"Today: ", platform::Short_Date(today.year, today.month, today.day), "\r\n", text});
+    return Joined({"Today: ", platform::Short_Date(today.year, today.month, today.day), "\r\n", text});
 }

@@ -12,9 +12,9 @@
 namespace {
 
 /// Returns whether anything of a place on the screen (twips) can be seen: its monitor may be gone.
-bool Is_On_A_Monitor(const platform::Rect &place) {
-    const platform::Rect pixels = Twips_To_Pixels(place);
-    const platform::Point middle{pixels.left + pixels.width / 2, pixels.top + pixels.height / 2};
+bool Is_On_A_Monitor(const Rect &place) {
+    const Rect pixels = Twips_To_Pixels(place);
+    const Point middle{pixels.left + pixels.width / 2, pixels.top + pixels.height / 2};
     return platform::Work_Area_Around(middle).Intersects(pixels);
 }
 
@@ -26,8 +26,8 @@ void Main_Frm::Position_Form(std::int16_t code) {
     placement.work_area = GetDesktopRect(true);
     placement.form = {Width(), Height()};
     placement.lowest_box_bottom = lowest.Top() + lowest.Height();
-    const platform::Point kept{Cur_Settings.Manual_PosX, Cur_Settings.Manual_PosY};
-    const platform::Point manual{Nearest_Int16(manual_.x), Nearest_Int16(manual_.y)};
+    const Point kept{Cur_Settings.Manual_PosX, Cur_Settings.Manual_PosY};
+    const Point manual{Nearest_Int16(manual_.x), Nearest_Int16(manual_.y)};
     placement.manual = manual == kept ? manual_ : kept;
     if (const auto place = Position_Of(code, placement)) {
         Move(place->x, place->y);
@@ -48,7 +48,7 @@ void Main_Frm::RePosition() {
 }
 
 void Main_Frm::TransparentForm() {
-    std::vector<platform::Rect> seen;
+    std::vector<Rect> seen;
     for (const platform::Control_State *control : Model().controls)
         if (control->visible)
             seen.push_back(control->bounds);

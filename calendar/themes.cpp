@@ -1,9 +1,9 @@
 // What a theme pack gives the calendar: the wallpaper of the month, the box style and the position.
+#include "base/joined.h"
 #include "calendar/main_frm.h"
 #include "core/convert.h"
 #include "core/settings.h"
 #include "desktop/wallpaper.h"
-#include "platform/joined.h"
 #include "themes/theme_pack.h"
 
 #include <optional>
@@ -19,9 +19,9 @@ std::int16_t Theme_Number(const std::string &text, const char *what, const std::
     try {
         return To_Int16(text);
     } catch (const Conversion_Error &expected) {
-        throw Conversion_Error(platform::Joined({"In ", Pack_File(pack, "settings.ini"), " the ", what,
-                                                 " of month ", std::to_string(month), " is \"",
-                                                 Shortened(text), "\", but must be ", expected.what(), "."}));
+        throw Conversion_Error(Joined({"In ", Pack_File(pack, "settings.ini"), " the ", what, " of month ",
+                                       std::to_string(month), " is \"", Shortened(text), "\", but must be ",
+                                       expected.what(), "."}));
     }
 }
 

@@ -1,9 +1,9 @@
 // Conversions of stored texts. The process's regional settings have no say in them.
 #include "core/convert.h"
 
-#include "core/letters.h"
-#include "platform/characters.h"
-#include "platform/joined.h"
+#include "base/characters.h"
+#include "base/joined.h"
+#include "base/letters.h"
 #include "platform/text.h"
 
 #include <algorithm>
@@ -35,7 +35,7 @@ Integer To_Integer(std::string_view text) {
     Integer value{};
     if (!Read_Integer(text, value)) {
         using Limits = std::numeric_limits<Integer>;
-        throw Conversion_Error(platform::Joined(
+        throw Conversion_Error(Joined(
             {"a whole number from ", std::to_string(Limits::min()), " to ", std::to_string(Limits::max())}));
     }
     return value;
@@ -93,7 +93,7 @@ std::int16_t Nearest_Int16(int value) {
 }
 
 std::string_view As_Utf8(std::string_view text, std::string &room) {
-    return platform::Is_Utf8(text) ? text : std::string_view(room = platform::Ansi_To_Utf8(text));
+    return Is_Utf8(text) ? text : std::string_view(room = platform::Ansi_To_Utf8(text));
 }
 
 std::string Shortened(std::string_view text) {
@@ -103,6 +103,6 @@ std::string Shortened(std::string_view text) {
     // A few bytes more than are shown, to find where a whole character ends.
     std::size_t end = std::min(longest + 4, text.size());
     while (end > longest)
-        end = platform::Previous_Character(text, end);
+        end = Previous_Character(text, end);
     return std::string(text.substr(0, end)) + "...";
 }

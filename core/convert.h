@@ -1,7 +1,7 @@
 // Conversion of stored texts to the program's types and back. What does not fit is an error, never a wrap.
 #pragma once
 
-#include "platform/error.h"
+#include "base/error.h"
 
 #include <cstdint>
 #include <optional>
@@ -9,7 +9,7 @@
 #include <string_view>
 
 /// A text is no value of the wanted type. what() says what was expected.
-class Conversion_Error : public platform::Error {
+class Conversion_Error : public Error {
 public:
     using Error::Error;
 };

@@ -1,9 +1,9 @@
 // Calendar arithmetic on the standard library's calendar types, and the reading and making of date keys.
 #include "core/date.h"
 
+#include "base/joined.h"
 #include "core/convert.h"
 #include "platform/clock.h"
-#include "platform/joined.h"
 
 #include <chrono>
 
@@ -35,8 +35,8 @@ bool Plain_Number(const char *&at, const char *end, char separator, std::int16_t
 
 /// Day, month and year.
 std::string Parted_By(std::string_view separator, const Date &date) {
-    return platform::Joined({std::to_string(date.day), separator, std::to_string(date.month), separator,
-                             std::to_string(date.year)});
+    return Joined({std::to_string(date.day), separator, std::to_string(date.month), separator,
+                   std::to_string(date.year)});
 }
 
 } // namespace

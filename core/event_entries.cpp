@@ -1,11 +1,11 @@
 // Taking records apart, the walk over the data file, and sorting.
 #include "core/event_entries.h"
 
+#include "base/joined.h"
 #include "core/convert.h"
 #include "core/event_store.h"
 #include "core/sequential.h"
 #include "platform/files.h"
-#include "platform/joined.h"
 #include "platform/locale.h"
 
 #include <algorithm>
@@ -59,7 +59,7 @@ bool Read_Entry(std::string_view record, Event_Entry &entry) {
     return date.day <= DaysInMonth({entry.yearly ? leap_year : date.year, date.month, 1});
 }
 
-Reading Read_Entries(platform::Callback_Ref<void(const Event_Entry &)> take) {
+Reading Read_Entries(Callback_Ref<void(const Event_Entry &)> take) {
     const std::string path = Event_Store::Data_File();
     if (!platform::File_Exists(path))
         return Reading::No_File;
@@ -102,7 +102,7 @@ Reading Load_Entries(std::vector<Sort_Entry> &entries, Sort_Order order, const D
 }
 
 bool Remove_Record(std::vector<std::string> &records, const Sort_Entry &event) {
-    const std::string record = platform::Joined({event.key, "=", event.text});
+    const std::string record = Joined({event.key, "=", event.text});
     // Of records that are alike the place tells which one; the file may have changed since.
     auto at = records.end();
     if (event.place < records.size() && records[event.place] == record)

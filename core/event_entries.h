@@ -2,8 +2,8 @@
 // malformed records. The calendar's own reading, which tells of failures, is in core/event_store.h.
 #pragma once
 
+#include "base/callback.h"
 #include "core/date.h"
-#include "platform/callback.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -31,7 +31,7 @@ enum class Reading {
 };
 
 /// Calls `take` for each event of the data file in file order. Shows no message.
-Reading Read_Entries(platform::Callback_Ref<void(const Event_Entry &)> take);
+Reading Read_Entries(Callback_Ref<void(const Event_Entry &)> take);
 
 /// The day of an event's date, of a yearly one in `year`. In a year without a 29 February its events are on
 /// the 28th: the event stays in its month, where it is counted too.

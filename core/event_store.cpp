@@ -1,10 +1,10 @@
 // The procedures over calendar.dat, and the one place each where a failure is told to the user.
 #include "core/event_store.h"
 
+#include "base/joined.h"
 #include "core/date.h"
 #include "core/sequential.h"
 #include "platform/files.h"
-#include "platform/joined.h"
 #include "platform/message_box.h"
 
 #include <algorithm>
@@ -29,7 +29,7 @@ bool Read_Data_File(std::string &bytes) {
 /// Calls `take` with each item of the data file that is a record, parted. A line without "=", as of a note or
 /// an empty one, is none and hides no other. Returns whether the file held none of those. Throws
 /// platform::File_Error, Sequential_Error and what `take` throws.
-bool Each_Record(platform::Callback_Ref<void(std::string_view item, const Event_Record &parts)> take) {
+bool Each_Record(Callback_Ref<void(std::string_view item, const Event_Record &parts)> take) {
     std::string bytes;
     if (!Read_Data_File(bytes))
         return true;
@@ -99,7 +99,7 @@ bool Event_Store::Check_For_Pre(const std::string &key, const std::string &text,
     if (text.empty())
         Temp_Lst.erase(match);
     else
-        *match = platform::Joined({each_year ? every : key, "=", text});
+        *match = Joined({each_year ? every : key, "=", text});
     return Write_ALL();
 }
 
@@ -137,7 +137,7 @@ bool Event_Store::Write_ALL() {
 bool Event_Store::Write_New_Line(const std::string &key, const std::string &text, bool each_year) {
     if (text.empty())
         return !partly_loaded_;
-    return Rewrite_File(platform::Joined({each_year ? Every_Year_Key(key) : key, "=", text}));
+    return Rewrite_File(Joined({each_year ? Every_Year_Key(key) : key, "=", text}));
 }
 
 Stored_Message Event_Store::Get_Message(const std::string &key) {
@@ -161,8 +161,7 @@ Stored_Message Event_Store::Get_Message(const std::string &key) {
     return message;
 }
 
-bool Event_Store::Load_Dates(platform::Callback_Ref<void(std::string_view record)> enter,
-                             platform::Callback<void()> entered) {
+bool Event_Store::Load_Dates(Callback_Ref<void(std::string_view record)> enter, Callback<void()> entered) {
     bool complete = false;
     bool sound = false;
     try {

@@ -2,7 +2,7 @@
 // here.
 #pragma once
 
-#include "platform/callback.h"
+#include "base/callback.h"
 
 #include <string>
 #include <string_view>
@@ -68,8 +68,7 @@ public:
     /// Calls `enter` for each record in file order; the view it is given lasts for the call. An exception of
     /// it ends the reading with the message of Load_File, which lines without "=" show, too. `entered` is
     /// called after the last record, before that message. Returns whether all records were entered.
-    bool Load_Dates(platform::Callback_Ref<void(std::string_view record)> enter,
-                    platform::Callback<void()> entered = nullptr);
+    bool Load_Dates(Callback_Ref<void(std::string_view record)> enter, Callback<void()> entered = nullptr);
 
 private:
     /// Writes Temp_Lst and, unless it is empty, the record `added`. Throws as Write_Data_File does.

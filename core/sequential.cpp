@@ -2,8 +2,8 @@
 // be converted, no item is too long.
 #include "core/sequential.h"
 
+#include "base/characters.h"
 #include "core/convert.h"
-#include "platform/characters.h"
 
 #include <cstring>
 
@@ -56,7 +56,7 @@ Sequential_Reader::Sequential_Reader(std::string_view bytes) {
         bytes.remove_prefix(byte_order_mark.size());
     at_ = looked_to_ = bytes.data();
     end_ = at_ + bytes.size();
-    all_utf8_ = platform::Is_Utf8(bytes);
+    all_utf8_ = Is_Utf8(bytes);
 }
 
 /// Blanks and line ends before the end of the file are no items. Each run of them is looked over once.

@@ -2,13 +2,13 @@
 // items.
 #pragma once
 
-#include "platform/error.h"
+#include "base/error.h"
 
 #include <string>
 #include <string_view>
 
 /// A quoted item has no closing quote, or an item cannot be written.
-class Sequential_Error : public platform::Error {
+class Sequential_Error : public Error {
 public:
     using Error::Error;
 };

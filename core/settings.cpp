@@ -2,8 +2,8 @@
 // of the values.
 #include "core/settings.h"
 
+#include "base/joined.h"
 #include "core/convert.h"
-#include "platform/joined.h"
 #include "platform/registry.h"
 
 #include <array>
@@ -59,7 +59,7 @@ const Setting_Row &Setting_Row_Of(std::string_view key) {
     for (const Setting_Row &row : rows)
         if (row.key == key)
             return row;
-    throw platform::Error(platform::Joined({"there is no setting \"", key, "\""}));
+    throw Error(Joined({"there is no setting \"", key, "\""}));
 }
 
 std::string Setting_Text(const Settings &settings, const Setting_Row &row) {
@@ -106,8 +106,8 @@ void Load_Settings() {
             Set_From_Text(Cur_Settings, row, *stored);
         } catch (const Conversion_Error &expected) {
             throw Setting_Error(
-                platform::Joined({"The setting \"", row.key, "\" in the section \"", row.section, "\" is \"",
-                                  Shortened(*stored), "\", but must be ", expected.what(), "."}));
+                Joined({"The setting \"", row.key, "\" in the section \"", row.section, "\" is \"",
+                        Shortened(*stored), "\", but must be ", expected.what(), "."}));
         }
     }
 }

@@ -2,8 +2,8 @@
 // reading, their writing and their names in a configuration file.
 #pragma once
 
-#include "platform/colour.h"
-#include "platform/error.h"
+#include "base/colour.h"
+#include "base/error.h"
 
 #include <cstdint>
 #include <span>
@@ -14,12 +14,12 @@
 struct Settings {
     std::int16_t Style = 1;
     std::int16_t Alignment = 0;
-    platform::Colour Col_Today = 16761024;
-    platform::Colour Col_Normal = 16777215;
-    platform::Colour Col_Fore = 16777215;
-    platform::Colour Col_Num = platform::System_Colour(18);
-    platform::Colour Col_Text = platform::System_Colour(18);
-    platform::Colour Col_Back = 8390687;
+    Colour Col_Today = 16761024;
+    Colour Col_Normal = 16777215;
+    Colour Col_Fore = 16777215;
+    Colour Col_Num = System_Colour(18);
+    Colour Col_Text = System_Colour(18);
+    Colour Col_Back = 8390687;
     std::int16_t Menu_Col_Sorce = 1;
     std::string Pack_Name = "Default";
     std::int16_t Use_Themes = 0;
@@ -57,11 +57,11 @@ struct Setting_Row {
 /// The 25 rows in reading order.
 std::span<const Setting_Row> Setting_Rows();
 
-/// The row of a key. Throws platform::Error for an unknown key.
+/// The row of a key. Throws Error for an unknown key.
 const Setting_Row &Setting_Row_Of(std::string_view key);
 
 /// A stored value is not of its key's type. what() names section, key, value and what was expected.
-class Setting_Error : public platform::Error {
+class Setting_Error : public Error {
 public:
     using Error::Error;
 };

@@ -1,11 +1,11 @@
 // The calendar's title in its five forms, and the pattern formatter.
 #include "core/title.h"
 
+#include "base/characters.h"
+#include "base/joined.h"
+#include "base/letters.h"
 #include "core/date.h"
-#include "core/letters.h"
 #include "core/settings.h"
-#include "platform/characters.h"
-#include "platform/joined.h"
 #include "platform/locale.h"
 #include "platform/registry.h"
 
@@ -33,7 +33,7 @@ Characters Split(std::string_view pattern) {
     std::size_t end = std::min(pattern.size(), longest_pattern + 16);
     Characters characters;
     while (end > 0) {
-        const std::size_t begin = platform::Previous_Character(pattern, end);
+        const std::size_t begin = Previous_Character(pattern, end);
         if (end <= longest_pattern)
             characters.push_back(pattern.substr(begin, end - begin));
         end = begin;
@@ -178,17 +178,15 @@ constexpr const char *weekday_form = "Weekday - d month - yyyy";
 std::string Date_Text(const std::string &date_format, const platform::Date_Time &now) {
     if (date_format == "mm/yyyy" || date_format == "dd/mm/yyyy")
         return Format_Pattern(date_format, now);
-    std::string month_and_year =
-        platform::Joined({platform::Month_Name(now.month), " - ", std::to_string(now.year)});
+    std::string month_and_year = Joined({platform::Month_Name(now.month), " - ", std::to_string(now.year)});
     if (date_format == "Month - yyyy")
         return month_and_year;
-    std::string day =
-        platform::Joined({std::to_string(now.day), Ordinal_Suffix(now.day), " ", month_and_year});
+    std::string day = Joined({std::to_string(now.day), Ordinal_Suffix(now.day), " ", month_and_year});
     if (date_format == "d Month - yyyy")
         return day;
     const Date today{static_cast<std::int16_t>(now.year), static_cast<std::int16_t>(now.month),
                      static_cast<std::int16_t>(now.day)};
-    return platform::Joined({platform::Weekday_Name(Weekday(today)), " ", day});
+    return Joined({platform::Weekday_Name(Weekday(today)), " ", day});
 }
 
 } // namespace
@@ -208,7 +206,7 @@ std::string Title_Of_Today(bool show_time, const std::string &time_format, const
 std::string Bar_Date_Text(bool show_time, const std::string &time_format, const std::string &date_format,
                           std::int16_t month, std::int16_t year, const platform::Date_Time &now) {
     if (month != now.month || year != now.year)
-        return platform::Joined({platform::Month_Name(month), " - ", std::to_string(year)});
+        return Joined({platform::Month_Name(month), " - ", std::to_string(year)});
     std::string title = Title_Of_Today(show_time, time_format, date_format, now);
     const auto &formats = Bar_Date_Formats();
     if (std::find(formats.begin(), formats.end(), date_format) == formats.end()) {

@@ -53,19 +53,19 @@ int Coordinate(Rule rule, std::int64_t work_begin, std::int64_t work_length, std
 
 } // namespace
 
-std::optional<platform::Point> Position_Of(std::int16_t code, const Placement &placement) {
+std::optional<Point> Position_Of(std::int16_t code, const Placement &placement) {
     if (code < 0 || code >= static_cast<std::int16_t>(std::size(code_rows)))
         return std::nullopt;
     const Code_Row row = code_rows[code];
-    const platform::Rect &work = placement.work_area;
-    return platform::Point{
+    const Rect &work = placement.work_area;
+    return Point{
         Coordinate(row.horizontal, work.left, work.width, placement.form.width, 0, placement.manual.x),
         Coordinate(row.vertical, work.top, work.height, placement.form.height, placement.lowest_box_bottom,
                    placement.manual.y)};
 }
 
-platform::Rect GetDesktopRect(bool in_twips) {
-    const platform::Rect pixels = platform::Work_Area();
+Rect GetDesktopRect(bool in_twips) {
+    const Rect pixels = platform::Work_Area();
     if (!in_twips)
         return pixels;
     return {Pixels_To_Twips(pixels.left), Pixels_To_Twips(pixels.top), Pixels_To_Twips(pixels.width),

@@ -2,7 +2,7 @@
 // the window is not here.
 #pragma once
 
-#include "platform/geometry.h"
+#include "base/geometry.h"
 
 #include <cstdint>
 #include <optional>
@@ -26,15 +26,15 @@ constexpr auto Manual_Position = static_cast<std::int16_t>(Position_Code::Manual
 
 /// What a placement depends on, in twips.
 struct Placement {
-    platform::Rect work_area;
-    platform::Size form;
+    Rect work_area;
+    Size form;
     int lowest_box_bottom = 0; ///< on the form: the lower edge of the lowest row of day boxes
-    platform::Point manual;
+    Point manual;
 };
 
 /// The window's left top corner for a position code, nothing for a number that is no code. Throws
 /// Conversion_Error (core/convert.h) when a figure leaves 32 bits.
-std::optional<platform::Point> Position_Of(std::int16_t code, const Placement &placement);
+std::optional<Point> Position_Of(std::int16_t code, const Placement &placement);
 
 /// The work area of the desktop, in twips or in pixels.
-platform::Rect GetDesktopRect(bool in_twips);
+Rect GetDesktopRect(bool in_twips);

@@ -1,7 +1,7 @@
 // What the event editor does, and where its controls are.
 #include "editor/edit_frm.h"
 
-#include "platform/joined.h"
+#include "base/joined.h"
 #include "platform/message_box.h"
 #include "platform/screen.h"
 #include "toolkit/units.h"
@@ -9,7 +9,6 @@
 #include <algorithm>
 
 using platform::Box_Answer;
-using platform::Rect;
 
 namespace {
 
@@ -99,7 +98,7 @@ bool Edit_Frm::May_Leave() {
     Box_Answer answer{};
     {
         const Raised raised(busy_);
-        answer = platform::Message_Box(platform::Joined({"Save changes for the ", Date_Lbl.Caption(), "?"}),
+        answer = platform::Message_Box(Joined({"Save changes for the ", Date_Lbl.Caption(), "?"}),
                                        "Desktop Wallpaper", platform::Box_Icon::Question,
                                        platform::Box_Buttons::Yes_No_Cancel);
     }

@@ -1,10 +1,11 @@
 // Any bytes are read as events or refused; what is read is UTF-8 without a quote or a line end in it, and
 // merges into records that can be written and read back.
+#include "transfer/csv.h"
+
+#include "base/characters.h"
 #include "core/convert.h"
 #include "core/sequential.h"
-#include "platform/characters.h"
 #include "tests/fakes/fakes.h"
-#include "transfer/csv.h"
 #include "transfer/merging.h"
 
 #include <cstdint>
@@ -43,7 +44,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     std::vector<std::string> records{"1/1/9999=New Year", "no record", "1/1/2002=x"};
     Record_Merger merger(records);
     for (const CSV_Event &event : events) {
-        Demand(event.text.find_first_of("\"\r\n") == std::string::npos && platform::Is_Utf8(event.text));
+        Demand(event.text.find_first_of("\"\r\n") == std::string::npos && Is_Utf8(event.text));
         Demand(event.date.month >= 1 && event.date.month <= 12 && event.date.day <= DaysInMonth(event.date));
         merger.Merge(event.date, event.text);
     }

@@ -1,5 +1,5 @@
 // Any bytes are a whole JPEG file of some size, or none; what follows its end changes nothing.
-#include "platform/jpeg.h"
+#include "base/jpeg.h"
 
 #include <cstdint>
 #include <cstdlib>
@@ -7,10 +7,10 @@
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
     const std::string_view bytes(reinterpret_cast<const char *>(data), size);
-    const auto found = platform::Jpeg_Size(bytes);
+    const auto found = Jpeg_Size(bytes);
     if (found && (found->width <= 0 || found->height <= 0 || found->width > 0xFFFF || found->height > 0xFFFF))
         std::abort();
-    if (found && platform::Jpeg_Size(std::string(bytes) + "x") != found)
+    if (found && Jpeg_Size(std::string(bytes) + "x") != found)
         std::abort();
     return 0;
 }

@@ -267,8 +267,8 @@ void Run::Use_Control(Form_Model &dialog, const Control_State &control) {
     }
     if (!control.painted)
         return;
-    const platform::Point point{control.bounds.width * (in_.Pick(9) + 1) / 10,
-                                control.bounds.height * (in_.Pick(9) + 1) / 10};
+    const Point point{control.bounds.width * (in_.Pick(9) + 1) / 10,
+                      control.bounds.height * (in_.Pick(9) + 1) / 10};
     if (control.tab_stop && in_.Pick(3) == 0) {
         constexpr int keys[] = {Key_Left, Key_Right, Key_Up, Key_Down, Key_Return};
         return Send(dialog, {.kind = Input_Kind::Key_Down, .control = index, .key = keys[in_.Pick(5)]});

@@ -1,10 +1,10 @@
 // What holds after each action of the whole program: the data file against the model, the editor, the store.
 #pragma once
 
+#include "base/joined.h"
 #include "fuzz/program_files.h"
 #include "fuzz/program_model.h"
 #include "fuzz/program_windows.h"
-#include "platform/joined.h"
 #include "tests/fakes/fake_forms.h"
 
 #include <cstdio>
@@ -72,9 +72,9 @@ inline void Oracle::Demand(bool holds, const std::string &what) {
     if (holds)
         return;
     tells = true;
-    Tell(platform::Joined({"action ", std::to_string(actions_), ", ", action_, ": ", what}));
+    Tell(Joined({"action ", std::to_string(actions_), ", ", action_, ": ", what}));
     const auto show = [](const char *name, const std::optional<std::string> &bytes) {
-        Tell(platform::Joined({name, ": ", bytes ? *bytes : "no file"}));
+        Tell(Joined({name, ": ", bytes ? *bytes : "no file"}));
     };
     show("disk", Disk());
     show("model", model_.file ? std::optional(model_.file->bytes) : std::nullopt);
@@ -213,9 +213,8 @@ inline void Oracle::Check_Store() {
             continue;
         Demand(!Fakes().registry_refuses_writes || key.starts_with("Control Panel"),
                "a store that refuses has taken " + key);
-        const std::string from =
-            before == store_.end() ? "nothing" : platform::Joined({"\"", before->second, "\""});
-        const std::string change = platform::Joined({key, " has changed from ", from, " to \"", text, "\""});
+        const std::string from = before == store_.end() ? "nothing" : Joined({"\"", before->second, "\""});
+        const std::string change = Joined({key, " has changed from ", from, " to \"", text, "\""});
         Demand(may(key), "the store's key " + change);
         const bool same = before == store_.end() || touched_ || refused_ || !dialog_ || configures_ ||
                           !(key.starts_with(general) || key.starts_with(colours));

@@ -37,7 +37,7 @@ inline const platform::Control_State &Control(const platform::Form_Model &window
 }
 
 /// The day box that is seen there; there must be one.
-inline const platform::Control_State &Box_At(const platform::Form_Model &window, platform::Point at) {
+inline const platform::Control_State &Box_At(const platform::Form_Model &window, Point at) {
     const platform::Control_State *found = nullptr;
     for (const platform::Control_State *control : window.controls)
         if (control->visible && control->access.role == platform::Access_Role::Cell &&
@@ -54,7 +54,7 @@ inline void Send(platform::Form_Model &window, const platform::Input_Event &even
 
 inline void Mouse(platform::Form_Model &window, const platform::Control_State &control,
                   platform::Input_Kind kind, platform::Mouse_Button button) {
-    const platform::Rect &at = control.bounds;
+    const Rect &at = control.bounds;
     Send(window, {.kind = kind, .point = {at.left + at.width / 2, at.top + at.height / 2}, .button = button});
 }
 

@@ -1,7 +1,7 @@
 // Any bytes are read as items of UTF-8 or refused; the items, written again, read back the same.
 #include "core/sequential.h"
 
-#include "platform/characters.h"
+#include "base/characters.h"
 
 #include <cstdint>
 #include <cstdlib>
@@ -28,7 +28,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     const std::vector<std::string> items = Read(bytes);
     std::string written;
     for (const std::string &item : items) {
-        if (!platform::Is_Utf8(item))
+        if (!Is_Utf8(item))
             std::abort();
         Append_Item(written, item);
     }
@@ -37,7 +37,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
 
     // The input as one item, if it can be one: written so that it is the one item of the file, or refused for
     // its quotes.
-    if (!platform::Is_Utf8(bytes))
+    if (!Is_Utf8(bytes))
         return 0;
     std::string alone;
     try {

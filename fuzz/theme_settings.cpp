@@ -1,6 +1,6 @@
 // Any bytes give each month a value text out of them, or are refused; the parts of a value text make it up.
+#include "base/characters.h"
 #include "core/sequential.h"
-#include "platform/characters.h"
 #include "themes/theme_pack.h"
 
 #include <cstdint>
@@ -15,7 +15,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
         } catch (const Sequential_Error &) {
             return 0;
         }
-        if (platform::Is_Utf8(bytes) && bytes.find(details) == std::string_view::npos)
+        if (Is_Utf8(bytes) && bytes.find(details) == std::string_view::npos)
             std::abort();
         const std::string parts[] = {Get_Paper_BoxStyle(details), Get_Paper_Pos(details),
                                      Get_Paper_DisplayMode(details)};

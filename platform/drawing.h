@@ -2,8 +2,8 @@
 // the platform turns them into pixels, each edge rounded to the nearest one.
 #pragma once
 
-#include "platform/colour.h"
-#include "platform/geometry.h"
+#include "base/colour.h"
+#include "base/geometry.h"
 
 #include <cstdint>
 #include <string>
@@ -23,6 +23,9 @@ struct Font {
 };
 
 enum class Text_Align : std::uint8_t { Left, Centre, Right };
+
+/// Returns the plain 0x00BBGGRR value behind `colour`: a system colour is looked up now.
+Colour Resolve_Colour(Colour colour);
 
 void Fill_Rect(Canvas &canvas, const Rect &rect, Colour colour);
 

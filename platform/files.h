@@ -2,8 +2,8 @@
 // way to write into the middle of a file.
 #pragma once
 
+#include "base/error.h"
 #include "platform/clock.h"
-#include "platform/error.h"
 
 #include <string>
 #include <string_view>

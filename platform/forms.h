@@ -3,11 +3,11 @@
 // mirror only reads it.
 #pragma once
 
-#include "platform/callback.h"
-#include "platform/colour.h"
+#include "base/callback.h"
+#include "base/colour.h"
+#include "base/error.h"
+#include "base/geometry.h"
 #include "platform/drawing.h"
-#include "platform/error.h"
-#include "platform/geometry.h"
 
 #include <cstdint>
 #include <optional>

@@ -2,7 +2,7 @@
 // alive.
 #pragma once
 
-#include "platform/callback.h"
+#include "base/callback.h"
 
 #include <cstdint>
 #include <string>

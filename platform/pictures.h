@@ -2,9 +2,10 @@
 // them.
 #pragma once
 
+#include "base/error.h"
+#include "base/geometry.h"
+#include "base/picture.h"
 #include "platform/drawing.h"
-#include "platform/error.h"
-#include "platform/geometry.h"
 
 #include <cstdint>
 #include <memory>
@@ -17,14 +18,6 @@ namespace platform {
 class Picture_Error : public Error {
 public:
     using Error::Error;
-};
-
-/// Pixels of three bytes (blue, green, red), rows from top to bottom without a gap. Copies share the pixels.
-struct Picture {
-    int width = 0; ///< pixels; 0: there is no picture
-    int height = 0;
-    std::shared_ptr<const std::vector<std::uint8_t>> pixels;
-    friend bool operator==(const Picture &, const Picture &) = default;
 };
 
 /// The largest picture that is read, in pixels: as large as any screen that a wallpaper can fill.

@@ -1,7 +1,7 @@
 // The registry: the user's part of it as texts, which the settings are, and single values anywhere in it.
 #pragma once
 
-#include "platform/error.h"
+#include "base/error.h"
 
 #include <cstdint>
 #include <optional>

@@ -1,7 +1,7 @@
 // The screen: its dots per inch, its size, the work area and the mouse.
 #pragma once
 
-#include "platform/geometry.h"
+#include "base/geometry.h"
 
 namespace platform {
 

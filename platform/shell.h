@@ -2,7 +2,7 @@
 // into them, and the way to the user's browser.
 #pragma once
 
-#include "platform/colour.h"
+#include "base/colour.h"
 #include "platform/forms.h"
 
 #include <cstdint>

@@ -5,8 +5,6 @@
 #include "platform/shell.h"
 
 using namespace layout;
-using platform::Rect;
-using platform::Rgb;
 
 namespace {
 
@@ -14,8 +12,8 @@ namespace {
 constexpr const char *web_page = "https://vellatro.example/";
 
 /// Readable on light and on dark backgrounds, which the system's own colour of links is not everywhere.
-constexpr platform::Colour link_colour = platform::Rgb(0x00, 0x66, 0xCC);
-constexpr platform::Colour contrast_link = platform::System_Colour(26);
+constexpr Colour link_colour = Rgb(0x00, 0x66, 0xCC);
+constexpr Colour contrast_link = System_Colour(26);
 constexpr platform::Font name_font{200, true};
 constexpr int link_margin = 3 * 15; ///< for the mark of the keyboard
 

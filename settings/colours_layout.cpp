@@ -7,7 +7,6 @@
 #include <algorithm>
 
 using namespace layout;
-using platform::Rect;
 
 namespace {
 
@@ -78,7 +77,7 @@ void Colours_Page::Lay_Out_Palette() {
     Pal.Move({margin, group_top, pal_width, pal_height});
     Gradient_Pic.Move({width - margin - gradient_width, group_top, gradient_width, pal_height});
 
-    const platform::Size size{Twips_To_Pixels(pal_width), Twips_To_Pixels(pal_height)};
+    const Size size{Twips_To_Pixels(pal_width), Twips_To_Pixels(pal_height)};
     if (palette_.width == size.width && palette_.height == size.height)
         return;
     palette_ = Palette_Picture(size);

@@ -17,10 +17,7 @@
 #include <utility>
 #include <vector>
 
-using platform::Colour;
 using platform::Mouse_Button;
-using platform::Point;
-using platform::Rect;
 
 namespace {
 
@@ -382,7 +379,7 @@ void Colours_Page::Paint_Palette(platform::Canvas &canvas) {
     platform::Draw_Picture(canvas, palette_, {0, 0, Pal.Width(), Pal.Height()});
     // The cross-hair: a dark frame around a light one, which leaves the pixel itself to be seen.
     int reach = 4;
-    for (const Colour colour : {platform::Rgb(0, 0, 0), platform::Rgb(255, 255, 255)}) {
+    for (const Colour colour : {Rgb(0, 0, 0), Rgb(255, 255, 255)}) {
         const Rect frame{cross_.x - reach, cross_.y - reach, 2 * reach + 1, 2 * reach + 1};
         platform::Frame_Rect(canvas, Pixels_To_Twips(frame), colour, layout::one_pixel);
         --reach;

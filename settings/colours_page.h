@@ -29,11 +29,11 @@ public:
     void Reset_Labels();
     /// Shows a colour as numbers and in the list of names. Of a system colour the colour that it is now is
     /// shown; the swatch that holds it keeps holding the system colour.
-    void ShowColors(platform::Colour colour);
+    void ShowColors(Colour colour);
     /// Shows the strip from black over the colour to white beside the palette. The colour counts as shown,
     /// so that the one under the mouse is the one that its release picks.
-    void ShowGradient(platform::Colour colour);
-    void Pal_MouseMove(platform::Mouse_Button held, platform::Point at);
+    void ShowGradient(Colour colour);
+    void Pal_MouseMove(platform::Mouse_Button held, Point at);
     /// Gives the colour shown last to the selected swatch.
     void Pal_Click();
     void Col_Sys_Opt_Click();
@@ -80,7 +80,7 @@ private:
     struct Swatch {
         Label *label;
         Picture_Box *picture;
-        platform::Colour Settings::*setting;
+        Colour Settings::*setting;
     };
 
     void Wire_Swatch(int index);
@@ -90,13 +90,13 @@ private:
     void Wire_Palette();
     void Dress_Preview();
     void Select(int index);
-    void Set_Swatch(int index, platform::Colour colour);
+    void Set_Swatch(int index, Colour colour);
     void Describe_Swatches();
     void Recolour_Preview();
     void Key_Over_Palette(const platform::Input_Event &event);
-    void Move_Cross(platform::Point pixel);
-    platform::Colour Cross_Colour() const;
-    static platform::Point Pixel_At(platform::Point at);
+    void Move_Cross(Point pixel);
+    Colour Cross_Colour() const;
+    static Point Pixel_At(Point at);
     void Enable_Menu_Swatches(bool enabled);
     void Names_Cbo_Click();
     void Lay_Out_Swatches(int first, int last, int top);
@@ -107,9 +107,9 @@ private:
     Main_Frm &calendar_;
     std::array<Swatch, colour_count> swatches_; ///< in the order of the selector
     std::int16_t selector_ = 0;                 ///< index of the swatch that takes what is picked
-    platform::Picture palette_;
-    platform::Point cross_; ///< pixels on the palette: what the keyboard picks
-    platform::Colour gradient_ = 0;
+    Picture palette_;
+    Point cross_; ///< pixels on the palette: what the keyboard picks
+    Colour gradient_ = 0;
     /// Messages are being processed within a move of the mouse. Not a plain member: the page may be gone when
     /// they are.
     std::shared_ptr<bool> pending_ = std::make_shared<bool>(false);

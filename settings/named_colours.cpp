@@ -163,7 +163,7 @@ std::span<const Named_Colour> Named_Colours() {
     return named_colours;
 }
 
-int Index_Of_Colour(platform::Colour colour) {
+int Index_Of_Colour(Colour colour) {
     const auto found = std::find_if(std::begin(named_colours), std::end(named_colours),
                                     [colour](const Named_Colour &named) { return named.Colour() == colour; });
     return found == std::end(named_colours) ? -1 : static_cast<int>(found - std::begin(named_colours));

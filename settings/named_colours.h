@@ -1,7 +1,7 @@
 // The colours that have a name on web pages.
 #pragma once
 
-#include "platform/colour.h"
+#include "base/colour.h"
 
 #include <span>
 
@@ -9,13 +9,11 @@ struct Named_Colour {
     const char *name;
     int web_value; ///< 0xRRGGBB
 
-    platform::Colour Colour() const {
-        return platform::Rgb(web_value >> 16, (web_value >> 8) & 0xFF, web_value & 0xFF);
-    }
+    ::Colour Colour() const { return Rgb(web_value >> 16, (web_value >> 8) & 0xFF, web_value & 0xFF); }
 };
 
 /// All of them in the order of their names. Some colours have two.
 std::span<const Named_Colour> Named_Colours();
 
 /// Index of the first name of a colour, -1: it has none.
-int Index_Of_Colour(platform::Colour colour);
+int Index_Of_Colour(Colour colour);

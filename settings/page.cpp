@@ -12,7 +12,7 @@ void Name_Aloud(Control &control, const char *name) {
     control.Set_Access(std::move(access));
 }
 
-platform::Rect Moved(platform::Rect pixels, const platform::Rect &from, int left, int top) {
+Rect Moved(Rect pixels, const Rect &from, int left, int top) {
     pixels.left += Twips_To_Pixels(left) - from.left;
     pixels.top += Twips_To_Pixels(top) - from.top;
     return Pixels_To_Twips(pixels);

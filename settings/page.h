@@ -29,18 +29,18 @@ constexpr int backdrop = 6 * 15; ///< of desktop around boxes of the calendar
 } // namespace layout
 
 // The system's colours. Boxes of the calendar are shown on that of the desktop.
-constexpr platform::Colour desktop_colour = platform::System_Colour(1);
-constexpr platform::Colour face_colour = platform::System_Colour(15);
-constexpr platform::Colour shadow_colour = platform::System_Colour(16);
-constexpr platform::Colour grey_text_colour = platform::System_Colour(17);
-constexpr platform::Colour text_colour = platform::System_Colour(18);
+constexpr Colour desktop_colour = System_Colour(1);
+constexpr Colour face_colour = System_Colour(15);
+constexpr Colour shadow_colour = System_Colour(16);
+constexpr Colour grey_text_colour = System_Colour(17);
+constexpr Colour text_colour = System_Colour(18);
 
 /// Gives a control without a caption the name that is read aloud.
 void Name_Aloud(Control &control, const char *name);
 
 /// A rectangle of the calendar's layout in twips, moved as `from` (pixels) must be for its left top corner to
 /// be at `left` and `top` (twips).
-platform::Rect Moved(platform::Rect pixels, const platform::Rect &from, int left, int top);
+Rect Moved(Rect pixels, const Rect &from, int left, int top);
 
 /// Gives a box and the text in it their look, and their places with the box at `left` and `top`.
 void Place_Example(const Box_Layout &style, Label &number, Label &text, int left, int top);

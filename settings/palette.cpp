@@ -27,7 +27,7 @@ int Hue_Channel(int hue, int offset) {
 
 } // namespace
 
-platform::Colour Palette_Colour(platform::Point pixel, platform::Size size) {
+Colour Palette_Colour(Point pixel, Size size) {
     const int width = std::max(size.width, 1);
     const int height = std::max(size.height, 1);
     const int x = std::clamp(pixel.x, 0, width - 1);
@@ -36,14 +36,13 @@ platform::Colour Palette_Colour(platform::Point pixel, platform::Size size) {
     const int brightness = 2 * full * from_below / std::max(height - 1, 1);
     const int hues = width - width / grey_part;
     if (x >= hues)
-        return platform::Rgb(brightness / 2, brightness / 2, brightness / 2);
+        return Rgb(brightness / 2, brightness / 2, brightness / 2);
     const int hue = 6 * full * x / hues;
-    return platform::Rgb(Shade(Hue_Channel(hue, 0), brightness),
-                         Shade(Hue_Channel(hue, 4 * full), brightness),
-                         Shade(Hue_Channel(hue, 2 * full), brightness));
+    return Rgb(Shade(Hue_Channel(hue, 0), brightness), Shade(Hue_Channel(hue, 4 * full), brightness),
+               Shade(Hue_Channel(hue, 2 * full), brightness));
 }
 
-platform::Picture Palette_Picture(platform::Size size) {
+Picture Palette_Picture(Size size) {
     auto pixels = std::make_shared<std::vector<std::uint8_t>>();
     pixels->reserve(static_cast<std::size_t>(size.width) * static_cast<std::size_t>(size.height) * 3);
     for (int y = 0; y < size.height; ++y) {
@@ -56,11 +55,11 @@ platform::Picture Palette_Picture(platform::Size size) {
     return {size.width, size.height, std::move(pixels)};
 }
 
-platform::Colour Gradient_Colour(platform::Colour colour, int step, int last) {
+Colour Gradient_Colour(Colour colour, int step, int last) {
     const auto value = static_cast<std::uint32_t>(platform::Resolve_Colour(colour));
     const int brightness = 2 * full * step / std::max(last, 1);
     const auto shaded = [&](unsigned shift) {
         return Shade(static_cast<int>((value >> shift) & 0xFFU), brightness);
     };
-    return platform::Rgb(shaded(0), shaded(8), shaded(16));
+    return Rgb(shaded(0), shaded(8), shaded(16));
 }

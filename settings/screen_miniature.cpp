@@ -13,8 +13,6 @@
 
 using layout::one_pixel;
 using platform::Canvas;
-using platform::Rect;
-using platform::Size;
 
 namespace {
 
@@ -74,7 +72,7 @@ Rect Screen_Miniature::Cell(int column, int row, Size size) const {
             work.top + work.height * (row + 1) / cells - top};
 }
 
-void Screen_Miniature::Paint(Canvas &canvas, const platform::Picture &wallpaper, Size size) const {
+void Screen_Miniature::Paint(Canvas &canvas, const Picture &wallpaper, Size size) const {
     const Rect all{0, 0, size.width, size.height};
     if (wallpaper.width > 0)
         platform::Draw_Picture(canvas, wallpaper, all);

@@ -2,8 +2,8 @@
 // be. The choosing of a position is not here.
 #pragma once
 
+#include "base/geometry.h"
 #include "platform/drawing.h"
-#include "platform/geometry.h"
 #include "platform/pictures.h"
 
 #include <cstdint>
@@ -17,30 +17,30 @@ public:
     explicit Screen_Miniature(const Main_Frm &calendar);
 
     /// The largest size within `room` (twips) that has the screen's proportion.
-    platform::Size Fit(platform::Size room) const;
+    Size Fit(Size room) const;
 
     /// Puts the calendar where it would be with a style and a position code. A number that is no code leaves
     /// it where it is.
     void Place_Calendar(std::int16_t style, std::int16_t position);
 
     /// One of the three times three parts of the work area, on a miniature of `size`.
-    platform::Rect Cell(int column, int row, platform::Size size) const;
+    Rect Cell(int column, int row, Size size) const;
 
     /// Draws the screen with `wallpaper` stretched over it (none: the desktop's colour), the task bar and the
     /// calendar into a miniature of `size`.
-    void Paint(platform::Canvas &canvas, const platform::Picture &wallpaper, platform::Size size) const;
+    void Paint(platform::Canvas &canvas, const Picture &wallpaper, Size size) const;
 
 private:
-    platform::Rect Small(const platform::Rect &pixels, platform::Size size) const;
-    void Paint_Task_Bar(platform::Canvas &canvas, platform::Size size) const;
-    void Paint_Calendar(platform::Canvas &canvas, platform::Size size) const;
+    Rect Small(const Rect &pixels, Size size) const;
+    void Paint_Task_Bar(platform::Canvas &canvas, Size size) const;
+    void Paint_Calendar(platform::Canvas &canvas, Size size) const;
 
     const Main_Frm *main_frm_;
-    platform::Size screen_;
-    platform::Rect work_area_;
+    Size screen_;
+    Rect work_area_;
     int first_box_; ///< index of the box with day 1
     int last_box_;
     int today_ = -1; ///< index of today's box, -1: it is in another month
     std::int16_t style_ = 0;
-    platform::Rect calendar_;
+    Rect calendar_;
 };

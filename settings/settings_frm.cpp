@@ -10,8 +10,6 @@
 #include <initializer_list>
 #include <utility>
 
-using platform::Rect;
-
 namespace {
 
 constexpr int dialog_width = 5730;

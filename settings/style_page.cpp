@@ -13,10 +13,7 @@
 #include <string>
 
 using namespace layout;
-using platform::Colour;
 using platform::Mouse_Button;
-using platform::Point;
-using platform::Rect;
 
 namespace {
 
@@ -43,7 +40,7 @@ Point Cell_Of(std::int16_t code) {
     return {-1, -1};
 }
 
-platform::Size Size_Of(const Control &control) {
+Size Size_Of(const Control &control) {
     return {control.Width(), control.Height()};
 }
 
@@ -205,7 +202,7 @@ void Style_Page::Position_Boxes() {
 }
 
 void Style_Page::Paint_Miniature(platform::Canvas &canvas) {
-    const platform::Size size = Size_Of(Pos_Preview_Img);
+    const Size size = Size_Of(Pos_Preview_Img);
     Screen_Miniature miniature(calendar_);
     miniature.Place_Calendar(Shown_Style(), Shown_Position());
     miniature.Paint(canvas, theme_.picture, size);
@@ -219,9 +216,8 @@ void Style_Page::Paint_Miniature(platform::Canvas &canvas) {
             const int side = marked ? marker_size + 4 * one_pixel : marker_size;
             const Rect marker{Snap(cell.left + (cell.width - side) / 2),
                               Snap(cell.top + (cell.height - side) / 2), side, side};
-            platform::Fill_Rect(canvas, marker,
-                                marked ? platform::System_Colour(13) : platform::Rgb(255, 255, 255));
-            platform::Frame_Rect(canvas, marker, platform::Rgb(64, 64, 64), one_pixel);
+            platform::Fill_Rect(canvas, marker, marked ? System_Colour(13) : Rgb(255, 255, 255));
+            platform::Frame_Rect(canvas, marker, Rgb(64, 64, 64), one_pixel);
         }
     }
 }
@@ -253,9 +249,9 @@ void Style_Page::Lay_Out() {
         {margin + option_mark, Pos_Manual_Opt.Bounds().Bottom(), text_width, manual_lines * line});
 
     const int left = margin + options_width + gap;
-    const platform::Size room{page_width - left - margin,
-                              Position_Fra.Height() - group_top - margin - line - small_gap};
-    const platform::Size size = Screen_Miniature(calendar_).Fit(room);
+    const Size room{page_width - left - margin,
+                    Position_Fra.Height() - group_top - margin - line - small_gap};
+    const Size size = Screen_Miniature(calendar_).Fit(room);
     Pos_Preview_Img.Move({left + (room.width - size.width) / 2, group_top, size.width, size.height});
     Position_Lbl.Move({left, Pos_Preview_Img.Bounds().Bottom() + small_gap, room.width, line});
 }

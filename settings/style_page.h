@@ -14,7 +14,7 @@ struct Theme_Look {
     bool rules_position = false;
     std::optional<std::int16_t> style;
     std::optional<std::int16_t> position;
-    platform::Picture picture; ///< the wallpaper; none: the desktop's own colour is shown
+    Picture picture; ///< the wallpaper; none: the desktop's own colour is shown
 };
 
 class Style_Page {
@@ -65,7 +65,7 @@ private:
     void Wire_Examples();
     void Choose_Style(Option_Button &option);
     void Choose_Position(int column, int row);
-    void Click_At(platform::Point at);
+    void Click_At(Point at);
     void Key_Over_Miniature(const platform::Input_Event &event);
     void Paint_Miniature(platform::Canvas &canvas);
     void Show_Position();

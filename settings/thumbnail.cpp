@@ -1,9 +1,9 @@
 // The size and the pixels of a picture's small copy.
 #include "settings/thumbnail.h"
 
-#include "platform/mean_colour.h"
+#include "base/mean_colour.h"
 
-platform::Picture Thumbnail(const platform::Picture &picture, int most_width, int most_height) {
+Picture Thumbnail(const Picture &picture, int most_width, int most_height) {
     if (picture.width <= most_width && picture.height <= most_height)
         return picture;
     const bool by_width =
@@ -11,16 +11,15 @@ platform::Picture Thumbnail(const platform::Picture &picture, int most_width, in
     const auto scaled = [](int length, int most, int whole) {
         return std::max(1, static_cast<int>(std::int64_t{length} * most / whole));
     };
-    platform::Picture small;
+    Picture small;
     small.width = by_width ? most_width : scaled(picture.width, most_height, picture.height);
     small.height = by_width ? scaled(picture.height, most_width, picture.width) : most_height;
     auto pixels = std::make_shared<std::vector<std::uint8_t>>();
     pixels->reserve(static_cast<std::size_t>(small.width) * static_cast<std::size_t>(small.height) * 3);
     for (int y = 0; y < small.height; ++y) {
-        const platform::Span rows = platform::Source_Of(y, small.height, picture.height);
+        const Span rows = Source_Of(y, small.height, picture.height);
         for (int x = 0; x < small.width; ++x) {
-            const std::uint32_t mean =
-                platform::Mean_Colour(picture, platform::Source_Of(x, small.width, picture.width), rows);
+            const std::uint32_t mean = Mean_Colour(picture, Source_Of(x, small.width, picture.width), rows);
             for (const unsigned shift : {0U, 8U, 16U})
                 pixels->push_back(static_cast<std::uint8_t>(mean >> shift));
         }

@@ -5,4 +5,4 @@
 
 /// The picture made smaller, in its proportions, so that it is at most so many pixels wide and high; each
 /// pixel is the mean of those that it stands for. A picture that is small enough is given as it is.
-platform::Picture Thumbnail(const platform::Picture &picture, int most_width, int most_height);
+Picture Thumbnail(const Picture &picture, int most_width, int most_height);

@@ -53,8 +53,8 @@ Tooltips_Page::Tooltips_Page(Form &dialog, Frame &frame, Main_Frm &calendar)
     Preview_Fra.Hold(TipsTrigger_Lbl, TipBoxExample_Lbl);
     for (Label *label : {&TipExample_Lbl, &TipBoxExample_Lbl}) {
         label->Set_Painted();
-        label->On_Mouse_Down = [this](Mouse_Button button, platform::Point) { Example_Mouse_Down(button); };
-        label->On_Mouse_Up = [this](Mouse_Button, platform::Point) { Release(); };
+        label->On_Mouse_Down = [this](Mouse_Button button, Point) { Example_Mouse_Down(button); };
+        label->On_Mouse_Up = [this](Mouse_Button, Point) { Release(); };
     }
     TipExample_Lbl.Set_Transparent(true);
     TipExample_Lbl.Set_Align(platform::Text_Align::Centre, true);
@@ -112,7 +112,7 @@ void Tooltips_Page::Release() {
 void Tooltips_Page::Example_Tooltip() {
     const Date today = Today();
     // The tail points to the lower edge of the example, in its middle.
-    const platform::Point place{
+    const Point place{
         dialog_.Left() + page_left + Preview_Fra.Left() + TipExample_Lbl.Left() + TipExample_Lbl.Width() / 2,
         dialog_.Top() + page_top + Preview_Fra.Top() + TipExample_Lbl.Top() + TipExample_Lbl.Height()};
     calendar_.Balloon.SetBalloon(platform::Short_Date(today.year, today.month, today.day), example, "i",

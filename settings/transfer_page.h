@@ -1,7 +1,7 @@
 // The page "Import\Export" of the settings dialog. What its buttons do is in transfer/.
 #pragma once
 
-#include "platform/callback.h"
+#include "base/callback.h"
 #include "settings/page.h"
 #include "toolkit/control_array.h"
 #include "transfer/export.h"
@@ -17,15 +17,15 @@ public:
     // To be filled by the dialog.
 
     /// The configuration that the dialog shows, changes that are not applied yet included.
-    platform::Callback<Settings()> Shown_Configuration;
+    Callback<Settings()> Shown_Configuration;
     /// Lists imported events instead of what is listed.
-    platform::Callback<void(std::vector<Sort_Entry>)> Show_Staged;
+    Callback<void(std::vector<Sort_Entry>)> Show_Staged;
     /// Lists and counts the events of the data file anew.
-    platform::Callback<void()> Data_File_Replaced;
+    Callback<void()> Data_File_Replaced;
     /// Closes the dialog, which does not show the settings any more.
-    platform::Callback<void()> Configuration_Imported;
+    Callback<void()> Configuration_Imported;
     /// Shows the settings anew: a part of a configuration was imported.
-    platform::Callback<void()> Configuration_Partly_Imported;
+    Callback<void()> Configuration_Partly_Imported;
 
     void Export_Btn_Click(std::int16_t index);
     void Import_Btn_Click(std::int16_t index);

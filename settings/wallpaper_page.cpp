@@ -281,7 +281,7 @@ std::string Wallpaper_Page::Load(Month_Picture &wanted) const {
         return {};
     }
     try {
-        const platform::Rect box = Twips_To_Pixels(Theme_Preview_Img.Bounds());
+        const Rect box = Twips_To_Pixels(Theme_Preview_Img.Bounds());
         wanted.picture = Thumbnail(platform::Load_Picture(wanted.path), box.width, box.height);
     } catch (const platform::Picture_Error &error) {
         wanted.picture = {};

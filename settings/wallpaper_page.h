@@ -84,7 +84,7 @@ private:
     struct Month_Picture {
         std::string path; ///< empty: there is none
         bool pending = false;
-        platform::Picture picture;
+        Picture picture;
     };
     void Forget_Pictures();
     void Show_Picture();

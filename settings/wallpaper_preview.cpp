@@ -1,7 +1,7 @@
 // The steps of the preview, and putting everything back.
 #include "settings/wallpaper_preview.h"
 
-#include "core/letters.h"
+#include "base/letters.h"
 #include "desktop/wallpaper.h"
 #include "platform/locale.h"
 #include "platform/registry.h"

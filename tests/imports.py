@@ -12,7 +12,7 @@ import struct
 import sys
 import xml.etree.ElementTree
 
-MOST_BYTES = 400 * 1024
+MOST_BYTES = 512 * 1024
 GUI = 2
 NEWEST_SYSTEM = (5, 0)  # Windows 2000 starts no program that asks for more
 IMPORTS, RESOURCES, DELAY_IMPORTS = 1, 2, 13

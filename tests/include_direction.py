@@ -8,7 +8,7 @@ import re
 import sys
 
 # From the top down: a folder includes itself and those in the groups after its own.
-LEVELS = ('app', 'editor settings', 'transfer', 'calendar', 'ui', 'themes desktop', 'toolkit', 'core', 'platform')
+LEVELS = ('app', 'editor settings', 'transfer', 'calendar', 'ui', 'themes desktop', 'toolkit', 'core', 'platform', 'base')
 LEVEL_OF = {folder: level for level, folders in enumerate(LEVELS) for folder in folders.split()}
 FREE = ('tests', 'bench', 'fuzz')
 WITHOUT_SOURCES = ('build', 'cmake', 'tools', 'packs', 'docs')
@@ -35,7 +35,7 @@ def wrong_direction(folder, target):
     if folder == target or folder in FREE:
         return False
     if folder == 'win32':
-        return target != 'platform'
+        return target not in ('platform', 'base')
     return LEVEL_OF.get(folder, len(LEVELS)) >= LEVEL_OF.get(target, -1)
 
 

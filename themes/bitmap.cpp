@@ -16,7 +16,7 @@ void Append(std::string &bytes, std::size_t value, int count) {
 
 } // namespace
 
-std::string Bitmap_Bytes(const platform::Picture &picture) {
+std::string Bitmap_Bytes(const Picture &picture) {
     const auto width = static_cast<std::size_t>(picture.width);
     const auto height = static_cast<std::size_t>(picture.height);
     const std::size_t row = width * bytes_per_pixel;

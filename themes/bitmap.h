@@ -6,4 +6,4 @@
 #include <string>
 
 /// The bytes of a 24-bit Windows bitmap file of the picture.
-std::string Bitmap_Bytes(const platform::Picture &picture);
+std::string Bitmap_Bytes(const Picture &picture);

@@ -1,12 +1,12 @@
 // The lookups in a theme pack, and its bitmaps.
 #include "themes/theme_pack.h"
 
+#include "base/joined.h"
+#include "base/letters.h"
 #include "core/convert.h"
-#include "core/letters.h"
 #include "core/sequential.h"
 #include "core/settings.h"
 #include "platform/files.h"
-#include "platform/joined.h"
 #include "platform/message_box.h"
 #include "platform/pictures.h"
 #include "themes/bitmap.h"
@@ -34,12 +34,12 @@ bool Is_Device(std::string_view name) {
 }
 
 std::string Pack_Folder(const std::string &pack) {
-    return platform::Joined({platform::Program_Folder(), "\\", pack});
+    return Joined({platform::Program_Folder(), "\\", pack});
 }
 
-std::string Tell_Missing_Pack(const std::string &pack, platform::Callback_Ref<void()> remove_wallpaper) {
-    platform::Message_Box(platform::Joined({"Missing Theme ", pack, ". Themes will now be disabled."}),
-                          "Vellatro", platform::Box_Icon::Stop);
+std::string Tell_Missing_Pack(const std::string &pack, Callback_Ref<void()> remove_wallpaper) {
+    platform::Message_Box(Joined({"Missing Theme ", pack, ". Themes will now be disabled."}), "Vellatro",
+                          platform::Box_Icon::Stop);
     // A store that takes no change lets it be told again, but not before the next start.
     Cur_Settings.Use_Themes = 0;
     Store_Setting("Use Themes");
@@ -77,7 +77,7 @@ std::vector<std::string> Find_Packs() {
 }
 
 std::string Pack_File(const std::string &pack, const std::string &name) {
-    return platform::Joined({Pack_Folder(pack), "\\", name});
+    return Joined({Pack_Folder(pack), "\\", name});
 }
 
 std::string Month_Details(std::string_view bytes, std::int16_t month) {
@@ -94,7 +94,7 @@ std::string Month_Details(std::string_view bytes, std::int16_t month) {
 }
 
 std::string Get_Paper_Details(std::int16_t month, const std::string &pack,
-                              platform::Callback_Ref<void()> remove_wallpaper) {
+                              Callback_Ref<void()> remove_wallpaper) {
     if (!Is_Pack_Name(pack) || !platform::Folder_Exists(Pack_Folder(pack)))
         return Tell_Missing_Pack(pack, remove_wallpaper);
     const std::string path = Pack_File(pack, settings_file);

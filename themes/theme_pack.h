@@ -3,7 +3,7 @@
 // that a wallpaper needs. Hanging it up is not here.
 #pragma once
 
-#include "platform/callback.h"
+#include "base/callback.h"
 
 #include <cstdint>
 #include <string>
@@ -32,7 +32,7 @@ std::string Month_Details(std::string_view bytes, std::int16_t month);
 /// The value text of a month in a pack, or Theme_Error. A pack that is missing ends the use of themes: the
 /// user is told, the setting is changed, and `remove_wallpaper` has to take the wallpaper away.
 std::string Get_Paper_Details(std::int16_t month, const std::string &pack,
-                              platform::Callback_Ref<void()> remove_wallpaper);
+                              Callback_Ref<void()> remove_wallpaper);
 
 /// The parts of a value text: before its first "-", between the first and the second, and after the second.
 /// A part that is not there is empty.

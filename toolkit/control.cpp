@@ -1,7 +1,7 @@
 // State of the controls, and the calls that tell the form's mirror what of it changed.
 #include "toolkit/control.h"
 
-#include "platform/line_breaks.h"
+#include "base/line_breaks.h"
 #include "toolkit/form.h"
 #include "toolkit/handler.h"
 #include "toolkit/keys.h"
@@ -34,10 +34,10 @@ void Control::Tell(Aspect aspect) {
     platform::Control_Changed(form_.model_, state_, aspect, state_.bounds);
 }
 
-void Control::Move(const platform::Rect &bounds) {
+void Control::Move(const Rect &bounds) {
     if (state_.bounds == bounds)
         return;
-    const platform::Rect before = std::exchange(state_.bounds, bounds);
+    const Rect before = std::exchange(state_.bounds, bounds);
     if (form_.created_)
         platform::Control_Changed(form_.model_, state_, Aspect::Bounds, before);
 }
@@ -58,15 +58,15 @@ void Control::Set_Tooltip(std::string_view tooltip) {
     Store(state_.tooltip, tooltip, Aspect::Tooltip);
 }
 
-void Control::Set_Fore_Colour(platform::Colour colour) {
+void Control::Set_Fore_Colour(Colour colour) {
     Store(state_.fore_colour, colour, Aspect::Look);
 }
 
-void Control::Set_Back_Colour(platform::Colour colour) {
+void Control::Set_Back_Colour(Colour colour) {
     Store(state_.back_colour, colour, Aspect::Look);
 }
 
-void Control::Set_Frame_Colour(platform::Colour colour) {
+void Control::Set_Frame_Colour(Colour colour) {
     Store(state_.frame_colour, colour, Aspect::Look);
 }
 
@@ -113,9 +113,7 @@ Label::Label(Form &form, const char *name, const char *caption)
 
 void Label::Set_Painted() {
     state_.painted = true;
-    state_.paint = [this](platform::Canvas &canvas, const platform::Rect &clip) {
-        Paint_Itself(state_, canvas, clip);
-    };
+    state_.paint = [this](platform::Canvas &canvas, const Rect &clip) { Paint_Itself(state_, canvas, clip); };
 }
 
 Button::Button(Form &form, const char *name, const char *caption)
@@ -157,7 +155,7 @@ Text_Box::Text_Box(Form &form, const char *name) : Control(form, platform::Contr
 void Text_Box::Set_Text(std::string text) {
     // A copy, because the handler may end the form and this text box with it.
     const auto handler = On_Change;
-    if (Store(state_.caption, platform::Without_Line_Breaks(std::move(text)), Aspect::Caption) && handler)
+    if (Store(state_.caption, Without_Line_Breaks(std::move(text)), Aspect::Caption) && handler)
         handler();
 }
 
@@ -169,7 +167,7 @@ void Text_Box::Set_Display_Only() {
 void Text_Box::Take(const platform::Input_Event &event) {
     if (event.kind != platform::Input_Kind::Text_Changed)
         return;
-    std::string text = platform::Without_Line_Breaks(event.text);
+    std::string text = Without_Line_Breaks(event.text);
     if (state_.caption == text)
         return;
     state_.caption = std::move(text);

@@ -28,8 +28,8 @@ public:
     int Top() const { return state_.bounds.top; }
     int Width() const { return state_.bounds.width; }
     int Height() const { return state_.bounds.height; }
-    const platform::Rect &Bounds() const { return state_.bounds; }
-    void Move(const platform::Rect &bounds);
+    const Rect &Bounds() const { return state_.bounds; }
+    void Move(const Rect &bounds);
 
     bool Visible() const { return state_.visible; }
     void Set_Visible(bool visible);
@@ -39,12 +39,12 @@ public:
     void Set_Caption(std::string_view caption);
     const std::string &Tooltip() const { return state_.tooltip; }
     void Set_Tooltip(std::string_view tooltip);
-    platform::Colour Fore_Colour() const { return state_.fore_colour; }
-    void Set_Fore_Colour(platform::Colour colour);
-    platform::Colour Back_Colour() const { return state_.back_colour; }
-    void Set_Back_Colour(platform::Colour colour);
+    Colour Fore_Colour() const { return state_.fore_colour; }
+    void Set_Fore_Colour(Colour colour);
+    Colour Back_Colour() const { return state_.back_colour; }
+    void Set_Back_Colour(Colour colour);
     /// -1 takes the frame away.
-    void Set_Frame_Colour(platform::Colour colour);
+    void Set_Frame_Colour(Colour colour);
     /// The mark of the keyboard focus.
     void Set_Marked(bool marked);
     const platform::Font &Font() const { return state_.font; }
@@ -60,9 +60,9 @@ public:
     /// A button of any kind pressed, a painted control clicked with the left button. The second click of a
     /// double click is one too, where there is no On_Double_Click.
     Handler<> On_Click;
-    Handler<platform::Mouse_Button, platform::Point> On_Mouse_Down;
-    Handler<platform::Mouse_Button, platform::Point> On_Mouse_Up;
-    Handler<platform::Mouse_Button, platform::Point> On_Mouse_Move;
+    Handler<platform::Mouse_Button, Point> On_Mouse_Down;
+    Handler<platform::Mouse_Button, Point> On_Mouse_Up;
+    Handler<platform::Mouse_Button, Point> On_Mouse_Move;
     Handler<> On_Double_Click;
     Handler<> On_Default_Action;
     /// A key while a control of a dialog has the keyboard.

@@ -1,15 +1,14 @@
 // What control arrays of all kinds and lengths share.
 #include "toolkit/control_array.h"
 
-#include "platform/error.h"
-#include "platform/joined.h"
+#include "base/error.h"
+#include "base/joined.h"
 
 std::string Element_Name(std::string_view array, int index) {
-    return platform::Joined({array, "(", std::to_string(index), ")"});
+    return Joined({array, "(", std::to_string(index), ")"});
 }
 
 void Throw_No_Element(const Control &first, int index) {
     const std::string_view name = first.Name();
-    throw platform::Error(
-        platform::Joined({"There is no ", Element_Name(name.substr(0, name.find('(')), index), "."}));
+    throw Error(Joined({"There is no ", Element_Name(name.substr(0, name.find('(')), index), "."}));
 }

@@ -12,7 +12,7 @@
 /// The name of one control of an array.
 std::string Element_Name(std::string_view array, int index);
 
-/// Throws the platform::Error for an index that an array does not have.
+/// Throws the Error for an index that an array does not have.
 [[noreturn]] void Throw_No_Element(const Control &first, int index);
 
 /// `Count` controls, registered with their form in index order.
@@ -51,7 +51,7 @@ public:
     }
     Control_Array() = default;
 
-    /// Throws platform::Error for an index outside 0 to Count - 1.
+    /// Throws Error for an index outside 0 to Count - 1.
     Control_Type &operator[](int index) {
         if (index < 0 || index >= static_cast<int>(Count))
             Throw_No_Element(*controls_.front(), index);

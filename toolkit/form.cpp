@@ -19,7 +19,7 @@ Form::Form(Form_Kind kind, const char *name) {
     model_.kind = kind;
     model_.name = name;
     model_.input = [this](const Input_Event &event) { Input(event); };
-    model_.paint = [this](platform::Canvas &canvas, const platform::Rect &clip) {
+    model_.paint = [this](platform::Canvas &canvas, const Rect &clip) {
         try {
             Paint_Form(model_, canvas, clip);
         } catch (...) {
@@ -49,17 +49,17 @@ void Form::Tell(Aspect aspect) {
         platform::Form_Changed(model_, aspect);
 }
 
-platform::Point Form::Corner() const {
+Point Form::Corner() const {
     // The form's own twips where they are the window's pixels, lest a place drifts by being looked at.
-    const std::optional<platform::Point> pixels = created_ ? platform::Window_Corner(model_) : std::nullopt;
-    const platform::Point put = Put_At();
-    if (!pixels || *pixels == platform::Point{Twips_To_Pixels(put.x), Twips_To_Pixels(put.y)})
+    const std::optional<Point> pixels = created_ ? platform::Window_Corner(model_) : std::nullopt;
+    const Point put = Put_At();
+    if (!pixels || *pixels == Point{Twips_To_Pixels(put.x), Twips_To_Pixels(put.y)})
         return put;
     return {Pixels_To_Twips(pixels->x), Pixels_To_Twips(pixels->y)};
 }
 
 void Form::Move(int left, int top) {
-    const bool there = Corner() == platform::Point{left, top};
+    const bool there = Corner() == Point{left, top};
     model_.bounds.left = left;
     model_.bounds.top = top;
     if (!there)
@@ -67,7 +67,7 @@ void Form::Move(int left, int top) {
 }
 
 void Form::Put_Back() {
-    const platform::Point now = Corner();
+    const Point now = Corner();
     if (now == Put_At() || now == stuck_at_)
         return;
     Tell(Aspect::Bounds);
@@ -124,7 +124,7 @@ void Form::Set_Title(std::string_view title) {
     Tell(Aspect::Caption);
 }
 
-void Form::Set_Back_Colour(platform::Colour colour) {
+void Form::Set_Back_Colour(Colour colour) {
     if (std::exchange(model_.back_colour, colour) != colour)
         Tell(Aspect::Look);
 }
@@ -140,7 +140,7 @@ void Form::Set_Focus(const Control &control) {
     Tell(Aspect::Focus);
 }
 
-void Form::Clip(std::vector<platform::Rect> rects) {
+void Form::Clip(std::vector<Rect> rects) {
     if (clip_ == rects)
         return;
     clip_ = std::move(rects);
@@ -148,13 +148,13 @@ void Form::Clip(std::vector<platform::Rect> rects) {
         platform::Clip_Window(model_, *clip_);
 }
 
-void Form::Shape(std::vector<platform::Point> corners) {
+void Form::Shape(std::vector<Point> corners) {
     shape_ = std::move(corners);
     if (created_)
         platform::Shape_Window(model_, shape_);
 }
 
-Control *Form::Control_At(platform::Point point) {
+Control *Form::Control_At(Point point) {
     const auto found = std::find_if(controls_.rbegin(), controls_.rend(), [point](const Control *control) {
         return control->Visible() && control->Bounds().Contains(point);
     });
@@ -252,7 +252,7 @@ bool Form::Takes_Input(const Control *control) const {
            platform::Is_Shown(model_, control->state_);
 }
 
-void Form::Press(Control *control, const Input_Event &event, platform::Point point) {
+void Form::Press(Control *control, const Input_Event &event, Point point) {
     if (captured_ == nullptr) {
         captured_ = control;
         captured_by_ = event.button;
@@ -278,7 +278,7 @@ void Form::Handle_Mouse(const Input_Event &event) {
     Control *control = captured_ != nullptr ? captured_
                        : own_window         ? Control_Of(event)
                                             : Control_At(event.point);
-    platform::Point point = event.point;
+    Point point = event.point;
     if (control != nullptr && !own_window)
         point = {point.x - control->Left(), point.y - control->Top()};
     if (pressed)
@@ -295,7 +295,7 @@ void Form::Handle_Mouse(const Input_Event &event) {
     if (!released)
         return Fire(control->On_Mouse_Move, event.button, point);
     const bool clicked = event.button == Mouse_Button::Left && !double_clicked_ &&
-                         platform::Rect{0, 0, control->Width(), control->Height()}.Contains(point);
+                         Rect{0, 0, control->Width(), control->Height()}.Contains(point);
     const auto on_click = clicked ? control->On_Click : nullptr;
     Fire(control->On_Mouse_Up, event.button, point);
     Fire(on_click);

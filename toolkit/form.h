@@ -28,7 +28,7 @@ public:
     int Height() const { return model_.bounds.height; }
     void Move(int left, int top);
     /// Returns where the form itself put its window last.
-    platform::Point Put_At() const { return {model_.bounds.left, model_.bounds.top}; }
+    Point Put_At() const { return {model_.bounds.left, model_.bounds.top}; }
     /// Brings a window that others have moved back there. One that does not come is left where it is until it
     /// is moved again.
     void Put_Back();
@@ -42,8 +42,8 @@ public:
     /// Takes the native window down; the form's state stays.
     void Close();
     void Set_Title(std::string_view title);
-    platform::Colour Back_Colour() const { return model_.back_colour; }
-    void Set_Back_Colour(platform::Colour colour);
+    Colour Back_Colour() const { return model_.back_colour; }
+    void Set_Back_Colour(Colour colour);
     /// Paints the whole window anew: what it shows changed without a change of its state.
     void Repaint() { Tell(platform::Aspect::Look); }
     void Set_Pointer(platform::Pointer_Shape shape);
@@ -56,10 +56,10 @@ public:
     /// All controls in paint and tab order.
     const std::vector<Control *> &Controls() const { return controls_; }
     /// Clips the window to these rectangles (twips on the form); also a window that is made later.
-    void Clip(std::vector<platform::Rect> rects);
+    void Clip(std::vector<Rect> rects);
 
     /// Clips the window to a polygon (twips on the form) instead.
-    void Shape(std::vector<platform::Point> corners);
+    void Shape(std::vector<Point> corners);
 
     /// The door of all user actions and messages to the form: hit-testing, capture and the rules of visible
     /// and enabled are here. An exception of a handler is told to the user in a message box and goes no
@@ -67,7 +67,7 @@ public:
     void Input(const platform::Input_Event &event);
 
     /// The top-most visible control at the point, null where there is none.
-    Control *Control_At(platform::Point point);
+    Control *Control_At(Point point);
 
     // Events of the form itself.
     Handler<const platform::Input_Event &> On_Key_Down;
@@ -86,11 +86,11 @@ private:
     void Register(Control &control);
     void Forget(const Control &control);
     void Tell(platform::Aspect aspect);
-    platform::Point Corner() const;
+    Point Corner() const;
     void Make_Window(bool visible);
     void Handle(const platform::Input_Event &event);
     void Handle_Mouse(const platform::Input_Event &event);
-    void Press(Control *control, const platform::Input_Event &event, platform::Point point);
+    void Press(Control *control, const platform::Input_Event &event, Point point);
     void Handle_Native(const platform::Input_Event &event);
     bool Blocked(const platform::Input_Event &event);
     Control *Control_Of(const platform::Input_Event &event) const;
@@ -102,9 +102,9 @@ private:
     platform::Mouse_Button captured_by_ = platform::Mouse_Button::None;
     bool double_clicked_ =
         false; ///< the last press was the second one of a double click that is taken as such
-    std::optional<std::vector<platform::Rect>> clip_; ///< nothing: not clipped
-    std::vector<platform::Point> shape_;              ///< empty: no polygon
-    bool created_ = false;                            ///< there is a native window
-    std::optional<platform::Point> stuck_at_;         ///< where the last Put_Back left the window
-    Form *modal_ = nullptr;                           ///< takes what the user does here
+    std::optional<std::vector<Rect>> clip_; ///< nothing: not clipped
+    std::vector<Point> shape_;              ///< empty: no polygon
+    bool created_ = false;                  ///< there is a native window
+    std::optional<Point> stuck_at_;         ///< where the last Put_Back left the window
+    Form *modal_ = nullptr;                 ///< takes what the user does here
 };

@@ -28,7 +28,7 @@ void Tell(const std::string &text) {
 
 } // namespace
 
-void Run_Guarded(platform::Callback_Ref<void()> action) noexcept {
+void Run_Guarded(Callback_Ref<void()> action) noexcept {
     try {
         action();
     } catch (...) {
@@ -40,7 +40,7 @@ void Run_Guarded(platform::Callback_Ref<void()> action) noexcept {
     }
 }
 
-void Repeated_Guard::Run(platform::Callback_Ref<void()> action) noexcept {
+void Repeated_Guard::Run(Callback_Ref<void()> action) noexcept {
     try {
         action();
         told_.clear();

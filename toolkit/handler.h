@@ -1,12 +1,12 @@
 // What runs when an event is raised, and the raising.
 #pragma once
 
-#include "platform/callback.h"
+#include "base/callback.h"
 
 #include <type_traits>
 
 template <typename... Params>
-using Handler = platform::Callback<void(Params...)>;
+using Handler = Callback<void(Params...)>;
 
 /// Calls an event's handler, if it has one. The handler may end the form that holds it, so it is a copy that
 /// runs, and the callers touch nothing of the form afterwards.

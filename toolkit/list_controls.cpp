@@ -14,7 +14,6 @@ using platform::Aspect;
 using platform::Control_Kind;
 using platform::Input_Event;
 using platform::Input_Kind;
-using platform::Rect;
 
 Frame::Frame(Form &form, const char *name, const char *caption)
     : Control(form, Control_Kind::Frame, name, caption) {
@@ -148,7 +147,7 @@ void Slider::Take(const Input_Event &event) {
 
 Picture_Box::Picture_Box(Form &form, const char *name) : Control(form, Control_Kind::Picture_Box, name) {
     state_.painted = true;
-    state_.paint = [this](platform::Canvas &canvas, const platform::Rect &clip) {
+    state_.paint = [this](platform::Canvas &canvas, const Rect &clip) {
         Paint_Itself(state_, canvas, clip, [this](platform::Canvas &content) { Paint_Content(content); });
     };
 }
@@ -161,7 +160,7 @@ void Picture_Box::Set_Tab_Stop() {
     };
 }
 
-void Picture_Box::Set_Picture(platform::Picture picture) {
+void Picture_Box::Set_Picture(Picture picture) {
     Store(picture_, std::move(picture), Aspect::Look);
 }
 

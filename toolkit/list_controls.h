@@ -104,7 +104,7 @@ class Picture_Box : public Control {
 public:
     Picture_Box(Form &form, const char *name);
     /// A picture with the width 0 is none.
-    void Set_Picture(platform::Picture picture);
+    void Set_Picture(Picture picture);
     /// Makes the keyboard reach it: it gets On_Key_Down, and the space bar clicks it. So does Enter, where
     /// there is a default action and no other On_Key_Down. Before there is a native window.
     void Set_Tab_Stop();
@@ -118,7 +118,7 @@ public:
 private:
     void Paint_Content(platform::Canvas &canvas) const;
 
-    platform::Picture picture_;
+    Picture picture_;
 };
 
 /// How far a long piece of work has come.

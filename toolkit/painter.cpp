@@ -10,7 +10,6 @@
 
 using platform::Canvas;
 using platform::Control_State;
-using platform::Rect;
 
 namespace {
 
@@ -23,7 +22,7 @@ void Paint_Information(Canvas &canvas, const Control_State &control) {
     const int centre_x = box.left + box.width / 2;
     const int centre_y = box.top + box.height / 2;
     constexpr int corners = 40;
-    std::vector<platform::Point> disc;
+    std::vector<Point> disc;
     for (int i = 0; i < corners; ++i) {
         const double angle = i * 2 * std::numbers::pi / corners;
         disc.push_back({centre_x + static_cast<int>(std::lround(radius * std::cos(angle))),
@@ -37,7 +36,7 @@ void Paint_Information(Canvas &canvas, const Control_State &control) {
         const int y0 = centre_y + top * radius / 8;
         const int y1 = centre_y + bottom * radius / 8;
         platform::Fill_Polygon(canvas, {{x0, y0}, {x1, y0}, {x1, y1}, {x0, y1}},
-                               platform::Rgb(255, 255, 255));
+                               Rgb(255, 255, 255));
     };
     fill(-1, -5, 1, -3);
     fill(-1, -2, 1, 5);
@@ -114,7 +113,7 @@ void Paint_Form(const platform::Form_Model &model, Canvas &canvas, const Rect &c
 }
 
 void Paint_Itself(const Control_State &control, Canvas &canvas, const Rect &clip,
-                  platform::Callback_Ref<void(Canvas &)> more) noexcept {
+                  Callback_Ref<void(Canvas &)> more) noexcept {
     try {
         Control_State here = control;
         here.bounds.left = 0;

@@ -1,9 +1,9 @@
 // The rules of the program's files of comma separated values. One pass each, whatever the lengths.
 #include "transfer/csv.h"
 
+#include "base/characters.h"
+#include "base/letters.h"
 #include "core/convert.h"
-#include "core/letters.h"
-#include "platform/characters.h"
 #include "platform/locale.h"
 #include "platform/message_box.h"
 
@@ -78,7 +78,7 @@ CSV_Lines::CSV_Lines(std::string_view bytes) : bytes_(bytes) {
     if (bytes_.starts_with(byte_order_mark))
         bytes_.remove_prefix(byte_order_mark.size());
     bytes_ = bytes_.substr(0, End_Mark(bytes_));
-    all_utf8_ = platform::Is_Utf8(bytes_);
+    all_utf8_ = Is_Utf8(bytes_);
 }
 
 std::string_view CSV_Lines::Next_Line() {

@@ -3,15 +3,15 @@
 // is stored here.
 #pragma once
 
+#include "base/error.h"
 #include "core/date.h"
-#include "platform/error.h"
 
 #include <cstdint>
 #include <string>
 #include <string_view>
 
 /// A record is cut short: lines are missing, or a field.
-class CSV_Error : public platform::Error {
+class CSV_Error : public Error {
 public:
     using Error::Error;
 };

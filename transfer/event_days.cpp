@@ -2,8 +2,8 @@
 // Time is shown by the user's clock, but is repeated and compared by its own.
 #include "transfer/event_days.h"
 
+#include "base/joined.h"
 #include "platform/clock.h"
-#include "platform/joined.h"
 
 #include <algorithm>
 #include <utility>
@@ -247,5 +247,5 @@ std::string Text_On(const Event_Day &day, const Calendar_Event &event) {
     if (day.minute < 0)
         return event.text;
     const auto two = [](int number) { return std::to_string(100 + number).substr(1); };
-    return platform::Joined({two(day.minute / 60), ":", two(day.minute % 60), " ", event.text});
+    return Joined({two(day.minute / 60), ":", two(day.minute % 60), " ", event.text});
 }

@@ -1,10 +1,10 @@
 // Exporting to a file that the user names.
 #include "transfer/export.h"
 
+#include "base/joined.h"
+#include "base/letters.h"
 #include "core/event_store.h"
-#include "core/letters.h"
 #include "platform/files.h"
-#include "platform/joined.h"
 #include "platform/locale.h"
 #include "platform/message_box.h"
 #include "transfer/configuration.h"
@@ -76,8 +76,8 @@ std::string Short_Date(const Date &date) {
 
 /// The bytes of a file that is not a copy, and the closing message without the file's name. False when there
 /// is nothing to export, which the user has been told.
-bool Make_Content(Export_Kind kind, platform::Callback_Ref<Settings()> shown, Progress &progress,
-                  std::string &bytes, std::string &message) {
+bool Make_Content(Export_Kind kind, Callback_Ref<Settings()> shown, Progress &progress, std::string &bytes,
+                  std::string &message) {
     const std::string to = kinds[static_cast<std::size_t>(kind)].to;
     message = "Successfully exported " + to;
     if (kind == Export_Kind::Configuration) {
@@ -101,7 +101,7 @@ bool Make_Content(Export_Kind kind, platform::Callback_Ref<Settings()> shown, Pr
     bytes = kind == Export_Kind::CSV         ? CSV_Bytes(entries, progress)
             : kind == Export_Kind::ICalendar ? ICalendar_Bytes(entries, progress)
                                              : Text_Bytes(entries, progress);
-    message = platform::Joined({"Successfully exported ", std::to_string(entries.size()), to});
+    message = Joined({"Successfully exported ", std::to_string(entries.size()), to});
     return true;
 }
 
@@ -134,7 +134,7 @@ std::string CSV_Bytes(const std::vector<Sort_Entry> &entries, Progress &progress
     return bytes;
 }
 
-void Export_File(Export_Kind kind, OpenSaveDialog &dialog, platform::Callback_Ref<Settings()> shown,
+void Export_File(Export_Kind kind, OpenSaveDialog &dialog, Callback_Ref<Settings()> shown,
                  Progress &progress) {
     const std::string name = Ask_Name(kinds[static_cast<std::size_t>(kind)], dialog);
     if (name.empty())
@@ -148,5 +148,5 @@ void Export_File(Export_Kind kind, OpenSaveDialog &dialog, platform::Callback_Re
     else
         platform::Replace_File(name, bytes);
     progress.End();
-    Tell(platform::Joined({message, "\r\n", name}), platform::Box_Icon::Information);
+    Tell(Joined({message, "\r\n", name}), platform::Box_Icon::Information);
 }

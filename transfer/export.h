@@ -2,9 +2,9 @@
 // made here (that of the configuration in configuration.h) and read in csv.h.
 #pragma once
 
+#include "base/callback.h"
 #include "core/event_entries.h"
 #include "core/settings.h"
-#include "platform/callback.h"
 #include "transfer/progress.h"
 #include "ui/open_save_dialog.h"
 
@@ -20,5 +20,5 @@ std::string CSV_Bytes(const std::vector<Sort_Entry> &entries, Progress &progress
 /// Asks for a name and writes the file, with all messages to the user. The target is replaced by a whole new
 /// file only. Throws platform::File_Error when that fails, and Sequential_Error for a configuration that no
 /// file can hold; the target is as it was then. `shown` gives the configuration that the dialog shows.
-void Export_File(Export_Kind kind, OpenSaveDialog &dialog, platform::Callback_Ref<Settings()> shown,
+void Export_File(Export_Kind kind, OpenSaveDialog &dialog, Callback_Ref<Settings()> shown,
                  Progress &progress);

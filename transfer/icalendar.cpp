@@ -2,10 +2,10 @@
 // event has its rule here once.
 #include "transfer/icalendar.h"
 
+#include "base/joined.h"
+#include "base/letters.h"
 #include "core/convert.h"
-#include "core/letters.h"
 #include "platform/clock.h"
-#include "platform/joined.h"
 
 #include <algorithm>
 
@@ -71,7 +71,7 @@ std::string Event_Text(const Text_Parts &parts) {
         return {};
     const std::string location = Unescaped(parts.location);
     const std::string_view place = Trimmed(location);
-    return In_One_Line(platform::Joined({name, place.empty() ? "" : ", ", place}));
+    return In_One_Line(Joined({name, place.empty() ? "" : ", ", place}));
 }
 
 /// Adds the moments of a list. Of a period, which is written with a slash, the begin counts.
@@ -241,7 +241,7 @@ std::string Digits(int number, std::size_t width) {
 }
 
 std::string Date_Digits(const Date &date) {
-    return platform::Joined({Digits(date.year, 4), Digits(date.month, 2), Digits(date.day, 2)});
+    return Joined({Digits(date.year, 4), Digits(date.month, 2), Digits(date.day, 2)});
 }
 
 /// A number that is the same each time for the same record, and another one for another. It is that of
@@ -272,10 +272,10 @@ void Append_Event(std::string &bytes, const Sort_Entry &entry, std::string_view 
     const Date day = First_Day(entry);
     const std::string key = Date_Key(entry.yearly ? Date{every_year, day.month, day.day} : day);
     const auto append = [&](std::initializer_list<std::string_view> parts) {
-        Append_Line(bytes, platform::Joined(parts));
+        Append_Line(bytes, Joined(parts));
     };
     append({"BEGIN:VEVENT"});
-    append({"UID:", Record_Number(platform::Joined({key, "=", entry.text})), "@vellatro"});
+    append({"UID:", Record_Number(Joined({key, "=", entry.text})), "@vellatro"});
     append({"DTSTAMP:", stamp});
     append({"DTSTART;VALUE=DATE:", Date_Digits(day)});
     append({"DTEND;VALUE=DATE:", Date_Digits(Date_Of(Day_Number(day) + 1))});
@@ -379,8 +379,8 @@ Calendar_File Read_ICalendar(std::string_view bytes, Progress &progress) {
 std::string ICalendar_Bytes(const std::vector<Sort_Entry> &entries, Progress &progress) {
     const platform::Date_Time now = platform::Now_In_Utc();
     const std::string stamp =
-        platform::Joined({Digits(now.year, 4), Digits(now.month, 2), Digits(now.day, 2), "T",
-                          Digits(now.hour, 2), Digits(now.minute, 2), Digits(now.second, 2), "Z"});
+        Joined({Digits(now.year, 4), Digits(now.month, 2), Digits(now.day, 2), "T", Digits(now.hour, 2),
+                Digits(now.minute, 2), Digits(now.second, 2), "Z"});
     std::string bytes = "BEGIN:VCALENDAR\r\nVERSION:2.0\r\nPRODID:-//Vellatro//Vellatro//EN\r\n";
     for (std::size_t i = 0; i < entries.size(); ++i) {
         Append_Event(bytes, entries[i], stamp);

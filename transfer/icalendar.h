@@ -3,8 +3,8 @@
 // recurrence.h. Nothing is stored here.
 #pragma once
 
+#include "base/error.h"
 #include "core/event_entries.h"
-#include "platform/error.h"
 #include "transfer/progress.h"
 #include "transfer/recurrence.h"
 
@@ -17,7 +17,7 @@
 #include <vector>
 
 /// The bytes are no calendar, or one that is cut short. what() says which, in words for the user.
-class ICalendar_Error : public platform::Error {
+class ICalendar_Error : public Error {
 public:
     using Error::Error;
 };

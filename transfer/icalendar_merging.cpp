@@ -1,8 +1,8 @@
 // Each day's records and texts are found by their keys, so that the number of events does not matter.
 #include "transfer/icalendar_merging.h"
 
+#include "base/joined.h"
 #include "core/event_store.h"
-#include "platform/joined.h"
 #include "transfer/merging.h"
 
 #include <algorithm>
@@ -47,7 +47,7 @@ public:
     /// False: it stands there already. What stands on the day of every year stands on that of each.
     bool Add(const Date &date, std::string_view text) { return Add(Date_Key(date), Yearly_Key(date), text); }
     bool Holds(std::string_view key, std::string_view piece) const {
-        return known_.contains(platform::Joined({key, "=", piece}));
+        return known_.contains(Joined({key, "=", piece}));
     }
 
 private:
@@ -56,7 +56,7 @@ private:
         Pieces pieces(text);
         for (std::string_view piece; pieces.Next(piece);)
             if (!any_yearly_ || !Holds(every, piece))
-                any_new = known_.insert(platform::Joined({key, "=", piece})).second || any_new;
+                any_new = known_.insert(Joined({key, "=", piece})).second || any_new;
         any_yearly_ = any_yearly_ || key.ends_with("/9999");
         return any_new;
     }

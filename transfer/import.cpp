@@ -1,11 +1,11 @@
 // The imports and their messages.
 #include "transfer/import.h"
 
-#include "core/letters.h"
+#include "base/joined.h"
+#include "base/letters.h"
 #include "core/sequential.h"
 #include "core/settings.h"
 #include "platform/files.h"
-#include "platform/joined.h"
 #include "platform/locale.h"
 #include "platform/message_box.h"
 #include "toolkit/guard.h"
@@ -131,8 +131,8 @@ void Importer::Import_CSV() {
         Show_Staged(std::move(staged));
         Work.End();
         calendar_.Redraw();
-        Tell(platform::Joined({"Successfully imported ", std::to_string(count),
-                               " events from the CSV file...\r\n\r\n", dialog_.FileName}),
+        Tell(Joined({"Successfully imported ", std::to_string(count), " events from the CSV file...\r\n\r\n",
+                     dialog_.FileName}),
              platform::Box_Icon::Information);
     } catch (const std::exception &) {
         try {
@@ -201,7 +201,7 @@ void Importer::Write_Merged(const std::vector<Sort_Entry> &staged) const {
                                         [&](const Sort_Entry &each) { return each.key == key; });
         if (event != staged.end())
             Tell(
-                platform::Joined(
+                Joined(
                     {"The event of ",
                      platform::Short_Date(event->date.year, event->date.month, event->date.day),
                      " holds a quotation mark (\"). Remove it before you import another event of that day."}),
@@ -261,9 +261,9 @@ bool Importer::May_Replace() const {
         "You already have a working data file. Importing another one will completely overwrite the old one "
         "and "
         "you will lose all data. Are you absolutely sure you want to do this?\r\n\r\n";
-    const std::string question = platform::Joined(
-        {warning, "Replace current file 'calendar.dat' modified on ", modified(Event_Store::Data_File()),
-         "\r\n\r\nwith new file '", dialog_.FileTitle, "' modified on ", modified(dialog_.FileName)});
+    const std::string question = Joined({warning, "Replace current file 'calendar.dat' modified on ",
+                                         modified(Event_Store::Data_File()), "\r\n\r\nwith new file '",
+                                         dialog_.FileTitle, "' modified on ", modified(dialog_.FileName)});
     return Tell(question, platform::Box_Icon::Exclamation, platform::Box_Buttons::Yes_No_Cancel) ==
            platform::Box_Answer::Yes;
 }
@@ -289,8 +289,7 @@ void Importer::Import_Data_File() {
 void Importer::Import_ICalendar() {
     const auto fail = [this](std::string_view reason) {
         Work.End();
-        Tell(platform::Joined({"Error when importing from iCalendar file.", reason}),
-             platform::Box_Icon::Exclamation);
+        Tell(Joined({"Error when importing from iCalendar file.", reason}), platform::Box_Icon::Exclamation);
     };
     Join_Counts counts;
     try {
@@ -298,8 +297,8 @@ void Importer::Import_ICalendar() {
             return;
         Work.Begin();
         counts = Join_Calendar(platform::Read_File(dialog_.FileName));
-    } catch (const platform::Error &error) {
-        return fail(platform::Joined({"\r\n\r\n", error.what()}));
+    } catch (const Error &error) {
+        return fail(Joined({"\r\n\r\n", error.what()}));
     } catch (const std::exception &) {
         return fail({});
     }
@@ -307,7 +306,7 @@ void Importer::Import_ICalendar() {
     Data_File_Replaced();
     calendar_.Redraw();
     const auto number = [](std::size_t count) { return std::to_string(count); };
-    std::string message = platform::Joined(
+    std::string message = Joined(
         {"Successfully imported ", number(counts.imported), " events from the iCalendar file...\r\n\r\n",
          dialog_.FileName, "\r\n\r\nImported: ", number(counts.imported),
          ", already there: ", number(counts.already_there), ", passed over: ", number(counts.passed_over)});

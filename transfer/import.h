@@ -3,9 +3,9 @@
 // configuration.h.
 #pragma once
 
+#include "base/callback.h"
 #include "calendar/main_frm.h"
 #include "core/event_entries.h"
-#include "platform/callback.h"
 #include "transfer/csv.h"
 #include "transfer/icalendar_merging.h"
 #include "transfer/progress.h"
@@ -29,15 +29,15 @@ public:
 
     Progress Work;
     /// The list of events is to show these instead of what it shows.
-    platform::Callback<void(std::vector<Sort_Entry>)> Show_Staged;
+    Callback<void(std::vector<Sort_Entry>)> Show_Staged;
     /// The list of events and their counts are to be those of the data file, which is another one now.
-    platform::Callback<void()> Data_File_Replaced;
+    Callback<void()> Data_File_Replaced;
     /// The pointer over the dialog is to be the hourglass until the work's end.
-    platform::Callback<void()> Show_Hourglass;
+    Callback<void()> Show_Hourglass;
     /// The settings are not what the dialog shows any more: it is to be closed.
-    platform::Callback<void()> Configuration_Changed;
+    Callback<void()> Configuration_Changed;
     /// The same, but only a part was imported: the dialog is to stay, and to show the settings.
-    platform::Callback<void()> Configuration_Partly_Changed;
+    Callback<void()> Configuration_Partly_Changed;
 
     static std::string Backup_File();
 

@@ -1,8 +1,8 @@
 // Joining events to records, and parting them.
 #include "transfer/merging.h"
 
+#include "base/joined.h"
 #include "core/event_store.h"
-#include "platform/joined.h"
 
 #include <algorithm>
 #include <string_view>
@@ -46,7 +46,7 @@ Merged_Text Record_Merger::Merge(const Date &date, std::string_view text) {
     const auto yearly = first_.find(Date_Key({every_year, date.month, date.day}));
     if (exact == first_.end() && yearly == first_.end()) {
         first_.emplace(own_key, records_.size());
-        records_.push_back(platform::Joined({own_key, "=", text}));
+        records_.push_back(Joined({own_key, "=", text}));
         return {std::move(own_key), 0};
     }
     const bool joins_yearly =

@@ -2,15 +2,15 @@
 // slots.
 #pragma once
 
-#include "platform/callback.h"
+#include "base/callback.h"
 
 #include <cstddef>
 
 /// Nothing is told in the first second, afterwards something twice a second.
 class Progress {
 public:
-    platform::Callback<void(int percent)> On_Show; ///< may let windows be painted, but nothing else happen
-    platform::Callback<void()> On_End;             ///< after On_Show: nothing more is to be told
+    Callback<void(int percent)> On_Show; ///< may let windows be painted, but nothing else happen
+    Callback<void()> On_End;             ///< after On_Show: nothing more is to be told
 
     void Begin();
     /// Whether it is time to tell. To be asked after every small step.

@@ -2,8 +2,8 @@
 // and the days that pass the test are its set.
 #include "transfer/recurrence.h"
 
+#include "base/letters.h"
 #include "core/date.h"
-#include "core/letters.h"
 
 #include <algorithm>
 #include <charconv>

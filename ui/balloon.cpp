@@ -9,9 +9,6 @@
 #include <algorithm>
 #include <cmath>
 
-using platform::Point;
-using platform::Rect;
-
 namespace {
 
 constexpr int margin = 165;
@@ -20,10 +17,10 @@ constexpr int gap = 90;
 constexpr platform::Font title_font{90, true};
 constexpr platform::Font text_font{90, false};
 
-constexpr platform::Colour text_colour = platform::System_Colour(23);
-constexpr platform::Colour back_colour = platform::System_Colour(24);
-constexpr platform::Colour border_colour = platform::System_Colour(21);
-constexpr platform::Colour icon_colour = platform::Rgb(0x1F, 0x5F, 0xBF);
+constexpr Colour text_colour = System_Colour(23);
+constexpr Colour back_colour = System_Colour(24);
+constexpr Colour border_colour = System_Colour(21);
+constexpr Colour icon_colour = Rgb(0x1F, 0x5F, 0xBF);
 
 void Prepare(Label &label, const platform::Font &font) {
     label.Set_Transparent(true);
@@ -70,7 +67,7 @@ void frmBalloon::SetBalloon(const std::string &title, std::string_view text, std
     for (const std::string &each : lines)
         caption += (caption.empty() ? "" : "\n") + each;
     const int text_height = static_cast<int>(lines.size()) * line;
-    const platform::Size size{Snap(width), Snap(std::max(height - tail_length, around + text_height))};
+    const Size size{Snap(width), Snap(std::max(height - tail_length, around + text_height))};
 
     place_ = Place_Balloon({Pixels_To_Twips(mouse.x), Pixels_To_Twips(mouse.y)}, work, size);
     const Rect window = Window_Of(place_);

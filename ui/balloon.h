@@ -19,7 +19,7 @@ public:
     /// every request gets that one. `width` and `height` are the window's with its tail, in twips; a text
     /// that needs more height gets it, up to the height of the work area, and ends with "..." there.
     void SetBalloon(const std::string &title, std::string_view text, std::string_view icon,
-                    std::string_view font, int width, int height, const platform::Point *at = nullptr);
+                    std::string_view font, int width, int height, const Point *at = nullptr);
 
     /// Takes the balloon down. Does nothing when there is none.
     void HideBalloon() { Close(); }
@@ -29,7 +29,7 @@ public:
     Label Message_Lbl;
 
 private:
-    void Paint(platform::Canvas &canvas, const platform::Rect &clip) const;
+    void Paint(platform::Canvas &canvas, const Rect &clip) const;
 
     Balloon_Place place_; ///< on the form
 };

@@ -5,10 +5,6 @@
 #include <cmath>
 #include <numbers>
 
-using platform::Point;
-using platform::Rect;
-using platform::Size;
-
 namespace {
 
 constexpr int radius = 150;

@@ -1,7 +1,7 @@
 // Where a balloon stands beside the mouse, and its outline. Pure arithmetic in twips; painting is not here.
 #pragma once
 
-#include "platform/geometry.h"
+#include "base/geometry.h"
 
 #include <vector>
 
@@ -10,8 +10,8 @@ enum class Balloon_Side { Above, Below, Right, Left };
 
 struct Balloon_Place {
     Balloon_Side side = Balloon_Side::Above;
-    platform::Rect body; ///< on the screen, whole inside of the work area when that is large enough
-    platform::Point tip; ///< of the tail, on the screen
+    Rect body; ///< on the screen, whole inside of the work area when that is large enough
+    Point tip; ///< of the tail, on the screen
 };
 
 /// Length of the tail between the body and its tip.
@@ -19,10 +19,10 @@ constexpr int tail_length = 240;
 
 /// Places a body of this size beside the pointer: above it where there is room, else below, right or left of
 /// it. Where there is room on no side, the body covers the pointer.
-Balloon_Place Place_Balloon(platform::Point pointer, const platform::Rect &work, platform::Size size);
+Balloon_Place Place_Balloon(Point pointer, const Rect &work, Size size);
 
 /// The smallest rectangle that holds body and tip.
-platform::Rect Window_Of(const Balloon_Place &place);
+Rect Window_Of(const Balloon_Place &place);
 
 /// The outline of body and tail, clockwise, on the same plane as `place`.
-std::vector<platform::Point> Balloon_Outline(const Balloon_Place &place);
+std::vector<Point> Balloon_Outline(const Balloon_Place &place);

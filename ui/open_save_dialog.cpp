@@ -16,7 +16,7 @@ std::string Up_To_Nul(const std::string &text) {
 
 } // namespace
 
-Dialog_Cancelled::Dialog_Cancelled() : platform::Error("Cancel was selected.") {
+Dialog_Cancelled::Dialog_Cancelled() : Error("Cancel was selected.") {
 }
 
 std::string System_Filter(std::string_view filter) {

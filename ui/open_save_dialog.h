@@ -1,7 +1,7 @@
 // The file dialog control: the system's dialogs for opening and saving behind a few properties.
 #pragma once
 
-#include "platform/error.h"
+#include "base/error.h"
 #include "platform/file_dialog.h"
 
 #include <cstdint>
@@ -9,7 +9,7 @@
 #include <vector>
 
 /// The user cancelled a file dialog whose caller wanted that to be an error.
-class Dialog_Cancelled : public platform::Error {
+class Dialog_Cancelled : public Error {
 public:
     Dialog_Cancelled();
     static constexpr std::int32_t Number = 32755;

@@ -6,27 +6,27 @@
 
 namespace {
 
-constexpr platform::Colour deep_blue = platform::Rgb(31, 8, 128);
-constexpr platform::Colour violet = platform::Rgb(192, 192, 255);
-constexpr platform::Colour white = platform::Rgb(255, 255, 255);
+constexpr Colour deep_blue = Rgb(31, 8, 128);
+constexpr Colour violet = Rgb(192, 192, 255);
+constexpr Colour white = Rgb(255, 255, 255);
 
 // Twips. Multiples of 60, four pixels at 96 dots per inch, are whole pixels at 120, 144 and 192 as well.
 constexpr int splash_width = 4800;
 constexpr int splash_height = 1440;
-constexpr platform::Rect ring_place{480, 180, 120, 120};
+constexpr Rect ring_place{480, 180, 120, 120};
 constexpr int ring_distance = 480;
-constexpr platform::Rect leaf_head{300, 240, 960, 300};
-constexpr platform::Rect leaf_page{300, 540, 960, 660};
-constexpr platform::Rect name_place{1500, 180, 3180, 720};
-constexpr platform::Rect line_place{1500, 900, 3180, 300};
+constexpr Rect leaf_head{300, 240, 960, 300};
+constexpr Rect leaf_page{300, 540, 960, 660};
+constexpr Rect name_place{1500, 180, 3180, 720};
+constexpr Rect line_place{1500, 900, 3180, 300};
 
 constexpr platform::Font head_font{80, true};
 constexpr platform::Font page_font{220, true};
 constexpr platform::Font name_font{260, true};
 constexpr platform::Font line_font{90, false};
 
-void Dress(Label &label, const platform::Rect &place, platform::Colour back, platform::Colour fore,
-           const platform::Font &font, platform::Text_Align align) {
+void Dress(Label &label, const Rect &place, Colour back, Colour fore, const platform::Font &font,
+           platform::Text_Align align) {
     label.Move(place);
     label.Set_Back_Colour(back);
     label.Set_Fore_Colour(fore);
@@ -51,7 +51,7 @@ Splash_Frm::Splash_Frm()
     Dress(Weekday_Lbl, leaf_head, violet, deep_blue, head_font, Text_Align::Centre);
     Dress(Day_Lbl, leaf_page, white, deep_blue, page_font, Text_Align::Centre);
     for (int i = 0; i < 2; ++i) {
-        platform::Rect place = ring_place;
+        Rect place = ring_place;
         place.left += i * ring_distance;
         Ring_Lbl[i].Move(place);
         Ring_Lbl[i].Set_Back_Colour(white);
@@ -67,7 +67,7 @@ Splash_Frm::Splash_Frm()
     Start_Timer.On_Timer = [this] { Start_Timer_Timer(); };
 }
 
-void Splash_Frm::Show_Over(const platform::Rect &calendar, int box_36_top) {
+void Splash_Frm::Show_Over(const Rect &calendar, int box_36_top) {
     const Date today = Today();
     Weekday_Lbl.Set_Caption(platform::Short_Weekday_Name(Weekday(today)));
     Day_Lbl.Set_Caption(std::to_string(today.day));

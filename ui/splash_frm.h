@@ -12,7 +12,7 @@ public:
     /// Appears over the calendar, in front of all windows, without taking the keyboard, and goes by itself
     /// after 1500 ms. `calendar` is the calendar's place on the screen, `box_36_top` the upper edge of its
     /// last day box; twips.
-    void Show_Over(const platform::Rect &calendar, int box_36_top);
+    void Show_Over(const Rect &calendar, int box_36_top);
 
     Label Frame_Lbl;
     Control_Array<Label, 2> Ring_Lbl; ///< that the calendar leaf hangs by

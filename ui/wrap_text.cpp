@@ -1,7 +1,7 @@
 // Breaking a text into lines: each takes the longest beginning of the rest that fits.
 #include "ui/wrap_text.h"
 
-#include "platform/characters.h"
+#include "base/characters.h"
 
 #include <algorithm>
 
@@ -27,7 +27,7 @@ public:
         constexpr std::size_t run_up = 64;
         std::vector<std::size_t> ends;
         for (std::size_t end = std::min(word.size(), longest_line + run_up); end > 0;
-             end = platform::Previous_Character(word, end))
+             end = Previous_Character(word, end))
             ends.push_back(end);
         const auto fitting = std::partition_point(ends.begin(), ends.end(), [&](std::size_t end) {
             return end > longest_line || !Fits(word.substr(0, end));
@@ -48,7 +48,7 @@ public:
             end = Fitting(rest);
         if (end != 0)
             return end;
-        for (end = 1; end < rest.size() && platform::Previous_Character(rest, end + 1) != end; ++end) {
+        for (end = 1; end < rest.size() && Previous_Character(rest, end + 1) != end; ++end) {
         }
         return end;
     }
@@ -56,7 +56,7 @@ public:
     /// Puts the sign for left-out text behind as much of the line as fits with it.
     void Cut(std::string &line) const {
         while (!line.empty() && !Fits(line + std::string(more_sign)))
-            line.resize(platform::Previous_Character(line, line.size()));
+            line.resize(Previous_Character(line, line.size()));
         line.append(more_sign);
     }
 

@@ -144,11 +144,11 @@ void Draw_Picture(Canvas &canvas, const Picture &picture, const Rect &rect) {
 int Text_Width(std::string_view text, const Font &font) {
     const std::wstring wide = win32::To_Wide(text);
     // Up, so that a text fits where its width in twips does.
-    return win32::Scale_Up(Pixel_Width(win32::Measuring_Dc(font), wide), 1440, Dots_Per_Inch());
+    return Scale_Up(Pixel_Width(win32::Measuring_Dc(font), wide), 1440, Dots_Per_Inch());
 }
 
 int Line_Height(const Font &font) {
-    return win32::Scale_Up(win32::Find_Font(font).line_height, 1440, Dots_Per_Inch());
+    return Scale_Up(win32::Find_Font(font).line_height, 1440, Dots_Per_Inch());
 }
 
 Colour Resolve_Colour(Colour colour) {
@@ -177,7 +177,7 @@ Unique_Bitmap Make_Pixel_Bitmap(int width, int height, Pixel_Buffer &pixels) {
     return bitmap;
 }
 
-std::uint32_t Pixel_Colour(platform::Colour colour) {
+std::uint32_t Pixel_Colour(Colour colour) {
     const auto plain = static_cast<COLORREF>(platform::Resolve_Colour(colour));
     return (static_cast<std::uint32_t>(GetRValue(plain)) << 16) |
            (static_cast<std::uint32_t>(GetGValue(plain)) << 8) | GetBValue(plain);

@@ -36,7 +36,7 @@ namespace win32 {
 Unique_Bitmap Make_Pixel_Bitmap(int width, int height, Pixel_Buffer &pixels);
 
 /// 0x00RRGGBB of a platform colour.
-std::uint32_t Pixel_Colour(platform::Colour colour);
+std::uint32_t Pixel_Colour(Colour colour);
 
 /// Paints a window by `paint(HDC, const RECT &area)` as WM_PAINT, WM_PRINTCLIENT or WM_ERASEBKGND asks; to
 /// the last it does nothing, for all of the area is painted. Returns the answer to the message.

@@ -13,8 +13,8 @@ using platform::Control_State;
 
 namespace {
 
-constexpr platform::Colour usual_fore_colour = platform::System_Colour(18);
-constexpr platform::Colour usual_back_colour = platform::System_Colour(15);
+constexpr Colour usual_fore_colour = System_Colour(18);
+constexpr Colour usual_back_colour = System_Colour(15);
 
 /// The kinds that show what is behind them.
 bool Shows_Background(const Control_State &control) {

@@ -114,7 +114,7 @@ void Dialog_Window::Set_Caption(const Control_State &control) {
 
 void Dialog_Window::Place_Control(const Control_State &control) {
     const HWND window = Control_Window(control.index);
-    const platform::Rect bounds = platform::Place_On_Form(*Model(), control);
+    const Rect bounds = platform::Place_On_Form(*Model(), control);
     const RECT place = To_Pixels(bounds);
     int width = place.right - place.left;
     int height = place.bottom - place.top;
@@ -128,7 +128,7 @@ void Dialog_Window::Place_Control(const Control_State &control) {
         Set_Combo_Heights(window, height, control);
 }
 
-void Dialog_Window::Place_Held(const Control_State &changed, const platform::Rect &before) {
+void Dialog_Window::Place_Held(const Control_State &changed, const Rect &before) {
     for (const Control_State *control : Model()->controls) {
         if (Control_Window(control->index) != nullptr && Holds(changed, *control))
             Place_Control(*control);
@@ -139,7 +139,7 @@ void Dialog_Window::Place_Held(const Control_State &changed, const platform::Rec
         return;
     }
     // The inside of a frame is not the frame's own to paint.
-    platform::Rect place = platform::Place_On_Form(*Model(), changed);
+    Rect place = platform::Place_On_Form(*Model(), changed);
     Redraw(place);
     place.left += before.left - changed.bounds.left;
     place.top += before.top - changed.bounds.top;
@@ -149,7 +149,7 @@ void Dialog_Window::Place_Held(const Control_State &changed, const platform::Rec
 }
 
 /// Has a part of the dialog painted anew, all at once when the program waits again.
-void Dialog_Window::Redraw(const platform::Rect &place) {
+void Dialog_Window::Redraw(const Rect &place) {
     const RECT pixels = To_Pixels(place);
     RedrawWindow(window_, &pixels, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }
@@ -287,8 +287,7 @@ void Dialog_Window::Update_Tooltips() {
     tooltips_.Update(window_, *Model(), windows);
 }
 
-void Dialog_Window::Control_Changed(const Control_State &control, Aspect aspect,
-                                    const platform::Rect &before) {
+void Dialog_Window::Control_Changed(const Control_State &control, Aspect aspect, const Rect &before) {
     // These concern what a frame holds too, even when it has no window itself.
     if (aspect == Aspect::Bounds)
         return Place_Held(control, before);

@@ -1,7 +1,7 @@
 // The ways of the native text box, by a window procedure before the system's own.
 #include "win32/dialog_edit.h"
 
-#include "platform/line_breaks.h"
+#include "base/line_breaks.h"
 
 #include <algorithm>
 #include <string_view>
@@ -168,7 +168,7 @@ void Make_Text_Box(HWND edit) {
 
 std::wstring Without_Breaks(std::wstring text) {
     std::replace(text.begin(), text.end(), L'\0', L' ');
-    return platform::Without_Line_Breaks(std::move(text));
+    return Without_Line_Breaks(std::move(text));
 }
 
 void Set_Box_Text(HWND edit, const std::wstring &text) {

@@ -121,7 +121,7 @@ void Dialog_Window::Own_Aspect_Changed(Aspect aspect) {
 }
 
 void Dialog_Window::Place() {
-    const platform::Rect bounds = Model()->bounds;
+    const Rect bounds = Model()->bounds;
     const bool moved = bounds.left != placed_.x || bounds.top != placed_.y || !is_placed_;
     RECT outer = {0, 0, To_Pixels(bounds.width), To_Pixels(bounds.height)};
     AdjustWindowRectEx(&outer, static_cast<DWORD>(GetWindowLongW(window_, GWL_STYLE)), FALSE,

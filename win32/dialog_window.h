@@ -31,7 +31,7 @@ public:
 
     void Create() override;
     void Control_Changed(const platform::Control_State &control, platform::Aspect aspect,
-                         const platform::Rect &before) override;
+                         const Rect &before) override;
     void Bring_To_Front() override;
     void Scale_Changed() override;
     bool Take_First(const MSG &message) override;
@@ -72,8 +72,8 @@ private:
     HFONT Find_Font(const platform::Font &font);
     void Set_Caption(const Control_State &control);
     void Place_Control(const Control_State &control);
-    void Place_Held(const Control_State &changed, const platform::Rect &before);
-    void Redraw(const platform::Rect &place);
+    void Place_Held(const Control_State &changed, const Rect &before);
+    void Redraw(const Rect &place);
     void Fill(const Control_State &control);
     void Show_Choice(const Control_State &control);
     void Show_Check(const Control_State &control);
@@ -121,7 +121,7 @@ private:
     Slider_Tip slider_tip_;
     COLORREF page_colour_ = 0;
     Unique_Brush page_brush_;
-    platform::Point placed_; ///< where the form knows the window to be
+    Point placed_; ///< where the form knows the window to be
     bool is_placed_ = false;
     bool updating_ = false; ///< the program changes a control, which is no user's doing
 };

@@ -4,7 +4,7 @@
 // steps there is no file of the name.
 #include "platform/files.h"
 
-#include "platform/joined.h"
+#include "base/joined.h"
 #include "win32/handles.h"
 #include "win32/paths.h"
 #include "win32/system_error.h"

@@ -1,7 +1,7 @@
 // The native windows of forms: their list, and the calls of the program that are passed on to them.
 #include "platform/forms.h"
 
-#include "platform/error.h"
+#include "base/error.h"
 #include "win32/dialog_window.h"
 #include "win32/fonts.h"
 #include "win32/menu_images.h"
@@ -50,7 +50,7 @@ HWND Window_Of_Form(const platform::Form_Model &model) {
 
 HWND Mirror::Made(HWND window) {
     if (window == nullptr)
-        throw platform::Error("The window cannot be made: " + System_Error_Text(GetLastError()));
+        throw Error("The window cannot be made: " + System_Error_Text(GetLastError()));
     return window;
 }
 

@@ -1,7 +1,7 @@
 // Names and dates of the user's regional settings: platform/locale.h over Win32.
 #include "platform/locale.h"
 
-#include "platform/joined.h"
+#include "base/joined.h"
 #include "win32/handles.h"
 #include "win32/system_library.h"
 #include "win32/wide_text.h"

@@ -14,12 +14,12 @@ namespace {
 
 struct Timer {
     platform::Timer_Id id;
-    platform::Callback<void()> tick;
+    Callback<void()> tick;
 };
 
 std::vector<Timer> timers;
 platform::Timer_Id last_timer = 0;
-platform::Callback<bool(platform::Broadcast)> broadcast_listener;
+Callback<bool(platform::Broadcast)> broadcast_listener;
 HWND broadcasts = nullptr;
 
 /// What the system told while the mouse was taken, each thing once.

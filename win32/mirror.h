@@ -21,13 +21,13 @@ public:
     platform::Form_Model *Model() const { return model_; }
     HWND Window() const { return window_; }
 
-    /// Makes the window with what it shows. Called once. Throws platform::Error when the system refuses.
+    /// Makes the window with what it shows. Called once. Throws Error when the system refuses.
     virtual void Create() = 0;
     void Form_Changed(platform::Aspect aspect);
     virtual void Control_Changed(const platform::Control_State &control, platform::Aspect aspect,
-                                 const platform::Rect &before) = 0;
-    virtual void Clip(const std::vector<platform::Rect> &) {}
-    virtual void Shape(const std::vector<platform::Point> &) {}
+                                 const Rect &before) = 0;
+    virtual void Clip(const std::vector<Rect> &) {}
+    virtual void Shape(const std::vector<Point> &) {}
     virtual void Bring_To_Front() = 0;
     /// The dots per inch or the system's fonts changed.
     virtual void Scale_Changed() = 0;
@@ -41,7 +41,7 @@ public:
     void Send(platform::Input_Kind kind) noexcept;
 
 protected:
-    /// A window that the system has just been asked for. Throws platform::Error when there is none.
+    /// A window that the system has just been asked for. Throws Error when there is none.
     static HWND Made(HWND window);
     /// Takes a window that has just been made as this mirror's; from then on its messages arrive.
     void Adopt(HWND window);

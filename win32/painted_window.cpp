@@ -151,8 +151,7 @@ void Painted_Window::Own_Aspect_Changed(Aspect aspect) {
     }
 }
 
-void Painted_Window::Control_Changed(const Control_State &control, Aspect aspect,
-                                     const platform::Rect &before) {
+void Painted_Window::Control_Changed(const Control_State &control, Aspect aspect, const Rect &before) {
     switch (aspect) {
     case Aspect::Bounds:
         if (control.visible) {
@@ -180,7 +179,7 @@ void Painted_Window::Control_Changed(const Control_State &control, Aspect aspect
         Texts_Changed();
 }
 
-void Painted_Window::Invalidate(const platform::Rect &bounds) const {
+void Painted_Window::Invalidate(const Rect &bounds) const {
     const RECT pixels = To_Pixels(bounds);
     if (pixels.left < pixels.right && pixels.top < pixels.bottom)
         InvalidateRect(window_, &pixels, FALSE);
@@ -192,7 +191,7 @@ void Painted_Window::Texts_Changed() {
         texts_dirty_ = PostMessageW(window_, Update_Texts_Message, 0, 0) != FALSE;
 }
 
-void Painted_Window::Clip(const std::vector<platform::Rect> &rects) {
+void Painted_Window::Clip(const std::vector<Rect> &rects) {
     has_clip_ = true;
     clip_ = rects;
     Set_Region();
@@ -204,7 +203,7 @@ void Painted_Window::Set_Region() {
         return;
     std::vector<RECT> pixels;
     pixels.reserve(clip_.size());
-    for (const platform::Rect &rect : clip_)
+    for (const Rect &rect : clip_)
         pixels.push_back(To_Pixels(rect));
     const Unique_Region now(CreateRectRgn(0, 0, 0, 0));
     if (Equal(pixels, region_) && GetWindowRgn(window_, now.Get()) != ERROR)
@@ -222,11 +221,11 @@ void Painted_Window::Set_Region() {
     region_ = std::move(pixels);
 }
 
-void Painted_Window::Shape(const std::vector<platform::Point> &corners) {
+void Painted_Window::Shape(const std::vector<Point> &corners) {
     shape_ = corners;
     std::vector<POINT> pixels;
     pixels.reserve(corners.size());
-    for (const platform::Point &corner : corners)
+    for (const Point &corner : corners)
         pixels.push_back({To_Pixels(corner.x), To_Pixels(corner.y)});
     Unique_Region region(CreatePolygonRgn(pixels.data(), static_cast<int>(pixels.size()), WINDING));
     if (region && SetWindowRgn(window_, region.Get(), TRUE) != 0)

@@ -16,9 +16,9 @@ public:
 
     void Create() override;
     void Control_Changed(const platform::Control_State &control, platform::Aspect aspect,
-                         const platform::Rect &before) override;
-    void Clip(const std::vector<platform::Rect> &rects) override;
-    void Shape(const std::vector<platform::Point> &corners) override;
+                         const Rect &before) override;
+    void Clip(const std::vector<Rect> &rects) override;
+    void Shape(const std::vector<Point> &corners) override;
     void Bring_To_Front() override;
     void Scale_Changed() override;
 
@@ -39,7 +39,7 @@ private:
     void Show_Or_Hide() override;
     void Own_Aspect_Changed(platform::Aspect aspect) override;
     void Set_Pointer() const;
-    void Invalidate(const platform::Rect &bounds) const;
+    void Invalidate(const Rect &bounds) const;
     /// What tooltips and assistive technology tell of the controls is to be brought up to date.
     void Texts_Changed();
 
@@ -47,9 +47,9 @@ private:
     Announcements announcements_;
     bool texts_dirty_ = false;
     bool has_clip_ = false;
-    std::vector<platform::Rect> clip_;
+    std::vector<Rect> clip_;
     std::vector<RECT> region_; ///< the clip in the pixels of the window's region
-    std::vector<platform::Point> shape_;
+    std::vector<Point> shape_;
     Mouse_Input mouse_;
 };
 

@@ -2,9 +2,9 @@
 // looks the same on every system.
 #include "platform/pictures.h"
 
+#include "base/joined.h"
+#include "base/jpeg.h"
 #include "platform/files.h"
-#include "platform/joined.h"
-#include "platform/jpeg.h"
 #include "win32/handles.h"
 #include "win32/system_library.h"
 

@@ -1,7 +1,7 @@
 // The registry: platform/registry.h over Win32. Texts are stored as REG_SZ.
 #include "platform/registry.h"
 
-#include "platform/joined.h"
+#include "base/joined.h"
 #include "win32/handles.h"
 #include "win32/system_error.h"
 #include "win32/wide_text.h"

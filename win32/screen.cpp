@@ -34,18 +34,18 @@ int platform::Dots_Per_Inch() {
     return dots_per_inch;
 }
 
-platform::Size platform::Screen_Size() {
+Size platform::Screen_Size() {
     return {GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
 }
 
-platform::Rect platform::Work_Area() {
+Rect platform::Work_Area() {
     RECT area = {};
     if (!SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0))
         return {0, 0, Screen_Size().width, Screen_Size().height};
     return {area.left, area.top, area.right - area.left, area.bottom - area.top};
 }
 
-platform::Rect platform::Work_Area_Around(Point point) {
+Rect platform::Work_Area_Around(Point point) {
     MONITORINFO monitor = {};
     monitor.cbSize = sizeof monitor;
     if (!GetMonitorInfoW(MonitorFromPoint({point.x, point.y}, MONITOR_DEFAULTTONEAREST), &monitor))
@@ -69,7 +69,7 @@ bool platform::Mouse_Button_Held() {
     return false;
 }
 
-platform::Point platform::Mouse_Position() {
+Point platform::Mouse_Position() {
     POINT mouse = {};
     GetCursorPos(&mouse);
     return {mouse.x, mouse.y};

@@ -1,37 +1,33 @@
 // Twips and pixels at the screen's dots per inch, as the system's rectangles need them.
 #pragma once
 
-#include "platform/geometry.h"
+#include "base/geometry.h"
+#include "base/twips.h"
 #include "platform/screen.h"
-#include "platform/twips.h"
 #include "win32/handles.h"
 
 namespace win32 {
 
-using platform::Scale_Down;
-using platform::Scale_Nearest;
-using platform::Scale_Up;
-
 inline int To_Pixels(int twips) {
-    return platform::Twips_To_Pixels(twips, platform::Dots_Per_Inch());
+    return Twips_To_Pixels(twips, platform::Dots_Per_Inch());
 }
 inline int To_Twips(int pixels) {
-    return platform::Pixels_To_Twips(pixels, platform::Dots_Per_Inch());
+    return Pixels_To_Twips(pixels, platform::Dots_Per_Inch());
 }
 
 /// Each edge to the nearest pixel, so that rectangles that touch in twips touch in pixels.
-inline RECT To_Pixels(const platform::Rect &rect) {
+inline RECT To_Pixels(const Rect &rect) {
     return {To_Pixels(rect.left), To_Pixels(rect.top), To_Pixels(rect.Right()), To_Pixels(rect.Bottom())};
 }
 
 /// The twips whose nearest pixels lie in `rect`, none left out.
-inline platform::Rect To_Covering_Twips(const RECT &rect) {
+inline Rect To_Covering_Twips(const RECT &rect) {
     // Half a pixel more on each side: an edge half-way between two pixels counts for the next one.
     const int twice_dots = 2 * platform::Dots_Per_Inch();
-    const int left = Scale_Down(2 * static_cast<int>(rect.left) - 1, platform::Twips_Per_Inch, twice_dots);
-    const int top = Scale_Down(2 * static_cast<int>(rect.top) - 1, platform::Twips_Per_Inch, twice_dots);
-    const int right = Scale_Up(2 * static_cast<int>(rect.right) + 1, platform::Twips_Per_Inch, twice_dots);
-    const int bottom = Scale_Up(2 * static_cast<int>(rect.bottom) + 1, platform::Twips_Per_Inch, twice_dots);
+    const int left = Scale_Down(2 * static_cast<int>(rect.left) - 1, Twips_Per_Inch, twice_dots);
+    const int top = Scale_Down(2 * static_cast<int>(rect.top) - 1, Twips_Per_Inch, twice_dots);
+    const int right = Scale_Up(2 * static_cast<int>(rect.right) + 1, Twips_Per_Inch, twice_dots);
+    const int bottom = Scale_Up(2 * static_cast<int>(rect.bottom) + 1, Twips_Per_Inch, twice_dots);
     return {left, top, right - left, bottom - top};
 }
 

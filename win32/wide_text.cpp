@@ -1,7 +1,7 @@
 // Conversions between the program's texts and wide texts.
 #include "win32/wide_text.h"
 
-#include "platform/characters.h"
+#include "base/characters.h"
 #include "win32/handles.h"
 
 #include <algorithm>
@@ -29,7 +29,7 @@ std::string From_Wide(std::wstring_view text) {
         std::uint32_t code = text[i];
         if (IS_HIGH_SURROGATE(code) && i + 1 < text.size() && IS_LOW_SURROGATE(text[i + 1]))
             code = 0x10000 + ((code - 0xD800) << 10) + (text[++i] - 0xDC00U);
-        platform::Append_Utf8(narrow, code);
+        Append_Utf8(narrow, code);
     }
     return narrow;
 }

@@ -7,7 +7,7 @@ namespace {
 
 using Box_Styles = Calendar_Test;
 
-platform::Rect Pixels_Of(const Control &control) {
+Rect Pixels_Of(const Control &control) {
     const int left = Twips_To_Pixels(control.Left()), top = Twips_To_Pixels(control.Top());
     return {left, top, Twips_To_Pixels(control.Bounds().Right()) - left,
             Twips_To_Pixels(control.Bounds().Bottom()) - top};
@@ -19,13 +19,13 @@ TEST_F(Box_Styles, columns_and_rows_are_equal_in_pixels_and_nothing_overlaps) {
             SCOPED_TRACE(std::to_string(dots) + " dots, style " + std::to_string(style));
             Desktop().dots_per_inch = dots;
             form.Which_Style(static_cast<std::int16_t>(style));
-            const platform::Rect first = Pixels_Of(form.Box_Lbl[0]), header = Pixels_Of(form.Day_Lbl[6]);
+            const Rect first = Pixels_Of(form.Box_Lbl[0]), header = Pixels_Of(form.Day_Lbl[6]);
             EXPECT_EQ(first.height > 70 * dots / 96, style != 0) << "unknown ones are the square one";
             const int gap = Pixels_Of(form.Box_Lbl[1]).left - first.Right();
             EXPECT_GT(gap, 0);
             for (int i = 0; i < Main_Frm::box_count; ++i) {
-                const platform::Rect box = Pixels_Of(form.Box_Lbl[i]);
-                const platform::Rect text = Pixels_Of(form.Box_Caption_Lbl[i]);
+                const Rect box = Pixels_Of(form.Box_Lbl[i]);
+                const Rect text = Pixels_Of(form.Box_Caption_Lbl[i]);
                 EXPECT_EQ(box.left, i % 7 * (first.width + gap));
                 EXPECT_EQ(box.top, first.top + i / 7 * (first.height + gap));
                 EXPECT_TRUE(box.width == first.width && box.height == first.height);

@@ -36,8 +36,8 @@ protected:
     std::string Text_Of(int day) { return form.Box_Caption_Lbl[Index_Of(day)].Caption(); }
 
     /// The places of all visible controls.
-    std::vector<platform::Rect> Seen() const {
-        std::vector<platform::Rect> seen;
+    std::vector<Rect> Seen() const {
+        std::vector<Rect> seen;
         for (const platform::Control_State *control : form.Model().controls)
             if (control->visible)
                 seen.push_back(control->bounds);

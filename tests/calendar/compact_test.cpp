@@ -52,7 +52,7 @@ TEST_F(Compact_Mode, activity_begins_the_minute_anew_and_the_timer_waits_for_dia
     }
     Desktop().Advance(40000);
     Press_Key(form, 16);
-    for (platform::Callback<bool()> *dialog : {&form.Editor_Visible, &form.Settings_Visible}) {
+    for (Callback<bool()> *dialog : {&form.Editor_Visible, &form.Settings_Visible}) {
         Desktop().Advance(59999);
         *dialog = [] { return true; };
         Desktop().Advance(600000); // once over, it does not come again by itself

@@ -20,9 +20,9 @@ protected:
 
     /// Takes the title, moves it in two steps and lets it go.
     void Drag(int right, int down) {
-        const platform::Point from{form.Left() + form.Width() / 2, form.Top() + 90};
+        const Point from{form.Left() + form.Width() / 2, form.Top() + 90};
         const auto mouse = [&](Input_Kind kind, int x, int y) { // with the mouse in a place on the screen
-            const platform::Point at{from.x + x - form.Left(), from.y + y - form.Top()};
+            const Point at{from.x + x - form.Left(), from.y + y - form.Top()};
             Input(form, {.kind = kind, .point = at, .button = Mouse_Button::Left});
         };
         mouse(Input_Kind::Mouse_Down, 0, 0);
@@ -91,7 +91,7 @@ TEST_F(Desktop_Life, drags_as_far_as_it_may) {
     }
     // A lost release, told at once or seen by a move without a button, ends the drag where it is.
     form.Move(3000, 600);
-    const platform::Point on_title{form.Width() / 2, 90}, right{on_title.x + 150, 100};
+    const Point on_title{form.Width() / 2, 90}, right{on_title.x + 150, 100};
     for (const Input_Kind kind : {Input_Kind::Capture_Lost, Input_Kind::Mouse_Move}) {
         Input(form, {.kind = Input_Kind::Mouse_Down, .point = on_title, .button = Mouse_Button::Left});
         Input(form, {.kind = kind, .point = right});

@@ -71,8 +71,8 @@ TEST_F(Lifecycle, a_change_of_date_brings_today_back_and_may_alert_again) {
 }
 
 TEST_F(Lifecycle, the_shade_for_today_s_frame_stands_out) {
-    for (const platform::Colour colour : {0, 0xFFFFFF, 0xFFC0C0, 0x0000FF, 0x404040, 0x00FFFF, 100 << 8}) {
-        const auto brightness = [](platform::Colour c) {
+    for (const Colour colour : {0, 0xFFFFFF, 0xFFC0C0, 0x0000FF, 0x404040, 0x00FFFF, 100 << 8}) {
+        const auto brightness = [](Colour c) {
             return (30 * (c & 255) + 59 * ((c >> 8) & 255) + 11 * (c >> 16)) / 100;
         };
         EXPECT_GE(std::abs(brightness(Strong_Shade(colour)) - brightness(colour)), 66) << colour;
@@ -97,14 +97,14 @@ TEST_F(Lifecycle, comes_back_from_where_something_else_has_moved_it) {
     Desktop().work_area.height = 2560; // more than 16 bits of twips
     Start();
     Fake_Mirror &window = Desktop().mirrors.at(&form.Model());
-    const platform::Point set{form.Left(), form.Top()}, dragged{3000, 600};
+    const Point set{form.Left(), form.Top()}, dragged{3000, 600};
     const auto second = [] { Desktop().Advance(1000); };
-    const auto comes_back = [&](platform::Point from, const std::function<void()> &event) {
+    const auto comes_back = [&](Point from, const std::function<void()> &event) {
         form.Move(from.x, from.y);
         window.displaced = {60, -20};
         EXPECT_TRUE(form.Left() == from.x + 900 && form.Top() == from.y - 300);
         event();
-        return platform::Point{form.Left(), form.Top()} == from;
+        return Point{form.Left(), form.Top()} == from;
     };
     EXPECT_TRUE(comes_back(set, second) && comes_back(dragged, second));
     EXPECT_TRUE(comes_back(dragged, [] { Desktop().Say(Broadcast::Display_Changed); }));

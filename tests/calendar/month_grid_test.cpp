@@ -71,7 +71,7 @@ TEST_F(Month_Grid, alerts_once_a_day_of_the_first_event_in_the_file) {
 
 TEST_F(Month_Grid, high_contrast_brings_the_colours_of_windows_and_takes_them_away_again) {
     Start();
-    using Colours = std::vector<platform::Colour>;
+    using Colours = std::vector<Colour>;
     const auto colours = [&](int day) {
         const platform::Control_State &box = Box_Of(day).State();
         return Colours{box.back_colour,    box.fore_colour,
@@ -81,7 +81,7 @@ TEST_F(Month_Grid, high_contrast_brings_the_colours_of_windows_and_takes_them_aw
     const auto of_system = [](const Colours &numbers) {
         Colours all;
         for (const int number : numbers)
-            all.push_back(platform::System_Colour(number));
+            all.push_back(System_Colour(number));
         return all;
     };
     const Colours usual = colours(5), other = of_system({5, 8, 16, 8, 5, 8});

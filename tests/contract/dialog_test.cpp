@@ -1,10 +1,10 @@
 // The native controls of dialogs: driven as the system drives them, what the form hears of the user, and that
 // it hears nothing of its own changes. In the native test program this file holds no tests.
 #ifdef _WIN32
+#include "base/twips.h"
 #include "platform/forms.h"
 #include "platform/message_loop.h"
 #include "platform/screen.h"
-#include "platform/twips.h"
 #include "tests/contract/contract.h"
 #include "win32/mirror.h"
 #include "win32/modal.h"
@@ -43,8 +43,8 @@ protected:
             if (control.kind == Tab_Strip || control.kind == Combo_Box || control.kind == List_Box)
                 control.items = {"One", "Two", "Three"};
             control.painted = i >= Picture;
-            control.paint = [](platform::Canvas &canvas, const platform::Rect &) {
-                platform::Fill_Rect(canvas, {0, 0, 750, 300}, platform::Rgb(10, 200, 30));
+            control.paint = [](platform::Canvas &canvas, const Rect &) {
+                platform::Fill_Rect(canvas, {0, 0, 750, 300}, Rgb(10, 200, 30));
             };
             model_.controls.push_back(&control);
         }
@@ -116,12 +116,12 @@ protected:
     platform::Form_Model model_;
     HWND window_ = nullptr;
     std::string heard_;
-    platform::Point moved_to_;
+    Point moved_to_;
 };
 
 TEST_F(Dialog_Contract, The_Form_Hears_What_The_User_Does) {
     const auto twips = [](int pixels) {
-        return std::to_string(platform::Pixels_To_Twips(pixels, platform::Dots_Per_Inch()));
+        return std::to_string(Pixels_To_Twips(pixels, platform::Dots_Per_Inch()));
     };
     const std::pair<std::function<void()>, std::string> cases[] = {
         {[this] { Send(Opt_2, BM_CLICK); }, "click 4 on; "},

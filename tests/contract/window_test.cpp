@@ -1,7 +1,7 @@
 // Where a form's window is, whoever moved it.
+#include "base/twips.h"
 #include "platform/forms.h"
 #include "platform/screen.h"
-#include "platform/twips.h"
 #include "tests/contract/contract.h"
 
 #ifndef _WIN32
@@ -17,11 +17,9 @@ TEST_F(Window_Contract, Its_Place_Is_Where_It_Is_And_It_Can_Be_Put_Back) {
     model.kind = platform::Form_Kind::Painted;
     model.name = "Contract_Painted";
     const auto is_put = [&model](int right = 0, int down = 0) {
-        const auto pixels = [](int twips) {
-            return platform::Twips_To_Pixels(twips, platform::Dots_Per_Inch());
-        };
+        const auto pixels = [](int twips) { return Twips_To_Pixels(twips, platform::Dots_Per_Inch()); };
         return platform::Window_Corner(model) ==
-               platform::Point{pixels(model.bounds.left) + right, pixels(model.bounds.top) + down};
+               Point{pixels(model.bounds.left) + right, pixels(model.bounds.top) + down};
     };
     EXPECT_EQ(platform::Window_Corner(model), std::nullopt);
     for (const bool mirrored : {false, true}) { // the window that it is in, as in the shell's

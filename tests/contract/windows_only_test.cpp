@@ -187,7 +187,7 @@ TEST_F(Windows_Only, Message_Boxes_Show_Their_Text_And_Answer) {
 TEST_F(Windows_Only, Pictures_Are_Loaded_Whole_Or_Not_At_All_And_Scaled_By_Means) {
     const std::string path = Scratch("3.jpg"), whole = Small_Jpeg(5);
     platform::Replace_File(path, whole);
-    const platform::Picture picture = platform::Load_Picture(path);
+    const Picture picture = platform::Load_Picture(path);
     ASSERT_TRUE(picture.width == 10 && picture.height == 6 && picture.pixels);
     EXPECT_EQ(*picture.pixels, std::vector<std::uint8_t>(std::size_t{180}, 168));
     std::string huge = whole, no_scan = whole;
@@ -205,7 +205,7 @@ TEST_F(Windows_Only, Pictures_Are_Loaded_Whole_Or_Not_At_All_And_Scaled_By_Means
     std::vector<std::uint8_t> pixels; // four by two: 0, 10, 20, 30 and 40, 50, 60, 70 of blue
     for (int i = 0; i < 8; ++i)
         pixels.insert(pixels.end(), {static_cast<std::uint8_t>(10 * i), 2, 3});
-    const platform::Picture small{4, 2, std::make_shared<const std::vector<std::uint8_t>>(pixels)};
+    const Picture small{4, 2, std::make_shared<const std::vector<std::uint8_t>>(pixels)};
     std::vector<std::uint32_t> buffer(3 * 2);
     win32::Scale_Picture({buffer.data(), 3, 2}, small, {1, 0, 2, 1});
     EXPECT_EQ(buffer, (std::vector<std::uint32_t>{0, 0x30219, 0x3022D, 0, 0, 0}));

@@ -16,15 +16,15 @@ TEST_F(Position, unknown_codes_and_odd_sizes) {
     placement.form.width = 0;
     placement.work_area.left = INT32_MAX - 10;
     EXPECT_THROW(Position_Of(0, placement), Conversion_Error);
-    EXPECT_EQ(Position_Of(7, placement), (platform::Point{-20, 32767}));
+    EXPECT_EQ(Position_Of(7, placement), (Point{-20, 32767}));
 }
 
 // The task bar on each of the four sides, and a screen to the left of and above the main one.
 TEST_F(Position, stands_beside_the_task_bar_at_any_dots_per_inch) {
     const struct {
         int dots;
-        platform::Rect work_area; // pixels
-        int x[3], y[3];           // twips: left, centred and right; top, centred and by the lowest boxes
+        Rect work_area; // pixels
+        int x[3], y[3]; // twips: left, centred and right; top, centred and by the lowest boxes
     } rows[] = {
         {96, {0, 30, 1280, 994}, {0, 4425, 8850}, {450, 3982, 7785}},
         {96, {62, 0, 1218, 1024}, {930, 4890, 8850}, {0, 3757, 7785}},
@@ -39,9 +39,8 @@ TEST_F(Position, stands_beside_the_task_bar_at_any_dots_per_inch) {
         Desktop().work_area = row.work_area;
         const Placement placement{GetDesktopRect(true), {10350, 7845}, 7500, {-15, -30}};
         for (std::int16_t code = 0; code < 10; ++code) {
-            const platform::Point expected = code == 7
-                                                 ? platform::Point{-15, -30}
-                                                 : platform::Point{row.x[across[code]], row.y[down[code]]};
+            const Point expected =
+                code == 7 ? Point{-15, -30} : Point{row.x[across[code]], row.y[down[code]]};
             EXPECT_EQ(Position_Of(code, placement), expected) << &row - rows << ", code " << code;
         }
     }

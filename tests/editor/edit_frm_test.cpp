@@ -228,7 +228,7 @@ TEST_F(Editor, keeps_its_day_whatever_the_calendar_shows) {
     for (const int day : {1, 15, 31}) { // and it lies beside its box
         Show_Month(3, 2002);
         Open(day);
-        platform::Rect box = Box_Of(day).Bounds();
+        Rect box = Box_Of(day).Bounds();
         box.left += form.Left();
         box.top += form.Top();
         EXPECT_FALSE(box.Intersects(editor.Model().bounds)) << day;

@@ -1,10 +1,10 @@
 // Windows, canvas, timers, screen, menus and the shell without a screen.
 #include "tests/fakes/fake_forms.h"
 
+#include "base/characters.h"
+#include "base/twips.h"
 #include "core/date.h"
-#include "platform/characters.h"
 #include "platform/pictures.h"
-#include "platform/twips.h"
 #include "toolkit/form.h"
 
 #include <algorithm>
@@ -44,7 +44,7 @@ void Fake_Desktop::Advance(unsigned milliseconds) {
     time = std::max(time, end);
 }
 
-platform::Canvas Painted(const Form &form, const platform::Rect &clip) {
+platform::Canvas Painted(const Form &form, const Rect &clip) {
     platform::Canvas canvas;
     form.Model().paint(canvas, clip);
     return canvas;
@@ -53,7 +53,7 @@ platform::Canvas Painted(const Form &form, const platform::Rect &clip) {
 namespace {
 
 void Mouse(Form &form, Input_Kind kind, const Control &control, Mouse_Button button) {
-    const platform::Point middle{control.Width() / 2, control.Height() / 2};
+    const Point middle{control.Width() / 2, control.Height() / 2};
     // Controls of dialogs have windows of their own.
     if (form.Model().kind == platform::Form_Kind::Dialog)
         return Input(form, {.kind = kind, .point = middle, .button = button}, &control);

@@ -17,8 +17,8 @@ class Form;
 struct Canvas_Operation {
     enum class Kind { Fill, Frame, Polygon, Text, Picture };
     Kind kind;
-    platform::Rect rect{};
-    platform::Colour colour = 0;
+    Rect rect{};
+    Colour colour = 0;
     std::string text{};
     platform::Text_Align align = platform::Text_Align::Left;
 };
@@ -37,11 +37,11 @@ struct Told_Change {
 /// The native window of a form.
 struct Fake_Mirror {
     bool shown = false; ///< as of the last thing told
-    std::vector<platform::Rect> clip;
+    std::vector<Rect> clip;
     bool shown_unclipped = false; ///< it was visible before it had a clip
-    std::vector<platform::Point> shape;
-    platform::Point displaced{}; ///< how far others have moved it since it was put where it belongs, pixels
-    bool stuck = false;          ///< and it stays there
+    std::vector<Point> shape;
+    Point displaced{};  ///< how far others have moved it since it was put where it belongs, pixels
+    bool stuck = false; ///< and it stays there
 };
 
 /// A popup menu that a test expects, in its turn.
@@ -58,8 +58,8 @@ struct Fake_Timer {
 
 struct Fake_Desktop {
     int dots_per_inch = 96;
-    platform::Rect work_area{0, 0, 1024, 740};
-    platform::Point mouse;
+    Rect work_area{0, 0, 1024, 740};
+    Point mouse;
     bool button_held = false;
     bool high_contrast = false;
     bool refuses_windows = false; ///< no form gets a native window
@@ -71,14 +71,14 @@ struct Fake_Desktop {
 
     std::map<platform::Timer_Id, Fake_Timer> timers;
     unsigned time = 0;
-    platform::Callback<bool(platform::Broadcast)> listener;
+    Callback<bool(platform::Broadcast)> listener;
     bool loop_ended = false;
     std::deque<std::function<void()>> messages; ///< processed one by one while the program waits
 
     std::deque<Expected_Menu> expected_menus;
     bool menu_open = false;
-    std::optional<platform::Point> menu_at; ///< where the last menu was to open
-    int measured = 0;                       ///< calls of Text_Width
+    std::optional<Point> menu_at; ///< where the last menu was to open
+    int measured = 0;             ///< calls of Text_Width
 
     std::function<int(const std::vector<platform::Menu_Item> &)>
         answer_menu;               ///< for menus that no test expects
@@ -110,7 +110,7 @@ Fake_Shell &Shell();
 void Reset_Desktop();
 
 /// Paints the form as its window would.
-platform::Canvas Painted(const Form &form, const platform::Rect &clip);
+platform::Canvas Painted(const Form &form, const Rect &clip);
 
 /// What a user does; with a control the event is about that one. A disabled or hidden one takes nothing.
 void Input(Form &form, platform::Input_Event event, const Control *control = nullptr);

@@ -2,8 +2,8 @@
 // Forms, screen and shell are in fake_forms.cpp.
 #include "tests/fakes/fakes.h"
 
+#include "base/characters.h"
 #include "core/date.h"
-#include "platform/characters.h"
 #include "platform/files.h"
 #include "platform/locale.h"
 #include "platform/message_loop.h"

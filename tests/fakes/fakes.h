@@ -63,9 +63,9 @@ struct Fake_System {
     int reads = 0;                               ///< calls of Read_File, failed ones too
     int writes = 0;                              ///< calls of Replace_File, failed ones too
 
-    std::map<std::string, platform::Picture, Name_Less> pictures; ///< path to what is loaded from it
-    int loads = 0;                                                ///< calls of Load_Picture
-    std::vector<std::string> wallpapers;                          ///< all that were set
+    std::map<std::string, Picture, Name_Less> pictures; ///< path to what is loaded from it
+    int loads = 0;                                      ///< calls of Load_Picture
+    std::vector<std::string> wallpapers;                ///< all that were set
     bool wallpaper_ordered = false; ///< the last one does not hang yet, and would not if the program ended
 
     /// Key, "\" and value name to text; of HKEY_LOCAL_MACHINE with "HKLM\" before.

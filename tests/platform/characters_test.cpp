@@ -1,5 +1,5 @@
 // Which bytes are UTF-8, and where a character that the user sees begins.
-#include "platform/characters.h"
+#include "base/characters.h"
 
 #include <gtest/gtest.h>
 #include <vector>
@@ -36,10 +36,10 @@ TEST(Characters, Are_Whole_And_Of_Well_Formed_Bytes) {
             valid = valid && (character.size() > 1 || character[0] >= 0);
         }
         for (const std::string &beside : {std::string(), std::string(63, 'x'), std::string(200, 'x')})
-            EXPECT_EQ(platform::Is_Utf8(beside + text + beside), valid) << text;
+            EXPECT_EQ(Is_Utf8(beside + text + beside), valid) << text;
         std::size_t end = text.size();
         for (std::size_t i = row.size(); i-- > 0;) {
-            const std::size_t begin = platform::Previous_Character(text, end);
+            const std::size_t begin = Previous_Character(text, end);
             EXPECT_EQ(begin, end - row[i].size()) << text << ", character " << i;
             end -= row[i].size();
         }

@@ -1,5 +1,5 @@
 // What of a JPEG file is looked at before it is decoded.
-#include "platform/jpeg.h"
+#include "base/jpeg.h"
 #include "tests/contract/small_jpeg.h"
 
 #include <gtest/gtest.h>
@@ -10,13 +10,13 @@ TEST(Jpeg, Whole_Files_Tell_Their_Size_And_Parts_Of_Them_Nothing) {
     // A stuffed byte and a restart in the scan, a second scan, fill bytes, more behind.
     for (const std::string &rest :
          {end, "\xFF\0\xFF\xD3"s + end, "\xFF\xDA\0\x03x"s + end, "\xFF\xFF" + end, end + "more"})
-        EXPECT_EQ(platform::Jpeg_Size(start + rest), (platform::Size{10, 6}));
+        EXPECT_EQ(Jpeg_Size(start + rest), (Size{10, 6}));
     // A second frame, a start within, a segment shorter than its length.
     for (const std::string &rest : {whole.substr(71, 13), "\xFF\xD8"s, "\xFF\xFE\0\x01"s})
-        EXPECT_FALSE(platform::Jpeg_Size(start + rest + end)) << rest;
+        EXPECT_FALSE(Jpeg_Size(start + rest + end)) << rest;
     for (std::size_t length = 0; length < whole.size(); ++length)
-        EXPECT_FALSE(platform::Jpeg_Size(whole.substr(0, length))) << length;
+        EXPECT_FALSE(Jpeg_Size(whole.substr(0, length))) << length;
     std::string flat = whole;
     flat[71 + 6] = '\0';
-    EXPECT_FALSE(platform::Jpeg_Size(flat));
+    EXPECT_FALSE(Jpeg_Size(flat));
 }

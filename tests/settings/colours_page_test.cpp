@@ -17,8 +17,8 @@ protected:
     }
 
     /// The swatches in the order of the selector.
-    std::vector<platform::Colour> Swatches() {
-        std::vector<platform::Colour> colours;
+    std::vector<Colour> Swatches() {
+        std::vector<Colour> colours;
         for (const Picture_Box *box : {&page.Col_Today_Pic, &page.Col_Normal_Pic, &page.Col_Num_Pic,
                                        &page.Col_Text_Pic, &page.Col_Back_Pic, &page.Col_Fore_Pic})
             colours.push_back(box->Back_Colour());
@@ -34,11 +34,11 @@ protected:
 };
 
 TEST_F(Colours, a_colour_is_shown_as_numbers_and_by_name) {
-    const std::pair<platform::Colour, std::string> rows[] = {
+    const std::pair<Colour, std::string> rows[] = {
         {0x000A09FF, "657919 #FF09A 255,9,10 "},
         {0x00C71585, "13047173 #8515C7 133,21,199 "},
         {0x00000000, "0 #000000 0,0,0 Black"},
-        {platform::System_Colour(5), "12632256 #C0C0C0 192,192,192 Silver"},
+        {System_Colour(5), "12632256 #C0C0C0 192,192,192 Silver"},
     };
     for (const auto &[colour, shown] : rows) {
         page.ShowColors(colour);
@@ -49,9 +49,9 @@ TEST_F(Colours, a_colour_is_shown_as_numbers_and_by_name) {
 }
 
 TEST_F(Colours, the_selected_swatch_takes_what_is_picked_and_keeps_a_system_colour_otherwise) {
-    const std::vector<platform::Colour> first = Swatches();
+    const std::vector<Colour> first = Swatches();
     Click(dialog, page.Pal); // to the swatch of today
-    const platform::Colour picked = page.Col_Today_Pic.Back_Colour();
+    const Colour picked = page.Col_Today_Pic.Back_Colour();
     EXPECT_TRUE(std::to_string(picked) == page.txCol[0].Text() && picked != first[0]);
     EXPECT_EQ(page.Preview_Today_Lbl.State().back_colour, picked);
     Push(dialog, page.Col_Text_Pic); // the space bar
@@ -99,14 +99,14 @@ TEST_F(Colours, the_mouse_shows_colours_and_its_release_picks_the_last_one) {
 }
 
 TEST(Palette, the_picture_is_the_formula_and_goes_through_all_hues) {
-    const platform::Size size{120, 41};
-    const platform::Picture picture = Palette_Picture(size);
+    const Size size{120, 41};
+    const Picture picture = Palette_Picture(size);
     const auto last = picture.pixels->end() - 3 * 86;
-    EXPECT_EQ(Palette_Colour({34, 40}, size), platform::Rgb(last[2], last[1], last[0]));
+    EXPECT_EQ(Palette_Colour({34, 40}, size), Rgb(last[2], last[1], last[0]));
     // The pure hues are half way down; the last tenth is grey.
     const int colours[] = {0x0000FF, 0x00FFFF, 0x00FF00, 0xFFFF00, 0xFF0000, 0xFF00FF};
     for (int i = 0; i < 6; ++i) {
-        const platform::Colour seen = Palette_Colour({(i * 110 + 5) / 6, 20}, size);
+        const Colour seen = Palette_Colour({(i * 110 + 5) / 6, 20}, size);
         for (const int shift : {0, 8})
             EXPECT_LT(std::abs(((seen >> shift) & 0xFF) - ((colours[i] >> shift) & 0xFF)), 15) << i;
     }

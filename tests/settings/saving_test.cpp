@@ -34,7 +34,7 @@ TEST_F(Saving, the_calendar_follows_at_once_also_without_a_store) {
               "Bar Time Format=H:mm|Other Display Mode=0|Style=1|Use Other Display Mode=False|");
     Fakes().registry_refuses_writes = true;
     Colours_Page &colours = dialog->Colours;
-    platform::Colour colour = 0;
+    Colour colour = 0;
     for (Picture_Box *swatch : {&colours.Col_Normal_Pic, &colours.Col_Today_Pic, &colours.Col_Num_Pic,
                                 &colours.Col_Text_Pic, &colours.Col_Back_Pic, &colours.Col_Fore_Pic}) {
         swatch->Set_Back_Colour(++colour);
@@ -43,7 +43,7 @@ TEST_F(Saving, the_calendar_follows_at_once_also_without_a_store) {
     EXPECT_EQ((std::vector{Box_Of(6).Back_Colour(), Box_Of(5).Back_Colour(), Box_Of(6).Fore_Colour(),
                            form.Box_Caption_Lbl[3].Fore_Colour(), form.Back_Colour(),
                            form.Which_Month_Lbl.Fore_Colour()}),
-              (std::vector<platform::Colour>{1, 2, 3, 4, 5, 6}));
+              (std::vector<Colour>{1, 2, 3, 4, 5, 6}));
     for (Option_Button *option : {&colours.Col_Sys_Opt, &colours.Col_Other_Opt}) {
         option->Set_Checked(true);
         dialog->Save_Colours();

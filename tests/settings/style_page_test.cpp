@@ -19,10 +19,10 @@ protected:
     }
 
     /// What the miniature draws first after the desktop: the title of the calendar, in pixels of the screen.
-    platform::Rect Title() {
+    Rect Title() {
         platform::Canvas canvas;
         page.Pos_Preview_Img.State().paint(canvas, page.Pos_Preview_Img.Bounds());
-        const platform::Rect small = canvas.operations[2].rect;
+        const Rect small = canvas.operations[2].rect;
         const auto whole = [this](int twips) { return twips * 1024 / page.Pos_Preview_Img.Width(); };
         return {whole(small.left), whole(small.top), whole(small.width), whole(small.height)};
     }
@@ -88,7 +88,7 @@ TEST_F(Style, the_miniature_shows_the_calendar_where_it_will_be) {
             look.style = style;
             look.position = position;
             page.Set_Theme(look);
-            const platform::Rect title = Title();
+            const Rect title = Title();
             EXPECT_NEAR(title.left, form.Left() / 15, 1);
             EXPECT_NEAR(title.top, form.Top() / 15, 2);
             EXPECT_NEAR(title.width, form.Width() / 15, 2);

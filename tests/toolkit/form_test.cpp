@@ -28,7 +28,7 @@ struct Test_Form : Form {
 
     void Record(Label &label) {
         const auto logged = [this, &label](const char *what) {
-            return [this, &label, what](Mouse_Button, platform::Point at) {
+            return [this, &label, what](Mouse_Button, Point at) {
                 log += label.Name() + " " + what + " " + std::to_string(at.x) + "; ";
             };
         };
@@ -114,7 +114,7 @@ TEST_F(Form_Test, the_mirror_is_told_of_the_program_s_changes_only_and_only_whil
 TEST_F(Form_Test, a_window_that_was_lost_or_refused_is_made_by_the_next_show) {
     Test_Form form;
     Desktop().refuses_windows = true;
-    EXPECT_THROW(form.Show(), platform::Error);
+    EXPECT_THROW(form.Show(), Error);
     EXPECT_FALSE(form.Visible());
     form.Set_Title("nobody is told");
     Desktop().refuses_windows = false;
@@ -134,7 +134,7 @@ TEST_F(Form_Test, a_handler_may_end_its_own_form) {
             form.reset();
             EXPECT_EQ(kept, 100); // the running handler itself is still whole
         };
-        form->Low.On_Mouse_Down = [&form](Mouse_Button, platform::Point) { Fire(form->On_Close); };
+        form->Low.On_Mouse_Down = [&form](Mouse_Button, Point) { Fire(form->On_Close); };
         form->Send(kind, 10);
         EXPECT_TRUE(form == nullptr && Desktop().mirrors.empty());
     }
@@ -143,8 +143,8 @@ TEST_F(Form_Test, a_handler_may_end_its_own_form) {
 TEST_F(Form_Test, an_exception_of_a_handler_is_told_and_goes_no_further) {
     constexpr const char *unnamed = "Something went wrong, and the last action was not completed.";
     const std::pair<Handler<>, const char *> rows[] = {
-        {[] { throw platform::Error("It broke."); }, "It broke."},
-        {[] { throw platform::Error(""); }, unnamed},
+        {[] { throw Error("It broke."); }, "It broke."},
+        {[] { throw Error(""); }, unnamed},
         {[] { throw 7; }, unnamed},
         {[] { throw std::bad_alloc(); }, "There is not enough memory for this."},
     };

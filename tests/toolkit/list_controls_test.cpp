@@ -30,7 +30,7 @@ struct Dialog : Form {
 
 class List_Controls : public Form_Test {
 protected:
-    void Mouse_Up_At(platform::Point point) {
+    void Mouse_Up_At(Point point) {
         Input(form, {.kind = Input_Kind::Mouse_Up, .point = point, .button = Mouse_Button::Left},
               &form.picture);
     }
@@ -83,7 +83,7 @@ TEST_F(List_Controls, hidden_and_disabled_frames_take_nothing_for_what_they_hold
 }
 
 TEST_F(List_Controls, a_painted_control_is_clicked_where_it_is_released_inside) {
-    for (const platform::Point point : {platform::Point{0, 0}, {299, 299}, {300, 10}, {-1, 10}}) {
+    for (const Point point : {Point{0, 0}, {299, 299}, {300, 10}, {-1, 10}}) {
         Press(form, form.picture);
         Mouse_Up_At(point);
     }

@@ -15,7 +15,7 @@ struct Painted_Form : Form {
     }
 
     /// Kind and upper edge of the operations after the background's.
-    std::string Shape(const platform::Rect &clip) {
+    std::string Shape(const Rect &clip) {
         drawn = Painted(*this, clip).operations;
         std::string shape;
         for (std::size_t i = 1; i < drawn.size(); ++i) {
@@ -38,7 +38,7 @@ TEST_F(Form_Test, painting_covers_the_visible_labels_within_the_clip_and_cuts_ca
     EXPECT_EQ(form.Shape({0, 0, 1000, 1000}),
               "fill @0; frame @0; frame @0; text a@0; text 1@20; text 3@500; ");
     EXPECT_EQ(form.Shape({600, 0, 10, 1000}), "text 1@20; text 3@500; ");
-    EXPECT_EQ(form.drawn.at(1).rect, (platform::Rect{520, 20, 460, 240}));
+    EXPECT_EQ(form.drawn.at(1).rect, (Rect{520, 20, 460, 240}));
     EXPECT_EQ(form.drawn.at(2).rect.height, 100);
     form.B_Lbl.Set_Caption("one\ntwo");
     form.B_Lbl.Set_Align(platform::Text_Align::Centre, true);

@@ -3,8 +3,6 @@
 #include "ui/wrap_text.h"
 
 using platform::Input_Kind;
-using platform::Point;
-using platform::Rect;
 
 namespace {
 

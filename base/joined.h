@@ -5,8 +5,6 @@
 #include <string>
 #include <string_view>
 
-namespace platform {
-
 /// The parts one behind the other. A chain of "+" makes a string, and the code that takes it down again, at
 /// each of its steps.
 inline std::string Joined(std::initializer_list<std::string_view> parts) {
@@ -15,5 +13,3 @@ inline std::string Joined(std::initializer_list<std::string_view> parts) {
         text += part;
     return text;
 }
-
-} // namespace platform

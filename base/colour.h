@@ -3,8 +3,6 @@
 
 #include <cstdint>
 
-namespace platform {
-
 /// A Windows colour value 0x00BBGGRR; with the top bit set, 0x80000000 + n, it names system colour n and
 /// follows the user's choice of Windows colours.
 using Colour = std::int32_t;
@@ -16,8 +14,3 @@ constexpr Colour Rgb(int red, int green, int blue) {
 constexpr Colour System_Colour(int number) {
     return static_cast<Colour>(0x80000000U + static_cast<std::uint32_t>(number));
 }
-
-/// The plain 0x00BBGGRR value behind `colour`: a system colour is looked up now.
-Colour Resolve_Colour(Colour colour);
-
-} // namespace platform

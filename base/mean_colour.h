@@ -2,13 +2,11 @@
 // their colour. Where the copy goes is not here.
 #pragma once
 
-#include "platform/pictures.h"
+#include "base/picture.h"
 
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
-
-namespace platform {
 
 /// The pixels from `begin` to before `end` of a row or column of a picture.
 struct Span {
@@ -42,5 +40,3 @@ inline std::uint32_t Mean_Colour(const Picture &picture, Span columns, Span rows
                        static_cast<std::uint64_t>(rows.end - rows.begin);
     return static_cast<std::uint32_t>(red / count << 16U | green / count << 8U | blue / count);
 }
-
-} // namespace platform

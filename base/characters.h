@@ -9,8 +9,6 @@
 #include <string>
 #include <string_view>
 
-namespace platform {
-
 /// What stands for bytes that are no character.
 constexpr std::uint32_t No_Character = 0xFFFFFFFF;
 
@@ -172,5 +170,3 @@ inline std::size_t Previous_Character(std::string_view text, std::size_t end) {
     }
     return step.begin;
 }
-
-} // namespace platform

@@ -3,8 +3,6 @@
 
 #include <string>
 
-namespace platform {
-
 /// `text` with a blank for each line break: CR, LF or both.
 template <typename Unit>
 std::basic_string<Unit> Without_Line_Breaks(std::basic_string<Unit> text) {
@@ -17,5 +15,3 @@ std::basic_string<Unit> Without_Line_Breaks(std::basic_string<Unit> text) {
     text.resize(kept);
     return text;
 }
-
-} // namespace platform

@@ -7,8 +7,6 @@
 #include <new>
 #include <type_traits>
 
-namespace platform {
-
 template <typename Signature>
 class Callback;
 
@@ -59,5 +57,3 @@ private:
     const void *held_;
     Result (*run_)(const void *held, Params... params);
 };
-
-} // namespace platform

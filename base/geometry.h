@@ -2,8 +2,6 @@
 // used: twips on forms and in settings, pixels on the screen.
 #pragma once
 
-namespace platform {
-
 struct Point {
     int x = 0;
     int y = 0;
@@ -31,5 +29,3 @@ struct Rect {
     }
     friend bool operator==(const Rect &, const Rect &) = default;
 };
-
-} // namespace platform

@@ -5,8 +5,6 @@
 #include <string>
 #include <string_view>
 
-namespace platform {
-
 /// An error that can be told to the user in the words of what().
 class Error : public std::exception {
 public:
@@ -17,5 +15,3 @@ public:
 private:
     std::string text_;
 };
-
-} // namespace platform

@@ -4,8 +4,6 @@
 #include <algorithm>
 #include <cstdint>
 
-namespace platform {
-
 constexpr int Twips_Per_Inch = 1440;
 
 /// `value` * `factor` / `divisor` to the nearest whole number; `factor` and `divisor` are positive. A half
@@ -35,5 +33,3 @@ inline int Twips_To_Pixels(int twips, int dots) {
 inline int Pixels_To_Twips(int pixels, int dots) {
     return Scale_Nearest(pixels, Twips_Per_Inch, dots);
 }
-
-} // namespace platform

@@ -2,14 +2,12 @@
 // here.
 #pragma once
 
-#include "platform/geometry.h"
+#include "base/geometry.h"
 
 #include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string_view>
-
-namespace platform {
 
 /// The size in pixels that the file's only frame header tells. Nothing when the bytes are no JPEG file, break
 /// off before its end marker, or tell no size or two.
@@ -54,5 +52,3 @@ inline std::optional<Size> Jpeg_Size(std::string_view bytes) {
         }
     }
 }
-
-} // namespace platform
