@@ -51,7 +51,7 @@ bool Reads_Back_Plain(std::string_view item) {
 
 Sequential_Reader::Sequential_Reader(std::string_view bytes) {
     if (bytes.starts_with("\xFF\xFE") || bytes.starts_with("\xFE\xFF"))
-        throw No_Text_Error("the text is UTF-16");
+        throw Sequential_Error("the text is UTF-16");
     if (bytes.starts_with(byte_order_mark))
         bytes.remove_prefix(byte_order_mark.size());
     at_ = looked_to_ = bytes.data();
@@ -91,7 +91,7 @@ std::string_view Sequential_Reader::Take_Plain() {
         --last;
     const std::string_view item(begin, static_cast<std::size_t>(last - begin));
     if (item.find('\0') != std::string_view::npos)
-        throw No_Text_Error("there is a NUL outside of quotes");
+        throw Sequential_Error("there is a NUL outside of quotes");
     return item;
 }
 

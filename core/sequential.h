@@ -7,16 +7,11 @@
 #include <string>
 #include <string_view>
 
-/// A quoted item has no closing quote, or an item cannot be written.
+/// A quoted item has no closing quote, an item cannot be written, or the bytes are not text: UTF-16, or with
+/// a NUL outside of quotes.
 class Sequential_Error : public Error {
 public:
     using Error::Error;
-};
-
-/// The bytes are no text that this program or an older one writes, but UTF-16 or no text at all.
-class No_Text_Error : public Sequential_Error {
-public:
-    using Sequential_Error::Sequential_Error;
 };
 
 /// Walks over the bytes of a file once. An item ends at a comma or a line end (CR LF, LF or CR); blanks
@@ -27,11 +22,11 @@ public:
 /// text of the system's ANSI code page. The bytes must outlive the reader.
 class Sequential_Reader {
 public:
-    /// Throws No_Text_Error for bytes with a byte-order mark of UTF-16.
+    /// Throws Sequential_Error for bytes with a byte-order mark of UTF-16.
     explicit Sequential_Reader(std::string_view bytes);
 
     /// The next item in `item`, as a view that is good until the next call; false at the end. Throws
-    /// Sequential_Error, of a NUL outside of quotes No_Text_Error.
+    /// Sequential_Error.
     bool Next(std::string_view &item);
 
 private:

@@ -24,20 +24,6 @@ platform::Box_Answer Tell(std::string_view text, platform::Box_Icon icon,
     return platform::Message_Box(text, "Vellatro", icon, buttons);
 }
 
-/// Throws No_Text_Error for a file of which no event could be read, as one in UTF-16: nobody can want it in
-/// the place of his own. What else may be wrong with it is not looked at.
-void Demand_Text(const std::string &path) {
-    const std::string bytes = platform::Read_File(path);
-    try {
-        Sequential_Reader reader(bytes);
-        for (std::string_view item; reader.Next(item);) {
-        }
-    } catch (const No_Text_Error &) {
-        throw;
-    } catch (const Sequential_Error &) { // an open quote, behind which no more can be told
-    }
-}
-
 /// Copies the data file to data.bak. Returns whether there is one.
 bool Backup_Data() {
     if (!platform::File_Exists(Event_Store::Data_File()))
@@ -272,7 +258,6 @@ void Importer::Import_Data_File() {
     try {
         if (!Ask_File("Import Data File", "Data File (calendar.dat)|*.dat", true))
             return;
-        Demand_Text(dialog_.FileName);
         if (May_Replace()) {
             platform::Copy_File(dialog_.FileName, Event_Store::Data_File());
             Data_File_Replaced();

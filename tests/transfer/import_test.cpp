@@ -251,9 +251,6 @@ TEST_F(Importing, replaces_the_data_file_when_the_user_agrees) {
         EXPECT_EQ(Text_Of(6), has_one ? "Newer" : "New");
         EXPECT_EQ(dialog->Events.Events_Lst.Items(), std::vector<std::string>{"6/3/2002  -  " + Text_Of(6)});
     }
-    File("C:\\other.dat") = std::string("\"\0006\0\"\0", 6); // UTF-16 without a mark
-    Import(0, "C:\\other.dat", "Error when importing data file.");
-    EXPECT_EQ(Data_File(), "\"6/3/2002=Newer\"\r\n");
 }
 
 } // namespace
