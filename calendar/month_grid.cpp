@@ -76,6 +76,9 @@ void Main_Frm::Hide_Misc_Boxes() {
 }
 
 void Main_Frm::Mark_Today() {
+    // The boxes are those of another month until compact mode ends.
+    if (stale_)
+        return;
     const Date today = Today();
     Describe_Boxes();
     if (today.month != Cur_Month || today.year != Cur_Year)
