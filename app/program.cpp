@@ -56,4 +56,8 @@ void Connect_Settings(Main_Frm &calendar, std::unique_ptr<Settings_Frm> &setting
             settings->Form_Unload();
     };
     calendar.Settings_Visible = [&settings] { return settings && settings->Visible(); };
+    calendar.Event_Saved = [&settings] {
+        if (settings && settings->Visible())
+            settings->Events.Follow_File();
+    };
 }

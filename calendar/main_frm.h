@@ -59,6 +59,7 @@ public:
     Callback<void()> Open_Settings;
     Callback<void()> Close_Settings; ///< at the end, whatever is in it
     Callback<bool()> Settings_Visible;
+    Callback<void()> Event_Saved; ///< the data file is another one now
 
     /// Whether the program may end now; asks for unsaved text first.
     bool May_End() const;

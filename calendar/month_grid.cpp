@@ -76,6 +76,9 @@ void Main_Frm::Hide_Misc_Boxes() {
 }
 
 void Main_Frm::Mark_Today() {
+    // The boxes are those of another month until compact mode ends.
+    if (stale_)
+        return;
     const Date today = Today();
     Describe_Boxes();
     if (today.month != Cur_Month || today.year != Cur_Year)
@@ -128,6 +131,8 @@ void Main_Frm::Enter_Date(std::string_view record, const Date &today) {
 }
 
 void Main_Frm::Show_Saved(const Date &date, std::string_view text) {
+    if (Event_Saved)
+        Event_Saved();
     if (date.month != Cur_Month)
         return;
     const int index = Start_Box(Cur_Month, Cur_Year) + date.day - 1;

@@ -3,6 +3,7 @@
 #include "calendar/main_frm.h"
 #include "core/convert.h"
 #include "core/settings.h"
+#include "desktop/position.h"
 #include "desktop/wallpaper.h"
 #include "themes/theme_pack.h"
 
@@ -58,6 +59,9 @@ void Main_Frm::Preview_Wallpaper_Stuff(const std::string &pack, std::int16_t mon
         Theme_BoxStyle = number(Get_Paper_BoxStyle(details), "box style");
     if (Cur_Settings.Use_Theme_Pos == 1)
         Theme_Pos = number(Get_Paper_Pos(details), "position");
+    // It would leave the calendar where the month or the pack before has put it.
+    if (Theme_Pos && !Is_Position(*Theme_Pos))
+        Theme_Pos.reset();
     const std::string path = Get_Paper_Path(month, pack);
     if (path == Theme_Error)
         return;

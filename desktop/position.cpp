@@ -53,8 +53,12 @@ int Coordinate(Rule rule, std::int64_t work_begin, std::int64_t work_length, std
 
 } // namespace
 
+bool Is_Position(std::int16_t code) {
+    return code >= 0 && code < static_cast<std::int16_t>(std::size(code_rows));
+}
+
 std::optional<Point> Position_Of(std::int16_t code, const Placement &placement) {
-    if (code < 0 || code >= static_cast<std::int16_t>(std::size(code_rows)))
+    if (!Is_Position(code))
         return std::nullopt;
     const Code_Row row = code_rows[code];
     const Rect &work = placement.work_area;

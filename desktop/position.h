@@ -32,6 +32,9 @@ struct Placement {
     Point manual;
 };
 
+/// Returns whether a number is a position code.
+bool Is_Position(std::int16_t code);
+
 /// The window's left top corner for a position code, nothing for a number that is no code. Throws
 /// Conversion_Error (core/convert.h) when a figure leaves 32 bits.
 std::optional<Point> Position_Of(std::int16_t code, const Placement &placement);

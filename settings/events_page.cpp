@@ -99,6 +99,13 @@ void Events_Page::Reload() {
     Get_Stats();
 }
 
+void Events_Page::Follow_File() {
+    if (staged_)
+        Get_Stats();
+    else
+        Reload();
+}
+
 void Events_Page::Show_Imported(std::vector<Sort_Entry> staged) {
     Dates_Lst = std::move(staged);
     staged_ = true;
@@ -160,17 +167,21 @@ void Events_Page::Events_Lst_KeyDown(const platform::Input_Event &event) {
 }
 
 void Events_Page::Events_Lst_DblClick() {
-    const int index = Events_Lst.Selected();
-    if (index == -1)
+    if (Events_Lst.Selected() == -1)
         return;
-    const auto line = static_cast<std::size_t>(index);
+    auto line = static_cast<std::size_t>(Events_Lst.Selected());
+    const std::string asked = Events_Lst.Items()[line];
     const platform::Box_Answer answer =
-        platform::Message_Box("Do you really want to remove the event..\r\n\r\n" + Events_Lst.Items()[line],
-                              "Vellatro", platform::Box_Icon::Question, platform::Box_Buttons::Yes_No_Cancel);
-    if (answer != platform::Box_Answer::Yes || !Remove_Event(line))
+        platform::Message_Box("Do you really want to remove the event..\r\n\r\n" + asked, "Vellatro",
+                              platform::Box_Icon::Question, platform::Box_Buttons::Yes_No_Cancel);
+    // The events may have been listed anew under the question.
+    const std::vector<std::string> &lines = Events_Lst.Items();
+    if (line >= lines.size() || lines[line] != asked)
+        line = static_cast<std::size_t>(std::ranges::find(lines, asked) - lines.begin());
+    if (answer != platform::Box_Answer::Yes || line == lines.size() || !Remove_Event(line))
         return;
     // The line that is in its place now is the selected one, for who goes on by keyboard.
-    Events_Lst.Select(std::min(index, static_cast<int>(Events_Lst.Items().size()) - 1));
+    Events_Lst.Select(std::min(static_cast<int>(line), static_cast<int>(lines.size()) - 1));
     Events_Lst_Click();
     // A compact calendar shows no event; it lays its month out anew when it expands.
     if (!calendar_.Compacted)

@@ -27,6 +27,9 @@ public:
     /// Lists and counts the events of the data file anew.
     void Reload();
 
+    /// The same after a change from elsewhere, which leaves the list of imported events.
+    void Follow_File();
+
     /// Lists these events, in their order, instead of what is listed. The next choice on the page lists the
     /// data file's again.
     void Show_Imported(std::vector<Sort_Entry> staged);

@@ -4,6 +4,7 @@
 #include "core/convert.h"
 #include "core/date.h"
 #include "core/settings.h"
+#include "desktop/position.h"
 #include "platform/files.h"
 #include "platform/locale.h"
 #include "platform/message_box.h"
@@ -316,6 +317,8 @@ Style_Page::Theme_Look Wallpaper_Page::Look() const {
         look.style = Int16_Of(Get_Paper_BoxStyle(todays_details_));
     if (look.rules_position)
         look.position = Int16_Of(Get_Paper_Pos(todays_details_));
+    if (look.position && !Is_Position(*look.position))
+        look.position.reset();
     look.picture = todays_.picture;
     return look;
 }

@@ -37,16 +37,17 @@ class Backup {
 public:
     explicit Backup(std::vector<std::string> &records)
         : records_(records), before_(records), file_was_there_(Backup_Data()) {}
-    /// Makes the records and the data file what they were; the copy goes. Where there was no file, there is
-    /// none again; a copy that an earlier import has left does not come back then, but stays: it may be all
-    /// that the user has.
-    void Restore() const {
+    /// Makes the records what they were, and the data file, if the import `may_have_written` it; the copy
+    /// goes. Where there was no file, there is none again; a copy that an earlier import has left does not
+    /// come back then, but stays: it may be all that the user has.
+    void Restore(bool may_have_written) const {
         records_ = before_;
         if (!file_was_there_) {
-            if (platform::File_Exists(Event_Store::Data_File()))
+            if (may_have_written && platform::File_Exists(Event_Store::Data_File()))
                 platform::Delete_File(Event_Store::Data_File());
         } else if (platform::File_Exists(Importer::Backup_File())) {
-            platform::Copy_File(Importer::Backup_File(), Event_Store::Data_File());
+            if (may_have_written)
+                platform::Copy_File(Importer::Backup_File(), Event_Store::Data_File());
             platform::Delete_File(Importer::Backup_File());
         }
     }
@@ -104,6 +105,7 @@ void Importer::Import_CSV() {
     std::optional<Backup> backup;
     std::vector<Sort_Entry> staged;
     bool listed = true; // nothing is to be listed before a file is chosen
+    bool merging = false;
     try {
         backup.emplace(calendar_.Events.Temp_Lst);
         if (!Ask_File("Import Events from CSV File", "Comma Separated Values File (*.csv)|*.csv", false))
@@ -111,6 +113,9 @@ void Importer::Import_CSV() {
         Work.Begin();
         listed = false;
         Read_Events(platform::Read_File(dialog_.FileName), staged);
+        // Anew: a session that was about to end may have had a text stored since.
+        backup.emplace(calendar_.Events.Temp_Lst);
+        merging = true;
         Merge_Imported(staged);
         const std::size_t count = staged.size();
         listed = true;
@@ -124,7 +129,7 @@ void Importer::Import_CSV() {
         try {
             // A copy that could not be made may be an older one, which is not to come back.
             if (backup)
-                backup->Restore();
+                backup->Restore(merging);
         } catch (const std::exception &) { // the copy stays, for whoever looks
         }
         if (!listed) { // the events before the error, beside the counts of the restored file

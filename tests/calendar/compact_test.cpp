@@ -77,12 +77,14 @@ TEST_F(Compact_Mode, nothing_shows_a_box_and_the_month_comes_back_as_it_is_then)
     Input(form, {.kind = platform::Input_Kind::Dots_Changed});
     Fakes().now = {2002, 5, 3, 0, 0, 0, 0};
     Desktop().Say(platform::Broadcast::Time_Changed);
+    Desktop().Say(platform::Broadcast::Colours_Changed);
     Expect_State(true);
     EXPECT_EQ(form.Which_Month_Lbl.Caption(), "3rd May - 2002");
     Fakes().Expect_Box("Today: 3/5/2002\r\nMay");
     Press_Key(form, 123);
     Expect_State(false);
-    EXPECT_EQ(form.Day_Lbl[0].Caption() + Box_Of(3).Caption() + Text_Of(3), "Mon 3May");
+    EXPECT_EQ(form.Day_Lbl[0].Caption() + Box_Of(3).Caption() + Text_Of(3) + Box_Of(1).Access().name,
+              "Mon 3MayWednesday 1st May 2002");
 }
 
 } // namespace

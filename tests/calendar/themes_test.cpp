@@ -66,7 +66,7 @@ TEST_F(Themes, A_Faulty_Pack_Is_Told_Once_A_Day_And_The_Calendar_Lives) {
     } cases[] = {{"", in + "box style of month 3 is \"" + number, 1, 8},
                  {"3=0-32768-1", in + "position of month 3 is \"32768" + number, 0, 8},
                  {"3=x-1", in + "box style of month 3 is \"x" + number, 1, 1},
-                 {"3=0-2-1", In_Pack("3.jpg") + " cannot be loaded", 0, 2}};
+                 {"3=0-42-1", In_Pack("3.jpg") + " cannot be loaded", 0, 8}};
     Stored("Alignment") = "8";
     Fakes().pictures.erase(In_Pack("3.jpg"));
     Fakes().files[In_Pack("3.bmp")] = "made before";

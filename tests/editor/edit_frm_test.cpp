@@ -185,7 +185,18 @@ TEST_F(Editor, waits_for_the_end_of_the_settings_and_is_asked_for_meanwhile) {
     EXPECT_EQ(Desktop().front, &settings->Model());
     Push(*settings, settings->Cancel_Btn);
     EXPECT_TRUE(editor.Model().enabled && Records().empty());
-    Push(editor, editor.Ok_Btn);
+    Cur_Settings.Settings_Tab = Settings_Frm::transfer_fra + 1;
+    form.Open_Settings();
+    // Stored in the middle of an import, which then fails.
+    Fakes().files["C:\\in.csv"] = "none";
+    Fakes().Expect_Dialog("Import Events from CSV File", "C:\\in.csv");
+    Fakes().Expect_Box("Invalid CSV file or missing required headings.", Box_Answer::Ok, [&settings] {
+        Fakes().Expect_Box(question, Box_Answer::Yes);
+        EXPECT_TRUE(Desktop().Say(Broadcast::Session_Ends));
+        EXPECT_EQ(settings->Events.Events_Lst.Items().size(), 1U);
+        Fakes().Expect_Box("Error when importing from CSV file.");
+    });
+    Push(*settings, settings->Transfer.Import_Btn[2]);
     EXPECT_EQ(Records(), "5/3/2002=new|");
 }
 
