@@ -11,6 +11,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 /// What the calendar tells assistive technology of one of its parts.
@@ -40,6 +41,8 @@ inline std::unique_ptr<const Picture> Bare_Screen;
 // What a hand does, wherever the mouse and the keyboard are.
 POINT Middle(const RECT &place);
 void Send_Mouse(POINT point, DWORD flags);      ///< MOUSEEVENTF_LEFTDOWN and its like; 0: moves only
+/// The same for several steps at one moment, however busy the machine is.
+void Send_Mouse(const std::vector<std::pair<POINT, DWORD>> &steps);
 void Send_Key(WORD key, bool with_alt = false); ///< down and up
 void Send_Text(std::string_view ascii);
 /// Clicks into the middle of a dialog's control, once nothing covers it, and waits for the effect.

@@ -35,13 +35,20 @@ POINT Middle(const RECT &place) {
 
 // Place and button in one event: what X tells late of an earlier place would move a mouse that is there
 // already.
+void Send_Mouse(const std::vector<std::pair<POINT, DWORD>> &steps) {
+    std::vector<INPUT> inputs;
+    for (const auto &[point, flags] : steps) {
+        INPUT &input = inputs.emplace_back();
+        input.type = INPUT_MOUSE;
+        input.mi.dx = (point.x * 65536 + 65535) / GetSystemMetrics(SM_CXSCREEN);
+        input.mi.dy = (point.y * 65536 + 65535) / GetSystemMetrics(SM_CYSCREEN);
+        input.mi.dwFlags = MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE | flags;
+    }
+    SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
+}
+
 void Send_Mouse(POINT point, DWORD flags) {
-    INPUT input{};
-    input.type = INPUT_MOUSE;
-    input.mi.dx = (point.x * 65536 + 65535) / GetSystemMetrics(SM_CXSCREEN);
-    input.mi.dy = (point.y * 65536 + 65535) / GetSystemMetrics(SM_CYSCREEN);
-    input.mi.dwFlags = MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE | flags;
-    SendInput(1, &input, sizeof input);
+    Send_Mouse({{point, flags}});
 }
 
 void Send_Key(WORD key, bool with_alt) {

@@ -153,11 +153,15 @@ TEST_F(Use, A_Right_Click_That_Slips_Chooses_Nothing) {
     const POINT middle = Middle(program.Named("Wednesday 5th May 2027").place);
     for (const auto &[slip, held, chooses] : {std::tuple(3, 400, false), {14, 0, false}, {14, 400, true}}) {
         ASSERT_TRUE(program.Uncover(middle));
-        Send_Mouse(middle, right_button);
-        EXPECT_TRUE(held == 0 || Wait_Until(menu));
-        Sleep(static_cast<DWORD>(held));
+        std::vector<std::pair<POINT, DWORD>> steps = {{middle, right_button}};
+        if (held > 0) {
+            Send_Mouse(std::exchange(steps, {}));
+            EXPECT_TRUE(Wait_Until(menu));
+            Sleep(static_cast<DWORD>(held));
+        }
         for (const DWORD flags : {0UL, DWORD{MOUSEEVENTF_RIGHTUP}})
-            Send_Mouse({middle.x, middle.y + slip}, flags);
+            steps.push_back({{middle.x, middle.y + slip}, flags});
+        Send_Mouse(steps);
         EXPECT_TRUE(Becomes(chooses ? "" : kept, [&] { return Data(); }));
         if (!chooses) {
             EXPECT_TRUE(Wait_Until(menu) && !Wait_Until([&] { return !menu(); }, 500)) << slip;
