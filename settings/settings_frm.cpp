@@ -200,10 +200,11 @@ void Settings_Frm::Cancel_Btn_Click() {
 void Settings_Frm::Apply_Btn_Click() {
     // It keeps the settings that it will put back.
     Wallpaper.End_Preview();
+    const Settings shown = Shown_Configuration();
     for (const auto save :
          {&Settings_Frm::Save_Colours, &Settings_Frm::Save_General_Settings, &Settings_Frm::Save_Other_DM,
           &Settings_Frm::Save_Theme, &Settings_Frm::Save_Bar_Settings})
-        Run_Guarded([this, save] { (this->*save)(); });
+        Run_Guarded([&] { (this->*save)(shown); });
     calendar_.Restart_Countdown();
     // Its examples have the calendar's colours.
     Style.Style_Preview();
@@ -217,7 +218,7 @@ void Settings_Frm::Form_Unload() {
     General.Set_Watched(false);
     Block_Others(nullptr);
     Cur_Settings.Settings_Tab = Which_Tab();
-    Store_Setting("Settings Tab");
+    Store_Setting(&Settings::Settings_Tab);
     Close();
     calendar_.Resume_Auto_Compact();
 }

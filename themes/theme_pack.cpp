@@ -42,7 +42,7 @@ std::string Tell_Missing_Pack(const std::string &pack, Callback_Ref<void()> remo
                           platform::Box_Icon::Stop);
     // A store that takes no change lets it be told again, but not before the next start.
     Cur_Settings.Use_Themes = 0;
-    Store_Setting("Use Themes");
+    Store_Setting(&Settings::Use_Themes);
     remove_wallpaper();
     return Theme_Error;
 }
