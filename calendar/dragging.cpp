@@ -90,6 +90,8 @@ void Main_Frm::Keep_Place(const std::optional<Drag> &drag) {
     if (platform::Message_Box(manual_question, "Vellatro", platform::Box_Icon::Question,
                               platform::Box_Buttons::Yes_No) != platform::Box_Answer::Yes)
         return;
+    const Settings before = Cur_Settings;
     Change_Setting(&Settings::Alignment, Manual_Position);
     Change_Setting(&Settings::Use_Theme_Pos, 0);
+    Follow(before, true);
 }

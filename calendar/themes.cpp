@@ -32,7 +32,7 @@ std::string Main_Frm::Get_Paper_Details(std::int16_t month, const std::string &p
 }
 
 void Main_Frm::Get_Wallpaper_Stuff(const std::string &pack) {
-    if (Cur_Settings.Use_Themes != 0)
+    if (Shown_Settings->Use_Themes != 0)
         Preview_Wallpaper_Stuff(pack, Today().month);
 }
 
@@ -52,18 +52,19 @@ void Main_Frm::Preview_Wallpaper_Stuff(const std::string &pack, std::int16_t mon
             return std::nullopt;
         }
     };
+    const Settings &shown = *Shown_Settings;
     Theme_BoxStyle.reset();
     Theme_Pos.reset();
-    if (Cur_Settings.Use_Theme_Style == 1)
+    if (shown.Use_Theme_Style == 1)
         Theme_BoxStyle = number(Get_Paper_BoxStyle(details), "box style");
-    if (Cur_Settings.Use_Theme_Pos == 1)
+    if (shown.Use_Theme_Pos == 1)
         Theme_Pos = number(Get_Paper_Pos(details), "position");
     const std::string path = Get_Paper_Path(month, pack);
     if (path == Theme_Error)
         return;
     // As every number that is no mode, a bad one is stretched.
-    const std::optional<std::int16_t> mode = Cur_Settings.Use_Other_Display_Mode
-                                                 ? Cur_Settings.Other_Display_Mode
+    const std::optional<std::int16_t> mode = shown.Use_Other_Display_Mode
+                                                 ? shown.Other_Display_Mode
                                                  : number(Get_Paper_DisplayMode(details), "display mode");
     Set_Display_Mode_Wallpaper(path, mode.value_or(stretched));
     if (fault)
@@ -73,11 +74,13 @@ void Main_Frm::Preview_Wallpaper_Stuff(const std::string &pack, std::int16_t mon
 // As long as no pack has told its own, the user's choice is the nearest.
 
 std::int16_t Main_Frm::Effective_Style() const {
-    const bool by_theme = Cur_Settings.Use_Themes == 1 && Cur_Settings.Use_Theme_Style == 1;
-    return by_theme ? Theme_BoxStyle.value_or(Cur_Settings.Style) : Cur_Settings.Style;
+    const Settings &shown = *Shown_Settings;
+    const bool by_theme = shown.Use_Themes == 1 && shown.Use_Theme_Style == 1;
+    return by_theme ? Theme_BoxStyle.value_or(shown.Style) : shown.Style;
 }
 
 std::int16_t Main_Frm::Effective_Position() const {
-    const bool by_theme = Cur_Settings.Use_Themes == 1 && Cur_Settings.Use_Theme_Pos == 1;
-    return by_theme ? Theme_Pos.value_or(Cur_Settings.Alignment) : Cur_Settings.Alignment;
+    const Settings &shown = *Shown_Settings;
+    const bool by_theme = shown.Use_Themes == 1 && shown.Use_Theme_Pos == 1;
+    return by_theme ? Theme_Pos.value_or(shown.Alignment) : shown.Alignment;
 }

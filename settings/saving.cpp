@@ -50,14 +50,15 @@ void Settings_Frm::Save_General_Settings(const Settings &shown) {
     Save(shown, &Settings::Allow_Dragging);
     if (Save(shown, &Settings::Auto_Compact))
         calendar_.Compact_Timer.Set_Enabled(Cur_Settings.Auto_Compact == 1);
+    const Settings before = Cur_Settings;
     const bool other_tooltips = Save(shown, &Settings::Tooltips);
     // Emptied and not deleted where the box is not ticked.
     const std::string program = platform::Program_Folder() + "\\" + platform::Program_Name() + ".exe";
     platform::Registry_Write("HKLM", "Software\\Microsoft\\Windows\\CurrentVersion\\Run", "Vellatro", 'S',
                              General.Startup_Chk.Checked() ? program : std::string());
-    // The boxes have the standard tooltips or have them not. Last, because it may tell of an event.
+    // Last, because it may tell of an event.
     if (other_tooltips)
-        calendar_.Load_Dates();
+        calendar_.Follow(before, true);
 }
 
 void Settings_Frm::Save_Other_DM(const Settings &shown) {
@@ -66,7 +67,7 @@ void Settings_Frm::Save_Other_DM(const Settings &shown) {
 }
 
 void Settings_Frm::Save_Theme(const Settings &shown) {
-    const std::int16_t style_before = calendar_.Effective_Style();
+    const Settings before = Cur_Settings;
     for (const auto member : {&Settings::Use_Themes, &Settings::Use_Theme_Pos, &Settings::Use_Theme_Style})
         Save(shown, member);
     Save(shown, &Settings::Pack_Name);
@@ -78,14 +79,9 @@ void Settings_Frm::Save_Theme(const Settings &shown) {
     // A missing pack has ended the use of themes.
     if (Cur_Settings.Use_Themes == 0 && Wallpaper.Theme_Use_Chk.Checked())
         Wallpaper.Get_Themes();
-    calendar_.Which_Style(calendar_.Effective_Style());
-    calendar_.TransparentForm();
     if (Cur_Settings.Use_Themes != 1 || Cur_Settings.Use_Theme_Pos != 1)
         Save(shown, &Settings::Alignment, When::Always);
-    calendar_.Position_Form(calendar_.Effective_Position());
-    // The boxes have room for other texts.
-    if (calendar_.Effective_Style() != style_before)
-        calendar_.Load_Dates();
+    calendar_.Follow(before);
 }
 
 void Settings_Frm::Save_Bar_Settings(const Settings &shown) {

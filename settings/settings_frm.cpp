@@ -178,7 +178,7 @@ void Settings_Frm::None_Vis() {
 }
 
 void Settings_Frm::TabStrip1_Click() {
-    // The other pages must not see the settings of a preview.
+    // It shows the page's choices, and its page is about to go.
     Wallpaper.End_Preview();
     None_Vis();
     const int page = Which_Tab() - 1;
@@ -198,7 +198,7 @@ void Settings_Frm::Cancel_Btn_Click() {
 }
 
 void Settings_Frm::Apply_Btn_Click() {
-    // It keeps the settings that it will put back.
+    // It would put back what the theme told before.
     Wallpaper.End_Preview();
     const Settings shown = Shown_Configuration();
     for (const auto save :
