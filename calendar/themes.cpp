@@ -4,10 +4,12 @@
 #include "core/convert.h"
 #include "core/settings.h"
 #include "desktop/wallpaper.h"
+#include "platform/message_box.h"
 #include "themes/theme_pack.h"
 
 #include <optional>
 #include <string>
+#include <variant>
 
 namespace {
 
@@ -28,7 +30,22 @@ std::int16_t Theme_Number(const std::string &text, const char *what, const std::
 } // namespace
 
 std::string Main_Frm::Get_Paper_Details(std::int16_t month, const std::string &pack) {
-    return ::Get_Paper_Details(month, pack, [] { Set_Word_Wallpaper("", ""); });
+    const std::variant<std::string, Pack_Fault> details = Find_Paper_Details(month, pack);
+    if (const auto *const text = std::get_if<std::string>(&details))
+        return *text;
+    const auto tell = [](const std::string &text) {
+        platform::Message_Box(text, "Vellatro", platform::Box_Icon::Stop);
+    };
+    if (*std::get_if<Pack_Fault>(&details) == Pack_Fault::Unreadable) {
+        tell("Error loading in Settings file...\r\n\r\n" + Pack_File(pack, "settings.ini"));
+        return Theme_Error;
+    }
+    tell(Joined({"Missing Theme ", pack, ". Themes will now be disabled."}));
+    // A store that takes no change lets it be told again, but not before the next start.
+    Cur_Settings.Use_Themes = 0;
+    Store_Setting(&Settings::Use_Themes);
+    Set_Word_Wallpaper("", "");
+    return Theme_Error;
 }
 
 void Main_Frm::Get_Wallpaper_Stuff(const std::string &pack) {
