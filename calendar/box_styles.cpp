@@ -61,6 +61,7 @@ std::string Blanks_Made_One(std::string_view text, bool &more) {
 } // namespace
 
 void Main_Frm::Which_Style(std::int16_t style) {
+    style_ = style;
     const Box_Layout layout(style);
     Place(Prev_Month_Lbl, layout.Previous());
     Place(Which_Month_Lbl, layout.Month());

@@ -82,14 +82,16 @@ void Main_Frm::End_Nudge() {
 
 void Main_Frm::Keep_Place(const std::optional<Drag> &drag) {
     manual_ = {Left(), Top()};
-    Change_Setting(Cur_Settings.Manual_PosX, Nearest_Int16(manual_.x), "Manual_PosX");
-    Change_Setting(Cur_Settings.Manual_PosY, Nearest_Int16(manual_.y), "Manual_PosY");
+    Change_Setting(&Settings::Manual_PosX, Nearest_Int16(manual_.x));
+    Change_Setting(&Settings::Manual_PosY, Nearest_Int16(manual_.y));
     // Only a move in both directions asks; a push along one edge is taken for a passing one.
     if (!drag || Left() == drag->form.x || Top() == drag->form.y || Stays_Where_Dropped())
         return;
     if (platform::Message_Box(manual_question, "Vellatro", platform::Box_Icon::Question,
                               platform::Box_Buttons::Yes_No) != platform::Box_Answer::Yes)
         return;
-    Change_Setting(Cur_Settings.Alignment, Manual_Position, "Alignment");
-    Change_Setting(Cur_Settings.Use_Theme_Pos, 0, "Use Theme Pos");
+    const Settings before = Cur_Settings;
+    Change_Setting(&Settings::Alignment, Manual_Position);
+    Change_Setting(&Settings::Use_Theme_Pos, 0);
+    Follow(before, true);
 }

@@ -2,12 +2,13 @@
 // in files by topic: start-up and the date watch (main_frm.cpp), the month (month_grid.cpp), geometry and
 // text fitting (box_styles.cpp), steps and function keys (navigation.cpp), the keyboard's mark (focus.cpp),
 // menus.cpp, tooltips.cpp with the balloon, compact.cpp, colours.cpp, themes.cpp, placement.cpp,
-// dragging.cpp, and the place inside the shell (attachment.cpp).
+// dragging.cpp, what follows changed settings (follow.cpp), and the place inside the shell (attachment.cpp).
 #pragma once
 
 #include "base/callback.h"
 #include "core/date.h"
 #include "core/event_store.h"
+#include "core/settings.h"
 #include "platform/message_loop.h"
 #include "platform/shell.h"
 #include "toolkit/control_array.h"
@@ -63,6 +64,15 @@ public:
 
     /// Whether the program may end now; asks for unsaved text first.
     bool May_End() const;
+
+    /// Of which the window has its style, its position and what it takes of a theme: Cur_Settings, but for
+    /// the length of a preview. Must not be null.
+    const Settings *Shown_Settings = &Cur_Settings;
+
+    /// Makes the window show all that the settings say, after they were `before`, or after a pack told
+    /// others: style, title, shape, position, texts and colours. With `where_dropped` a window that was
+    /// dragged away from its position, or is only its title, stays where it is.
+    void Follow(const Settings &before, bool where_dropped = false);
 
     // The month in the boxes.
 
@@ -140,7 +150,8 @@ public:
     void Get_Wallpaper_Stuff(const std::string &pack);
     /// The same for any month, whether themes are in use or not.
     void Preview_Wallpaper_Stuff(const std::string &pack, std::int16_t month);
-    /// The value text of a month, or Theme_Error; a missing pack ends the use of themes.
+    /// The value text of a month, or Theme_Error, which the user has been told then; a missing pack ends the
+    /// use of themes and takes the wallpaper down.
     static std::string Get_Paper_Details(std::int16_t month, const std::string &pack);
     /// What the pack told last; nothing before that.
     std::optional<std::int16_t> Theme_BoxStyle;
@@ -275,9 +286,10 @@ private:
     std::array<std::optional<std::string>, box_count> entered_;
     bool contrast_ = false; ///< the shown colours are those of high contrast
     bool stale_ = false;    ///< what was laid out is not what the month shows now: it changed in compact mode
-    Point placed_;          ///< where Position_Form put the window last
-    Point manual_;          ///< where the user put it last, of which the settings hold what fits 16 bits
-    unsigned fills_ = 0;    ///< counts the fillings: one that begins inside another puts an end to that
+    std::int16_t style_ = 0;  ///< of the last Which_Style
+    Point placed_;            ///< where Position_Form put the window last
+    Point manual_;            ///< where the user put it last, of which the settings hold what fits 16 bits
+    unsigned fills_ = 0;      ///< counts the fillings: one that begins inside another puts an end to that
     bool broken_off_ = false; ///< the last filling: events of the month may not be in their boxes
     int desktop_height_ = 0;  ///< of the work area at the last placement, twips
     std::optional<Drag> drag_;

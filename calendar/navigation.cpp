@@ -79,18 +79,12 @@ void Main_Frm::Change_Style(int step) {
         return;
     // From what is seen, which may be the theme's until its tick goes. All numbers but 0 are the same style.
     const int style = ((Effective_Style() == 0 ? 0 : 1) + step + style_count) % style_count;
+    const Settings before = Cur_Settings;
     if (theme_rules)
-        Change_Setting(Cur_Settings.Use_Theme_Style, 0, "Use Theme Style");
-    Change_Setting(Cur_Settings.Style, static_cast<std::int16_t>(style), "Style");
+        Change_Setting(&Settings::Use_Theme_Style, 0);
+    Change_Setting(&Settings::Style, static_cast<std::int16_t>(style));
     Hide_Balloon();
-    // The window gets another size. One that stands at its set position keeps to it, so that it neither runs
-    // off the screen nor floats; one that was dragged away, or is only its title, stays where it is.
-    const bool stands = !Compacted && placed_ == Put_At();
-    Which_Style(Effective_Style());
-    if (stands)
-        Position_Form(Effective_Position());
-    TransparentForm();
-    Load_Dates();
+    Follow(before, true);
 }
 
 void Main_Frm::Show_Today_Event() {

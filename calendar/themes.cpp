@@ -5,10 +5,12 @@
 #include "core/settings.h"
 #include "desktop/position.h"
 #include "desktop/wallpaper.h"
+#include "platform/message_box.h"
 #include "themes/theme_pack.h"
 
 #include <optional>
 #include <string>
+#include <variant>
 
 namespace {
 
@@ -29,11 +31,26 @@ std::int16_t Theme_Number(const std::string &text, const char *what, const std::
 } // namespace
 
 std::string Main_Frm::Get_Paper_Details(std::int16_t month, const std::string &pack) {
-    return ::Get_Paper_Details(month, pack, [] { Set_Word_Wallpaper("", ""); });
+    const std::variant<std::string, Pack_Fault> details = Find_Paper_Details(month, pack);
+    if (const auto *const text = std::get_if<std::string>(&details))
+        return *text;
+    const auto tell = [](const std::string &text) {
+        platform::Message_Box(text, "Vellatro", platform::Box_Icon::Stop);
+    };
+    if (*std::get_if<Pack_Fault>(&details) == Pack_Fault::Unreadable) {
+        tell("Error loading in Settings file...\r\n\r\n" + Pack_File(pack, "settings.ini"));
+        return Theme_Error;
+    }
+    tell(Joined({"Missing Theme ", pack, ". Themes will now be disabled."}));
+    // A store that takes no change lets it be told again, but not before the next start.
+    Cur_Settings.Use_Themes = 0;
+    Store_Setting(&Settings::Use_Themes);
+    Set_Word_Wallpaper("", "");
+    return Theme_Error;
 }
 
 void Main_Frm::Get_Wallpaper_Stuff(const std::string &pack) {
-    if (Cur_Settings.Use_Themes != 0)
+    if (Shown_Settings->Use_Themes != 0)
         Preview_Wallpaper_Stuff(pack, Today().month);
 }
 
@@ -53,11 +70,12 @@ void Main_Frm::Preview_Wallpaper_Stuff(const std::string &pack, std::int16_t mon
             return std::nullopt;
         }
     };
+    const Settings &shown = *Shown_Settings;
     Theme_BoxStyle.reset();
     Theme_Pos.reset();
-    if (Cur_Settings.Use_Theme_Style == 1)
+    if (shown.Use_Theme_Style == 1)
         Theme_BoxStyle = number(Get_Paper_BoxStyle(details), "box style");
-    if (Cur_Settings.Use_Theme_Pos == 1)
+    if (shown.Use_Theme_Pos == 1)
         Theme_Pos = number(Get_Paper_Pos(details), "position");
     // It would leave the calendar where the month or the pack before has put it.
     if (Theme_Pos && !Is_Position(*Theme_Pos))
@@ -66,8 +84,8 @@ void Main_Frm::Preview_Wallpaper_Stuff(const std::string &pack, std::int16_t mon
     if (path == Theme_Error)
         return;
     // As every number that is no mode, a bad one is stretched.
-    const std::optional<std::int16_t> mode = Cur_Settings.Use_Other_Display_Mode
-                                                 ? Cur_Settings.Other_Display_Mode
+    const std::optional<std::int16_t> mode = shown.Use_Other_Display_Mode
+                                                 ? shown.Other_Display_Mode
                                                  : number(Get_Paper_DisplayMode(details), "display mode");
     Set_Display_Mode_Wallpaper(path, mode.value_or(stretched));
     if (fault)
@@ -77,11 +95,13 @@ void Main_Frm::Preview_Wallpaper_Stuff(const std::string &pack, std::int16_t mon
 // As long as no pack has told its own, the user's choice is the nearest.
 
 std::int16_t Main_Frm::Effective_Style() const {
-    const bool by_theme = Cur_Settings.Use_Themes == 1 && Cur_Settings.Use_Theme_Style == 1;
-    return by_theme ? Theme_BoxStyle.value_or(Cur_Settings.Style) : Cur_Settings.Style;
+    const Settings &shown = *Shown_Settings;
+    const bool by_theme = shown.Use_Themes == 1 && shown.Use_Theme_Style == 1;
+    return by_theme ? Theme_BoxStyle.value_or(shown.Style) : shown.Style;
 }
 
 std::int16_t Main_Frm::Effective_Position() const {
-    const bool by_theme = Cur_Settings.Use_Themes == 1 && Cur_Settings.Use_Theme_Pos == 1;
-    return by_theme ? Theme_Pos.value_or(Cur_Settings.Alignment) : Cur_Settings.Alignment;
+    const Settings &shown = *Shown_Settings;
+    const bool by_theme = shown.Use_Themes == 1 && shown.Use_Theme_Pos == 1;
+    return by_theme ? Theme_Pos.value_or(shown.Alignment) : shown.Alignment;
 }

@@ -6,7 +6,6 @@
 #include "core/convert.h"
 #include "platform/registry.h"
 
-#include <array>
 #include <type_traits>
 #include <utility>
 
@@ -17,33 +16,33 @@ namespace {
 constexpr const char *general = "Settings";
 constexpr const char *colours = "Colours";
 
-constexpr std::array<Setting_Row, 25> rows{{
-    {general, "Style", &Settings::Style, "Style"},
-    {general, "Alignment", &Settings::Alignment, "TaskPos"},
-    {colours, "Today", &Settings::Col_Today, "Col_Today"},
-    {colours, "Normal", &Settings::Col_Normal, "Col_Normal"},
-    {colours, "Fore", &Settings::Col_Fore, "Col_Fore"},
-    {colours, "Num", &Settings::Col_Num, "Col_Num"},
-    {colours, "Text", &Settings::Col_Text, "Col_Text"},
-    {colours, "Back", &Settings::Col_Back, "Col_Back"},
-    {colours, "Menu Colour Source", &Settings::Menu_Col_Sorce, "Menu_Col_Sorce"},
-    {general, "Pack Name", &Settings::Pack_Name, "Pack_Name"},
-    {general, "Use Themes", &Settings::Use_Themes, "Use_Themes"},
-    {general, "Use Theme Pos", &Settings::Use_Theme_Pos, "Use_Theme_Pos"},
-    {general, "Use Theme Style", &Settings::Use_Theme_Style, "Use_Theme_Style"},
-    {general, "Show Alerts", &Settings::Show_Alerts, "Show_Alerts"},
-    {general, "Allow Dragging", &Settings::Allow_Dragging, "Allow_Dragging"},
-    {general, "Bar Time", &Settings::Bar_Time, "Bar_Time"},
-    {general, "Bar Time Format", &Settings::Bar_Time_Format, "Bar_Time_Format"},
-    {general, "Bar Date Format", &Settings::Bar_Date_Format, "Bar_Date_Format"},
-    {general, "Manual_PosX", &Settings::Manual_PosX, "Manual_PosX"},
-    {general, "Manual_PosY", &Settings::Manual_PosY, "Manual_PosY"},
-    {general, "Use Other Display Mode", &Settings::Use_Other_Display_Mode, "Use_Other_Display_Mode"},
-    {general, "Other Display Mode", &Settings::Other_Display_Mode, "Other_Display_Mode"},
-    {general, "Auto Compact", &Settings::Auto_Compact, "Auto_Compact"},
-    {general, "Tooltips", &Settings::Tooltips, "Tooltips"},
-    {general, "Settings Tab", &Settings::Settings_Tab, nullptr},
-}};
+constexpr Setting_Row rows[] = {
+    {general, "Style", &Settings::Style, "Style", 1},
+    {general, "Alignment", &Settings::Alignment, "TaskPos", 2},
+    {colours, "Today", &Settings::Col_Today, "Col_Today", 3},
+    {colours, "Normal", &Settings::Col_Normal, "Col_Normal", 4},
+    {colours, "Fore", &Settings::Col_Fore, "Col_Fore", 5},
+    {colours, "Num", &Settings::Col_Num, "Col_Num", 6},
+    {colours, "Text", &Settings::Col_Text, "Col_Text", 7},
+    {colours, "Back", &Settings::Col_Back, "Col_Back", 8},
+    {colours, "Menu Colour Source", &Settings::Menu_Col_Sorce, "Menu_Col_Sorce", 9},
+    {general, "Pack Name", &Settings::Pack_Name, "Pack_Name", 23},
+    {general, "Use Themes", &Settings::Use_Themes, "Use_Themes", 11},
+    {general, "Use Theme Pos", &Settings::Use_Theme_Pos, "Use_Theme_Pos", 12},
+    {general, "Use Theme Style", &Settings::Use_Theme_Style, "Use_Theme_Style", 13},
+    {general, "Show Alerts", &Settings::Show_Alerts, "Show_Alerts", 10},
+    {general, "Allow Dragging", &Settings::Allow_Dragging, "Allow_Dragging", 14},
+    {general, "Bar Time", &Settings::Bar_Time, "Bar_Time", 15},
+    {general, "Bar Time Format", &Settings::Bar_Time_Format, "Bar_Time_Format", 16},
+    {general, "Bar Date Format", &Settings::Bar_Date_Format, "Bar_Date_Format", 17},
+    {general, "Manual_PosX", &Settings::Manual_PosX, "Manual_PosX", 18},
+    {general, "Manual_PosY", &Settings::Manual_PosY, "Manual_PosY", 19},
+    {general, "Use Other Display Mode", &Settings::Use_Other_Display_Mode, "Use_Other_Display_Mode", 20},
+    {general, "Other Display Mode", &Settings::Other_Display_Mode, "Other_Display_Mode", 21},
+    {general, "Auto Compact", &Settings::Auto_Compact, "Auto_Compact", 22},
+    {general, "Tooltips", &Settings::Tooltips, "Tooltips", 24},
+    {general, "Settings Tab", &Settings::Settings_Tab, nullptr, 0},
+};
 
 std::string Store_Key(const Setting_Row &row) {
     return std::string("Software\\Vellatro\\") + row.section;
@@ -55,11 +54,19 @@ std::span<const Setting_Row> Setting_Rows() {
     return rows;
 }
 
-const Setting_Row &Setting_Row_Of(std::string_view key) {
+const Setting_Row &Row(Setting_Member member) {
     for (const Setting_Row &row : rows)
-        if (row.key == key)
+        if (row.member == member)
             return row;
-    throw Error(Joined({"there is no setting \"", key, "\""}));
+    throw Error("a setting has no row");
+}
+
+bool Differ(const Settings &a, const Settings &b, Setting_Member member) {
+    return std::visit([&](auto variable) { return a.*variable != b.*variable; }, member);
+}
+
+void Copy_Setting(const Settings &from, Settings &to, Setting_Member member) {
+    std::visit([&](auto variable) { to.*variable = from.*variable; }, member);
 }
 
 std::string Setting_Text(const Settings &settings, const Setting_Row &row) {
@@ -74,7 +81,7 @@ std::string Setting_Text(const Settings &settings, const Setting_Row &row) {
             else
                 return std::to_string(value);
         },
-        row.variable);
+        row.member);
 }
 
 void Set_From_Text(Settings &settings, const Setting_Row &row, std::string_view text) {
@@ -91,7 +98,7 @@ void Set_From_Text(Settings &settings, const Setting_Row &row, std::string_view 
             else
                 value = To_Int32(text);
         },
-        row.variable);
+        row.member);
 }
 
 void Load_Settings() {
@@ -99,7 +106,7 @@ void Load_Settings() {
     for (const Setting_Row &row : rows) {
         const std::optional<std::string> stored = platform::Read_User_Value(Store_Key(row), row.key);
         if (!stored) {
-            std::visit([&](auto variable) { Cur_Settings.*variable = first_run.*variable; }, row.variable);
+            Copy_Setting(first_run, Cur_Settings, row.member);
             continue;
         }
         try {
@@ -112,8 +119,8 @@ void Load_Settings() {
     }
 }
 
-void Save_Setting(std::string_view key) {
-    const Setting_Row &row = Setting_Row_Of(key);
+void Save_Setting(Setting_Member member) {
+    const Setting_Row &row = Row(member);
     platform::Write_User_Value(Store_Key(row), row.key, Setting_Text(Cur_Settings, row));
 }
 
@@ -123,19 +130,19 @@ void Take_Setting(const Setting_Row &row, std::string_view text) {
     platform::Write_User_Value(Store_Key(row), row.key, std::string(text));
 }
 
-void Change_Setting(std::int16_t &variable, std::int16_t value, std::string_view key) {
-    const std::int16_t before = std::exchange(variable, value);
+void Change_Setting(std::int16_t Settings::*member, std::int16_t value) {
+    const std::int16_t before = std::exchange(Cur_Settings.*member, value);
     try {
-        Save_Setting(key);
+        Save_Setting(member);
     } catch (...) {
-        variable = before;
+        Cur_Settings.*member = before;
         throw;
     }
 }
 
-void Store_Setting(std::string_view key) {
+void Store_Setting(Setting_Member member) {
     try {
-        Save_Setting(key);
+        Save_Setting(member);
     } catch (const platform::Registry_Error &) { // the user has what he chose, but not for the next start
     }
 }

@@ -1,4 +1,4 @@
-// The user's settings: one variable per key of the settings store, and the one table that drives their
+// The user's settings: one member per key of the settings store, and the one table that drives their
 // reading, their writing and their names in a configuration file.
 #pragma once
 
@@ -43,22 +43,29 @@ struct Settings {
 /// The program-wide settings, which every window reads directly.
 extern Settings Cur_Settings;
 
-/// One row of the table: where a setting is stored, which variable it is, what it is called in a
+using Setting_Member = std::variant<std::int16_t Settings::*, std::int32_t Settings::*, bool Settings::*,
+                                    std::string Settings::*>;
+
+/// One row of the table: where a setting is stored, which member it is, how and where it stands in a
 /// configuration file.
 struct Setting_Row {
     const char *section;
     const char *key;
-    std::variant<std::int16_t Settings::*, std::int32_t Settings::*, bool Settings::*,
-                 std::string Settings::*>
-        variable;
+    Setting_Member member;
     const char *configuration_key; ///< null: it has no line there
+    int configuration_line;        ///< counted from 1
 };
 
-/// The 25 rows in reading order.
+/// The rows in reading order.
 std::span<const Setting_Row> Setting_Rows();
 
-/// The row of a key. Throws Error for an unknown key.
-const Setting_Row &Setting_Row_Of(std::string_view key);
+/// The row of a member. Throws Error where the table has none.
+const Setting_Row &Row(Setting_Member member);
+
+/// Returns whether the two hold different values of a setting.
+bool Differ(const Settings &a, const Settings &b, Setting_Member member);
+
+void Copy_Setting(const Settings &from, Settings &to, Setting_Member member);
 
 /// A stored value is not of its key's type. what() names section, key, value and what was expected.
 class Setting_Error : public Error {
@@ -70,22 +77,22 @@ public:
 /// the first value that does not convert.
 void Load_Settings();
 
-/// The variable of a row as the text that is stored for it.
+/// The member of a row as the text that is stored for it.
 std::string Setting_Text(const Settings &settings, const Setting_Row &row);
 
-/// Converts `text`, puts it into the variable of a row of Cur_Settings and stores it, unchanged, under its
-/// key. Throws Conversion_Error, and platform::Registry_Error when the variable has its value already.
+/// Converts `text`, puts it into the member of a row of Cur_Settings and stores it, unchanged, under its
+/// key. Throws Conversion_Error, and platform::Registry_Error when the member has its value already.
 void Take_Setting(const Setting_Row &row, std::string_view text);
 
-/// Converts `text` and puts it into the variable of a row. Throws Conversion_Error.
+/// Converts `text` and puts it into the member of a row. Throws Conversion_Error.
 void Set_From_Text(Settings &settings, const Setting_Row &row, std::string_view text);
 
-/// Changes a variable of Cur_Settings and stores it under its key. Throws platform::Registry_Error, and then
-/// the variable is as it was.
-void Change_Setting(std::int16_t &variable, std::int16_t value, std::string_view key);
+/// Changes a member of Cur_Settings and stores it. Throws platform::Registry_Error, and then the member is as
+/// it was.
+void Change_Setting(std::int16_t Settings::*member, std::int16_t value);
 
-/// Stores the present value of the setting `key` of Cur_Settings. Throws platform::Registry_Error.
-void Save_Setting(std::string_view key);
+/// Stores the present value of a member of Cur_Settings. Throws platform::Registry_Error.
+void Save_Setting(Setting_Member member);
 
 /// The same, but a store that refuses is no error: the value holds until the program's end.
-void Store_Setting(std::string_view key);
+void Store_Setting(Setting_Member member);

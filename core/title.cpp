@@ -212,7 +212,7 @@ std::string Bar_Date_Text(bool show_time, const std::string &time_format, const 
     if (std::find(formats.begin(), formats.end(), date_format) == formats.end()) {
         // The variable first: with it repaired, a store that refuses is asked once and not at every title.
         Cur_Settings.Bar_Date_Format = weekday_form;
-        Store_Setting("Bar Date Format");
+        Store_Setting(&Settings::Bar_Date_Format);
     }
     return title;
 }

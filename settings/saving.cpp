@@ -8,72 +8,70 @@
 
 namespace {
 
-/// Takes a choice over, or with `if_changed` only another one. Returns whether it did.
-bool Save(const Settings_Frm &dialog, const char *key, bool if_changed = false) {
-    const Setting_Row &row = Setting_Row_Of(key);
-    const std::string shown = Setting_Text(dialog.Shown_Configuration(), row);
-    if (if_changed && Setting_Text(Cur_Settings, row) == shown)
-        return false;
-    Set_From_Text(Cur_Settings, row, shown);
-    Store_Setting(key);
-    return true;
-}
+enum class When { Always, Changed };
 
-bool Save_Changed(const Settings_Frm &dialog, const char *key) {
-    return Save(dialog, key, true);
+/// Takes what is shown over and stores it. Returns whether it did.
+bool Save(const Settings &shown, Setting_Member member, When when = When::Changed) {
+    if (when == When::Changed && !Differ(shown, Cur_Settings, member))
+        return false;
+    Copy_Setting(shown, Cur_Settings, member);
+    Store_Setting(member);
+    return true;
 }
 
 } // namespace
 
-void Settings_Frm::Save_Colours() {
-    const struct {
-        const char *key;
+void Settings_Frm::Save_Colours(const Settings &shown) {
+    constexpr struct {
+        Colour Settings::*member;
         void (Main_Frm::*redraw)();
     } rows[] = {
-        {"Normal", &Main_Frm::Colour_Boxes}, {"Today", &Main_Frm::Mark_Today},
-        {"Num", &Main_Frm::Colour_Nums},     {"Text", &Main_Frm::Colour_Texts},
-        {"Back", &Main_Frm::Colour_Menus},   {"Fore", &Main_Frm::Colour_Menus},
+        {&Settings::Col_Normal, &Main_Frm::Colour_Boxes}, {&Settings::Col_Today, &Main_Frm::Mark_Today},
+        {&Settings::Col_Num, &Main_Frm::Colour_Nums},     {&Settings::Col_Text, &Main_Frm::Colour_Texts},
+        {&Settings::Col_Back, &Main_Frm::Colour_Menus},   {&Settings::Col_Fore, &Main_Frm::Colour_Menus},
     };
     for (const auto &row : rows) {
-        if (!Save_Changed(*this, row.key))
+        if (!Save(shown, row.member))
             continue;
         (calendar_.*row.redraw)();
         // Colouring the boxes takes today's mark away, and in high contrast so do the texts.
         calendar_.Mark_Today();
     }
-    if (!Save_Changed(*this, "Menu Colour Source"))
+    if (!Save(shown, &Settings::Menu_Col_Sorce))
         return;
-    if (Cur_Settings.Menu_Col_Sorce == 1)
-        for (const char *const key : {"Back", "Fore"})
-            Store_Setting(key);
+    if (shown.Menu_Col_Sorce == 1)
+        for (const auto member : {&Settings::Col_Back, &Settings::Col_Fore})
+            Store_Setting(member);
     calendar_.Colour_Menus();
 }
 
-void Settings_Frm::Save_General_Settings() {
-    Save_Changed(*this, "Show Alerts");
-    Save_Changed(*this, "Allow Dragging");
-    if (Save_Changed(*this, "Auto Compact"))
+void Settings_Frm::Save_General_Settings(const Settings &shown) {
+    Save(shown, &Settings::Show_Alerts);
+    Save(shown, &Settings::Allow_Dragging);
+    if (Save(shown, &Settings::Auto_Compact))
         calendar_.Compact_Timer.Set_Enabled(Cur_Settings.Auto_Compact == 1);
-    const bool other_tooltips = Save_Changed(*this, "Tooltips");
+    const Settings before = Cur_Settings;
+    const bool other_tooltips = Save(shown, &Settings::Tooltips);
     // Emptied and not deleted where the box is not ticked.
     const std::string program = platform::Program_Folder() + "\\" + platform::Program_Name() + ".exe";
     platform::Registry_Write("HKLM", "Software\\Microsoft\\Windows\\CurrentVersion\\Run", "Vellatro", 'S',
                              General.Startup_Chk.Checked() ? program : std::string());
-    // The boxes have the standard tooltips or have them not. Last, because it may tell of an event.
+    // Last, because it may tell of an event.
     if (other_tooltips)
-        calendar_.Load_Dates();
+        calendar_.Follow(before, true);
 }
 
-void Settings_Frm::Save_Other_DM() {
-    Save(*this, "Use Other Display Mode");
-    Save(*this, "Other Display Mode");
+void Settings_Frm::Save_Other_DM(const Settings &shown) {
+    Save(shown, &Settings::Use_Other_Display_Mode, When::Always);
+    Save(shown, &Settings::Other_Display_Mode, When::Always);
 }
 
-void Settings_Frm::Save_Theme() {
-    const std::int16_t style_before = calendar_.Effective_Style();
-    for (const char *const key : {"Use Themes", "Use Theme Pos", "Use Theme Style", "Pack Name"})
-        Save_Changed(*this, key);
-    Save(*this, "Style");
+void Settings_Frm::Save_Theme(const Settings &shown) {
+    const Settings before = Cur_Settings;
+    for (const auto member : {&Settings::Use_Themes, &Settings::Use_Theme_Pos, &Settings::Use_Theme_Style})
+        Save(shown, member);
+    Save(shown, &Settings::Pack_Name);
+    Save(shown, &Settings::Style, When::Always);
     // A pack that cannot be read is told, and keeps nothing else from being saved. Whoever gives themes up
     // keeps the last wallpaper: there is no telling which one was there before.
     if (Cur_Settings.Use_Themes == 1)
@@ -81,19 +79,15 @@ void Settings_Frm::Save_Theme() {
     // A missing pack has ended the use of themes.
     if (Cur_Settings.Use_Themes == 0 && Wallpaper.Theme_Use_Chk.Checked())
         Wallpaper.Get_Themes();
-    calendar_.Which_Style(calendar_.Effective_Style());
-    calendar_.TransparentForm();
     if (Cur_Settings.Use_Themes != 1 || Cur_Settings.Use_Theme_Pos != 1)
-        Save(*this, "Alignment");
-    calendar_.Position_Form(calendar_.Effective_Position());
-    // The boxes have room for other texts.
-    if (calendar_.Effective_Style() != style_before)
-        calendar_.Load_Dates();
+        Save(shown, &Settings::Alignment, When::Always);
+    calendar_.Follow(before);
 }
 
-void Settings_Frm::Save_Bar_Settings() {
-    for (const char *const key : {"Bar Time", "Bar Time Format", "Bar Date Format"})
-        Save(*this, key);
+void Settings_Frm::Save_Bar_Settings(const Settings &shown) {
+    Save(shown, &Settings::Bar_Time, When::Always);
+    Save(shown, &Settings::Bar_Time_Format, When::Always);
+    Save(shown, &Settings::Bar_Date_Format, When::Always);
 }
 
 Settings Settings_Frm::Shown_Configuration() const {

@@ -178,7 +178,7 @@ void Settings_Frm::None_Vis() {
 }
 
 void Settings_Frm::TabStrip1_Click() {
-    // The other pages must not see the settings of a preview.
+    // It shows the page's choices, and its page is about to go.
     Wallpaper.End_Preview();
     None_Vis();
     const int page = Which_Tab() - 1;
@@ -198,12 +198,13 @@ void Settings_Frm::Cancel_Btn_Click() {
 }
 
 void Settings_Frm::Apply_Btn_Click() {
-    // It keeps the settings that it will put back.
+    // It would put back what the theme told before.
     Wallpaper.End_Preview();
+    const Settings shown = Shown_Configuration();
     for (const auto save :
          {&Settings_Frm::Save_Colours, &Settings_Frm::Save_General_Settings, &Settings_Frm::Save_Other_DM,
           &Settings_Frm::Save_Theme, &Settings_Frm::Save_Bar_Settings})
-        Run_Guarded([this, save] { (this->*save)(); });
+        Run_Guarded([&] { (this->*save)(shown); });
     calendar_.Restart_Countdown();
     // Its examples have the calendar's colours.
     Style.Style_Preview();
@@ -217,7 +218,7 @@ void Settings_Frm::Form_Unload() {
     General.Set_Watched(false);
     Block_Others(nullptr);
     Cur_Settings.Settings_Tab = Which_Tab();
-    Store_Setting("Settings Tab");
+    Store_Setting(&Settings::Settings_Tab);
     Close();
     calendar_.Resume_Auto_Compact();
 }

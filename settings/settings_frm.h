@@ -55,13 +55,13 @@ public:
     void Cancel_Btn_Click();
     void Apply_Btn_Click();
 
-    // Each carries a part of the pages into the settings, the store and the calendar. A store that refuses is
-    // not told: the setting holds until the program's end all the same.
-    void Save_Colours();
-    void Save_General_Settings();
-    void Save_Other_DM();
-    void Save_Theme();
-    void Save_Bar_Settings();
+    // Each carries a part of what the pages show into the settings, the store and the calendar. A store that
+    // refuses is not told: the setting holds until the program's end all the same.
+    void Save_Colours(const Settings &shown);
+    void Save_General_Settings(const Settings &shown);
+    void Save_Other_DM(const Settings &shown);
+    void Save_Theme(const Settings &shown);
+    void Save_Bar_Settings(const Settings &shown);
 
     /// The settings as the pages show them, changes that are not applied yet included.
     Settings Shown_Configuration() const;

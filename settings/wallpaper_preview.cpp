@@ -31,17 +31,6 @@ void Write_Desktop_Value(const char *name, const std::string &text) {
                                     text == unknown ? "0" : text);
 }
 
-/// Takes over the settings that a preview is about.
-void Copy_Previewed(const Settings &from, Settings &to) {
-    to.Style = from.Style;
-    to.Alignment = from.Alignment;
-    to.Use_Themes = from.Use_Themes;
-    to.Use_Theme_Style = from.Use_Theme_Style;
-    to.Use_Theme_Pos = from.Use_Theme_Pos;
-    to.Use_Other_Display_Mode = from.Use_Other_Display_Mode;
-    to.Other_Display_Mode = from.Other_Display_Mode;
-}
-
 /// Deletes the bitmaps that the preview left in the pack, but for the wallpaper `path`, which is made anew if
 /// it is one of them, in whichever letter case it is named.
 void Keep_Only(const std::string &path, const std::string &pack) {
@@ -64,9 +53,7 @@ Wallpaper_Preview::~Wallpaper_Preview() {
 
 void Wallpaper_Preview::Begin(const std::string &pack, const Settings &choices) {
     End();
-    before_ = Before{Cur_Settings,
-                     calendar_.Effective_Style(),
-                     calendar_.Which_Month_Lbl.Caption(),
+    before_ = Before{calendar_.Which_Month_Lbl.Caption(),
                      calendar_.Dectect_Date_Timer.Enabled(),
                      calendar_.Theme_BoxStyle,
                      calendar_.Theme_Pos,
@@ -75,10 +62,10 @@ void Wallpaper_Preview::Begin(const std::string &pack, const Settings &choices) 
                      Desktop_Value("TileWallpaper")};
     // The title would get its time back every second, and at midnight the calendar its wallpaper.
     calendar_.Dectect_Date_Timer.Set_Enabled(false);
-    Copy_Previewed(choices, Cur_Settings);
+    choices_ = choices;
+    calendar_.Shown_Settings = &choices_;
     pack_ = pack;
     pack_failed_ = false;
-    placed_style_ = before_->style;
     month_ = 1;
     Show_Month();
 }
@@ -93,7 +80,7 @@ void Wallpaper_Preview::Show_Month() {
         if (pack_failed_)
             return End();
         calendar_.Preview_Wallpaper_Stuff(pack_, month_);
-        Place_Calendar();
+        calendar_.Follow(choices_);
     } catch (...) {
         End();
         throw;
@@ -110,27 +97,12 @@ void Wallpaper_Preview::Next_Month() {
     Show_Month();
 }
 
-void Wallpaper_Preview::Place_Calendar() {
-    const std::int16_t style = calendar_.Effective_Style();
-    calendar_.Which_Style(style);
-    calendar_.TransparentForm();
-    calendar_.Position_Form(calendar_.Effective_Position());
-    // The boxes have room for other texts.
-    if (std::exchange(placed_style_, style) != style)
-        calendar_.Load_Dates();
-}
-
 void Wallpaper_Preview::End() noexcept {
     if (!Running())
         return;
     const Before before = *std::exchange(before_, std::nullopt);
     Month_Timer.Set_Enabled(false);
-    // The previewed choices use themes: where they do not now, a missing pack has ended that, also in the
-    // store.
-    const bool themes_ended = pack_failed_ && Cur_Settings.Use_Themes == 0;
-    Copy_Previewed(before.settings, Cur_Settings);
-    if (themes_ended)
-        Cur_Settings.Use_Themes = 0;
+    calendar_.Shown_Settings = &Cur_Settings;
     calendar_.Theme_BoxStyle = before.theme_style;
     calendar_.Theme_Pos = before.theme_position;
     // Each by itself: what fails is told, and keeps nothing else from being put back.
@@ -139,7 +111,7 @@ void Wallpaper_Preview::End() noexcept {
         if (Cur_Settings.Use_Themes == 1)
             calendar_.Get_Wallpaper_Stuff(Cur_Settings.Pack_Name);
     });
-    Run_Guarded([&] { Place_Calendar(); });
+    Run_Guarded([&] { calendar_.Follow(Cur_Settings); });
     Run_Guarded([&] { calendar_.Which_Month_Lbl.Set_Caption(before.caption); });
     Run_Guarded([&] { calendar_.Dectect_Date_Timer.Set_Enabled(before.watches_date); });
     // The program may be about to end, and the next preview looks up what hangs now.

@@ -34,8 +34,6 @@ public:
 private:
     /// What the preview changes.
     struct Before {
-        Settings settings;
-        std::int16_t style = 0; ///< in use
         std::string caption;
         bool watches_date = false;
         std::optional<std::int16_t> theme_style;
@@ -46,13 +44,12 @@ private:
     };
     void Show_Month();
     void Next_Month();
-    void Place_Calendar();
     void Put_Wallpaper_Back(const Before &before) const;
 
     Main_Frm &calendar_;
+    Settings choices_; ///< that the calendar shows meanwhile
     std::string pack_;
     std::int16_t month_ = 0;
-    std::int16_t placed_style_ = 0; ///< for which the event texts are fitted
     bool pack_failed_ = false;
     std::optional<Before> before_; ///< nothing: not running
     Timer Month_Timer{3000};

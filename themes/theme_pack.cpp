@@ -5,9 +5,7 @@
 #include "base/letters.h"
 #include "core/convert.h"
 #include "core/sequential.h"
-#include "core/settings.h"
 #include "platform/files.h"
-#include "platform/message_box.h"
 #include "platform/pictures.h"
 #include "themes/bitmap.h"
 
@@ -35,16 +33,6 @@ bool Is_Device(std::string_view name) {
 
 std::string Pack_Folder(const std::string &pack) {
     return Joined({platform::Program_Folder(), "\\", pack});
-}
-
-std::string Tell_Missing_Pack(const std::string &pack, Callback_Ref<void()> remove_wallpaper) {
-    platform::Message_Box(Joined({"Missing Theme ", pack, ". Themes will now be disabled."}), "Vellatro",
-                          platform::Box_Icon::Stop);
-    // A store that takes no change lets it be told again, but not before the next start.
-    Cur_Settings.Use_Themes = 0;
-    Store_Setting("Use Themes");
-    remove_wallpaper();
-    return Theme_Error;
 }
 
 } // namespace
@@ -93,10 +81,9 @@ std::string Month_Details(std::string_view bytes, std::int16_t month) {
     return details;
 }
 
-std::string Get_Paper_Details(std::int16_t month, const std::string &pack,
-                              Callback_Ref<void()> remove_wallpaper) {
+std::variant<std::string, Pack_Fault> Find_Paper_Details(std::int16_t month, const std::string &pack) {
     if (!Is_Pack_Name(pack) || !platform::Folder_Exists(Pack_Folder(pack)))
-        return Tell_Missing_Pack(pack, remove_wallpaper);
+        return Pack_Fault::Missing;
     const std::string path = Pack_File(pack, settings_file);
     try {
         if (platform::File_Exists(path))
@@ -105,9 +92,7 @@ std::string Get_Paper_Details(std::int16_t month, const std::string &pack,
         // To the user a file that cannot be read is as good as missing.
     } catch (const Sequential_Error &) {
     }
-    platform::Message_Box("Error loading in Settings file...\r\n\r\n" + path, "Vellatro",
-                          platform::Box_Icon::Stop);
-    return Theme_Error;
+    return Pack_Fault::Unreadable;
 }
 
 std::string Get_Paper_BoxStyle(std::string_view details) {

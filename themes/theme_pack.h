@@ -3,14 +3,13 @@
 // that a wallpaper needs. Hanging it up is not here.
 #pragma once
 
-#include "base/callback.h"
-
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <variant>
 #include <vector>
 
-/// What a lookup gives when it has failed. Of a missing pack the user has been told then.
+/// The text that stands for a value when a lookup has failed.
 inline constexpr const char *Theme_Error = "ERROR";
 
 /// Whether a text can be a pack's name: the plain name of a folder, which leads nowhere else.
@@ -29,10 +28,11 @@ std::string Pack_File(const std::string &pack, const std::string &name);
 /// none. Throws Sequential_Error.
 std::string Month_Details(std::string_view bytes, std::int16_t month);
 
-/// The value text of a month in a pack, or Theme_Error. A pack that is missing ends the use of themes: the
-/// user is told, the setting is changed, and `remove_wallpaper` has to take the wallpaper away.
-std::string Get_Paper_Details(std::int16_t month, const std::string &pack,
-                              Callback_Ref<void()> remove_wallpaper);
+/// Why a pack has no value texts: it is not there, or its settings.ini is not or cannot be read.
+enum class Pack_Fault { Missing, Unreadable };
+
+/// The value text of a month in a pack, empty for none, or why it cannot be told.
+std::variant<std::string, Pack_Fault> Find_Paper_Details(std::int16_t month, const std::string &pack);
 
 /// The parts of a value text: before its first "-", between the first and the second, and after the second.
 /// A part that is not there is empty.

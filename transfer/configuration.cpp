@@ -4,39 +4,14 @@
 #include "core/convert.h"
 #include "core/sequential.h"
 
+#include <map>
 #include <variant>
 
 namespace {
 
-/// In the order of a file's lines, which is not that of the store.
-constexpr const char *keys[] = {"Style",
-                                "TaskPos",
-                                "Col_Today",
-                                "Col_Normal",
-                                "Col_Fore",
-                                "Col_Num",
-                                "Col_Text",
-                                "Col_Back",
-                                "Menu_Col_Sorce",
-                                "Show_Alerts",
-                                "Use_Themes",
-                                "Use_Theme_Pos",
-                                "Use_Theme_Style",
-                                "Allow_Dragging",
-                                "Bar_Time",
-                                "Bar_Time_Format",
-                                "Bar_Date_Format",
-                                "Manual_PosX",
-                                "Manual_PosY",
-                                "Use_Other_Display_Mode",
-                                "Other_Display_Mode",
-                                "Auto_Compact",
-                                "Pack_Name",
-                                "Tooltips"};
-
 /// The value in a line. Of a check box that is 1 or 0, also where the store holds a word.
 std::string Value_Text(const Settings &settings, const Setting_Row &row) {
-    if (const auto *const flag = std::get_if<bool Settings::*>(&row.variable))
+    if (const auto *const flag = std::get_if<bool Settings::*>(&row.member))
         return settings.**flag ? "1" : "0";
     return Setting_Text(settings, row);
 }
@@ -51,10 +26,13 @@ const Setting_Row *Row_Of(std::string_view configuration_key) {
 } // namespace
 
 std::string Configuration_Bytes(const Settings &settings) {
+    std::map<int, const Setting_Row *> lines;
+    for (const Setting_Row &row : Setting_Rows())
+        if (row.configuration_key != nullptr)
+            lines[row.configuration_line] = &row;
     std::string bytes;
-    for (const char *const key : keys)
-        if (const Setting_Row *const row = Row_Of(key))
-            Append_Item(bytes, key + ("=" + Value_Text(settings, *row)));
+    for (const auto &[line, row] : lines)
+        Append_Item(bytes, row->configuration_key + ("=" + Value_Text(settings, *row)));
     return bytes;
 }
 

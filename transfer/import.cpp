@@ -211,7 +211,7 @@ void Importer::Import_Config() {
         Import_Configuration(platform::Read_File(dialog_.FileName));
         imported = true;
         calendar_.Get_Wallpaper_Stuff(Cur_Settings.Pack_Name);
-        Redraw_Configured();
+        calendar_.Follow(before);
     } catch (const std::exception &) {
         Work.End();
         Tell("Error when importing configuration from file.", platform::Box_Icon::Exclamation);
@@ -221,24 +221,13 @@ void Importer::Import_Config() {
         // the old settings back.
         if (!imported)
             Run_Guarded([this] { calendar_.Get_Wallpaper_Stuff(Cur_Settings.Pack_Name); });
-        Run_Guarded([this] { Redraw_Configured(); });
+        Run_Guarded([&] { calendar_.Follow(before); });
         Configuration_Partly_Changed();
         return;
     }
     Work.End();
     Tell("Loaded configuration file successfully.", platform::Box_Icon::Information);
     Configuration_Changed();
-}
-
-void Importer::Redraw_Configured() {
-    calendar_.Which_Style(calendar_.Effective_Style());
-    calendar_.Redraw();
-    if (!calendar_.Compacted)
-        return;
-    // The month is not laid out in compact mode, but the title has its place, size and colours.
-    calendar_.Set_Colours();
-    calendar_.Position_Form(calendar_.Effective_Position());
-    calendar_.TransparentForm();
 }
 
 /// Whether the user agrees to lose the data file that is there.

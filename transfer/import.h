@@ -46,7 +46,6 @@ private:
     void Read_Events(const std::string &bytes, std::vector<Sort_Entry> &staged);
     void Merge_Imported(std::vector<Sort_Entry> &staged);
     void Write_Merged(const std::vector<Sort_Entry> &staged) const;
-    void Redraw_Configured();
     Join_Counts Join_Calendar(const std::string &bytes);
     bool May_Replace() const;
 

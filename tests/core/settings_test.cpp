@@ -49,7 +49,7 @@ TEST_F(Settings_Test, Each_Setting_Is_Its_Own_Variable_And_Survives_The_Store) {
         Set_From_Text(Cur_Settings, row, texts.back());
     }
     for (const Setting_Row &row : Setting_Rows())
-        Save_Setting(row.key);
+        Save_Setting(row.member);
     EXPECT_EQ(Fakes().registry.size(), texts.size());
     Cur_Settings = Settings{};
     Load_Settings();

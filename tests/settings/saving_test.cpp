@@ -38,7 +38,7 @@ TEST_F(Saving, the_calendar_follows_at_once_also_without_a_store) {
     for (Picture_Box *swatch : {&colours.Col_Normal_Pic, &colours.Col_Today_Pic, &colours.Col_Num_Pic,
                                 &colours.Col_Text_Pic, &colours.Col_Back_Pic, &colours.Col_Fore_Pic}) {
         swatch->Set_Back_Colour(++colour);
-        dialog->Save_Colours();
+        dialog->Save_Colours(dialog->Shown_Configuration());
     }
     EXPECT_EQ((std::vector{Box_Of(6).Back_Colour(), Box_Of(5).Back_Colour(), Box_Of(6).Fore_Colour(),
                            form.Box_Caption_Lbl[3].Fore_Colour(), form.Back_Colour(),
@@ -46,7 +46,7 @@ TEST_F(Saving, the_calendar_follows_at_once_also_without_a_store) {
               (std::vector<Colour>{1, 2, 3, 4, 5, 6}));
     for (Option_Button *option : {&colours.Col_Sys_Opt, &colours.Col_Other_Opt}) {
         option->Set_Checked(true);
-        dialog->Save_Colours();
+        dialog->Save_Colours(dialog->Shown_Configuration());
         EXPECT_EQ(form.Back_Colour() == 5, option == &colours.Col_Other_Opt);
     }
     for (const int kind : {2, 1, 0}) {
@@ -66,7 +66,7 @@ TEST_F(Saving, a_pack_rules_style_and_position_as_far_as_it_may) {
     Open(Settings_Frm::wallpaper_fra);
     const int height = form.Height();
     Wallpaper_Page &page = dialog->Wallpaper;
-    const auto save = [this] { dialog->Save_Theme(); };
+    const auto save = [this] { dialog->Save_Theme(dialog->Shown_Configuration()); };
     EXPECT_EQ(Written(save), "Alignment=0|Style=1|"); // the pack of the settings is not there
     Push(*dialog, page.Theme_Use_Chk, true);
     Push(*dialog, page.Packs_Cbo, true);

@@ -196,6 +196,7 @@ TEST_F(Themes_Page, a_preview_leaves_all_as_it_was) {
         Push(*dialog, Page().Preview_Btn);
         EXPECT_FALSE(Choices_Enabled() || form.Dectect_Date_Timer.Enabled());
         EXPECT_EQ(form.Which_Month_Lbl.Caption(), "Preview Mode - January");
+        EXPECT_EQ(Cur_Settings.Use_Themes, themes) << "the calendar shows a copy";
         EXPECT_EQ(Text_Of(7) == text, themes) << "fitted for another style";
         EXPECT_EQ(Fakes().wallpapers.back(), Path("Winter", "1.bmp"));
         if (end == bad_number)

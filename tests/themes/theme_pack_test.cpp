@@ -1,4 +1,5 @@
 // Theme packs: names, lookups in settings.ini, and the one bitmap that is made of a month's picture.
+#include "calendar/main_frm.h"
 #include "platform/files.h"
 #include "tests/fakes/fake_test.h"
 #include "themes/theme_pack.h"
@@ -12,10 +13,8 @@ protected:
     static bool Has(const std::string &name) { return Fakes().files.contains(In_Pack(name)); }
 
     std::string Details(std::int16_t month, const std::string &pack = "Hills") {
-        return Get_Paper_Details(month, pack, [this] { ++removals; });
+        return Main_Frm::Get_Paper_Details(month, pack);
     }
-
-    int removals = 0;
 };
 
 TEST_F(Theme_Pack, Names_Lead_Nowhere_Else) {
@@ -64,7 +63,7 @@ TEST_F(Theme_Pack, A_Missing_Pack_Ends_The_Use_Of_Themes_And_An_Unreadable_One_D
         EXPECT_EQ(Details(3, pack), "ERROR");
         EXPECT_EQ(std::exchange(Fakes().registry["Software\\Vellatro\\Settings\\Use Themes"], ""), "0");
     }
-    EXPECT_EQ(removals, 4);
+    EXPECT_EQ(Fakes().wallpapers, std::vector<std::string>(4));
     EXPECT_EQ(Get_Paper_Path(3, "Hills\\..\\Hills"), "ERROR");
     Fakes().registry_writes = 0;
     Fakes().folders = {"C:\\Vellatro\\Hills"};
@@ -75,7 +74,7 @@ TEST_F(Theme_Pack, A_Missing_Pack_Ends_The_Use_Of_Themes_And_An_Unreadable_One_D
         Fakes().Expect_Box("Error loading in Settings file...\r\n\r\n" + In_Pack("settings.ini"));
         EXPECT_EQ(Details(3), "ERROR");
     }
-    EXPECT_TRUE(Fakes().registry_writes == 0 && removals == 4);
+    EXPECT_TRUE(Fakes().registry_writes == 0 && Fakes().wallpapers.size() == 4);
 }
 
 TEST_F(Theme_Pack, One_Bitmap_At_A_Time_Is_Made_Of_A_Picture) {

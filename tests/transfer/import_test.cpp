@@ -231,9 +231,10 @@ TEST_F(Importing, takes_a_configuration_over_up_to_an_error) {
     form.Which_Month_Lbl_DblClick(); // the title has its colours and place in compact mode, too
     const int top = form.Top();
     Open(Settings_Frm::transfer_fra);
-    File("C:\\in.ini") = "Col_Fore=255\nTaskPos=0\n";
+    File("C:\\in.ini") = "Col_Fore=255\nTaskPos=0\nBar_Date_Format=mm/yyyy\n";
     Import(1, "C:\\in.ini", "Loaded configuration file successfully.");
     EXPECT_EQ(form.Which_Month_Lbl.Fore_Colour(), 255);
+    EXPECT_EQ(form.Which_Month_Lbl.Caption(), "03/2002");
     EXPECT_TRUE(form.Compacted && form.Top() != top);
 }
 

@@ -1,0 +1,26 @@
+// What changed settings, or another month of a theme pack, mean for the calendar window.
+#include "calendar/main_frm.h"
+
+void Main_Frm::Follow(const Settings &before, bool where_dropped) {
+    const auto changed = [&](auto... members) {
+        return ((before.*members != Shown_Settings->*members) || ...);
+    };
+    // The window may get another size. One that stands at its set position keeps to it, so that it neither
+    // runs off the screen nor floats.
+    const bool stays = where_dropped && (Compacted || placed_ != Put_At());
+    const bool refit = style_ != Effective_Style();
+    Which_Style(Effective_Style());
+    if (changed(&Settings::Bar_Time, &Settings::Bar_Time_Format, &Settings::Bar_Date_Format))
+        Update_Title();
+    TransparentForm();
+    if (!stays)
+        Position_Form(Effective_Position());
+    // The boxes have room for other texts, or other tooltips. It may tell of today's event.
+    if (refit || changed(&Settings::Tooltips, &Settings::Show_Alerts))
+        Load_Dates();
+    if (changed(&Settings::Col_Today, &Settings::Col_Normal, &Settings::Col_Fore, &Settings::Col_Num,
+                &Settings::Col_Text, &Settings::Col_Back, &Settings::Menu_Col_Sorce)) {
+        Set_Colours();
+        Mark_Today();
+    }
+}
