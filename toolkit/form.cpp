@@ -1,6 +1,7 @@
 // Forms: their state, the life of their native window, and the way of user actions to the controls.
 #include "toolkit/form.h"
 
+#include "platform/message_box.h"
 #include "toolkit/guard.h"
 #include "toolkit/handler.h"
 #include "toolkit/painter.h"
@@ -173,24 +174,28 @@ void Form::Bring_To_Front() {
 }
 
 bool Form::Blocked(const Input_Event &event) {
-    if (modal_ == nullptr)
-        return false;
+    const bool beside_box = platform::Box_Is_Open();
     switch (event.kind) {
-    case Input_Kind::Mouse_Down:
-    case Input_Kind::Double_Click:
-    case Input_Kind::Key_Down:
-    case Input_Kind::Default_Action:
-        Bring_To_Front();
-        return true;
-    case Input_Kind::Close:
     case Input_Kind::Moved:
     case Input_Kind::Window_Lost:
     case Input_Kind::Focus_Changed:
     case Input_Kind::Capture_Lost:
     case Input_Kind::Dots_Changed:
         return false;
+    case Input_Kind::Close:
+        return beside_box;
+    case Input_Kind::Text_Changed:
+        // Beside a box it comes from a program, and stands in the native control already.
+        return modal_ != nullptr;
+    case Input_Kind::Mouse_Down:
+    case Input_Kind::Double_Click:
+    case Input_Kind::Key_Down:
+    case Input_Kind::Default_Action:
+        if (modal_ != nullptr && !beside_box)
+            Bring_To_Front();
+        [[fallthrough]];
     default:
-        return true;
+        return beside_box || modal_ != nullptr;
     }
 }
 

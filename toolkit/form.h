@@ -62,8 +62,8 @@ public:
     void Shape(std::vector<Point> corners);
 
     /// The door of all user actions and messages to the form: hit-testing, capture and the rules of visible
-    /// and enabled are here. An exception of a handler is told to the user in a message box and goes no
-    /// further.
+    /// and enabled are here, and that nothing is done beside an open message box. An exception of a handler
+    /// is told to the user in a message box and goes no further.
     void Input(const platform::Input_Event &event);
 
     /// The top-most visible control at the point, null where there is none.

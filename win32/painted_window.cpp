@@ -3,7 +3,6 @@
 
 #include "win32/accessible.h"
 #include "win32/canvas.h"
-#include "win32/modal.h"
 #include "win32/units.h"
 #include "win32/wide_text.h"
 #include "win32/window_class.h"
@@ -79,8 +78,7 @@ LRESULT Painted_Window::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
         Set_Pointer();
         return TRUE;
     case WM_CLOSE:
-        if (Open_Modal_Boxes == 0)
-            Send(platform::Input_Kind::Close);
+        Send(platform::Input_Kind::Close);
         return 0;
     case WM_DPICHANGED:
         Check_Scale(false);
@@ -106,9 +104,7 @@ bool Painted_Window::Handle_Posted(UINT message, WPARAM wparam) {
         platform::Input_Event event{};
         event.kind = platform::Input_Kind::Default_Action;
         event.control = static_cast<int>(wparam);
-        // Nothing is done beside an open message box, whoever asks for it.
-        if (Open_Modal_Boxes == 0)
-            Send(event);
+        Send(event);
         return true;
     }
     case Update_Texts_Message:

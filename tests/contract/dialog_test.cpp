@@ -3,6 +3,7 @@
 #ifdef _WIN32
 #include "base/twips.h"
 #include "platform/forms.h"
+#include "platform/message_box.h"
 #include "platform/message_loop.h"
 #include "platform/screen.h"
 #include "tests/contract/contract.h"
@@ -67,7 +68,7 @@ protected:
     void Follow(const Input_Event &event) {
         if (event.kind == Input_Kind::Moved)
             moved_to_ = event.point;
-        if (event.control < 0)
+        if (event.control < 0 || platform::Box_Is_Open())
             return;
         Control_State &control = controls_[event.control];
         if (event.kind == Input_Kind::Clicked)
@@ -215,7 +216,7 @@ TEST_F(Dialog_Contract, A_Page_Is_Made_In_Its_Place_When_It_Is_First_Shown) {
 TEST_F(Dialog_Contract, Beside_A_Message_Box_Nothing_Changes) {
     controls_[Opt_1].checked = true;
     Change(Opt_1, Aspect::Checked);
-    const win32::Modal_Scope box;
+    const win32::Modal_Scope box(nullptr);
     for (const int index : {Opt_2, Check})
         Send(index, BM_CLICK);
     Press_Tab(1);

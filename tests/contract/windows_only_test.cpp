@@ -9,7 +9,6 @@
 #include "platform/registry.h"
 #include "tests/contract/contract.h"
 #include "tests/contract/small_jpeg.h"
-#include "win32/modal.h"
 #include "win32/paths.h"
 #include "win32/picture_scaling.h"
 
@@ -138,7 +137,7 @@ DWORD WINAPI Visit(void *visit_address) {
     wchar_t text[2000] = {};
     GetDlgItemTextW(box, 0xFFFF, text, 2000);
     visit.text = text;
-    visit.all_locked = win32::Open_Modal_Boxes == 1 && !IsWindowEnabled(visit.bystander);
+    visit.all_locked = platform::Box_Is_Open() && !IsWindowEnabled(visit.bystander);
     PostMessageW(box, WM_COMMAND, visit.button, 0);
     return 0;
 }
@@ -179,7 +178,7 @@ TEST_F(Windows_Only, Message_Boxes_Show_Their_Text_And_Answer) {
         EXPECT_TRUE(visit.text == c.shown) << win32::From_Wide(visit.text);
         EXPECT_TRUE(visit.all_locked && IsWindowEnabled(bystander) && IsWindowEnabled(dialog));
     }
-    EXPECT_EQ(win32::Open_Modal_Boxes, 0);
+    EXPECT_FALSE(platform::Box_Is_Open());
     DestroyWindow(dialog);
     DestroyWindow(bystander);
 }
