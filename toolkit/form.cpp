@@ -22,27 +22,31 @@ Form::Form(Form_Kind kind, const char *name) {
     model_.input = [this](const Input_Event &event) { Input(event); };
     model_.paint = [this](platform::Canvas &canvas, const Rect &clip) {
         try {
-            Paint_Form(model_, canvas, clip);
+            Paint(canvas, clip);
         } catch (...) {
             // A message box would ask for the same painting again; the next change paints anew.
         }
     };
 }
 
+void Form::Paint(platform::Canvas &canvas, const Rect &clip) const {
+    Paint_Form(model_, canvas, clip);
+}
+
 Form::~Form() {
     Close();
 }
 
-void Form::Register(Control &control) {
-    control.state_.index = static_cast<int>(controls_.size());
+void Form::Register(Control &control, platform::Control_State &state) {
+    state.index = static_cast<int>(controls_.size());
     controls_.push_back(&control);
-    model_.controls.push_back(&control.state_);
+    model_.controls.push_back(&state);
 }
 
 void Form::Forget(const Control &control) {
     Close();
     std::erase(controls_, &control);
-    std::erase(model_.controls, &control.state_);
+    std::erase(model_.controls, &control.State());
 }
 
 void Form::Tell(Aspect aspect) {
@@ -253,8 +257,8 @@ Control *Form::Control_Of(const Input_Event &event) const {
 }
 
 bool Form::Takes_Input(const Control *control) const {
-    return control != nullptr && platform::Is_Usable(model_, control->state_) &&
-           platform::Is_Shown(model_, control->state_);
+    return control != nullptr && platform::Is_Usable(model_, control->State()) &&
+           platform::Is_Shown(model_, control->State());
 }
 
 void Form::Press(Control *control, const Input_Event &event, Point point) {

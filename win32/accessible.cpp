@@ -31,7 +31,7 @@ constexpr GUID accessible_interface = {
 
 /// What a child number of a call stands for: a control, or the form itself.
 struct Target {
-    Form_Model *form = nullptr;
+    const Form_Model *form = nullptr;
     const Control_State *control = nullptr;
     HRESULT error = S_OK;
 };
@@ -167,7 +167,7 @@ public:
 private:
     ~Accessible_Form() = default;
 
-    Form_Model *Form() const { return Form_Of_Window(only_ < 0 ? window_ : GetParent(window_)); }
+    const Form_Model *Form() const { return Form_Of_Window(only_ < 0 ? window_ : GetParent(window_)); }
     Target Find(const VARIANT &child) const;
 
     /// Runs a call's work; want of memory becomes its error code.
@@ -259,7 +259,7 @@ ULONG Accessible_Form::Release() {
 }
 
 Target Accessible_Form::Find(const VARIANT &child) const {
-    Form_Model *form = Form();
+    const Form_Model *form = Form();
     if (form == nullptr)
         return {nullptr, nullptr, CO_E_OBJNOTCONNECTED};
     const auto count = only_ < 0 ? static_cast<long>(form->controls.size()) : 0L;

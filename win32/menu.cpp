@@ -82,7 +82,7 @@ private:
 
 } // namespace
 
-int Track_Popup_Menu(Form_Model &owner, const std::vector<Menu_Item> &items, const Point *at) {
+int Track_Popup_Menu(const Form_Model &owner, const std::vector<Menu_Item> &items, const Point *at) {
     const HWND window = win32::Window_Of_Form(owner);
     const win32::Unique_Menu menu(CreatePopupMenu());
     if (window == nullptr || !menu)

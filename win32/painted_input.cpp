@@ -25,9 +25,7 @@ bool Is_Command_Key(UINT message, WPARAM key) {
 bool Painted_Window::Handle_Input(UINT message, WPARAM wparam, LPARAM lparam, LRESULT &result) {
     if (message == WM_MOUSEACTIVATE) {
         // A window inside the shell's is not disabled with the others by a message box.
-        result = platform::Box_Is_Open() ? MA_NOACTIVATEANDEAT
-                 : Model()->floating     ? MA_NOACTIVATE
-                                         : MA_ACTIVATE;
+        result = platform::Box_Is_Open() ? MA_NOACTIVATEANDEAT : Floats() ? MA_NOACTIVATE : MA_ACTIVATE;
         return true;
     }
     if (Mouse_Input::Is_Mouse(message))
@@ -72,7 +70,7 @@ bool Painted_Window::Handle_Mouse(UINT message, WPARAM wparam, LPARAM lparam) {
     if (!mouse_.Take(window_, message, wparam, lparam, event))
         return true;
     const bool pressed = event.kind == Input_Kind::Mouse_Down || event.kind == Input_Kind::Double_Click;
-    if (pressed && !Model()->floating && GetFocus() != window_)
+    if (pressed && !Floats() && GetFocus() != window_)
         SetFocus(window_);
     Send(event);
     return true;

@@ -242,7 +242,7 @@ void Painted_Window::Show_Or_Hide() {
         ShowWindow(window_, SW_HIDE);
         return;
     }
-    if (Model()->floating) {
+    if (Floats()) {
         SetWindowPos(window_, HWND_TOPMOST, 0, 0, 0, 0,
                      SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_SHOWWINDOW);
         return;

@@ -61,7 +61,7 @@ std::optional<Label_Colours> Icon_Label_Colours(Shell_Window list, unsigned pati
     return Label_Colours{*background, *text};
 }
 
-void Attach_To_Desktop(Form_Model &model, Shell_Window desktop) {
+void Attach_To_Desktop(const Form_Model &model, Shell_Window desktop) {
     const HWND window = win32::Window_Of_Form(model);
     if (window == nullptr)
         return;
