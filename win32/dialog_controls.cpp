@@ -71,7 +71,7 @@ bool Dialog_Window::Holds(const Control_State &holder, const Control_State &cont
 
 void Dialog_Window::Look_Changed(const Control_State &control) {
     Native &native = natives_[static_cast<std::size_t>(control.index)];
-    native.brush.Reset();
+    native.brush.reset();
     if (!control.painted)
         Set_Font(control);
     InvalidateRect(native.window, nullptr, !control.painted);
@@ -88,9 +88,9 @@ void Dialog_Window::Set_Font(const Control_State &control) {
 HFONT Dialog_Window::Find_Font(const platform::Font &font) {
     for (const Shared_Font &each : fonts_)
         if (each.font == font)
-            return each.native.Get();
+            return each.native.get();
     fonts_.push_back({font, Make_Font(font, platform::Dots_Per_Inch())});
-    return fonts_.back().native.Get();
+    return fonts_.back().native.get();
 }
 
 void Dialog_Window::Set_Caption(const Control_State &control) {

@@ -202,18 +202,18 @@ void Painted_Window::Set_Region() {
     for (const Rect &rect : clip_)
         pixels.push_back(To_Pixels(rect));
     const Unique_Region now(CreateRectRgn(0, 0, 0, 0));
-    if (Equal(pixels, region_) && GetWindowRgn(window_, now.Get()) != ERROR)
+    if (Equal(pixels, region_) && GetWindowRgn(window_, now.get()) != ERROR)
         return;
     Unique_Region whole(CreateRectRgn(0, 0, 0, 0));
     const Unique_Region part(CreateRectRgn(0, 0, 0, 0));
     for (const RECT &rect : pixels) {
-        SetRectRgn(part.Get(), rect.left, rect.top, rect.right, rect.bottom);
-        CombineRgn(whole.Get(), whole.Get(), part.Get(), RGN_OR);
+        SetRectRgn(part.get(), rect.left, rect.top, rect.right, rect.bottom);
+        CombineRgn(whole.get(), whole.get(), part.get(), RGN_OR);
     }
     // The system owns the region from then on, when it takes it.
-    if (!whole || SetWindowRgn(window_, whole.Get(), TRUE) == 0)
+    if (!whole || SetWindowRgn(window_, whole.get(), TRUE) == 0)
         return;
-    whole.Release();
+    static_cast<void>(whole.release());
     region_ = std::move(pixels);
 }
 
@@ -224,8 +224,8 @@ void Painted_Window::Shape(const std::vector<Point> &corners) {
     for (const Point &corner : corners)
         pixels.push_back({To_Pixels(corner.x), To_Pixels(corner.y)});
     Unique_Region region(CreatePolygonRgn(pixels.data(), static_cast<int>(pixels.size()), WINDING));
-    if (region && SetWindowRgn(window_, region.Get(), TRUE) != 0)
-        region.Release();
+    if (region && SetWindowRgn(window_, region.get(), TRUE) != 0)
+        static_cast<void>(region.release());
 }
 
 void Painted_Window::Place() {

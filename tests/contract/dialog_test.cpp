@@ -233,14 +233,14 @@ TEST_F(Dialog_Contract, What_Paints_Itself_Lies_On_The_Page) {
     const win32::Unique_Memory_Dc dc(CreateCompatibleDC(screen));
     const win32::Unique_Bitmap bitmap(CreateCompatibleBitmap(screen, 100, 20));
     ReleaseDC(nullptr, screen);
-    const win32::Selected_Object selected(dc.Get(), bitmap.Get());
-    Send(Picture, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc.Get()), PRF_CLIENT);
-    EXPECT_EQ(GetPixel(dc.Get(), 40, 10), RGB(10, 200, 30));
-    const COLORREF bare = GetPixel(dc.Get(), 90, 10);
-    Send(Tabs, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc.Get()), PRF_CLIENT | PRF_ERASEBKGND);
-    SetViewportOrgEx(dc.Get(), -200, -300, nullptr);
-    Send(Tabs, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc.Get()), PRF_CLIENT | PRF_ERASEBKGND);
-    EXPECT_EQ(bare, GetPixel(dc.Get(), 210, 310));
+    const win32::Selected_Object selected(dc.get(), bitmap.get());
+    Send(Picture, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc.get()), PRF_CLIENT);
+    EXPECT_EQ(GetPixel(dc.get(), 40, 10), RGB(10, 200, 30));
+    const COLORREF bare = GetPixel(dc.get(), 90, 10);
+    Send(Tabs, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc.get()), PRF_CLIENT | PRF_ERASEBKGND);
+    SetViewportOrgEx(dc.get(), -200, -300, nullptr);
+    Send(Tabs, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc.get()), PRF_CLIENT | PRF_ERASEBKGND);
+    EXPECT_EQ(bare, GetPixel(dc.get(), 210, 310));
     EXPECT_EQ(GetWindow(Native(Over), GW_HWNDNEXT), Native(Picture));
     EXPECT_EQ(GetWindow(Native(Tabs), GW_HWNDNEXT), nullptr);
 }

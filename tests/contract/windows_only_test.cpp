@@ -37,10 +37,11 @@ TEST_F(Windows_Only, A_Hidden_File_Stays_Hidden_And_The_Rest_Of_A_Killed_Run_Goe
     const std::string path = Scratch("calendar.dat");
     const std::wstring wide = win32::To_Wide(path);
     {
-        const win32::Unique_File writer(CreateFileW(wide.c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr,
-                                                    CREATE_NEW, FILE_ATTRIBUTE_HIDDEN, nullptr));
+        const win32::Unique_File writer =
+            win32::Own_File(CreateFileW(wide.c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr, CREATE_NEW,
+                                        FILE_ATTRIBUTE_HIDDEN, nullptr));
         DWORD written = 0;
-        ASSERT_TRUE(WriteFile(writer.Get(), "half", 4, &written, nullptr));
+        ASSERT_TRUE(WriteFile(writer.get(), "half", 4, &written, nullptr));
         EXPECT_EQ(platform::Read_File(path), "half") << "while another program writes it";
     }
     platform::Replace_File(path + ".vellatro-new", "half of a much longer file");
@@ -174,7 +175,7 @@ TEST_F(Windows_Only, Message_Boxes_Show_Their_Text_And_Answer) {
         EXPECT_EQ(platform::Message_Box(c.text, win32::From_Wide(visit.title), platform::Box_Icon::Question,
                                         c.buttons),
                   c.answer);
-        WaitForSingleObject(thread.Get(), INFINITE);
+        WaitForSingleObject(thread.get(), INFINITE);
         EXPECT_TRUE(visit.text == c.shown) << win32::From_Wide(visit.text);
         EXPECT_TRUE(visit.all_locked && IsWindowEnabled(bystander) && IsWindowEnabled(dialog));
     }
