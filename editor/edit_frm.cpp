@@ -2,6 +2,7 @@
 #include "editor/edit_frm.h"
 
 #include "base/joined.h"
+#include "base/scoped_value.h"
 #include "platform/message_box.h"
 #include "platform/screen.h"
 #include "toolkit/units.h"
@@ -24,18 +25,6 @@ constexpr int text_frame = 8 * 15;
 constexpr int scroll_bar = 17 * 15;
 constexpr int check_mark = 26 * 15; ///< with its distances from the caption
 constexpr int title_bar = 40 * 15;  ///< with the frame, estimated
-
-/// Raises a flag for the length of a scope.
-class Raised {
-public:
-    explicit Raised(bool &flag) : flag_(flag) { flag_ = true; }
-    ~Raised() { flag_ = false; }
-    Raised(const Raised &) = delete;
-    Raised &operator=(const Raised &) = delete;
-
-private:
-    bool &flag_;
-};
 
 } // namespace
 
@@ -82,7 +71,7 @@ void Edit_Frm::Edit_Box(int index) {
 }
 
 void Edit_Frm::Fill() {
-    const Raised raised(busy_);
+    const Scoped_Value busy(busy_, true);
     Message_Txt.Set_Text({});
     const Stored_Message message = calendar_.Events.Get_Message(Date_Key(day_));
     unread_ = message.incomplete;
@@ -97,7 +86,7 @@ bool Edit_Frm::May_Leave() {
         return true;
     Box_Answer answer{};
     {
-        const Raised raised(busy_);
+        const Scoped_Value busy(busy_, true);
         answer = platform::Message_Box(Joined({"Save changes for the ", Date_Lbl.Caption(), "?"}),
                                        "Desktop Wallpaper", platform::Box_Icon::Question,
                                        platform::Box_Buttons::Yes_No_Cancel);
@@ -130,7 +119,7 @@ bool Edit_Frm::Check_Quotes() const {
 }
 
 bool Edit_Frm::Apply_Btn_Click() {
-    const Raised raised(busy_);
+    const Scoped_Value busy(busy_, true);
     if (!Check_Quotes()) {
         platform::Message_Box("Make sure you haven't used any quotation marks (\") in your entry.",
                               "Vellatro", platform::Box_Icon::Exclamation);

@@ -98,7 +98,10 @@ struct Control_State {
 
 enum class Form_Kind : std::uint8_t {
     Painted, ///< borderless, painted by the form itself, no task bar button
-    Dialog,  ///< a native dialog: title bar, close box, native controls
+    /// A painted form that appears above all windows and never takes the keyboard. It has no owner: the
+    /// calendar may be inside a window of the shell's process, which an owned window would be tied to.
+    Floating,
+    Dialog, ///< a native dialog: title bar, close box, native controls
 };
 
 /// Pointer shapes over a form.
@@ -155,9 +158,6 @@ struct Form_Model {
     Rect bounds; ///< on the screen, twips; of a dialog the client area's size counts
     bool visible = false;
     bool enabled = true; ///< without this the window of a dialog takes no mouse and no keys
-    /// A painted form that appears above all windows and never takes the keyboard. It has no owner: the
-    /// calendar may be inside a window of the shell's process, which an owned window would be tied to.
-    bool floating = false;
     Colour back_colour = System_Colour(15);
     Pointer_Shape pointer = Pointer_Shape::Arrow;
     std::vector<Control_State *> controls; ///< in paint and tab order
@@ -211,24 +211,25 @@ inline bool Is_Usable(const Form_Model &model, const Control_State &control) {
 
 /// Makes the native window of a form, hidden or visible as the model says, with all its controls.
 /// Throws Error with the system's reason when it cannot be made, and then there is none.
-void Create_Mirror(Form_Model &model);
+void Create_Mirror(const Form_Model &model);
 
 /// Takes the native window down. Does nothing when there is none.
-void Destroy_Mirror(Form_Model &model);
+void Destroy_Mirror(const Form_Model &model);
 
 /// Tells the mirror that the form's own state changed. Does nothing without a native window.
-void Form_Changed(Form_Model &model, Aspect aspect);
+void Form_Changed(const Form_Model &model, Aspect aspect);
 
 /// Tells the mirror that a control's state changed, which for the place, Visible and Enabled of a frame
 /// concerns all that it holds; `before` is the control's rectangle before a change of
 /// Bounds.
-void Control_Changed(Form_Model &model, const Control_State &control, Aspect aspect, const Rect &before);
+void Control_Changed(const Form_Model &model, const Control_State &control, Aspect aspect,
+                     const Rect &before);
 
 /// Clips the form's window to these rectangles (twips on the form). Equal rectangles change nothing.
-void Clip_Window(Form_Model &model, const std::vector<Rect> &rects);
+void Clip_Window(const Form_Model &model, const std::vector<Rect> &rects);
 
 /// Clips the form's window to a polygon (twips on the form).
-void Shape_Window(Form_Model &model, const std::vector<Point> &corners);
+void Shape_Window(const Form_Model &model, const std::vector<Point> &corners);
 
 /// Returns where the left top corner of the form's window is on the screen, in pixels, also when another
 /// program has moved the window or the one that it is in. Nothing without a native window or while it is
@@ -236,6 +237,6 @@ void Shape_Window(Form_Model &model, const std::vector<Point> &corners);
 std::optional<Point> Window_Corner(const Form_Model &model);
 
 /// Shows the form in front of the other windows and gives it the keyboard.
-void Bring_To_Front(Form_Model &model);
+void Bring_To_Front(const Form_Model &model);
 
 } // namespace platform

@@ -21,6 +21,6 @@ struct Menu_Item {
 /// Shows the items as a popup menu centred on the mouse and returns the id of the chosen one, 0 when it was
 /// dismissed. `owner` is the form that the menu belongs to. With `at`, in twips on the owner, the menu opens
 /// there instead.
-int Track_Popup_Menu(Form_Model &owner, const std::vector<Menu_Item> &items, const Point *at = nullptr);
+int Track_Popup_Menu(const Form_Model &owner, const std::vector<Menu_Item> &items, const Point *at = nullptr);
 
 } // namespace platform

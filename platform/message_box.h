@@ -10,9 +10,12 @@ enum class Box_Buttons { Ok, Yes_No, Yes_No_Cancel };
 enum class Box_Answer { Ok, Yes, No, Cancel };
 
 /// Shows a message box in front of the program's windows and waits for the answer. Meanwhile timers go on,
-/// and no other window of the program takes clicks or keys. The close box and Esc answer Cancel where there
+/// and the forms take nothing that the user does. The close box and Esc answer Cancel where there
 /// is that button, else Ok.
 Box_Answer Message_Box(std::string_view text, std::string_view title, Box_Icon icon,
                        Box_Buttons buttons = Box_Buttons::Ok);
+
+/// Returns whether a message box or a file dialog of the program is open.
+bool Box_Is_Open();
 
 } // namespace platform

@@ -34,7 +34,7 @@ std::optional<Label_Colours> Icon_Label_Colours(Shell_Window list, unsigned pati
 /// Makes the form's window a child of the desktop window, above its other children, at its place on the
 /// screen; then looks the dots per inch up again. When the desktop window has gone in the meantime, the
 /// form's window stays where it was. Does nothing without a native window.
-void Attach_To_Desktop(Form_Model &model, Shell_Window desktop);
+void Attach_To_Desktop(const Form_Model &model, Shell_Window desktop);
 
 /// Opens a page of the web in the user's browser. A failure is silent.
 void Open_Web_Page(const char *address);

@@ -1,6 +1,7 @@
 // The settings dialog from its opening to its end, its tabs and its buttons.
 #include "settings/settings_frm.h"
 
+#include "base/scoped_value.h"
 #include "core/settings.h"
 #include "platform/screen.h"
 #include "toolkit/guard.h"
@@ -66,21 +67,20 @@ Settings_Frm::Settings_Frm(Main_Frm &calendar)
     On_Window_Lost = [this] { Form_Unload(); };
     On_Dots_Changed = [this] { Lay_Out(); };
     On_Capture_Lost = [this] { Tooltips.Release(); };
-    Model().input = [this](const platform::Input_Event &event) {
-        ++events_;
-        Input(event);
-        --events_;
-    };
 }
 
 Settings_Frm::~Settings_Frm() {
     Form_Unload();
 }
 
+void Settings_Frm::Input(const platform::Input_Event &event) {
+    const Scoped_Value running(events_, events_ + 1);
+    Form::Input(event);
+}
+
 void Settings_Frm::Form_Load() {
-    ++events_;
+    const Scoped_Value running(events_, events_ + 1);
     Run_Guarded([this] { Open(); });
-    --events_;
 }
 
 void Settings_Frm::Open() {

@@ -46,6 +46,7 @@ public:
     void Form_Unload();
     /// Its opening or an event of it has not returned yet.
     bool Busy() const { return events_ > 0; }
+    void Input(const platform::Input_Event &event) override;
 
     /// Number of the selected tab, counted from 1.
     std::int16_t Which_Tab() const;

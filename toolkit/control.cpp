@@ -17,7 +17,7 @@ Control::Control(Form &form, platform::Control_Kind kind, const char *name, cons
     state_.kind = kind;
     state_.name = name;
     state_.caption = caption;
-    form.Register(*this);
+    form.Register(*this, state_);
 }
 
 Control::~Control() {
@@ -29,7 +29,7 @@ void Control::Tell(Aspect aspect) {
         return;
     // A painted form draws its labels from their state: of one that is not seen there is nothing to redraw.
     const bool drawn = aspect == Aspect::Caption || aspect == Aspect::Look;
-    if (drawn && !state_.visible && form_.model_.kind == platform::Form_Kind::Painted)
+    if (drawn && !state_.visible && form_.model_.kind != platform::Form_Kind::Dialog)
         return;
     platform::Control_Changed(form_.model_, state_, aspect, state_.bounds);
 }

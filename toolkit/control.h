@@ -68,12 +68,11 @@ public:
     /// A key while a control of a dialog has the keyboard.
     Handler<const platform::Input_Event &> On_Key_Down;
 
-protected:
-    friend class Form;
     /// Takes what a native control tells of; the point where the kinds of controls differ. The handler may
     /// end the form: it comes last.
     virtual void Take(const platform::Input_Event &event);
 
+protected:
     /// Stores `value` in `field` and tells the mirror, if that is a change. Returns whether it was.
     template <typename Field, typename Value>
     bool Store(Field &field, Value &&value, platform::Aspect aspect) {

@@ -1,6 +1,7 @@
 // Forms: their state, the life of their native window, and the way of user actions to the controls.
 #include "toolkit/form.h"
 
+#include "platform/message_box.h"
 #include "toolkit/guard.h"
 #include "toolkit/handler.h"
 #include "toolkit/painter.h"
@@ -21,27 +22,31 @@ Form::Form(Form_Kind kind, const char *name) {
     model_.input = [this](const Input_Event &event) { Input(event); };
     model_.paint = [this](platform::Canvas &canvas, const Rect &clip) {
         try {
-            Paint_Form(model_, canvas, clip);
+            Paint(canvas, clip);
         } catch (...) {
             // A message box would ask for the same painting again; the next change paints anew.
         }
     };
 }
 
+void Form::Paint(platform::Canvas &canvas, const Rect &clip) const {
+    Paint_Form(model_, canvas, clip);
+}
+
 Form::~Form() {
     Close();
 }
 
-void Form::Register(Control &control) {
-    control.state_.index = static_cast<int>(controls_.size());
+void Form::Register(Control &control, platform::Control_State &state) {
+    state.index = static_cast<int>(controls_.size());
     controls_.push_back(&control);
-    model_.controls.push_back(&control.state_);
+    model_.controls.push_back(&state);
 }
 
 void Form::Forget(const Control &control) {
     Close();
     std::erase(controls_, &control);
-    std::erase(model_.controls, &control.state_);
+    std::erase(model_.controls, &control.State());
 }
 
 void Form::Tell(Aspect aspect) {
@@ -173,24 +178,28 @@ void Form::Bring_To_Front() {
 }
 
 bool Form::Blocked(const Input_Event &event) {
-    if (modal_ == nullptr)
-        return false;
+    const bool beside_box = platform::Box_Is_Open();
     switch (event.kind) {
-    case Input_Kind::Mouse_Down:
-    case Input_Kind::Double_Click:
-    case Input_Kind::Key_Down:
-    case Input_Kind::Default_Action:
-        Bring_To_Front();
-        return true;
-    case Input_Kind::Close:
     case Input_Kind::Moved:
     case Input_Kind::Window_Lost:
     case Input_Kind::Focus_Changed:
     case Input_Kind::Capture_Lost:
     case Input_Kind::Dots_Changed:
         return false;
+    case Input_Kind::Close:
+        return beside_box;
+    case Input_Kind::Text_Changed:
+        // Beside a box it comes from a program, and stands in the native control already.
+        return modal_ != nullptr;
+    case Input_Kind::Mouse_Down:
+    case Input_Kind::Double_Click:
+    case Input_Kind::Key_Down:
+    case Input_Kind::Default_Action:
+        if (modal_ != nullptr && !beside_box)
+            Bring_To_Front();
+        [[fallthrough]];
     default:
-        return true;
+        return beside_box || modal_ != nullptr;
     }
 }
 
@@ -248,8 +257,8 @@ Control *Form::Control_Of(const Input_Event &event) const {
 }
 
 bool Form::Takes_Input(const Control *control) const {
-    return control != nullptr && platform::Is_Usable(model_, control->state_) &&
-           platform::Is_Shown(model_, control->state_);
+    return control != nullptr && platform::Is_Usable(model_, control->State()) &&
+           platform::Is_Shown(model_, control->State());
 }
 
 void Form::Press(Control *control, const Input_Event &event, Point point) {

@@ -19,7 +19,6 @@ public:
     virtual ~Form();
 
     const platform::Form_Model &Model() const { return model_; }
-    platform::Form_Model &Model() { return model_; }
 
     // Place on the screen, also where others have moved the window, and size, in twips.
     int Left() const { return Corner().x; }
@@ -62,9 +61,9 @@ public:
     void Shape(std::vector<Point> corners);
 
     /// The door of all user actions and messages to the form: hit-testing, capture and the rules of visible
-    /// and enabled are here. An exception of a handler is told to the user in a message box and goes no
-    /// further.
-    void Input(const platform::Input_Event &event);
+    /// and enabled are here, and that nothing is done beside an open message box. An exception of a handler
+    /// is told to the user in a message box and goes no further.
+    virtual void Input(const platform::Input_Event &event);
 
     /// The top-most visible control at the point, null where there is none.
     Control *Control_At(Point point);
@@ -81,9 +80,13 @@ public:
     Handler<> On_Capture_Lost;
     Handler<> On_Dots_Changed;
 
+protected:
+    /// Paints what of a painted form lies in `clip` (twips on the form).
+    virtual void Paint(platform::Canvas &canvas, const Rect &clip) const;
+
 private:
     friend class Control;
-    void Register(Control &control);
+    void Register(Control &control, platform::Control_State &state);
     void Forget(const Control &control);
     void Tell(platform::Aspect aspect);
     Point Corner() const;

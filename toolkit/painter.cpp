@@ -35,8 +35,7 @@ void Paint_Information(Canvas &canvas, const Control_State &control) {
         const int x1 = centre_x + right * radius / 8;
         const int y0 = centre_y + top * radius / 8;
         const int y1 = centre_y + bottom * radius / 8;
-        platform::Fill_Polygon(canvas, {{x0, y0}, {x1, y0}, {x1, y1}, {x0, y1}},
-                               Rgb(255, 255, 255));
+        platform::Fill_Polygon(canvas, {{x0, y0}, {x1, y0}, {x1, y1}, {x0, y1}}, Rgb(255, 255, 255));
     };
     fill(-1, -5, 1, -3);
     fill(-1, -2, 1, 5);

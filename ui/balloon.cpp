@@ -34,9 +34,8 @@ void Prepare(Label &label, const platform::Font &font) {
 } // namespace
 
 frmBalloon::frmBalloon()
-    : Form(platform::Form_Kind::Painted, "Balloon"), Icon_Lbl(*this, "Icon_Lbl"),
+    : Form(platform::Form_Kind::Floating, "Balloon"), Icon_Lbl(*this, "Icon_Lbl"),
       Title_Lbl(*this, "Title_Lbl"), Message_Lbl(*this, "Message_Lbl") {
-    Model().floating = true;
     Set_Back_Colour(back_colour);
     Icon_Lbl.Set_Transparent(true);
     Icon_Lbl.Set_Fore_Colour(icon_colour);
@@ -44,13 +43,6 @@ frmBalloon::frmBalloon()
     Prepare(Title_Lbl, title_font);
     Title_Lbl.Set_Align(platform::Text_Align::Left, true);
     Prepare(Message_Lbl, text_font);
-    Model().paint = [this](platform::Canvas &canvas, const Rect &clip) {
-        try {
-            Paint(canvas, clip);
-        } catch (...) {
-            // Want of memory: a message box would ask for the same painting again.
-        }
-    };
 }
 
 void frmBalloon::SetBalloon(const std::string &title, std::string_view text, std::string_view icon,

@@ -29,7 +29,7 @@ public:
     Label Message_Lbl;
 
 private:
-    void Paint(platform::Canvas &canvas, const Rect &clip) const;
+    void Paint(platform::Canvas &canvas, const Rect &clip) const override;
 
     Balloon_Place place_; ///< on the form
 };

@@ -37,11 +37,10 @@ void Dress(Label &label, const Rect &place, Colour back, Colour fore, const plat
 } // namespace
 
 Splash_Frm::Splash_Frm()
-    : Form(platform::Form_Kind::Painted, "Splash"), Frame_Lbl(*this, "Frame_Lbl"),
+    : Form(platform::Form_Kind::Floating, "Splash"), Frame_Lbl(*this, "Frame_Lbl"),
       Ring_Lbl(*this, "Ring_Lbl"), Weekday_Lbl(*this, "Weekday_Lbl"), Day_Lbl(*this, "Day_Lbl"),
       Name_Lbl(*this, "Name_Lbl"), Line_Lbl(*this, "Line_Lbl"), Start_Timer(1500) {
     using platform::Text_Align;
-    Model().floating = true;
     Set_Title("Welcome to Vellatro");
     Set_Back_Colour(deep_blue);
     Resize(splash_width, splash_height);

@@ -3,9 +3,9 @@
 // lives.
 #include "win32/accessible.h"
 
+#include "platform/message_box.h"
 #include "win32/accessible_children.h"
 #include "win32/mirror.h"
-#include "win32/modal.h"
 #include "win32/painted_window.h"
 #include "win32/system_library.h"
 #include "win32/units.h"
@@ -31,7 +31,7 @@ constexpr GUID accessible_interface = {
 
 /// What a child number of a call stands for: a control, or the form itself.
 struct Target {
-    Form_Model *form = nullptr;
+    const Form_Model *form = nullptr;
     const Control_State *control = nullptr;
     HRESULT error = S_OK;
 };
@@ -81,7 +81,7 @@ long Role_Of(Access_Role role) {
 long State_Of(const Form_Model &form, const Control_State &control, bool window_has_focus) {
     if (!Is_Presented(control))
         return STATE_SYSTEM_INVISIBLE;
-    long state = control.enabled && Open_Modal_Boxes == 0 ? 0 : STATE_SYSTEM_UNAVAILABLE;
+    long state = control.enabled && !platform::Box_Is_Open() ? 0 : STATE_SYSTEM_UNAVAILABLE;
     // The keyboard reaches every day.
     if (control.access.role == Access_Role::Cell)
         state |= STATE_SYSTEM_FOCUSABLE | STATE_SYSTEM_SELECTABLE;
@@ -96,7 +96,7 @@ long State_Of(const Form_Model &form, const Control_State &control, bool window_
 
 /// The state of a painted control of a dialog, which has a window of its own.
 long State_Of(HWND window, const Control_State &control) {
-    const bool usable = IsWindowEnabled(window) && Open_Modal_Boxes == 0;
+    const bool usable = IsWindowEnabled(window) && !platform::Box_Is_Open();
     long state = (IsWindowVisible(window) ? 0L : STATE_SYSTEM_INVISIBLE) |
                  (usable ? 0L : STATE_SYSTEM_UNAVAILABLE) |
                  (control.tab_stop ? STATE_SYSTEM_FOCUSABLE : STATE_SYSTEM_READONLY) |
@@ -167,7 +167,7 @@ public:
 private:
     ~Accessible_Form() = default;
 
-    Form_Model *Form() const { return Form_Of_Window(only_ < 0 ? window_ : GetParent(window_)); }
+    const Form_Model *Form() const { return Form_Of_Window(only_ < 0 ? window_ : GetParent(window_)); }
     Target Find(const VARIANT &child) const;
 
     /// Runs a call's work; want of memory becomes its error code.
@@ -259,7 +259,7 @@ ULONG Accessible_Form::Release() {
 }
 
 Target Accessible_Form::Find(const VARIANT &child) const {
-    Form_Model *form = Form();
+    const Form_Model *form = Form();
     if (form == nullptr)
         return {nullptr, nullptr, CO_E_OBJNOTCONNECTED};
     const auto count = only_ < 0 ? static_cast<long>(form->controls.size()) : 0L;
@@ -365,7 +365,7 @@ HRESULT Accessible_Form::get_accState(VARIANT child, VARIANT *state) {
         if (target.control != nullptr)
             return State_Of(*target.form, *target.control, focus);
         return (IsWindowVisible(window_) ? 0L : STATE_SYSTEM_INVISIBLE) |
-               (Open_Modal_Boxes > 0 ? STATE_SYSTEM_UNAVAILABLE : 0L) | STATE_SYSTEM_FOCUSABLE |
+               (platform::Box_Is_Open() ? STATE_SYSTEM_UNAVAILABLE : 0L) | STATE_SYSTEM_FOCUSABLE |
                (focus ? STATE_SYSTEM_FOCUSED : 0L);
     });
 }
@@ -462,7 +462,7 @@ HRESULT Accessible_Form::accDoDefaultAction(VARIANT child) {
         return target.error;
     if (target.control == nullptr || target.control->access.default_action.empty())
         return DISP_E_MEMBERNOTFOUND;
-    if (Open_Modal_Boxes > 0)
+    if (platform::Box_Is_Open())
         return E_FAIL;
     // Later, because the action may show a dialog, and the caller would wait for its end.
     const auto index = static_cast<WPARAM>(target.control->index);

@@ -51,21 +51,21 @@ int Pixel_Width(HDC dc, std::wstring_view text) {
 
 Canvas::Canvas(const RECT &area) : area_(area) {
     bitmap_ = win32::Make_Pixel_Bitmap(area.right - area.left, area.bottom - area.top, pixels_);
-    dc_.Reset(CreateCompatibleDC(nullptr));
+    dc_.reset(CreateCompatibleDC(nullptr));
     if (!bitmap_ || !dc_) {
         pixels_ = {};
         return;
     }
-    bitmap_before_ = SelectObject(dc_.Get(), bitmap_.Get());
-    font_before_ = GetCurrentObject(dc_.Get(), OBJ_FONT);
-    SetViewportOrgEx(dc_.Get(), -static_cast<int>(area.left), -static_cast<int>(area.top), nullptr);
-    SetBkMode(dc_.Get(), TRANSPARENT);
+    bitmap_before_ = SelectObject(dc_.get(), bitmap_.get());
+    font_before_ = GetCurrentObject(dc_.get(), OBJ_FONT);
+    SetViewportOrgEx(dc_.get(), -static_cast<int>(area.left), -static_cast<int>(area.top), nullptr);
+    SetBkMode(dc_.get(), TRANSPARENT);
 }
 
 Canvas::~Canvas() {
     if (bitmap_before_ != nullptr) {
-        SelectObject(dc_.Get(), bitmap_before_);
-        SelectObject(dc_.Get(), font_before_);
+        SelectObject(dc_.get(), bitmap_before_);
+        SelectObject(dc_.get(), font_before_);
     }
 }
 
@@ -75,7 +75,7 @@ const win32::Pixel_Buffer &Canvas::Pixels() const {
 }
 
 void Canvas::Put_On(HDC target) const {
-    BitBlt(target, area_.left, area_.top, area_.right - area_.left, area_.bottom - area_.top, dc_.Get(),
+    BitBlt(target, area_.left, area_.top, area_.right - area_.left, area_.bottom - area_.top, dc_.get(),
            area_.left, area_.top, SRCCOPY);
 }
 

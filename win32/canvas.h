@@ -14,7 +14,7 @@ struct platform::Canvas {
     Canvas &operator=(const Canvas &) = delete;
 
     bool Ok() const { return pixels_.pixels != nullptr; }
-    HDC Dc() const { return dc_.Get(); }
+    HDC Dc() const { return dc_.get(); }
     const RECT &Area() const { return area_; }
     /// The bitmap's pixels, with all earlier drawing done.
     const win32::Pixel_Buffer &Pixels() const;

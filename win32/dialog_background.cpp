@@ -40,7 +40,7 @@ RECT Dialog_Window::Page_Of(const Control_State &tab_strip) const {
 
 void Dialog_Window::Find_Page_Colour() {
     page_colour_ = GetSysColor(COLOR_BTNFACE);
-    page_brush_.Reset();
+    page_brush_.reset();
     const Control_State *tabs = Tab_Strip();
     if (tabs == nullptr)
         return;
@@ -54,13 +54,13 @@ void Dialog_Window::Find_Page_Colour() {
     const Unique_Memory_Dc dc(CreateCompatibleDC(nullptr));
     if (!bitmap || !dc)
         return;
-    const Selected_Object selected(dc.Get(), bitmap.Get());
-    SetPixel(dc.Get(), 0, 0, page_colour_);
-    SetViewportOrgEx(dc.Get(), -x, -y, nullptr);
-    SendMessageW(Control_Window(tabs->index), WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc.Get()),
+    const Selected_Object selected(dc.get(), bitmap.get());
+    SetPixel(dc.get(), 0, 0, page_colour_);
+    SetViewportOrgEx(dc.get(), -x, -y, nullptr);
+    SendMessageW(Control_Window(tabs->index), WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc.get()),
                  PRF_CLIENT | PRF_ERASEBKGND);
-    page_colour_ = GetPixel(dc.Get(), x, y);
-    page_brush_.Reset(CreateSolidBrush(page_colour_));
+    page_colour_ = GetPixel(dc.get(), x, y);
+    page_brush_.reset(CreateSolidBrush(page_colour_));
 }
 
 bool Dialog_Window::On_Page(const Control_State &control) const {
@@ -77,7 +77,7 @@ bool Dialog_Window::Erase(HDC dc) {
     if (tabs == nullptr || !page_brush_ || !platform::Is_Shown(*Model(), *tabs))
         return false;
     const RECT page = Page_Of(*tabs);
-    FillRect(dc, &page, page_brush_.Get());
+    FillRect(dc, &page, page_brush_.get());
     const int before = SaveDC(dc);
     ExcludeClipRect(dc, page.left, page.top, page.right, page.bottom);
     DefDlgProcW(window_, WM_ERASEBKGND, reinterpret_cast<WPARAM>(dc), 0);
@@ -96,19 +96,19 @@ LRESULT Dialog_Window::Colour_Control(UINT message, HDC dc, HWND window, LRESULT
         if (!On_Page(*control))
             return usual;
         SetBkColor(dc, page_colour_);
-        return reinterpret_cast<LRESULT>(page_brush_.Get());
+        return reinterpret_cast<LRESULT>(page_brush_.get());
     }
     Native &native = natives_[static_cast<std::size_t>(control->index)];
     const auto back = static_cast<COLORREF>(platform::Resolve_Colour(control->back_colour));
     if (!native.brush)
-        native.brush.Reset(CreateSolidBrush(back));
+        native.brush.reset(CreateSolidBrush(back));
     SetBkColor(dc, back);
-    return reinterpret_cast<LRESULT>(native.brush.Get());
+    return reinterpret_cast<LRESULT>(native.brush.get());
 }
 
 void Dialog_Window::Colours_Changed(UINT message, WPARAM wparam, LPARAM lparam) {
     for (Native &native : natives_) {
-        native.brush.Reset();
+        native.brush.reset();
         // The system tells the dialog alone; the common controls keep colours too. A new theme is told to
         // all.
         if (message == WM_SYSCOLORCHANGE && native.window != nullptr && !native.painted)

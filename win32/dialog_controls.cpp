@@ -1,5 +1,6 @@
 // The native controls of dialogs show the state of the form's controls. Their making is in dialog_make.cpp,
 // what the user does with them in dialog_events.cpp.
+#include "base/scoped_value.h"
 #include "win32/accessible.h"
 #include "win32/dialog_edit.h"
 #include "win32/dialog_lists.h"
@@ -70,7 +71,7 @@ bool Dialog_Window::Holds(const Control_State &holder, const Control_State &cont
 
 void Dialog_Window::Look_Changed(const Control_State &control) {
     Native &native = natives_[static_cast<std::size_t>(control.index)];
-    native.brush.Reset();
+    native.brush.reset();
     if (!control.painted)
         Set_Font(control);
     InvalidateRect(native.window, nullptr, !control.painted);
@@ -87,9 +88,9 @@ void Dialog_Window::Set_Font(const Control_State &control) {
 HFONT Dialog_Window::Find_Font(const platform::Font &font) {
     for (const Shared_Font &each : fonts_)
         if (each.font == font)
-            return each.native.Get();
+            return each.native.get();
     fonts_.push_back({font, Make_Font(font, platform::Dots_Per_Inch())});
-    return fonts_.back().native.Get();
+    return fonts_.back().native.get();
 }
 
 void Dialog_Window::Set_Caption(const Control_State &control) {
@@ -105,7 +106,7 @@ void Dialog_Window::Set_Caption(const Control_State &control) {
     // An equal text is not written again: it would take the caret to the beginning.
     if (Window_Text(window) == text)
         return;
-    const Updating_Scope updating(updating_);
+    const Scoped_Value updating(updating_, true);
     if (control.kind == Control_Kind::Text_Box)
         Set_Box_Text(window, text);
     else
@@ -155,7 +156,7 @@ void Dialog_Window::Redraw(const Rect &place) {
 }
 
 void Dialog_Window::Fill(const Control_State &control) {
-    const Updating_Scope updating(updating_);
+    const Scoped_Value updating(updating_, true);
     const HWND window = Control_Window(control.index);
     if (control.kind == Control_Kind::Slider) {
         SendMessageW(window, TBM_SETRANGEMIN, FALSE, control.minimum);
@@ -201,7 +202,7 @@ void Dialog_Window::Set_Group_Stop(int container) {
 }
 
 void Dialog_Window::Show_Choice(const Control_State &control) {
-    const Updating_Scope updating(updating_);
+    const Scoped_Value updating(updating_, true);
     Native &native = natives_[static_cast<std::size_t>(control.index)];
     switch (control.kind) {
     case Control_Kind::Check_Box:

@@ -2,7 +2,6 @@
 #include "win32/dialog_edit.h"
 #include "win32/dialog_lists.h"
 #include "win32/dialog_window.h"
-#include "win32/modal.h"
 #include "win32/wide_text.h"
 
 #include <commctrl.h>
@@ -16,14 +15,12 @@ using platform::Control_State;
 using platform::Input_Event;
 using platform::Input_Kind;
 
-/// The one door. Beside an open message box nothing is told; and where the form did not follow the native
-/// control, that one goes back.
+/// Where the form did not follow the native control, that one goes back.
 void Dialog_Window::Tell(const Control_State &control, Input_Event event) {
     if (updating_)
         return;
     event.control = control.index;
-    if (Open_Modal_Boxes == 0)
-        Send(event);
+    Send(event);
     // The handler may have closed the dialog.
     if (Model() == nullptr)
         return;
@@ -72,8 +69,6 @@ void Dialog_Window::Command(int id, int code) {
 }
 
 void Dialog_Window::Cancel() {
-    if (Open_Modal_Boxes > 0)
-        return;
     for (const Control_State *control : Model()->controls) {
         if (!control->is_cancel)
             continue;
@@ -181,7 +176,7 @@ bool Dialog_Window::Turn_Page(int step) {
 }
 
 bool Dialog_Window::Take_First(const MSG &message) {
-    if (message.message != WM_KEYDOWN || Open_Modal_Boxes > 0)
+    if (message.message != WM_KEYDOWN)
         return false;
     const Input_Event event = Key_Event(true, message.wParam, message.lParam);
     if (event.control_key && !event.alt) {

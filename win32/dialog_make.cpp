@@ -1,4 +1,5 @@
 // The making of the native controls of dialogs: their classes, styles and order.
+#include "base/scoped_value.h"
 #include "win32/dialog_edit.h"
 #include "win32/dialog_template.h"
 #include "win32/dialog_window.h"
@@ -115,7 +116,7 @@ void Dialog_Window::Create() {
 /// with the controls of one. Returns whether there was anything to make.
 bool Dialog_Window::Make_Missing() {
     int last_made = -1;
-    const Updating_Scope updating(updating_);
+    const Scoped_Value updating(updating_, true);
     for (const Control_State *control : Model()->controls) {
         const bool in_sight =
             control->container == -1 ||

@@ -2,7 +2,7 @@
 // dialog_make.cpp, dialog_controls.cpp and dialog_events.cpp.
 #include "win32/dialog_window.h"
 
-#include "win32/modal.h"
+#include "platform/message_box.h"
 #include "win32/units.h"
 #include "win32/wide_text.h"
 #include "win32/window_class.h"
@@ -44,8 +44,8 @@ LRESULT Dialog_Window::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
         Command(LOWORD(wparam), HIWORD(wparam));
         return 0;
     case WM_SETCURSOR:
-        // All that a disabled window hears of a press.
-        if (!Model()->enabled && HIWORD(lparam) == WM_LBUTTONDOWN && Open_Modal_Boxes == 0) {
+        // All that a disabled window hears of a press; beside a message box the system shows that one.
+        if (!Model()->enabled && HIWORD(lparam) == WM_LBUTTONDOWN && !platform::Box_Is_Open()) {
             Send(Input_Kind::Mouse_Down);
             return TRUE;
         }
@@ -55,9 +55,7 @@ LRESULT Dialog_Window::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
         SetCursor(Load_Pointer(System_Pointer::Hourglass));
         return TRUE;
     case WM_CLOSE:
-        // Nothing is done beside an open message box, whoever asks for it.
-        if (Open_Modal_Boxes == 0)
-            Send(Input_Kind::Close);
+        Send(Input_Kind::Close);
         return 0;
     case WM_ACTIVATE: {
         // The system's part first: it gives the keyboard back to the control that had it.

@@ -7,23 +7,9 @@
 #include "win32/tooltips.h"
 
 #include <memory>
-#include <utility>
 #include <vector>
 
 namespace win32 {
-
-/// Marks the program's changes for the length of a scope.
-class Updating_Scope {
-public:
-    explicit Updating_Scope(bool &updating) : updating_(updating), before_(std::exchange(updating, true)) {}
-    ~Updating_Scope() { updating_ = before_; }
-    Updating_Scope(const Updating_Scope &) = delete;
-    Updating_Scope &operator=(const Updating_Scope &) = delete;
-
-private:
-    bool &updating_;
-    bool before_;
-};
 
 class Dialog_Window : public Mirror {
 public:

@@ -64,8 +64,7 @@ bool Show_File_Dialog(File_Dialog &dialog) {
     record.Flags = static_cast<DWORD>(dialog.flags);
 
     const Kept_Folder kept;
-    const win32::Modal_Scope modal;
-    const win32::Locked_Windows locked(record.hwndOwner);
+    const win32::Modal_Scope modal(record.hwndOwner);
     // Most days need no file dialog; its library and those that come with it would make every start slower.
     const auto show = win32::Look_Up<decltype(GetOpenFileNameW)>(
         L"comdlg32.dll", dialog.saves ? "GetSaveFileNameW" : "GetOpenFileNameW");

@@ -109,7 +109,7 @@ DWORD Write_All(HANDLE file, std::string_view bytes) {
 
 /// Opens a file for asking about it, which also goes while another program has it for itself.
 win32::Unique_File Open_To_Ask(const std::wstring &path) {
-    return win32::Unique_File(CreateFileW(path.c_str(), 0, Share_All, nullptr, OPEN_EXISTING, 0, nullptr));
+    return win32::Own_File(CreateFileW(path.c_str(), 0, Share_All, nullptr, OPEN_EXISTING, 0, nullptr));
 }
 
 /// The file's path behind all symbolic links; empty where the system cannot tell, as before Windows Vista,
@@ -121,10 +121,10 @@ std::wstring Behind_Links(const std::wstring &path) {
     if (final_path == nullptr || !file)
         return {};
     std::wstring found(MAX_PATH, L'\0');
-    DWORD length = final_path(file.Get(), found.data(), MAX_PATH, 0);
+    DWORD length = final_path(file.get(), found.data(), MAX_PATH, 0);
     if (length > MAX_PATH) { // with the zero at its end
         found.resize(length);
-        length = final_path(file.Get(), found.data(), length, 0);
+        length = final_path(file.get(), found.data(), length, 0);
     }
     found.resize(length < found.size() ? length : 0);
     return found;
@@ -149,15 +149,15 @@ void Take_Access_List(const std::wstring &from, const std::wstring &to) {
 /// is one. Gives an error code.
 DWORD Write_New_File(const std::wstring &path, std::string_view bytes, DWORD attributes,
                      const std::wstring &old, const FILETIME *written) {
-    const win32::Unique_File file(
+    const win32::Unique_File file = win32::Own_File(
         CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, attributes, nullptr));
     if (!file)
         return GetLastError();
     Take_Access_List(old, path);
-    const DWORD code = Write_All(file.Get(), bytes);
+    const DWORD code = Write_All(file.get(), bytes);
     // A disk that does not keep the time is no reason to keep no copy.
     if (code == NO_ERROR && written != nullptr)
-        SetFileTime(file.Get(), nullptr, nullptr, written);
+        SetFileTime(file.get(), nullptr, nullptr, written);
     return code;
 }
 
@@ -217,7 +217,7 @@ FILETIME Written(const std::string &path) {
     const Quiet_Errors quiet;
     const win32::Unique_File file = Open_To_Ask(wide);
     FILETIME written = {};
-    if (!file || !GetFileTime(file.Get(), nullptr, nullptr, &written))
+    if (!file || !GetFileTime(file.get(), nullptr, nullptr, &written))
         Throw(path, GetLastError());
     return written;
 }
@@ -262,10 +262,10 @@ std::vector<std::string> Names_In_Folder(const std::string &folder, Listed liste
     const std::wstring pattern = win32::Path_For_Call(folder + "\\*");
     const Quiet_Errors quiet;
     WIN32_FIND_DATAW found = {};
-    const win32::Unique_Find find(pattern.empty() ? INVALID_HANDLE_VALUE
-                                                  : FindFirstFileW(pattern.c_str(), &found));
-    if (!find)
+    const HANDLE first = pattern.empty() ? INVALID_HANDLE_VALUE : FindFirstFileW(pattern.c_str(), &found);
+    if (first == INVALID_HANDLE_VALUE)
         return names;
+    const win32::Unique_Find find(first);
     do {
         const std::wstring name = found.cFileName;
         const bool is_folder = (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
@@ -275,7 +275,7 @@ std::vector<std::string> Names_In_Folder(const std::string &folder, Listed liste
         std::string text = win32::From_Wide(name);
         if (win32::To_Wide(text) == name)
             names.push_back(std::move(text));
-    } while (FindNextFileW(find.Get(), &found));
+    } while (FindNextFileW(find.get(), &found));
     return names;
 }
 
@@ -290,15 +290,15 @@ std::string Read_File(const std::string &path) {
     if (wide.empty())
         Throw(path, ERROR_INVALID_NAME);
     const Quiet_Errors quiet;
-    const win32::Unique_File file(CreateFileW(wide.c_str(), GENERIC_READ, Share_All, nullptr, OPEN_EXISTING,
-                                              FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
+    const win32::Unique_File file = win32::Own_File(CreateFileW(
+        wide.c_str(), GENERIC_READ, Share_All, nullptr, OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
     if (!file)
         Throw(path, GetLastError());
     // A device's name, like that of a serial port, would keep the program waiting.
-    if (GetFileType(file.Get()) != FILE_TYPE_DISK)
+    if (GetFileType(file.get()) != FILE_TYPE_DISK)
         Throw(path, ERROR_INVALID_NAME);
     std::string bytes;
-    const DWORD code = Read_To_End(file.Get(), bytes);
+    const DWORD code = Read_To_End(file.get(), bytes);
     if (code != NO_ERROR)
         Throw(path, code);
     return bytes;

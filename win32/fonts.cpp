@@ -48,8 +48,8 @@ BYTE Font_Quality() {
 
 HDC Any_Measuring_Dc() {
     if (!Cache().measuring)
-        Cache().measuring.Reset(CreateCompatibleDC(nullptr));
-    return Cache().measuring.Get();
+        Cache().measuring.reset(CreateCompatibleDC(nullptr));
+    return Cache().measuring.get();
 }
 
 } // namespace
@@ -74,21 +74,21 @@ Kept_Font Find_Font(const platform::Font &font) {
     }
     for (const Cache_Entry &entry : cache.entries) {
         if (entry.font == font)
-            return {entry.handle.Get(), entry.line_height};
+            return {entry.handle.get(), entry.line_height};
     }
     Cache_Entry entry{font, Make_Font(font, cache.dots), 0};
     TEXTMETRICW metrics = {};
-    const Selected_Object selected(Any_Measuring_Dc(), entry.handle.Get());
+    const Selected_Object selected(Any_Measuring_Dc(), entry.handle.get());
     GetTextMetricsW(Any_Measuring_Dc(), &metrics);
     entry.line_height = metrics.tmHeight;
     cache.entries.push_back(std::move(entry));
-    return {cache.entries.back().handle.Get(), cache.entries.back().line_height};
+    return {cache.entries.back().handle.get(), cache.entries.back().line_height};
 }
 
 void Drop_Fonts() {
     // First the one that is selected, since a selected font cannot be deleted.
     if (Cache().measuring)
-        SelectObject(Cache().measuring.Get(), GetStockObject(SYSTEM_FONT));
+        SelectObject(Cache().measuring.get(), GetStockObject(SYSTEM_FONT));
     Cache().entries.clear();
 }
 

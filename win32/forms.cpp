@@ -35,7 +35,7 @@ std::shared_ptr<Mirror> Find_Mirror(const platform::Form_Model &model) {
     return nullptr;
 }
 
-platform::Form_Model *Form_Of_Window(HWND window) {
+const platform::Form_Model *Form_Of_Window(HWND window) {
     for (const std::shared_ptr<Mirror> &mirror : mirrors) {
         if (mirror->Window() == window && window != nullptr)
             return mirror->Model();
@@ -141,7 +141,7 @@ void Check_Scale(bool fonts_changed) {
     HWND calendar = nullptr;
     for (const std::shared_ptr<Mirror> &mirror : mirrors) {
         const platform::Form_Model &form = *mirror->Model();
-        if (calendar == nullptr && form.kind == platform::Form_Kind::Painted && !form.floating)
+        if (calendar == nullptr && form.kind == platform::Form_Kind::Painted)
             calendar = mirror->Window();
     }
     if (fonts_changed)
@@ -159,14 +159,14 @@ void Check_Scale(bool fonts_changed) {
 
 namespace platform {
 
-void Create_Mirror(Form_Model &model) {
+void Create_Mirror(const Form_Model &model) {
     if (win32::Find_Mirror(model))
         return;
     std::shared_ptr<win32::Mirror> mirror;
-    if (model.kind == Form_Kind::Painted)
-        mirror = std::make_shared<win32::Painted_Window>(model);
-    else
+    if (model.kind == Form_Kind::Dialog)
         mirror = std::make_shared<win32::Dialog_Window>(model);
+    else
+        mirror = std::make_shared<win32::Painted_Window>(model);
     win32::mirrors.push_back(mirror);
     try {
         mirror->Create();
@@ -178,27 +178,28 @@ void Create_Mirror(Form_Model &model) {
     }
 }
 
-void Destroy_Mirror(Form_Model &model) {
+void Destroy_Mirror(const Form_Model &model) {
     if (const std::shared_ptr<win32::Mirror> mirror = win32::Find_Mirror(model))
         mirror->Destroy();
 }
 
-void Form_Changed(Form_Model &model, Aspect aspect) {
+void Form_Changed(const Form_Model &model, Aspect aspect) {
     if (const std::shared_ptr<win32::Mirror> mirror = win32::Find_Mirror(model))
         mirror->Form_Changed(aspect);
 }
 
-void Control_Changed(Form_Model &model, const Control_State &control, Aspect aspect, const Rect &before) {
+void Control_Changed(const Form_Model &model, const Control_State &control, Aspect aspect,
+                     const Rect &before) {
     if (const std::shared_ptr<win32::Mirror> mirror = win32::Find_Mirror(model))
         mirror->Control_Changed(control, aspect, before);
 }
 
-void Clip_Window(Form_Model &model, const std::vector<Rect> &rects) {
+void Clip_Window(const Form_Model &model, const std::vector<Rect> &rects) {
     if (const std::shared_ptr<win32::Mirror> mirror = win32::Find_Mirror(model))
         mirror->Clip(rects);
 }
 
-void Shape_Window(Form_Model &model, const std::vector<Point> &corners) {
+void Shape_Window(const Form_Model &model, const std::vector<Point> &corners) {
     if (const std::shared_ptr<win32::Mirror> mirror = win32::Find_Mirror(model))
         mirror->Shape(corners);
 }
@@ -211,7 +212,7 @@ std::optional<Point> Window_Corner(const Form_Model &model) {
     return Point{place.left, place.top};
 }
 
-void Bring_To_Front(Form_Model &model) {
+void Bring_To_Front(const Form_Model &model) {
     if (const std::shared_ptr<win32::Mirror> mirror = win32::Find_Mirror(model))
         mirror->Bring_To_Front();
 }

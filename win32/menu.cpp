@@ -82,15 +82,15 @@ private:
 
 } // namespace
 
-int Track_Popup_Menu(Form_Model &owner, const std::vector<Menu_Item> &items, const Point *at) {
+int Track_Popup_Menu(const Form_Model &owner, const std::vector<Menu_Item> &items, const Point *at) {
     const HWND window = win32::Window_Of_Form(owner);
     const win32::Unique_Menu menu(CreatePopupMenu());
     if (window == nullptr || !menu)
         return 0;
-    Leave_Check_Column_Out(menu.Get());
+    Leave_Check_Column_Out(menu.get());
     UINT position = 0;
     for (const Menu_Item &item : items)
-        Insert_Item(menu.Get(), position++, item);
+        Insert_Item(menu.get(), position++, item);
     POINT place = {};
     GetCursorPos(&place);
     if (at != nullptr) {
@@ -105,7 +105,7 @@ int Track_Popup_Menu(Form_Model &owner, const std::vector<Menu_Item> &items, con
         press.emplace();
     constexpr UINT flags = TPM_RETURNCMD | TPM_NONOTIFY | TPM_CENTERALIGN | TPM_RIGHTBUTTON;
     static_assert(flags == 390);
-    const BOOL chosen = TrackPopupMenu(menu.Get(), flags, place.x, place.y, 0, window, nullptr);
+    const BOOL chosen = TrackPopupMenu(menu.get(), flags, place.x, place.y, 0, window, nullptr);
     PostMessageW(window, WM_NULL, 0, 0);
     return static_cast<int>(chosen);
 }

@@ -130,11 +130,11 @@ void Draw_Item(const DRAWITEMSTRUCT &item) {
     if (blend == nullptr || !bitmap || !source)
         return;
     Draw(Field(pixels), static_cast<Menu_Image>(item.itemData));
-    const Selected_Object selected(source.Get(), bitmap.Get());
+    const Selected_Object selected(source.get(), bitmap.get());
     const bool greyed = (item.itemState & (ODS_GRAYED | ODS_DISABLED)) != 0;
     const BLENDFUNCTION over = {AC_SRC_OVER, 0, static_cast<BYTE>(greyed ? 96 : 255), AC_SRC_ALPHA};
     const int top = static_cast<int>(item.rcItem.top + item.rcItem.bottom) / 2 - size / 2;
-    blend(item.hDC, static_cast<int>(item.rcItem.left), top, size, size, source.Get(), 0, 0, size, size,
+    blend(item.hDC, static_cast<int>(item.rcItem.left), top, size, size, source.get(), 0, 0, size, size,
           over);
 }
 

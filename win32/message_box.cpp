@@ -90,10 +90,13 @@ Box_Answer Message_Box(std::string_view text, std::string_view title, Box_Icon i
     const HWND owner = Active_Dialog();
     // The system returns the keyboard to an owner alone.
     const Returned_Focus focus(owner == nullptr ? GetFocus() : nullptr);
-    const win32::Modal_Scope modal;
-    const win32::Locked_Windows locked(owner);
+    const win32::Modal_Scope modal(owner);
     return Answer_Of(MessageBoxW(owner, wide_text.c_str(), wide_title.c_str(), Style_Of(icon, buttons)),
                      buttons);
+}
+
+bool Box_Is_Open() {
+    return win32::Open_Modal_Boxes > 0;
 }
 
 } // namespace platform

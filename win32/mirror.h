@@ -13,12 +13,12 @@ namespace win32 {
 /// while a handler runs: handlers may close their own form, after which Model() is null.
 class Mirror : public std::enable_shared_from_this<Mirror> {
 public:
-    explicit Mirror(platform::Form_Model &model) : model_(&model) {}
+    explicit Mirror(const platform::Form_Model &model) : model_(&model) {}
     Mirror(const Mirror &) = delete;
     Mirror &operator=(const Mirror &) = delete;
     virtual ~Mirror() = default;
 
-    platform::Form_Model *Model() const { return model_; }
+    const platform::Form_Model *Model() const { return model_; }
     HWND Window() const { return window_; }
 
     /// Makes the window with what it shows. Called once. Throws Error when the system refuses.
@@ -60,7 +60,7 @@ protected:
 
 private:
     friend void Find_Lost_Windows();
-    platform::Form_Model *model_;
+    const platform::Form_Model *model_;
 };
 
 /// All mirrors, in the order of their making. A copy, since handlers may close forms.
@@ -70,7 +70,7 @@ std::vector<std::shared_ptr<Mirror>> All_Mirrors();
 std::shared_ptr<Mirror> Find_Mirror(const platform::Form_Model &model);
 
 /// The form whose own native window `window` is, null for all other windows.
-platform::Form_Model *Form_Of_Window(HWND window);
+const platform::Form_Model *Form_Of_Window(HWND window);
 
 /// The native window of a form, null when it has none.
 HWND Window_Of_Form(const platform::Form_Model &model);

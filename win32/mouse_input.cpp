@@ -1,6 +1,7 @@
 // Mouse messages and keys made into events.
 #include "win32/mouse_input.h"
 
+#include "platform/message_box.h"
 #include "win32/units.h"
 
 #include <utility>
@@ -62,6 +63,9 @@ Input_Event Key_Event(bool down, WPARAM wparam, LPARAM lparam) {
 }
 
 bool Mouse_Input::Take(HWND window, UINT message, WPARAM wparam, LPARAM lparam, Input_Event &event) {
+    // The capture and the keyboard stay with an open message box.
+    if (platform::Box_Is_Open())
+        return false;
     event = Event_Of(Input_Kind::Mouse_Move);
     event.point = {To_Twips(static_cast<short>(LOWORD(lparam))),
                    To_Twips(static_cast<short>(HIWORD(lparam)))};

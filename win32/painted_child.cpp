@@ -3,7 +3,6 @@
 
 #include "win32/accessible.h"
 #include "win32/canvas.h"
-#include "win32/modal.h"
 #include "win32/painted_window.h"
 #include "win32/units.h"
 #include "win32/window_class.h"
@@ -65,8 +64,7 @@ LRESULT Painted_Child::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
     case Default_Action_Message: {
         Input_Event event = Event_Of(Input_Kind::Default_Action);
         event.control = index_;
-        if (Open_Modal_Boxes == 0)
-            owner_->Send(event);
+        owner_->Send(event);
         return 0;
     }
     case WM_GETDLGCODE:
@@ -103,16 +101,12 @@ LRESULT Painted_Child::Dialog_Code(const MSG *message) const {
 }
 
 bool Painted_Child::Handle_Input(UINT message, WPARAM wparam, LPARAM lparam) {
-    // A message box does not disable the calendar's other windows everywhere, so each holds still itself.
-    const bool modal = Open_Modal_Boxes > 0;
     if (Mouse_Input::Is_Mouse(message)) {
-        if (!modal)
-            Mouse(message, wparam, lparam);
+        Mouse(message, wparam, lparam);
         return true;
     }
     if (message == WM_KEYDOWN) {
-        if (!modal)
-            Key_Down(wparam, lparam);
+        Key_Down(wparam, lparam);
         return true;
     }
     if (message == WM_CAPTURECHANGED) {

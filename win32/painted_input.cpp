@@ -1,6 +1,6 @@
 // The mouse and the keyboard of painted windows.
+#include "platform/message_box.h"
 #include "win32/accessible.h"
-#include "win32/modal.h"
 #include "win32/painted_window.h"
 
 namespace win32 {
@@ -23,18 +23,17 @@ bool Is_Command_Key(UINT message, WPARAM key) {
 } // namespace
 
 bool Painted_Window::Handle_Input(UINT message, WPARAM wparam, LPARAM lparam, LRESULT &result) {
-    // A window inside the shell's is not disabled with the others by a message box, so it holds still itself.
-    const bool modal = Open_Modal_Boxes > 0;
     if (message == WM_MOUSEACTIVATE) {
-        result = modal ? MA_NOACTIVATEANDEAT : Model()->floating ? MA_NOACTIVATE : MA_ACTIVATE;
+        // A window inside the shell's is not disabled with the others by a message box.
+        result = platform::Box_Is_Open() ? MA_NOACTIVATEANDEAT : Floats() ? MA_NOACTIVATE : MA_ACTIVATE;
         return true;
     }
     if (Mouse_Input::Is_Mouse(message))
-        return modal || Handle_Mouse(message, wparam, lparam);
+        return Handle_Mouse(message, wparam, lparam);
     if (Is_Command_Key(message, wparam))
         return false;
     if (Is_Key(message))
-        return modal || Handle_Key(message, wparam, lparam);
+        return Handle_Key(message, wparam, lparam);
     switch (message) {
     case WM_CAPTURECHANGED:
         if (mouse_.Capture_Lost())
@@ -43,7 +42,7 @@ bool Painted_Window::Handle_Input(UINT message, WPARAM wparam, LPARAM lparam, LR
     case WM_CONTEXTMENU:
         // The mouse's comes as its button; a parent of another process must not see either. Asked for by
         // other means than mouse or key, it is the key's.
-        if (!modal && LOWORD(lparam) == 0xFFFF && HIWORD(lparam) == 0xFFFF) {
+        if (LOWORD(lparam) == 0xFFFF && HIWORD(lparam) == 0xFFFF) {
             Input_Event event = Event_Of(Input_Kind::Key_Down);
             event.key = VK_APPS;
             Send(event);
@@ -71,7 +70,7 @@ bool Painted_Window::Handle_Mouse(UINT message, WPARAM wparam, LPARAM lparam) {
     if (!mouse_.Take(window_, message, wparam, lparam, event))
         return true;
     const bool pressed = event.kind == Input_Kind::Mouse_Down || event.kind == Input_Kind::Double_Click;
-    if (pressed && !Model()->floating && GetFocus() != window_)
+    if (pressed && !Floats() && GetFocus() != window_)
         SetFocus(window_);
     Send(event);
     return true;

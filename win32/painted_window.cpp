@@ -3,7 +3,6 @@
 
 #include "win32/accessible.h"
 #include "win32/canvas.h"
-#include "win32/modal.h"
 #include "win32/units.h"
 #include "win32/wide_text.h"
 #include "win32/window_class.h"
@@ -79,8 +78,7 @@ LRESULT Painted_Window::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
         Set_Pointer();
         return TRUE;
     case WM_CLOSE:
-        if (Open_Modal_Boxes == 0)
-            Send(platform::Input_Kind::Close);
+        Send(platform::Input_Kind::Close);
         return 0;
     case WM_DPICHANGED:
         Check_Scale(false);
@@ -106,9 +104,7 @@ bool Painted_Window::Handle_Posted(UINT message, WPARAM wparam) {
         platform::Input_Event event{};
         event.kind = platform::Input_Kind::Default_Action;
         event.control = static_cast<int>(wparam);
-        // Nothing is done beside an open message box, whoever asks for it.
-        if (Open_Modal_Boxes == 0)
-            Send(event);
+        Send(event);
         return true;
     }
     case Update_Texts_Message:
@@ -206,18 +202,18 @@ void Painted_Window::Set_Region() {
     for (const Rect &rect : clip_)
         pixels.push_back(To_Pixels(rect));
     const Unique_Region now(CreateRectRgn(0, 0, 0, 0));
-    if (Equal(pixels, region_) && GetWindowRgn(window_, now.Get()) != ERROR)
+    if (Equal(pixels, region_) && GetWindowRgn(window_, now.get()) != ERROR)
         return;
     Unique_Region whole(CreateRectRgn(0, 0, 0, 0));
     const Unique_Region part(CreateRectRgn(0, 0, 0, 0));
     for (const RECT &rect : pixels) {
-        SetRectRgn(part.Get(), rect.left, rect.top, rect.right, rect.bottom);
-        CombineRgn(whole.Get(), whole.Get(), part.Get(), RGN_OR);
+        SetRectRgn(part.get(), rect.left, rect.top, rect.right, rect.bottom);
+        CombineRgn(whole.get(), whole.get(), part.get(), RGN_OR);
     }
     // The system owns the region from then on, when it takes it.
-    if (!whole || SetWindowRgn(window_, whole.Get(), TRUE) == 0)
+    if (!whole || SetWindowRgn(window_, whole.get(), TRUE) == 0)
         return;
-    whole.Release();
+    static_cast<void>(whole.release());
     region_ = std::move(pixels);
 }
 
@@ -228,8 +224,8 @@ void Painted_Window::Shape(const std::vector<Point> &corners) {
     for (const Point &corner : corners)
         pixels.push_back({To_Pixels(corner.x), To_Pixels(corner.y)});
     Unique_Region region(CreatePolygonRgn(pixels.data(), static_cast<int>(pixels.size()), WINDING));
-    if (region && SetWindowRgn(window_, region.Get(), TRUE) != 0)
-        region.Release();
+    if (region && SetWindowRgn(window_, region.get(), TRUE) != 0)
+        static_cast<void>(region.release());
 }
 
 void Painted_Window::Place() {
@@ -246,7 +242,7 @@ void Painted_Window::Show_Or_Hide() {
         ShowWindow(window_, SW_HIDE);
         return;
     }
-    if (Model()->floating) {
+    if (Floats()) {
         SetWindowPos(window_, HWND_TOPMOST, 0, 0, 0, 0,
                      SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_SHOWWINDOW);
         return;

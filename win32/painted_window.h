@@ -39,6 +39,7 @@ private:
     void Show_Or_Hide() override;
     void Own_Aspect_Changed(platform::Aspect aspect) override;
     void Set_Pointer() const;
+    bool Floats() const { return Model()->kind == platform::Form_Kind::Floating; }
     void Invalidate(const Rect &bounds) const;
     /// What tooltips and assistive technology tell of the controls is to be brought up to date.
     void Texts_Changed();

@@ -139,7 +139,7 @@ Registry_Value Registry_Read(std::string_view root_name, std::string_view key, s
                              char type_letter, const Registry_Value &standard) {
     const win32::Unique_Key opened = Open_Key(Find_Registry_Root(root_name), key, KEY_QUERY_VALUE);
     Raw_Value value;
-    if (!opened || Query(opened.Get(), win32::To_Wide(name), value) != ERROR_SUCCESS)
+    if (!opened || Query(opened.get(), win32::To_Wide(name), value) != ERROR_SUCCESS)
         return standard;
     std::int16_t flag = 0;
     std::int32_t number = 0;
@@ -183,8 +183,8 @@ void Registry_Write_String(Registry_Root root, std::string_view key, std::string
     const win32::Unique_Key opened = Open_Key(root, key, KEY_SET_VALUE | KEY_QUERY_VALUE);
     if (!opened)
         return;
-    Set_Text(opened.Get(), name, text);
-    RegFlushKey(opened.Get());
+    Set_Text(opened.get(), name, text);
+    RegFlushKey(opened.get());
 }
 
 } // namespace platform

@@ -4,6 +4,8 @@
 #include "win32/system_library.h"
 #include "win32/units.h"
 
+#include <utility>
+
 namespace {
 
 int dots_per_inch = 0;

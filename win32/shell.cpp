@@ -39,6 +39,18 @@ std::optional<Colour> Ask_Colour(HWND list, UINT question, UINT patience) {
 
 } // namespace
 
+// The shell's windows, from the top of each level to its bottom:
+//
+//   Progman "Program Manager"      the desktop window
+//     Vellatro_Calendar            ours, once it is attached: above the icons
+//     SHELLDLL_DefView             the view
+//       SysListView32              the icon list
+//   WorkerW                        none, or some, empty
+//
+// Some pictures and programs make the shell move the view into a WorkerW. Then there is no view in Progman,
+// and the calendar stays a window of its own below all others, as it does under another shell and while the
+// shell hangs. When the shell ends, its windows take the calendar's down with them.
+
 Shell_Window Find_Desktop_Window() {
     return Id_Of(FindWindowW(L"Progman", L"Program Manager"));
 }
@@ -61,7 +73,7 @@ std::optional<Label_Colours> Icon_Label_Colours(Shell_Window list, unsigned pati
     return Label_Colours{*background, *text};
 }
 
-void Attach_To_Desktop(Form_Model &model, Shell_Window desktop) {
+void Attach_To_Desktop(const Form_Model &model, Shell_Window desktop) {
     const HWND window = win32::Window_Of_Form(model);
     if (window == nullptr)
         return;

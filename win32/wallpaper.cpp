@@ -21,7 +21,7 @@ public:
         ordered_.swap(path);
         is_ordered_ = true;
         if (!at_work_) {
-            thread_.Reset(CreateThread(nullptr, 0, Work, this, 0, nullptr));
+            thread_.reset(CreateThread(nullptr, 0, Work, this, 0, nullptr));
             at_work_ = static_cast<bool>(thread_);
         }
         const bool alone = !at_work_;
@@ -35,7 +35,7 @@ public:
         constexpr DWORD most = 5000; // milliseconds
         const DWORD begin = GetTickCount();
         for (DWORD spent = 0; thread_ && spent < most; spent = GetTickCount() - begin) {
-            const HANDLE thread = thread_.Get();
+            const HANDLE thread = thread_.get();
             // The program's own windows are told of the change, too, and have to answer.
             if (MsgWaitForMultipleObjects(1, &thread, FALSE, most - spent, QS_SENDMESSAGE) !=
                 WAIT_OBJECT_0 + 1)

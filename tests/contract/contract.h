@@ -49,8 +49,8 @@ protected:
 
     /// Another program has the file for itself, until the test's end.
     void Lock_File(const std::string &path) {
-        locks_.emplace_back(CreateFileW(win32::To_Wide(path).c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING,
-                                        FILE_ATTRIBUTE_NORMAL, nullptr));
+        locks_.push_back(win32::Own_File(CreateFileW(win32::To_Wide(path).c_str(), GENERIC_READ, 0, nullptr,
+                                                     OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr)));
         ASSERT_TRUE(static_cast<bool>(locks_.back()));
     }
 
@@ -61,9 +61,9 @@ protected:
     /// The file counts as written in the year 2000.
     void Age_File(const std::string &path) {
         const FILETIME time = {0, 0x01C00000};
-        const win32::Unique_File file(CreateFileW(win32::To_Wide(path).c_str(), FILE_WRITE_ATTRIBUTES, 0,
-                                                  nullptr, OPEN_EXISTING, 0, nullptr));
-        ASSERT_TRUE(SetFileTime(file.Get(), nullptr, nullptr, &time));
+        const win32::Unique_File file = win32::Own_File(CreateFileW(
+            win32::To_Wide(path).c_str(), FILE_WRITE_ATTRIBUTES, 0, nullptr, OPEN_EXISTING, 0, nullptr));
+        ASSERT_TRUE(SetFileTime(file.get(), nullptr, nullptr, &time));
     }
 
     /// Names in the scratch folder, in order.

@@ -3,6 +3,7 @@
 #ifdef _WIN32
 #include "base/twips.h"
 #include "platform/forms.h"
+#include "platform/message_box.h"
 #include "platform/message_loop.h"
 #include "platform/screen.h"
 #include "tests/contract/contract.h"
@@ -67,7 +68,7 @@ protected:
     void Follow(const Input_Event &event) {
         if (event.kind == Input_Kind::Moved)
             moved_to_ = event.point;
-        if (event.control < 0)
+        if (event.control < 0 || platform::Box_Is_Open())
             return;
         Control_State &control = controls_[event.control];
         if (event.kind == Input_Kind::Clicked)
@@ -215,7 +216,7 @@ TEST_F(Dialog_Contract, A_Page_Is_Made_In_Its_Place_When_It_Is_First_Shown) {
 TEST_F(Dialog_Contract, Beside_A_Message_Box_Nothing_Changes) {
     controls_[Opt_1].checked = true;
     Change(Opt_1, Aspect::Checked);
-    const win32::Modal_Scope box;
+    const win32::Modal_Scope box(nullptr);
     for (const int index : {Opt_2, Check})
         Send(index, BM_CLICK);
     Press_Tab(1);
@@ -232,14 +233,14 @@ TEST_F(Dialog_Contract, What_Paints_Itself_Lies_On_The_Page) {
     const win32::Unique_Memory_Dc dc(CreateCompatibleDC(screen));
     const win32::Unique_Bitmap bitmap(CreateCompatibleBitmap(screen, 100, 20));
     ReleaseDC(nullptr, screen);
-    const win32::Selected_Object selected(dc.Get(), bitmap.Get());
-    Send(Picture, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc.Get()), PRF_CLIENT);
-    EXPECT_EQ(GetPixel(dc.Get(), 40, 10), RGB(10, 200, 30));
-    const COLORREF bare = GetPixel(dc.Get(), 90, 10);
-    Send(Tabs, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc.Get()), PRF_CLIENT | PRF_ERASEBKGND);
-    SetViewportOrgEx(dc.Get(), -200, -300, nullptr);
-    Send(Tabs, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc.Get()), PRF_CLIENT | PRF_ERASEBKGND);
-    EXPECT_EQ(bare, GetPixel(dc.Get(), 210, 310));
+    const win32::Selected_Object selected(dc.get(), bitmap.get());
+    Send(Picture, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc.get()), PRF_CLIENT);
+    EXPECT_EQ(GetPixel(dc.get(), 40, 10), RGB(10, 200, 30));
+    const COLORREF bare = GetPixel(dc.get(), 90, 10);
+    Send(Tabs, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc.get()), PRF_CLIENT | PRF_ERASEBKGND);
+    SetViewportOrgEx(dc.get(), -200, -300, nullptr);
+    Send(Tabs, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc.get()), PRF_CLIENT | PRF_ERASEBKGND);
+    EXPECT_EQ(bare, GetPixel(dc.get(), 210, 310));
     EXPECT_EQ(GetWindow(Native(Over), GW_HWNDNEXT), Native(Picture));
     EXPECT_EQ(GetWindow(Native(Tabs), GW_HWNDNEXT), nullptr);
 }

@@ -9,7 +9,6 @@
 #include "platform/registry.h"
 #include "tests/contract/contract.h"
 #include "tests/contract/small_jpeg.h"
-#include "win32/modal.h"
 #include "win32/paths.h"
 #include "win32/picture_scaling.h"
 
@@ -38,10 +37,11 @@ TEST_F(Windows_Only, A_Hidden_File_Stays_Hidden_And_The_Rest_Of_A_Killed_Run_Goe
     const std::string path = Scratch("calendar.dat");
     const std::wstring wide = win32::To_Wide(path);
     {
-        const win32::Unique_File writer(CreateFileW(wide.c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr,
-                                                    CREATE_NEW, FILE_ATTRIBUTE_HIDDEN, nullptr));
+        const win32::Unique_File writer =
+            win32::Own_File(CreateFileW(wide.c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr, CREATE_NEW,
+                                        FILE_ATTRIBUTE_HIDDEN, nullptr));
         DWORD written = 0;
-        ASSERT_TRUE(WriteFile(writer.Get(), "half", 4, &written, nullptr));
+        ASSERT_TRUE(WriteFile(writer.get(), "half", 4, &written, nullptr));
         EXPECT_EQ(platform::Read_File(path), "half") << "while another program writes it";
     }
     platform::Replace_File(path + ".vellatro-new", "half of a much longer file");
@@ -138,7 +138,7 @@ DWORD WINAPI Visit(void *visit_address) {
     wchar_t text[2000] = {};
     GetDlgItemTextW(box, 0xFFFF, text, 2000);
     visit.text = text;
-    visit.all_locked = win32::Open_Modal_Boxes == 1 && !IsWindowEnabled(visit.bystander);
+    visit.all_locked = platform::Box_Is_Open() && !IsWindowEnabled(visit.bystander);
     PostMessageW(box, WM_COMMAND, visit.button, 0);
     return 0;
 }
@@ -175,11 +175,11 @@ TEST_F(Windows_Only, Message_Boxes_Show_Their_Text_And_Answer) {
         EXPECT_EQ(platform::Message_Box(c.text, win32::From_Wide(visit.title), platform::Box_Icon::Question,
                                         c.buttons),
                   c.answer);
-        WaitForSingleObject(thread.Get(), INFINITE);
+        WaitForSingleObject(thread.get(), INFINITE);
         EXPECT_TRUE(visit.text == c.shown) << win32::From_Wide(visit.text);
         EXPECT_TRUE(visit.all_locked && IsWindowEnabled(bystander) && IsWindowEnabled(dialog));
     }
-    EXPECT_EQ(win32::Open_Modal_Boxes, 0);
+    EXPECT_FALSE(platform::Box_Is_Open());
     DestroyWindow(dialog);
     DestroyWindow(bystander);
 }

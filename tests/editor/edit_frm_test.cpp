@@ -149,7 +149,7 @@ TEST_F(Editor, asks_for_unsaved_text_before_another_day_and_the_end_of_session_a
             Push(editor, editor.Every_Year_Chk, true);
             EXPECT_TRUE(way == other_day || leave(way)) << "nothing is unsaved yet";
             Type(row.typed);
-            editor.Model().focused = -1;
+            editor.Set_Focus(editor.Ok_Btn);
             Fakes().Expect_Box(question, row.answer, [this] {
                 EXPECT_FALSE(Desktop().Say(Broadcast::Session_Ends)); // no second question over the first
                 form.Edit_Box(20);

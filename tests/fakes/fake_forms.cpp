@@ -113,7 +113,7 @@ void Choose(Form &form, const Control &control, int item, Input_Kind kind) {
 
 namespace platform {
 
-void Create_Mirror(Form_Model &model) {
+void Create_Mirror(const Form_Model &model) {
     if (Desktop().refuses_windows)
         throw Error("The window cannot be made");
     Require(!Desktop().mirrors.contains(&model), "a second native window for " + model.name);
@@ -121,14 +121,14 @@ void Create_Mirror(Form_Model &model) {
     mirror.shown = mirror.shown_unclipped = model.visible;
 }
 
-void Destroy_Mirror(Form_Model &model) {
+void Destroy_Mirror(const Form_Model &model) {
     // A real window reads the controls while it goes down: they must still be there.
     for (const Control_State *control : model.controls)
         Require(!control->name.empty(), "a control without a name in " + model.name);
     Desktop().mirrors.erase(&model);
 }
 
-void Form_Changed(Form_Model &model, Aspect aspect) {
+void Form_Changed(const Form_Model &model, Aspect aspect) {
     Desktop().told.push_back({"", aspect});
     Fake_Mirror &mirror = Mirror_Of(model);
     mirror.shown = model.visible;
@@ -137,17 +137,18 @@ void Form_Changed(Form_Model &model, Aspect aspect) {
     mirror.shown_unclipped |= model.visible && mirror.clip.empty() && mirror.shape.empty();
 }
 
-void Control_Changed(Form_Model &model, const Control_State &control, Aspect aspect, const Rect &before) {
+void Control_Changed(const Form_Model &model, const Control_State &control, Aspect aspect,
+                     const Rect &before) {
     Mirror_Of(model);
     Require(aspect != Aspect::Bounds || before != control.bounds, "a move that moves nothing");
     Desktop().told.push_back({control.name, aspect});
 }
 
-void Clip_Window(Form_Model &model, const std::vector<Rect> &rects) {
+void Clip_Window(const Form_Model &model, const std::vector<Rect> &rects) {
     Mirror_Of(model).clip = rects;
 }
 
-void Shape_Window(Form_Model &model, const std::vector<Point> &corners) {
+void Shape_Window(const Form_Model &model, const std::vector<Point> &corners) {
     Mirror_Of(model).shape = corners;
 }
 
@@ -160,7 +161,7 @@ std::optional<Point> Window_Corner(const Form_Model &model) {
                  pixels(model.bounds.top) + mirror->second.displaced.y};
 }
 
-void Bring_To_Front(Form_Model &model) {
+void Bring_To_Front(const Form_Model &model) {
     Mirror_Of(model);
     Desktop().front = &model;
 }
@@ -231,7 +232,7 @@ Point Mouse_Position() {
     return Desktop().mouse;
 }
 
-int Track_Popup_Menu(Form_Model &, const std::vector<Menu_Item> &items, const Point *at) {
+int Track_Popup_Menu(const Form_Model &, const std::vector<Menu_Item> &items, const Point *at) {
     Desktop().menu_at = at == nullptr ? std::nullopt : std::optional(*at);
     if (Desktop().answer_menu && Desktop().expected_menus.empty()) {
         Desktop().menu_open = true;
@@ -329,7 +330,7 @@ std::optional<Label_Colours> Icon_Label_Colours(Shell_Window list, unsigned) {
     return Shell().colours;
 }
 
-void Attach_To_Desktop(Form_Model &model, Shell_Window desktop) {
+void Attach_To_Desktop(const Form_Model &model, Shell_Window desktop) {
     Require(desktop != 0 && desktop == Shell().desktop, "a window attached to no desktop");
     Shell().attached = &model;
     Shell().attached_hidden = !Mirror_Of(model).shown;

@@ -3,6 +3,7 @@
 #include "tests/fakes/fakes.h"
 
 #include "base/characters.h"
+#include "base/scoped_value.h"
 #include "core/date.h"
 #include "platform/files.h"
 #include "platform/locale.h"
@@ -77,6 +78,7 @@ void Paint_Waiting(const Form_Model &) {
 
 bool Show_File_Dialog(File_Dialog &dialog) {
     Fake_System &system = Fakes();
+    const Scoped_Value open(system.open_boxes, system.open_boxes + 1);
     if (system.answer_dialog && system.expected_dialogs.empty())
         system.expected_dialogs.push_back({dialog.title, system.answer_dialog(dialog)});
     const std::string next = system.expected_dialogs.empty() ? "none" : system.expected_dialogs.front().title;
@@ -316,6 +318,7 @@ void Registry_Write_String(Registry_Root root, std::string_view key, std::string
 
 Box_Answer Message_Box(std::string_view text, std::string_view title, Box_Icon icon, Box_Buttons buttons) {
     Fake_System &system = Fakes();
+    const Scoped_Value open(system.open_boxes, system.open_boxes + 1);
     system.boxes.push_back({std::string(text), std::string(title), icon, buttons});
     // The answer with the least consequences, for boxes that no test expects.
     const Box_Answer safest = buttons == Box_Buttons::Ok       ? Box_Answer::Ok
@@ -336,6 +339,10 @@ Box_Answer Message_Box(std::string_view text, std::string_view title, Box_Icon i
     if (expected.meanwhile)
         expected.meanwhile();
     return expected.answer;
+}
+
+bool Box_Is_Open() {
+    return Fakes().open_boxes > 0;
 }
 
 } // namespace platform

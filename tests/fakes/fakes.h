@@ -77,6 +77,8 @@ struct Fake_System {
     std::vector<Shown_Box> boxes; ///< all that were shown
     bool any_box = false;         ///< unexpected boxes are no failure; they get the answer that changes least
 
+    int open_boxes = 0; ///< message boxes and file dialogs
+
     std::deque<Expected_Dialog> expected_dialogs;
     unsigned milliseconds = 0;      ///< of the clock that only counts
     unsigned clock_step = 0;        ///< what each look at that clock adds to it

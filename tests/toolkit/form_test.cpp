@@ -3,6 +3,7 @@
 #include "tests/fakes/form_test.h"
 
 #include "toolkit/form.h"
+#include "toolkit/timer.h"
 
 #include <memory>
 #include <new>
@@ -138,6 +139,29 @@ TEST_F(Form_Test, a_handler_may_end_its_own_form) {
         form->Send(kind, 10);
         EXPECT_TRUE(form == nullptr && Desktop().mirrors.empty());
     }
+}
+
+TEST_F(Form_Test, nothing_is_done_beside_a_message_box_and_timers_go_on) {
+    Test_Form form;
+    form.On_Key_Down = [&form](const auto &) { form.log += "key; "; };
+    form.On_Close = [&form] { form.log += "close; "; };
+    form.On_Focus_Changed = [&form](bool) { form.log += "focus; "; };
+    Timer timer(10);
+    timer.On_Timer = [&form] { form.log += "tick; "; };
+    timer.Set_Enabled(true);
+    const auto act = [&form] {
+        Click(form, form.High);
+        Push(form, form.Ok_Btn);
+        Press_Key(form, 13);
+        form.Send(Input_Kind::Focus_Changed, 0);
+        form.Send(Input_Kind::Close, 0);
+        Desktop().Advance(10);
+    };
+    Fakes().Expect_Box("Wait", platform::Box_Answer::Ok, act);
+    platform::Message_Box("Wait", "", platform::Box_Icon::None);
+    EXPECT_EQ(form.Taken(), "focus; tick; ");
+    act();
+    EXPECT_EQ(form.Taken(), "High down 50; High up 50; clicked; key; focus; close; tick; ");
 }
 
 TEST_F(Form_Test, an_exception_of_a_handler_is_told_and_goes_no_further) {

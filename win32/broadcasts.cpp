@@ -1,0 +1,134 @@
+// The broadcasts of the system and the one-instance claim.
+#include "win32/broadcasts.h"
+
+#include "platform/message_loop.h"
+#include "win32/mirror.h"
+#include "win32/wide_text.h"
+#include "win32/window_class.h"
+
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+namespace {
+
+Callback<bool(platform::Broadcast)> broadcast_listener;
+HWND broadcasts = nullptr;
+
+/// What the system told while the mouse was taken, each thing once.
+std::vector<std::pair<UINT, WPARAM>> unheard;
+
+/// The listener's answer.
+bool Tell(platform::Broadcast broadcast) noexcept {
+    const auto now = broadcast_listener;
+    return !now || now(broadcast);
+}
+
+bool Concerns_Fonts(WPARAM setting) {
+    return setting == SPI_SETNONCLIENTMETRICS || setting == SPI_SETFONTSMOOTHING ||
+           setting == SPI_SETFONTSMOOTHINGTYPE;
+}
+
+/// Does what one of the system's broadcasts means to the program.
+void Hear(UINT message, WPARAM wparam) {
+    if (message == WM_SETTINGCHANGE && Concerns_Fonts(wparam)) {
+        // Fonts are no other setting besides: of them all forms hear, which then lay themselves out once.
+        win32::Check_Scale(true);
+    } else if (message == WM_SETTINGCHANGE) {
+        win32::Check_Scale(false);
+        Tell(platform::Broadcast::Settings_Changed);
+    } else if (message == WM_DISPLAYCHANGE) {
+        win32::Check_Scale(false);
+        Tell(platform::Broadcast::Display_Changed);
+    } else if (message == WM_TIMECHANGE) {
+        Tell(platform::Broadcast::Time_Changed);
+    } else {
+        Tell(platform::Broadcast::Colours_Changed);
+    }
+}
+
+/// Returns whether a message was one of those that mean something to the program.
+bool Heard(UINT message, WPARAM wparam) {
+    switch (message) {
+    case WM_TIMER:
+        win32::Tick(wparam);
+        return true;
+    case WM_SETTINGCHANGE:
+    case WM_TIMECHANGE:
+    case WM_DISPLAYCHANGE:
+    case WM_SYSCOLORCHANGE:
+    case WM_THEMECHANGED:
+        if (!win32::Mouse_Is_Taken())
+            Hear(message, wparam);
+        else if (const std::pair told(message, wparam); std::ranges::find(unheard, told) == unheard.end())
+            unheard.push_back(told); // until the next tick
+        return true;
+    default:
+        return false;
+    }
+}
+
+LRESULT CALLBACK Broadcast_Procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
+    try {
+        // The end itself, WM_ENDSESSION, leaves no time for a question: whoever agrees has to be done here.
+        if (message == WM_QUERYENDSESSION)
+            return Tell(platform::Broadcast::Session_Ends) ? TRUE : FALSE;
+        if (message == WM_ENDSESSION && wparam != FALSE)
+            Tell(platform::Broadcast::Session_Over);
+        if (message == WM_CLOSE) {
+            // Not the window's end: the timers and the broadcasts live in it.
+            Tell(platform::Broadcast::Close_Request);
+            return 0;
+        }
+        if (Heard(message, wparam))
+            return 0;
+    } catch (...) {
+        // Only want of memory comes here. The system's code above cannot pass an exception on.
+        return message == WM_QUERYENDSESSION ? TRUE : 0;
+    }
+    return DefWindowProcW(window, message, wparam, lparam);
+}
+
+} // namespace
+
+namespace win32 {
+
+HWND Broadcast_Window() {
+    if (broadcasts != nullptr)
+        return broadcasts;
+    constexpr wchar_t class_name[] = L"Vellatro_Broadcasts";
+    Register_Class(class_name, Broadcast_Procedure, 0);
+    // Top-level, for others hear no broadcasts.
+    broadcasts = CreateWindowExW(WS_EX_TOOLWINDOW, class_name, L"Vellatro", WS_POPUP, 0, 0, 0, 0, nullptr,
+                                 nullptr, GetModuleHandleW(nullptr), nullptr);
+    return broadcasts;
+}
+
+void Hear_Waiting() {
+    for (const auto &[message, wparam] : std::exchange(unheard, {}))
+        Hear(message, wparam);
+}
+
+} // namespace win32
+
+namespace platform {
+
+void Listen_To_Broadcasts(Callback<bool(Broadcast)> listener) {
+    broadcast_listener = listener;
+    if (broadcast_listener)
+        win32::Broadcast_Window();
+}
+
+bool Claim_Single_Instance(const std::string &name) {
+    static win32::Unique_Kernel_Handle claim;
+    SetLastError(ERROR_SUCCESS);
+    win32::Unique_Kernel_Handle mutex(CreateMutexW(nullptr, FALSE, win32::To_Wide(name).c_str()));
+    const DWORD error = GetLastError();
+    // Refused access means that it exists too, made by the user with other rights.
+    if (error == ERROR_ALREADY_EXISTS || (!mutex && error == ERROR_ACCESS_DENIED))
+        return false;
+    claim = std::move(mutex);
+    return true;
+}
+
+} // namespace platform
