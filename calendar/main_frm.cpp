@@ -56,7 +56,7 @@ void Main_Frm::Wire_Events() {
     // Without its window the program could only stand in the way of its next start. Nothing is asked here:
     // the window inside the shell's goes down in the middle of the shell's own end, which waits for it.
     On_Window_Lost = [this] {
-        ended_ = true;
+        Balloon.End();
         platform::End_Message_Loop();
     };
     Which_Month_Lbl.On_Mouse_Down = [this](Mouse_Button button, Point at) {
@@ -74,10 +74,6 @@ void Main_Frm::Wire_Events() {
     for (Label &header : Day_Lbl)
         header.On_Mouse_Move = [this](Mouse_Button, Point) { Restart_Countdown(); };
     Compact_Timer.On_Timer = [this] { Compact_Timer_Timer(); };
-    Timer2.On_Timer = [this] {
-        if (!platform::Mouse_Button_Held())
-            Hide_Balloon();
-    };
     Which_Month_Lbl.On_Mouse_Up = [this](Mouse_Button button, Point) { Drop(button); };
     Dectect_Date_Timer.On_Timer = [this] { Dectect_Date_Timer_Timer(); };
 }
@@ -191,7 +187,7 @@ bool Main_Frm::Hear(Broadcast broadcast) {
     case Broadcast::Session_Ends:
         return May_End();
     case Broadcast::Session_Over:
-        ended_ = true;
+        Balloon.End();
         // The process may go at once: the dialog keeps its tab now.
         if (Close_Settings)
             Close_Settings();

@@ -6,6 +6,7 @@
 #pragma once
 
 #include "base/callback.h"
+#include "calendar/held_balloon.h"
 #include "core/date.h"
 #include "core/event_store.h"
 #include "platform/message_loop.h"
@@ -14,7 +15,6 @@
 #include "toolkit/form.h"
 #include "toolkit/guard.h"
 #include "toolkit/timer.h"
-#include "ui/balloon.h"
 #include "ui/splash_frm.h"
 
 #include <array>
@@ -40,7 +40,6 @@ public:
     bool Alert_Done = false; ///< no further alert today
     bool Compacted = false;
     bool Timer_Compacted = false;  ///< by the timer once: the mouse over the title expands it, and ends this
-    bool Mouse_Released = true;    ///< no button is held over a day box
     std::int16_t Tooltip_Box = -1; ///< the day box of the last balloon
     Event_Store Events;
 
@@ -175,11 +174,10 @@ public:
     void Restart_Countdown();
 
     // The balloon.
-    bool Balloon_Showing() const { return Balloon.Visible(); }
-    /// Waits while the window's messages are processed. Ends early at midnight and at the program's end.
+    bool Balloon_Showing() const { return Balloon.Showing(); }
     void TimeOut(float seconds);
     void Balloon_Tooltip(int index, std::string_view message);
-    void Hide_Balloon();
+    void Hide_Balloon() { Balloon.Hide(); }
     /// Lets compact mode come again after a dialog is closed.
     void Resume_Auto_Compact();
 
@@ -194,9 +192,7 @@ public:
     Timer Compact_Timer{60000};
     Timer Attach_Timer{1000}; ///< runs while the shell does not answer
     Splash_Frm Splash;
-    frmBalloon Balloon;
-    /// Runs only while the balloon is there, which goes when the button was released where nobody told.
-    Timer Timer2{1000};
+    Held_Balloon Balloon;
 
 private:
     /// What the names of the boxes were made for.
@@ -289,10 +285,6 @@ private:
     bool stray_key_ = false;        ///< a key that comes up now went down in another window
     std::optional<Date> mark_told_; ///< the day that was announced as having the focus
 
-    int held_box_ = -1;
-    unsigned holds_ = 0; ///< counts the presses that may become a balloon
-    bool waiting_ = false;
-    bool ended_ = false;
     Repeated_Guard drop_guard_;
 };
 

@@ -66,7 +66,7 @@ void Main_Frm::End_Program() {
     Hide_Balloon();
     if (!May_End())
         return;
-    ended_ = true;
+    Balloon.End();
     platform::End_Message_Loop();
 }
 
