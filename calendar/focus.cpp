@@ -13,8 +13,11 @@ void Main_Frm::Form_KeyDown(const platform::Input_Event &event) {
         return;
     if (event.control_key && (event.key == Key_Page_Up || event.key == Key_Page_Down))
         return Step_Year(event.key == Key_Page_Up ? -1 : 1);
-    if (event.control_key)
-        return Nudge(event.key, event.shift);
+    if (event.control_key) {
+        if (drag_.Nudge(event.key, event.shift))
+            Hide_Balloon();
+        return;
+    }
     const bool menu = event.key == Key_Menu || (event.key == Key_F10 && event.shift);
     if (menu || event.key == Key_Return || event.key == Key_Delete) {
         // These act when they come up, if they went down here: the key that closes a message box, or is held

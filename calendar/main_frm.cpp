@@ -47,11 +47,17 @@ void Main_Frm::Wire_Events() {
     On_Focus_Changed = [this](bool has_focus) { Take_Focus(has_focus); };
     On_Capture_Lost = [this] {
         Hide_Balloon();
-        End_Drag();
+        drag_.End();
     };
     On_Close = [this] { End_Program(); };
     On_Dots_Changed = [this] { Renew_Layout(); };
-    Attach_Timer.On_Timer = [this] { Attach_Timer_Timer(); };
+    Attachment.On_Colours = [this](platform::Shell_Window list, const platform::Label_Colours &colours) {
+        Set_Icon_Colours(list, colours.background, colours.text);
+    };
+    Attachment.On_Late_Entry = [this] {
+        Set_Colours();
+        Mark_Today();
+    };
     Which_Month_Lbl.On_Default_Action = [this] { Which_Month_Lbl_DblClick(); };
     // Without its window the program could only stand in the way of its next start. Nothing is asked here:
     // the window inside the shell's goes down in the middle of the shell's own end, which waits for it.
@@ -60,12 +66,12 @@ void Main_Frm::Wire_Events() {
         platform::End_Message_Loop();
     };
     Which_Month_Lbl.On_Mouse_Down = [this](Mouse_Button button, Point at) {
-        Begin_Drag(button, at);
+        drag_.Begin(button, at);
         if (button == Mouse_Button::Right)
             Popup_Title_Menu(at);
     };
     Which_Month_Lbl.On_Mouse_Move = [this](Mouse_Button held, Point at) {
-        Drag_Along(held, at);
+        drag_.Along(held, at);
         Caption_Moved();
     };
     Which_Month_Lbl.On_Double_Click = [this] { Which_Month_Lbl_DblClick(); };
@@ -74,7 +80,7 @@ void Main_Frm::Wire_Events() {
     for (Label &header : Day_Lbl)
         header.On_Mouse_Move = [this](Mouse_Button, Point) { Restart_Countdown(); };
     Compact_Timer.On_Timer = [this] { Compact_Timer_Timer(); };
-    Which_Month_Lbl.On_Mouse_Up = [this](Mouse_Button button, Point) { Drop(button); };
+    Which_Month_Lbl.On_Mouse_Up = [this](Mouse_Button button, Point) { drag_.Drop(button); };
     Dectect_Date_Timer.On_Timer = [this] { Dectect_Date_Timer_Timer(); };
 }
 

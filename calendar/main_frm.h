@@ -6,14 +6,16 @@
 #pragma once
 
 #include "base/callback.h"
+#include "calendar/form_drag.h"
 #include "calendar/held_balloon.h"
 #include "core/date.h"
 #include "core/event_store.h"
+#include "desktop/attachment.h"
+#include "desktop/form_place.h"
 #include "platform/message_loop.h"
 #include "platform/shell.h"
 #include "toolkit/control_array.h"
 #include "toolkit/form.h"
-#include "toolkit/guard.h"
 #include "toolkit/timer.h"
 #include "ui/splash_frm.h"
 
@@ -108,7 +110,7 @@ public:
     /// Moves the window to a position code (desktop/position.h); a number that is none leaves it.
     void Position_Form(std::int16_t code);
     /// Remembers the work area's height.
-    void Set_Repos();
+    void Set_Repos() { place_.Take_Height(); }
     /// Places the window anew when the work area's height is another one; puts it back when something else
     /// has moved it.
     void RePosition();
@@ -190,7 +192,7 @@ public:
     Label DotDotDot_Lbl; ///< never seen: texts are measured in it
     Timer Dectect_Date_Timer;
     Timer Compact_Timer{60000};
-    Timer Attach_Timer{1000}; ///< runs while the shell does not answer
+    Desktop_Attachment Attachment{*this};
     Splash_Frm Splash;
     Held_Balloon Balloon;
 
@@ -240,25 +242,7 @@ private:
     void Show_Entered();
     void Alert(const Date &today, std::string_view text);
 
-    /// A drag by the title: where the mouse is in the title, and where the window was. Wider than the 16 bits
-    /// that a place is kept in, so that a calendar beyond them can be dragged back.
-    struct Drag {
-        Point mouse;
-        Point form;
-    };
-    void Begin_Drag(platform::Mouse_Button button, Point mouse);
-    void Drag_Along(platform::Mouse_Button held, Point mouse);
-    void Drop(platform::Mouse_Button button);
-    void End_Drag();
-    /// Moves the calendar by one arrow key, `fine` by a pixel. The keys' last place is kept when Ctrl comes
-    /// up.
-    void Nudge(int key, bool fine);
-    void End_Nudge();
-    void Keep_Place(const std::optional<Drag> &drag);
-
-    /// The way into a desktop window that was found, with `patience` milliseconds for each of its answers.
-    void Move_Into(platform::Shell_Window desktop, unsigned patience);
-    void Attach_Timer_Timer();
+    void Keep_Place(const std::optional<Point> &from);
 
     std::string_view Measurable(const Label &label, std::string_view text);
     bool Fits(const Label &label, std::string_view text);
@@ -270,13 +254,10 @@ private:
     std::array<std::optional<std::string>, box_count> entered_;
     bool contrast_ = false; ///< the shown colours are those of high contrast
     bool stale_ = false;    ///< what was laid out is not what the month shows now: it changed in compact mode
-    Point placed_;          ///< where Position_Form put the window last
-    Point manual_;          ///< where the user put it last, of which the settings hold what fits 16 bits
     unsigned fills_ = 0;    ///< counts the fillings: one that begins inside another puts an end to that
     bool broken_off_ = false; ///< the last filling: events of the month may not be in their boxes
-    int desktop_height_ = 0;  ///< of the work area at the last placement, twips
-    std::optional<Drag> drag_;
-    std::optional<Drag> nudge_; ///< where the arrow keys took it up
+    Form_Place place_{*this};
+    Form_Drag drag_{*this, [this](const std::optional<Point> &from) { Keep_Place(from); }};
 
     std::int16_t mark_day_ = 0; ///< of the shown month, 0: none yet
     bool mark_used_ = false;    ///< the keyboard has been used to go over the days
@@ -284,8 +265,6 @@ private:
     int pending_key_ = 0;           ///< went down here and acts when it comes up
     bool stray_key_ = false;        ///< a key that comes up now went down in another window
     std::optional<Date> mark_told_; ///< the day that was announced as having the focus
-
-    Repeated_Guard drop_guard_;
 };
 
 /// A day as the user reads it: Tuesday 5th March 2002.

@@ -85,7 +85,7 @@ void Main_Frm::Change_Style(int step) {
     Hide_Balloon();
     // The window gets another size. One that stands at its set position keeps to it, so that it neither runs
     // off the screen nor floats; one that was dragged away, or is only its title, stays where it is.
-    const bool stands = !Compacted && placed_ == Put_At();
+    const bool stands = !Compacted && place_.Stands();
     Which_Style(Effective_Style());
     if (stands)
         Position_Form(Effective_Position());
@@ -105,7 +105,7 @@ void Main_Frm::Show_Today_Event() {
 
 void Main_Frm::Form_KeyUp(const platform::Input_Event &event) {
     if (!event.control_key)
-        End_Nudge();
+        drag_.End_Nudge();
     const bool pending = std::exchange(pending_key_, 0) == event.key;
     // Alt+F4 closes a window, this one or another; its F4 is no step to the next month.
     if (event.alt || std::exchange(stray_key_, false))
