@@ -12,6 +12,22 @@
 using platform::Broadcast;
 using platform::Mouse_Button;
 
+namespace {
+
+/// All that the month shows of the regional settings, and the measures of its fonts.
+std::string Regional_Look() {
+    std::string look = std::to_string(platform::First_Weekday());
+    for (int month = 1; month <= 12; ++month)
+        look += "\n" + platform::Month_Name(month);
+    for (int day = 0; day < Main_Frm::days_a_week; ++day)
+        look += Joined({"\n", platform::Weekday_Name(day), "\n", platform::Short_Weekday_Name(day)});
+    const platform::Font font;
+    return Joined({look, "\n", std::to_string(platform::Line_Height(font)), "\n",
+                   std::to_string(platform::Text_Width("The quick brown fox 0123456789", font))});
+}
+
+} // namespace
+
 Main_Frm::Main_Frm()
     : Form(platform::Form_Kind::Painted, "Calendar"), Prev_Month_Lbl(*this, "Prev_Month_Lbl"),
       Which_Month_Lbl(*this, "Which_Month_Lbl"), Next_Month_Lbl(*this, "Next_Month_Lbl"),
@@ -211,22 +227,18 @@ bool Main_Frm::May_End() const {
     return !Ask_Unsaved || Ask_Unsaved();
 }
 
+void Main_Frm::End_Program() {
+    Hide_Balloon();
+    if (!May_End())
+        return;
+    Balloon.End();
+    platform::End_Message_Loop();
+}
+
 void Main_Frm::Resume_Auto_Compact() {
     // Nothing counts down towards a state that is reached already.
     if (Cur_Settings.Auto_Compact == 1 && !Compacted)
         Compact_Timer.Set_Enabled(true);
-}
-
-/// All that the month shows of the regional settings, and the measures of its fonts.
-std::string Main_Frm::Regional_Look() {
-    std::string look = std::to_string(platform::First_Weekday());
-    for (int month = 1; month <= 12; ++month)
-        look += "\n" + platform::Month_Name(month);
-    for (int day = 0; day < days_a_week; ++day)
-        look += Joined({"\n", platform::Weekday_Name(day), "\n", platform::Short_Weekday_Name(day)});
-    const platform::Font font;
-    return Joined({look, "\n", std::to_string(platform::Line_Height(font)), "\n",
-                   std::to_string(platform::Text_Width("The quick brown fox 0123456789", font))});
 }
 
 void Main_Frm::Take_Regional_Settings() {

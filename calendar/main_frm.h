@@ -1,11 +1,12 @@
 // The calendar window: the month in its boxes under a row of weekday headers and a title. Its procedures are
-// in files by topic: start-up and the date watch (main_frm.cpp), the month (month_grid.cpp), geometry and
-// text fitting (box_styles.cpp), steps and function keys (navigation.cpp), the keyboard's mark (focus.cpp),
-// menus.cpp, tooltips.cpp with the balloon, compact.cpp, colours.cpp, themes.cpp, placement.cpp,
-// dragging.cpp, and the place inside the shell (attachment.cpp).
+// in files by topic: start-up and the date watch (main_frm.cpp), the month (month_grid.cpp), text fitting
+// (box_styles.cpp), steps from month to month (navigation.cpp), the keys (focus.cpp), menus.cpp,
+// tooltips.cpp, compact.cpp, colours.cpp, themes.cpp, placement.cpp, dragging.cpp. What has a state of its
+// own is a part: the keyboard's mark, the drag, the balloon; and in desktop/ place and attachment.
 #pragma once
 
 #include "base/callback.h"
+#include "calendar/day_mark.h"
 #include "calendar/form_drag.h"
 #include "calendar/held_balloon.h"
 #include "core/date.h"
@@ -212,7 +213,6 @@ private:
     void Hear_Broadcasts();
     bool Hear(platform::Broadcast broadcast);
     void Follow_Contrast();
-    static std::string Regional_Look();
     void Take_Regional_Settings();
     void Renew_Layout();
 
@@ -232,7 +232,7 @@ private:
     void Move_Mark(int days);
     bool Show_Mark();
     void Update_Mark();
-    int Marked_Box() const;
+    int Marked_Box() const { return Start_Box(Cur_Month, Cur_Year) + mark_.Day() - 1; }
     void Take_Focus(bool has_focus);
 
     void Describe_Boxes();
@@ -243,9 +243,6 @@ private:
     void Alert(const Date &today, std::string_view text);
 
     void Keep_Place(const std::optional<Point> &from);
-
-    std::string_view Measurable(const Label &label, std::string_view text);
-    bool Fits(const Label &label, std::string_view text);
 
     std::string date_stamp_;
     std::string regional_look_;
@@ -258,13 +255,9 @@ private:
     bool broken_off_ = false; ///< the last filling: events of the month may not be in their boxes
     Form_Place place_{*this};
     Form_Drag drag_{*this, [this](const std::optional<Point> &from) { Keep_Place(from); }};
-
-    std::int16_t mark_day_ = 0; ///< of the shown month, 0: none yet
-    bool mark_used_ = false;    ///< the keyboard has been used to go over the days
-    bool has_focus_ = false;
-    int pending_key_ = 0;           ///< went down here and acts when it comes up
-    bool stray_key_ = false;        ///< a key that comes up now went down in another window
-    std::optional<Date> mark_told_; ///< the day that was announced as having the focus
+    Day_Mark mark_{*this};
+    int pending_key_ = 0;    ///< went down here and acts when it comes up
+    bool stray_key_ = false; ///< a key that comes up now went down in another window
 };
 
 /// A day as the user reads it: Tuesday 5th March 2002.

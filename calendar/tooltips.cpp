@@ -18,7 +18,7 @@ void Main_Frm::Clear_Tooltips() {
 }
 
 void Main_Frm::Box_Mouse_Down(Mouse_Button button, int index) {
-    mark_day_ = Date_Of_Box(index).day;
+    mark_.Set_Day(Date_Of_Box(index).day);
     Update_Mark();
     if (button == Mouse_Button::Right)
         return Popup_Menu(index);

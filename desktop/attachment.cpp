@@ -1,4 +1,9 @@
-// The steps from the desktop window to the list of icons and inside.
+// The steps from the desktop window to the list of icons and inside. The shell's windows:
+//
+//     the desktop window                Find_Desktop_Window
+//     +-- our form                      above the icons, once it is inside
+//     +-- the view of the desktop       Find_Shell_View
+//         +-- the list of icons         Find_Icon_List; tells the colours of its labels
 #include "desktop/attachment.h"
 
 namespace {
