@@ -58,6 +58,22 @@ std::string Blanks_Made_One(std::string_view text, bool &more) {
     return shown;
 }
 
+bool Fits(const Label &label, std::string_view text) {
+    return platform::Text_Width(text, Box_Layout::text_font) < label.Width();
+}
+
+/// A beginning of `text` that is too wide for the label by a few characters at most, or all of it. It only
+/// spares Get_Line steps.
+std::string_view Measurable(const Label &label, std::string_view text) {
+    while (text.size() > 1) {
+        const std::size_t half = Whole_Prefix(text, text.size() / 2);
+        if (half == 0 || Fits(label, text.substr(0, half)))
+            break;
+        text = text.substr(0, half);
+    }
+    return text;
+}
+
 } // namespace
 
 void Main_Frm::Which_Style(std::int16_t style) {
@@ -95,28 +111,12 @@ void Main_Frm::DDD_Style(std::int16_t style) {
     DotDotDot_Lbl.Move({0, 0, std::max(room, 0), Box_Caption_Lbl[0].Height()});
 }
 
-bool Main_Frm::Fits(const Label &label, std::string_view text) {
-    return platform::Text_Width(text, DotDotDot_Lbl.Font()) < label.Width();
-}
-
 void Main_Frm::Get_Line(const Label &label) {
     while (!DotDotDot_Lbl.Caption().empty() && !Fits(label, DotDotDot_Lbl.Caption())) {
         std::string caption = DotDotDot_Lbl.Caption();
         caption.resize(Previous_Character(caption, caption.size()));
         DotDotDot_Lbl.Set_Caption(caption);
     }
-}
-
-/// A beginning of `text` that is too wide for the label by a few characters at most, or all of it. It only
-/// spares Get_Line steps.
-std::string_view Main_Frm::Measurable(const Label &label, std::string_view text) {
-    while (text.size() > 1) {
-        const std::size_t half = Whole_Prefix(text, text.size() / 2);
-        if (half == 0 || Fits(label, text.substr(0, half)))
-            break;
-        text = text.substr(0, half);
-    }
-    return text;
 }
 
 void Main_Frm::DotDotDot(Label &label, std::string_view text) {

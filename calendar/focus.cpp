@@ -1,20 +1,24 @@
-// The keyboard's way over the days: a mark on one day box, which the arrow keys move and the other keys act
-// on. The mark is seen once the keyboard has been used for it, and while the window has the focus.
+// The keys: those that act on the month, and the keyboard's way over the days, where the arrow keys move the
+// mark (day_mark.h), and the other keys act on it.
 #include "calendar/main_frm.h"
 #include "toolkit/keys.h"
 
 #include <algorithm>
+#include <utility>
 
 void Main_Frm::Form_KeyDown(const platform::Input_Event &event) {
     // Keys come only to a window that has the focus.
-    has_focus_ = true;
+    mark_.Set_Focus(true);
     stray_key_ = false;
     if (event.alt)
         return;
     if (event.control_key && (event.key == Key_Page_Up || event.key == Key_Page_Down))
         return Step_Year(event.key == Key_Page_Up ? -1 : 1);
-    if (event.control_key)
-        return Nudge(event.key, event.shift);
+    if (event.control_key) {
+        if (drag_.Nudge(event.key, event.shift))
+            Hide_Balloon();
+        return;
+    }
     const bool menu = event.key == Key_Menu || (event.key == Key_F10 && event.shift);
     if (menu || event.key == Key_Return || event.key == Key_Delete) {
         // These act when they come up, if they went down here: the key that closes a message box, or is held
@@ -23,6 +27,41 @@ void Main_Frm::Form_KeyDown(const platform::Input_Event &event) {
             pending_key_ = event.key;
     } else if (Day_Key(event.key)) {
         Restart_Countdown();
+    }
+}
+
+void Main_Frm::Form_KeyUp(const platform::Input_Event &event) {
+    if (!event.control_key)
+        drag_.End_Nudge();
+    const bool pending = std::exchange(pending_key_, 0) == event.key;
+    // Alt+F4 closes a window, this one or another; its F4 is no step to the next month.
+    if (event.alt || std::exchange(stray_key_, false))
+        return;
+    Function_Key(event.key);
+    if (pending)
+        Act_On_Marked(event.key);
+    Restart_Countdown();
+}
+
+void Main_Frm::Function_Key(int key) {
+    switch (key) {
+    case Key_F1:
+        return Show_Today_Event();
+    case Key_F2:
+        return Previous_Month();
+    case Key_F4:
+        return Next_Month();
+    case Key_F3:
+    case Key_F5:
+        return Redraw();
+    case Key_F8:
+        return Change_Style(1);
+    case Key_F9:
+        return Change_Style(-1);
+    case Key_F12:
+        return Which_Month_Lbl_DblClick();
+    default:
+        return;
     }
 }
 
@@ -47,8 +86,8 @@ bool Main_Frm::Day_Key(int key) {
         Next_Month();
         return true;
     case Key_Home:
-        mark_used_ = true;
-        mark_day_ = Take_Today().day;
+        mark_.Use();
+        mark_.Set_Day(Take_Today().day);
         Redraw();
         return true;
     case Key_M:
@@ -93,12 +132,11 @@ void Main_Frm::Act_On_Marked(int key) {
 
 /// Makes the mark seen; false when it was already.
 bool Main_Frm::Show_Mark() {
-    if (mark_used_)
+    if (!mark_.Use())
         return false;
-    mark_used_ = true;
-    if (mark_day_ == 0) {
+    if (mark_.Day() == 0) {
         const Date today = Today();
-        mark_day_ = today.month == Cur_Month && today.year == Cur_Year ? today.day : std::int16_t{1};
+        mark_.Set_Day(today.month == Cur_Month && today.year == Cur_Year ? today.day : std::int16_t{1});
     }
     Update_Mark();
     return true;
@@ -109,53 +147,38 @@ void Main_Frm::Move_Mark(int days) {
     if (Compacted || Show_Mark())
         return;
     const int length = DaysInMonth({Cur_Year, Cur_Month, 1});
-    const int day = mark_day_ + days;
+    const int day = mark_.Day() + days;
     if (day < 1) {
         if (Cur_Month == 1 && Cur_Year <= first_year)
             return;
         const Date before = Cur_Month == 1 ? Date{static_cast<std::int16_t>(Cur_Year - 1), 12, 1}
                                            : Date{Cur_Year, static_cast<std::int16_t>(Cur_Month - 1), 1};
-        mark_day_ = static_cast<std::int16_t>(day + DaysInMonth(before));
+        mark_.Set_Day(static_cast<std::int16_t>(day + DaysInMonth(before)));
         Previous_Month();
     } else if (day > length) {
         if (Cur_Month == 12 && Cur_Year >= last_year)
             return;
-        mark_day_ = static_cast<std::int16_t>(day - length);
+        mark_.Set_Day(static_cast<std::int16_t>(day - length));
         Next_Month();
     } else {
-        mark_day_ = static_cast<std::int16_t>(day);
+        mark_.Set_Day(static_cast<std::int16_t>(day));
         Update_Mark();
     }
 }
 
-int Main_Frm::Marked_Box() const {
-    return Start_Box(Cur_Month, Cur_Year) + mark_day_ - 1;
-}
-
 void Main_Frm::Take_Focus(bool has_focus) {
-    has_focus_ = has_focus;
+    mark_.Set_Focus(has_focus);
     pending_key_ = 0;
     stray_key_ = has_focus;
     Update_Mark();
 }
 
 void Main_Frm::Update_Mark() {
-    if (mark_day_ == 0)
+    if (mark_.Day() == 0)
         return;
     // In a shorter month it is on the last day.
-    mark_day_ =
-        static_cast<std::int16_t>(std::min<std::int32_t>(mark_day_, DaysInMonth({Cur_Year, Cur_Month, 1})));
-    const int marked = Marked_Box();
-    for (int i = 0; i < box_count; ++i)
-        Box_Lbl[i].Set_Marked(mark_used_ && has_focus_ && !Compacted && i == marked);
-    if (!mark_used_)
-        return;
-    // Told to assistive technology only when it is another day.
-    std::optional<Date> focused;
-    if (!Compacted)
-        focused = Date_Of_Box(marked);
-    if (mark_told_ == focused)
-        return;
-    mark_told_ = focused;
-    Set_Focus(Compacted ? Which_Month_Lbl : Box_Lbl[marked]);
+    const std::int32_t length = DaysInMonth({Cur_Year, Cur_Month, 1});
+    mark_.Set_Day(static_cast<std::int16_t>(std::min<std::int32_t>(mark_.Day(), length)));
+    const int box = Marked_Box();
+    mark_.Put_On(Compacted ? nullptr : &Box_Lbl[box], Date_Of_Box(box), Which_Month_Lbl);
 }

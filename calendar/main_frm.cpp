@@ -12,6 +12,22 @@
 using platform::Broadcast;
 using platform::Mouse_Button;
 
+namespace {
+
+/// All that the month shows of the regional settings, and the measures of its fonts.
+std::string Regional_Look() {
+    std::string look = std::to_string(platform::First_Weekday());
+    for (int month = 1; month <= 12; ++month)
+        look += "\n" + platform::Month_Name(month);
+    for (int day = 0; day < Main_Frm::days_a_week; ++day)
+        look += Joined({"\n", platform::Weekday_Name(day), "\n", platform::Short_Weekday_Name(day)});
+    const platform::Font font;
+    return Joined({look, "\n", std::to_string(platform::Line_Height(font)), "\n",
+                   std::to_string(platform::Text_Width("The quick brown fox 0123456789", font))});
+}
+
+} // namespace
+
 Main_Frm::Main_Frm()
     : Form(platform::Form_Kind::Painted, "Calendar"), Prev_Month_Lbl(*this, "Prev_Month_Lbl"),
       Which_Month_Lbl(*this, "Which_Month_Lbl"), Next_Month_Lbl(*this, "Next_Month_Lbl"),
@@ -47,25 +63,31 @@ void Main_Frm::Wire_Events() {
     On_Focus_Changed = [this](bool has_focus) { Take_Focus(has_focus); };
     On_Capture_Lost = [this] {
         Hide_Balloon();
-        End_Drag();
+        drag_.End();
     };
     On_Close = [this] { End_Program(); };
     On_Dots_Changed = [this] { Renew_Layout(); };
-    Attach_Timer.On_Timer = [this] { Attach_Timer_Timer(); };
+    Attachment.On_Colours = [this](platform::Shell_Window list, const platform::Label_Colours &colours) {
+        Set_Icon_Colours(list, colours.background, colours.text);
+    };
+    Attachment.On_Late_Entry = [this] {
+        Set_Colours();
+        Mark_Today();
+    };
     Which_Month_Lbl.On_Default_Action = [this] { Which_Month_Lbl_DblClick(); };
     // Without its window the program could only stand in the way of its next start. Nothing is asked here:
     // the window inside the shell's goes down in the middle of the shell's own end, which waits for it.
     On_Window_Lost = [this] {
-        ended_ = true;
+        Balloon.End();
         platform::End_Message_Loop();
     };
     Which_Month_Lbl.On_Mouse_Down = [this](Mouse_Button button, Point at) {
-        Begin_Drag(button, at);
+        drag_.Begin(button, at);
         if (button == Mouse_Button::Right)
             Popup_Title_Menu(at);
     };
     Which_Month_Lbl.On_Mouse_Move = [this](Mouse_Button held, Point at) {
-        Drag_Along(held, at);
+        drag_.Along(held, at);
         Caption_Moved();
     };
     Which_Month_Lbl.On_Double_Click = [this] { Which_Month_Lbl_DblClick(); };
@@ -74,11 +96,7 @@ void Main_Frm::Wire_Events() {
     for (Label &header : Day_Lbl)
         header.On_Mouse_Move = [this](Mouse_Button, Point) { Restart_Countdown(); };
     Compact_Timer.On_Timer = [this] { Compact_Timer_Timer(); };
-    Timer2.On_Timer = [this] {
-        if (!platform::Mouse_Button_Held())
-            Hide_Balloon();
-    };
-    Which_Month_Lbl.On_Mouse_Up = [this](Mouse_Button button, Point) { Drop(button); };
+    Which_Month_Lbl.On_Mouse_Up = [this](Mouse_Button button, Point) { drag_.Drop(button); };
     Dectect_Date_Timer.On_Timer = [this] { Dectect_Date_Timer_Timer(); };
 }
 
@@ -191,7 +209,7 @@ bool Main_Frm::Hear(Broadcast broadcast) {
     case Broadcast::Session_Ends:
         return May_End();
     case Broadcast::Session_Over:
-        ended_ = true;
+        Balloon.End();
         // The process may go at once: the dialog keeps its tab now.
         if (Close_Settings)
             Close_Settings();
@@ -209,22 +227,18 @@ bool Main_Frm::May_End() const {
     return !Ask_Unsaved || Ask_Unsaved();
 }
 
+void Main_Frm::End_Program() {
+    Hide_Balloon();
+    if (!May_End())
+        return;
+    Balloon.End();
+    platform::End_Message_Loop();
+}
+
 void Main_Frm::Resume_Auto_Compact() {
     // Nothing counts down towards a state that is reached already.
     if (Cur_Settings.Auto_Compact == 1 && !Compacted)
         Compact_Timer.Set_Enabled(true);
-}
-
-/// All that the month shows of the regional settings, and the measures of its fonts.
-std::string Main_Frm::Regional_Look() {
-    std::string look = std::to_string(platform::First_Weekday());
-    for (int month = 1; month <= 12; ++month)
-        look += "\n" + platform::Month_Name(month);
-    for (int day = 0; day < days_a_week; ++day)
-        look += Joined({"\n", platform::Weekday_Name(day), "\n", platform::Short_Weekday_Name(day)});
-    const platform::Font font;
-    return Joined({look, "\n", std::to_string(platform::Line_Height(font)), "\n",
-                   std::to_string(platform::Text_Width("The quick brown fox 0123456789", font))});
 }
 
 void Main_Frm::Take_Regional_Settings() {

@@ -1,21 +1,25 @@
 // The calendar window: the month in its boxes under a row of weekday headers and a title. Its procedures are
-// in files by topic: start-up and the date watch (main_frm.cpp), the month (month_grid.cpp), geometry and
-// text fitting (box_styles.cpp), steps and function keys (navigation.cpp), the keyboard's mark (focus.cpp),
-// menus.cpp, tooltips.cpp with the balloon, compact.cpp, colours.cpp, themes.cpp, placement.cpp,
-// dragging.cpp, what follows changed settings (follow.cpp), and the place inside the shell (attachment.cpp).
+// in files by topic: start-up and the date watch (main_frm.cpp), the month (month_grid.cpp), text fitting
+// (box_styles.cpp), steps from month to month (navigation.cpp), the keys (focus.cpp), menus.cpp,
+// tooltips.cpp, compact.cpp, colours.cpp, themes.cpp, placement.cpp, dragging.cpp,
+// what follows changed settings (follow.cpp). What has a state of its
+// own is a part: the keyboard's mark, the drag, the balloon; and in desktop/ place and attachment.
 #pragma once
 
 #include "base/callback.h"
+#include "calendar/day_mark.h"
+#include "calendar/form_drag.h"
+#include "calendar/held_balloon.h"
 #include "core/date.h"
 #include "core/event_store.h"
 #include "core/settings.h"
+#include "desktop/attachment.h"
+#include "desktop/form_place.h"
 #include "platform/message_loop.h"
 #include "platform/shell.h"
 #include "toolkit/control_array.h"
 #include "toolkit/form.h"
-#include "toolkit/guard.h"
 #include "toolkit/timer.h"
-#include "ui/balloon.h"
 #include "ui/splash_frm.h"
 
 #include <array>
@@ -41,7 +45,6 @@ public:
     bool Alert_Done = false; ///< no further alert today
     bool Compacted = false;
     bool Timer_Compacted = false;  ///< by the timer once: the mouse over the title expands it, and ends this
-    bool Mouse_Released = true;    ///< no button is held over a day box
     std::int16_t Tooltip_Box = -1; ///< the day box of the last balloon
     Event_Store Events;
 
@@ -120,7 +123,7 @@ public:
     /// Moves the window to a position code (desktop/position.h); a number that is none leaves it.
     void Position_Form(std::int16_t code);
     /// Remembers the work area's height.
-    void Set_Repos();
+    void Set_Repos() { place_.Take_Height(); }
     /// Places the window anew when the work area's height is another one; puts it back when something else
     /// has moved it.
     void RePosition();
@@ -187,11 +190,10 @@ public:
     void Restart_Countdown();
 
     // The balloon.
-    bool Balloon_Showing() const { return Balloon.Visible(); }
-    /// Waits while the window's messages are processed. Ends early at midnight and at the program's end.
+    bool Balloon_Showing() const { return Balloon.Showing(); }
     void TimeOut(float seconds);
     void Balloon_Tooltip(int index, std::string_view message);
-    void Hide_Balloon();
+    void Hide_Balloon() { Balloon.Hide(); }
     /// Lets compact mode come again after a dialog is closed.
     void Resume_Auto_Compact();
 
@@ -204,11 +206,9 @@ public:
     Label DotDotDot_Lbl; ///< never seen: texts are measured in it
     Timer Dectect_Date_Timer;
     Timer Compact_Timer{60000};
-    Timer Attach_Timer{1000}; ///< runs while the shell does not answer
+    Desktop_Attachment Attachment{*this};
     Splash_Frm Splash;
-    frmBalloon Balloon;
-    /// Runs only while the balloon is there, which goes when the button was released where nobody told.
-    Timer Timer2{1000};
+    Held_Balloon Balloon;
 
 private:
     /// What the names of the boxes were made for.
@@ -226,7 +226,6 @@ private:
     void Hear_Broadcasts();
     bool Hear(platform::Broadcast broadcast);
     void Follow_Contrast();
-    static std::string Regional_Look();
     void Take_Regional_Settings();
     void Renew_Layout();
 
@@ -246,7 +245,7 @@ private:
     void Move_Mark(int days);
     bool Show_Mark();
     void Update_Mark();
-    int Marked_Box() const;
+    int Marked_Box() const { return Start_Box(Cur_Month, Cur_Year) + mark_.Day() - 1; }
     void Take_Focus(bool has_focus);
 
     void Describe_Boxes();
@@ -256,28 +255,7 @@ private:
     void Show_Entered();
     void Alert(const Date &today, std::string_view text);
 
-    /// A drag by the title: where the mouse is in the title, and where the window was. Wider than the 16 bits
-    /// that a place is kept in, so that a calendar beyond them can be dragged back.
-    struct Drag {
-        Point mouse;
-        Point form;
-    };
-    void Begin_Drag(platform::Mouse_Button button, Point mouse);
-    void Drag_Along(platform::Mouse_Button held, Point mouse);
-    void Drop(platform::Mouse_Button button);
-    void End_Drag();
-    /// Moves the calendar by one arrow key, `fine` by a pixel. The keys' last place is kept when Ctrl comes
-    /// up.
-    void Nudge(int key, bool fine);
-    void End_Nudge();
-    void Keep_Place(const std::optional<Drag> &drag);
-
-    /// The way into a desktop window that was found, with `patience` milliseconds for each of its answers.
-    void Move_Into(platform::Shell_Window desktop, unsigned patience);
-    void Attach_Timer_Timer();
-
-    std::string_view Measurable(const Label &label, std::string_view text);
-    bool Fits(const Label &label, std::string_view text);
+    void Keep_Place(const std::optional<Point> &from);
 
     std::string date_stamp_;
     std::string regional_look_;
@@ -287,26 +265,13 @@ private:
     bool contrast_ = false; ///< the shown colours are those of high contrast
     bool stale_ = false;    ///< what was laid out is not what the month shows now: it changed in compact mode
     std::int16_t style_ = 0;  ///< of the last Which_Style
-    Point placed_;            ///< where Position_Form put the window last
-    Point manual_;            ///< where the user put it last, of which the settings hold what fits 16 bits
     unsigned fills_ = 0;      ///< counts the fillings: one that begins inside another puts an end to that
     bool broken_off_ = false; ///< the last filling: events of the month may not be in their boxes
-    int desktop_height_ = 0;  ///< of the work area at the last placement, twips
-    std::optional<Drag> drag_;
-    std::optional<Drag> nudge_; ///< where the arrow keys took it up
-
-    std::int16_t mark_day_ = 0; ///< of the shown month, 0: none yet
-    bool mark_used_ = false;    ///< the keyboard has been used to go over the days
-    bool has_focus_ = false;
-    int pending_key_ = 0;           ///< went down here and acts when it comes up
-    bool stray_key_ = false;        ///< a key that comes up now went down in another window
-    std::optional<Date> mark_told_; ///< the day that was announced as having the focus
-
-    int held_box_ = -1;
-    unsigned holds_ = 0; ///< counts the presses that may become a balloon
-    bool waiting_ = false;
-    bool ended_ = false;
-    Repeated_Guard drop_guard_;
+    Form_Place place_{*this};
+    Form_Drag drag_{*this, [this](const std::optional<Point> &from) { Keep_Place(from); }};
+    Day_Mark mark_{*this};
+    int pending_key_ = 0;    ///< went down here and acts when it comes up
+    bool stray_key_ = false; ///< a key that comes up now went down in another window
 };
 
 /// A day as the user reads it: Tuesday 5th March 2002.

@@ -1,10 +1,7 @@
-// Steps from month to month and from style to style, the function keys, and the way out.
+// Steps from month to month and from style to style, and the event of today.
 #include "calendar/main_frm.h"
 #include "core/settings.h"
 #include "platform/message_box.h"
-#include "toolkit/keys.h"
-
-#include <utility>
 
 namespace {
 
@@ -62,14 +59,6 @@ void Main_Frm::Edit_Box(int index) {
         Open_Editor(index);
 }
 
-void Main_Frm::End_Program() {
-    Hide_Balloon();
-    if (!May_End())
-        return;
-    ended_ = true;
-    platform::End_Message_Loop();
-}
-
 void Main_Frm::Change_Style(int step) {
     // No and Cancel both leave all as it is: while the theme's style rules, there is no other to step to.
     const bool theme_rules = Cur_Settings.Use_Theme_Style == 1;
@@ -95,39 +84,4 @@ void Main_Frm::Show_Today_Event() {
         return;
     platform::Message_Box(Today_Text(today, message.text.empty() ? "No event." : message.text), "Vellatro",
                           platform::Box_Icon::Information);
-}
-
-void Main_Frm::Form_KeyUp(const platform::Input_Event &event) {
-    if (!event.control_key)
-        End_Nudge();
-    const bool pending = std::exchange(pending_key_, 0) == event.key;
-    // Alt+F4 closes a window, this one or another; its F4 is no step to the next month.
-    if (event.alt || std::exchange(stray_key_, false))
-        return;
-    Function_Key(event.key);
-    if (pending)
-        Act_On_Marked(event.key);
-    Restart_Countdown();
-}
-
-void Main_Frm::Function_Key(int key) {
-    switch (key) {
-    case Key_F1:
-        return Show_Today_Event();
-    case Key_F2:
-        return Previous_Month();
-    case Key_F4:
-        return Next_Month();
-    case Key_F3:
-    case Key_F5:
-        return Redraw();
-    case Key_F8:
-        return Change_Style(1);
-    case Key_F9:
-        return Change_Style(-1);
-    case Key_F12:
-        return Which_Month_Lbl_DblClick();
-    default:
-        return;
-    }
 }

@@ -30,7 +30,7 @@ Settings_Frm::Settings_Frm(Main_Frm &calendar)
       Settings_Fra(*this, "Settings_Fra"), Events(*this, Settings_Fra[events_fra], calendar),
       Colours(*this, Settings_Fra[colours_fra], calendar),
       General(*this, Settings_Fra[general_fra], calendar), Style(*this, Settings_Fra[style_fra], calendar),
-      Tooltips(*this, Settings_Fra[tooltips_fra], calendar),
+      Tooltips(*this, Settings_Fra[tooltips_fra], calendar.Balloon),
       Wallpaper(*this, Settings_Fra[wallpaper_fra], calendar, Style),
       Transfer(*this, Settings_Fra[transfer_fra], calendar), About(*this, Settings_Fra[about_fra]),
       Ok_Btn(*this, "Ok_Btn", "OK"), Cancel_Btn(*this, "Cancel_Btn", "Cancel"),

@@ -3,7 +3,6 @@
 
 #include "calendar/box_layout.h"
 #include "core/settings.h"
-#include "platform/locale.h"
 
 #include <array>
 
@@ -12,11 +11,7 @@ using platform::Mouse_Button;
 
 namespace {
 
-constexpr std::uint16_t not_held = 65535;
-constexpr float hold_time = 0.3F; // seconds
 constexpr int balloons = 2;
-constexpr int balloon_width = 4680;
-constexpr int balloon_height = 1620;
 constexpr const char *example = "This is an example.";
 
 // From the dialog's corner to the page's, and over the window's frame and title.
@@ -40,11 +35,11 @@ constexpr std::array<Kind, 3> kinds{{
 
 } // namespace
 
-Tooltips_Page::Tooltips_Page(Form &dialog, Frame &frame, Main_Frm &calendar)
+Tooltips_Page::Tooltips_Page(Form &dialog, Frame &frame, Held_Balloon &balloon)
     : Tips_Opt(dialog, "Tips_Opt"), TipsNotes_Lbl(dialog, "TipsNotes_Lbl"),
       Preview_Fra(dialog, "Preview_Fra", "Preview"), TipsTrigger_Lbl(dialog, "TipsTrigger_Lbl"),
       TipExample_Lbl(dialog, "TipExample_Lbl", "Example"), TipBoxExample_Lbl(dialog, "TipBoxExample_Lbl"),
-      dialog_(dialog), calendar_(calendar) {
+      dialog_(dialog), balloon_(balloon) {
     for (int i = 0; i < static_cast<int>(kinds.size()); ++i) {
         Tips_Opt[i].Set_Caption(kinds[static_cast<std::size_t>(i)].caption);
         Tips_Opt[i].On_Click = [this, i] { Tips_Opt_Click(i); };
@@ -53,7 +48,10 @@ Tooltips_Page::Tooltips_Page(Form &dialog, Frame &frame, Main_Frm &calendar)
     Preview_Fra.Hold(TipsTrigger_Lbl, TipBoxExample_Lbl);
     for (Label *label : {&TipExample_Lbl, &TipBoxExample_Lbl}) {
         label->Set_Painted();
-        label->On_Mouse_Down = [this](Mouse_Button button, Point) { Example_Mouse_Down(button); };
+        label->On_Mouse_Down = [this](Mouse_Button button, Point) {
+            if (button == Mouse_Button::Left && Tips_Opt[balloons].Checked())
+                balloon_.Hold([this] { Example_Tooltip(); });
+        };
         label->On_Mouse_Up = [this](Mouse_Button, Point) { Release(); };
     }
     TipExample_Lbl.Set_Transparent(true);
@@ -93,32 +91,12 @@ void Tooltips_Page::Tips_Opt_Click(int index) {
     TipsNotes_Lbl.Set_Caption(kind.notes);
 }
 
-void Tooltips_Page::Example_Mouse_Down(Mouse_Button button) {
-    if (button != Mouse_Button::Left)
-        return;
-    held_ = Tips_Opt[balloons].Checked() ? 0 : not_held;
-    if (held_ == not_held)
-        return;
-    calendar_.TimeOut(hold_time);
-    if (held_ < not_held)
-        Example_Tooltip();
-}
-
-void Tooltips_Page::Release() {
-    held_ = not_held;
-    calendar_.Hide_Balloon();
-}
-
 void Tooltips_Page::Example_Tooltip() {
-    const Date today = Today();
     // The tail points to the lower edge of the example, in its middle.
     const Point place{
         dialog_.Left() + page_left + Preview_Fra.Left() + TipExample_Lbl.Left() + TipExample_Lbl.Width() / 2,
         dialog_.Top() + page_top + Preview_Fra.Top() + TipExample_Lbl.Top() + TipExample_Lbl.Height()};
-    calendar_.Balloon.SetBalloon(platform::Short_Date(today.year, today.month, today.day), example, "i",
-                                 "Tahoma, if exists", balloon_width, balloon_height, &place);
-    calendar_.Balloon.Show();
-    calendar_.Timer2.Set_Enabled(true);
+    balloon_.Show(Today(), example, &place);
 }
 
 void Tooltips_Page::Lay_Out() {

@@ -9,7 +9,7 @@
 
 class Tooltips_Page {
 public:
-    [[gnu::noinline]] Tooltips_Page(Form &dialog, Frame &frame, Main_Frm &calendar);
+    [[gnu::noinline]] Tooltips_Page(Form &dialog, Frame &frame, Held_Balloon &balloon);
     /// Places the controls, also after a change of the dots per inch.
     void Lay_Out();
 
@@ -19,7 +19,7 @@ public:
     /// Shows today's box among the examples as the calendar draws it now.
     void Dress_Examples();
     /// The button is not held any more, by whatever way: an example balloon goes, or does not come.
-    void Release();
+    void Release() { balloon_.Hide(); }
 
     Control_Array<Option_Button, 3> Tips_Opt;
     Label TipsNotes_Lbl;
@@ -30,10 +30,8 @@ public:
 
 private:
     void Tips_Opt_Click(int index);
-    void Example_Mouse_Down(platform::Mouse_Button button);
     void Example_Tooltip();
 
     Form &dialog_;
-    Main_Frm &calendar_;
-    std::uint16_t held_ = 65535; ///< 0 while an example is held that shows a balloon, else all bits set
+    Held_Balloon &balloon_;
 };

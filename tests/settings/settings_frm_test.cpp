@@ -126,11 +126,11 @@ TEST_F(Settings_Window, shows_the_example_balloon_while_the_left_button_is_held)
             EXPECT_FALSE(form.Balloon_Showing());
         }
     Label &example = dialog->Tooltips.TipExample_Lbl;
-    const int at = form.Balloon.Left();
+    const int at = form.Balloon.Window.Left();
     Input(*dialog, {.kind = Input_Kind::Moved, .point = {dialog->Left() - 900, dialog->Top()}});
     Press(*dialog, example);
-    EXPECT_EQ(form.Balloon.Left(), at - 900) << "it goes with a dialog that the user moves";
-    EXPECT_EQ(form.Balloon.Title_Lbl.Caption(), "5/3/2002");
+    EXPECT_EQ(form.Balloon.Window.Left(), at - 900) << "it goes with a dialog that the user moves";
+    EXPECT_EQ(form.Balloon.Window.Title_Lbl.Caption(), "5/3/2002");
     Input(*dialog, {.kind = Input_Kind::Capture_Lost});
     Press(*dialog, example, Mouse_Button::Right);
     EXPECT_FALSE(form.Balloon_Showing());

@@ -67,8 +67,8 @@ protected:
     void Press_Day(int day) { Press(form, Box_Of(day)); }
     void Tell(Input_Kind kind) { Input(form, {.kind = kind}); }
     bool Shown() {
-        EXPECT_EQ(form.Balloon_Showing(), Desktop().mirrors.contains(&form.Balloon.Model()));
-        EXPECT_EQ(form.Balloon_Showing(), form.Timer2.Enabled());
+        EXPECT_EQ(form.Balloon_Showing(), Desktop().mirrors.contains(&form.Balloon.Window.Model()));
+        EXPECT_EQ(form.Balloon_Showing(), form.Balloon.Timer2.Enabled());
         return form.Balloon_Showing();
     }
 };
@@ -77,11 +77,11 @@ TEST_F(Balloon, shows_the_day_s_text_after_a_third_of_a_second_until_the_release
     Press_Day(6);
     ASSERT_TRUE(Shown());
     EXPECT_TRUE(Fakes().now.millisecond >= 300 && Fakes().now.millisecond <= 310);
-    EXPECT_EQ(form.Balloon.Title_Lbl.Caption(), "6/3/2002");
-    EXPECT_EQ(form.Balloon.Message_Lbl.Caption(), "second"); // the last record, as in the box
-    EXPECT_EQ(form.Balloon.Height(), 1620);
-    EXPECT_EQ(form.Balloon.Top() + form.Balloon.Height(), 400 * 15);
-    const Fake_Mirror &window = Desktop().mirrors.at(&form.Balloon.Model());
+    EXPECT_EQ(form.Balloon.Window.Title_Lbl.Caption(), "6/3/2002");
+    EXPECT_EQ(form.Balloon.Window.Message_Lbl.Caption(), "second"); // the last record, as in the box
+    EXPECT_EQ(form.Balloon.Window.Height(), 1620);
+    EXPECT_EQ(form.Balloon.Window.Top() + form.Balloon.Window.Height(), 400 * 15);
+    const Fake_Mirror &window = Desktop().mirrors.at(&form.Balloon.Window.Model());
     EXPECT_TRUE(!window.shown_unclipped && window.shape.size() == 4 * 7 + 3U);
     Press(form, Box_Of(7), platform::Mouse_Button::Middle); // one at a time
     EXPECT_EQ(form.Tooltip_Box, 10);
@@ -91,9 +91,9 @@ TEST_F(Balloon, shows_the_day_s_text_after_a_third_of_a_second_until_the_release
         Events({"6/3/2002=" + std::string(length, 'w')});
         form.Redraw();
         Press_Day(6);
-        EXPECT_TRUE(form.Balloon.Height() > 1620 && form.Balloon.Height() <= 740 * 15);
-        EXPECT_EQ(form.Balloon.Message_Lbl.Caption().ends_with("..."), length == 20000);
-        EXPECT_LE(form.Balloon.Message_Lbl.Bounds().Bottom(), form.Balloon.Height());
+        EXPECT_TRUE(form.Balloon.Window.Height() > 1620 && form.Balloon.Window.Height() <= 740 * 15);
+        EXPECT_EQ(form.Balloon.Window.Message_Lbl.Caption().ends_with("..."), length == 20000);
+        EXPECT_LE(form.Balloon.Window.Message_Lbl.Bounds().Bottom(), form.Balloon.Window.Height());
         Release(form, Box_Of(6));
     }
 }
@@ -138,7 +138,7 @@ TEST_F(Balloon, a_second_press_during_the_wait_waits_for_itself_and_an_empty_box
     Desktop().messages = {[] {}, [] {}, [this] { Release(form, Box_Of(6)); }, [this] { Press_Day(7); }};
     Press_Day(6);
     ASSERT_TRUE(Shown());
-    EXPECT_EQ(form.Balloon.Message_Lbl.Caption(), "other");
+    EXPECT_EQ(form.Balloon.Window.Message_Lbl.Caption(), "other");
     EXPECT_GE(Fakes().now.millisecond, 600);   // 0.3 s of its own
     for (const int hour_then : {23, 11, 20}) { // the wait ends at midnight and when the clock is set
         Fakes().now = {2002, 3, 5, hour_then == 23 ? 23 : 12, 59, 59, 900};

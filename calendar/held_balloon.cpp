@@ -1,0 +1,75 @@
+// The wait before a held balloon, and the balloon's coming and going.
+#include "calendar/held_balloon.h"
+
+#include "platform/clock.h"
+#include "platform/locale.h"
+#include "platform/message_loop.h"
+#include "platform/screen.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr float hold_time = 0.3F; // seconds
+constexpr int balloon_width = 4680;
+constexpr int balloon_height = 1620;
+
+float Seconds_Since_Midnight() {
+    const platform::Date_Time now = platform::Now();
+    return static_cast<float>(now.hour * 3600 + now.minute * 60 + now.second) +
+           static_cast<float>(now.millisecond) / 1000;
+}
+
+} // namespace
+
+Held_Balloon::Held_Balloon() {
+    Timer2.On_Timer = [this] {
+        if (!platform::Mouse_Button_Held())
+            Hide();
+    };
+}
+
+void Held_Balloon::Hold(Callback<void()> show) {
+    if (Showing())
+        return;
+    released_ = false;
+    show_ = show;
+    ++holds_;
+    // A second press during the wait: the wait begins anew for it, in the call that is waiting already.
+    if (waiting_)
+        return;
+    waiting_ = true;
+    unsigned hold = 0;
+    do {
+        hold = holds_;
+        TimeOut(hold_time);
+    } while (hold != holds_ && !released_ && !ended_);
+    waiting_ = false;
+    if (!released_ && !ended_)
+        Fire(show_);
+}
+
+void Held_Balloon::TimeOut(float seconds) {
+    const float start = Seconds_Since_Midnight();
+    for (float now = start; now < start + seconds && now >= start; now = Seconds_Since_Midnight()) {
+        platform::Process_Waiting_Messages();
+        if (ended_)
+            return;
+        const float left = start + seconds - std::max(Seconds_Since_Midnight(), start);
+        if (left > 0)
+            platform::Wait_For_Messages(static_cast<unsigned>(left * 1000) + 1);
+    }
+}
+
+void Held_Balloon::Show(const Date &date, std::string_view message, const Point *at) {
+    Window.SetBalloon(platform::Short_Date(date.year, date.month, date.day), message, "i",
+                      "Tahoma, if exists", balloon_width, balloon_height, at);
+    Window.Show();
+    Timer2.Set_Enabled(true);
+}
+
+void Held_Balloon::Hide() {
+    released_ = true;
+    Timer2.Set_Enabled(false);
+    Window.HideBalloon();
+}
