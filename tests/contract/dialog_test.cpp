@@ -136,7 +136,7 @@ TEST_F(Dialog_Contract, The_Form_Hears_What_The_User_Does) {
          "text 7 x yz ; "},
         {[this] { Type(Typed, VK_BACK, true); }, "text 7 x ; "},
         {[this] { SendMessageW(GetWindow(Native(Typed), GW_CHILD), WM_CHAR, L'\u65E5', 0); },
-         "text 7 \u65E5; "},
+         "text 7 x \u65E5; "},
         {[this] { Send(List, LB_SETCURSEL, 1), Notify(List, LBN_SELCHANGE); }, "selected 8 1; "},
         {[this] { Notify(List, LBN_DBLCLK); }, "activated 8 1; "},
         {[this] { Type(List, VK_DELETE), Type(List, VK_RETURN); }, "key 8 46; key 8 13; "},
