@@ -116,6 +116,7 @@ bool Importer::Ask_File(const char *title, const char *filter, bool not_own_file
 
 void Importer::Import_CSV() {
     std::optional<Backup> backup;
+    std::optional<Undo_Log::Change> change; // to its end or to the restored file
     std::vector<Sort_Entry> staged;
     bool listed = true; // nothing is to be listed before a file is chosen
     try {
@@ -124,8 +125,10 @@ void Importer::Import_CSV() {
             return;
         Work.Begin();
         listed = false;
+        change.emplace(calendar_.Events.Changes, "Import");
         Read_Events(platform::Read_File(dialog_.FileName), staged);
         Merge_Imported(staged);
+        change.reset();
         const std::size_t count = staged.size();
         listed = true;
         Show_Staged(std::move(staged));
@@ -141,6 +144,7 @@ void Importer::Import_CSV() {
                 backup->Restore();
         } catch (const std::exception &) { // the copy stays, for whoever looks
         }
+        change.reset();
         if (!listed) { // the events before the error, beside the counts of the restored file
             for (Sort_Entry &event : staged)
                 event.key.clear(); // none is in the file
@@ -274,7 +278,10 @@ void Importer::Import_Data_File() {
             return;
         Demand_Text(dialog_.FileName);
         if (May_Replace()) {
-            platform::Copy_File(dialog_.FileName, Event_Store::Data_File());
+            {
+                const Undo_Log::Change change(calendar_.Events.Changes, "Import");
+                platform::Copy_File(dialog_.FileName, Event_Store::Data_File());
+            }
             Data_File_Replaced();
         }
         calendar_.Redraw();
@@ -330,6 +337,7 @@ Join_Counts Importer::Join_Calendar(const std::string &bytes) {
         const Join_Counts counts = Join_Events(file, days, records);
         if (counts.imported > 0) {
             Backup_Data();
+            const Undo_Log::Change change(calendar_.Events.Changes, "Import");
             calendar_.Events.Write_Data_File();
         }
         return counts;
