@@ -14,6 +14,11 @@ void Main_Frm::Form_KeyDown(const platform::Input_Event &event) {
         return;
     if (event.control_key && (event.key == Key_Page_Up || event.key == Key_Page_Down))
         return Step_Year(event.key == Key_Page_Up ? -1 : 1);
+    if (event.control_key && event.key == Key_Z) {
+        if (!event.repeated && !event.shift)
+            Undo();
+        return;
+    }
     if (event.control_key) {
         if (drag_.Nudge(event.key, event.shift))
             Hide_Balloon();

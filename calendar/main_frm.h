@@ -181,6 +181,8 @@ public:
     void Popup_Years(const Point *at = nullptr);
     /// Deletes the event of a day box.
     void Clear_Box(int index);
+    /// Takes the newest change of the events back.
+    void Undo();
 
     // Compact mode.
     /// Goes into compact mode, or out of it.

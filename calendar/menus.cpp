@@ -10,7 +10,7 @@ using platform::Menu_Item;
 
 namespace {
 
-enum Day_Item { clear_item = 1, edit_item, settings_item, exit_item };
+enum Day_Item { clear_item = 1, edit_item, settings_item, exit_item, undo_item };
 
 constexpr std::array<const char *, 12> month_items{"Jan", "Feb", "Mar", "Apr", "May", "Jun",
                                                    "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
@@ -22,13 +22,15 @@ void Main_Frm::Popup_Menu(int index, const Point *at) {
     if (!Box_Lbl[index].Visible())
         return;
     const Date date = Date_Of_Box(index);
-    const int chosen = platform::Track_Popup_Menu(
-        Model(),
-        {{clear_item, "Clear", Menu_Image::Clear},
-         {edit_item, "Edit", Menu_Image::Edit},
-         {settings_item, "Settings", Menu_Image::Settings, static_cast<bool>(Open_Settings)},
-         {exit_item, "Exit", Menu_Image::Exit}},
-        at);
+    std::vector<Menu_Item> items{
+        {clear_item, "Clear", Menu_Image::Clear},
+        {edit_item, "Edit", Menu_Image::Edit},
+        {settings_item, "Settings", Menu_Image::Settings, static_cast<bool>(Open_Settings)},
+        {exit_item, "Exit", Menu_Image::Exit}};
+    const std::string change(Events.Changes.Name());
+    if (!change.empty())
+        items.push_back({.id = undo_item, .text = "Undo: " + change, .apart = true});
+    const int chosen = platform::Track_Popup_Menu(Model(), items, at);
     // Another day may be in the box by now, which nobody meant. In compact mode it is still the same day.
     const bool same_day = Date_Of_Box(index) == date;
     if (chosen == clear_item && same_day)
@@ -39,6 +41,8 @@ void Main_Frm::Popup_Menu(int index, const Point *at) {
         Open_Settings();
     else if (chosen == exit_item)
         End_Program();
+    else if (chosen == undo_item && Events.Changes.Name() == change)
+        Undo();
 }
 
 void Main_Frm::Clear_Box(int index) {
@@ -47,6 +51,7 @@ void Main_Frm::Clear_Box(int index) {
     // A box that is empty because the reading broke off is no event that the user means.
     if (broken_off_ && Box_Lbl[index].Access().value.empty())
         return;
+    const Undo_Log::Change change(Events.Changes, Change_Of_Day("Clear", date));
     Events.Load_File();
     if (!Events.Check_For_Pre(Date_Key(date), "", false))
         return;
@@ -54,6 +59,18 @@ void Main_Frm::Clear_Box(int index) {
     Box_Caption_Lbl[index].Set_Tooltip({});
     Box_Lbl[index].Set_Tooltip({});
     Set_Event_Value(index, {});
+}
+
+void Main_Frm::Undo() {
+    // Compact mode shows no event, and lays the month out when it ends.
+    if (!Events.Undo() || Compacted)
+        return;
+    // The texts alone: a calendar that was dragged away stays there.
+    for (int i = 0; i < box_count; ++i) {
+        Box_Caption_Lbl[i].Set_Caption({});
+        Set_Event_Value(i, {});
+    }
+    Load_Dates();
 }
 
 void Main_Frm::Popup_Title_Menu(Point mouse) {

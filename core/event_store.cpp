@@ -5,6 +5,7 @@
 #include "core/date.h"
 #include "core/sequential.h"
 #include "platform/files.h"
+#include "platform/locale.h"
 #include "platform/message_box.h"
 
 #include <algorithm>
@@ -66,8 +67,32 @@ bool Part_Record(std::string_view record, Event_Record &parts) {
     return true;
 }
 
+std::string Change_Of_Day(std::string_view what, const Date &day) {
+    return Joined({what, " ", std::to_string(day.day), " ", platform::Month_Name(day.month)});
+}
+
 std::string Event_Store::Data_File() {
     return platform::Program_Folder() + "\\calendar.dat";
+}
+
+bool Event_Store::Undo() {
+    const std::string name(Changes.Name());
+    if (name.empty())
+        return false;
+    try {
+        if (!Changes.Undo()) {
+            platform::Message_Box(
+                Joined({"The data file was changed by something else since. This was not undone:\r\n\r\n",
+                        name}),
+                "Vellatro", platform::Box_Icon::Exclamation);
+            return false;
+        }
+    } catch (const std::exception &) {
+        return Refuse_Save();
+    }
+    // Where there is no file again, Load_File leaves this alone, and the next save must not bring it back.
+    Temp_Lst.clear();
+    return true;
 }
 
 bool Event_Store::Load_File() {

@@ -3,6 +3,8 @@
 #pragma once
 
 #include "base/callback.h"
+#include "core/date.h"
+#include "core/undo.h"
 
 #include <string>
 #include <string_view>
@@ -16,6 +18,9 @@ struct Event_Record {
 
 /// Parts a record; false when it has no "=".
 bool Part_Record(std::string_view record, Event_Record &parts);
+
+/// The name of a change to the event of a day: Clear 5 March.
+std::string Change_Of_Day(std::string_view what, const Date &day);
 
 /// What Get_Message found for a day.
 struct Stored_Message {
@@ -34,6 +39,15 @@ public:
 
     /// The path of calendar.dat.
     static std::string Data_File();
+
+    /// What the user has changed in the file since the program's start. Whoever changes it for the user has a
+    /// Change of this alive meanwhile.
+    Undo_Log Changes{Data_File()};
+
+    /// Takes the newest of the changes back. Returns whether the file is another one now; a file that
+    /// something else has changed since is not, which the user is told, and a failure shows "Error saving
+    /// data file.".
+    bool Undo();
 
     /// Fills Temp_Lst from the file, with the lines that are no records; without a file it stays as it is.
     /// Returns false when the file could not be read to its end, which shows "Error loading in data file.".

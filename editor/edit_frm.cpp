@@ -126,12 +126,7 @@ bool Edit_Frm::Apply_Btn_Click() {
         return false;
     }
     const std::string text = Message_Txt.Text();
-    calendar_.Events.Load_File();
-    // What the day had may not be here: it would go unseen, also when the file can be read by now.
-    const bool saved = unread_
-                           ? Event_Store::Refuse_Save()
-                           : calendar_.Events.Check_For_Pre(Date_Key(day_), text, Every_Year_Chk.Checked());
-    if (!saved) {
+    if (!Save(text)) {
         Apply_Btn.Set_Enabled(true);
         return false;
     }
@@ -140,6 +135,16 @@ bool Edit_Frm::Apply_Btn_Click() {
     calendar_.Alert_Done = true;
     Form_Unload();
     return true;
+}
+
+/// Stores the text for the day. False when that failed, which the user has been told.
+bool Edit_Frm::Save(const std::string &text) {
+    Event_Store &events = calendar_.Events;
+    const Undo_Log::Change change(events.Changes, Change_Of_Day("Edit", day_));
+    events.Load_File();
+    // What the day had may not be here: it would go unseen, also when the file can be read by now.
+    return unread_ ? Event_Store::Refuse_Save()
+                   : events.Check_For_Pre(Date_Key(day_), text, Every_Year_Chk.Checked());
 }
 
 void Edit_Frm::Ok_Btn_Click() {

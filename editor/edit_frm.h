@@ -44,6 +44,7 @@ public:
 
 private:
     bool May_Leave();
+    bool Save(const std::string &text);
     void Fill();
     void Form_Unload();
     void Stay();

@@ -192,6 +192,7 @@ void Events_Page::Events_Lst_DblClick() {
 /// it is still in both, which the user has been told.
 bool Events_Page::Remove_Event(std::size_t line) {
     Event_Store &events = calendar_.Events;
+    const Undo_Log::Change change(events.Changes, Change_Of_Day("Remove", Dates_Lst[line].date));
     if (!events.Load_File())
         return false;
     std::vector<Sort_Entry> rest = Dates_Lst;

@@ -14,6 +14,7 @@ enum Key : int {
     Key_Delete = 46,
     Key_M = 77,
     Key_Y = 89,
+    Key_Z = 90,
     Key_Menu = 93,
     Key_F1 = 112,
     Key_F2 = 113,

@@ -103,6 +103,7 @@ bool Importer::Ask_File(const char *title, const char *filter, bool not_own_file
 
 void Importer::Import_CSV() {
     std::optional<Backup> backup;
+    std::optional<Undo_Log::Change> change; // to its end or to the restored file
     std::vector<Sort_Entry> staged;
     bool listed = true; // nothing is to be listed before a file is chosen
     bool merging = false;
@@ -112,11 +113,13 @@ void Importer::Import_CSV() {
             return;
         Work.Begin();
         listed = false;
+        change.emplace(calendar_.Events.Changes, "Import");
         Read_Events(platform::Read_File(dialog_.FileName), staged);
         // Anew: a session that was about to end may have had a text stored since.
         backup.emplace(calendar_.Events.Temp_Lst);
         merging = true;
         Merge_Imported(staged);
+        change.reset();
         const std::size_t count = staged.size();
         listed = true;
         Show_Staged(std::move(staged));
@@ -132,6 +135,7 @@ void Importer::Import_CSV() {
                 backup->Restore(merging);
         } catch (const std::exception &) { // the copy stays, for whoever looks
         }
+        change.reset();
         if (!listed) { // the events before the error, beside the counts of the restored file
             for (Sort_Entry &event : staged)
                 event.key.clear(); // none is in the file
@@ -253,7 +257,10 @@ void Importer::Import_Data_File() {
         if (!Ask_File("Import Data File", "Data File (calendar.dat)|*.dat", true))
             return;
         if (May_Replace()) {
-            platform::Copy_File(dialog_.FileName, Event_Store::Data_File());
+            {
+                const Undo_Log::Change change(calendar_.Events.Changes, "Import");
+                platform::Copy_File(dialog_.FileName, Event_Store::Data_File());
+            }
             Data_File_Replaced();
         }
         calendar_.Redraw();
@@ -309,6 +316,7 @@ Join_Counts Importer::Join_Calendar(const std::string &bytes) {
         const Join_Counts counts = Join_Events(file, days, records);
         if (counts.imported > 0) {
             Backup_Data();
+            const Undo_Log::Change change(calendar_.Events.Changes, "Import");
             calendar_.Events.Write_Data_File();
         }
         return counts;

@@ -23,7 +23,17 @@ void Leave_Check_Column_Out(HMENU menu) {
     SetMenuInfo(menu, &info);
 }
 
-void Insert_Item(HMENU menu, UINT position, const Menu_Item &item) {
+void Append_Line(HMENU menu) {
+    MENUITEMINFOW info = {};
+    info.cbSize = sizeof info;
+    info.fMask = MIIM_FTYPE;
+    info.fType = MFT_SEPARATOR;
+    InsertMenuItemW(menu, static_cast<UINT>(GetMenuItemCount(menu)), TRUE, &info);
+}
+
+void Append_Item(HMENU menu, const Menu_Item &item) {
+    if (item.apart)
+        Append_Line(menu);
     std::wstring text = win32::To_Wide(item.text);
     MENUITEMINFOW info = {};
     info.cbSize = sizeof info;
@@ -32,7 +42,7 @@ void Insert_Item(HMENU menu, UINT position, const Menu_Item &item) {
     info.wID = static_cast<UINT>(item.id);
     info.dwTypeData = text.data();
     win32::Set_Menu_Image(info, item.image);
-    InsertMenuItemW(menu, position, TRUE, &info);
+    InsertMenuItemW(menu, static_cast<UINT>(GetMenuItemCount(menu)), TRUE, &info);
 }
 
 /// The press that opens a menu. While this exists, its release chooses nothing in the menu if it comes soon
@@ -88,9 +98,8 @@ int Track_Popup_Menu(const Form_Model &owner, const std::vector<Menu_Item> &item
     if (window == nullptr || !menu)
         return 0;
     Leave_Check_Column_Out(menu.get());
-    UINT position = 0;
     for (const Menu_Item &item : items)
-        Insert_Item(menu.get(), position++, item);
+        Append_Item(menu.get(), item);
     POINT place = {};
     GetCursorPos(&place);
     if (at != nullptr) {

@@ -13,7 +13,9 @@ protected:
         form.Open_Editor = [this](int index) { edited.push_back(index); };
     }
     void Choose(int day, int item, const std::function<void()> &meanwhile = nullptr) {
-        Desktop().expected_menus.push_back({day_menu, item, meanwhile});
+        const std::string undo(form.Events.Changes.Name());
+        Desktop().expected_menus.push_back(
+            {undo.empty() ? day_menu : day_menu + ("|-|Undo: " + undo), item, meanwhile});
         Click(form, Box_Of(day), platform::Mouse_Button::Right);
     }
     void Choose_On_Title(int right, const std::string &items, int item) {

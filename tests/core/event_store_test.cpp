@@ -2,6 +2,10 @@
 #include "core/event_store.h"
 #include "tests/fakes/fake_test.h"
 
+#include <algorithm>
+#include <cstdio>
+#include <optional>
+#include <random>
 #include <stdexcept>
 
 using Items = std::vector<std::string>;
@@ -142,6 +146,59 @@ TEST_F(Event_Store_Test, A_Note_Between_The_Records_Is_Told_And_Hides_None) {
     });
     EXPECT_EQ(outer, (Items{"5/3/2002=A", "6/3/2002=B"}));
     EXPECT_EQ(inner, (Items{"5/3/2002=changed meanwhile", "6/3/2002=B"}));
+}
+
+TEST_F(Event_Store_Test, Random_Changes_Are_Undone_Byte_For_Byte) {
+    const unsigned seed = std::random_device()();
+    std::printf("seed %u\n", seed);
+    std::mt19937 random(seed);
+    const auto upto = [&random](std::size_t count) { return static_cast<std::size_t>(random() % count); };
+    auto &files = Fakes().files;
+    const std::string path = Event_Store::Data_File();
+    for (const bool hand_written : {false, true}) {
+        store.Changes = Undo_Log(path);
+        files.erase(path);
+        if (hand_written)
+            File() = "\xEF\xBB\xBF 1/1/2002=it\"s \n\n\"2/1/2002=a\",5/3/2002\r\"3/1/2002=\x93\"  \n";
+        // The former files, of which the last ones can come back.
+        std::vector<std::optional<std::string>> former;
+        const auto now = [&]() -> std::optional<std::string> {
+            return files.contains(path) ? std::optional(File()) : std::nullopt;
+        };
+        std::size_t kept = 0;
+        const auto undo = [&] {
+            ASSERT_EQ(store.Undo(), kept > 0);
+            if (kept == 0)
+                return;
+            ASSERT_EQ(now(), former.back());
+            former.pop_back();
+            --kept;
+        };
+        for (int changes = 0; changes < 10'000 && !HasFatalFailure();) {
+            if (upto(2) == 0) {
+                undo();
+                continue;
+            }
+            ++changes;
+            former.push_back(now());
+            {
+                const Undo_Log::Change change(store.Changes, "Edit");
+                for (std::size_t writes = upto(3) + 1; writes > 0; --writes) {
+                    store.Load_File();
+                    store.Check_For_Pre(std::to_string(upto(9) + 1) + "/1/2002", std::string(upto(5), 'a'),
+                                        upto(4) == 0);
+                }
+                const Undo_Log::Change inner(store.Changes, "belongs to the other");
+            }
+            if (former.back() == now())
+                former.pop_back();
+            else
+                kept = std::min(kept + 1, Undo_Log::most_steps);
+        }
+        while (kept > 0 && !HasFatalFailure())
+            undo();
+        EXPECT_FALSE(store.Undo());
+    }
 }
 
 } // namespace

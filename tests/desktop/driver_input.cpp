@@ -161,7 +161,7 @@ HWND Program::Open_Settings() const {
         std::vector<Item> days;
         EXPECT_TRUE(Wait_Until([&] { return !(days = Items(ROLE_SYSTEM_CELL)).empty(); }));
         if (!days.empty() && Open_Menu(Middle(days[0].place)))
-            Choose({VK_UP, VK_UP, VK_RETURN});
+            Choose({VK_DOWN, VK_DOWN, VK_DOWN, VK_RETURN});
         Wait_Until([&] { return (dialog = Window("Vellatro_Settings_Frm")) != nullptr; });
     }
     EXPECT_TRUE(Wait_Until([&] { return dialog && dialog == GetForegroundWindow(); })) << "no settings";

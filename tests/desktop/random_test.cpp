@@ -94,7 +94,7 @@ protected:
             return;
         if (!settings)
             return Use_Menu();
-        for (const int key : {VK_UP, VK_UP, VK_RETURN})
+        for (const int key : {VK_DOWN, VK_DOWN, VK_DOWN, VK_RETURN})
             Post(static_cast<WPARAM>(key));
         Wait_Until([this] { return !Menu(); }, 500);
     }

@@ -117,7 +117,7 @@ TEST_F(Use, Every_Item_Of_The_Menus) {
     EXPECT_EQ(program.Named("Wednesday 5th May 2027").value, "");
     const std::pair<const char *, std::vector<WORD>> dialogs[] = {
         {"Vellatro_Edit_Frm", {VK_DOWN, VK_DOWN, VK_RETURN}},
-        {"Vellatro_Settings_Frm", {VK_UP, VK_UP, VK_RETURN}}};
+        {"Vellatro_Settings_Frm", {VK_DOWN, VK_DOWN, VK_DOWN, VK_RETURN}}};
     for (const auto &[dialog, picks] : dialogs) {
         open("Sunday 2nd May 2027");
         program.Choose(picks);
@@ -140,6 +140,10 @@ TEST_F(Use, Every_Item_Of_The_Menus) {
     }
     program.Double_Click(program.Title());
     ASSERT_TRUE(Becomes(31U, [&] { return Boxes(program); }));
+    open("Thursday 6th May 2027");
+    program.Choose({VK_UP, VK_RETURN}); // the last one: what "Clear" took comes back
+    EXPECT_TRUE(Becomes("\"5/5/2027=Cleared\"\r\n" + kept, [&] { return Data(); }));
+    EXPECT_TRUE(Becomes("Cleared", [&] { return program.Named("Wednesday 5th May 2027").value; }));
     open("Thursday 6th May 2027");
     program.Choose({VK_UP, VK_RETURN}); // the last one
     EXPECT_EQ(program.Exit_Code(), 0U);
