@@ -146,6 +146,9 @@ TEST_F(Calendar_Files, join_the_records_and_hide_none) {
     EXPECT_EQ(dialog->Events.Events_Lst.Items().size(), 8U);
     Import_Bytes(file, Imported(0, 8, 0));
     EXPECT_EQ(Records(), after);
+    Fakes().files.erase("C:\\Vellatro\\calendar.dat");
+    Import_Bytes(Calendar(Event("SUMMARY:Trip|DTSTART:20020401|")), Imported(1, 0, 0));
+    EXPECT_EQ(Records(), "1/4/2002=Trip|");
 }
 
 TEST_F(Calendar_Files, change_nothing_when_they_are_none) {
