@@ -12,21 +12,36 @@
 
 namespace {
 
-/// What stands between the separators of a text, one after the other.
+/// The texts that a text was joined from, one after the other, each with single blanks between its words: any
+/// "+" between blanks may have joined two. So a text is the same wherever it stands in a record, and however
+/// another program has stored its blanks, line ends and quotes.
 class Pieces {
 public:
     explicit Pieces(std::string_view text) : rest_(text) {}
-    bool Next(std::string_view &piece) {
+    bool Next(std::string &piece) {
         if (at_end_)
             return false;
-        const std::size_t end = std::min(rest_.find(joint), rest_.size());
-        piece = rest_.substr(0, end);
-        at_end_ = end == rest_.size();
-        rest_.remove_prefix(std::min(end + joint.size(), rest_.size()));
+        piece.clear();
+        for (;;) {
+            while (!rest_.empty() && Is_Blank(rest_.front()))
+                rest_.remove_prefix(1);
+            std::size_t end = 0;
+            while (end < rest_.size() && !Is_Blank(rest_[end]))
+                ++end;
+            const std::string_view word = rest_.substr(0, end);
+            rest_.remove_prefix(end);
+            at_end_ = word.empty();
+            if (at_end_ || word == "+")
+                break;
+            piece.append(piece.empty() ? "" : " ").append(word);
+        }
+        std::replace(piece.begin(), piece.end(), '"', '\'');
         return true;
     }
 
 private:
+    static bool Is_Blank(char c) { return static_cast<unsigned char>(c) <= ' ' || c == '\x7F'; }
+
     std::string_view rest_;
     bool at_end_ = false;
 };
@@ -35,29 +50,32 @@ std::string Yearly_Key(const Date &date) {
     return Date_Key({every_year, date.month, date.day});
 }
 
-/// The texts that stand on days. A text with separators of its own stands there when all of its pieces do.
+bool Is_Yearly(std::string_view key) {
+    return key.ends_with("/9999");
+}
+
+/// Day and month of a key, with the separators behind them.
+std::string Day_And_Month(std::string_view key) {
+    return std::string(key.substr(0, key.rfind('/') + 1));
+}
+
+/// The texts that stand on days. A text that was joined from others stands there when all of them do.
 class Day_Texts {
 public:
-    Day_Texts(const std::vector<std::string> &records, std::size_t more) {
-        known_.reserve(records.size() + more);
-        for (const std::string &record : records)
-            if (Event_Record parts; Part_Record(record, parts))
-                Add(parts.key, {}, parts.text);
-    }
-    /// False: it stands there already. What stands on the day of every year stands on that of each.
+    /// False: it stands on the day already.
+    bool Add(std::string_view key, std::string_view text) { return Add(key, {}, text); }
+    /// What stands on the day of every year stands on that of each.
     bool Add(const Date &date, std::string_view text) { return Add(Date_Key(date), Yearly_Key(date), text); }
-    bool Holds(std::string_view key, std::string_view piece) const {
-        return known_.contains(Joined({key, "=", piece}));
-    }
+    void Reserve(std::size_t texts) { known_.reserve(texts); }
 
 private:
     bool Add(std::string_view key, std::string_view every, std::string_view text) {
         bool any_new = false;
         Pieces pieces(text);
-        for (std::string_view piece; pieces.Next(piece);)
-            if (!any_yearly_ || !Holds(every, piece))
+        for (std::string piece; pieces.Next(piece);)
+            if (!any_yearly_ || !known_.contains(Joined({every, "=", piece})))
                 any_new = known_.insert(Joined({key, "=", piece})).second || any_new;
-        any_yearly_ = any_yearly_ || key.ends_with("/9999");
+        any_yearly_ = any_yearly_ || Is_Yearly(key);
         return any_new;
     }
 
@@ -65,43 +83,35 @@ private:
     bool any_yearly_ = false;
 };
 
-/// Day and month of a key, with the separators behind them.
-std::string_view Day_And_Month(std::string_view key) {
-    return key.substr(0, key.rfind('/') + 1);
-}
+/// What the records of every year took, by day and month.
+using Taken_Texts = std::unordered_map<std::string, std::vector<std::pair<Date, std::string>>>;
 
-/// Of a day's records the last one is shown, so one of every year from `first_new` on would hide those that
-/// have the day in one year. They get its text, and it goes before them.
-void Uncover_Days(std::vector<std::string> &records, std::size_t first_new, const Day_Texts &texts) {
-    std::unordered_map<std::string, std::size_t> yearly;
+/// Of a day's records the last one is shown. So a record of one day gets what the record of every year took
+/// for it, and a new one of every year, from `first_new` on, goes before all where it would hide such a
+/// record.
+void Uncover_Days(std::vector<std::string> &records, std::size_t first_new, const Taken_Texts &taken) {
+    std::unordered_set<std::string> of_both_kinds;
     Event_Record parts;
-    for (std::size_t i = first_new; i < records.size(); ++i)
-        if (Part_Record(records[i], parts) && Parse_Date_Key(parts.key).year == every_year)
-            yearly.emplace(Day_And_Month(parts.key), i);
-    if (yearly.empty())
-        return;
-    std::vector<bool> goes_first(records.size());
-    for (std::size_t i = 0; i < records.size(); ++i) {
-        if (!Part_Record(records[i], parts))
+    for (std::string &record : records) {
+        if (!Part_Record(record, parts) || Is_Yearly(parts.key))
             continue;
-        const auto found = yearly.find(std::string(Day_And_Month(parts.key)));
-        if (found == yearly.end() || found->second == i)
+        const auto found = taken.find(Day_And_Month(parts.key));
+        if (found == taken.end())
             continue;
-        goes_first[found->second] = true;
-        Event_Record every;
-        Part_Record(records[found->second], every);
-        Pieces pieces(every.text);
-        std::string missing;
-        for (std::string_view piece; pieces.Next(piece);)
-            if (!texts.Holds(parts.key, piece))
-                missing.append(joint).append(piece);
-        records[i] += missing;
+        of_both_kinds.insert(found->first);
+        const std::string key(parts.key);
+        Day_Texts own;
+        own.Add(key, parts.text);
+        for (const auto &[date, text] : found->second)
+            if ((date.year == every_year || Date_Key(date) == key) && own.Add(key, text))
+                record.append(joint).append(text);
     }
-    std::vector<std::string> first, others;
-    for (std::size_t i = 0; i < records.size(); ++i)
-        (goes_first[i] ? first : others).push_back(std::move(records[i]));
-    first.insert(first.end(), std::make_move_iterator(others.begin()), std::make_move_iterator(others.end()));
-    records.swap(first);
+    const auto old_end = records.begin() + static_cast<std::ptrdiff_t>(first_new);
+    const auto hiding_end = std::stable_partition(old_end, records.end(), [&](const std::string &record) {
+        return Part_Record(record, parts) && Is_Yearly(parts.key) &&
+               of_both_kinds.contains(Day_And_Month(parts.key));
+    });
+    std::rotate(records.begin(), old_end, hiding_end);
 }
 
 } // namespace
@@ -110,7 +120,13 @@ Join_Counts Join_Events(const Calendar_File &file, const Event_Days &days,
                         std::vector<std::string> &records) {
     const std::size_t first_new = records.size();
     Record_Merger merger(records);
-    Day_Texts texts(records, days.days.size());
+    Day_Texts texts;
+    texts.Reserve(records.size() + days.days.size());
+    Event_Record parts;
+    for (const std::string &record : records)
+        if (Part_Record(record, parts))
+            texts.Add(parts.key, parts.text);
+    Taken_Texts taken;
     Join_Counts counts;
     counts.not_understood = days.not_understood;
     auto day = days.days.begin();
@@ -121,11 +137,12 @@ Join_Counts Join_Events(const Calendar_File &file, const Event_Days &days,
             const std::string text = Text_On(*day, file.events[i]);
             if (!texts.Add(day->date, text))
                 continue;
-            merger.Merge(day->date, text);
+            if (const std::string key = merger.Merge(day->date, text).key; Is_Yearly(key))
+                taken[Day_And_Month(key)].emplace_back(day->date, text);
             joined = true;
         }
         ++(joined ? counts.imported : has_days ? counts.already_there : counts.passed_over);
     }
-    Uncover_Days(records, first_new, texts);
+    Uncover_Days(records, first_new, taken);
     return counts;
 }

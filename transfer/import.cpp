@@ -313,6 +313,8 @@ Join_Counts Importer::Join_Calendar(const std::string &bytes) {
     std::vector<std::string> &records = calendar_.Events.Temp_Lst;
     std::vector<std::string> before = records;
     try {
+        if (!platform::File_Exists(Event_Store::Data_File()))
+            records.clear(); // those of a file that somebody has deleted are not there already
         const Join_Counts counts = Join_Events(file, days, records);
         if (counts.imported > 0) {
             Backup_Data();

@@ -127,17 +127,28 @@ TEST_F(Calendar_Files, give_their_events_to_the_days) {
 
 TEST_F(Calendar_Files, join_the_records_and_hide_none) {
     const std::string before =
-        Lines("\"1/4/9999=Fools\"|\"5/3/2002=Old\"|\"6/3/2002=A + B\"|\"25/12/2002=Pay\"|");
+        Lines("\"1/4/9999=Fools\"|\"5/3/2002=Old \"|\"6/3/2002=A + B\"|\"25/12/2002=Pay\"|"
+              "\"7/3/9999=Y\"|\"7/3/2002=Z\"|\"7/3/2003=X\"|");
+    const std::string yearly = "RRULE:FREQ=YEARLY|";
+    const std::string file =
+        Calendar(Event("SUMMARY:New +|DTSTART:20020305|") + Event("SUMMARY:+ Mid|DTSTART:20020305|") +
+                 Event("SUMMARY:B  + A|DTSTART:20020306|") + Event("SUMMARY:Last|DTSTART:20020305|")) +
+        Calendar(Event("SUMMARY:Trip|DTSTART:20020401|") + Event("SUMMARY:Xmas|DTSTART:20001225|" + yearly) +
+                 Event("SUMMARY:1|DTSTART:20020307|") + Event("SUMMARY:2|DTSTART:20000307|" + yearly));
     Data_File() = before;
-    Import_Bytes(Calendar(Event("SUMMARY:New|DTSTART:20020305|") + Event("SUMMARY:B + A|DTSTART:20020306|")) +
-                     Calendar(Event("SUMMARY:Trip|DTSTART:20020401|") +
-                              Event("SUMMARY:Xmas|DTSTART:20001225|RRULE:FREQ=YEARLY|")),
-                 Imported(3, 1, 0));
-    EXPECT_EQ(Records(), "25/12/9999=Xmas|1/4/9999=Fools + Trip|5/3/2002=Old + New|6/3/2002=A + B|"
-                         "25/12/2002=Pay + Xmas|");
+    Import_Bytes(file, Imported(7, 1, 0));
+    const std::string after = "25/12/9999=Xmas|1/4/9999=Fools + Trip|5/3/2002=Old  + New + + + Mid + Last|"
+                              "6/3/2002=A + B|25/12/2002=Pay + Xmas|7/3/9999=Y + 1 + 2|7/3/2002=Z + 1 + 2|"
+                              "7/3/2003=X + 2|";
+    EXPECT_EQ(Records(), after);
     EXPECT_EQ(Backup(), before);
-    EXPECT_EQ(Text_Of(5), "Old + New");
-    EXPECT_EQ(dialog->Events.Events_Lst.Items().size(), 5U);
+    EXPECT_EQ(Text_Of(7), "Z + 1 + 2");
+    EXPECT_EQ(dialog->Events.Events_Lst.Items().size(), 8U);
+    Import_Bytes(file, Imported(0, 8, 0));
+    EXPECT_EQ(Records(), after);
+    Fakes().files.erase("C:\\Vellatro\\calendar.dat");
+    Import_Bytes(Calendar(Event("SUMMARY:Trip|DTSTART:20020401|")), Imported(1, 0, 0));
+    EXPECT_EQ(Records(), "1/4/2002=Trip|");
 }
 
 TEST_F(Calendar_Files, change_nothing_when_they_are_none) {
