@@ -177,6 +177,8 @@ inline int Answers::Answer_Menu(const std::vector<platform::Menu_Item> &items) {
     const platform::Menu_Item &item = items[static_cast<std::size_t>(chosen - 1)];
     if (item.text == "Exit" && in_.Pick(3) != 0)
         return 0;
+    if (item.text.starts_with("Undo")) // the model has no way back
+        return 0;
     Tell("   menu: " + item.text);
     if (!item.enabled)
         return 0;

@@ -216,8 +216,9 @@ inline void Oracle::Check_Store() {
         const std::string from = before == store_.end() ? "nothing" : Joined({"\"", before->second, "\""});
         const std::string change = Joined({key, " has changed from ", from, " to \"", text, "\""});
         Demand(may(key), "the store's key " + change);
+        // A place by the arrow keys is kept when Ctrl comes up, which a menu can put off.
         const bool same = before == store_.end() || touched_ || refused_ || !dialog_ || configures_ ||
-                          !(key.starts_with(general) || key.starts_with(colours));
+                          places_ || !(key.starts_with(general) || key.starts_with(colours));
         const bool one_value = key == general + "Bar Time"; // 1 and True
         Demand(same || one_value || key == general + "Settings Tab" || key == general + "Use Themes",
                "a dialog in which nothing was chosen: " + change);
