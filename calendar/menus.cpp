@@ -29,7 +29,7 @@ void Main_Frm::Popup_Menu(int index, const Point *at) {
         {exit_item, "Exit", Menu_Image::Exit}};
     const std::string change(Events.Changes.Name());
     if (!change.empty())
-        items.push_back({.id = undo_item, .text = "Undo: " + change, .apart = true});
+        items.push_back({undo_item, "Undo: " + change, Menu_Image::Undo, true, true});
     const int chosen = platform::Track_Popup_Menu(Model(), items, at);
     // Another day may be in the box by now, which nobody meant. In compact mode it is still the same day.
     const bool same_day = Date_Of_Box(index) == date;

@@ -9,7 +9,7 @@
 namespace platform {
 
 /// The small pictures that menu items can bear; drawn by the platform at the size the screen wants.
-enum class Menu_Image : std::uint8_t { None, Clear, Edit, Settings, Exit };
+enum class Menu_Image : std::uint8_t { None, Clear, Edit, Settings, Exit, Undo };
 
 struct Menu_Item {
     int id = 0; ///< 1 or more

@@ -103,6 +103,24 @@ void Draw_Exit(const Field &field) {
     field.Fill({{5.4, 7}, {10.4, 7}, {10.4, 4.4}, {14.6, 8}, {10.4, 11.6}, {10.4, 9}, {5.4, 9}}, violet);
 }
 
+/// An arrow that turns back to the left.
+void Draw_Undo(const Field &field) {
+    constexpr int bend_corners = 12;
+    Corners band{{6, 4.8}};
+    const auto bend = [&band](double radius, int direction) {
+        for (int i = -bend_corners; i <= bend_corners; ++i) {
+            const double angle = direction * i * std::numbers::pi / (2 * bend_corners);
+            band.push_back({9.5 + radius * std::cos(angle), 9 + radius * std::sin(angle)});
+        }
+    };
+    bend(4.2, 1);
+    band.insert(band.end(), {{7, 13.2}, {7, 10.8}});
+    bend(1.8, -1);
+    band.push_back({6, 7.2});
+    field.Fill(band, violet);
+    field.Fill({{1.5, 6}, {6, 1.8}, {6, 10.2}}, blue);
+}
+
 void Draw(const Field &field, Menu_Image image) {
     if (image == Menu_Image::Clear)
         Draw_Clear(field);
@@ -110,6 +128,8 @@ void Draw(const Field &field, Menu_Image image) {
         Draw_Edit(field);
     else if (image == Menu_Image::Settings)
         Draw_Settings(field);
+    else if (image == Menu_Image::Undo)
+        Draw_Undo(field);
     else
         Draw_Exit(field);
 }
