@@ -60,13 +60,13 @@ void Main_Frm::Preview_Wallpaper_Stuff(const std::string &pack, std::int16_t mon
         return;
     // What this month does not have is the user's own, and not that of the month or pack before. A bad number
     // keeps nothing else of the pack away, and is told last.
-    std::optional<Conversion_Error> fault;
+    std::string fault;
     const auto number = [&](const std::string &text, const char *what) -> std::optional<std::int16_t> {
         try {
             return Theme_Number(text, what, pack, month);
         } catch (const Conversion_Error &error) {
-            if (!fault)
-                fault = error;
+            if (fault.empty())
+                fault = error.what();
             return std::nullopt;
         }
     };
@@ -88,8 +88,8 @@ void Main_Frm::Preview_Wallpaper_Stuff(const std::string &pack, std::int16_t mon
                                                  ? shown.Other_Display_Mode
                                                  : number(Get_Paper_DisplayMode(details), "display mode");
     Set_Display_Mode_Wallpaper(path, mode.value_or(stretched));
-    if (fault)
-        throw *fault;
+    if (!fault.empty())
+        throw Conversion_Error(fault);
 }
 
 // As long as no pack has told its own, the user's choice is the nearest.

@@ -16,6 +16,6 @@ bool Mouse_Is_Taken();
 void Hear_Waiting();
 
 /// Calls what the timer is to call.
-void Tick(UINT_PTR timer);
+void Tick(UINT_PTR id);
 
 } // namespace win32

@@ -40,7 +40,7 @@ inline std::unique_ptr<const Picture> Bare_Screen;
 
 // What a hand does, wherever the mouse and the keyboard are.
 POINT Middle(const RECT &place);
-void Send_Mouse(POINT point, DWORD flags);      ///< MOUSEEVENTF_LEFTDOWN and its like; 0: moves only
+void Send_Mouse(POINT point, DWORD flags); ///< MOUSEEVENTF_LEFTDOWN and its like; 0: moves only
 /// The same for several steps at one moment, however busy the machine is.
 void Send_Mouse(const std::vector<std::pair<POINT, DWORD>> &steps);
 void Send_Key(WORD key, bool with_alt = false); ///< down and up
