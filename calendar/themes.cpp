@@ -16,18 +16,6 @@ namespace {
 
 constexpr std::int16_t stretched = 2; ///< display mode
 
-/// A part of a month's value text as a number. Throws Conversion_Error that says where it stands.
-std::int16_t Theme_Number(const std::string &text, const char *what, const std::string &pack,
-                          std::int16_t month) {
-    try {
-        return To_Int16(text);
-    } catch (const Conversion_Error &expected) {
-        throw Conversion_Error(Joined({"In ", Pack_File(pack, "settings.ini"), " the ", what, " of month ",
-                                       std::to_string(month), " is \"", Shortened(text), "\", but must be ",
-                                       expected.what(), "."}));
-    }
-}
-
 } // namespace
 
 std::string Main_Frm::Get_Paper_Details(std::int16_t month, const std::string &pack) {
@@ -63,10 +51,12 @@ void Main_Frm::Preview_Wallpaper_Stuff(const std::string &pack, std::int16_t mon
     std::string fault;
     const auto number = [&](const std::string &text, const char *what) -> std::optional<std::int16_t> {
         try {
-            return Theme_Number(text, what, pack, month);
-        } catch (const Conversion_Error &error) {
+            return To_Int16(text);
+        } catch (const Conversion_Error &expected) {
             if (fault.empty())
-                fault = error.what();
+                fault = Joined({"In ", Pack_File(pack, "settings.ini"), " the ", what, " of month ",
+                                std::to_string(month), " is \"", Shortened(text), "\", but must be ",
+                                expected.what(), "."});
             return std::nullopt;
         }
     };
