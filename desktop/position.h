@@ -1,28 +1,36 @@
-// Where the calendar stands: the ten position codes and the work area they refer to. Pure arithmetic; moving
+// Where the calendar stands: the table of positions and the work area they refer to. Pure arithmetic; moving
 // the window is not here.
 #pragma once
 
 #include "base/geometry.h"
 
+#include <algorithm>
 #include <cstdint>
+#include <iterator>
 #include <optional>
 
-/// The position codes as they are kept in the settings and in theme packs.
-enum class Position_Code : std::int16_t {
-    Bottom_Right = 0,
-    Bottom_Center = 1,
-    Bottom_Left = 2,
-    Center_Screen = 3,
-    Top_Right = 4,
-    Top_Center = 5,
-    Top_Left = 6,
-    Manual = 7,
-    Center_Right = 8,
-    Center_Left = 9,
+/// A way to place the calendar: its name, and in hundredths of the room that it leaves free in the work area,
+/// how much of that is left of it and above it.
+struct Position {
+    const char *name;
+    int left;
+    int above;
 };
 
-/// The one that is no place on the screen, as settings and packs hold it.
-constexpr auto Manual_Position = static_cast<std::int16_t>(Position_Code::Manual);
+/// The `left` and `above` of the one that the user gives by coordinates.
+constexpr int by_hand = -1;
+
+/// In the order of the codes that the settings and theme packs hold.
+inline constexpr Position Positions[] = {
+    {"Bottom Right", 100, 100}, {"Bottom Center", 50, 100},   {"Bottom Left", 0, 100},
+    {"Center Screen", 50, 50},  {"Top Right", 100, 0},        {"Top Center", 50, 0},
+    {"Top Left", 0, 0},         {"Manual", by_hand, by_hand}, {"Center Right", 100, 50},
+    {"Center Left", 0, 50},
+};
+
+/// The code of the one that is no place on the screen.
+constexpr auto Manual_Position =
+    static_cast<std::int16_t>(std::ranges::find(Positions, by_hand, &Position::left) - std::begin(Positions));
 
 /// What a placement depends on, in twips.
 struct Placement {
@@ -33,7 +41,14 @@ struct Placement {
 };
 
 /// Returns whether a number is a position code.
-bool Is_Position(std::int16_t code);
+constexpr bool Is_Position(std::int16_t code) {
+    return code >= 0 && code < static_cast<std::int16_t>(std::size(Positions));
+}
+
+/// Returns whether a number is the code of a place on the screen.
+constexpr bool Is_Place(std::int16_t code) {
+    return Is_Position(code) && code != Manual_Position;
+}
 
 /// The window's left top corner for a position code, nothing for a number that is no code. Throws
 /// Conversion_Error (core/convert.h) when a figure leaves 32 bits.

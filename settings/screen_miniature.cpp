@@ -10,13 +10,13 @@
 #include "toolkit/units.h"
 
 #include <algorithm>
+#include <limits>
 
 using layout::one_pixel;
 using platform::Canvas;
 
 namespace {
 
-constexpr int cells = 3;      ///< of the work area, in each direction
 constexpr int fifth_row = 28; ///< its first box, and that of the sixth: the lowest row of the month
 constexpr int sixth_row = 35;
 
@@ -64,12 +64,30 @@ Rect Screen_Miniature::Small(const Rect &pixels, Size size) const {
     return {left, top, across(pixels.Right()) - left, down(pixels.Bottom()) - top};
 }
 
-Rect Screen_Miniature::Cell(int column, int row, Size size) const {
+Point Screen_Miniature::Mark(std::int16_t place, Size size) const {
     const Rect work = Small(work_area_, size);
-    const int left = work.left + work.width * column / cells;
-    const int top = work.top + work.height * row / cells;
-    return {left, top, work.left + work.width * (column + 1) / cells - left,
-            work.top + work.height * (row + 1) / cells - top};
+    // The outer ones stand as far from the edges as half of the way to the middle ones.
+    const auto along = [](int length, int hundredths) { return length * (hundredths + 25) / 150; };
+    return {work.left + along(work.width, Positions[place].left),
+            work.top + along(work.height, Positions[place].above)};
+}
+
+std::int16_t Screen_Miniature::Nearest_Place(Point to, Size size, Point step) const {
+    std::int16_t nearest = -1;
+    auto least = std::numeric_limits<std::int64_t>::max();
+    for (std::int16_t place = 0; Is_Position(place); ++place) {
+        if (!Is_Place(place))
+            continue;
+        const Point mark = Mark(place, size);
+        const std::int64_t across = mark.x - to.x;
+        const std::int64_t down = mark.y - to.y;
+        const std::int64_t distance = across * across + down * down;
+        if (distance >= least || (step != Point{} && across * step.x + down * step.y <= 0))
+            continue;
+        least = distance;
+        nearest = place;
+    }
+    return nearest;
 }
 
 void Screen_Miniature::Paint(Canvas &canvas, const Picture &wallpaper, Size size) const {

@@ -23,8 +23,12 @@ public:
     /// it where it is.
     void Place_Calendar(std::int16_t style, std::int16_t position);
 
-    /// One of the three times three parts of the work area, on a miniature of `size`.
-    Rect Cell(int column, int row, Size size) const;
+    /// The middle of the mark for a place (desktop/position.h), on a miniature of `size`.
+    Point Mark(std::int16_t place, Size size) const;
+
+    /// The code of the place with the mark nearest to a point; with a `step`, of those only that lie in its
+    /// direction. -1: there is none.
+    std::int16_t Nearest_Place(Point to, Size size, Point step = {}) const;
 
     /// Draws the screen with `wallpaper` stretched over it (none: the desktop's colour), the task bar and the
     /// calendar into a miniature of `size`.

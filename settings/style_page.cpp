@@ -9,7 +9,6 @@
 #include "toolkit/keys.h"
 #include "toolkit/units.h"
 
-#include <algorithm>
 #include <string>
 
 using namespace layout;
@@ -23,22 +22,9 @@ constexpr int hint_lines = 4;
 constexpr int manual_lines = 5;
 constexpr int option_mark = 18 * 15; ///< before the caption
 constexpr int marker_size = 7 * 15;
-constexpr int last_cell = 2;
 
 constexpr const char *place_hint = "Click a place on the screen, or choose it with the arrow keys.";
 constexpr const char *theme_hint = "The theme pack decides; see Wallpaper.";
-
-/// The position codes as they lie on the screen.
-constexpr std::int16_t places[last_cell + 1][last_cell + 1] = {{6, 5, 4}, {9, 3, 8}, {2, 1, 0}};
-
-/// Column and row of a code.
-Point Cell_Of(std::int16_t code) {
-    for (int row = 0; row <= last_cell; ++row)
-        for (int column = 0; column <= last_cell; ++column)
-            if (places[row][column] == code)
-                return {column, row};
-    return {-1, -1};
-}
 
 Size Size_Of(const Control &control) {
     return {control.Width(), control.Height()};
@@ -68,7 +54,7 @@ Style_Page::Style_Page(Form &dialog, Frame &frame, Main_Frm &calendar)
     Pos_Preview_Img.On_Paint = [this](platform::Canvas &canvas) { Paint_Miniature(canvas); };
     Pos_Preview_Img.On_Mouse_Down = [this](Mouse_Button button, Point at) {
         if (button == Mouse_Button::Left)
-            Click_At(at);
+            Choose_Position(Screen_Miniature(calendar_).Nearest_Place(at, Size_Of(Pos_Preview_Img)));
     };
     Pos_Preview_Img.On_Key_Down = [this](const platform::Input_Event &event) { Key_Over_Miniature(event); };
     Style_Theme_Lbl.Set_Visible(false);
@@ -93,7 +79,7 @@ void Style_Page::Load_Settings() {
     // The calendar shows every number but 0 as the square box.
     (Cur_Settings.Style == 0 ? Style1_Opt : Style2_Opt).Set_Checked(true);
     (Cur_Settings.Alignment == Manual_Position ? Pos_Manual_Opt : Pos_Set_Opt).Set_Checked(true);
-    set_position_ = Cell_Of(Cur_Settings.Alignment).x == -1 ? std::int16_t{0} : Cur_Settings.Alignment;
+    set_position_ = Is_Place(Cur_Settings.Alignment) ? Cur_Settings.Alignment : std::int16_t{0};
     const auto pixels = [](int twips) { return std::to_string(Twips_To_Pixels(twips)) + " pixels\n"; };
     Manual_Lbl.Set_Caption("X: " + pixels(Cur_Settings.Manual_PosX) +
                            "Y: " + pixels(Cur_Settings.Manual_PosY) + "Drag the calendar by its title.");
@@ -121,41 +107,23 @@ void Style_Page::Choose_Style(Option_Button &option) {
     Style_Preview();
 }
 
-void Style_Page::Choose_Position(int column, int row) {
+void Style_Page::Choose_Position(std::int16_t place) {
     if (!Pos_Set_Opt.Enabled())
         return;
-    set_position_ = places[std::clamp(row, 0, last_cell)][std::clamp(column, 0, last_cell)];
+    set_position_ = place;
     Pos_Set_Opt.Set_Checked(true);
     Show_Position();
 }
 
-void Style_Page::Click_At(Point at) {
-    const Screen_Miniature miniature(calendar_);
-    const Rect middle = miniature.Cell(1, 1, Size_Of(Pos_Preview_Img));
-    // What is outside the work area belongs to the nearest place.
-    const auto part = [](int where, int begin, int end) { return where < begin ? 0 : where < end ? 1 : 2; };
-    Choose_Position(part(at.x, middle.left, middle.Right()), part(at.y, middle.top, middle.Bottom()));
-}
-
 void Style_Page::Key_Over_Miniature(const platform::Input_Event &event) {
-    Point cell = Cell_Of(set_position_);
-    switch (event.key) {
-    case Key_Left:
-        --cell.x;
-        break;
-    case Key_Right:
-        ++cell.x;
-        break;
-    case Key_Up:
-        --cell.y;
-        break;
-    case Key_Down:
-        ++cell.y;
-        break;
-    default:
+    const Point step{(event.key == Key_Right) - (event.key == Key_Left),
+                     (event.key == Key_Down) - (event.key == Key_Up)};
+    if (step == Point{})
         return;
-    }
-    Choose_Position(cell.x, cell.y);
+    const Screen_Miniature miniature(calendar_);
+    const Size size = Size_Of(Pos_Preview_Img);
+    const std::int16_t place = miniature.Nearest_Place(miniature.Mark(set_position_, size), size, step);
+    Choose_Position(Is_Place(place) ? place : set_position_);
 }
 
 std::int16_t Style_Page::Chosen_Style() const {
@@ -195,7 +163,7 @@ void Style_Page::Preview_Position() {
 
 void Style_Page::Position_Boxes() {
     const std::int16_t code = Shown_Position();
-    const std::string name = code == Manual_Position ? "Manual" : Position_Name(code);
+    const std::string name = Is_Position(code) ? Positions[code].name : "";
     Position_Lbl.Set_Caption(name);
     Pos_Preview_Img.Set_Access(
         {platform::Access_Role::Button, false, "Position on the screen, " + name, {}, {}});
@@ -206,19 +174,15 @@ void Style_Page::Paint_Miniature(platform::Canvas &canvas) {
     Screen_Miniature miniature(calendar_);
     miniature.Place_Calendar(Shown_Style(), Shown_Position());
     miniature.Paint(canvas, theme_.picture, size);
-    const Point chosen = Cell_Of(Shown_Position());
-    for (int row = 0; row <= last_cell; ++row) {
-        for (int column = 0; column <= last_cell; ++column) {
-            const bool marked = chosen == Point{column, row};
-            if (theme_.rules_position && !marked)
-                continue; // not to be chosen now
-            const Rect cell = miniature.Cell(column, row, size);
-            const int side = marked ? marker_size + 4 * one_pixel : marker_size;
-            const Rect marker{Snap(cell.left + (cell.width - side) / 2),
-                              Snap(cell.top + (cell.height - side) / 2), side, side};
-            platform::Fill_Rect(canvas, marker, marked ? System_Colour(13) : Rgb(255, 255, 255));
-            platform::Frame_Rect(canvas, marker, Rgb(64, 64, 64), one_pixel);
-        }
+    for (std::int16_t place = 0; Is_Position(place); ++place) {
+        const bool marked = place == Shown_Position();
+        if (!Is_Place(place) || (theme_.rules_position && !marked))
+            continue; // not to be chosen now
+        const Point middle = miniature.Mark(place, size);
+        const int side = marked ? marker_size + 4 * one_pixel : marker_size;
+        const Rect marker{Snap(middle.x - side / 2), Snap(middle.y - side / 2), side, side};
+        platform::Fill_Rect(canvas, marker, marked ? System_Colour(13) : Rgb(255, 255, 255));
+        platform::Frame_Rect(canvas, marker, Rgb(64, 64, 64), one_pixel);
     }
 }
 

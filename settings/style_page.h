@@ -30,7 +30,7 @@ public:
     /// Places the controls, also after a change of the dots per inch.
     void Lay_Out();
 
-    /// The code of the chosen place: 0 to 6, 8 or 9.
+    /// The code of the chosen place.
     std::int16_t Get_Set_Position() const { return set_position_; }
 
     // As the settings hold the choices.
@@ -40,7 +40,7 @@ public:
     // These keep the previews true to the choices.
     void Style_Preview();
     void Preview_Position();
-    /// Names the chosen place, which Preview_Position marks among nine on the miniature.
+    /// Names the chosen place, which Preview_Position marks on the miniature.
     void Position_Boxes();
 
     Frame Style_Fra;
@@ -64,8 +64,7 @@ public:
 private:
     void Wire_Examples();
     void Choose_Style(Option_Button &option);
-    void Choose_Position(int column, int row);
-    void Click_At(Point at);
+    void Choose_Position(std::int16_t place);
     void Key_Over_Miniature(const platform::Input_Event &event);
     void Paint_Miniature(platform::Canvas &canvas);
     void Show_Position();

@@ -1,5 +1,4 @@
-// The names under which the pages show display modes, box styles and positions. What the numbers do is not
-// here.
+// The names under which the pages show display modes and box styles. What the numbers do is not here.
 #pragma once
 
 #include <array>
@@ -24,12 +23,4 @@ constexpr const char *Display_Mode_Name(std::int16_t mode) {
 /// Of a box style; empty for a number that is none.
 constexpr const char *Box_Style_Name(std::int16_t style) {
     return theme_names::Name_In(std::array{"Thin Box", "Square Box"}, style);
-}
-
-/// Of a position code; empty for a number that is none, and for the manual position, which is no place.
-constexpr const char *Position_Name(std::int16_t code) {
-    return theme_names::Name_In(std::array{"Bottom Right", "Bottom Center", "Bottom Left", "Center Screen",
-                                           "Top Right", "Top Center", "Top Left", "", "Center Right",
-                                           "Center Left"},
-                                code);
 }

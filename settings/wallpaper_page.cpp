@@ -231,7 +231,8 @@ void Wallpaper_Page::Get_Theme_Style() {
 }
 
 void Wallpaper_Page::Get_Theme_Pos() {
-    Theme_Pos_Lbl.Set_Caption("Position:" + Named(Position_Name, Get_Paper_Pos(details_)));
+    const auto name = [](std::int16_t code) { return Is_Place(code) ? Positions[code].name : ""; };
+    Theme_Pos_Lbl.Set_Caption("Position:" + Named(name, Get_Paper_Pos(details_)));
 }
 
 /// After the user was told that the pack cannot be read. Its entry goes, if it is not there any more.

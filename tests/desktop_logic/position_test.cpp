@@ -1,4 +1,4 @@
-// The ten position codes.
+// The positions.
 #include "core/convert.h"
 #include "desktop/position.h"
 #include "tests/fakes/form_test.h"
@@ -9,7 +9,8 @@ class Position : public Form_Test {};
 
 TEST_F(Position, unknown_codes_and_odd_sizes) {
     Placement placement{{300, 450, 15001, 11001}, {15004, 6000}, 5000, {-20, 32767}};
-    for (const std::int16_t code : std::initializer_list<std::int16_t>{-1, 10, 32767})
+    for (const std::int16_t code :
+         {std::int16_t{-1}, static_cast<std::int16_t>(std::size(Positions)), std::int16_t{32767}})
         EXPECT_EQ(Position_Of(code, placement), std::nullopt);
     // A window larger than the work area: half of what is missing, its fraction dropped.
     EXPECT_EQ(Position_Of(1, placement)->x, 299);
@@ -38,7 +39,7 @@ TEST_F(Position, stands_beside_the_task_bar_at_any_dots_per_inch) {
         Desktop().dots_per_inch = row.dots;
         Desktop().work_area = row.work_area;
         const Placement placement{GetDesktopRect(true), {10350, 7845}, 7500, {-15, -30}};
-        for (std::int16_t code = 0; code < 10; ++code) {
+        for (std::int16_t code = 0; code < std::ssize(across); ++code) {
             const Point expected =
                 code == 7 ? Point{-15, -30} : Point{row.x[across[code]], row.y[down[code]]};
             EXPECT_EQ(Position_Of(code, placement), expected) << &row - rows << ", code " << code;

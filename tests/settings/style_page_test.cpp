@@ -1,6 +1,6 @@
 // The page of style and position: its choices, and the miniature that shows them.
+#include "desktop/position.h"
 #include "settings/style_page.h"
-#include "settings/theme_names.h"
 #include "tests/calendar/calendar_test.h"
 #include "toolkit/keys.h"
 
@@ -44,7 +44,7 @@ TEST_F(Style, nine_places_are_chosen_by_mouse_and_keyboard) {
                .button = platform::Mouse_Button::Left},
               &page.Pos_Preview_Img);
         EXPECT_TRUE(page.Get_Set_Position() == codes[i] && page.Pos_Set_Opt.Checked());
-        EXPECT_EQ(page.Position_Lbl.Caption(), Position_Name(codes[i]));
+        EXPECT_EQ(page.Position_Lbl.Caption(), Positions[codes[i]].name);
     }
     for (const int key : {Key_Left, Key_Up, Key_Up, Key_Up, Key_Left, Key_Down})
         Use_Key(key);
