@@ -1,6 +1,6 @@
 // The two box styles on the calendar, and the fitting of event texts into the boxes. The measures of the
 // styles are in box_layout.h.
-#include "base/characters.h"
+#include "base/cut_text.h"
 #include "calendar/box_layout.h"
 #include "calendar/main_frm.h"
 #include "platform/drawing.h"
@@ -14,21 +14,8 @@ namespace {
 /// No box shows more of a text than this, in bytes, so that a text of any length costs the same.
 constexpr std::size_t longest_shown = 1024;
 
-constexpr std::string_view more_sign = "...";
-
 void Place(Label &label, const Rect &pixels) {
     label.Move(Pixels_To_Twips(pixels));
-}
-
-/// Length of the longest beginning of `text` that ends with a whole character and has at most `limit` bytes.
-std::size_t Whole_Prefix(std::string_view text, std::size_t limit) {
-    // Steps back from behind the limit: the limit itself may lie inside a character, which from there cannot
-    // be told.
-    constexpr std::size_t run_up = 16;
-    std::size_t end = std::min(text.size(), limit + run_up);
-    while (end > limit)
-        end = Previous_Character(text, end);
-    return end;
 }
 
 /// The beginning of an event text as the boxes show it: runs of blanks, tabs, line breaks and other control
@@ -52,7 +39,7 @@ std::string Blanks_Made_One(std::string_view text, bool &more) {
         shown += c;
     }
     if (shown.size() > longest_shown) {
-        shown.resize(Whole_Prefix(shown, longest_shown));
+        shown.resize(Whole_Characters(shown, longest_shown));
         more = true;
     }
     return shown;
@@ -66,7 +53,7 @@ bool Fits(const Label &label, std::string_view text) {
 /// spares Get_Line steps.
 std::string_view Measurable(const Label &label, std::string_view text) {
     while (text.size() > 1) {
-        const std::size_t half = Whole_Prefix(text, text.size() / 2);
+        const std::size_t half = Whole_Characters(text, text.size() / 2);
         if (half == 0 || Fits(label, text.substr(0, half)))
             break;
         text = text.substr(0, half);
@@ -106,7 +93,7 @@ void Main_Frm::DDD_Style(std::int16_t style) {
         Dress_Text(Box_Caption_Lbl[i]);
     }
     // The measuring label is as wide as a line that is followed by "...".
-    const int room = Box_Caption_Lbl[0].Width() - platform::Text_Width(more_sign, Box_Layout::text_font);
+    const int room = Box_Caption_Lbl[0].Width() - platform::Text_Width(Ellipsis, Box_Layout::text_font);
     DotDotDot_Lbl.Set_Font(Box_Layout::text_font);
     DotDotDot_Lbl.Move({0, 0, std::max(room, 0), Box_Caption_Lbl[0].Height()});
 }
@@ -146,7 +133,7 @@ void Main_Frm::DotDotDot(Label &label, std::string_view text) {
         std::string_view line = DotDotDot_Lbl.Caption();
         while (line.ends_with(' '))
             line.remove_suffix(1);
-        shown.append(line).append(more_sign);
+        shown.append(line).append(Ellipsis);
     }
     label.Set_Caption(shown);
 }

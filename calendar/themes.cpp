@@ -1,4 +1,5 @@
 // What a theme pack gives the calendar: the wallpaper of the month, the box style and the position.
+#include "base/cut_text.h"
 #include "base/joined.h"
 #include "calendar/main_frm.h"
 #include "core/convert.h"

@@ -1,7 +1,7 @@
 // Conversions of stored texts. The process's regional settings have no say in them.
 #include "core/convert.h"
 
-#include "base/characters.h"
+#include "base/cut_text.h"
 #include "base/joined.h"
 #include "base/letters.h"
 #include "platform/text.h"
@@ -12,16 +12,9 @@
 
 namespace {
 
-std::string_view Without_Blanks(std::string_view text) {
-    const std::size_t begin = text.find_first_not_of(" \t");
-    if (begin == std::string_view::npos)
-        return {};
-    return text.substr(begin, text.find_last_not_of(" \t") - begin + 1);
-}
-
 template <class Integer>
 bool Read_Integer(std::string_view text, Integer &value) {
-    std::string_view digits = Without_Blanks(text);
+    std::string_view digits = Trimmed(text, " \t");
     // from_chars knows no plus sign; after one there must be no other sign.
     if (digits.size() > 1 && digits[0] == '+' && digits[1] != '-')
         digits.remove_prefix(1);
@@ -66,7 +59,7 @@ std::optional<std::int16_t> Int16_Of(std::string_view text) {
 }
 
 bool To_Flag(std::string_view text) {
-    const std::string word = Capitals(Without_Blanks(text));
+    const std::string word = Capitals(Trimmed(text, " \t"));
     if (word == "TRUE")
         return true;
     if (word == "FALSE")
@@ -94,15 +87,4 @@ std::int16_t Nearest_Int16(int value) {
 
 std::string_view As_Utf8(std::string_view text, std::string &room) {
     return Is_Utf8(text) ? text : std::string_view(room = platform::Ansi_To_Utf8(text));
-}
-
-std::string Shortened(std::string_view text) {
-    constexpr std::size_t longest = 60;
-    if (text.size() <= longest)
-        return std::string(text);
-    // A few bytes more than are shown, to find where a whole character ends.
-    std::size_t end = std::min(longest + 4, text.size());
-    while (end > longest)
-        end = Previous_Character(text, end);
-    return std::string(text.substr(0, end)) + "...";
 }

@@ -38,6 +38,3 @@ std::int16_t Nearest_Int16(int value);
 /// Returns `text` where it is UTF-8. Where it is not, returns what it is in the system's ANSI code page, as a
 /// view into `room`.
 std::string_view As_Utf8(std::string_view text, std::string &room);
-
-/// A value as a message can show it: of a long one whole characters, and "...".
-std::string Shortened(std::string_view text);

@@ -2,14 +2,13 @@
 // be converted, no item is too long.
 #include "core/sequential.h"
 
-#include "base/characters.h"
+#include "base/cut_text.h"
 #include "core/convert.h"
 
 #include <cstring>
 
 namespace {
 
-constexpr std::string_view byte_order_mark = "\xEF\xBB\xBF";
 constexpr char end_mark = '\x1A'; ///< of sequential input, since before files knew their own length
 
 bool Is_Blank(char c) {
@@ -52,8 +51,7 @@ bool Reads_Back_Plain(std::string_view item) {
 Sequential_Reader::Sequential_Reader(std::string_view bytes) {
     if (bytes.starts_with("\xFF\xFE") || bytes.starts_with("\xFE\xFF"))
         throw Sequential_Error("the text is UTF-16");
-    if (bytes.starts_with(byte_order_mark))
-        bytes.remove_prefix(byte_order_mark.size());
+    bytes = Without_Byte_Order_Mark(bytes);
     at_ = looked_to_ = bytes.data();
     end_ = at_ + bytes.size();
     all_utf8_ = Is_Utf8(bytes);
@@ -114,7 +112,7 @@ void Append_Item(std::string &bytes, std::string_view item) {
     } else if (Reads_Back_Plain(item)) {
         // A hand-written item with a quote inside. A blank, which counts for nothing, keeps one that begins
         // like a byte-order mark from losing it at the start of a file.
-        if (item.starts_with(byte_order_mark))
+        if (item.starts_with(Byte_Order_Mark))
             bytes += ' ';
         bytes += item;
     } else {

@@ -2,6 +2,7 @@
 // of the values.
 #include "core/settings.h"
 
+#include "base/cut_text.h"
 #include "base/joined.h"
 #include "core/convert.h"
 #include "platform/registry.h"

@@ -1,7 +1,7 @@
 // The calendar's title in its five forms, and the pattern formatter.
 #include "core/title.h"
 
-#include "base/characters.h"
+#include "base/cut_text.h"
 #include "base/joined.h"
 #include "base/letters.h"
 #include "core/date.h"
@@ -29,13 +29,11 @@ using Characters = std::vector<std::string_view>;
 /// The whole characters of the pattern, of a long one those that lie in its first bytes. A letter with a mark
 /// upon it is none of the pattern's.
 Characters Split(std::string_view pattern) {
-    // A few bytes more than are used, so that the last character is not taken for whole when it is not.
-    std::size_t end = std::min(pattern.size(), longest_pattern + 16);
+    std::size_t end = Whole_Characters(pattern, longest_pattern);
     Characters characters;
     while (end > 0) {
         const std::size_t begin = Previous_Character(pattern, end);
-        if (end <= longest_pattern)
-            characters.push_back(pattern.substr(begin, end - begin));
+        characters.push_back(pattern.substr(begin, end - begin));
         end = begin;
     }
     std::reverse(characters.begin(), characters.end());

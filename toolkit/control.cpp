@@ -1,7 +1,7 @@
 // State of the controls, and the calls that tell the form's mirror what of it changed.
 #include "toolkit/control.h"
 
-#include "base/line_breaks.h"
+#include "base/cut_text.h"
 #include "toolkit/form.h"
 #include "toolkit/handler.h"
 #include "toolkit/keys.h"

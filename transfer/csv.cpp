@@ -1,7 +1,7 @@
 // The rules of the program's files of comma separated values. One pass each, whatever the lengths.
 #include "transfer/csv.h"
 
-#include "base/characters.h"
+#include "base/cut_text.h"
 #include "base/letters.h"
 #include "core/convert.h"
 #include "platform/locale.h"
@@ -10,8 +10,6 @@
 #include <algorithm>
 
 namespace {
-
-constexpr std::string_view byte_order_mark = "\xEF\xBB\xBF";
 
 /// Returns where the first 0x1A outside of quotes is; npos: nowhere.
 std::size_t End_Mark(std::string_view bytes) {
@@ -74,9 +72,7 @@ std::string Event_Text(const std::string &subject, const std::string &descriptio
 
 } // namespace
 
-CSV_Lines::CSV_Lines(std::string_view bytes) : bytes_(bytes) {
-    if (bytes_.starts_with(byte_order_mark))
-        bytes_.remove_prefix(byte_order_mark.size());
+CSV_Lines::CSV_Lines(std::string_view bytes) : bytes_(Without_Byte_Order_Mark(bytes)) {
     bytes_ = bytes_.substr(0, End_Mark(bytes_));
     all_utf8_ = Is_Utf8(bytes_);
 }

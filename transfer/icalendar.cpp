@@ -2,6 +2,7 @@
 // event has its rule here once.
 #include "transfer/icalendar.h"
 
+#include "base/cut_text.h"
 #include "base/joined.h"
 #include "base/letters.h"
 #include "core/convert.h"
@@ -10,9 +11,6 @@
 #include <algorithm>
 
 namespace {
-
-constexpr std::string_view byte_order_mark = "\xEF\xBB\xBF";
-constexpr std::string_view blanks = " \t\r\n";
 
 bool Same_Word(std::string_view text, std::string_view capitals) {
     return text.size() == capitals.size() &&
@@ -32,21 +30,11 @@ std::size_t Find_Unquoted(std::string_view text, std::string_view characters) {
     return text.size();
 }
 
-std::string_view Trimmed(std::string_view text) {
-    const std::size_t begin = std::min(text.find_first_not_of(blanks), text.size());
-    return text.substr(begin, text.find_last_not_of(blanks) + 1 - begin);
-}
-
 /// As the data file can hold it and a day show it: in one line, and with apostrophes for double quotes.
 std::string In_One_Line(std::string_view text) {
-    std::string line;
-    line.reserve(text.size());
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        if (text.substr(i).starts_with("\r\n"))
-            ++i;
-        const bool control = static_cast<unsigned char>(text[i]) < ' ' || text[i] == '\x7F';
-        line += control ? ' ' : text[i] == '"' ? '\'' : text[i];
-    }
+    std::string line = Without_Line_Breaks(std::string(text));
+    for (char &c : line)
+        c = static_cast<unsigned char>(c) < ' ' || c == '\x7F' ? ' ' : c == '"' ? '\'' : c;
     return line;
 }
 
@@ -208,9 +196,7 @@ void Append_Line(std::string &bytes, std::string_view line) {
     constexpr std::size_t longest = 75;
     std::size_t room = longest;
     while (line.size() > room) {
-        std::size_t end = room;
-        while (end > room - 4 && (static_cast<unsigned char>(line[end]) & 0xC0U) == 0x80U)
-            --end;
+        const std::size_t end = Whole_Code_Points(line, room);
         bytes.append(line.substr(0, end)).append("\r\n ");
         line.remove_prefix(end);
         room = longest - 1;
@@ -296,9 +282,7 @@ std::string_view Content_Lines::Next_Physical() {
     line = line.substr(0, line.find('\r'));
     const std::size_t end = at_ + line.size();
     at_ = std::min(bytes_.find_first_not_of("\r\n", end), bytes_.size());
-    if (line.starts_with(byte_order_mark))
-        line.remove_prefix(byte_order_mark.size());
-    return line;
+    return Without_Byte_Order_Mark(line);
 }
 
 std::string_view Content_Lines::Next_Unfolded() {

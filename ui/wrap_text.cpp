@@ -1,13 +1,11 @@
 // Breaking a text into lines: each takes the longest beginning of the rest that fits.
 #include "ui/wrap_text.h"
 
-#include "base/characters.h"
+#include "base/cut_text.h"
 
 #include <algorithm>
 
 namespace {
-
-constexpr std::string_view more_sign = "...";
 
 /// No screen shows more than this.
 constexpr std::size_t longest_text = std::size_t{16} * 1024;
@@ -23,16 +21,15 @@ public:
 
     /// Length of the longest beginning that fits, in whole characters.
     std::size_t Fitting(std::string_view word) const {
-        // Stepped back from behind the limit: where it lies inside of a character cannot be told from there.
-        constexpr std::size_t run_up = 64;
-        std::vector<std::size_t> ends;
-        for (std::size_t end = std::min(word.size(), longest_line + run_up); end > 0;
-             end = Previous_Character(word, end))
-            ends.push_back(end);
-        const auto fitting = std::partition_point(ends.begin(), ends.end(), [&](std::size_t end) {
-            return end > longest_line || !Fits(word.substr(0, end));
-        });
-        return fitting == ends.end() ? 0 : *fitting;
+        std::size_t least = 0;
+        for (std::size_t most = std::min(word.size(), longest_line); least < most;) {
+            const std::size_t middle = (least + most + 1) / 2;
+            if (Fits(word.substr(0, Whole_Characters(word, middle))))
+                least = middle;
+            else
+                most = middle - 1;
+        }
+        return Whole_Characters(word, least);
     }
 
     /// Where a line of `rest`, which has no line breaks, ends: at a blank, or inside the first word. At least
@@ -55,9 +52,9 @@ public:
 
     /// Puts the sign for left-out text behind as much of the line as fits with it.
     void Cut(std::string &line) const {
-        while (!line.empty() && !Fits(line + std::string(more_sign)))
+        while (!line.empty() && !Fits(line + std::string(Ellipsis)))
             line.resize(Previous_Character(line, line.size()));
-        line.append(more_sign);
+        line.append(Ellipsis);
     }
 
 private:
@@ -66,16 +63,10 @@ private:
 };
 
 /// The text with "\n" for its line breaks and blanks for other control characters; none of them at its end.
-std::string With_Plain_Breaks(std::string_view text, bool &more) {
-    std::string plain;
-    more = text.size() > longest_text;
-    for (const char c : text.substr(0, longest_text)) {
-        const bool control = static_cast<unsigned char>(c) < ' ';
-        if (c == '\n' && plain.ends_with('\r'))
-            plain.pop_back();
-        plain += control && c != '\n' && c != '\r' ? ' ' : c;
-    }
-    std::replace(plain.begin(), plain.end(), '\r', '\n');
+std::string With_Plain_Breaks(std::string_view text) {
+    std::string plain = Without_Line_Breaks(std::string(text), '\n');
+    const auto control = [](char c) { return static_cast<unsigned char>(c) < ' ' && c != '\n'; };
+    std::replace_if(plain.begin(), plain.end(), control, ' ');
     plain.erase(plain.find_last_not_of(" \n") + 1);
     return plain;
 }
@@ -103,11 +94,10 @@ std::vector<std::string> Take_Lines(std::string_view &rest, const platform::Font
 
 std::vector<std::string> Wrap_Text(std::string_view text, const platform::Font &font, int width,
                                    std::size_t max_lines) {
-    bool more = false;
-    const std::string plain = With_Plain_Breaks(text, more);
+    const std::string plain = With_Plain_Breaks(text.substr(0, longest_text));
     std::string_view rest = plain;
     std::vector<std::string> lines = Take_Lines(rest, font, width, max_lines);
-    if ((more || !rest.empty()) && !lines.empty())
+    if ((text.size() > longest_text || !rest.empty()) && !lines.empty())
         Line_Breaker(font, width).Cut(lines.back());
     return lines;
 }

@@ -1,6 +1,7 @@
 // Drawing on the buffer of a painted form, pictures too; measuring text, system colours.
 #include "win32/canvas.h"
 
+#include "base/cut_text.h"
 #include "platform/pictures.h"
 #include "win32/fonts.h"
 #include "win32/picture_scaling.h"
@@ -27,18 +28,10 @@ void Fill_Pixels(HDC dc, const RECT &rect, COLORREF colour) {
     SetBkColor(dc, before);
 }
 
-/// The first part of `text` that one call takes; a pair of surrogates stays together.
-std::wstring_view Call_Part(std::wstring_view text) {
-    if (text.size() <= longest_call)
-        return text;
-    const bool splits = (text[longest_call] & 0xFC00) == 0xDC00;
-    return text.substr(0, longest_call - (splits ? 1 : 0));
-}
-
 int Pixel_Width(HDC dc, std::wstring_view text) {
     int width = 0;
     while (!text.empty()) {
-        const std::wstring_view part = Call_Part(text);
+        const std::wstring_view part = text.substr(0, Whole_Code_Points(text, longest_call));
         SIZE size = {};
         GetTextExtentPoint32W(dc, part.data(), static_cast<int>(part.size()), &size);
         width += static_cast<int>(size.cx);
@@ -122,7 +115,7 @@ void Draw_Text(Canvas &canvas, std::string_view text, const Rect &rect, const Fo
     const HDC dc = canvas.Dc();
     SelectObject(dc, win32::Find_Font(font).handle);
     SetTextColor(dc, Plain(colour));
-    const std::wstring_view part = Call_Part(wide);
+    const std::wstring_view part(wide.data(), Whole_Code_Points(wide, longest_call));
     int left = static_cast<int>(pixels.left);
     if (align != Text_Align::Left) {
         const int room = static_cast<int>(pixels.right - pixels.left) - Pixel_Width(dc, part);

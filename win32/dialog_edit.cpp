@@ -1,7 +1,7 @@
 // The ways of the native text box, by a window procedure before the system's own.
 #include "win32/dialog_edit.h"
 
-#include "base/line_breaks.h"
+#include "base/cut_text.h"
 
 #include <algorithm>
 #include <string_view>
@@ -57,14 +57,6 @@ std::size_t Room(HWND edit) {
     return limit > kept ? limit - kept : 0;
 }
 
-/// Returns the length of the beginning of `text` that fits in `room` and does not end inside a character.
-std::size_t Whole_Characters(std::wstring_view text, std::size_t room) {
-    if (text.size() <= room)
-        return text.size();
-    const bool splits = (text[room] & 0xFC00) == 0xDC00;
-    return room - (splits && room > 0 ? 1 : 0);
-}
-
 /// Puts `text` into the place of the selection. The system breaks a text into lines in a time that grows with
 /// the square of its length, so a long one goes to the end of what is there by pieces. Of those only the last
 /// can be undone.
@@ -72,7 +64,7 @@ void Replace_Selection(HWND edit, std::wstring_view text, bool can_undo) {
     const auto length = static_cast<DWORD>(GetWindowTextLengthW(edit));
     const std::size_t most = Selection_Of(edit).end == length ? 2048 : text.size();
     while (!text.empty()) {
-        const std::wstring piece(text.substr(0, Whole_Characters(text, most)));
+        const std::wstring piece(text.substr(0, Whole_Code_Points(text, most)));
         SendMessageW(edit, EM_REPLACESEL, can_undo ? TRUE : FALSE, reinterpret_cast<LPARAM>(piece.c_str()));
         text.remove_prefix(piece.size());
     }
@@ -83,7 +75,7 @@ void Paste(HWND edit) {
     const std::size_t room = Room(edit);
     if (text.size() > room) {
         MessageBeep(MB_OK);
-        text.resize(Whole_Characters(text, room));
+        text.resize(Whole_Code_Points(text, room));
     }
     Replace_Selection(edit, text, true);
 }

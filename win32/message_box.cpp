@@ -1,6 +1,7 @@
 // Message boxes: platform/message_box.h over Win32.
 #include "platform/message_box.h"
 
+#include "base/cut_text.h"
 #include "win32/modal.h"
 #include "win32/wide_text.h"
 
@@ -25,11 +26,7 @@ std::wstring Showable(std::string_view text, std::size_t longest) {
         if (wide[i] == L'\n' && ++lines > Most_Lines)
             end = i > 0 && wide[i - 1] == L'\r' ? i - 1 : i;
     }
-    if (end == wide.size())
-        return wide;
-    if (end > 0 && wide[end - 1] >= 0xD800 && wide[end - 1] <= 0xDBFF)
-        --end;
-    return wide.substr(0, end) + L"...";
+    return end == wide.size() ? wide : wide.substr(0, Whole_Code_Points(wide, end)) + L"...";
 }
 
 UINT Style_Of(Box_Icon icon, Box_Buttons buttons) {

@@ -1,6 +1,7 @@
 // Native tooltips over the controls of forms.
 #include "win32/tooltips.h"
 
+#include "base/cut_text.h"
 #include "win32/units.h"
 #include "win32/wide_text.h"
 
@@ -20,14 +21,8 @@ constexpr std::size_t longest_text = 32000;
 constexpr int usual_width = 300;
 constexpr int border = 16;
 
-/// The first `length` units of the text or one less: a pair of surrogates stays together.
-std::size_t Whole_Characters(std::wstring_view text, std::size_t length) {
-    const bool splits = length < text.size() && length > 0 && (text[length] & 0xFC00) == 0xDC00;
-    return length - (splits ? 1 : 0);
-}
-
 void Cut(std::wstring &text, std::size_t length) {
-    text.resize(Whole_Characters(text, length));
+    text.resize(Whole_Code_Points(text, length));
     text += L"...";
 }
 
@@ -57,7 +52,7 @@ std::wstring With_Broken_Words(HDC dc, std::wstring_view text, LONG width) {
             broken += word;
             text.remove_prefix(word.size());
         } else {
-            const std::size_t part = Whole_Characters(word, taken);
+            const std::size_t part = Whole_Code_Points(word, taken);
             (broken += word.substr(0, part)) += L'\n';
             text.remove_prefix(part);
         }

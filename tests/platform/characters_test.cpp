@@ -1,5 +1,5 @@
 // Which bytes are UTF-8, and where a character that the user sees begins.
-#include "base/characters.h"
+#include "base/cut_text.h"
 
 #include <gtest/gtest.h>
 #include <vector>
@@ -41,6 +41,7 @@ TEST(Characters, Are_Whole_And_Of_Well_Formed_Bytes) {
         for (std::size_t i = row.size(); i-- > 0;) {
             const std::size_t begin = Previous_Character(text, end);
             EXPECT_EQ(begin, end - row[i].size()) << text << ", character " << i;
+            EXPECT_EQ(Whole_Characters(text, end - 1), begin) << text << ", character " << i;
             end -= row[i].size();
         }
         EXPECT_EQ(end, 0U);
