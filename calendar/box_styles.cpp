@@ -2,7 +2,7 @@
 // styles are in box_layout.h.
 #include "base/cut_text.h"
 #include "calendar/box_layout.h"
-#include "calendar/main_frm.h"
+#include "calendar/month_grid.h"
 #include "platform/drawing.h"
 #include "toolkit/units.h"
 #include "ui/wrap_text.h"
@@ -63,7 +63,7 @@ std::string_view Measurable(const Label &label, std::string_view text) {
 
 } // namespace
 
-void Main_Frm::Which_Style(std::int16_t style) {
+void Month_Grid::Which_Style(std::int16_t style) {
     style_ = style;
     const Box_Layout layout(style);
     Place(Prev_Month_Lbl, layout.Previous());
@@ -86,7 +86,7 @@ void Main_Frm::Which_Style(std::int16_t style) {
     Resize(whole.width, whole.height);
 }
 
-void Main_Frm::DDD_Style(std::int16_t style) {
+void Month_Grid::DDD_Style(std::int16_t style) {
     const Box_Layout layout(style);
     for (int i = 0; i < box_count; ++i) {
         Place(Box_Caption_Lbl[i], layout.Text(i));
@@ -98,7 +98,7 @@ void Main_Frm::DDD_Style(std::int16_t style) {
     DotDotDot_Lbl.Move({0, 0, std::max(room, 0), Box_Caption_Lbl[0].Height()});
 }
 
-void Main_Frm::Get_Line(const Label &label) {
+void Month_Grid::Get_Line(const Label &label) {
     while (!DotDotDot_Lbl.Caption().empty() && !Fits(label, DotDotDot_Lbl.Caption())) {
         std::string caption = DotDotDot_Lbl.Caption();
         caption.resize(Previous_Character(caption, caption.size()));
@@ -106,7 +106,7 @@ void Main_Frm::Get_Line(const Label &label) {
     }
 }
 
-void Main_Frm::DotDotDot(Label &label, std::string_view text) {
+void Month_Grid::DotDotDot(Label &label, std::string_view text) {
     bool more = false;
     const std::string all = Blanks_Made_One(text, more);
     std::string_view rest = all;

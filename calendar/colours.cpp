@@ -1,7 +1,7 @@
 // The colours of boxes, today's box, numbers, texts, title and headers: the user's, or those of Windows where
 // high contrast is on, which leaves the settings alone.
 #include "calendar/box_layout.h"
-#include "calendar/main_frm.h"
+#include "calendar/month_grid.h"
 #include "core/settings.h"
 #include "platform/screen.h"
 
@@ -16,7 +16,7 @@ constexpr Colour shadow = System_Colour(16);
 
 } // namespace
 
-void Main_Frm::Set_Colours() {
+void Month_Grid::Set_Colours() {
     contrast_ = platform::High_Contrast();
     Colour_Boxes();
     Colour_Nums();
@@ -24,7 +24,7 @@ void Main_Frm::Set_Colours() {
     Colour_Menus();
 }
 
-void Main_Frm::Colour_Boxes() {
+void Month_Grid::Colour_Boxes() {
     for (int i = 0; i < box_count; ++i) {
         Box_Lbl[i].Set_Back_Colour(contrast_ ? window : Cur_Settings.Col_Normal);
         Undress_Today(Box_Lbl[i]);
@@ -34,17 +34,17 @@ void Main_Frm::Colour_Boxes() {
     }
 }
 
-void Main_Frm::Colour_Nums() {
+void Month_Grid::Colour_Nums() {
     for (Label &box : Box_Lbl)
         box.Set_Fore_Colour(contrast_ ? window_text : Cur_Settings.Col_Num);
 }
 
-void Main_Frm::Colour_Texts() {
+void Month_Grid::Colour_Texts() {
     for (Label &caption : Box_Caption_Lbl)
         caption.Set_Fore_Colour(contrast_ ? window_text : Cur_Settings.Col_Text);
 }
 
-void Main_Frm::Colour_Today(int index) {
+void Month_Grid::Colour_Today(int index) {
     Label &box = Box_Lbl[index];
     Dress_Today(box, contrast_ ? highlight : Cur_Settings.Col_Today);
     if (!contrast_)
@@ -55,14 +55,14 @@ void Main_Frm::Colour_Today(int index) {
     Box_Caption_Lbl[index].Set_Fore_Colour(highlight_text);
 }
 
-void Main_Frm::Follow_Contrast() {
+void Month_Grid::Follow_Contrast() {
     if (contrast_ == platform::High_Contrast())
         return;
     Set_Colours();
     Mark_Today();
 }
 
-void Main_Frm::Colour_Menus() {
+void Month_Grid::Colour_Menus() {
     Colour text = Cur_Settings.Col_Fore;
     if (contrast_) {
         Set_Back_Colour(window);

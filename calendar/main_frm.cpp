@@ -28,14 +28,7 @@ std::string Regional_Look() {
 
 } // namespace
 
-Main_Frm::Main_Frm()
-    : Form(platform::Form_Kind::Painted, "Calendar"), Prev_Month_Lbl(*this, "Prev_Month_Lbl"),
-      Which_Month_Lbl(*this, "Which_Month_Lbl"), Next_Month_Lbl(*this, "Next_Month_Lbl"),
-      Day_Lbl(*this, "Day_Lbl"), Box_Lbl(*this, "Box_Lbl"), Box_Caption_Lbl(*this, "Box_Caption_Lbl"),
-      DotDotDot_Lbl(*this, "DotDotDot_Lbl"), Dectect_Date_Timer(1000) {
-    Set_Title("Vellatro");
-    DotDotDot_Lbl.Set_Visible(false);
-    Describe_Heading();
+Main_Frm::Main_Frm() : Dectect_Date_Timer(1000) {
     Wire_Events();
 }
 
@@ -248,7 +241,6 @@ void Main_Frm::Take_Regional_Settings() {
 
 void Main_Frm::Renew_Layout() {
     regional_look_ = Regional_Look();
-    described_.reset();
     Which_Style(Effective_Style());
     Redraw();
     if (Compacted)

@@ -55,10 +55,7 @@ void Main_Frm::Clear_Box(int index) {
     Events.Load_File();
     if (!Events.Check_For_Pre(Date_Key(date), "", false))
         return;
-    Box_Caption_Lbl[index].Set_Caption({});
-    Box_Caption_Lbl[index].Set_Tooltip({});
-    Box_Lbl[index].Set_Tooltip({});
-    Set_Event_Value(index, {});
+    Fill_Box(index, {});
 }
 
 void Main_Frm::Undo() {
@@ -66,10 +63,8 @@ void Main_Frm::Undo() {
     if (!Events.Undo() || Compacted)
         return;
     // The texts alone: a calendar that was dragged away stays there.
-    for (int i = 0; i < box_count; ++i) {
-        Box_Caption_Lbl[i].Set_Caption({});
-        Set_Event_Value(i, {});
-    }
+    for (int i = 0; i < box_count; ++i)
+        Fill_Box(i, {});
     Load_Dates();
 }
 

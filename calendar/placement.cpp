@@ -1,9 +1,6 @@
-// The calendar's place on the screen and inside the shell's desktop, and the shape of its window.
+// The calendar's place on the screen and inside the shell's desktop.
 #include "calendar/main_frm.h"
 #include "core/settings.h"
-
-#include <utility>
-#include <vector>
 
 void Main_Frm::Position_Form(std::int16_t code) {
     const Label &lowest = Box_Lbl[35].Visible() ? Box_Lbl[35] : Box_Lbl[28];
@@ -15,14 +12,6 @@ void Main_Frm::RePosition() {
         Position_Form(Effective_Position());
     else if (!drag_.Dragging())
         place_.Put_Back();
-}
-
-void Main_Frm::TransparentForm() {
-    std::vector<Rect> seen;
-    for (const platform::Control_State *control : Model().controls)
-        if (control->visible)
-            seen.push_back(control->bounds);
-    Clip(std::move(seen));
 }
 
 void Main_Frm::No_ShowDesktop_and_IconColours() {

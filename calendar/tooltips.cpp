@@ -1,4 +1,4 @@
-// The tooltips of the day boxes, and the balloon with a day's event.
+// The balloon with a day's event.
 #include "calendar/main_frm.h"
 #include "core/settings.h"
 
@@ -9,13 +9,6 @@ namespace {
 constexpr std::int16_t balloon_tooltips = 2;
 
 } // namespace
-
-void Main_Frm::Clear_Tooltips() {
-    for (int i = 0; i < box_count; ++i) {
-        Box_Caption_Lbl[i].Set_Tooltip({});
-        Box_Lbl[i].Set_Tooltip({});
-    }
-}
 
 void Main_Frm::Box_Mouse_Down(Mouse_Button button, int index) {
     mark_.Set_Day(Date_Of_Box(index).day);

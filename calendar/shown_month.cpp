@@ -1,0 +1,89 @@
+// The shown month: its layout, the way of its events into the boxes, and the alert.
+#include "base/joined.h"
+#include "calendar/main_frm.h"
+#include "core/convert.h"
+#include "core/settings.h"
+#include "platform/locale.h"
+#include "platform/message_box.h"
+
+#include <utility>
+
+void Main_Frm::Setup_Boxes(std::int16_t month, std::int16_t year) {
+    Hide_Balloon();
+    Reset_Boxes();
+    Number_Boxes({year, month, 1});
+    Hide_Misc_Boxes();
+    Update_Mark();
+    Position_Form(Effective_Position());
+    TransparentForm();
+}
+
+void Main_Frm::Load_Dates() {
+    Clear_Tooltips();
+    const Date today = Today();
+    const unsigned fill = ++fills_;
+    entered_ = {};
+    const bool complete = Events.Load_Dates(
+        [&](std::string_view record) {
+            if (fill == fills_)
+                Enter_Date(record, today);
+        },
+        [&] {
+            if (fill == fills_)
+                Show_Entered();
+        });
+    if (fill == fills_)
+        broken_off_ = !complete;
+}
+
+/// Puts the texts that were entered since the last call into their boxes.
+void Main_Frm::Show_Entered() {
+    for (int i = 0; i < box_count; ++i) {
+        std::optional<std::string> &text = entered_[static_cast<std::size_t>(i)];
+        if (text)
+            Fill_Box(i, *std::exchange(text, {}));
+    }
+}
+
+void Main_Frm::Enter_Date(std::string_view record, const Date &today) {
+    Event_Record parts;
+    if (!Part_Record(record, parts))
+        throw Conversion_Error("a record without \"=\"");
+    const Date date = Parse_Date_Key(parts.key);
+    if ((date.year == every_year || date.year == Cur_Year) && date.month == Cur_Month) {
+        // Fitting a text into its box takes longer than reading a hundred records, and of several texts of a
+        // day only the last one stays.
+        const int index = Start_Box(Cur_Month, Cur_Year) + date.day - 1;
+        entered_.at(static_cast<std::size_t>(index)) = parts.text;
+    }
+    // A day that the date watch has not seen yet gets its alert from there, and not two.
+    if (Cur_Settings.Show_Alerts == 1 && !Alert_Done && date.day == today.day && date.month == today.month &&
+        (date.year == today.year || date.year == every_year) && Date_Stamp(today) == date_stamp_)
+        Alert(today, parts.text);
+}
+
+void Main_Frm::Show_Saved(const Date &date, std::string_view text) {
+    if (Event_Saved)
+        Event_Saved();
+    if (date.month != Cur_Month)
+        return;
+    const int index = Start_Box(Cur_Month, Cur_Year) + date.day - 1;
+    if (date.year == Cur_Year)
+        return Fill_Box(index, text);
+    // In another year the day has another event, or the same one when it is or was a yearly one.
+    const Stored_Message message = Events.Get_Message(Date_Key({Cur_Year, date.month, date.day}));
+    if (!message.incomplete)
+        Fill_Box(index, message.text);
+}
+
+void Main_Frm::Alert(const Date &today, std::string_view text) {
+    // Done before the user has answered: the month may be drawn again meanwhile, which must not show the
+    // alert once more, and at midnight the next day gets one of its own.
+    Alert_Done = true;
+    Show_Entered();
+    platform::Message_Box(Today_Text(today, text), "Vellatro", platform::Box_Icon::Information);
+}
+
+std::string Today_Text(const Date &today, std::string_view text) {
+    return Joined({"Today: ", platform::Short_Date(today.year, today.month, today.day), "\r\n", text});
+}
