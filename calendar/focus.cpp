@@ -71,19 +71,11 @@ void Main_Frm::Function_Key(int key) {
 }
 
 bool Main_Frm::Day_Key(int key) {
+    if (const Point step = Arrow_Step(key); step != Point{}) {
+        Move_Mark(step.x + days_a_week * step.y);
+        return true;
+    }
     switch (key) {
-    case Key_Left:
-        Move_Mark(-1);
-        return true;
-    case Key_Right:
-        Move_Mark(1);
-        return true;
-    case Key_Up:
-        Move_Mark(-days_a_week);
-        return true;
-    case Key_Down:
-        Move_Mark(days_a_week);
-        return true;
     case Key_Page_Up:
         Previous_Month();
         return true;

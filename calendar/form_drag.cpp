@@ -52,13 +52,13 @@ void Form_Drag::End() {
 }
 
 bool Form_Drag::Nudge(int key, bool fine) {
-    const bool across = key == Key_Left || key == Key_Right;
-    if (!May_Drag() || (!across && key != Key_Up && key != Key_Down))
+    const Point step = Arrow_Step(key);
+    if (!May_Drag() || step == Point{})
         return false;
     if (!nudged_from_)
         nudged_from_ = Point{form_.Left(), form_.Top()};
-    const int step = Pixels_To_Twips(fine ? 1 : big_step) * (key == Key_Left || key == Key_Up ? -1 : 1);
-    form_.Move(form_.Left() + (across ? step : 0), form_.Top() + (across ? 0 : step));
+    const int length = Pixels_To_Twips(fine ? 1 : big_step);
+    form_.Move(form_.Left() + length * step.x, form_.Top() + length * step.y);
     return true;
 }
 

@@ -258,27 +258,13 @@ void Colours_Page::Pal_MouseMove(Mouse_Button held, Point at) {
 }
 
 void Colours_Page::Key_Over_Palette(const platform::Input_Event &event) {
-    const int step = event.shift ? big_step : 1;
-    Point to = cross_;
-    switch (event.key) {
-    case Key_Left:
-        to.x -= step;
-        break;
-    case Key_Right:
-        to.x += step;
-        break;
-    case Key_Up:
-        to.y -= step;
-        break;
-    case Key_Down:
-        to.y += step;
-        break;
-    case Key_Return:
+    if (event.key == Key_Return)
         return Pal.On_Click();
-    default:
+    const Point step = Arrow_Step(event.key);
+    if (step == Point{})
         return;
-    }
-    Move_Cross(to);
+    const int pixels = event.shift ? big_step : 1;
+    Move_Cross({cross_.x + pixels * step.x, cross_.y + pixels * step.y});
     ShowColors(Cross_Colour());
 }
 

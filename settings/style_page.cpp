@@ -116,8 +116,7 @@ void Style_Page::Choose_Position(std::int16_t place) {
 }
 
 void Style_Page::Key_Over_Miniature(const platform::Input_Event &event) {
-    const Point step{(event.key == Key_Right) - (event.key == Key_Left),
-                     (event.key == Key_Down) - (event.key == Key_Up)};
+    const Point step = Arrow_Step(event.key);
     if (step == Point{})
         return;
     const Screen_Miniature miniature(calendar_);

@@ -1,6 +1,8 @@
 // Virtual key codes that the painted forms know by name.
 #pragma once
 
+#include "base/geometry.h"
+
 enum Key : int {
     Key_Return = 13,
     Key_Escape = 27,
@@ -26,3 +28,8 @@ enum Key : int {
     Key_F10 = 121,
     Key_F12 = 123,
 };
+
+/// Returns the direction of an arrow key, right and down being positive; no step for another key.
+constexpr Point Arrow_Step(int key) {
+    return {(key == Key_Right) - (key == Key_Left), (key == Key_Down) - (key == Key_Up)};
+}

@@ -105,23 +105,22 @@ void Importer::Import_CSV() {
     std::optional<Backup> backup;
     std::optional<Undo_Log::Change> change; // to its end or to the restored file
     std::vector<Sort_Entry> staged;
-    bool listed = true; // nothing is to be listed before a file is chosen
-    bool merging = false;
+    enum { Asking, Reading, Merging, Listed } stage = Asking;
     try {
         backup.emplace(calendar_.Events.Temp_Lst);
         if (!Ask_File("Import Events from CSV File", "Comma Separated Values File (*.csv)|*.csv", false))
             return;
         Work.Begin();
-        listed = false;
+        stage = Reading;
         change.emplace(calendar_.Events.Changes, "Import");
         Read_Events(platform::Read_File(dialog_.FileName), staged);
         // Anew: a session that was about to end may have had a text stored since.
         backup.emplace(calendar_.Events.Temp_Lst);
-        merging = true;
+        stage = Merging;
         Merge_Imported(staged);
         change.reset();
         const std::size_t count = staged.size();
-        listed = true;
+        stage = Listed;
         Show_Staged(std::move(staged));
         Work.End();
         calendar_.Redraw();
@@ -132,11 +131,12 @@ void Importer::Import_CSV() {
         try {
             // A copy that could not be made may be an older one, which is not to come back.
             if (backup)
-                backup->Restore(merging);
+                backup->Restore(stage >= Merging);
         } catch (const std::exception &) { // the copy stays, for whoever looks
         }
         change.reset();
-        if (!listed) { // the events before the error, beside the counts of the restored file
+        if (stage == Reading || stage == Merging) {
+            // The events before the error, beside the counts of the restored file.
             for (Sort_Entry &event : staged)
                 event.key.clear(); // none is in the file
             Show_Staged(std::move(staged));
