@@ -9,8 +9,6 @@
 #include "platform/locale.h"
 
 #include <algorithm>
-#include <cstdlib>
-#include <exception>
 #include <string>
 #include <utility>
 

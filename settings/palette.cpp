@@ -2,7 +2,6 @@
 #include "settings/palette.h"
 
 #include <algorithm>
-#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <vector>

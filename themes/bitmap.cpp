@@ -2,7 +2,6 @@
 #include "themes/bitmap.h"
 
 #include <cstddef>
-#include <cstdint>
 
 namespace {
 

@@ -5,7 +5,6 @@
 #include <cmath>
 #include <numbers>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 using platform::Canvas;

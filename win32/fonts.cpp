@@ -3,7 +3,6 @@
 
 #include "win32/units.h"
 
-#include <cstddef>
 #include <vector>
 
 namespace win32 {
