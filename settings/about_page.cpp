@@ -19,11 +19,7 @@ constexpr int link_margin = 3 * 15; ///< for the mark of the keyboard
 
 } // namespace
 
-About_Page::About_Page(Form &dialog, Frame &frame)
-    : Logo_Pic(dialog, "Logo_Pic"), Name_Lbl(dialog, "Name_Lbl", "Vellatro"),
-      Version_Lbl(dialog, "Version_Lbl", "v0.3b"),
-      Designed_Lbl(dialog, "Designed_Lbl", "Designed for Win 98 and 2k."), Link_Lbl(dialog, "Link_Lbl") {
-    frame.Hold(Logo_Pic, Link_Lbl);
+About_Page::About_Page(Frame &frame) : Page(frame) {
     Logo_Pic.Set_Transparent(true);
     Logo_Pic.On_Paint = [this](platform::Canvas &canvas) { Paint_Logo(canvas); };
     Name_Lbl.Set_Font(name_font);
@@ -74,16 +70,13 @@ void About_Page::Paint_Logo(platform::Canvas &canvas) const {
 
 void About_Page::Lay_Out() {
     constexpr int logo_width = 78 * 15;
-    int top = 40 * 15;
-    const auto centred = [&top](Control &control, int width, int height, int distance) {
-        control.Move({(page_width - width) / 2, top, width, height});
-        top += height + distance;
-    };
-    centred(Logo_Pic, logo_width, logo_width, 2 * margin);
-    const int line = platform::Line_Height(Version_Lbl.Font());
-    centred(Name_Lbl, page_width, platform::Line_Height(name_font), gap);
-    centred(Version_Lbl, page_width, line, 2 * margin);
-    centred(Designed_Lbl, page_width, line, margin);
+    constexpr int logo_top = 40 * 15;
+    Logo_Pic.Move({(page_width - logo_width) / 2, logo_top, logo_width, logo_width});
+    Rows rows{0, logo_top + logo_width + 2 * margin, page_width};
+    rows.Add(Name_Lbl);
+    rows.Add(Version_Lbl, 2 * margin);
+    rows.Add(Designed_Lbl, margin);
     // Hardly wider than its text: beside it nothing is clicked.
-    centred(Link_Lbl, platform::Text_Width(web_page, Link_Lbl.Font()) + 2 * link_margin, line + small_gap, 0);
+    const int width = platform::Text_Width(web_page, Link_Lbl.Font()) + 2 * link_margin;
+    Link_Lbl.Move({(page_width - width) / 2, rows.Top(), width, Designed_Lbl.Height() + small_gap});
 }

@@ -1,4 +1,4 @@
-// What the Events page does. Where its controls are is in events_page_layout.cpp.
+// What the Events page does, and where its controls are.
 #include "settings/events_page.h"
 
 #include "platform/files.h"
@@ -10,34 +10,26 @@
 #include <string>
 #include <utility>
 
-namespace {
+using namespace layout;
 
-constexpr const char *events_title = "Events"; ///< of the overview and of the statistics
+namespace {
 
 /// A list or counts that are not whole must not look so. There is no message box for it: every choice on the
 /// page reads the file, and each would bring another one.
 void Title_Frame(Frame &frame, Reading reading) {
-    frame.Set_Caption(reading == Reading::Incomplete ? "Error loading in data file." : events_title);
+    frame.Set_Caption(reading == Reading::Incomplete ? "Error loading in data file." : "Events");
+}
+
+/// Places a label in one of several columns, by its number.
+void Place(Label &label, int index, int columns) {
+    const int line = platform::Line_Height(label.Font());
+    const int width = inner_width / columns;
+    label.Move({margin + index % columns * width, group_top + index / columns * (line + gap), width, line});
 }
 
 } // namespace
 
-Events_Page::Events_Page(Form &dialog, Frame &frame, Main_Frm &calendar)
-    : Overview_Opt(dialog, "Overview_Opt", "Events &Overview"),
-      Stats_Opt(dialog, "Stats_Opt", "General &Statstics"),
-      Overview_Fra(dialog, "Overview_Fra", events_title), Sort_Lbl(dialog, "Sort_Lbl", "Sort &by:"),
-      Sort_Cbo(dialog, "Sort_Cbo"),
-      Events_Lst_Lbl(dialog, "Events_Lst_Lbl", "&Events (double-click or Delete removes one):"),
-      Events_Lst(dialog, "Events_Lst"), Countdown_Name_Lbl(dialog, "Countdown_Name_Lbl", "Countdown:"),
-      Countdown_Lbl(dialog, "Countdown_Lbl"), Events_Fra(dialog, "Events_Fra", events_title),
-      Total_All_Lbl(dialog, "Total_All_Lbl"), Total_Year_Lbl(dialog, "Total_Year_Lbl"),
-      Before_Lbl(dialog, "Before_Lbl"), After_Lbl(dialog, "After_Lbl"),
-      Yearview_Fra(dialog, "Yearview_Fra", "This Year"), Month_Count_Lbl(dialog, "Month_Count_Lbl"),
-      calendar_(calendar) {
-    frame.Hold(Overview_Opt, Month_Count_Lbl[11]);
-    Overview_Fra.Hold(Sort_Lbl, Countdown_Lbl);
-    Events_Fra.Hold(Total_All_Lbl, After_Lbl);
-    Yearview_Fra.Hold(Month_Count_Lbl[0], Month_Count_Lbl[11]);
+Events_Page::Events_Page(Frame &frame, Main_Frm &calendar) : Page(frame), calendar_(calendar) {
     Sort_Cbo.Set_Items({"Ascending Date", "Descending Date", "Date Added"});
     Sort_Cbo.Select(0);
     Name_Aloud(Events_Lst, "Events");
@@ -213,4 +205,30 @@ bool Events_Page::Remove_Event(std::size_t line) {
         Reload();
     }
     return true;
+}
+
+void Events_Page::Lay_Out() {
+    int left = 0;
+    for (Option_Button *option : {&Overview_Opt, &Stats_Opt}) {
+        option->Move({left, 0, Usual_Width(*option), check_height});
+        left = option->Bounds().Right() + margin;
+    }
+    const int top = check_height + gap;
+    Overview_Fra.Move({0, top, page_width, page_height - top});
+    Rows rows = Group_Rows();
+    rows.Add_Pair(Sort_Lbl, Usual_Width(Sort_Lbl), Sort_Cbo);
+    rows.Add(Events_Lst_Lbl, small_gap);
+    const int below = Sort_Lbl.Height() + margin; // the countdown
+    rows.Add(Events_Lst, gap, Overview_Fra.Height() - rows.Top() - gap - below);
+    rows.Add_Pair(Countdown_Name_Lbl, Usual_Width(Countdown_Name_Lbl), Countdown_Lbl, margin);
+
+    int index = 0;
+    for (Label *label : {&Total_All_Lbl, &Total_Year_Lbl, &Before_Lbl, &After_Lbl})
+        Place(*label, index++, 2);
+    index = 0;
+    for (Label &label : Month_Count_Lbl)
+        Place(label, index++, 3);
+    Rows page{0, top, page_width};
+    page.Add(Events_Fra, gap, After_Lbl.Bounds().Bottom() + margin);
+    page.Add(Yearview_Fra, gap, Month_Count_Lbl[11].Bounds().Bottom() + margin);
 }

@@ -44,7 +44,7 @@ protected:
 
     Form dialog{platform::Form_Kind::Dialog, "Dialog"};
     Frame frame{dialog, "Frame0"};
-    Events_Page page{dialog, frame, form};
+    Events_Page page{frame, form};
 };
 
 TEST_F(Events_Page_Test, counts_events) {
