@@ -16,7 +16,4 @@ public:
     Label Version_Lbl{frame_, "Version_Lbl", "v0.3b"};
     Label Designed_Lbl{frame_, "Designed_Lbl", "Designed for Win 98 and 2k."};
     Picture_Box Link_Lbl{frame_, "Link_Lbl"}; ///< a text that can be clicked, also by the keyboard
-
-private:
-    void Paint_Logo(platform::Canvas &canvas) const;
 };

@@ -50,8 +50,11 @@ void Events_Page::Wire_Events() {
 }
 
 void Events_Page::Write_Month_Titles() {
+    constexpr const char *titles[] = {"Jan: ",  "Feb: ", "Mar: ", "Apr: ", "May: ", "Jun: ",
+                                      "July: ", "Aug: ", "Sep: ", "Oct: ", "Nov: ", "Dec: "};
     for (int i = 0; i < 12; ++i)
-        Month_Count_Lbl[i].Set_Caption(Month_Line(statistics_, i));
+        Month_Count_Lbl[i].Set_Caption(titles[i] +
+                                       std::to_string(statistics_.months[static_cast<std::size_t>(i)]));
 }
 
 void Events_Page::Get_Stats() {
@@ -73,10 +76,11 @@ Reading Events_Page::Load_Dates() {
 }
 
 void Events_Page::Write_Labels() {
-    Total_All_Lbl.Set_Caption(Total_Line(statistics_));
-    Total_Year_Lbl.Set_Caption(Year_Line(statistics_));
-    Before_Lbl.Set_Caption(Before_Line(statistics_));
-    After_Lbl.Set_Caption(After_Line(statistics_));
+    // As seen from the events: today is before the future ones.
+    Total_All_Lbl.Set_Caption("Total Events: " + std::to_string(statistics_.total));
+    Total_Year_Lbl.Set_Caption("Events This Year: " + std::to_string(statistics_.this_year));
+    Before_Lbl.Set_Caption("No. Before Today: " + std::to_string(statistics_.future));
+    After_Lbl.Set_Caption("No. After Today: " + std::to_string(statistics_.past));
     Write_Month_Titles();
 }
 
@@ -101,8 +105,7 @@ void Events_Page::Follow_File() {
 void Events_Page::Show_Imported(std::vector<Sort_Entry> staged) {
     Dates_Lst = std::move(staged);
     staged_ = true;
-    Title_Frame(Overview_Fra, Reading::Complete);
-    Sort_List();
+    Sort_List(Reading::Complete);
     Get_Stats();
 }
 
@@ -127,8 +130,7 @@ void Events_Page::Sort_Cbo_Click() {
 
 void Events_Page::List_Events() {
     staged_ = false;
-    Title_Frame(Overview_Fra, Loadin_Data());
-    Sort_List();
+    Sort_List(Loadin_Data());
 }
 
 Reading Events_Page::Loadin_Data() {
@@ -136,7 +138,11 @@ Reading Events_Page::Loadin_Data() {
     return Load_Entries(Dates_Lst, order, Today());
 }
 
-void Events_Page::Sort_List() {
+void Events_Page::Sort_List(Reading reading) {
+    Title_Frame(Overview_Fra, reading);
+    const bool none = Dates_Lst.empty() && !staged_ && reading != Reading::Incomplete;
+    Events_Lst_Lbl.Set_Caption(none ? "No &events yet: double-click a day of the calendar."
+                                    : "&Events (double-click or Delete removes one):");
     std::vector<std::string> lines;
     lines.reserve(Dates_Lst.size());
     for (const Sort_Entry &entry : Dates_Lst)

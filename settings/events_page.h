@@ -69,7 +69,7 @@ private:
     Reading Load_Dates();
     void Write_Labels();
     Reading Loadin_Data();
-    void Sort_List();
+    void Sort_List(Reading reading);
     void List_Events();
     void Events_Lst_KeyDown(const platform::Input_Event &event);
     bool Remove_Event(std::size_t line);

@@ -23,11 +23,7 @@ constexpr int window_frame = 8 * 15; ///< left and right of the dialog, estimate
 } // namespace
 
 Settings_Frm::Settings_Frm(Main_Frm &calendar)
-    : Form(platform::Form_Kind::Dialog, "Settings_Frm"), Events(Settings_Fra[events_fra], calendar),
-      Colours(Settings_Fra[colours_fra], calendar), General(Settings_Fra[general_fra], calendar),
-      Style(Settings_Fra[style_fra], calendar), Tooltips(Settings_Fra[tooltips_fra], calendar.Balloon),
-      Wallpaper(Settings_Fra[wallpaper_fra], calendar, Style), Transfer(Settings_Fra[transfer_fra], calendar),
-      calendar_(calendar) {
+    : Form(platform::Form_Kind::Dialog, "Settings_Frm"), calendar_(calendar) {
     Set_Title("Settings");
     TabStrip1.Set_Items({"Events", "Colours", "Settings", "Style && Position", "Tooltips", "Wallpaper",
                          "Import\\Export", "About"});

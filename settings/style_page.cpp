@@ -232,15 +232,11 @@ void Style_Page::Lay_Out() {
     page.Add(Style_Fra, group_gap, style.Top());
     page.Add(Position_Fra, 0, page_height - page.Top());
 
-    const int text_width = options_width - check_mark;
     Rows position{margin, group_top, options_width};
-    const auto add = [&](Option_Button &option, Label &label, int lines) {
-        position.Add(option, 0);
-        position.Add(label, gap, lines * line);
-        label.Move({margin + check_mark, label.Top(), text_width, label.Height()});
-    };
-    add(Pos_Set_Opt, Pos_Hint_Lbl, hint_lines);
-    add(Pos_Manual_Opt, Manual_Lbl, manual_lines);
+    position.Add(Pos_Set_Opt);
+    position.Add_Note(Pos_Hint_Lbl, gap, hint_lines * line);
+    position.Add(Pos_Manual_Opt);
+    position.Add_Note(Manual_Lbl, gap, manual_lines * line);
 
     const int left = margin + options_width + gap;
     const Size room{page_width - left - margin,

@@ -79,6 +79,7 @@ void Wallpaper_Page::Lay_Out() {
     const int label_width = std::max(Usual_Width(Packs_Lbl), Usual_Width(Display_Lbl));
     Rows page = Page_Rows();
     page.Add(Theme_Use_Chk);
+    page.Add_Note(Theme_Use_Lbl);
     page.Add_Pair(Packs_Lbl, label_width, Packs_Cbo);
 
     Theme_Preview_Img.Move({0, page.Top(), picture_width, picture_height});
@@ -87,15 +88,17 @@ void Wallpaper_Page::Lay_Out() {
     for (Label *label : {&Theme_Display_Lbl, &Theme_Style_Lbl, &Theme_Pos_Lbl})
         details.Add(*label, small_gap);
     details.Add(Loading_Lbl);
-    Rows below{0, page.Top() + picture_height + gap, page_width};
+    const int bottom = page.Top() + picture_height;
+    Preview_Btn.Move({right, bottom - button_height, page_width - right, button_height});
+    Rows below{0, bottom + gap, page_width};
     below.Add_Pair(Preview_Sli, picture_width, Month_Lbl, gap, slider_height);
 
     Rows theme = Group_Rows();
     for (Check_Box *box : {&Theme_Style_Chk, &Theme_Pos_Chk, &Other_Display_Chk})
-        theme.Add(*box);
+        theme.Add(*box, small_gap);
     theme.Add_Pair(Display_Lbl, label_width, Display_Cbo, margin);
     below.Add(Theme_Fra, gap, theme.Top());
-    below.Add_Pair(Preview_Btn, Usual_Width(Preview_Btn), Preview_Lbl);
+    below.Add(Preview_Lbl);
 }
 
 void Wallpaper_Page::Show(const Settings &settings) {

@@ -54,6 +54,7 @@ public:
     void Preview_Btn_Click();
 
     Check_Box Theme_Use_Chk{frame_, "Theme_Use_Chk", "Use &themes"};
+    Label Theme_Use_Lbl{frame_, "Theme_Use_Lbl", "Tick this for a new picture every month."};
     Label Packs_Lbl{frame_, "Packs_Lbl", "Theme pac&k:"};
     Combo_Box Packs_Cbo{frame_, "Packs_Cbo"};
     Picture_Box Theme_Preview_Img{frame_, "Theme_Preview_Img"};
@@ -61,6 +62,7 @@ public:
     Label Theme_Style_Lbl{frame_, "Theme_Style_Lbl"};
     Label Theme_Pos_Lbl{frame_, "Theme_Pos_Lbl"};
     Label Loading_Lbl{frame_, "Loading_Lbl", "Loading..."};
+    Button Preview_Btn{frame_, "Preview_Btn", "Pre&view all months"};
     Label Month_Lbl{frame_, "Month_Lbl"}; ///< names the slider
     Slider Preview_Sli{frame_, "Preview_Sli", 1, 12};
     Frame Theme_Fra{frame_, "Theme_Fra", "From the theme"};
@@ -69,7 +71,6 @@ public:
     Check_Box Other_Display_Chk{Theme_Fra, "Other_Display_Chk", "Use an&other display mode"};
     Label Display_Lbl{Theme_Fra, "Display_Lbl", "&Display mode:"};
     Combo_Box Display_Cbo{Theme_Fra, "Display_Cbo"};
-    Button Preview_Btn{frame_, "Preview_Btn", "Pre&view all months"};
     Label Preview_Lbl{frame_, "Preview_Lbl", "Preview running: Esc ends it."};
 
 private:

@@ -51,10 +51,21 @@ void Rows::Add_Pair(Control &first, int first_width, Control &second, int distan
     first.Move({left_, top + (second.Height() - first_height) / 2, first_width, first_height});
 }
 
+void Rows::Add_Note(Label &note, int distance, int height) {
+    top_ = Bottom();
+    Add(note, distance, height);
+    note.Move({left_ + check_mark, note.Top(), width_ - check_mark, note.Height()});
+}
+
 void Rows::Add_All(const Frame &frame, int distance) {
-    for (Control *control : frame.Owner().Controls())
-        if (control->State().container == frame.State().index)
+    for (Control *control : frame.Owner().Controls()) {
+        if (control->State().container != frame.State().index)
+            continue;
+        if (control->State().kind == Control_Kind::Label)
+            Add_Note(static_cast<Label &>(*control), distance);
+        else
             Add(*control, distance);
+    }
 }
 
 void Place_Buttons(std::initializer_list<Button *> buttons, int right, int top) {

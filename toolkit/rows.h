@@ -36,12 +36,13 @@ public:
     /// ends at the right edge.
     void Add_Pair(Control &first, int first_width, Control &second, int distance = layout::gap,
                   int height = 0);
-    /// Places all that a frame holds, each in a row of its own.
+    /// Places a text below the caption of the check box or option button before it.
+    void Add_Note(Label &note, int distance = layout::gap, int height = 0);
+    /// Places all that a frame holds, each in a row of its own; labels are notes.
     void Add_All(const Frame &frame, int distance = layout::small_gap);
 
-    /// Where the next row begins.
+    /// Returns where the next row begins, or the last one ends.
     int Top() const { return top_; }
-    /// Where the last row ends.
     int Bottom() const { return top_ - distance_; }
 
 private:

@@ -152,6 +152,7 @@ TEST_F(Events_Page_Test, bears_a_file_that_fails_or_changes_behind_it) {
     Fakes().files.clear();
     Open();
     EXPECT_EQ(Lines() + page.Overview_Fra.Caption(), "Events");
+    EXPECT_EQ(page.Events_Lst_Lbl.Caption(), "No &events yet: double-click a day of the calendar.");
 }
 
 } // namespace
