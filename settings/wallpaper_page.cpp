@@ -90,14 +90,16 @@ void Wallpaper_Page::Lay_Out() {
     details.Add(Loading_Lbl);
     const int bottom = page.Top() + picture_height;
     Preview_Btn.Move({right, bottom - button_height, page_width - right, button_height});
-    Rows below{0, bottom + gap, page_width};
-    below.Add_Pair(Preview_Sli, picture_width, Month_Lbl, gap, slider_height);
+    Preview_Sli.Move({0, bottom + gap, picture_width, slider_height});
+    Month_Lbl.Move({right, bottom + 2 * gap, page_width - right, Loading_Lbl.Height()});
+    Rows below{0, Preview_Sli.Bounds().Bottom() + gap, page_width};
 
     Rows theme = Group_Rows();
     for (Check_Box *box : {&Theme_Style_Chk, &Theme_Pos_Chk, &Other_Display_Chk})
         theme.Add(*box, small_gap);
-    theme.Add_Pair(Display_Lbl, label_width, Display_Cbo, margin);
-    below.Add(Theme_Fra, gap, theme.Top());
+    Rows display{margin + check_mark, theme.Top(), inner_width - check_mark};
+    display.Add_Pair(Display_Lbl, label_width, Display_Cbo, margin);
+    below.Add(Theme_Fra, gap, display.Top());
     below.Add(Preview_Lbl);
 }
 
