@@ -5,37 +5,26 @@
 #include "base/scoped_value.h"
 #include "platform/message_box.h"
 #include "platform/screen.h"
+#include "toolkit/rows.h"
 #include "toolkit/units.h"
 
 #include <algorithm>
 
+using namespace layout;
 using platform::Box_Answer;
 
 namespace {
 
-// Distances as dialogs keep them, in twips: 15 are a pixel at 96 dots per inch.
-constexpr int margin = 11 * 15;
-constexpr int gap = 7 * 15;
-constexpr int small_gap = 4 * 15;
-constexpr int button_width = 75 * 15;
-constexpr int button_height = 23 * 15;
 constexpr int text_width = 370 * 15;
 constexpr int text_room = 200; ///< characters that are seen at once, also wide ones
 constexpr int text_frame = 8 * 15;
 constexpr int scroll_bar = 17 * 15;
-constexpr int check_mark = 26 * 15; ///< with its distances from the caption
-constexpr int title_bar = 40 * 15;  ///< with the frame, estimated
+constexpr int title_bar = 40 * 15; ///< with the frame, estimated
 
 } // namespace
 
-Edit_Frm::Edit_Frm(Main_Frm &calendar)
-    : Form(platform::Form_Kind::Dialog, "Edit_Frm"), Date_Lbl(*this, "Date_Lbl"),
-      Message_Lbl(*this, "Message_Lbl"), Message_Txt(*this, "Message_Txt"),
-      Every_Year_Chk(*this, "Every_Year_Chk", "Every &year"), Ok_Btn(*this, "Ok_Btn", "OK"),
-      Cancel_Btn(*this, "Cancel_Btn", "Cancel"), Apply_Btn(*this, "Apply_Btn", "&Apply"),
-      calendar_(calendar) {
+Edit_Frm::Edit_Frm(Main_Frm &calendar) : Form(platform::Form_Kind::Dialog, "Edit_Frm"), calendar_(calendar) {
     Set_Title("Edit event");
-    Message_Lbl.Set_Caption("&Event:");
     Ok_Btn.Set_Default(true);
     Cancel_Btn.Set_Cancel(true);
     Apply_Btn.Set_Enabled(false);
@@ -176,23 +165,13 @@ void Edit_Frm::Lay_Out() {
     const int in_line = std::max(1, (text_width - text_frame - scroll_bar) / wide);
     const int text_lines = (text_room + in_line - 1) / in_line;
 
-    int top = margin;
-    const auto row = [&top](Control &control, int width, int height, int distance) {
-        control.Move({margin, top, width, height});
-        top += height + distance;
-    };
-    row(Date_Lbl, text_width, platform::Line_Height(bold), gap);
-    row(Message_Lbl, text_width, line, small_gap);
-    row(Message_Txt, text_width, text_lines * line + text_frame, gap);
-    row(Every_Year_Chk, platform::Text_Width("Every year", Every_Year_Chk.Font()) + check_mark,
-        std::max(line, 17 * 15), margin);
-    int left = margin + text_width;
-    for (Button *button : {&Apply_Btn, &Cancel_Btn, &Ok_Btn}) {
-        left -= button_width;
-        button->Move({left, top, button_width, button_height});
-        left -= gap;
-    }
-    Resize(2 * margin + text_width, top + button_height + margin);
+    Rows rows{margin, margin, text_width};
+    rows.Add(Date_Lbl);
+    rows.Add(Message_Lbl, small_gap);
+    rows.Add(Message_Txt, gap, text_lines * line + text_frame);
+    rows.Add(Every_Year_Chk, margin);
+    Place_Buttons({&Ok_Btn, &Cancel_Btn, &Apply_Btn}, margin + text_width, rows.Top());
+    Resize(2 * margin + text_width, rows.Top() + button_height + margin);
 }
 
 /// Below the box, or above it where there is no room below. The platform keeps the window on the screen.

@@ -34,13 +34,13 @@ public:
     /// After the editor was closed, by whatever way.
     Handler<> On_Unload;
 
-    Label Date_Lbl;
-    Label Message_Lbl; ///< names the text box
-    Text_Box Message_Txt;
-    Check_Box Every_Year_Chk;
-    Button Ok_Btn;
-    Button Cancel_Btn;
-    Button Apply_Btn; ///< enabled: there is unsaved text
+    Label Date_Lbl{*this, "Date_Lbl"};
+    Label Message_Lbl{*this, "Message_Lbl", "&Event:"}; ///< names the text box
+    Text_Box Message_Txt{*this, "Message_Txt"};
+    Check_Box Every_Year_Chk{*this, "Every_Year_Chk", "Every &year"};
+    Button Ok_Btn{*this, "Ok_Btn", "OK"};
+    Button Cancel_Btn{*this, "Cancel_Btn", "Cancel"};
+    Button Apply_Btn{*this, "Apply_Btn", "&Apply"}; ///< enabled: there is unsaved text
 
 private:
     bool May_Leave();

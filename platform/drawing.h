@@ -35,6 +35,9 @@ void Frame_Rect(Canvas &canvas, const Rect &rect, Colour colour, int thickness);
 /// Fills the polygon with smooth edges.
 void Fill_Polygon(Canvas &canvas, const std::vector<Point> &corners, Colour colour);
 
+/// Draws the program's icon over the whole of `rect`.
+void Draw_Program_Icon(Canvas &canvas, const Rect &rect);
+
 /// Draws one line of text, its line box (Line_Height) beginning at the top of `rect`, clipped to `rect`, with
 /// a transparent background. No character in it has a special meaning.
 void Draw_Text(Canvas &canvas, std::string_view text, const Rect &rect, const Font &font, Colour colour,

@@ -15,21 +15,21 @@ constexpr const char *web_page = "https://vellatro.example/";
 constexpr Colour link_colour = Rgb(0x00, 0x66, 0xCC);
 constexpr Colour contrast_link = System_Colour(26);
 constexpr platform::Font name_font{200, true};
+constexpr int logo_width = 48 * 15;
 constexpr int link_margin = 3 * 15; ///< for the mark of the keyboard
 
 } // namespace
 
-About_Page::About_Page(Form &dialog, Frame &frame)
-    : Logo_Pic(dialog, "Logo_Pic"), Name_Lbl(dialog, "Name_Lbl", "Vellatro"),
-      Version_Lbl(dialog, "Version_Lbl", "v0.3b"),
-      Designed_Lbl(dialog, "Designed_Lbl", "Designed for Win 98 and 2k."), Link_Lbl(dialog, "Link_Lbl") {
-    frame.Hold(Logo_Pic, Link_Lbl);
+About_Page::About_Page(Frame &frame) : Page(frame) {
     Logo_Pic.Set_Transparent(true);
-    Logo_Pic.On_Paint = [this](platform::Canvas &canvas) { Paint_Logo(canvas); };
+    Logo_Pic.On_Paint = [](platform::Canvas &canvas) {
+        platform::Draw_Program_Icon(canvas, {0, 0, logo_width, logo_width});
+    };
     Name_Lbl.Set_Font(name_font);
     for (Label *label : {&Name_Lbl, &Version_Lbl, &Designed_Lbl})
         label->Set_Align(platform::Text_Align::Centre, false);
     Link_Lbl.Set_Caption(web_page);
+    Link_Lbl.Set_Visible(false); // it would lead nowhere
     Link_Lbl.Set_Fore_Colour(platform::High_Contrast() ? contrast_link : link_colour);
     Link_Lbl.Set_Transparent(true);
     Link_Lbl.Set_Align(platform::Text_Align::Centre, false);
@@ -55,35 +55,14 @@ void About_Page::gotoweb() {
     platform::Open_Web_Page(web_page);
 }
 
-/// A sheet of a month: a heading over rows of days, of which one is marked.
-void About_Page::Paint_Logo(platform::Canvas &canvas) const {
-    constexpr int columns = 5;
-    constexpr int rows = 4;
-    constexpr int marked = 11;
-    const int cell = Logo_Pic.Width() / (columns + 1);
-    const Rect sheet{0, 0, Logo_Pic.Width(), Logo_Pic.Height()};
-    platform::Fill_Rect(canvas, sheet, Rgb(255, 255, 255));
-    platform::Fill_Rect(canvas, {0, 0, sheet.width, cell + cell / 4}, Rgb(0x1F, 0x08, 0x80));
-    const int top = sheet.height - rows * cell - cell / 2;
-    for (int i = 0; i < columns * rows; ++i)
-        platform::Fill_Rect(
-            canvas, {cell / 2 + i % columns * cell + 15, top + i / columns * cell + 15, cell - 30, cell - 30},
-            i == marked ? Rgb(0xFF, 0x60, 0x60) : Rgb(0xC8, 0xCC, 0xDC));
-    platform::Frame_Rect(canvas, sheet, Rgb(0x80, 0x80, 0x90), 15);
-}
-
 void About_Page::Lay_Out() {
-    constexpr int logo_width = 78 * 15;
-    int top = 40 * 15;
-    const auto centred = [&top](Control &control, int width, int height, int distance) {
-        control.Move({(page_width - width) / 2, top, width, height});
-        top += height + distance;
-    };
-    centred(Logo_Pic, logo_width, logo_width, 2 * margin);
-    const int line = platform::Line_Height(Version_Lbl.Font());
-    centred(Name_Lbl, page_width, platform::Line_Height(name_font), gap);
-    centred(Version_Lbl, page_width, line, 2 * margin);
-    centred(Designed_Lbl, page_width, line, margin);
+    constexpr int logo_top = 40 * 15;
+    Logo_Pic.Move({(page_width - logo_width) / 2, logo_top, logo_width, logo_width});
+    Rows rows{0, logo_top + logo_width + 2 * margin, page_width};
+    rows.Add(Name_Lbl);
+    rows.Add(Version_Lbl, 2 * margin);
+    rows.Add(Designed_Lbl, margin);
     // Hardly wider than its text: beside it nothing is clicked.
-    centred(Link_Lbl, platform::Text_Width(web_page, Link_Lbl.Font()) + 2 * link_margin, line + small_gap, 0);
+    const int width = platform::Text_Width(web_page, Link_Lbl.Font()) + 2 * link_margin;
+    Link_Lbl.Move({(page_width - width) / 2, rows.Top(), width, Designed_Lbl.Height() + small_gap});
 }

@@ -3,21 +3,17 @@
 
 #include "settings/page.h"
 
-class About_Page {
+class About_Page final : public Page {
 public:
-    [[gnu::noinline]] About_Page(Form &dialog, Frame &frame);
-    /// Places the controls, also after a change of the dots per inch.
-    void Lay_Out();
+    explicit About_Page(Frame &frame);
+    void Lay_Out() override;
 
     /// Opens the author's page in the user's browser. A failure is not told.
     static void gotoweb();
 
-    Picture_Box Logo_Pic;
-    Label Name_Lbl;
-    Label Version_Lbl;
-    Label Designed_Lbl;
-    Picture_Box Link_Lbl; ///< a text that can be clicked, also by the keyboard
-
-private:
-    void Paint_Logo(platform::Canvas &canvas) const;
+    Picture_Box Logo_Pic{frame_, "Logo_Pic"};
+    Label Name_Lbl{frame_, "Name_Lbl", "Vellatro"};
+    Label Version_Lbl{frame_, "Version_Lbl", "v0.3b"};
+    Label Designed_Lbl{frame_, "Designed_Lbl", "Designed for Win 98 and 2k."};
+    Picture_Box Link_Lbl{frame_, "Link_Lbl"}; ///< a text that can be clicked, also by the keyboard
 };

@@ -15,7 +15,7 @@ constexpr int swatch_row = 19 * 15;
 constexpr int swatch_height = 17 * 15;
 constexpr int swatch_width = 36 * 15;
 constexpr int group_bottom = 7 * 15;
-constexpr int value_label_width = 45 * 15;
+constexpr int value_label_width = 41 * 15;
 constexpr int gradient_width = 16 * 15;
 constexpr int value_rows = 3;
 
@@ -58,21 +58,14 @@ void Colours_Page::Lay_Out_Palette() {
     const int height = Default_Cols_Btn.Bounds().Bottom();
     Palette_Fra.Move({left, 0, width, height});
 
-    // From the bottom up; the palette has what is left.
-    const int line = platform::Line_Height(Names_Lbl.Font());
-    const int value_left = margin + value_label_width;
-    const int value_width = width - value_left - margin;
-    int top = height - margin - row_height;
-    const auto row = [&](Label &label, Control &value) {
-        label.Move({margin, top + (row_height - line) / 2, value_label_width - small_gap, line});
-        value.Move({value_left, top, value_width, row_height});
-        top -= row_height + small_gap;
-    };
-    row(Names_Lbl, Names_Cbo);
-    for (int i = value_rows - 1; i >= 0; --i)
-        row(txCol_Lbl[i], txCol[i]);
-    const int bottom = top + row_height;
-    const int pal_height = Snap(bottom - group_top - small_gap);
+    // The palette has what the values leave.
+    constexpr int values_height = (value_rows + 1) * (row_height + small_gap);
+    const int values_top = height - margin + small_gap - values_height;
+    Rows values{margin, values_top, width - 2 * margin};
+    for (int i = 0; i < value_rows; ++i)
+        values.Add_Pair(txCol_Lbl[i], value_label_width, txCol[i], small_gap);
+    values.Add_Pair(Names_Lbl, value_label_width, Names_Cbo);
+    const int pal_height = Snap(values_top - 2 * small_gap - group_top);
     const int pal_width = Snap(width - 2 * margin - gradient_width - small_gap);
     Pal.Move({margin, group_top, pal_width, pal_height});
     Gradient_Pic.Move({width - margin - gradient_width, group_top, gradient_width, pal_height});

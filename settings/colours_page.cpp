@@ -63,36 +63,13 @@ std::string Spoken(Colour colour) {
 
 } // namespace
 
-Colours_Page::Colours_Page(Form &dialog, Frame &frame, Main_Frm &calendar)
-    : Boxes_Fra(dialog, "Boxes_Fra", "Boxes"), Col_Today_Pic(dialog, "Col_Today_Pic"),
-      Col_Today_Lbl(dialog, "Col_Today_Lbl", "Today's box"), Col_Normal_Pic(dialog, "Col_Normal_Pic"),
-      Col_Normal_Lbl(dialog, "Col_Normal_Lbl", "Normal boxes"), Col_Num_Pic(dialog, "Col_Num_Pic"),
-      Col_Num_Lbl(dialog, "Col_Num_Lbl", "Day numbers"), Col_Text_Pic(dialog, "Col_Text_Pic"),
-      Col_Text_Lbl(dialog, "Col_Text_Lbl", "Event texts"), Menu_Fra(dialog, "Menu_Fra", "Top Menu"),
-      Col_Sys_Opt(dialog, "Col_Sys_Opt", "Use System Colours"),
-      Col_Other_Opt(dialog, "Col_Other_Opt", "Use &Other Colours"), Col_Back_Pic(dialog, "Col_Back_Pic"),
-      Col_Back_Lbl(dialog, "Col_Back_Lbl", "Background"), Col_Fore_Pic(dialog, "Col_Fore_Pic"),
-      Col_Fore_Lbl(dialog, "Col_Fore_Lbl", "Text"),
-      Default_Cols_Btn(dialog, "Default_Cols_Btn", "&Default Colours"),
-      Palette_Fra(dialog, "Palette_Fra", "Palette"), Pal(dialog, "Pal"), Gradient_Pic(dialog, "Gradient_Pic"),
-      txCol(dialog, "txCol", txCol_Lbl, "txCol_Lbl"), Names_Lbl(dialog, "Names_Lbl", "&Name:"),
-      Names_Cbo(dialog, "Names_Cbo"), Preview_Fra(dialog, "Preview_Fra", "Preview"),
-      Preview_Back_Pic(dialog, "Preview_Back_Pic"), Preview_Prev_Lbl(dialog, "Preview_Prev_Lbl"),
-      Preview_Month_Lbl(dialog, "Preview_Month_Lbl"), Preview_Today_Lbl(dialog, "Preview_Today_Lbl"),
-      Preview_Caption_Today_Lbl(dialog, "Preview_Caption_Today_Lbl"),
-      Preview_Style0_Lbl(dialog, "Preview_Style0_Lbl"), Preview_Caption0_Lbl(dialog, "Preview_Caption0_Lbl"),
-      Preview_Style1_Lbl(dialog, "Preview_Style1_Lbl"), Preview_Caption1_Lbl(dialog, "Preview_Caption1_Lbl"),
-      calendar_(calendar), swatches_{{{&Col_Today_Lbl, &Col_Today_Pic, &Settings::Col_Today},
-                                      {&Col_Normal_Lbl, &Col_Normal_Pic, &Settings::Col_Normal},
-                                      {&Col_Num_Lbl, &Col_Num_Pic, &Settings::Col_Num},
-                                      {&Col_Text_Lbl, &Col_Text_Pic, &Settings::Col_Text},
-                                      {&Col_Back_Lbl, &Col_Back_Pic, &Settings::Col_Back},
-                                      {&Col_Fore_Lbl, &Col_Fore_Pic, &Settings::Col_Fore}}} {
-    frame.Hold(Boxes_Fra, Preview_Caption1_Lbl);
-    Boxes_Fra.Hold(Col_Today_Pic, Col_Text_Lbl);
-    Menu_Fra.Hold(Col_Sys_Opt, Col_Fore_Lbl);
-    Palette_Fra.Hold(Pal, Names_Cbo);
-    Preview_Fra.Hold(Preview_Back_Pic, Preview_Caption1_Lbl);
+Colours_Page::Colours_Page(Frame &frame, Main_Frm &calendar)
+    : Page(frame), calendar_(calendar), swatches_{{{&Col_Today_Lbl, &Col_Today_Pic, &Settings::Col_Today},
+                                                   {&Col_Normal_Lbl, &Col_Normal_Pic, &Settings::Col_Normal},
+                                                   {&Col_Num_Lbl, &Col_Num_Pic, &Settings::Col_Num},
+                                                   {&Col_Text_Lbl, &Col_Text_Pic, &Settings::Col_Text},
+                                                   {&Col_Back_Lbl, &Col_Back_Pic, &Settings::Col_Back},
+                                                   {&Col_Fore_Lbl, &Col_Fore_Pic, &Settings::Col_Fore}}} {
     for (int i = 0; i < colour_count; ++i)
         Wire_Swatch(i);
     Col_Sys_Opt.On_Click = [this] { Col_Sys_Opt_Click(); };
@@ -150,10 +127,10 @@ void Colours_Page::Wire_Palette() {
     Pal.On_Key_Down = [this](const platform::Input_Event &event) { Key_Over_Palette(event); };
 }
 
-void Colours_Page::Load_Settings() {
+void Colours_Page::Show(const Settings &settings) {
     for (int i = 0; i < colour_count; ++i)
-        Set_Swatch(i, Cur_Settings.*swatches_[static_cast<std::size_t>(i)].setting);
-    if (Cur_Settings.Menu_Col_Sorce == 0) {
+        Set_Swatch(i, settings.*swatches_[static_cast<std::size_t>(i)].setting);
+    if (settings.Menu_Col_Sorce == 0) {
         Col_Sys_Opt.Set_Checked(true);
         Col_Sys_Opt_Click();
     } else {
@@ -163,7 +140,7 @@ void Colours_Page::Load_Settings() {
     Select(selector_);
 }
 
-void Colours_Page::Put_Choices(Settings &settings) const {
+void Colours_Page::Put(Settings &settings) const {
     for (const Swatch &swatch : swatches_)
         settings.*swatch.setting = swatch.picture->Back_Colour();
     settings.Menu_Col_Sorce = Col_Sys_Opt.Checked() ? 0 : 1;
@@ -321,10 +298,6 @@ void Colours_Page::Dress_Preview() {
     const Date today = Today();
     Preview_Month_Lbl.Set_Caption(platform::Month_Name(today.month));
     Preview_Today_Lbl.Set_Caption(" " + std::to_string(today.day));
-    Preview_Style0_Lbl.Set_Caption(" 12");
-    Preview_Style1_Lbl.Set_Caption(" 26");
-    for (Label *caption : {&Preview_Caption_Today_Lbl, &Preview_Caption0_Lbl, &Preview_Caption1_Lbl})
-        caption->Set_Caption("Event");
 }
 
 void Colours_Page::Recolour_Preview() {

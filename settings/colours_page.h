@@ -12,18 +12,14 @@
 
 struct Settings;
 
-class Colours_Page {
+class Colours_Page final : public Page {
 public:
     static constexpr int colour_count = 6;
 
-    Colours_Page(Form &dialog, Frame &frame, Main_Frm &calendar);
-
-    /// Shows the colours of the settings.
-    void Load_Settings();
-    /// Puts what is chosen into `settings`.
-    void Put_Choices(Settings &settings) const;
-    /// Places the controls, also after a change of the dots per inch.
-    void Lay_Out();
+    Colours_Page(Frame &frame, Main_Frm &calendar);
+    void Show(const Settings &settings) override;
+    void Put(Settings &settings) const override;
+    void Lay_Out() override;
 
     /// Takes the mark from all six labels.
     void Reset_Labels();
@@ -40,40 +36,41 @@ public:
     void Col_Other_Opt_Click();
     void Default_Cols_Btn_Click();
 
-    Frame Boxes_Fra;
-    Picture_Box Col_Today_Pic;
-    Label Col_Today_Lbl;
-    Picture_Box Col_Normal_Pic;
-    Label Col_Normal_Lbl;
-    Picture_Box Col_Num_Pic;
-    Label Col_Num_Lbl;
-    Picture_Box Col_Text_Pic;
-    Label Col_Text_Lbl;
-    Frame Menu_Fra;
-    Option_Button Col_Sys_Opt;
-    Option_Button Col_Other_Opt;
-    Picture_Box Col_Back_Pic;
-    Label Col_Back_Lbl;
-    Picture_Box Col_Fore_Pic;
-    Label Col_Fore_Lbl;
-    Button Default_Cols_Btn;
-    Frame Palette_Fra;
-    Picture_Box Pal;
-    Picture_Box Gradient_Pic; ///< seen while a mouse button is held over the palette
+    Frame Boxes_Fra{frame_, "Boxes_Fra", "Boxes"};
+    Picture_Box Col_Today_Pic{Boxes_Fra, "Col_Today_Pic"};
+    Label Col_Today_Lbl{Boxes_Fra, "Col_Today_Lbl", "Today's box"};
+    Picture_Box Col_Normal_Pic{Boxes_Fra, "Col_Normal_Pic"};
+    Label Col_Normal_Lbl{Boxes_Fra, "Col_Normal_Lbl", "Normal boxes"};
+    Picture_Box Col_Num_Pic{Boxes_Fra, "Col_Num_Pic"};
+    Label Col_Num_Lbl{Boxes_Fra, "Col_Num_Lbl", "Day numbers"};
+    Picture_Box Col_Text_Pic{Boxes_Fra, "Col_Text_Pic"};
+    Label Col_Text_Lbl{Boxes_Fra, "Col_Text_Lbl", "Event texts"};
+    Frame Menu_Fra{frame_, "Menu_Fra", "Top Menu"};
+    Option_Button Col_Sys_Opt{Menu_Fra, "Col_Sys_Opt", "Use System Colours"};
+    Option_Button Col_Other_Opt{Menu_Fra, "Col_Other_Opt", "Use &Other Colours"};
+    Picture_Box Col_Back_Pic{Menu_Fra, "Col_Back_Pic"};
+    Label Col_Back_Lbl{Menu_Fra, "Col_Back_Lbl", "Background"};
+    Picture_Box Col_Fore_Pic{Menu_Fra, "Col_Fore_Pic"};
+    Label Col_Fore_Lbl{Menu_Fra, "Col_Fore_Lbl", "Text"};
+    Button Default_Cols_Btn{frame_, "Default_Cols_Btn", "&Default Colours"};
+    Frame Palette_Fra{frame_, "Palette_Fra", "Palette"};
+    Picture_Box Pal{Palette_Fra, "Pal"};
+    Picture_Box Gradient_Pic{Palette_Fra,
+                             "Gradient_Pic"}; ///< seen while a mouse button is held over the palette
     Control_Array<Label, 3> txCol_Lbl;
-    Control_Array<Text_Box, 3> txCol;
-    Label Names_Lbl;
-    Combo_Box Names_Cbo; ///< the colours that have a name
-    Frame Preview_Fra;
-    Picture_Box Preview_Back_Pic; ///< the desktop behind the calendar
-    Label Preview_Prev_Lbl;
-    Label Preview_Month_Lbl;
-    Label Preview_Today_Lbl;
-    Label Preview_Caption_Today_Lbl;
-    Label Preview_Style0_Lbl;
-    Label Preview_Caption0_Lbl;
-    Label Preview_Style1_Lbl;
-    Label Preview_Caption1_Lbl;
+    Control_Array<Text_Box, 3> txCol{Palette_Fra, "txCol", txCol_Lbl, "txCol_Lbl"};
+    Label Names_Lbl{Palette_Fra, "Names_Lbl", "&Name:"};
+    Combo_Box Names_Cbo{Palette_Fra, "Names_Cbo"}; ///< the colours that have a name
+    Frame Preview_Fra{frame_, "Preview_Fra", "Preview"};
+    Picture_Box Preview_Back_Pic{Preview_Fra, "Preview_Back_Pic"}; ///< the desktop behind the calendar
+    Label Preview_Prev_Lbl{Preview_Fra, "Preview_Prev_Lbl"};
+    Label Preview_Month_Lbl{Preview_Fra, "Preview_Month_Lbl"};
+    Label Preview_Today_Lbl{Preview_Fra, "Preview_Today_Lbl"};
+    Label Preview_Caption_Today_Lbl{Preview_Fra, "Preview_Caption_Today_Lbl", "Event"};
+    Label Preview_Style0_Lbl{Preview_Fra, "Preview_Style0_Lbl", " 12"};
+    Label Preview_Caption0_Lbl{Preview_Fra, "Preview_Caption0_Lbl", "Event"};
+    Label Preview_Style1_Lbl{Preview_Fra, "Preview_Style1_Lbl", " 26"};
+    Label Preview_Caption1_Lbl{Preview_Fra, "Preview_Caption1_Lbl", "Event"};
 
 private:
     /// One colour: its controls, its setting and the value of a first run.

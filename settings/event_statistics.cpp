@@ -1,16 +1,9 @@
-// Counting events, and the wording of the counts.
+// Counting events.
 #include "settings/event_statistics.h"
 
 #include <limits>
 
 namespace {
-
-constexpr const char *month_titles[] = {"Jan: ",  "Feb: ", "Mar: ", "Apr: ", "May: ", "Jun: ",
-                                        "July: ", "Aug: ", "Sep: ", "Oct: ", "Nov: ", "Dec: "};
-
-std::string Line(const char *title, std::int16_t count) {
-    return title + std::to_string(count);
-}
 
 void Count(std::int16_t &counter) {
     if (counter < std::numeric_limits<std::int16_t>::max())
@@ -33,25 +26,4 @@ void Workout_Stats(Event_Statistics &statistics, const Event_Entry &entry, const
         return;
     Count(statistics.this_year);
     Count(month);
-}
-
-std::string Total_Line(const Event_Statistics &statistics) {
-    return Line("Total Events: ", statistics.total);
-}
-
-std::string Year_Line(const Event_Statistics &statistics) {
-    return Line("Events This Year: ", statistics.this_year);
-}
-
-std::string Before_Line(const Event_Statistics &statistics) {
-    return Line("No. Before Today: ", statistics.future);
-}
-
-std::string After_Line(const Event_Statistics &statistics) {
-    return Line("No. After Today: ", statistics.past);
-}
-
-std::string Month_Line(const Event_Statistics &statistics, int month) {
-    const auto index = static_cast<std::size_t>(month);
-    return Line(month_titles[index], statistics.months.at(index));
 }

@@ -1,4 +1,4 @@
-// The counts of events on the Events page, and the lines that show them. Their labels are in events_page.h.
+// The counts of events on the Events page. The labels that show them are in events_page.h.
 #pragma once
 
 #include "core/date.h"
@@ -6,7 +6,6 @@
 
 #include <array>
 #include <cstdint>
-#include <string>
 
 /// How many events there are. A counter that is full stays at its greatest value.
 struct Event_Statistics {
@@ -20,12 +19,3 @@ struct Event_Statistics {
 
 /// Counts one event in.
 void Workout_Stats(Event_Statistics &statistics, const Event_Entry &entry, const Date &today);
-
-// The lines of the counters. "Before" and "After" are meant as seen from the events: today is before the
-// future ones.
-std::string Total_Line(const Event_Statistics &statistics);
-std::string Year_Line(const Event_Statistics &statistics);
-std::string Before_Line(const Event_Statistics &statistics);
-std::string After_Line(const Event_Statistics &statistics);
-/// For month index 0 to 11.
-std::string Month_Line(const Event_Statistics &statistics, int month);

@@ -1,4 +1,4 @@
-// What the Events page does. Where its controls are is in events_page_layout.cpp.
+// What the Events page does, and where its controls are.
 #include "settings/events_page.h"
 
 #include "platform/files.h"
@@ -10,34 +10,26 @@
 #include <string>
 #include <utility>
 
-namespace {
+using namespace layout;
 
-constexpr const char *events_title = "Events"; ///< of the overview and of the statistics
+namespace {
 
 /// A list or counts that are not whole must not look so. There is no message box for it: every choice on the
 /// page reads the file, and each would bring another one.
 void Title_Frame(Frame &frame, Reading reading) {
-    frame.Set_Caption(reading == Reading::Incomplete ? "Error loading in data file." : events_title);
+    frame.Set_Caption(reading == Reading::Incomplete ? "Error loading in data file." : "Events");
+}
+
+/// Places a label in one of several columns, by its number.
+void Place(Label &label, int index, int columns) {
+    const int line = platform::Line_Height(label.Font());
+    const int width = inner_width / columns;
+    label.Move({margin + index % columns * width, group_top + index / columns * (line + gap), width, line});
 }
 
 } // namespace
 
-Events_Page::Events_Page(Form &dialog, Frame &frame, Main_Frm &calendar)
-    : Overview_Opt(dialog, "Overview_Opt", "Events &Overview"),
-      Stats_Opt(dialog, "Stats_Opt", "General &Statstics"),
-      Overview_Fra(dialog, "Overview_Fra", events_title), Sort_Lbl(dialog, "Sort_Lbl", "Sort &by:"),
-      Sort_Cbo(dialog, "Sort_Cbo"),
-      Events_Lst_Lbl(dialog, "Events_Lst_Lbl", "&Events (double-click or Delete removes one):"),
-      Events_Lst(dialog, "Events_Lst"), Countdown_Name_Lbl(dialog, "Countdown_Name_Lbl", "Countdown:"),
-      Countdown_Lbl(dialog, "Countdown_Lbl"), Events_Fra(dialog, "Events_Fra", events_title),
-      Total_All_Lbl(dialog, "Total_All_Lbl"), Total_Year_Lbl(dialog, "Total_Year_Lbl"),
-      Before_Lbl(dialog, "Before_Lbl"), After_Lbl(dialog, "After_Lbl"),
-      Yearview_Fra(dialog, "Yearview_Fra", "This Year"), Month_Count_Lbl(dialog, "Month_Count_Lbl"),
-      calendar_(calendar) {
-    frame.Hold(Overview_Opt, Month_Count_Lbl[11]);
-    Overview_Fra.Hold(Sort_Lbl, Countdown_Lbl);
-    Events_Fra.Hold(Total_All_Lbl, After_Lbl);
-    Yearview_Fra.Hold(Month_Count_Lbl[0], Month_Count_Lbl[11]);
+Events_Page::Events_Page(Frame &frame, Main_Frm &calendar) : Page(frame), calendar_(calendar) {
     Sort_Cbo.Set_Items({"Ascending Date", "Descending Date", "Date Added"});
     Sort_Cbo.Select(0);
     Name_Aloud(Events_Lst, "Events");
@@ -58,8 +50,11 @@ void Events_Page::Wire_Events() {
 }
 
 void Events_Page::Write_Month_Titles() {
+    constexpr const char *titles[] = {"Jan: ",  "Feb: ", "Mar: ", "Apr: ", "May: ", "Jun: ",
+                                      "July: ", "Aug: ", "Sep: ", "Oct: ", "Nov: ", "Dec: "};
     for (int i = 0; i < 12; ++i)
-        Month_Count_Lbl[i].Set_Caption(Month_Line(statistics_, i));
+        Month_Count_Lbl[i].Set_Caption(titles[i] +
+                                       std::to_string(statistics_.months[static_cast<std::size_t>(i)]));
 }
 
 void Events_Page::Get_Stats() {
@@ -81,10 +76,11 @@ Reading Events_Page::Load_Dates() {
 }
 
 void Events_Page::Write_Labels() {
-    Total_All_Lbl.Set_Caption(Total_Line(statistics_));
-    Total_Year_Lbl.Set_Caption(Year_Line(statistics_));
-    Before_Lbl.Set_Caption(Before_Line(statistics_));
-    After_Lbl.Set_Caption(After_Line(statistics_));
+    // As seen from the events: today is before the future ones.
+    Total_All_Lbl.Set_Caption("Total Events: " + std::to_string(statistics_.total));
+    Total_Year_Lbl.Set_Caption("Events This Year: " + std::to_string(statistics_.this_year));
+    Before_Lbl.Set_Caption("No. Before Today: " + std::to_string(statistics_.future));
+    After_Lbl.Set_Caption("No. After Today: " + std::to_string(statistics_.past));
     Write_Month_Titles();
 }
 
@@ -109,8 +105,7 @@ void Events_Page::Follow_File() {
 void Events_Page::Show_Imported(std::vector<Sort_Entry> staged) {
     Dates_Lst = std::move(staged);
     staged_ = true;
-    Title_Frame(Overview_Fra, Reading::Complete);
-    Sort_List();
+    Sort_List(Reading::Complete);
     Get_Stats();
 }
 
@@ -135,8 +130,7 @@ void Events_Page::Sort_Cbo_Click() {
 
 void Events_Page::List_Events() {
     staged_ = false;
-    Title_Frame(Overview_Fra, Loadin_Data());
-    Sort_List();
+    Sort_List(Loadin_Data());
 }
 
 Reading Events_Page::Loadin_Data() {
@@ -144,7 +138,11 @@ Reading Events_Page::Loadin_Data() {
     return Load_Entries(Dates_Lst, order, Today());
 }
 
-void Events_Page::Sort_List() {
+void Events_Page::Sort_List(Reading reading) {
+    Title_Frame(Overview_Fra, reading);
+    const bool none = Dates_Lst.empty() && !staged_ && reading != Reading::Incomplete;
+    Events_Lst_Lbl.Set_Caption(none ? "No &events yet: double-click a day of the calendar."
+                                    : "&Events (double-click or Delete removes one):");
     std::vector<std::string> lines;
     lines.reserve(Dates_Lst.size());
     for (const Sort_Entry &entry : Dates_Lst)
@@ -213,4 +211,30 @@ bool Events_Page::Remove_Event(std::size_t line) {
         Reload();
     }
     return true;
+}
+
+void Events_Page::Lay_Out() {
+    int left = 0;
+    for (Option_Button *option : {&Overview_Opt, &Stats_Opt}) {
+        option->Move({left, 0, Usual_Width(*option), check_height});
+        left = option->Bounds().Right() + margin;
+    }
+    const int top = check_height + gap;
+    Overview_Fra.Move({0, top, page_width, page_height - top});
+    Rows rows = Group_Rows();
+    rows.Add_Pair(Sort_Lbl, Usual_Width(Sort_Lbl), Sort_Cbo);
+    rows.Add(Events_Lst_Lbl, small_gap);
+    const int below = Sort_Lbl.Height() + margin; // the countdown
+    rows.Add(Events_Lst, gap, Overview_Fra.Height() - rows.Top() - gap - below);
+    rows.Add_Pair(Countdown_Name_Lbl, Usual_Width(Countdown_Name_Lbl), Countdown_Lbl, margin);
+
+    int index = 0;
+    for (Label *label : {&Total_All_Lbl, &Total_Year_Lbl, &Before_Lbl, &After_Lbl})
+        Place(*label, index++, 2);
+    index = 0;
+    for (Label &label : Month_Count_Lbl)
+        Place(label, index++, 3);
+    Rows page{0, top, page_width};
+    page.Add(Events_Fra, gap, After_Lbl.Bounds().Bottom() + margin);
+    page.Add(Yearview_Fra, gap, Month_Count_Lbl[11].Bounds().Bottom() + margin);
 }

@@ -10,12 +10,10 @@
 
 #include <vector>
 
-class Events_Page {
+class Events_Page final : public Page {
 public:
-    /// `frame` is the page's frame on `dialog`. All three must outlive the page.
-    [[gnu::noinline]] Events_Page(Form &dialog, Frame &frame, Main_Frm &calendar);
-    /// Places the controls, also after a change of the dots per inch.
-    void Lay_Out();
+    Events_Page(Frame &frame, Main_Frm &calendar);
+    void Lay_Out() override;
 
     // What the opening dialog does, in this order.
     void Write_Month_Titles();
@@ -44,25 +42,25 @@ public:
     /// The events in the order of the lines of Events_Lst.
     std::vector<Sort_Entry> Dates_Lst;
 
-    Option_Button Overview_Opt;
-    Option_Button Stats_Opt;
+    Option_Button Overview_Opt{frame_, "Overview_Opt", "Events &Overview"};
+    Option_Button Stats_Opt{frame_, "Stats_Opt", "General &Statstics"};
 
-    Frame Overview_Fra;
-    Label Sort_Lbl; ///< names the combo box
-    Combo_Box Sort_Cbo;
-    Label Events_Lst_Lbl; ///< names the list
-    List_Box Events_Lst;
-    Label Countdown_Name_Lbl;
-    Label Countdown_Lbl;
+    Frame Overview_Fra{frame_, "Overview_Fra", "Events"};
+    Label Sort_Lbl{Overview_Fra, "Sort_Lbl", "Sort &by:"};
+    Combo_Box Sort_Cbo{Overview_Fra, "Sort_Cbo"};
+    Label Events_Lst_Lbl{Overview_Fra, "Events_Lst_Lbl"}; ///< names the list
+    List_Box Events_Lst{Overview_Fra, "Events_Lst"};
+    Label Countdown_Name_Lbl{Overview_Fra, "Countdown_Name_Lbl", "Countdown:"};
+    Label Countdown_Lbl{Overview_Fra, "Countdown_Lbl"};
 
-    Frame Events_Fra;
-    Label Total_All_Lbl;
-    Label Total_Year_Lbl;
-    Label Before_Lbl;
-    Label After_Lbl;
+    Frame Events_Fra{frame_, "Events_Fra", "Events"};
+    Label Total_All_Lbl{Events_Fra, "Total_All_Lbl"};
+    Label Total_Year_Lbl{Events_Fra, "Total_Year_Lbl"};
+    Label Before_Lbl{Events_Fra, "Before_Lbl"};
+    Label After_Lbl{Events_Fra, "After_Lbl"};
 
-    Frame Yearview_Fra;
-    Control_Array<Label, 12> Month_Count_Lbl;
+    Frame Yearview_Fra{frame_, "Yearview_Fra", "This Year"};
+    Control_Array<Label, 12> Month_Count_Lbl{Yearview_Fra, "Month_Count_Lbl"};
 
 private:
     void Wire_Events();
@@ -71,7 +69,7 @@ private:
     Reading Load_Dates();
     void Write_Labels();
     Reading Loadin_Data();
-    void Sort_List();
+    void Sort_List(Reading reading);
     void List_Events();
     void Events_Lst_KeyDown(const platform::Input_Event &event);
     bool Remove_Event(std::size_t line);

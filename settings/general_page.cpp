@@ -7,20 +7,13 @@
 
 using namespace layout;
 
-General_Page::General_Page(Form &dialog, Frame &frame, Main_Frm &calendar)
-    : Title_Bar_Fra(dialog, "Title_Bar_Fra", "Title Bar"), Bar_Time_Chk(dialog, "Bar_Time_Chk", "&Time:"),
-      Bar_Time_Lbl(dialog, "Bar_Time_Lbl", "Time:"), Bar_Time_Cbo(dialog, "Bar_Time_Cbo"),
-      Bar_Date_Lbl(dialog, "Bar_Date_Lbl", "&Date:"), Bar_Date_Cbo(dialog, "Bar_Date_Cbo"),
-      Bar_Preview_Lbl(dialog, "Bar_Preview_Lbl", "13:56:21 - 11th May - 2002"),
-      General_Fra(dialog, "General_Fra", "General Settings"),
-      Auto_Compact_Chk(dialog, "Auto_Compact_Chk", "Switch into &Compact Mode when not in use"),
-      Allow_Dragging_Chk(dialog, "Allow_Dragging_Chk",
-                         "Allow d&ragging when Manual Position is not selected"),
-      Alert_Chk(dialog, "Alert_Chk", "A&lert me when a date Comes up"),
-      Startup_Chk(dialog, "Startup_Chk", "Run at &Startup"), calendar_(calendar) {
-    frame.Hold(Title_Bar_Fra, Startup_Chk);
-    Title_Bar_Fra.Hold(Bar_Time_Chk, Bar_Preview_Lbl);
-    General_Fra.Hold(Auto_Compact_Chk, Startup_Chk);
+General_Page::General_Page(Frame &frame, Main_Frm &calendar) : Page(frame), calendar_(calendar) {
+    choices_ = {{&Bar_Time_Chk, &Settings::Bar_Time},
+                {&Bar_Time_Cbo, &Settings::Bar_Time_Format},
+                {&Bar_Date_Cbo, &Settings::Bar_Date_Format},
+                {&Auto_Compact_Chk, &Settings::Auto_Compact},
+                {&Allow_Dragging_Chk, &Settings::Allow_Dragging},
+                {&Alert_Chk, &Settings::Show_Alerts}};
     Bar_Time_Lbl.Set_Visible(false);
     Bar_Time_Cbo.Set_Editable();
     Bar_Time_Cbo.Set_Items({"H:mm", "HH:mm", "H:mm:ss", "HH:mm:ss", "h:mm AM/PM", "h:mm:ss AM/PM"});
@@ -37,6 +30,12 @@ General_Page::General_Page(Form &dialog, Frame &frame, Main_Frm &calendar)
     }
     preview_timer_.On_Timer = show;
     Lay_Out();
+}
+
+void General_Page::Show(const Settings &settings) {
+    Page::Show(settings);
+    Get_Startup_Value();
+    Show_Preview();
 }
 
 void General_Page::Get_Startup_Value() {
@@ -61,24 +60,14 @@ void General_Page::Set_Watched(bool watched) {
 
 void General_Page::Lay_Out() {
     constexpr int label_width = 60 * 15;
-    constexpr int combo_left = margin + label_width + gap;
-    constexpr int combo_width = page_width - combo_left - margin;
     constexpr int preview_height = 26 * 15;
-    int top = group_top;
-    Bar_Time_Chk.Move({margin, top + (row_height - check_height) / 2, label_width, check_height});
-    Bar_Time_Cbo.Move({combo_left, top, combo_width, row_height});
-    top += row_height + gap;
-    const int line = platform::Line_Height(Bar_Date_Lbl.Font());
-    Bar_Date_Lbl.Move({margin, top + (row_height - line) / 2, label_width, line});
-    Bar_Date_Cbo.Move({combo_left, top, combo_width, row_height});
-    top += row_height + margin;
-    Bar_Preview_Lbl.Move({margin, top, inner_width, preview_height});
-    Title_Bar_Fra.Move({0, 0, page_width, top + preview_height + margin});
-
-    top = group_top;
-    for (Check_Box *box : {&Auto_Compact_Chk, &Allow_Dragging_Chk, &Alert_Chk, &Startup_Chk}) {
-        box->Move({margin, top, inner_width, check_height});
-        top += check_height + small_gap;
-    }
-    General_Fra.Move({0, Title_Bar_Fra.Bounds().Bottom() + gap, page_width, top - small_gap + margin});
+    Rows title = Group_Rows();
+    title.Add_Pair(Bar_Time_Chk, label_width, Bar_Time_Cbo);
+    title.Add_Pair(Bar_Date_Lbl, label_width, Bar_Date_Cbo, margin);
+    title.Add(Bar_Preview_Lbl, margin, preview_height);
+    Rows general = Group_Rows();
+    general.Add_All(General_Fra);
+    Rows page = Page_Rows();
+    page.Add(Title_Bar_Fra, gap, title.Top());
+    page.Add(General_Fra, gap, general.Bottom() + margin);
 }

@@ -1,15 +1,14 @@
-// The page "Settings" of the settings dialog: what the calendar's title shows, and the general settings. Its
-// choices are saved in saving.cpp.
+// The page "Settings" of the settings dialog: what the calendar's title shows, and the general settings.
 #pragma once
 
 #include "settings/page.h"
 #include "toolkit/timer.h"
 
-class General_Page {
+class General_Page final : public Page {
 public:
-    [[gnu::noinline]] General_Page(Form &dialog, Frame &frame, Main_Frm &calendar);
-    /// Places the controls, also after a change of the dots per inch.
-    void Lay_Out();
+    General_Page(Frame &frame, Main_Frm &calendar);
+    void Show(const Settings &settings) override;
+    void Lay_Out() override;
 
     /// Ticks the start-up box where the system has a start-up entry, also an empty one: unticking leaves such
     /// a one behind, so that the box is ticked again at the next opening.
@@ -19,18 +18,20 @@ public:
     /// Whether the page can be seen: only then the preview goes with the time.
     void Set_Watched(bool watched);
 
-    Frame Title_Bar_Fra;
-    Check_Box Bar_Time_Chk;
-    Label Bar_Time_Lbl; ///< never seen: names the combo box for who cannot see
-    Combo_Box Bar_Time_Cbo;
-    Label Bar_Date_Lbl;
-    Combo_Box Bar_Date_Cbo;
-    Label Bar_Preview_Lbl;
-    Frame General_Fra;
-    Check_Box Auto_Compact_Chk;
-    Check_Box Allow_Dragging_Chk;
-    Check_Box Alert_Chk;
-    Check_Box Startup_Chk;
+    Frame Title_Bar_Fra{frame_, "Title_Bar_Fra", "Title Bar"};
+    Check_Box Bar_Time_Chk{Title_Bar_Fra, "Bar_Time_Chk", "&Time:"};
+    Label Bar_Time_Lbl{Title_Bar_Fra, "Bar_Time_Lbl", "Time:"}; ///< never seen: names the combo box
+    Combo_Box Bar_Time_Cbo{Title_Bar_Fra, "Bar_Time_Cbo"};
+    Label Bar_Date_Lbl{Title_Bar_Fra, "Bar_Date_Lbl", "&Date:"};
+    Combo_Box Bar_Date_Cbo{Title_Bar_Fra, "Bar_Date_Cbo"};
+    Label Bar_Preview_Lbl{Title_Bar_Fra, "Bar_Preview_Lbl", "13:56:21 - 11th May - 2002"};
+    Frame General_Fra{frame_, "General_Fra", "General Settings"};
+    Check_Box Auto_Compact_Chk{General_Fra, "Auto_Compact_Chk", "Switch into &Compact Mode when not in use"};
+    Check_Box Allow_Dragging_Chk{General_Fra, "Allow_Dragging_Chk",
+                                 "Allow d&ragging when Manual Position is not selected"};
+    Check_Box Alert_Chk{General_Fra, "Alert_Chk", "A&lert me when a date Comes up"};
+    Check_Box Startup_Chk{General_Fra, "Startup_Chk", "Run at &Startup"};
+    Label Startup_Lbl{General_Fra, "Startup_Lbl", "For all users; needs an administrator's rights."};
 
 private:
     Main_Frm &calendar_;

@@ -6,6 +6,44 @@
 
 #include <utility>
 
+namespace {
+
+void Show_In(Control &control, const std::string &text) {
+    static_cast<Combo_Box &>(control).Set_Text(text);
+}
+
+void Show_In(Control &control, int number) {
+    if (control.State().kind == platform::Control_Kind::Combo_Box)
+        static_cast<Combo_Box &>(control).Select(number);
+    else
+        static_cast<Check_Box &>(control).Set_Checked(number != 0);
+}
+
+void Take_From(const platform::Control_State &control, std::string &text) {
+    text = control.caption;
+}
+
+template <typename Number>
+void Take_From(const platform::Control_State &control, Number &number) {
+    if (control.kind != platform::Control_Kind::Combo_Box)
+        number = control.checked;
+    else if (control.selected != -1)
+        number = static_cast<Number>(control.selected);
+}
+
+} // namespace
+
+void Page::Show(const Settings &settings) {
+    for (const Choice &choice : choices_)
+        std::visit([&](auto member) { Show_In(*choice.control, settings.*member); }, choice.setting);
+}
+
+void Page::Put(Settings &settings) const {
+    for (const Choice &choice : choices_)
+        std::visit([&](auto member) { Take_From(choice.control->State(), settings.*member); },
+                   choice.setting);
+}
+
 void Name_Aloud(Control &control, const char *name) {
     platform::Access_State access;
     access.name = name;

@@ -1,27 +1,21 @@
 // What the pages of the settings dialog have in common: their includes, their colours, the examples of boxes
-// on them, and distances in twips, of which 15 are a pixel at 96 dots per inch. The pages' constructors are
-// not to be inlined: all in one, in that of the dialog, they take more code.
+// on them, and how they show settings and take what is chosen.
 #pragma once
 
 #include "calendar/main_frm.h"
 #include "toolkit/form.h"
 #include "toolkit/list_controls.h"
+#include "toolkit/rows.h"
+
+#include <vector>
 
 class Box_Layout;
 
 namespace layout {
 
-constexpr int one_pixel = 15;
 constexpr int page_width = 5280;
 constexpr int page_height = 5400;
-constexpr int margin = 11 * 15; ///< inside of a group box
-constexpr int gap = 7 * 15;
-constexpr int small_gap = 4 * 15;
-constexpr int group_top = 18 * 15; ///< from the top of a group box to its first row
-constexpr int group_gap = 5 * 15;  ///< between group boxes, which have room at their tops
-constexpr int row_height = 21 * 15;
-constexpr int check_height = 18 * 15;
-constexpr int button_height = 23 * 15;
+constexpr int group_gap = 5 * 15;                    ///< between group boxes, which have room at their tops
 constexpr int inner_width = page_width - 2 * margin; ///< of a group box as wide as the page
 
 constexpr int backdrop = 6 * 15; ///< of desktop around boxes of the calendar
@@ -34,6 +28,43 @@ constexpr Colour face_colour = System_Colour(15);
 constexpr Colour shadow_colour = System_Colour(16);
 constexpr Colour grey_text_colour = System_Colour(17);
 constexpr Colour text_colour = System_Colour(18);
+
+/// A page: its controls are made in its frame, in the order of the Tab key.
+class Page {
+public:
+    Page(const Page &) = delete;
+    Page &operator=(const Page &) = delete;
+
+    /// Shows the settings.
+    virtual void Show(const Settings &settings);
+    /// Puts what is chosen into the settings. What is no choice leaves its setting as it is.
+    virtual void Put(Settings &settings) const;
+    /// Places the controls, also after a change of the dots per inch.
+    virtual void Lay_Out() = 0;
+
+protected:
+    explicit Page(Frame &frame) : frame_(frame), dialog_(frame.Owner()) {}
+    ~Page() = default;
+
+    /// A control that holds a setting as it stands: a check box a flag, an editable combo box a text, another
+    /// one a number.
+    struct Choice {
+        Control *control;
+        Setting_Member setting;
+    };
+    std::vector<Choice> choices_;
+
+    Frame &frame_;
+    Form &dialog_;
+};
+
+/// Rows over the whole width of a page, and of a group box on it.
+inline Rows Page_Rows() {
+    return {0, 0, layout::page_width};
+}
+inline Rows Group_Rows() {
+    return {layout::margin, layout::group_top, layout::inner_width};
+}
 
 /// Gives a control without a caption the name that is read aloud.
 void Name_Aloud(Control &control, const char *name);

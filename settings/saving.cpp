@@ -91,15 +91,8 @@ void Settings_Frm::Save_Bar_Settings(const Settings &shown) {
 }
 
 Settings Settings_Frm::Shown_Configuration() const {
-    // What no page shows, and choices that are none, stay as they are.
-    Settings shown = Wallpaper.Choices();
-    Colours.Put_Choices(shown);
-    shown.Show_Alerts = General.Alert_Chk.Checked();
-    shown.Allow_Dragging = General.Allow_Dragging_Chk.Checked();
-    shown.Auto_Compact = General.Auto_Compact_Chk.Checked();
-    shown.Bar_Time = General.Bar_Time_Chk.Checked();
-    shown.Bar_Time_Format = General.Bar_Time_Cbo.Text();
-    shown.Bar_Date_Format = General.Bar_Date_Cbo.Text();
-    shown.Tooltips = Tooltips.Selected();
+    Settings shown = Cur_Settings;
+    for (const Page *page : pages_)
+        page->Put(shown);
     return shown;
 }

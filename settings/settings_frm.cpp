@@ -18,23 +18,12 @@ constexpr Rect tabs{105, 75, 5520, 6195};
 constexpr int below_tabs = 420; ///< for the buttons
 constexpr int page_left = 225;
 constexpr int page_top = 765;
-constexpr int button_width = 75 * 15;
-constexpr int button_height = 22 * 15;
-constexpr int gap = 7 * 15;
 constexpr int window_frame = 8 * 15; ///< left and right of the dialog, estimated
 
 } // namespace
 
 Settings_Frm::Settings_Frm(Main_Frm &calendar)
-    : Form(platform::Form_Kind::Dialog, "Settings_Frm"), TabStrip1(*this, "TabStrip1"),
-      Settings_Fra(*this, "Settings_Fra"), Events(*this, Settings_Fra[events_fra], calendar),
-      Colours(*this, Settings_Fra[colours_fra], calendar),
-      General(*this, Settings_Fra[general_fra], calendar), Style(*this, Settings_Fra[style_fra], calendar),
-      Tooltips(*this, Settings_Fra[tooltips_fra], calendar.Balloon),
-      Wallpaper(*this, Settings_Fra[wallpaper_fra], calendar, Style),
-      Transfer(*this, Settings_Fra[transfer_fra], calendar), About(*this, Settings_Fra[about_fra]),
-      Ok_Btn(*this, "Ok_Btn", "OK"), Cancel_Btn(*this, "Cancel_Btn", "Cancel"),
-      Apply_Btn(*this, "Apply_Btn", "&Apply"), calendar_(calendar) {
+    : Form(platform::Form_Kind::Dialog, "Settings_Frm"), calendar_(calendar) {
     Set_Title("Settings");
     TabStrip1.Set_Items({"Events", "Colours", "Settings", "Style && Position", "Tooltips", "Wallpaper",
                          "Import\\Export", "About"});
@@ -42,11 +31,8 @@ Settings_Frm::Settings_Frm(Main_Frm &calendar)
     TabStrip1.Move(tabs);
     Ok_Btn.Set_Default(true);
     Cancel_Btn.Set_Cancel(true);
-    int left = tabs.Right() - 3 * button_width - 2 * gap;
-    for (Button *button : {&Ok_Btn, &Cancel_Btn, &Apply_Btn}) {
-        button->Move({left, tabs.Bottom() + (below_tabs - button_height) / 2, button_width, button_height});
-        left += button_width + gap;
-    }
+    Place_Buttons({&Ok_Btn, &Cancel_Btn, &Apply_Btn}, tabs.Right(),
+                  tabs.Bottom() + (below_tabs - layout::button_height) / 2);
     TabStrip1.On_Click = [this] { TabStrip1_Click(); };
     Ok_Btn.On_Click = [this] { Ok_Btn_Click(); };
     Cancel_Btn.On_Click = [this] { Cancel_Btn_Click(); };
@@ -57,15 +43,19 @@ Settings_Frm::Settings_Frm(Main_Frm &calendar)
     };
     Apply_Btn.On_Click = [this] { Apply_Btn_Click(); };
     Transfer.Shown_Configuration = [this] { return Shown_Configuration(); };
-    Transfer.Show_Staged = [this](std::vector<Sort_Entry> staged) {
+    Transfer.Import.Show_Staged = [this](std::vector<Sort_Entry> staged) {
         Events.Show_Imported(std::move(staged));
     };
-    Transfer.Data_File_Replaced = [this] { Events.Reload(); };
-    Transfer.Configuration_Imported = [this] { Form_Unload(); };
-    Transfer.Configuration_Partly_Imported = [this] { Load_Pages(); };
+    Transfer.Import.Data_File_Replaced = [this] { Events.Reload(); };
+    Transfer.Import.Configuration_Changed = [this] { Form_Unload(); };
+    Transfer.Import.Configuration_Partly_Changed = [this] { Load_Pages(); };
     On_Close = [this] { Form_Unload(); };
     On_Window_Lost = [this] { Form_Unload(); };
-    On_Dots_Changed = [this] { Lay_Out(); };
+    // The pages measure their texts, which are a little wider or narrower then.
+    On_Dots_Changed = [this] {
+        for (Page *page : pages_)
+            page->Lay_Out();
+    };
     On_Capture_Lost = [this] { Tooltips.Release(); };
 }
 
@@ -105,17 +95,10 @@ void Settings_Frm::Load_Pages() {
             Position_Frames();
             Select_Stored_Tab();
         },
-        [this] { Tooltips.Select(Cur_Settings.Tooltips); },
-        [this] { Load_General_Settings(); },
+        [this] { Tooltips.Show(Cur_Settings); },
+        [this] { General.Show(Cur_Settings); },
         [this] { Events.Open_Overview(); },
-        [this] {
-            Wallpaper.Other_Display_Chk.Set_Checked(Cur_Settings.Use_Other_Display_Mode);
-            Wallpaper.Display_Cbo.Select(Cur_Settings.Other_Display_Mode);
-        },
-        [this] { General.Get_Startup_Value(); },
-        [this] { Wallpaper.Get_Papers(); },
-        [this] { Wallpaper.Get_Themes(); },
-        [this] { Wallpaper.Get_Wallpaper(); },
+        [this] { Wallpaper.Show(Cur_Settings); },
         [this] { Style.Preview_Position(); },
     };
     for (const auto &step : steps)
@@ -129,31 +112,9 @@ void Settings_Frm::Block_Others(Form *modal) {
         calendar_.Block_Editor(modal);
 }
 
-/// The pages measure their texts, which are a little wider or narrower at other dots per inch.
-void Settings_Frm::Lay_Out() {
-    Events.Lay_Out();
-    Colours.Lay_Out();
-    General.Lay_Out();
-    Style.Lay_Out();
-    Tooltips.Lay_Out();
-    Wallpaper.Lay_Out();
-    Transfer.Lay_Out();
-    About.Lay_Out();
-}
-
 void Settings_Frm::Load_Settings() {
-    Colours.Load_Settings();
-    Style.Load_Settings();
-}
-
-void Settings_Frm::Load_General_Settings() {
-    General.Alert_Chk.Set_Checked(Cur_Settings.Show_Alerts != 0);
-    General.Auto_Compact_Chk.Set_Checked(Cur_Settings.Auto_Compact != 0);
-    General.Allow_Dragging_Chk.Set_Checked(Cur_Settings.Allow_Dragging != 0);
-    General.Bar_Time_Cbo.Set_Text(Cur_Settings.Bar_Time_Format);
-    General.Bar_Date_Cbo.Set_Text(Cur_Settings.Bar_Date_Format);
-    General.Bar_Time_Chk.Set_Checked(Cur_Settings.Bar_Time);
-    General.Show_Preview();
+    Colours.Show(Cur_Settings);
+    Style.Show(Cur_Settings);
 }
 
 void Settings_Frm::Position_Frames() {
@@ -229,8 +190,8 @@ void Settings_Frm::Place_Beside_Calendar() {
     const Rect area = Pixels_To_Twips(platform::Work_Area_Around(
         {Twips_To_Pixels(calendar_.Left() + calendar_.Width() / 2), Twips_To_Pixels(calendar_.Top())}));
     const int width = Width() + 2 * window_frame;
-    const int right = calendar_.Left() + calendar_.Width() + gap;
-    const int left = calendar_.Left() - gap - width;
+    const int right = calendar_.Left() + calendar_.Width() + layout::gap;
+    const int left = calendar_.Left() - layout::gap - width;
     const bool room_right = area.Right() - right >= calendar_.Left() - area.left;
     Move(room_right ? std::min(right, area.Right() - width) : std::max(left, area.left), calendar_.Top());
 }

@@ -16,6 +16,7 @@
 #include "toolkit/form.h"
 #include "toolkit/list_controls.h"
 
+#include <array>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -23,9 +24,11 @@
 /// Modal to the calendar and to the editor. An object serves one opening, so that nothing of a former one can
 /// survive in it; after its end it must stay until its last event has returned (Busy).
 class Settings_Frm : public Form {
+    Main_Frm &calendar_; // which the pages take
+
 public:
     static constexpr int page_count = 8;
-    enum Page {
+    enum Page_Index {
         events_fra,
         colours_fra,
         general_fra,
@@ -67,32 +70,31 @@ public:
     /// The settings as the pages show them, changes that are not applied yet included.
     Settings Shown_Configuration() const;
 
-    Tab_Strip TabStrip1;
-    Control_Array<Frame, page_count> Settings_Fra;
-    Events_Page Events;
-    Colours_Page Colours;
-    General_Page General;
-    Style_Page Style;
-    Tooltips_Page Tooltips;
-    Wallpaper_Page Wallpaper;
-    Transfer_Page Transfer;
-    About_Page About;
-    Button Ok_Btn;
-    Button Cancel_Btn;
-    Button Apply_Btn;
+    Tab_Strip TabStrip1{*this, "TabStrip1"};
+    Control_Array<Frame, page_count> Settings_Fra{*this, "Settings_Fra"};
+    Events_Page Events{Settings_Fra[events_fra], calendar_};
+    Colours_Page Colours{Settings_Fra[colours_fra], calendar_};
+    General_Page General{Settings_Fra[general_fra], calendar_};
+    Style_Page Style{Settings_Fra[style_fra], calendar_};
+    Tooltips_Page Tooltips{Settings_Fra[tooltips_fra], calendar_.Balloon};
+    Wallpaper_Page Wallpaper{Settings_Fra[wallpaper_fra], calendar_, Style};
+    Transfer_Page Transfer{Settings_Fra[transfer_fra], calendar_};
+    About_Page About{Settings_Fra[about_fra]};
+    Button Ok_Btn{*this, "Ok_Btn", "OK"};
+    Button Cancel_Btn{*this, "Cancel_Btn", "Cancel"};
+    Button Apply_Btn{*this, "Apply_Btn", "&Apply"};
 
 private:
-    void Lay_Out();
     void Open();
     void Load_Pages();
     void Load_Settings();
-    void Load_General_Settings();
     void Position_Frames();
     void Select_Stored_Tab();
     void Place_Beside_Calendar();
     void Block_Others(Form *modal);
 
-    Main_Frm &calendar_;
+    const std::array<Page *, page_count> pages_{&Events,   &Colours,   &General,  &Style,
+                                                &Tooltips, &Wallpaper, &Transfer, &About};
     int events_ = 0; ///< that have not returned yet
     bool open_ = false;
 };

@@ -5,7 +5,6 @@
 #include "core/settings.h"
 #include "desktop/position.h"
 #include "settings/screen_miniature.h"
-#include "settings/theme_names.h"
 #include "toolkit/keys.h"
 #include "toolkit/units.h"
 
@@ -20,11 +19,9 @@ constexpr int group_bottom = 8 * 15;
 constexpr int options_width = 118 * 15; ///< column left of the miniature
 constexpr int hint_lines = 4;
 constexpr int manual_lines = 5;
-constexpr int option_mark = 18 * 15; ///< before the caption
 constexpr int marker_size = 7 * 15;
 
-constexpr const char *place_hint = "Click a place on the screen, or choose it with the arrow keys.";
-constexpr const char *theme_hint = "The theme pack decides; see Wallpaper.";
+constexpr const char *place_hint = "Click a place in the picture, or use the arrow keys.";
 
 Size Size_Of(const Control &control) {
     return {control.Width(), control.Height()};
@@ -32,19 +29,7 @@ Size Size_Of(const Control &control) {
 
 } // namespace
 
-Style_Page::Style_Page(Form &dialog, Frame &frame, Main_Frm &calendar)
-    : Style_Fra(dialog, "Style_Fra", "Box Style"), Style1_Opt(dialog, "Style1_Opt", Box_Style_Name(0)),
-      Style2_Opt(dialog, "Style2_Opt", Box_Style_Name(1)), Backdrop1_Pic(dialog, "Backdrop1_Pic"),
-      Backdrop2_Pic(dialog, "Backdrop2_Pic"), Example1_Lbl(dialog, "Example1_Lbl", " 12"),
-      Example2_Lbl(dialog, "Example2_Lbl", "Event"), Example3_Lbl(dialog, "Example3_Lbl", " 12"),
-      Example4_Lbl(dialog, "Example4_Lbl", "Event"), Style_Theme_Lbl(dialog, "Style_Theme_Lbl", theme_hint),
-      Position_Fra(dialog, "Position_Fra", "Position"), Pos_Set_Opt(dialog, "Pos_Set_Opt", "&Set position"),
-      Pos_Hint_Lbl(dialog, "Pos_Hint_Lbl", place_hint),
-      Pos_Manual_Opt(dialog, "Pos_Manual_Opt", "&Manual position"), Manual_Lbl(dialog, "Manual_Lbl"),
-      Pos_Preview_Img(dialog, "Pos_Preview_Img"), Position_Lbl(dialog, "Position_Lbl"), calendar_(calendar) {
-    frame.Hold(Style_Fra, Position_Lbl);
-    Style_Fra.Hold(Style1_Opt, Style_Theme_Lbl);
-    Position_Fra.Hold(Pos_Set_Opt, Position_Lbl);
+Style_Page::Style_Page(Frame &frame, Main_Frm &calendar) : Page(frame), calendar_(calendar) {
     Wire_Examples();
     Style1_Opt.On_Click = [this] { Choose_Style(Style1_Opt); };
     Style2_Opt.On_Click = [this] { Choose_Style(Style2_Opt); };
@@ -75,16 +60,21 @@ void Style_Page::Wire_Examples() {
         backdrop_pic->Set_Back_Colour(desktop_colour);
 }
 
-void Style_Page::Load_Settings() {
+void Style_Page::Show(const Settings &settings) {
     // The calendar shows every number but 0 as the square box.
-    (Cur_Settings.Style == 0 ? Style1_Opt : Style2_Opt).Set_Checked(true);
-    (Cur_Settings.Alignment == Manual_Position ? Pos_Manual_Opt : Pos_Set_Opt).Set_Checked(true);
-    set_position_ = Is_Place(Cur_Settings.Alignment) ? Cur_Settings.Alignment : std::int16_t{0};
+    (settings.Style == 0 ? Style1_Opt : Style2_Opt).Set_Checked(true);
+    (settings.Alignment == Manual_Position ? Pos_Manual_Opt : Pos_Set_Opt).Set_Checked(true);
+    set_position_ = Is_Place(settings.Alignment) ? settings.Alignment : std::int16_t{0};
     const auto pixels = [](int twips) { return std::to_string(Twips_To_Pixels(twips)) + " pixels\n"; };
-    Manual_Lbl.Set_Caption("X: " + pixels(Cur_Settings.Manual_PosX) +
-                           "Y: " + pixels(Cur_Settings.Manual_PosY) + "Drag the calendar by its title.");
+    Manual_Lbl.Set_Caption("X: " + pixels(settings.Manual_PosX) + "Y: " + pixels(settings.Manual_PosY) +
+                           "Drag the calendar by its title.");
     Style_Preview();
     Show_Position();
+}
+
+void Style_Page::Put(Settings &settings) const {
+    settings.Style = Chosen_Style();
+    settings.Alignment = Chosen_Position();
 }
 
 void Style_Page::Set_Theme(const Theme_Look &look) {
@@ -192,24 +182,24 @@ void Style_Page::Lay_Out() {
     const auto example = [](const Box_Layout &style, Option_Button &option, Picture_Box &desktop,
                             Label &number, Label &text, int left) {
         option.Move({left, group_top, column_width - margin, check_height});
-        Place_Example(style, number, text, left + option_mark + backdrop, box_top);
+        Place_Example(style, number, text, left + check_mark + backdrop, box_top);
         desktop.Move({number.Left() - backdrop, number.Top() - backdrop, number.Width() + 2 * backdrop,
                       number.Height() + 2 * backdrop});
     };
     example(styles[0], Style1_Opt, Backdrop1_Pic, Example1_Lbl, Example2_Lbl, margin);
     example(styles[1], Style2_Opt, Backdrop2_Pic, Example3_Lbl, Example4_Lbl, column_width);
     const int line = platform::Line_Height(Manual_Lbl.Font());
-    Style_Theme_Lbl.Move({margin, Backdrop2_Pic.Bounds().Bottom() + small_gap, inner_width, line});
-    Style_Fra.Move({0, 0, page_width, Style_Theme_Lbl.Bounds().Bottom() + group_bottom});
+    Rows style{margin, Backdrop2_Pic.Bounds().Bottom() + small_gap, inner_width};
+    style.Add(Style_Theme_Lbl, group_bottom);
+    Rows page = Page_Rows();
+    page.Add(Style_Fra, group_gap, style.Top());
+    page.Add(Position_Fra, 0, page_height - page.Top());
 
-    const int top = Style_Fra.Height() + group_gap;
-    Position_Fra.Move({0, top, page_width, page_height - top});
-    const int text_width = options_width - option_mark;
-    Pos_Set_Opt.Move({margin, group_top, options_width, check_height});
-    Pos_Hint_Lbl.Move({margin + option_mark, group_top + check_height, text_width, hint_lines * line});
-    Pos_Manual_Opt.Move({margin, Pos_Hint_Lbl.Bounds().Bottom() + gap, options_width, check_height});
-    Manual_Lbl.Move(
-        {margin + option_mark, Pos_Manual_Opt.Bounds().Bottom(), text_width, manual_lines * line});
+    Rows position{margin, group_top, options_width};
+    position.Add(Pos_Set_Opt);
+    position.Add_Note(Pos_Hint_Lbl, gap, hint_lines * line);
+    position.Add(Pos_Manual_Opt);
+    position.Add_Note(Manual_Lbl, gap, manual_lines * line);
 
     const int left = margin + options_width + gap;
     const Size room{page_width - left - margin,

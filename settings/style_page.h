@@ -4,6 +4,7 @@
 
 #include "platform/pictures.h"
 #include "settings/page.h"
+#include "settings/theme_names.h"
 
 #include <cstdint>
 #include <optional>
@@ -17,25 +18,21 @@ struct Theme_Look {
     Picture picture; ///< the wallpaper; none: the desktop's own colour is shown
 };
 
-class Style_Page {
+class Style_Page final : public Page {
 public:
     using Theme_Look = ::Theme_Look;
+    static constexpr const char *theme_hint = "The theme chooses these. See the page Wallpaper.";
 
-    [[gnu::noinline]] Style_Page(Form &dialog, Frame &frame, Main_Frm &calendar);
+    Style_Page(Frame &frame, Main_Frm &calendar);
+    /// A position that is no code is shown as the first one.
+    void Show(const Settings &settings) override;
+    void Put(Settings &settings) const override;
+    void Lay_Out() override;
 
-    /// Shows style and position of the settings. A position that is no code is shown as the first one.
-    void Load_Settings();
     /// Shows what a theme pack decides, and locks the choices that it rules.
     void Set_Theme(const Theme_Look &look);
-    /// Places the controls, also after a change of the dots per inch.
-    void Lay_Out();
-
     /// The code of the chosen place.
     std::int16_t Get_Set_Position() const { return set_position_; }
-
-    // As the settings hold the choices.
-    std::int16_t Chosen_Style() const;
-    std::int16_t Chosen_Position() const;
 
     // These keep the previews true to the choices.
     void Style_Preview();
@@ -43,23 +40,24 @@ public:
     /// Names the chosen place, which Preview_Position marks on the miniature.
     void Position_Boxes();
 
-    Frame Style_Fra;
-    Option_Button Style1_Opt;  ///< "Thin Box", 0 in the settings
-    Option_Button Style2_Opt;  ///< "Square Box", 1 in the settings
-    Picture_Box Backdrop1_Pic; ///< the desktop behind the example; a click on it counts as one on that
-    Picture_Box Backdrop2_Pic;
-    Label Example1_Lbl; ///< a box with its number in style 1
-    Label Example2_Lbl; ///< the text in it
-    Label Example3_Lbl; ///< the same in style 2
-    Label Example4_Lbl;
-    Label Style_Theme_Lbl; ///< says why the styles are locked
-    Frame Position_Fra;
-    Option_Button Pos_Set_Opt;
-    Label Pos_Hint_Lbl; ///< says how a place is chosen, or why none can be
-    Option_Button Pos_Manual_Opt;
-    Label Manual_Lbl;            ///< the coordinates of the manual position
-    Picture_Box Pos_Preview_Img; ///< the miniature
-    Label Position_Lbl;          ///< name of the position that it shows
+    Frame Style_Fra{frame_, "Style_Fra", "Box Style"};
+    Option_Button Style1_Opt{Style_Fra, "Style1_Opt", Box_Style_Name(0)}; ///< 0 in the settings
+    Option_Button Style2_Opt{Style_Fra, "Style2_Opt", Box_Style_Name(1)}; ///< 1 in the settings
+    // The desktop behind the examples; a click on any part of one counts as one on its option.
+    Picture_Box Backdrop1_Pic{Style_Fra, "Backdrop1_Pic"};
+    Picture_Box Backdrop2_Pic{Style_Fra, "Backdrop2_Pic"};
+    Label Example1_Lbl{Style_Fra, "Example1_Lbl", " 12"};   ///< a box with its number in style 1
+    Label Example2_Lbl{Style_Fra, "Example2_Lbl", "Event"}; ///< the text in it
+    Label Example3_Lbl{Style_Fra, "Example3_Lbl", " 12"};   ///< the same in style 2
+    Label Example4_Lbl{Style_Fra, "Example4_Lbl", "Event"};
+    Label Style_Theme_Lbl{Style_Fra, "Style_Theme_Lbl", theme_hint}; ///< says why the styles are locked
+    Frame Position_Fra{frame_, "Position_Fra", "Position"};
+    Option_Button Pos_Set_Opt{Position_Fra, "Pos_Set_Opt", "&Set position"};
+    Label Pos_Hint_Lbl{Position_Fra, "Pos_Hint_Lbl"}; ///< says how a place is chosen, or why none can be
+    Option_Button Pos_Manual_Opt{Position_Fra, "Pos_Manual_Opt", "&Manual position"};
+    Label Manual_Lbl{Position_Fra, "Manual_Lbl"};                 ///< the coordinates of the manual position
+    Picture_Box Pos_Preview_Img{Position_Fra, "Pos_Preview_Img"}; ///< the miniature
+    Label Position_Lbl{Position_Fra, "Position_Lbl"};             ///< name of the position that it shows
 
 private:
     void Wire_Examples();
@@ -68,6 +66,8 @@ private:
     void Key_Over_Miniature(const platform::Input_Event &event);
     void Paint_Miniature(platform::Canvas &canvas);
     void Show_Position();
+    std::int16_t Chosen_Style() const;
+    std::int16_t Chosen_Position() const;
     std::int16_t Shown_Style() const;
     std::int16_t Shown_Position() const;
 

@@ -35,17 +35,11 @@ constexpr std::array<Kind, 3> kinds{{
 
 } // namespace
 
-Tooltips_Page::Tooltips_Page(Form &dialog, Frame &frame, Held_Balloon &balloon)
-    : Tips_Opt(dialog, "Tips_Opt"), TipsNotes_Lbl(dialog, "TipsNotes_Lbl"),
-      Preview_Fra(dialog, "Preview_Fra", "Preview"), TipsTrigger_Lbl(dialog, "TipsTrigger_Lbl"),
-      TipExample_Lbl(dialog, "TipExample_Lbl", "Example"), TipBoxExample_Lbl(dialog, "TipBoxExample_Lbl"),
-      dialog_(dialog), balloon_(balloon) {
+Tooltips_Page::Tooltips_Page(Frame &frame, Held_Balloon &balloon) : Page(frame), balloon_(balloon) {
     for (int i = 0; i < static_cast<int>(kinds.size()); ++i) {
         Tips_Opt[i].Set_Caption(kinds[static_cast<std::size_t>(i)].caption);
         Tips_Opt[i].On_Click = [this, i] { Tips_Opt_Click(i); };
     }
-    frame.Hold(Tips_Opt[0], TipBoxExample_Lbl);
-    Preview_Fra.Hold(TipsTrigger_Lbl, TipBoxExample_Lbl);
     for (Label *label : {&TipExample_Lbl, &TipBoxExample_Lbl}) {
         label->Set_Painted();
         label->On_Mouse_Down = [this](Mouse_Button button, Point) {
@@ -67,20 +61,17 @@ void Tooltips_Page::Dress_Examples() {
     Dress_Today(TipBoxExample_Lbl, Cur_Settings.Col_Today);
 }
 
-void Tooltips_Page::Select(std::int16_t kind) {
-    const int index = kind >= 0 && kind <= balloons ? kind : 1;
+void Tooltips_Page::Show(const Settings &settings) {
+    const int index = settings.Tooltips >= 0 && settings.Tooltips <= balloons ? settings.Tooltips : 1;
     Tips_Opt[index].Set_Checked(true);
     Tips_Opt_Click(index);
 }
 
-std::int16_t Tooltips_Page::Selected() const {
-    std::int16_t index = 0;
-    for (const Option_Button &option : Tips_Opt) {
-        if (option.Checked())
-            return index;
-        ++index;
-    }
-    return 0;
+void Tooltips_Page::Put(Settings &settings) const {
+    settings.Tooltips = 0;
+    for (std::int16_t i = 0; i <= balloons; ++i)
+        if (Tips_Opt[i].Checked())
+            settings.Tooltips = i;
 }
 
 void Tooltips_Page::Tips_Opt_Click(int index) {
@@ -103,22 +94,15 @@ void Tooltips_Page::Lay_Out() {
     constexpr int notes_lines = 5;
     constexpr int example_width = 100 * 15;
     constexpr int box_size = 60 * 15;
-    const int line = platform::Line_Height(TipsNotes_Lbl.Font());
-    int top = 0;
-    for (Option_Button &option : Tips_Opt) {
-        option.Move({margin, top, inner_width, check_height});
-        top += check_height + small_gap;
-    }
-    top += gap - small_gap;
-    TipsNotes_Lbl.Move({margin, top, inner_width, notes_lines * line});
-    top += notes_lines * line + gap;
-
-    int row = group_top;
-    TipsTrigger_Lbl.Move({margin, row, inner_width, line});
-    row += line + gap;
-    const int both = example_width + margin + box_size;
-    const int left = (page_width - both) / 2;
-    TipExample_Lbl.Move({left, row + (box_size - row_height) / 2, example_width, row_height});
-    TipBoxExample_Lbl.Move({left + example_width + margin, row, box_size, box_size});
-    Preview_Fra.Move({0, top, page_width, row + box_size + margin});
+    Rows page = Page_Rows();
+    for (Option_Button &option : Tips_Opt)
+        page.Add(option, small_gap);
+    page.Add(TipsNotes_Lbl, gap, notes_lines * platform::Line_Height(TipsNotes_Lbl.Font()));
+    Rows preview = Group_Rows();
+    preview.Add(TipsTrigger_Lbl);
+    const int top = preview.Top();
+    const int left = (page_width - example_width - margin - box_size) / 2;
+    TipExample_Lbl.Move({left, top + (box_size - row_height) / 2, example_width, row_height});
+    TipBoxExample_Lbl.Move({left + example_width + margin, top, box_size, box_size});
+    page.Add(Preview_Fra, gap, top + box_size + margin);
 }

@@ -5,33 +5,29 @@
 #include "settings/page.h"
 #include "toolkit/control_array.h"
 
-#include <cstdint>
-
-class Tooltips_Page {
+class Tooltips_Page final : public Page {
 public:
-    [[gnu::noinline]] Tooltips_Page(Form &dialog, Frame &frame, Held_Balloon &balloon);
-    /// Places the controls, also after a change of the dots per inch.
-    void Lay_Out();
+    Tooltips_Page(Frame &frame, Held_Balloon &balloon);
+    /// Selects the kind: 0 none, 1 standard, 2 balloons. Another number is the standard kind.
+    void Show(const Settings &settings) override;
+    void Put(Settings &settings) const override;
+    void Lay_Out() override;
 
-    /// Selects a kind: 0 none, 1 standard, 2 balloons. Another number is the standard kind.
-    void Select(std::int16_t kind);
-    std::int16_t Selected() const;
     /// Shows today's box among the examples as the calendar draws it now.
     void Dress_Examples();
     /// The button is not held any more, by whatever way: an example balloon goes, or does not come.
     void Release() { balloon_.Hide(); }
 
-    Control_Array<Option_Button, 3> Tips_Opt;
-    Label TipsNotes_Lbl;
-    Frame Preview_Fra;
-    Label TipsTrigger_Lbl;
-    Label TipExample_Lbl;
-    Label TipBoxExample_Lbl;
+    Control_Array<Option_Button, 3> Tips_Opt{frame_, "Tips_Opt"};
+    Label TipsNotes_Lbl{frame_, "TipsNotes_Lbl"};
+    Frame Preview_Fra{frame_, "Preview_Fra", "Preview"};
+    Label TipsTrigger_Lbl{Preview_Fra, "TipsTrigger_Lbl"};
+    Label TipExample_Lbl{Preview_Fra, "TipExample_Lbl", "Example"};
+    Label TipBoxExample_Lbl{Preview_Fra, "TipBoxExample_Lbl"};
 
 private:
     void Tips_Opt_Click(int index);
     void Example_Tooltip();
 
-    Form &dialog_;
     Held_Balloon &balloon_;
 };

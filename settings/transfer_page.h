@@ -8,50 +8,40 @@
 #include "transfer/import.h"
 
 #include <cstdint>
-#include <vector>
 
-class Transfer_Page {
+class Transfer_Page final : public Page {
 public:
-    [[gnu::noinline]] Transfer_Page(Form &dialog, Frame &frame, Main_Frm &calendar);
+    Transfer_Page(Frame &frame, Main_Frm &calendar);
+    void Lay_Out() override;
 
-    // To be filled by the dialog.
-
-    /// The configuration that the dialog shows, changes that are not applied yet included.
+    /// The configuration that the dialog shows, changes that are not applied yet included. The dialog fills
+    /// it, and the slots of `Import`.
     Callback<Settings()> Shown_Configuration;
-    /// Lists imported events instead of what is listed.
-    Callback<void(std::vector<Sort_Entry>)> Show_Staged;
-    /// Lists and counts the events of the data file anew.
-    Callback<void()> Data_File_Replaced;
-    /// Closes the dialog, which does not show the settings any more.
-    Callback<void()> Configuration_Imported;
-    /// Shows the settings anew: a part of a configuration was imported.
-    Callback<void()> Configuration_Partly_Imported;
 
     void Export_Btn_Click(std::int16_t index);
     void Import_Btn_Click(std::int16_t index);
-    /// Places the controls, also after a change of the dots per inch.
-    void Lay_Out();
 
-    Frame Export_Fra;
-    Control_Array<Button, 4> Export_Btn;
-    Control_Array<Label, 4> Export_Lbl;
-    Button Export_ICalendar_Btn;
-    Label Export_ICalendar_Lbl;
-    Frame Import_Fra;
-    Control_Array<Button, 3> Import_Btn;
-    Control_Array<Label, 3> Import_Lbl;
-    Button Import_ICalendar_Btn;
-    Label Import_ICalendar_Lbl;
-    Label Progress_Lbl; ///< names the bar; both are seen while something takes long
-    Progress_Bar Progress_Bar1;
-    OpenSaveDialog Dialog1;
+    Frame Export_Fra{frame_, "Export_Fra", "Export"};
+    Control_Array<Button, 4> Export_Btn{Export_Fra, "Export_Btn"};
+    Control_Array<Label, 4> Export_Lbl{Export_Fra, "Export_Lbl"};
+    Button Export_ICalendar_Btn{Export_Fra, "Export_ICalendar_Btn", "&iCalendar..."};
+    Label Export_ICalendar_Lbl{Export_Fra, "Export_ICalendar_Lbl",
+                               "All events, for calendars on the web and in phones."};
+    Frame Import_Fra{frame_, "Import_Fra", "Import"};
+    Control_Array<Button, 3> Import_Btn{Import_Fra, "Import_Btn"};
+    Control_Array<Label, 3> Import_Lbl{Import_Fra, "Import_Lbl"};
+    Button Import_ICalendar_Btn{Import_Fra, "Import_ICalendar_Btn", "iCal&endar..."};
+    Label Import_ICalendar_Lbl{Import_Fra, "Import_ICalendar_Lbl",
+                               "Adds the events of another calendar to those that are there."};
+    Label Progress_Lbl{frame_, "Progress_Lbl", "Progress:"}; ///< names the bar
+    Progress_Bar Progress_Bar1{frame_, "Progress_Bar1"};
+    OpenSaveDialog Dialog1{&dialog_.Model()};
+    Importer Import;
 
 private:
     void Export(Export_Kind kind);
     void Show_Progress(int percent);
     void End_Progress();
 
-    Form &dialog_;
-    Importer importer_;
     Progress progress_; ///< of the exports
 };

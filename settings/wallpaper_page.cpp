@@ -24,6 +24,7 @@ constexpr int months_a_year = 12;
 /// The picture is as wide as a screen of these proportions.
 constexpr int picture_height = 108 * 15;
 constexpr int picture_width = 192 * 15;
+constexpr int slider_height = 30 * 15;
 
 std::string Picture_File(const std::string &pack, int month) {
     return Pack_File(pack, std::to_string(month) + ".jpg");
@@ -36,28 +37,19 @@ std::string Named(const char *(*name)(std::int16_t), const std::string &number) 
 
 } // namespace
 
-Wallpaper_Page::Wallpaper_Page(Form &dialog, Frame &frame, Main_Frm &calendar, Style_Page &style_page)
-    : Theme_Use_Chk(dialog, "Theme_Use_Chk", "Use &themes"), Packs_Lbl(dialog, "Packs_Lbl", "Theme pac&k:"),
-      Packs_Cbo(dialog, "Packs_Cbo"), Theme_Preview_Img(dialog, "Theme_Preview_Img"),
-      Theme_Display_Lbl(dialog, "Theme_Display_Lbl"), Theme_Style_Lbl(dialog, "Theme_Style_Lbl"),
-      Theme_Pos_Lbl(dialog, "Theme_Pos_Lbl"), Loading_Lbl(dialog, "Loading_Lbl", "Loading..."),
-      Month_Lbl(dialog, "Month_Lbl"), Preview_Sli(dialog, "Preview_Sli", 1, months_a_year),
-      Theme_Fra(dialog, "Theme_Fra", "From the theme"),
-      Theme_Style_Chk(dialog, "Theme_Style_Chk", "Use Theme &Style"),
-      Theme_Pos_Chk(dialog, "Theme_Pos_Chk", "Use Theme &Position"),
-      Other_Display_Chk(dialog, "Other_Display_Chk", "Use an&other display mode"),
-      Display_Lbl(dialog, "Display_Lbl", "&Display mode:"), Display_Cbo(dialog, "Display_Cbo"),
-      Preview_Btn(dialog, "Preview_Btn", "Pre&view all months"),
-      Preview_Lbl(dialog, "Preview_Lbl", "Preview running: Esc ends it."), dialog_(dialog),
-      style_page_(style_page), preview_(calendar) {
+Wallpaper_Page::Wallpaper_Page(Frame &frame, Main_Frm &calendar, Style_Page &style_page)
+    : Page(frame), style_page_(style_page), preview_(calendar) {
+    choices_ = {{&Theme_Use_Chk, &Settings::Use_Themes},
+                {&Theme_Style_Chk, &Settings::Use_Theme_Style},
+                {&Theme_Pos_Chk, &Settings::Use_Theme_Pos},
+                {&Other_Display_Chk, &Settings::Use_Other_Display_Mode},
+                {&Display_Cbo, &Settings::Other_Display_Mode}};
     Display_Cbo.Set_Items({Display_Mode_Name(0), Display_Mode_Name(1), Display_Mode_Name(2)});
     Theme_Preview_Img.Set_Frame_Colour(shadow_colour);
     Name_Aloud(Theme_Preview_Img, "Wallpaper of the month");
     Name_Aloud(Preview_Sli, "Month");
     Loading_Lbl.Set_Visible(false);
     Preview_Lbl.Set_Visible(false);
-    frame.Hold(Theme_Use_Chk, Preview_Lbl);
-    Theme_Fra.Hold(Theme_Style_Chk, Display_Cbo);
     Lay_Out();
     Wire_Events();
     Clear_Details();
@@ -84,48 +76,45 @@ void Wallpaper_Page::Wire_Events() {
 
 void Wallpaper_Page::Lay_Out() {
     using namespace layout;
-    const platform::Font &font = Packs_Lbl.Font();
-    const auto text_width = [&font](std::string_view text) { return platform::Text_Width(text, font); };
-    const int line = platform::Line_Height(font);
-    const int label_width = std::max(text_width("Theme pack:"), text_width("Display mode:")) + gap;
-    const int text_top = (row_height - line) / 2; ///< of a label beside a list
+    const int label_width = std::max(Usual_Width(Packs_Lbl), Usual_Width(Display_Lbl));
+    Rows page = Page_Rows();
+    page.Add(Theme_Use_Chk);
+    page.Add_Note(Theme_Use_Lbl);
+    page.Add_Pair(Packs_Lbl, label_width, Packs_Cbo);
 
-    Theme_Use_Chk.Move({0, 0, page_width, check_height});
-    int top = check_height + gap;
-    Packs_Lbl.Move({0, top + text_top, label_width, line});
-    Packs_Cbo.Move({label_width, top, page_width - label_width, row_height});
-    top += row_height + gap;
-
-    Theme_Preview_Img.Move({0, top, picture_width, picture_height});
+    Theme_Preview_Img.Move({0, page.Top(), picture_width, picture_height});
     const int right = picture_width + margin;
-    int row = top;
-    for (Label *label : {&Theme_Display_Lbl, &Theme_Style_Lbl, &Theme_Pos_Lbl}) {
-        label->Move({right, row, page_width - right, line});
-        row += line + small_gap;
-    }
-    Loading_Lbl.Move({right, top + picture_height - line, page_width - right, line});
-    top += picture_height + gap;
+    Rows details{right, page.Top(), page_width - right};
+    for (Label *label : {&Theme_Display_Lbl, &Theme_Style_Lbl, &Theme_Pos_Lbl})
+        details.Add(*label, small_gap);
+    details.Add(Loading_Lbl);
+    const int bottom = page.Top() + picture_height;
+    Preview_Btn.Move({right, bottom - button_height, page_width - right, button_height});
+    Preview_Sli.Move({0, bottom + gap, picture_width, slider_height});
+    Month_Lbl.Move({right, bottom + 2 * gap, page_width - right, Loading_Lbl.Height()});
+    Rows below{0, Preview_Sli.Bounds().Bottom() + gap, page_width};
 
-    constexpr int slider_height = 30 * 15;
-    Preview_Sli.Move({0, top, picture_width, slider_height});
-    Month_Lbl.Move({right, top + gap, page_width - right, line});
-    top += slider_height + gap;
+    Rows theme = Group_Rows();
+    for (Check_Box *box : {&Theme_Style_Chk, &Theme_Pos_Chk, &Other_Display_Chk})
+        theme.Add(*box, small_gap);
+    Rows display{margin + check_mark, theme.Top(), inner_width - check_mark};
+    display.Add_Pair(Display_Lbl, label_width, Display_Cbo, margin);
+    below.Add(Theme_Fra, gap, display.Top());
+    below.Add(Preview_Lbl);
+}
 
-    Theme_Fra.Move({0, top, page_width, group_top + 3 * (check_height + gap) + row_height + margin});
-    row = group_top;
-    for (Check_Box *box : {&Theme_Style_Chk, &Theme_Pos_Chk, &Other_Display_Chk}) {
-        box->Move({margin, row, inner_width, check_height});
-        row += check_height + gap;
-    }
-    constexpr int indent = margin + 18 * 15; ///< where the captions of the check boxes begin
-    Display_Lbl.Move({indent, row + text_top, label_width, line});
-    Display_Cbo.Move({indent + label_width, row, 2 * label_width, row_height});
-    top += Theme_Fra.Height() + gap;
+void Wallpaper_Page::Show(const Settings &settings) {
+    Page::Show(settings);
+    Get_Papers();
+    Get_Themes();
+    Get_Wallpaper();
+}
 
-    const int button_width = text_width("Preview all months") + 2 * margin;
-    Preview_Btn.Move({0, top, button_width, button_height});
-    const int after_button = button_width + margin;
-    Preview_Lbl.Move({after_button, top + (button_height - line) / 2, page_width - after_button, line});
+void Wallpaper_Page::Put(Settings &settings) const {
+    Page::Put(settings);
+    // None is selected where the pack of the settings is missing: it may come back.
+    if (!Packs_Cbo.Text().empty())
+        settings.Pack_Name = Packs_Cbo.Text();
 }
 
 void Wallpaper_Page::Get_Papers() {
@@ -357,23 +346,6 @@ void Wallpaper_Page::Other_Display_Chk_Click() {
     Display_Cbo.Set_Enabled(Other_Display_Chk.Checked());
 }
 
-Settings Wallpaper_Page::Choices() const {
-    Settings choices = Cur_Settings;
-    choices.Style = style_page_.Chosen_Style();
-    choices.Alignment = style_page_.Chosen_Position();
-    choices.Use_Themes = Theme_Use_Chk.Checked();
-    choices.Use_Theme_Style = Theme_Style_Chk.Checked();
-    choices.Use_Theme_Pos = Theme_Pos_Chk.Checked();
-    // None is selected where the pack of the settings is missing: it may come back.
-    if (!Packs_Cbo.Text().empty())
-        choices.Pack_Name = Packs_Cbo.Text();
-    choices.Use_Other_Display_Mode = Other_Display_Chk.Checked();
-    // A number that the list does not have shows as none and stays, as long as no other is chosen.
-    if (Display_Cbo.Selected() != -1)
-        choices.Other_Display_Mode = static_cast<std::int16_t>(Display_Cbo.Selected());
-    return choices;
-}
-
 void Wallpaper_Page::Preview_Btn_Click() {
     if (Packs_Cbo.Text().empty())
         return;
@@ -381,7 +353,10 @@ void Wallpaper_Page::Preview_Btn_Click() {
     dialog_.Set_Focus(Theme_Style_Chk);
     Enable_Choices(false);
     Preview_Lbl.Set_Visible(true);
-    preview_.Begin(Packs_Cbo.Text(), Choices());
+    Settings shown = Cur_Settings;
+    style_page_.Put(shown);
+    Put(shown);
+    preview_.Begin(Packs_Cbo.Text(), shown);
 }
 
 bool Wallpaper_Page::End_Preview() {

@@ -12,27 +12,25 @@
 #include <cstdint>
 #include <string>
 
-class Wallpaper_Page {
+class Wallpaper_Page final : public Page {
 public:
     /// All must outlive the page.
-    [[gnu::noinline]] Wallpaper_Page(Form &dialog, Frame &frame, Main_Frm &calendar, Style_Page &style_page);
+    Wallpaper_Page(Frame &frame, Main_Frm &calendar, Style_Page &style_page);
+    void Show(const Settings &settings) override;
+    void Put(Settings &settings) const override;
+    void Lay_Out() override;
 
-    /// Places the controls, also after a change of the dots per inch.
-    void Lay_Out();
-
-    // The opening of the dialog, in this order.
+    // What Show does, in this order.
 
     /// Lists the packs that are there now.
     void Get_Papers();
-    /// Sets the check boxes from the settings, and enables what belongs to them and to Other_Display_Chk.
+    /// Sets the boxes of the themes from the settings, and enables what belongs to them.
     void Get_Themes();
     /// Selects the pack of the settings, none if it is not there, and shows its picture of this month.
     void Get_Wallpaper();
 
     /// Ends a running preview and puts all back. Returns whether one was running.
     bool End_Preview();
-    /// The settings with what this page and that of style and position show.
-    Settings Choices() const;
     /// What the selected pack makes of the calendar this month, as far as it is to be used.
     Style_Page::Theme_Look Look() const;
 
@@ -55,24 +53,25 @@ public:
     void Other_Display_Chk_Click();
     void Preview_Btn_Click();
 
-    Check_Box Theme_Use_Chk;
-    Label Packs_Lbl;
-    Combo_Box Packs_Cbo;
-    Picture_Box Theme_Preview_Img;
-    Label Theme_Display_Lbl;
-    Label Theme_Style_Lbl;
-    Label Theme_Pos_Lbl;
-    Label Loading_Lbl;
-    Label Month_Lbl; ///< names the slider
-    Slider Preview_Sli;
-    Frame Theme_Fra;
-    Check_Box Theme_Style_Chk;
-    Check_Box Theme_Pos_Chk;
-    Check_Box Other_Display_Chk;
-    Label Display_Lbl;
-    Combo_Box Display_Cbo;
-    Button Preview_Btn;
-    Label Preview_Lbl; ///< says how to end a preview
+    Check_Box Theme_Use_Chk{frame_, "Theme_Use_Chk", "Use &themes"};
+    Label Theme_Use_Lbl{frame_, "Theme_Use_Lbl", "Tick this for a new picture every month."};
+    Label Packs_Lbl{frame_, "Packs_Lbl", "Theme pac&k:"};
+    Combo_Box Packs_Cbo{frame_, "Packs_Cbo"};
+    Picture_Box Theme_Preview_Img{frame_, "Theme_Preview_Img"};
+    Label Theme_Display_Lbl{frame_, "Theme_Display_Lbl"};
+    Label Theme_Style_Lbl{frame_, "Theme_Style_Lbl"};
+    Label Theme_Pos_Lbl{frame_, "Theme_Pos_Lbl"};
+    Label Loading_Lbl{frame_, "Loading_Lbl", "Loading..."};
+    Button Preview_Btn{frame_, "Preview_Btn", "Pre&view all months"};
+    Label Month_Lbl{frame_, "Month_Lbl"}; ///< names the slider
+    Slider Preview_Sli{frame_, "Preview_Sli", 1, 12};
+    Frame Theme_Fra{frame_, "Theme_Fra", "From the theme"};
+    Check_Box Theme_Style_Chk{Theme_Fra, "Theme_Style_Chk", "Use Theme &Style"};
+    Check_Box Theme_Pos_Chk{Theme_Fra, "Theme_Pos_Chk", "Use Theme &Position"};
+    Check_Box Other_Display_Chk{Theme_Fra, "Other_Display_Chk", "Use an&other display mode"};
+    Label Display_Lbl{Theme_Fra, "Display_Lbl", "&Display mode:"};
+    Combo_Box Display_Cbo{Theme_Fra, "Display_Cbo"};
+    Label Preview_Lbl{frame_, "Preview_Lbl", "Preview running: Esc ends it."};
 
 private:
     void Wire_Events();
@@ -95,7 +94,6 @@ private:
     std::int16_t Month() const { return static_cast<std::int16_t>(Preview_Sli.Value()); }
     void Hand_Over_Look();
 
-    Form &dialog_;
     Style_Page &style_page_;
     std::string details_;        ///< the value text of the selected pack and month
     std::string todays_details_; ///< that of today's month

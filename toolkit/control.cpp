@@ -12,12 +12,16 @@
 
 using platform::Aspect;
 
-Control::Control(Form &form, platform::Control_Kind kind, const char *name, const char *caption)
-    : form_(form) {
+Container::Container(const Frame &in) : form(in.Owner()), frame(in.State().index) {
+}
+
+Control::Control(Container in, platform::Control_Kind kind, const char *name, const char *caption)
+    : form_(in.form) {
+    state_.container = in.frame;
     state_.kind = kind;
     state_.name = name;
     state_.caption = caption;
-    form.Register(*this, state_);
+    form_.Register(*this, state_);
 }
 
 Control::~Control() {
@@ -107,17 +111,9 @@ void Control::Take(const platform::Input_Event &event) {
         Fire(On_Click);
 }
 
-Label::Label(Form &form, const char *name, const char *caption)
-    : Control(form, platform::Control_Kind::Label, name, caption) {
-}
-
 void Label::Set_Painted() {
     state_.painted = true;
     state_.paint = [this](platform::Canvas &canvas, const Rect &clip) { Paint_Itself(state_, canvas, clip); };
-}
-
-Button::Button(Form &form, const char *name, const char *caption)
-    : Control(form, platform::Control_Kind::Button, name, caption) {
 }
 
 void Button::Set_Default(bool is_default) {
@@ -134,10 +130,6 @@ void Button::Take(const platform::Input_Event &event) {
     Control::Take(event);
 }
 
-Check_Box::Check_Box(Form &form, const char *name, const char *caption)
-    : Control(form, platform::Control_Kind::Check_Box, name, caption) {
-}
-
 void Check_Box::Set_Checked(bool checked) {
     Store(state_.checked, checked, Aspect::Checked);
 }
@@ -147,9 +139,6 @@ void Check_Box::Take(const platform::Input_Event &event) {
     if (event.kind == platform::Input_Kind::Clicked)
         state_.checked = event.checked;
     Control::Take(event);
-}
-
-Text_Box::Text_Box(Form &form, const char *name) : Control(form, platform::Control_Kind::Text_Box, name) {
 }
 
 void Text_Box::Set_Text(std::string text) {

@@ -10,12 +10,22 @@
 #include <utility>
 
 class Form;
+class Frame;
+
+/// Where a control is made: on a form, or in a frame on one.
+struct Container {
+    Container(Form &on) : form(on) {}
+    Container(const Frame &in);
+    Form &form;
+    int frame = -1; ///< its index; -1: none
+};
 
 /// A place, a look and events. Positions and sizes are twips on the form, or on the frame that holds it. What
 /// the program itself changes raises no event, except the change of a text box.
 class Control {
 public:
-    Control(Form &form, platform::Control_Kind kind, const char *name, const char *caption = "");
+    /// Comes behind all controls that its form has, also in the order of the Tab key.
+    Control(Container in, platform::Control_Kind kind, const char *name, const char *caption = "");
     Control(const Control &) = delete;
     Control &operator=(const Control &) = delete;
     /// Takes the form's native window down: it must not outlive the controls that it mirrors.
@@ -23,6 +33,7 @@ public:
 
     const platform::Control_State &State() const { return state_; }
     const std::string &Name() const { return state_.name; }
+    Form &Owner() const { return form_; }
 
     int Left() const { return state_.bounds.left; }
     int Top() const { return state_.bounds.top; }
@@ -89,19 +100,27 @@ protected:
     Form &form_;
 };
 
-/// A text, or in a painted form a box of colour with a text.
-class Label : public Control {
+/// What all kinds have in common: a container, a name and a caption make one.
+template <platform::Control_Kind Kind, typename Base = Control>
+class Of_Kind : public Base {
 public:
-    Label(Form &form, const char *name, const char *caption = "");
+    explicit Of_Kind(Container in, const char *name, const char *caption = "")
+        : Base(in, Kind, name, caption) {}
+};
+
+/// A text, or in a painted form a box of colour with a text.
+class Label : public Of_Kind<platform::Control_Kind::Label> {
+public:
+    using Of_Kind::Of_Kind;
     /// In a dialog: draws itself as a painted form draws its labels, and takes the mouse.
     void Set_Painted();
 };
 
 /// A push button. `On_Click` comes from the mouse, the keyboard, the access key, and Enter or Esc where it
 /// stands for them.
-class Button : public Control {
+class Button : public Of_Kind<platform::Control_Kind::Button> {
 public:
-    Button(Form &form, const char *name, const char *caption = "");
+    using Of_Kind::Of_Kind;
     void Set_Default(bool is_default);
     void Set_Cancel(bool is_cancel);
     /// Esc, where it stands for the button. Empty: `On_Click` comes then, too.
@@ -111,9 +130,9 @@ private:
     void Take(const platform::Input_Event &event) override;
 };
 
-class Check_Box : public Control {
+class Check_Box : public Of_Kind<platform::Control_Kind::Check_Box> {
 public:
-    Check_Box(Form &form, const char *name, const char *caption);
+    using Of_Kind::Of_Kind;
     bool Checked() const { return state_.checked; }
     void Set_Checked(bool checked);
 
@@ -122,9 +141,9 @@ private:
 };
 
 /// A text box that holds no line break: a pasted one becomes a blank.
-class Text_Box : public Control {
+class Text_Box : public Of_Kind<platform::Control_Kind::Text_Box> {
 public:
-    Text_Box(Form &form, const char *name);
+    using Of_Kind::Of_Kind;
     const std::string &Text() const { return state_.caption; }
     void Set_Text(std::string text);
     /// One line in place of several wrapped ones, to be read and copied only. Before there is a native

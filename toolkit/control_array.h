@@ -36,23 +36,23 @@ public:
         typename Storage::const_iterator at_;
     };
 
-    Control_Array(Form &form, std::string_view name) {
+    Control_Array(Container in, std::string_view name) {
         for (int index = 0; index < static_cast<int>(Count); ++index)
-            Add(form, name, index);
+            Add(in, name, index);
     }
     /// With an array of labels, made by the default constructor, that it fills: each label comes directly
     /// before the control that it names, which is where assistive technology looks for a name.
-    Control_Array(Form &form, std::string_view name, Control_Array<Label, Count> &labels,
+    Control_Array(Container in, std::string_view name, Control_Array<Label, Count> &labels,
                   std::string_view labels_name) {
         for (int index = 0; index < static_cast<int>(Count); ++index) {
-            labels.Add(form, labels_name, index);
-            Add(form, name, index);
+            labels.Add(in, labels_name, index);
+            Add(in, name, index);
         }
     }
     Control_Array() = default;
 
     /// Throws Error for an index outside 0 to Count - 1.
-    Control_Type &operator[](int index) {
+    Control_Type &operator[](int index) const {
         if (index < 0 || index >= static_cast<int>(Count))
             Throw_No_Element(*controls_.front(), index);
         return *controls_[static_cast<std::size_t>(index)];
@@ -64,9 +64,9 @@ public:
 private:
     template <typename Other_Type, std::size_t Other_Count>
     friend class Control_Array;
-    void Add(Form &form, std::string_view name, int index) {
+    void Add(Container in, std::string_view name, int index) {
         controls_[static_cast<std::size_t>(index)] =
-            std::make_unique<Control_Type>(form, Element_Name(name, index).c_str());
+            std::make_unique<Control_Type>(in, Element_Name(name, index).c_str());
     }
 
     Storage controls_;

@@ -15,19 +15,6 @@ using platform::Control_Kind;
 using platform::Input_Event;
 using platform::Input_Kind;
 
-Frame::Frame(Form &form, const char *name, const char *caption)
-    : Control(form, Control_Kind::Frame, name, caption) {
-}
-
-void Frame::Hold(const Control &first, const Control &last) {
-    for (int i = first.State().index; i <= last.State().index; ++i)
-        form_.Model().controls[static_cast<std::size_t>(i)]->container = state_.index;
-}
-
-Option_Button::Option_Button(Form &form, const char *name, const char *caption)
-    : Control(form, Control_Kind::Option_Button, name, caption) {
-}
-
 void Option_Button::Set_Checked(bool checked) {
     if (checked)
         Uncheck_Others();
@@ -79,9 +66,6 @@ void Item_Control::Take(const Input_Event &event) {
     Fire(On_Click);
 }
 
-Combo_Box::Combo_Box(Form &form, const char *name) : Item_Control(form, Control_Kind::Combo_Box, name) {
-}
-
 void Combo_Box::Set_Editable() {
     state_.editable = true;
 }
@@ -107,9 +91,6 @@ void Combo_Box::Take(const Input_Event &event) {
     Fire(On_Change);
 }
 
-List_Box::List_Box(Form &form, const char *name) : Item_Control(form, Control_Kind::List_Box, name) {
-}
-
 void List_Box::Remove_Item(int index) {
     if (index < 0 || index >= static_cast<int>(state_.items.size()))
         return;
@@ -124,11 +105,8 @@ void List_Box::Take(const Input_Event &event) {
     Item_Control::Take(event);
 }
 
-Tab_Strip::Tab_Strip(Form &form, const char *name) : Item_Control(form, Control_Kind::Tab_Strip, name) {
-}
-
-Slider::Slider(Form &form, const char *name, int minimum, int maximum)
-    : Control(form, Control_Kind::Slider, name) {
+Slider::Slider(Container in, const char *name, int minimum, int maximum)
+    : Control(in, Control_Kind::Slider, name) {
     state_.minimum = minimum;
     state_.maximum = maximum;
     state_.value = minimum;
@@ -145,7 +123,7 @@ void Slider::Take(const Input_Event &event) {
     Fire(event.kind == Input_Kind::Selected ? On_Change : On_Scroll);
 }
 
-Picture_Box::Picture_Box(Form &form, const char *name) : Control(form, Control_Kind::Picture_Box, name) {
+Picture_Box::Picture_Box(Container in, const char *name) : Control(in, Control_Kind::Picture_Box, name) {
     state_.painted = true;
     state_.paint = [this](platform::Canvas &canvas, const Rect &clip) {
         Paint_Itself(state_, canvas, clip, [this](platform::Canvas &content) { Paint_Content(content); });
@@ -176,9 +154,6 @@ void Picture_Box::Paint_Content(platform::Canvas &canvas) const {
                                {(box.width - width) / 2, (box.height - height) / 2, width, height});
     }
     Fire(On_Paint, canvas);
-}
-
-Progress_Bar::Progress_Bar(Form &form, const char *name) : Control(form, Control_Kind::Progress_Bar, name) {
 }
 
 void Progress_Bar::Set_Value(int value) {

@@ -9,21 +9,18 @@
 #include <string_view>
 #include <vector>
 
-/// Holds other controls. With a caption it is drawn as a box around them.
-class Frame : public Control {
+/// Holds other controls, which are made in it: they move, hide and are disabled with it. With a caption it is
+/// drawn as a box around them.
+class Frame : public Of_Kind<platform::Control_Kind::Frame> {
 public:
-    Frame(Form &form, const char *name, const char *caption = "");
-    /// Takes the controls from `first` to `last`, in the order of the form, which come behind it: they move,
-    /// hide and are disabled with it. A frame among them may take its own afterwards. To be called before
-    /// there is a native window.
-    void Hold(const Control &first, const Control &last);
+    using Of_Kind::Of_Kind;
 };
 
 /// One of several choices: of all the option buttons in one frame (or on the form itself) at most one is
 /// checked.
-class Option_Button : public Control {
+class Option_Button : public Of_Kind<platform::Control_Kind::Option_Button> {
 public:
-    Option_Button(Form &form, const char *name, const char *caption = "");
+    using Of_Kind::Of_Kind;
     bool Checked() const { return state_.checked; }
     /// Checking one unchecks the others.
     void Set_Checked(bool checked);
@@ -50,9 +47,9 @@ protected:
 };
 
 /// A drop-down list whose text is the selected item's, or an editable one, whose text can be any.
-class Combo_Box : public Item_Control {
+class Combo_Box : public Of_Kind<platform::Control_Kind::Combo_Box, Item_Control> {
 public:
-    Combo_Box(Form &form, const char *name);
+    using Of_Kind::Of_Kind;
     /// Any text can be typed. To be called before there is a native window.
     void Set_Editable();
     const std::string &Text() const { return state_.caption; }
@@ -67,9 +64,9 @@ private:
 };
 
 /// A list with one column. `On_Click` comes with every selection by the user, by mouse or keyboard.
-class List_Box : public Item_Control {
+class List_Box : public Of_Kind<platform::Control_Kind::List_Box, Item_Control> {
 public:
-    List_Box(Form &form, const char *name);
+    using Of_Kind::Of_Kind;
     void Remove_Item(int index);
 
 private:
@@ -77,15 +74,15 @@ private:
 };
 
 /// Tabs above pages that the form shows and hides by itself. `On_Click` comes with every change by the user.
-class Tab_Strip : public Item_Control {
+class Tab_Strip : public Of_Kind<platform::Control_Kind::Tab_Strip, Item_Control> {
 public:
-    Tab_Strip(Form &form, const char *name);
+    using Of_Kind::Of_Kind;
 };
 
 /// A slider over whole numbers, with a mark for each.
 class Slider : public Control {
 public:
-    Slider(Form &form, const char *name, int minimum, int maximum);
+    Slider(Container in, const char *name, int minimum, int maximum);
     int Value() const { return state_.value; }
     /// Takes the nearest value within the range.
     void Set_Value(int value);
@@ -102,7 +99,7 @@ private:
 /// On_Paint adds.
 class Picture_Box : public Control {
 public:
-    Picture_Box(Form &form, const char *name);
+    Picture_Box(Container in, const char *name);
     /// A picture with the width 0 is none.
     void Set_Picture(Picture picture);
     /// Makes the keyboard reach it: it gets On_Key_Down, and the space bar clicks it. So does Enter, where
@@ -122,9 +119,9 @@ private:
 };
 
 /// How far a long piece of work has come.
-class Progress_Bar : public Control {
+class Progress_Bar : public Of_Kind<platform::Control_Kind::Progress_Bar> {
 public:
-    Progress_Bar(Form &form, const char *name);
+    using Of_Kind::Of_Kind;
     /// Per cent, 0 to 100.
     void Set_Value(int value);
 };

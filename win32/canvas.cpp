@@ -106,6 +106,16 @@ void Fill_Polygon(Canvas &canvas, const std::vector<Point> &corners, Colour colo
     win32::Fill_Smooth_Polygon(canvas.Pixels(), smooth, win32::Pixel_Colour(colour));
 }
 
+void Draw_Program_Icon(Canvas &canvas, const Rect &rect) {
+    const RECT to = win32::To_Pixels(rect);
+    const auto width = static_cast<int>(to.right - to.left);
+    const auto height = static_cast<int>(to.bottom - to.top);
+    const auto icon = static_cast<HICON>(LoadImageW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(1),
+                                                    IMAGE_ICON, width, height, LR_DEFAULTCOLOR));
+    DrawIconEx(canvas.Dc(), to.left, to.top, icon, width, height, 0, nullptr, DI_NORMAL);
+    DestroyIcon(icon);
+}
+
 void Draw_Text(Canvas &canvas, std::string_view text, const Rect &rect, const Font &font, Colour colour,
                Text_Align align) {
     const RECT pixels = win32::To_Pixels(rect);

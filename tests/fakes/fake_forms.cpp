@@ -178,6 +178,9 @@ void Fill_Polygon(Canvas &canvas, const std::vector<Point> &, Colour colour) {
     canvas.operations.push_back({Canvas_Operation::Kind::Polygon, {}, colour});
 }
 
+void Draw_Program_Icon(Canvas &, const Rect &) {
+}
+
 void Draw_Text(Canvas &canvas, std::string_view text, const Rect &rect, const Font &, Colour colour,
                Text_Align align) {
     canvas.operations.push_back({Canvas_Operation::Kind::Text, rect, colour, std::string(text), align});

@@ -12,7 +12,7 @@ using platform::Mouse_Button;
 class Colours : public Calendar_Test {
 protected:
     Colours() {
-        page.Load_Settings();
+        page.Show(Cur_Settings);
         dialog.Show();
     }
 
@@ -30,7 +30,7 @@ protected:
 
     Form dialog{platform::Form_Kind::Dialog, "Test"};
     Frame frame{dialog, "Frame"};
-    Colours_Page page{dialog, frame, form};
+    Colours_Page page{frame, form};
 };
 
 TEST_F(Colours, a_colour_is_shown_as_numbers_and_by_name) {

@@ -44,7 +44,7 @@ protected:
 
     Form dialog{platform::Form_Kind::Dialog, "Dialog"};
     Frame frame{dialog, "Frame0"};
-    Events_Page page{dialog, frame, form};
+    Events_Page page{frame, form};
 };
 
 TEST_F(Events_Page_Test, counts_events) {
@@ -152,6 +152,7 @@ TEST_F(Events_Page_Test, bears_a_file_that_fails_or_changes_behind_it) {
     Fakes().files.clear();
     Open();
     EXPECT_EQ(Lines() + page.Overview_Fra.Caption(), "Events");
+    EXPECT_EQ(page.Events_Lst_Lbl.Caption(), "No &events yet: double-click a day of the calendar.");
 }
 
 } // namespace

@@ -144,6 +144,7 @@ TEST_F(Settings_Window, shows_the_example_balloon_while_the_left_button_is_held)
 
 TEST_F(Settings_Window, opens_the_authors_page_by_mouse_and_keyboard) {
     About_Page &page = Open(Settings_Frm::about_fra).About;
+    page.Link_Lbl.Set_Visible(true);      // as it will be with an address
     Double_Click(*dialog, page.Link_Lbl); // opens it once
     Push(*dialog, page.Link_Lbl);         // the space bar
     Input(*dialog, {.kind = Input_Kind::Key_Down, .key = Key_Return}, &page.Link_Lbl);

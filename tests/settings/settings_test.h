@@ -15,7 +15,7 @@ protected:
         Start();
     }
     /// Opens it on a page, closing one that is open.
-    Settings_Frm &Open(Settings_Frm::Page page) {
+    Settings_Frm &Open(Settings_Frm::Page_Index page) {
         form.Close_Settings();
         Cur_Settings.Settings_Tab = static_cast<std::int16_t>(page + 1);
         form.Open_Settings();

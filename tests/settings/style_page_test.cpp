@@ -10,7 +10,7 @@ class Style : public Calendar_Test {
 protected:
     Style() {
         Cur_Settings.Style = 0;
-        page.Load_Settings();
+        page.Show(Cur_Settings);
         dialog.Show();
     }
 
@@ -29,7 +29,7 @@ protected:
 
     Form dialog{platform::Form_Kind::Dialog, "Test"};
     Frame frame{dialog, "Frame"};
-    Style_Page page{dialog, frame, form};
+    Style_Page page{frame, form};
 };
 
 TEST_F(Style, nine_places_are_chosen_by_mouse_and_keyboard) {
@@ -61,7 +61,7 @@ TEST_F(Style, the_settings_are_shown_also_odd_ones) {
     for (const std::int16_t alignment : std::initializer_list<std::int16_t>{8, 7, 12}) {
         Cur_Settings.Alignment = alignment;
         Cur_Settings.Style = alignment == 8 ? 0 : 5;
-        page.Load_Settings();
+        page.Show(Cur_Settings);
         EXPECT_TRUE(page.Style1_Opt.Checked() == (alignment == 8) &&
                     page.Style2_Opt.Checked() != (alignment == 8));
         EXPECT_EQ(page.Pos_Manual_Opt.Checked(), alignment == 7);

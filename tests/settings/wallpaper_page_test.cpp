@@ -9,7 +9,7 @@ protected:
     struct Dialog : Form {
         explicit Dialog(Main_Frm &calendar)
             : Form(platform::Form_Kind::Dialog, "Dialog"), Page_Fra(*this, "Page_Fra"),
-              Style(*this, Page_Fra, calendar), Page(*this, Page_Fra, calendar, Style) {}
+              Style(Page_Fra, calendar), Page(Page_Fra, calendar, Style) {}
         Frame Page_Fra;
         Style_Page Style;
         Wallpaper_Page Page;
@@ -38,9 +38,7 @@ protected:
     void Open(bool on_another_page = false) {
         dialog.emplace(form);
         dialog->Page_Fra.Set_Visible(!on_another_page);
-        Page().Get_Papers();
-        Page().Get_Themes();
-        Page().Get_Wallpaper();
+        Page().Show(Cur_Settings);
         dialog->Show();
         Desktop().Advance(50);
     }

@@ -10,8 +10,6 @@ namespace {
 
 struct Dialog : Form {
     Dialog() : Form(platform::Form_Kind::Dialog, "Dialog") {
-        outer.Hold(second, inner);
-        inner.Hold(third, picture);
         for (Control *control : Controls())
             control->On_Click = [this, control] { heard += control->Name() + " "; };
         box.On_Change = [this] { heard += "box=" + box.Text() + " "; };
@@ -20,12 +18,12 @@ struct Dialog : Form {
     std::string heard;
     Option_Button first{*this, "first"};
     Frame outer{*this, "outer"};
-    Option_Button second{*this, "second"};
-    Combo_Box box{*this, "box"};
-    Frame inner{*this, "inner"};
-    Option_Button third{*this, "third"}, fourth{*this, "fourth"};
-    List_Box list{*this, "list"};
-    Picture_Box picture{*this, "picture"};
+    Option_Button second{outer, "second"};
+    Combo_Box box{outer, "box"};
+    Frame inner{outer, "inner"};
+    Option_Button third{inner, "third"}, fourth{inner, "fourth"};
+    List_Box list{inner, "list"};
+    Picture_Box picture{inner, "picture"};
 };
 
 class List_Controls : public Form_Test {
