@@ -124,8 +124,8 @@ public:
     void Position_Form(std::int16_t code);
     /// Remembers the work area's height.
     void Set_Repos() { place_.Take_Height(); }
-    /// Places the window anew when the work area's height is another one; puts it back when something else
-    /// has moved it.
+    /// Follows the shell's icons to where they are now. Places the window anew when the work area's height is
+    /// another one; puts it back when something else has moved it.
     void RePosition();
     /// Clips the window to its visible controls.
     void TransparentForm();
@@ -227,6 +227,7 @@ private:
     void Wire_Box(Label &label, int index);
     void Hear_Broadcasts();
     bool Hear(platform::Broadcast broadcast);
+    void Lose_Desktop();
     void Follow_Contrast();
     void Take_Regional_Settings();
     void Renew_Layout();

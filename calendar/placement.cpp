@@ -1,9 +1,8 @@
-// The calendar's place on the screen and inside the shell's desktop, and the shape of its window.
+// The calendar's place on the screen and inside the shell's desktop, and the shape of its window: the calls
+// to desktop/, where all of it is done.
 #include "calendar/main_frm.h"
 #include "core/settings.h"
-
-#include <utility>
-#include <vector>
+#include "desktop/region.h"
 
 void Main_Frm::Position_Form(std::int16_t code) {
     const Label &lowest = Box_Lbl[35].Visible() ? Box_Lbl[35] : Box_Lbl[28];
@@ -11,6 +10,8 @@ void Main_Frm::Position_Form(std::int16_t code) {
 }
 
 void Main_Frm::RePosition() {
+    if (!drag_.Dragging())
+        Attachment.Follow();
     if (place_.Take_Height())
         Position_Form(Effective_Position());
     else if (!drag_.Dragging())
@@ -18,11 +19,7 @@ void Main_Frm::RePosition() {
 }
 
 void Main_Frm::TransparentForm() {
-    std::vector<Rect> seen;
-    for (const platform::Control_State *control : Model().controls)
-        if (control->visible)
-            seen.push_back(control->bounds);
-    Clip(std::move(seen));
+    Clip_To_Controls(*this);
 }
 
 void Main_Frm::No_ShowDesktop_and_IconColours() {

@@ -5,6 +5,7 @@
 #include "platform/screen.h"
 #include "toolkit/units.h"
 
+#include <algorithm>
 #include <limits>
 
 namespace {
@@ -66,6 +67,14 @@ std::optional<Point> Position_Of(std::int16_t code, const Placement &placement) 
         Coordinate(row.horizontal, work.left, work.width, placement.form.width, 0, placement.manual.x),
         Coordinate(row.vertical, work.top, work.height, placement.form.height, placement.lowest_box_bottom,
                    placement.manual.y)};
+}
+
+Point Place_In_Sight(const Rect &place, const Rect &work_area) {
+    if (work_area.Intersects(place))
+        return {place.left, place.top};
+    // Of a window larger than the work area the beginning counts.
+    return {std::max(work_area.left, std::min(place.left, work_area.Right() - place.width)),
+            std::max(work_area.top, std::min(place.top, work_area.Bottom() - place.height))};
 }
 
 Rect GetDesktopRect(bool in_twips) {
