@@ -2,8 +2,7 @@
 // has none of them. The desktop tests and the run script start it before the calendar. It judges nothing.
 //
 //   shell_standin [--text=RRGGBB] [--back=RRGGBB|none] [--no-list] [--no-view] [--no-shell] [--adopt]
-//   [--late]
-//                 [--do=LETTERS]
+//                 [--late] [--do=LETTERS]
 //
 // --adopt is for a person who looks: with it a wallpaper that a program hangs up is shown, stretched.
 // The colours are those of the icon labels (white on none). --no-list and --no-view leave out the windows of
