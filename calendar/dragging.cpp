@@ -20,6 +20,8 @@ bool Stays_Where_Dropped() {
 } // namespace
 
 void Main_Frm::Keep_Place(const std::optional<Point> &from) {
+    if (place_.Away())
+        return; // a click on the title moves nothing, and the kept place's monitor may come back
     const Point manual{Left(), Top()};
     place_.Set_Manual(manual);
     Change_Setting(&Settings::Manual_PosX, Nearest_Int16(manual.x));

@@ -71,9 +71,10 @@ void Main_Frm::Wire_Events() {
     // Without its window the program could only stand in the way of its next start. Nothing is asked here:
     // the window inside the shell's goes down in the middle of the shell's own end, which waits for it.
     On_Window_Lost = [this] {
-        Balloon.End();
-        platform::End_Message_Loop();
+        if (!Attachment.Lose_Window())
+            Lose_Desktop();
     };
+    Attachment.On_Desktop_Lost = [this] { Lose_Desktop(); };
     Which_Month_Lbl.On_Mouse_Down = [this](Mouse_Button button, Point at) {
         drag_.Begin(button, at);
         if (button == Mouse_Button::Right)
@@ -191,6 +192,7 @@ bool Main_Frm::Hear(Broadcast broadcast) {
         Dectect_Date_Timer_Timer();
         break;
     case Broadcast::Display_Changed:
+    case Broadcast::Front_Changed:
         RePosition();
         break;
     case Broadcast::Colours_Changed:
@@ -224,6 +226,11 @@ void Main_Frm::End_Program() {
     Hide_Balloon();
     if (!May_End())
         return;
+    Balloon.End();
+    platform::End_Message_Loop();
+}
+
+void Main_Frm::Lose_Desktop() {
     Balloon.End();
     platform::End_Message_Loop();
 }

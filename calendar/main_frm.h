@@ -81,8 +81,8 @@ public:
     void Position_Form(std::int16_t code);
     /// Remembers the work area's height.
     void Set_Repos() { place_.Take_Height(); }
-    /// Places the window anew when the work area's height is another one; puts it back when something else
-    /// has moved it.
+    /// Follows the shell's icons to where they are now. Places the window anew when the work area's height is
+    /// another one; puts it back when something else has moved it.
     void RePosition();
     /// Puts the window into the shell's desktop and takes the colours of its icon labels over; also shows the
     /// splash window. What of the shell is missing is left out in silence.
@@ -158,6 +158,7 @@ private:
     void Wire_Box(Label &label, int index);
     void Hear_Broadcasts();
     bool Hear(platform::Broadcast broadcast);
+    void Lose_Desktop();
     void Take_Regional_Settings();
     void Renew_Layout();
     void Popup_Title_Menu(Point mouse);

@@ -7,10 +7,10 @@
 #include "core/convert.h"
 #include "core/settings.h"
 #include "core/title.h"
+#include "desktop/region.h"
 #include "platform/locale.h"
 
 #include <utility>
-#include <vector>
 
 namespace {
 
@@ -139,9 +139,5 @@ std::string Full_Date(const Date &date) {
 }
 
 void Month_Grid::TransparentForm() {
-    std::vector<Rect> seen;
-    for (const platform::Control_State *control : Model().controls)
-        if (control->visible)
-            seen.push_back(control->bounds);
-    Clip(std::move(seen));
+    Clip_To_Controls(*this);
 }

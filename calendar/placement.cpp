@@ -8,6 +8,8 @@ void Main_Frm::Position_Form(std::int16_t code) {
 }
 
 void Main_Frm::RePosition() {
+    if (!drag_.Dragging())
+        Attachment.Follow();
     if (place_.Take_Height())
         Position_Form(Effective_Position());
     else if (!drag_.Dragging())

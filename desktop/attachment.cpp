@@ -1,10 +1,16 @@
 // The steps from the desktop window to the list of icons and inside. The shell's windows:
 //
 //     the desktop window                Find_Desktop_Window
+//     the view's holder                 Holder_Of: the desktop window, or one that covers it
 //     +-- our form                      above the icons, once it is inside
 //     +-- the view of the desktop       Find_Shell_View
 //         +-- the list of icons         Find_Icon_List; tells the colours of its labels
 #include "desktop/attachment.h"
+
+#include "base/scoped_value.h"
+#include "platform/clock.h"
+
+#include <utility>
 
 namespace {
 
@@ -13,41 +19,68 @@ namespace {
 constexpr unsigned first_patience = 1000;
 constexpr unsigned later_patience = 100;
 
+/// For a shell that is still to make its view, in milliseconds: at log-on it starts along with the calendar.
+constexpr unsigned longest_start = 120'000;
+
 } // namespace
 
-Desktop_Attachment::Desktop_Attachment(Form &form) : form_(form) {
-    timer_.On_Timer = [this] { Try_Again(); };
-}
-
 void Desktop_Attachment::Enter(platform::Shell_Window desktop) {
-    Move_Into(desktop, first_patience);
+    waiting_ = true;
+    entered_ = platform::Milliseconds();
+    Look(desktop, first_patience);
 }
 
-/// Goes inside, with `patience` milliseconds for each of the shell's answers.
-void Desktop_Attachment::Move_Into(platform::Shell_Window desktop, unsigned patience) {
-    timer_.Set_Enabled(false);
-    const platform::Shell_Window view = platform::Find_Shell_View(desktop);
-    if (view == 0)
+void Desktop_Attachment::Follow() {
+    // Questions to the shell may let news in that lead here.
+    if ((!waiting_ && holder_ == 0) || looking_)
         return;
-    const platform::Shell_Window list = platform::Find_Icon_List(view);
-    if (list == 0)
-        return;
-    const auto colours = platform::Icon_Label_Colours(list, patience);
-    if (!colours) {
-        // The shell is hung, or busy with its own start, and a window that moves into it now may hang with
-        // it. Until it answers the form is a window of its own, and keeps the colours it has.
-        timer_.Set_Enabled(true);
+    const platform::Shell_Window desktop = platform::Find_Desktop_Window();
+    if (desktop == 0) {
+        waiting_ = false;
+        if (std::exchange(lost_, false))
+            Fire(On_Desktop_Lost);
         return;
     }
-    Fire(On_Colours, list, *colours);
-    platform::Attach_To_Desktop(form_.Model(), desktop);
+    if (lost_)
+        form_.Create();
+    if (Look(desktop, later_patience))
+        Fire(On_Late_Entry);
+    if (std::exchange(lost_, false))
+        form_.Show();
 }
 
-void Desktop_Attachment::Try_Again() {
-    const platform::Shell_Window desktop = platform::Find_Desktop_Window();
-    if (desktop == 0)
-        return timer_.Set_Enabled(false);
-    Move_Into(desktop, later_patience);
-    if (!Waiting())
-        Fire(On_Late_Entry);
+bool Desktop_Attachment::Lose_Window() {
+    // The desktop takes what is in it down before it is gone itself.
+    lost_ = waiting_ = std::exchange(holder_, 0) != std::exchange(desktop_, 0);
+    entered_ = platform::Milliseconds();
+    return lost_;
+}
+
+/// Looks for the view, with `patience` milliseconds for each of the shell's answers. Returns whether the form
+/// has gone into another window.
+bool Desktop_Attachment::Look(platform::Shell_Window desktop, unsigned patience) {
+    const Scoped_Value looking(looking_, true);
+    const platform::Shell_Window view = platform::Find_Shell_View(desktop);
+    const platform::Shell_Window list = view == 0 ? 0 : platform::Find_Icon_List(view);
+    const platform::Shell_Window holder = view == 0 ? 0 : platform::Holder_Of(view);
+    if (list == 0 || holder == 0) {
+        waiting_ = waiting_ && platform::Milliseconds() - entered_ < longest_start;
+        return false;
+    }
+    if (holder == holder_) {
+        platform::Keep_Over_View(form_.Model(), view);
+        return false;
+    }
+    // Where there is no answer, the shell is hung or busy with its own start, and a window that moves now may
+    // hang with it. Until it answers the form stays where it is, and keeps the colours it has.
+    const auto colours = platform::Icon_Label_Colours(list, patience);
+    if (!colours)
+        return false;
+    Fire(On_Colours, list, *colours);
+    if (!platform::Attach_To_Desktop(form_.Model(), holder))
+        return false;
+    desktop_ = desktop;
+    holder_ = holder;
+    waiting_ = false;
+    return true;
 }

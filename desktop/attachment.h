@@ -1,28 +1,40 @@
-// A form's way into the shell's desktop, and the waiting for a shell that does not answer.
+// A form's way into the shell's desktop: the waiting for a shell that is not ready or does not answer, and
+// the following of the view of icons, which the shell moves from one of its windows to another.
 #pragma once
 
 #include "platform/shell.h"
 #include "toolkit/form.h"
-#include "toolkit/timer.h"
 
 class Desktop_Attachment {
 public:
-    explicit Desktop_Attachment(Form &form);
+    explicit Desktop_Attachment(Form &form) : form_(form) {}
 
-    /// Puts the form into the shell's desktop window. What of the shell is missing is left out in silence; a
-    /// shell that does not answer is asked again every second.
+    /// Puts the form into the window that holds the view of icons. What of the shell is missing is left out
+    /// in silence, and looked for again by Follow.
     void Enter(platform::Shell_Window desktop);
-    /// Whether the shell is still to answer.
-    bool Waiting() const { return timer_.Enabled(); }
+    /// Puts the form where the view is now, and above it. Called every second and whenever another window
+    /// comes to the front. Does nothing before Enter.
+    void Follow();
+    /// Whether the form is still to go inside.
+    bool Waiting() const { return waiting_; }
+
+    /// Takes note that the form's window is gone. Returns whether it went down with a window that is not the
+    /// desktop itself: then Follow makes a new one.
+    bool Lose_Window();
 
     /// The icon list and the colours of its labels, before the form goes inside.
     Handler<platform::Shell_Window, const platform::Label_Colours &> On_Colours;
-    Handler<> On_Late_Entry; ///< the waiting is over
+    Handler<> On_Late_Entry;   ///< Follow has put the form inside
+    Handler<> On_Desktop_Lost; ///< Follow finds no desktop for the new window
 
 private:
-    void Move_Into(platform::Shell_Window desktop, unsigned patience);
-    void Try_Again();
+    bool Look(platform::Shell_Window desktop, unsigned patience);
 
     Form &form_;
-    Timer timer_{1000};
+    platform::Shell_Window desktop_ = 0; ///< when the form went inside
+    platform::Shell_Window holder_ = 0;  ///< of the view, which the form went into; 0: it is outside
+    unsigned entered_ = 0;               ///< the time of Enter
+    bool waiting_ = false;
+    bool lost_ = false; ///< the form has no window
+    bool looking_ = false;
 };

@@ -16,16 +16,26 @@ void Form_Place::Put(std::int16_t code, int lowest_box_bottom, Point kept) {
     const Point manual{Nearest_Int16(manual_.x), Nearest_Int16(manual_.y)};
     placement.manual = manual == kept ? manual_ : kept;
     if (const auto place = Position_Of(code, placement)) {
-        form_.Move(place->x, place->y);
-        placed_ = *place;
+        placed_ = home_ = *place;
+        shown_ = Seen_At();
+        form_.Move(shown_.x, shown_.y);
     }
 }
 
 void Form_Place::Put_Back() {
-    const Rect pixels = Twips_To_Pixels(form_.Model().bounds);
-    const Point middle{pixels.left + pixels.width / 2, pixels.top + pixels.height / 2};
-    if (platform::Work_Area_Around(middle).Intersects(pixels))
-        form_.Put_Back();
+    if (form_.Put_At() != shown_) // by the user
+        home_ = shown_ = form_.Put_At();
+    const Point seen = Seen_At();
+    if (seen == shown_)
+        return form_.Put_Back();
+    shown_ = seen;
+    form_.Move(seen.x, seen.y);
+}
+
+/// Returns the form's place, or the one nearest to it that is seen.
+Point Form_Place::Seen_At() const {
+    const Rect home{home_.x, home_.y, form_.Width(), form_.Height()};
+    return Place_In_Sight(home, Pixels_To_Twips(platform::Work_Area_Of(Twips_To_Pixels(home))));
 }
 
 bool Form_Place::Take_Height() {

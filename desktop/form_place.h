@@ -14,18 +14,25 @@ public:
     /// Moves the form to a position code (position.h); a number that is none leaves it. `kept` is the user's
     /// own place as the settings hold it.
     void Put(std::int16_t code, int lowest_box_bottom, Point kept);
-    /// Whether the form is where Put has put it.
-    bool Stands() const { return placed_ == form_.Put_At(); }
-    /// Brings a form that something else has moved back, unless the monitor of its place is gone.
+    /// Whether the form's place is where Put has put it.
+    bool Stands() const { return placed_ == home_ && shown_ == form_.Put_At(); }
+    /// Brings a form that something else has moved back to its place, or as near to that as there is a
+    /// monitor.
     void Put_Back();
+    /// Whether the form is seen beside its place, the monitor of which is gone, and has been left there.
+    bool Away() const { return shown_ != home_ && shown_ == form_.Put_At(); }
     /// Remembers where the user put the form, of which the settings hold what fits 16 bits.
     void Set_Manual(Point place) { manual_ = place; }
     /// Remembers the work area's height; true when it is another one than the last time.
     bool Take_Height();
 
 private:
+    Point Seen_At() const;
+
     Form &form_;
-    Point placed_;
+    Point placed_; ///< where Put has put it
+    Point home_;   ///< its place: that, or where the user moved it since
+    Point shown_;  ///< where it is seen instead as long as no monitor shows its place
     Point manual_;
     int desktop_height_ = 0; ///< of the work area at the last placement, twips
 };

@@ -5,6 +5,7 @@
 #include "platform/screen.h"
 #include "toolkit/units.h"
 
+#include <algorithm>
 #include <limits>
 
 namespace {
@@ -38,6 +39,14 @@ std::optional<Point> Position_Of(std::int16_t code, const Placement &placement) 
         position.above == whole ? bottom_margin + placement.lowest_box_bottom : placement.form.height;
     return Point{Coordinate(work.left, work.width, placement.form.width, position.left),
                  Coordinate(work.top, work.height, height, position.above)};
+}
+
+Point Place_In_Sight(const Rect &place, const Rect &work_area) {
+    if (work_area.Intersects(place))
+        return {place.left, place.top};
+    // Of a window larger than the work area the beginning counts.
+    return {std::max(work_area.left, std::min(place.left, work_area.Right() - place.width)),
+            std::max(work_area.top, std::min(place.top, work_area.Bottom() - place.height))};
 }
 
 Rect GetDesktopRect(bool in_twips) {

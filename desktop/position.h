@@ -54,5 +54,9 @@ constexpr bool Is_Place(std::int16_t code) {
 /// Conversion_Error (core/convert.h) when a figure leaves 32 bits.
 std::optional<Point> Position_Of(std::int16_t code, const Placement &placement);
 
+/// Returns where a window with that place is to be so that the work area shows it: right there when any part
+/// of it is seen, else at the nearest place where all of it is.
+Point Place_In_Sight(const Rect &place, const Rect &work_area);
+
 /// The work area of the desktop, in twips or in pixels.
 Rect GetDesktopRect(bool in_twips);

@@ -42,6 +42,7 @@ enum class Broadcast {
     Time_Changed,     ///< the clock was set
     Display_Changed,  ///< the screen's size or depth
     Colours_Changed,  ///< the Windows colours
+    Front_Changed,    ///< a window of another program came to the front; not told where timers would wait
     Session_Ends,     ///< the user is about to log off or shut down; the last chance to keep something
     Session_Over,     ///< the session ends now, whatever the program says
     Close_Request,    ///< somebody asks the program to close, as a task manager does

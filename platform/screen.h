@@ -16,6 +16,8 @@ Rect Work_Area();
 
 /// The work area of the monitor that `point` (screen pixels) is on, or is nearest to, in pixels.
 Rect Work_Area_Around(Point point);
+/// The same for the monitor that most of `place` is on.
+Rect Work_Area_Of(const Rect &place);
 
 /// The mouse position in screen pixels.
 Point Mouse_Position();

@@ -16,8 +16,11 @@ using Shell_Window = std::uintptr_t;
 /// The shell's desktop window, 0 under another shell.
 Shell_Window Find_Desktop_Window();
 
-/// The view of files and folders in the desktop window, and the list of icons in the view.
+/// The view of files and folders: in the desktop window, or in a window that the shell lays over that one.
 Shell_Window Find_Shell_View(Shell_Window desktop);
+/// The window that the view is in, 0 when it is gone.
+Shell_Window Holder_Of(Shell_Window view);
+/// The list of icons in the view.
 Shell_Window Find_Icon_List(Shell_Window view);
 
 /// How the icon list draws its labels.
@@ -31,10 +34,14 @@ struct Label_Colours {
 /// which it is not given when the system holds it for hung.
 std::optional<Label_Colours> Icon_Label_Colours(Shell_Window list, unsigned patience);
 
-/// Makes the form's window a child of the desktop window, above its other children, at its place on the
-/// screen; then looks the dots per inch up again. When the desktop window has gone in the meantime, the
-/// form's window stays where it was. Does nothing without a native window.
-void Attach_To_Desktop(const Form_Model &model, Shell_Window desktop);
+/// Makes the form's window a child of the view's holder, above its other children, at its place on the
+/// screen; then looks the dots per inch up again. Returns whether it is inside: not when the holder has gone
+/// in the meantime, which leaves the form's window where it was, and not without a native window.
+bool Attach_To_Desktop(const Form_Model &model, Shell_Window holder);
+
+/// Keeps a form that is inside the view's holder to be seen: above the view, and with a surface of its own as
+/// long as the system shows no other children of the holder.
+void Keep_Over_View(const Form_Model &model, Shell_Window view);
 
 /// Opens a page of the web in the user's browser. A failure is silent.
 void Open_Web_Page(const char *address);

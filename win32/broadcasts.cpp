@@ -68,6 +68,11 @@ bool Heard(UINT message, WPARAM wparam) {
     }
 }
 
+void CALLBACK Hear_Of_Front(HWINEVENTHOOK, DWORD, HWND, LONG, LONG, DWORD, DWORD) {
+    if (!win32::Mouse_Is_Taken())
+        Tell(platform::Broadcast::Front_Changed);
+}
+
 LRESULT CALLBACK Broadcast_Procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
     try {
         // The end itself, WM_ENDSESSION, leaves no time for a question: whoever agrees has to be done here.
@@ -114,9 +119,13 @@ void Hear_Waiting() {
 namespace platform {
 
 void Listen_To_Broadcasts(Callback<bool(Broadcast)> listener) {
+    static HWINEVENTHOOK front = nullptr;
     broadcast_listener = listener;
-    if (broadcast_listener)
-        win32::Broadcast_Window();
+    if (!broadcast_listener || front != nullptr)
+        return;
+    win32::Broadcast_Window();
+    front = SetWinEventHook(EVENT_SYSTEM_FOREGROUND, EVENT_SYSTEM_FOREGROUND, nullptr, Hear_Of_Front, 0, 0,
+                            WINEVENT_OUTOFCONTEXT | WINEVENT_SKIPOWNPROCESS);
 }
 
 bool Claim_Single_Instance(const std::string &name) {

@@ -9,6 +9,7 @@
 #include "win32/wide_text.h"
 
 #include <algorithm>
+#include <cstddef>
 
 namespace platform {
 
@@ -68,6 +69,10 @@ const win32::Pixel_Buffer &Canvas::Pixels() const {
 }
 
 void Canvas::Put_On(HDC target) const {
+    // What the system draws has no opacity, and would not be seen on a surface of the window's own.
+    const win32::Pixel_Buffer &all = Pixels();
+    std::for_each(all.pixels, all.pixels + std::ptrdiff_t{all.width} * all.height,
+                  [](std::uint32_t &pixel) { pixel |= 0xFF000000U; });
     BitBlt(target, area_.left, area_.top, area_.right - area_.left, area_.bottom - area_.top, dc_.get(),
            area_.left, area_.top, SRCCOPY);
 }

@@ -48,9 +48,14 @@ Rect platform::Work_Area() {
 }
 
 Rect platform::Work_Area_Around(Point point) {
+    return Work_Area_Of(Rect{point.x, point.y, 1, 1});
+}
+
+Rect platform::Work_Area_Of(const Rect &place) {
     MONITORINFO monitor = {};
     monitor.cbSize = sizeof monitor;
-    if (!GetMonitorInfoW(MonitorFromPoint({point.x, point.y}, MONITOR_DEFAULTTONEAREST), &monitor))
+    const RECT pixels = {place.left, place.top, place.Right(), place.Bottom()};
+    if (!GetMonitorInfoW(MonitorFromRect(&pixels, MONITOR_DEFAULTTONEAREST), &monitor))
         return Work_Area();
     const RECT &area = monitor.rcWork;
     return {area.left, area.top, area.right - area.left, area.bottom - area.top};

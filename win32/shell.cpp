@@ -25,9 +25,40 @@ Shell_Window Id_Of(HWND window) {
     return reinterpret_cast<Shell_Window>(window);
 }
 
+/// The style of a window that is shown without a picture of its own (WS_EX_NOREDIRECTIONBITMAP).
+constexpr DWORD Without_Surface = 0x00200000;
+
 void Change_Style(HWND window, DWORD take, DWORD give) {
     const auto style = static_cast<DWORD>(GetWindowLongW(window, GWL_STYLE));
     SetWindowLongW(window, GWL_STYLE, static_cast<LONG>((style & ~take) | give));
+}
+
+HWND View_In(HWND holder) {
+    return FindWindowExW(holder, nullptr, L"SHELLDLL_DefView", nullptr);
+}
+
+bool Has_Extended(HWND window, DWORD style) {
+    return (static_cast<DWORD>(GetWindowLongW(window, GWL_EXSTYLE)) & style) != 0;
+}
+
+/// Gives the window a surface of its own, fully opaque, or takes it.
+void Set_Layered(HWND window, bool layered) {
+    if (Has_Extended(window, WS_EX_LAYERED) == layered)
+        return;
+    const LONG style = GetWindowLongW(window, GWL_EXSTYLE);
+    SetWindowLongW(window, GWL_EXSTYLE, style ^ WS_EX_LAYERED);
+    // A layered window that has no attributes is not shown at all.
+    if (layered && !SetLayeredWindowAttributes(window, 0, 255, LWA_ALPHA))
+        SetWindowLongW(window, GWL_EXSTYLE, style);
+    InvalidateRect(window, nullptr, FALSE);
+}
+
+/// Whether `upper` stands above its sibling `lower`.
+bool Is_Above(HWND upper, HWND lower) {
+    HWND above = lower;
+    while (above != nullptr && above != upper)
+        above = GetWindow(above, GW_HWNDPREV);
+    return above != nullptr;
 }
 
 std::optional<Colour> Ask_Colour(HWND list, UINT question, UINT patience) {
@@ -41,22 +72,32 @@ std::optional<Colour> Ask_Colour(HWND list, UINT question, UINT patience) {
 
 // The shell's windows, from the top of each level to its bottom:
 //
+//   WorkerW                        none, or some, mostly empty
 //   Progman "Program Manager"      the desktop window
 //     Vellatro_Calendar            ours, once it is attached: above the icons
 //     SHELLDLL_DefView             the view
 //       SysListView32              the icon list
-//   WorkerW                        none, or some, empty
+//     WorkerW                      on newer systems a raised desktop's wallpaper, below the view
 //
-// Some pictures and programs make the shell move the view into a WorkerW. Then there is no view in Progman,
-// and the calendar stays a window of its own below all others, as it does under another shell and while the
-// shell hangs. When the shell ends, its windows take the calendar's down with them.
+// "Show desktop", slide shows, the fade from one wallpaper to the next and some programs make the shell move
+// the view into a WorkerW at the top, and later back. A WorkerW that holds the view covers Progman and what
+// is in it, so the calendar belongs beside the view. It is a window of its own below all others under another
+// shell and while the shell hangs. When the shell ends, its windows take the calendar's down with them.
 
 Shell_Window Find_Desktop_Window() {
     return Id_Of(FindWindowW(L"Progman", L"Program Manager"));
 }
 
 Shell_Window Find_Shell_View(Shell_Window desktop) {
-    return Id_Of(FindWindowExW(Window_Of(desktop), nullptr, L"SHELLDLL_DefView", nullptr));
+    HWND view = View_In(Window_Of(desktop));
+    HWND worker = nullptr;
+    while (view == nullptr && (worker = FindWindowExW(nullptr, worker, L"WorkerW", nullptr)) != nullptr)
+        view = View_In(worker);
+    return Id_Of(view);
+}
+
+Shell_Window Holder_Of(Shell_Window view) {
+    return Id_Of(GetAncestor(Window_Of(view), GA_PARENT));
 }
 
 Shell_Window Find_Icon_List(Shell_Window view) {
@@ -73,24 +114,38 @@ std::optional<Label_Colours> Icon_Label_Colours(Shell_Window list, unsigned pati
     return Label_Colours{*background, *text};
 }
 
-void Attach_To_Desktop(const Form_Model &model, Shell_Window desktop) {
+bool Attach_To_Desktop(const Form_Model &model, Shell_Window holder) {
     const HWND window = win32::Window_Of_Form(model);
     if (window == nullptr)
-        return;
+        return false;
+    // No child may be layered at the moment of the call.
+    Set_Layered(window, false);
     // A child only for the length of the call, as its documentation asks; Wine would also give a pop-up
     // window the keyboard, whatever the user is typing in. Afterwards it is a pop-up again: the keyboard of a
     // child belongs to the window at the top, here the shell's, and comes to the calendar under Windows only
     // as long as the shell answers, and under Wine never. A pop-up window is activated by itself. Its place,
     // drawing, region and end follow from the parent, whatever the style.
     Change_Style(window, WS_POPUP, WS_CHILD);
-    SetParent(window, Window_Of(desktop));
+    SetParent(window, Window_Of(holder));
     Change_Style(window, WS_CHILD, WS_POPUP);
-    if (GetAncestor(window, GA_PARENT) != Window_Of(desktop))
-        return;
+    if (GetAncestor(window, GA_PARENT) != Window_Of(holder))
+        return false;
+    Set_Layered(window, Has_Extended(Window_Of(holder), Without_Surface));
     // A parent takes a new child in above the others; the calendar relies on standing above the icons.
     SetWindowPos(window, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     win32::Check_Scale(false);
     Form_Changed(model, Aspect::Bounds);
+    return true;
+}
+
+void Keep_Over_View(const Form_Model &model, Shell_Window view) {
+    const HWND window = win32::Window_Of_Form(model);
+    const HWND holder = Window_Of(Holder_Of(view));
+    if (window == nullptr || holder == nullptr)
+        return;
+    Set_Layered(window, Has_Extended(holder, Without_Surface));
+    if (Is_Above(Window_Of(view), window))
+        SetWindowPos(window, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
 }
 
 void Open_Web_Page(const char *address) {

@@ -103,14 +103,15 @@ TTTOOLINFOW Tooltips::Tool_Of(HWND owner, std::size_t index) const {
     return tool;
 }
 
-bool Tooltips::Make_Window(HWND owner) {
+bool Tooltips::Make_Window() {
     if (window_ != nullptr && IsWindow(window_))
         return true;
     INITCOMMONCONTROLSEX classes = {sizeof classes, ICC_BAR_CLASSES};
     InitCommonControlsEx(&classes);
+    // Without an owner: that would be the window of the shell that the calendar is in, with which it would go.
     window_ = CreateWindowExW(
         WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX, CW_USEDEFAULT,
-        CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, owner, nullptr, GetModuleHandleW(nullptr), nullptr);
+        CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, nullptr, nullptr, GetModuleHandleW(nullptr), nullptr);
     tools_.clear();
     // As long as the mouse rests there: a long text takes its time to read. 32767 ms is the most.
     SendMessageW(window_, TTM_SETDELAYTIME, TTDT_AUTOPOP, MAKELPARAM(32767, 0));
@@ -124,7 +125,7 @@ void Tooltips::Update(HWND owner, const platform::Form_Model &model, std::vector
         any = any || (control->visible && !control->tooltip.empty());
     if (!any && tools_.empty())
         return;
-    if (!Make_Window(owner))
+    if (!Make_Window())
         return;
     tools_.resize(model.controls.size());
     for (std::size_t i = 0; i < tools_.size(); ++i) {

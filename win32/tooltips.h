@@ -34,7 +34,7 @@ private:
         std::string text;
     };
 
-    bool Make_Window(HWND owner);
+    bool Make_Window();
     void Update_Tool(HWND owner, std::size_t index, Tool wanted);
     TTTOOLINFOW Tool_Of(HWND owner, std::size_t index) const;
 

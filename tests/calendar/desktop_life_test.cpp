@@ -64,6 +64,65 @@ TEST_F(Desktop_Life, waits_outside_for_a_shell_that_does_not_answer) {
     EXPECT_EQ(Desktop().mirrors.size(), 1U) << "the splash came a second time";
 }
 
+TEST_F(Desktop_Life, follows_the_icons_to_where_the_shell_has_them) {
+    Shell().worker = 21; // before the start
+    Start();
+    EXPECT_EQ(Shell().attached_to, 21U);
+    for (const bool at_once : {true, false})
+        for (const platform::Shell_Window worker : {0U, 22U, 23U}) {
+            Shell().worker = worker;
+            if (at_once)
+                Desktop().Say(platform::Broadcast::Front_Changed);
+            else
+                Desktop().Advance(1000);
+            EXPECT_EQ(Shell().attached_to, worker == 0 ? 11 : worker) << at_once;
+        }
+    Shell().covered = true;
+    Desktop().Advance(1000);
+    EXPECT_FALSE(Shell().covered);
+    // The window that holds the icons goes, and takes the calendar's along; then the shell itself.
+    for (const bool shell_stays : {true, false}) {
+        Desktop().mirrors.clear();
+        Shell().worker = 0;
+        Shell().desktop = shell_stays ? 11 : 0;
+        Input(form, {.kind = Input_Kind::Window_Lost});
+        Desktop().Advance(1000);
+        EXPECT_EQ(Desktop().mirrors.contains(&form.Model()), shell_stays);
+        EXPECT_EQ(Desktop().loop_ended, !shell_stays);
+        EXPECT_EQ(Shell().attached_to, 11U);
+    }
+}
+
+TEST_F(Desktop_Life, waits_two_minutes_for_a_view_that_comes_late) {
+    Shell().list = 0;
+    Start();
+    for (const unsigned time : {119'000U, 120'000U}) {
+        Fakes().milliseconds = time;
+        Desktop().Advance(1000);
+        EXPECT_EQ(form.Attachment.Waiting(), time < 120'000) << time;
+    }
+}
+
+TEST_F(Desktop_Life, is_seen_beside_its_place_as_long_as_the_monitor_of_that_is_gone) {
+    Stored("Alignment") = "7";
+    Stored("Manual_PosX") = "-15000";
+    Stored("Manual_PosY") = "3000";
+    Desktop().second_area = {-1600, 0, 1600, 900};
+    Start();
+    for (const bool gone : {false, true, false, true}) {
+        Desktop().second_area.width = gone ? 0 : 1600;
+        Desktop().Say(platform::Broadcast::Display_Changed);
+        Drag(0, 0);
+        EXPECT_EQ(form.Left(), gone ? 0 : -15000);
+        EXPECT_EQ(Stored("Manual_PosX") + Stored("Manual_PosY"), "-150003000");
+    }
+    Drag(150, 0);
+    EXPECT_EQ(Stored("Manual_PosX"), "150");
+    Desktop().second_area.width = 1600;
+    Desktop().Advance(1000);
+    EXPECT_EQ(form.Left(), 150);
+}
+
 TEST_F(Desktop_Life, drags_as_far_as_it_may) {
     struct {
         std::int16_t alignment, allowed, theme_pos;
@@ -111,6 +170,7 @@ TEST_F(Desktop_Life, a_yes_makes_the_position_manual_and_a_no_lasts_until_the_ne
         EXPECT_EQ(form.Left(), answer == Box_Answer::Yes ? left - 300 : left);
     }
     EXPECT_EQ(Stored("Alignment") + Stored("Use Theme Pos"), "70");
+    Desktop().work_area = {-10000, -10000, 20000, 20000};
     Drag(40000, -60000); // beyond 16 bits, which the store alone is limited to
     EXPECT_EQ(Stored("Manual_PosX") + Stored("Manual_PosY"), "32767-32768");
     for (const int expected : {left - 300 + 40000, 32767}) { // until another place is chosen

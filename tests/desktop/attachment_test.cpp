@@ -19,6 +19,31 @@ protected:
         Exchange_Shell(L"");
     }
 
+    /// Makes the stand-in do what its letters stand for (shell_standin.cpp).
+    static void Tell_Shell(char letter) {
+        DWORD_PTR answer = 0;
+        SendMessageTimeoutW(FindWindowW(L"Progman", nullptr), WM_APP, static_cast<WPARAM>(letter), 0,
+                            SMTO_NORMAL, 5000, &answer);
+    }
+
+    /// Where the calendar's window is beside the view of icons, in words.
+    static std::string Place_Of(HWND calendar) {
+        const HWND view = Shell_View(), holder = GetAncestor(view, GA_PARENT);
+        HWND above = view;
+        while (above && above != calendar)
+            above = GetWindow(above, GW_HWNDPREV);
+        RECT now{};
+        GetWindowRect(calendar, &now);
+        BYTE alpha = 0;
+        GetLayeredWindowAttributes(calendar, nullptr, &alpha, nullptr);
+        const bool raised = GetWindowLongW(holder, GWL_EXSTYLE) & 0x00200000;
+        const bool layered = GetWindowLongW(calendar, GWL_EXSTYLE) & WS_EX_LAYERED;
+        return std::string(view && GetAncestor(calendar, GA_PARENT) == holder ? "inside" : "outside") +
+               (above ? ", above" : ", below") +
+               (raised == layered && (!layered || alpha == 255) ? "" : ", without a surface") + " at " +
+               std::to_string(now.left) + ", " + std::to_string(now.top);
+    }
+
     /// The window's region is that of the items, to the pixel, and around them there is the wallpaper.
     static void Is_Only_Its_Items(const Program &program) {
         const std::vector<Item> items = program.Items();
@@ -92,6 +117,45 @@ TEST_F(Attachment, Takes_Place_And_Colours_From_What_There_Is_Of_The_Shell) {
         EXPECT_EQ(colours.size() > 1, text != back);
         Is_Only_Its_Items(program);
     }
+}
+
+TEST_F(Attachment, Follows_The_View_Of_Icons) {
+    const struct {
+        const wchar_t *options;
+        std::string_view letters; // of the stand-in, one after the other
+    } cases[] = {{L"", "wpawpll"},   {L"--do=w", "px"}, {L"--late", ""},
+                 {L"--do=l", "wpl"}, {L"--do=m", "lm"}, {L"--do=b", "bbwp"}};
+    std::string place; // the first one
+    for (const auto &[options, letters] : cases) {
+        Stop_All();
+        Exchange_Shell(options);
+        const Program &program = Start();
+        ASSERT_TRUE(Wait_Until([&] { return program.Calendar() && Shell_View(); }, 15000));
+        for (std::size_t i = 0; i <= letters.size(); ++i) {
+            SCOPED_TRACE(std::string(options, options + std::wcslen(options)) + ", " +
+                         std::string(letters.substr(0, i)));
+            if (i > 0) {
+                SetParent(program.Calendar(), GetAncestor(Shell_View(), GA_PARENT)); // see Uncover
+                Tell_Shell(letters[i - 1]);
+            }
+            if (place.empty() && Wait_Until([&] { return Place_Of(program.Calendar()).starts_with("in"); }))
+                place = Place_Of(program.Calendar());
+            ASSERT_TRUE(Becomes(
+                place, [&] { return Place_Of(program.Calendar()); }, 2000));
+            EXPECT_TRUE(program.Uncover(Middle(program.Named("Sunday").place))) << "it is not seen";
+        }
+    }
+    EXPECT_TRUE(place.starts_with("inside, above at ")) << place;
+    Stop_All();
+    // At once: with the clock's tick alone each step takes a second.
+    const Program &program = Start_Calendar();
+    const double begin = Milliseconds_Now();
+    for (const char letter : std::string_view("wpwpwp")) {
+        Tell_Shell(letter);
+        EXPECT_TRUE(Becomes(GetAncestor(Shell_View(), GA_PARENT),
+                            [&] { return GetAncestor(program.Calendar(), GA_PARENT); }));
+    }
+    EXPECT_LT(Milliseconds_Now() - begin, 4500);
 }
 
 TEST_F(Attachment, Region_Is_What_Is_Seen) {

@@ -137,6 +137,13 @@ Item Item_Of(HWND control, bool act) {
     return accessible ? Item_Of(*accessible, self) : Item{};
 }
 
+HWND Shell_View() {
+    for (const HWND window : Windows_Below(nullptr))
+        if (Class_Of(window) == "SHELLDLL_DefView")
+            return window;
+    return nullptr;
+}
+
 double Milliseconds_Now() {
     LARGE_INTEGER count, frequency;
     QueryPerformanceCounter(&count);

@@ -55,6 +55,9 @@ bool Has_Keyboard(HWND window);
 Item Item_Of(HWND control, bool act = false);
 std::string Text_Of(HWND window); ///< also of a control; nothing from a window that does not answer
 
+/// The view of icons, wherever the shell has it; null: none.
+HWND Shell_View();
+
 double Milliseconds_Now(); ///< of a clock that nothing sets
 
 /// Polls until `holds` gives true; false after the deadline.

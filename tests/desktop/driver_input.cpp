@@ -117,8 +117,8 @@ bool Program::Uncover(POINT point) const {
     return Wait_Until([&] {
         DWORD_PTR answer = 0; // which comes after what X has told the stand-in
         SendMessageTimeoutW(standin, WM_NULL, 0, 0, SMTO_NORMAL, 2000, &answer);
-        if (GetAncestor(calendar, GA_PARENT) == standin)
-            SetParent(calendar, FindWindowExA(standin, nullptr, "SHELLDLL_DefView", nullptr));
+        if (const HWND view = Shell_View(); GetAncestor(calendar, GA_PARENT) == GetAncestor(view, GA_PARENT))
+            SetParent(calendar, view);
         if (Picture().At(point.x, point.y) != Bare_Screen->At(point.x, point.y) &&
             WindowFromPoint(point) == calendar)
             return true;

@@ -2,11 +2,17 @@
 // has none of them. The desktop tests and the run script start it before the calendar. It judges nothing.
 //
 //   shell_standin [--text=RRGGBB] [--back=RRGGBB|none] [--no-list] [--no-view] [--no-shell] [--adopt]
+//                 [--late] [--do=LETTERS]
 //
 // --adopt is for a person who looks: with it a wallpaper that a program hangs up is shown, stretched.
 // The colours are those of the icon labels (white on none). --no-list and --no-view leave out the windows of
-// that name and below; --no-shell keeps the wallpaper only, in a class that nobody looks for. It ends on
-// WM_CLOSE.
+// that name and below; --no-shell keeps the wallpaper only, in a class that nobody looks for. --late makes
+// the view three seconds after the start. It ends on WM_CLOSE.
+//
+// A letter is what shells do: w moves the view into a "WorkerW" that covers "Program Manager", p back, x back
+// and destroys the WorkerW; a raises the view; l puts the desktop's origin 300 pixels to the left, or back; m
+// mirrors it; b gives it the style of a raised desktop, or takes it. Each can be asked for at any time:
+// WM_APP to "Program Manager", with the letter.
 //
 // Debian's Wine 8 loses the pixels of windows below "Progman" in two ways, and each has its way round. First,
 // a window put into a window of another process is drawn only if an X window is found on the way up to its
@@ -33,12 +39,15 @@ namespace {
 constexpr char X_Window_Property[] = "__wine_x11_whole_window";
 constexpr char Calendar_Class[] = "Vellatro_Calendar";
 constexpr char Splash_Class[] = "Vellatro_Splash";
+constexpr UINT_PTR Late_Timer = 2;
 
 HWND Shell_Window;
+HWND Worker_Window;
 HWND View_Window;
 HWND List_Window;
 WNDPROC List_Procedure;
 HDC Picture_Dc; // holds the picture of the whole desktop, as long as the process lives
+int Origin;     // of the desktop windows, from the left
 
 bool Has_Option(const char *option) {
     return std::string(GetCommandLineA()).find(option) != std::string::npos;
@@ -100,14 +109,15 @@ void Paint_Hung_Up(SIZE size) {
     DeleteObject(picture);
 }
 
-// The screen's size changes in tests; all windows start in its upper left corner. No bits are copied: Wine
-// waits for ever for the X server's answer to that, now and then.
+// The screen's size changes in tests; all windows start at one corner. No bits are copied: Wine waits for
+// ever for the X server's answer to that, now and then.
 void Fill_Screen(SIZE size) {
     Paint_Wallpaper(size);
     Paint_Hung_Up(size);
-    for (const HWND window : {Shell_Window, View_Window, List_Window})
+    for (const HWND window : {Worker_Window, Shell_Window, View_Window, List_Window})
         if (window)
-            SetWindowPos(window, HWND_BOTTOM, 0, 0, size.cx, size.cy, SWP_NOACTIVATE | SWP_NOCOPYBITS);
+            SetWindowPos(window, HWND_BOTTOM, GetAncestor(window, GA_ROOT) == window ? Origin : 0, 0,
+                         size.cx - Origin, size.cy, SWP_NOACTIVATE | SWP_NOCOPYBITS);
     if (List_Window)
         SendMessageA(List_Window, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(Picture_Dc), PRF_CLIENT);
     RedrawWindow(Shell_Window, nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
@@ -134,23 +144,28 @@ void Leave_Out_Guests(HRGN region, HWND parent) {
 
 void Paint_Picture(HWND window) {
     const HRGN region = CreateRectRgn(0, 0, 0, 0);
+    const HWND top = GetAncestor(window, GA_ROOT);
+    RECT area;
+    GetWindowRect(top, &area);
     GetUpdateRgn(window, region, FALSE);
+    OffsetRgn(region, area.left, area.top);
+    if (GetWindowLongA(top, GWL_EXSTYLE) & WS_EX_LAYOUTRTL) // it is counted from the right there
+        SetRectRgn(region, area.left, area.top, area.right, area.bottom);
     RedrawWindow(window, nullptr, nullptr, RDW_VALIDATE | RDW_NOCHILDREN); // the calendar has still to paint
-    Leave_Out_Guests(region, Shell_Window);
+    Leave_Out_Guests(region, top);
     if (View_Window)
         Leave_Out_Guests(region, View_Window);
-    const HDC dc = GetDCEx(Shell_Window, region, DCX_CACHE | DCX_CLIPSIBLINGS | DCX_INTERSECTRGN);
-    RECT area;
-    GetClientRect(Shell_Window, &area);
-    BitBlt(dc, 0, 0, area.right, area.bottom, Picture_Dc, 0, 0, SRCCOPY);
-    ReleaseDC(Shell_Window, dc); // and the region with it
+    const HDC dc = GetDCEx(top, region, DCX_CACHE | DCX_CLIPSIBLINGS | DCX_INTERSECTRGN);
+    SetLayout(dc, 0);
+    BitBlt(dc, -area.left, 0, area.right, area.bottom, Picture_Dc, 0, 0, SRCCOPY);
+    ReleaseDC(top, dc); // and the region with it
 }
 
 // Also tells where the calendar is, as WIDTHxHEIGHT+X+Y, whenever that is new: a script waits for it.
 void Adopt_Calendar() {
     static RECT told;
     RECT place;
-    if (const HWND calendar = FindWindowExA(Shell_Window, nullptr, Calendar_Class, nullptr))
+    if (const HWND calendar = FindWindowExA(GetParent(View_Window), nullptr, Calendar_Class, nullptr))
         SetParent(calendar, View_Window);
     HWND calendar = FindWindowExA(View_Window, nullptr, Calendar_Class, nullptr);
     if (!calendar)
@@ -165,6 +180,9 @@ void Adopt_Calendar() {
     std::fflush(stdout);
 }
 
+void Create_View();
+void Do(char letter);
+
 LRESULT CALLBACK Handle_Message(HWND window, UINT message, WPARAM wide, LPARAM longer) {
     if (message == WM_ERASEBKGND)
         return 1;
@@ -174,6 +192,12 @@ LRESULT CALLBACK Handle_Message(HWND window, UINT message, WPARAM wide, LPARAM l
     }
     if (window == List_Window)
         return CallWindowProcA(List_Procedure, window, message, wide, longer);
+    if (window == Worker_Window && message == WM_WINDOWPOSCHANGING) { // it stays right above the desktop
+        WINDOWPOS &change = *reinterpret_cast<WINDOWPOS *>(longer);
+        change.hwndInsertAfter = GetWindow(Shell_Window, GW_HWNDPREV);
+        if (change.hwndInsertAfter == window)
+            change.flags |= SWP_NOZORDER;
+    }
     if (window == Shell_Window) {
         if (message == WM_WINDOWPOSCHANGING) // a click must not bring the desktop to the front
             reinterpret_cast<WINDOWPOS *>(longer)->hwndInsertAfter = HWND_BOTTOM;
@@ -181,8 +205,12 @@ LRESULT CALLBACK Handle_Message(HWND window, UINT message, WPARAM wide, LPARAM l
             Fill_Screen({LOWORD(longer), HIWORD(longer)});
         else if (message == WM_SETTINGCHANGE && wide == SPI_SETDESKWALLPAPER)
             Fill_Screen({GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)});
+        else if (message == WM_TIMER && wide == Late_Timer)
+            Create_View();
         else if (message == WM_TIMER)
             Adopt_Calendar();
+        else if (message == WM_APP)
+            Do(static_cast<char>(wide));
         else if (message == WM_DESTROY)
             PostQuitMessage(0);
     }
@@ -230,21 +258,68 @@ void Create_List() {
         SetWindowLongPtrA(List_Window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(Handle_Message)));
 }
 
+void Create_View() {
+    KillTimer(Shell_Window, Late_Timer);
+    View_Window = Create_Own_Window("SHELLDLL_DefView", "", WS_CHILD, Shell_Window);
+    SetPropA(View_Window, X_Window_Property, GetPropA(Shell_Window, X_Window_Property));
+    if (!Has_Option("--no-list"))
+        Create_List();
+    if (Has_Option("--adopt"))
+        SetTimer(Shell_Window, 1, 50, nullptr);
+    Fill_Screen({GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)});
+}
+
+void Move_View(HWND holder) {
+    SetParent(View_Window, holder);
+    SetPropA(View_Window, X_Window_Property, GetPropA(holder, X_Window_Property));
+    NotifyWinEvent(EVENT_SYSTEM_FOREGROUND, holder, OBJID_WINDOW, CHILDID_SELF);
+}
+
+void Change_Extended_Style(LONG style) {
+    SetWindowLongA(Shell_Window, GWL_EXSTYLE, GetWindowLongA(Shell_Window, GWL_EXSTYLE) ^ style);
+}
+
+void Do(char letter) {
+    if (letter == 'w') {
+        if (!Worker_Window)
+            Worker_Window = Create_Own_Window("WorkerW", "", WS_POPUP, nullptr);
+        ShowWindow(Worker_Window, SW_SHOWNA);
+        Move_View(Worker_Window);
+    } else if (letter == 'p' || letter == 'x') {
+        Move_View(Shell_Window);
+        ShowWindow(Worker_Window, SW_HIDE);
+        if (letter == 'x')
+            DestroyWindow(std::exchange(Worker_Window, nullptr));
+    } else if (letter == 'a') {
+        SetWindowPos(View_Window, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+        return;
+    } else if (letter == 'l') {
+        Origin = -300 - Origin;
+    } else if (letter == 'm') {
+        Change_Extended_Style(WS_EX_LAYOUTRTL);
+    } else if (letter == 'b') {
+        Change_Extended_Style(0x00200000); // WS_EX_NOREDIRECTIONBITMAP
+    }
+    Fill_Screen({GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)});
+}
+
 } // namespace
 
 int main() {
     const bool is_shell = !Has_Option("--no-shell");
     Shell_Window =
         Create_Own_Window(is_shell ? "Progman" : "Standin_Wallpaper", "Program Manager", WS_POPUP, nullptr);
-    if (is_shell && !Has_Option("--no-view")) {
-        View_Window = Create_Own_Window("SHELLDLL_DefView", "", WS_CHILD, Shell_Window);
-        SetPropA(View_Window, X_Window_Property, GetPropA(Shell_Window, X_Window_Property));
-        if (!Has_Option("--no-list"))
-            Create_List();
-    }
+    if (is_shell && Has_Option("--late"))
+        SetTimer(Shell_Window, Late_Timer, 3000, nullptr);
+    else if (is_shell && !Has_Option("--no-view"))
+        Create_View();
     Fill_Screen({GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)});
-    if (View_Window && Has_Option("--adopt"))
-        SetTimer(Shell_Window, 1, 50, nullptr);
+    const std::string line = GetCommandLineA();
+    if (const std::size_t letters = line.find("--do="); letters != std::string::npos)
+        for (std::size_t i = letters + 5; i < line.size() && line[i] > ' '; ++i)
+            Do(line[i]);
+    if (is_shell)
+        PostMessageA(HWND_BROADCAST, RegisterWindowMessageA("TaskbarCreated"), 0, 0);
     MSG message;
     while (GetMessageA(&message, nullptr, 0, 0) > 0)
         DispatchMessageA(&message);

@@ -223,6 +223,10 @@ Rect Work_Area_Around(Point) {
     return Desktop().work_area;
 }
 
+Rect Work_Area_Of(const Rect &place) {
+    return Desktop().second_area.Intersects(place) ? Desktop().second_area : Desktop().work_area;
+}
+
 bool High_Contrast() {
     return Desktop().high_contrast;
 }
@@ -326,6 +330,11 @@ Shell_Window Find_Shell_View(Shell_Window desktop) {
     return Shell().view;
 }
 
+Shell_Window Holder_Of(Shell_Window view) {
+    Require(view != 0 && view == Shell().view, "a holder of no view");
+    return Shell().worker != 0 ? Shell().worker : Shell().desktop;
+}
+
 Shell_Window Find_Icon_List(Shell_Window view) {
     Require(view != 0 && view == Shell().view, "an icon list in no view");
     return Shell().list;
@@ -336,14 +345,21 @@ std::optional<Label_Colours> Icon_Label_Colours(Shell_Window list, unsigned) {
     return Shell().colours;
 }
 
-void Attach_To_Desktop(const Form_Model &model, Shell_Window desktop) {
-    Require(desktop != 0 && desktop == Shell().desktop, "a window attached to no desktop");
+bool Attach_To_Desktop(const Form_Model &model, Shell_Window holder) {
+    Require(holder != 0 && holder == Holder_Of(Shell().view), "a window attached to no desktop");
     Shell().attached = &model;
+    Shell().attached_to = holder;
     Shell().attached_hidden = !Mirror_Of(model).shown;
     if (Shell().dots_inside == 0 || Shell().dots_inside == Desktop().dots_per_inch)
-        return;
+        return true;
     Desktop().dots_per_inch = Shell().dots_inside;
     model.input({.kind = Input_Kind::Dots_Changed});
+    return true;
+}
+
+void Keep_Over_View(const Form_Model &model, Shell_Window view) {
+    Require(&model == Shell().attached && Holder_Of(view) == Shell().attached_to, "a window elsewhere");
+    Shell().covered = false;
 }
 
 void Open_Web_Page(const char *address) {

@@ -59,6 +59,7 @@ struct Fake_Timer {
 struct Fake_Desktop {
     int dots_per_inch = 96;
     Rect work_area{0, 0, 1024, 740};
+    Rect second_area{}; ///< of another monitor; empty: there is none
     Point mouse;
     bool button_held = false;
     bool high_contrast = false;
@@ -95,12 +96,15 @@ Fake_Desktop &Desktop();
 /// The faked shell: which of its windows there are, what its icon list answers, and what was attached to it.
 struct Fake_Shell {
     platform::Shell_Window desktop = 0, view = 0, list = 0; ///< none is there unless a test says so
+    platform::Shell_Window worker = 0;                      ///< that holds the view; 0: the desktop does
     std::optional<platform::Label_Colours> colours;         ///< nothing: the shell hangs
     std::vector<std::string> web_pages;                     ///< that were opened
     int dots_inside = 0; ///< dots per inch that a window has inside the desktop; 0: the same as outside
 
     const platform::Form_Model *attached = nullptr;
+    platform::Shell_Window attached_to = 0;
     bool attached_hidden = false; ///< it was not to be seen when it was attached
+    bool covered = false;         ///< by the view, which somebody has raised
 };
 
 /// The one faked shell.

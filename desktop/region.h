@@ -1,0 +1,7 @@
+// The part of a form that is seen on the desktop.
+#pragma once
+
+#include "toolkit/form.h"
+
+/// Clips a form's window to its visible controls, so that the wallpaper shows between them.
+void Clip_To_Controls(Form &form);
