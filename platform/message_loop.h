@@ -9,8 +9,6 @@
 
 namespace platform {
 
-struct Form_Model;
-
 /// Dispatches messages until End_Message_Loop is called. Not from inside a handler.
 void Run_Message_Loop();
 
@@ -21,9 +19,10 @@ void End_Message_Loop();
 void Process_Waiting_Messages();
 
 /// Keeps the program's windows painted within a long piece of work: paints what has to be painted, and drops
-/// what the user does with the native window of `busy` and its controls. All other messages, timers and
-/// requests to close among them, wait until the work is done, so that nothing happens beside it.
-void Paint_Waiting(const Form_Model &busy);
+/// what the user does with any of them. Input that waited would keep the shell's icons from theirs, where the
+/// calendar shares its queue. All other messages, timers and requests to close among them, wait until the
+/// work is done, so that nothing happens beside it.
+void Paint_Waiting();
 
 /// Sleeps until a message waits, at most `milliseconds`.
 void Wait_For_Messages(unsigned milliseconds);

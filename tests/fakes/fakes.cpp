@@ -71,7 +71,7 @@ unsigned Milliseconds() {
     return Fakes().milliseconds += Fakes().clock_step;
 }
 
-void Paint_Waiting(const Form_Model &) {
+void Paint_Waiting() {
     if (Fakes().painting)
         Fakes().painting();
 }
