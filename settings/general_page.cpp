@@ -17,10 +17,12 @@ General_Page::General_Page(Form &dialog, Frame &frame, Main_Frm &calendar)
       Allow_Dragging_Chk(dialog, "Allow_Dragging_Chk",
                          "Allow d&ragging when Manual Position is not selected"),
       Alert_Chk(dialog, "Alert_Chk", "A&lert me when a date Comes up"),
-      Startup_Chk(dialog, "Startup_Chk", "Run at &Startup"), calendar_(calendar) {
-    frame.Hold(Title_Bar_Fra, Startup_Chk);
+      Startup_Chk(dialog, "Startup_Chk", "Run at &Startup"),
+      Startup_Lbl(dialog, "Startup_Lbl", "For all users; needs an administrator's rights."),
+      calendar_(calendar) {
+    frame.Hold(Title_Bar_Fra, Startup_Lbl);
     Title_Bar_Fra.Hold(Bar_Time_Chk, Bar_Preview_Lbl);
-    General_Fra.Hold(Auto_Compact_Chk, Startup_Chk);
+    General_Fra.Hold(Auto_Compact_Chk, Startup_Lbl);
     Bar_Time_Lbl.Set_Visible(false);
     Bar_Time_Cbo.Set_Editable();
     Bar_Time_Cbo.Set_Items({"H:mm", "HH:mm", "H:mm:ss", "HH:mm:ss", "h:mm AM/PM", "h:mm:ss AM/PM"});
@@ -44,6 +46,8 @@ void General_Page::Get_Startup_Value() {
     const platform::Registry_Value entry = platform::Registry_Read(
         "HKLM", "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Run", "Vellatro", 'S', std::string(absent));
     Startup_Chk.Set_Checked(entry != platform::Registry_Value(std::string(absent)));
+    Startup_Lbl.Set_Visible(
+        !platform::Registry_Writable("HKLM", "Software\\Microsoft\\Windows\\CurrentVersion\\Run"));
 }
 
 void General_Page::Show_Preview() {
@@ -80,5 +84,6 @@ void General_Page::Lay_Out() {
         box->Move({margin, top, inner_width, check_height});
         top += check_height + small_gap;
     }
-    General_Fra.Move({0, Title_Bar_Fra.Bounds().Bottom() + gap, page_width, top - small_gap + margin});
+    Startup_Lbl.Move({margin, top, inner_width, line});
+    General_Fra.Move({0, Title_Bar_Fra.Bounds().Bottom() + gap, page_width, top + line + margin});
 }

@@ -31,6 +31,7 @@ public:
     Check_Box Allow_Dragging_Chk;
     Check_Box Alert_Chk;
     Check_Box Startup_Chk;
+    Label Startup_Lbl; ///< seen where the system does not let this user change the start-up entry
 
 private:
     Main_Frm &calendar_;

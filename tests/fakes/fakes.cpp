@@ -304,6 +304,10 @@ Registry_Value Registry_Read(std::string_view root_name, std::string_view key, s
     return text ? Registry_Value(*text) : standard;
 }
 
+bool Registry_Writable(std::string_view, std::string_view) {
+    return !Fakes().registry_refuses_writes;
+}
+
 void Registry_Write(std::string_view root_name, std::string_view key, std::string_view name, char,
                     const Registry_Value &value) {
     Registry_Write_String(1, root_name == "HKCU" ? std::string(key) : Path(root_name, key), name,
