@@ -1,5 +1,4 @@
-// The message loop, its timers, the system's broadcasts, and the one-instance claim: what keeps the program
-// alive.
+// The message loop, its timers and the system's broadcasts: what keeps the program alive.
 #pragma once
 
 #include "base/callback.h"
@@ -41,18 +40,21 @@ enum class Broadcast {
     Time_Changed,     ///< the clock was set
     Display_Changed,  ///< the screen's size or depth
     Colours_Changed,  ///< the Windows colours
+    Shell_Started,    ///< a shell has its task bar, the first one or one after another
     Session_Ends,     ///< the user is about to log off or shut down; the last chance to keep something
+    Session_Forced,   ///< the same, but the system waits for nobody: a question would not be answered
     Session_Over,     ///< the session ends now, whatever the program says
     Close_Request,    ///< somebody asks the program to close, as a task manager does
 };
 
 /// Names the one listener of the broadcasts. It must not throw. Its answer counts for Session_Ends: false
-/// asks the system not to end the session. A hidden top-level window hears them, because windows inside the
+/// asks the system not to end the session. After Session_Forced no message box appears any more: each gets
+/// the answer that changes least. A hidden top-level window hears them, because windows inside the
 /// shell's desktop do not.
 void Listen_To_Broadcasts(Callback<bool(Broadcast)> listener);
 
-/// True when this process is the first of the user's session that claims `name`; the claim ends with the
-/// process.
-bool Claim_Single_Instance(const std::string &name);
+/// Sets the reason for which Session_Ends may be refused; empty: there is none. Systems from Vista on show it
+/// to the user, and do not wait for a program without a window that gives none.
+void Explain_Refusal(const std::string &reason);
 
 } // namespace platform

@@ -92,6 +92,8 @@ Box_Answer Answer_Of(int id, Box_Buttons buttons) {
 } // namespace
 
 Box_Answer Message_Box(std::string_view text, std::string_view title, Box_Icon icon, Box_Buttons buttons) {
+    if (win32::No_More_Boxes)
+        return Answer_Of(0, buttons);
     const std::wstring wide_text = Showable(text, Longest_Text);
     const std::wstring wide_title = Showable(title, Longest_Title);
     const HWND owner = Active_Dialog();

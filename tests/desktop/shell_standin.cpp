@@ -243,6 +243,7 @@ int main() {
             Create_List();
     }
     Fill_Screen({GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)});
+    SendNotifyMessageA(HWND_BROADCAST, RegisterWindowMessageA("TaskbarCreated"), 0, 0);
     if (View_Window && Has_Option("--adopt"))
         SetTimer(Shell_Window, 1, 50, nullptr);
     MSG message;
