@@ -59,7 +59,7 @@ TEST_F(Window_Contract, Long_Work_Drops_Input_Of_Every_Window) {
     model.input = [&came](const platform::Input_Event &event) { came.push_back(event.kind); };
     platform::Create_Mirror(model);
     const HWND window = FindWindowW(L"Vellatro_Contract_Painted", nullptr);
-    for (const UINT message : {WM_KEYDOWN, WM_CLOSE, WM_LBUTTONDOWN})
+    for (const UINT message : {UINT{WM_KEYDOWN}, UINT{WM_CLOSE}, UINT{WM_LBUTTONDOWN}})
         PostMessageW(window, message, VK_F2, 0);
     platform::Paint_Waiting();
     platform::Process_Waiting_Messages();
