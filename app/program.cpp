@@ -1,42 +1,90 @@
 // Wires the windows to each other and keeps the program alive.
 #include "app/program.h"
 
+#include "app/desktop_return.h"
 #include "calendar/main_frm.h"
 #include "editor/edit_frm.h"
+#include "platform/clock.h"
+#include "platform/message_box.h"
 #include "platform/message_loop.h"
+#include "platform/process.h"
 #include "platform/wallpaper.h"
 #include "settings/settings_frm.h"
 #include "toolkit/guard.h"
 
-int Run_Program() {
-    int exit_code = 1;
-    Run_Guarded([&exit_code] {
-        // The forms are too large for the stack, whose frames stay below a page.
-        const auto main_frm = std::make_unique<Main_Frm>();
-        const auto edit_frm = std::make_unique<Edit_Frm>(*main_frm);
-        Connect_Editor(*main_frm, *edit_frm);
-        std::unique_ptr<Settings_Frm> settings_frm;
-        Connect_Settings(*main_frm, settings_frm);
-        if (!main_frm->Form_Load())
-            return;
+namespace {
+
+enum class Calendar_End { Not_Started, Wanted, Lost_With_Shell };
+
+/// Tells a user who has opened the program inside an archive what that means. Once a start by the user: what
+/// was told cannot be kept, since the next folder is another one.
+void Warn_Of_Temporary_Folder() {
+    if (platform::Restart_Count() == 0 && platform::Started_From_Temporary_Folder())
+        platform::Message_Box("Vellatro was started from a temporary folder, as happens inside an archive. "
+                              "Events that you enter will be lost when that folder is deleted.\r\n\r\n"
+                              "Copy all of the program's files into a folder of your own and start it there.",
+                              "Vellatro", platform::Box_Icon::Exclamation);
+}
+
+/// Runs the calendar and its dialogs until all of them are closed.
+Calendar_End Run_Calendar() {
+    // The forms are too large for the stack, whose frames stay below a page.
+    const auto main_frm = std::make_unique<Main_Frm>();
+    const auto edit_frm = std::make_unique<Edit_Frm>(*main_frm);
+    Connect_Editor(*main_frm, *edit_frm);
+    std::unique_ptr<Settings_Frm> settings_frm;
+    Connect_Settings(*main_frm, settings_frm);
+    if (!main_frm->Form_Load())
+        return Calendar_End::Not_Started;
+    Warn_Of_Temporary_Folder();
+    platform::Run_Message_Loop();
+    main_frm->Close_Settings();
+    // When the desktop is lost nobody has been asked yet, or the loop has ended under an open question.
+    // Who answers Cancel, or whose text is refused, gets the editor back; it alone keeps the program
+    // then.
+    edit_frm->On_Unload = [] { platform::End_Message_Loop(); };
+    while (!edit_frm->Ask_Unsaved() && edit_frm->Visible())
         platform::Run_Message_Loop();
-        main_frm->Close_Settings();
-        // When the desktop is lost nobody has been asked yet, or the loop has ended under an open question.
-        // Who answers Cancel, or whose text is refused, gets the editor back; it alone keeps the program
-        // then.
-        edit_frm->On_Unload = [] { platform::End_Message_Loop(); };
-        while (!edit_frm->Ask_Unsaved() && edit_frm->Visible())
-            platform::Run_Message_Loop();
-        edit_frm->On_Unload = nullptr;
-        exit_code = 0;
+    edit_frm->On_Unload = nullptr;
+    return main_frm->Lost_With_Shell() ? Calendar_End::Lost_With_Shell : Calendar_End::Wanted;
+}
+
+/// The place in the row of restarts of the process that follows this one, which ran for `lived` milliseconds;
+/// 0: there is none. A shell that takes every calendar down at once must not be given new ones for ever.
+int Next_Restart(unsigned lived) {
+    constexpr unsigned short_life = 60000;
+    constexpr int most_restarts = 3;
+    if (lived >= short_life)
+        return 1;
+    const int row = platform::Restart_Count();
+    return row < most_restarts ? row + 1 : 0;
+}
+
+} // namespace
+
+int Run_Program() {
+    auto end = Calendar_End::Not_Started;
+    int restart = 0;
+    Run_Guarded([&] {
+        const unsigned begin = platform::Milliseconds();
+        end = Run_Calendar();
+        if (end == Calendar_End::Lost_With_Shell)
+            restart = Next_Restart(platform::Milliseconds() - begin);
+        // From now on the user's own start is no second one.
+        platform::Release_Single_Instance();
+        if (restart > 0 && !Desktop_Return().Wait())
+            restart = 0;
     });
     platform::Finish_Wallpaper();
-    return exit_code;
+    if (restart > 0)
+        platform::Start_Again(restart);
+    return end == Calendar_End::Not_Started ? 1 : 0;
 }
 
 void Connect_Editor(Main_Frm &calendar, Edit_Frm &editor) {
     calendar.Open_Editor = [&editor](int index) { editor.Edit_Box(index); };
     calendar.Ask_Unsaved = [&editor] { return editor.Ask_Unsaved(); };
+    calendar.Save_Unasked = [&editor] { editor.Save_Unasked(); };
     calendar.Editor_Visible = [&editor] { return editor.Visible(); };
     calendar.Block_Editor = [&editor](Form *modal) { editor.Set_Blocked_By(modal); };
 }

@@ -6,6 +6,7 @@
 #include "platform/drawing.h"
 #include "platform/locale.h"
 #include "platform/message_box.h"
+#include "platform/process.h"
 #include "platform/screen.h"
 #include "platform/wallpaper.h"
 
@@ -68,8 +69,8 @@ void Main_Frm::Wire_Events() {
         Mark_Today();
     };
     Which_Month_Lbl.On_Default_Action = [this] { Which_Month_Lbl_DblClick(); };
-    // Without its window the program could only stand in the way of its next start. Nothing is asked here:
-    // the window inside the shell's goes down in the middle of the shell's own end, which waits for it.
+    // Nothing is asked here: the window inside the shell's goes down in the middle of the shell's own end,
+    // which waits for it.
     On_Window_Lost = [this] {
         if (!Attachment.Lose_Window())
             Lose_Desktop();
@@ -105,7 +106,9 @@ void Main_Frm::Wire_Box(Label &label, int index) {
 bool Main_Frm::Check_For_Multiple() {
     if (platform::Claim_Single_Instance("Vellatro"))
         return true;
-    platform::Message_Box("The program is already running!", "Vellatro", platform::Box_Icon::Information);
+    // The user may have been quicker than the shell, and did not start this process then.
+    if (platform::Restart_Count() == 0)
+        platform::Message_Box("The program is already running!", "Vellatro", platform::Box_Icon::Information);
     return false;
 }
 
@@ -201,9 +204,16 @@ bool Main_Frm::Hear(Broadcast broadcast) {
         Mark_Today();
         Repaint();
         break;
+    case Broadcast::Shell_Started:
+        break;
     case Broadcast::Session_Ends:
         return May_End();
+    case Broadcast::Session_Forced:
+        if (Save_Unasked)
+            Save_Unasked();
+        break;
     case Broadcast::Session_Over:
+        end_ = End::Wanted;
         Balloon.End();
         // The process may go at once: the dialog keeps its tab now.
         if (Close_Settings)
@@ -226,12 +236,15 @@ void Main_Frm::End_Program() {
     Hide_Balloon();
     if (!May_End())
         return;
+    end_ = End::Wanted;
     Balloon.End();
     platform::End_Message_Loop();
 }
 
 void Main_Frm::Lose_Desktop() {
     Balloon.End();
+    if (end_ == End::None)
+        end_ = End::Lost;
     platform::End_Message_Loop();
 }
 

@@ -41,6 +41,7 @@ public:
     // empty, there is no editor.
     Callback<void(int index)> Open_Editor; ///< for a day box
     Callback<bool()> Ask_Unsaved;          ///< offers unsaved text for saving; false: the user wants to stay
+    Callback<void()> Save_Unasked;         ///< saves unsaved text, as far as it can be saved
     Callback<bool()> Editor_Visible;
     Callback<void(Form *modal)> Block_Editor; ///< as Set_Blocked_By does with the calendar
 
@@ -52,6 +53,8 @@ public:
 
     /// Whether the program may end now; asks for unsaved text first.
     bool May_End() const;
+    /// Whether the window went down with the shell's, before anybody wanted the program to end.
+    bool Lost_With_Shell() const { return end_ == End::Lost; }
 
     /// Of which the window has its style, its position and what it takes of a theme: Cur_Settings, but for
     /// the length of a preview. Must not be null.
@@ -181,6 +184,8 @@ private:
     void Alert(const Date &today, std::string_view text);
     void Keep_Place(const std::optional<Point> &from);
 
+    enum class End { None, Wanted, Lost };
+    End end_ = End::None;
     std::string date_stamp_;
     std::string regional_look_;
     /// Texts that are read and not in their boxes yet.

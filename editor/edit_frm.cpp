@@ -50,7 +50,7 @@ void Edit_Frm::Edit_Box(int index) {
         Every_Year_Chk.Set_Checked(false);
     Fill();
     Date_Lbl.Set_Caption(Full_Date(day_));
-    Apply_Btn.Set_Enabled(false);
+    Set_Unsaved(false);
     Lay_Out();
     Place_Near(calendar_.Box_Lbl[index]);
     if (Visible())
@@ -97,6 +97,11 @@ bool Edit_Frm::Ask_Unsaved() {
     return true;
 }
 
+void Edit_Frm::Save_Unasked() {
+    if (Visible() && Apply_Btn.Enabled() && Check_Quotes())
+        Apply_Btn_Click();
+}
+
 /// The user goes on in the open editor.
 void Edit_Frm::Stay() {
     Bring_To_Front();
@@ -116,11 +121,11 @@ bool Edit_Frm::Apply_Btn_Click() {
     }
     const std::string text = Message_Txt.Text();
     if (!Save(text)) {
-        Apply_Btn.Set_Enabled(true);
+        Set_Unsaved(true);
         return false;
     }
     calendar_.Show_Saved(day_, text);
-    Apply_Btn.Set_Enabled(false);
+    Set_Unsaved(false);
     calendar_.Alert_Done = true;
     Form_Unload();
     return true;
@@ -145,10 +150,18 @@ void Edit_Frm::Cancel_Btn_Click() {
 }
 
 void Edit_Frm::Message_Txt_Change() {
-    Apply_Btn.Set_Enabled(true);
+    Set_Unsaved(true);
+}
+
+void Edit_Frm::Set_Unsaved(bool unsaved) {
+    if (unsaved == Apply_Btn.Enabled())
+        return;
+    Apply_Btn.Set_Enabled(unsaved);
+    platform::Explain_Refusal(unsaved ? "An event in the editor is not saved yet." : "");
 }
 
 void Edit_Frm::Form_Unload() {
+    Set_Unsaved(false);
     Close();
     calendar_.Resume_Auto_Compact();
     if (On_Unload)

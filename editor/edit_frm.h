@@ -21,6 +21,10 @@ public:
     /// stay, when the text cannot be saved as it is, and while a question about it is open already.
     bool Ask_Unsaved();
 
+    /// Saves unsaved text without a question and closes, where the session cannot wait. A text that is
+    /// refused stays as it is.
+    void Save_Unasked();
+
     /// False when the text holds a double quote, which no record can carry.
     bool Check_Quotes() const;
 
@@ -45,6 +49,7 @@ public:
 private:
     bool May_Leave();
     bool Save(const std::string &text);
+    void Set_Unsaved(bool unsaved);
     void Fill();
     void Form_Unload();
     void Stay();

@@ -1,5 +1,4 @@
-// The message loop, its timers, the system's broadcasts, and the one-instance claim: what keeps the program
-// alive.
+// The message loop, its timers and the system's broadcasts: what keeps the program alive.
 #pragma once
 
 #include "base/callback.h"
@@ -8,8 +7,6 @@
 #include <string>
 
 namespace platform {
-
-struct Form_Model;
 
 /// Dispatches messages until End_Message_Loop is called. Not from inside a handler.
 void Run_Message_Loop();
@@ -21,9 +18,10 @@ void End_Message_Loop();
 void Process_Waiting_Messages();
 
 /// Keeps the program's windows painted within a long piece of work: paints what has to be painted, and drops
-/// what the user does with the native window of `busy` and its controls. All other messages, timers and
-/// requests to close among them, wait until the work is done, so that nothing happens beside it.
-void Paint_Waiting(const Form_Model &busy);
+/// what the user does with any of them. Input that waited would keep the shell's icons from theirs, where the
+/// calendar shares its queue. All other messages, timers and requests to close among them, wait until the
+/// work is done, so that nothing happens beside it.
+void Paint_Waiting();
 
 /// Sleeps until a message waits, at most `milliseconds`.
 void Wait_For_Messages(unsigned milliseconds);
@@ -43,18 +41,21 @@ enum class Broadcast {
     Display_Changed,  ///< the screen's size or depth
     Colours_Changed,  ///< the Windows colours
     Front_Changed,    ///< a window of another program came to the front; not told where timers would wait
+    Shell_Started,    ///< a shell has its task bar, the first one or one after another
     Session_Ends,     ///< the user is about to log off or shut down; the last chance to keep something
+    Session_Forced,   ///< the same, but the system waits for nobody: a question would not be answered
     Session_Over,     ///< the session ends now, whatever the program says
     Close_Request,    ///< somebody asks the program to close, as a task manager does
 };
 
 /// Names the one listener of the broadcasts. It must not throw. Its answer counts for Session_Ends: false
-/// asks the system not to end the session. A hidden top-level window hears them, because windows inside the
+/// asks the system not to end the session. After Session_Forced no message box appears any more: each gets
+/// the answer that changes least. A hidden top-level window hears them, because windows inside the
 /// shell's desktop do not.
 void Listen_To_Broadcasts(Callback<bool(Broadcast)> listener);
 
-/// True when this process is the first of the user's session that claims `name`; the claim ends with the
-/// process.
-bool Claim_Single_Instance(const std::string &name);
+/// Sets the reason for which Session_Ends may be refused; empty: there is none. Systems from Vista on show it
+/// to the user, and do not wait for a program without a window that gives none.
+void Explain_Refusal(const std::string &reason);
 
 } // namespace platform

@@ -40,6 +40,9 @@ using Registry_Value = std::variant<std::string, bool, std::int32_t>;
 Registry_Value Registry_Read(std::string_view root_name, std::string_view key, std::string_view name,
                              char type_letter, const Registry_Value &standard);
 
+/// Whether Registry_Write can set a value in the key, which must exist.
+bool Registry_Writable(std::string_view root_name, std::string_view key);
+
 /// Makes the key where it is missing and sets the value, whose type the capital letter tells; another letter
 /// or value sets nothing.
 void Registry_Write(std::string_view root_name, std::string_view key, std::string_view name, char type_letter,

@@ -43,6 +43,10 @@ void General_Page::Get_Startup_Value() {
     const platform::Registry_Value entry = platform::Registry_Read(
         "HKLM", "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Run", "Vellatro", 'S', std::string(absent));
     Startup_Chk.Set_Checked(entry != platform::Registry_Value(std::string(absent)));
+    Startup_Lbl.Set_Caption(
+        platform::Registry_Writable("HKLM", "Software\\Microsoft\\Windows\\CurrentVersion\\Run")
+            ? "For all users; needs an administrator's rights."
+            : "For all users; you lack the administrator's rights it needs.");
 }
 
 void General_Page::Show_Preview() {

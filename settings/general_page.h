@@ -31,7 +31,7 @@ public:
                                  "Allow d&ragging when Manual Position is not selected"};
     Check_Box Alert_Chk{General_Fra, "Alert_Chk", "A&lert me when a date Comes up"};
     Check_Box Startup_Chk{General_Fra, "Startup_Chk", "Run at &Startup"};
-    Label Startup_Lbl{General_Fra, "Startup_Lbl", "For all users; needs an administrator's rights."};
+    Label Startup_Lbl{General_Fra, "Startup_Lbl"}; ///< says which rights the box needs
 
 private:
     Main_Frm &calendar_;

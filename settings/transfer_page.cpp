@@ -85,7 +85,7 @@ void Transfer_Page::Show_Progress(int percent) {
     Progress_Bar1.Set_Value(percent);
     Progress_Lbl.Set_Visible(true);
     Progress_Bar1.Set_Visible(true);
-    platform::Paint_Waiting(dialog_.Model());
+    platform::Paint_Waiting();
 }
 
 void Transfer_Page::End_Progress() {

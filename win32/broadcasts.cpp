@@ -1,8 +1,10 @@
-// The broadcasts of the system and the one-instance claim.
+// The broadcasts of the system.
 #include "win32/broadcasts.h"
 
 #include "platform/message_loop.h"
 #include "win32/mirror.h"
+#include "win32/modal.h"
+#include "win32/system_library.h"
 #include "win32/wide_text.h"
 #include "win32/window_class.h"
 
@@ -73,13 +75,35 @@ void CALLBACK Hear_Of_Front(HWINEVENTHOOK, DWORD, HWND, LONG, LONG, DWORD, DWORD
         Tell(platform::Broadcast::Front_Changed);
 }
 
+/// The message by which a shell tells that it has its task bar.
+UINT Shell_Started_Message() {
+    static const UINT message = RegisterWindowMessageW(L"TaskbarCreated");
+    return message;
+}
+
+/// Answers the two messages of the session's end.
+LRESULT End_Session(UINT message, WPARAM wparam, LPARAM lparam) {
+    const bool ends = message == WM_QUERYENDSESSION || wparam != FALSE;
+    const bool forced = ends && (static_cast<ULONG_PTR>(lparam) & ENDSESSION_CRITICAL) != 0;
+    win32::No_More_Boxes = forced;
+    if (forced)
+        Tell(platform::Broadcast::Session_Forced);
+    // The end itself, WM_ENDSESSION, leaves no time for a question: whoever agrees has to be done here.
+    if (message == WM_QUERYENDSESSION)
+        return forced || Tell(platform::Broadcast::Session_Ends) ? TRUE : FALSE;
+    if (ends)
+        Tell(platform::Broadcast::Session_Over);
+    return 0;
+}
+
 LRESULT CALLBACK Broadcast_Procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
     try {
-        // The end itself, WM_ENDSESSION, leaves no time for a question: whoever agrees has to be done here.
-        if (message == WM_QUERYENDSESSION)
-            return Tell(platform::Broadcast::Session_Ends) ? TRUE : FALSE;
-        if (message == WM_ENDSESSION && wparam != FALSE)
-            Tell(platform::Broadcast::Session_Over);
+        if (message == WM_QUERYENDSESSION || message == WM_ENDSESSION)
+            return End_Session(message, wparam, lparam);
+        if (message == Shell_Started_Message()) {
+            Tell(platform::Broadcast::Shell_Started);
+            return 0;
+        }
         if (message == WM_CLOSE) {
             // Not the window's end: the timers and the broadcasts live in it.
             Tell(platform::Broadcast::Close_Request);
@@ -128,16 +152,15 @@ void Listen_To_Broadcasts(Callback<bool(Broadcast)> listener) {
                             WINEVENT_OUTOFCONTEXT | WINEVENT_SKIPOWNPROCESS);
 }
 
-bool Claim_Single_Instance(const std::string &name) {
-    static win32::Unique_Kernel_Handle claim;
-    SetLastError(ERROR_SUCCESS);
-    win32::Unique_Kernel_Handle mutex(CreateMutexW(nullptr, FALSE, win32::To_Wide(name).c_str()));
-    const DWORD error = GetLastError();
-    // Refused access means that it exists too, made by the user with other rights.
-    if (error == ERROR_ALREADY_EXISTS || (!mutex && error == ERROR_ACCESS_DENIED))
-        return false;
-    claim = std::move(mutex);
-    return true;
+void Explain_Refusal(const std::string &reason) {
+    const auto destroy = win32::Look_Up<BOOL WINAPI(HWND)>(L"user32.dll", "ShutdownBlockReasonDestroy");
+    const auto create =
+        win32::Look_Up<BOOL WINAPI(HWND, const wchar_t *)>(L"user32.dll", "ShutdownBlockReasonCreate");
+    if (destroy == nullptr || create == nullptr)
+        return;
+    destroy(win32::Broadcast_Window());
+    if (!reason.empty())
+        create(win32::Broadcast_Window(), win32::To_Wide(reason).c_str());
 }
 
 } // namespace platform

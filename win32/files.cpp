@@ -222,27 +222,17 @@ FILETIME Written(const std::string &path) {
     return written;
 }
 
-std::wstring Program_Path() {
-    std::wstring path(MAX_PATH, L'\0');
-    DWORD length = 0;
-    while ((length = GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size()))) >=
-           path.size())
-        path.resize(path.size() * 2);
-    path.resize(length);
-    return path;
-}
-
 } // namespace
 
 std::string Program_Folder() {
-    std::wstring path = Program_Path();
+    std::wstring path = win32::Program_Path();
     const std::size_t separator = path.rfind(L'\\');
     path.resize(separator == std::wstring::npos ? 0 : separator);
     return win32::From_Wide(path);
 }
 
 std::string Program_Name() {
-    std::wstring name = Program_Path();
+    std::wstring name = win32::Program_Path();
     name.erase(0, name.rfind(L'\\') + 1);
     return win32::From_Wide(name.substr(0, name.rfind(L'.')));
 }

@@ -36,10 +36,17 @@ UINT Style_Of(Box_Icon icon, Box_Buttons buttons) {
            MB_SETFOREGROUND;
 }
 
+/// The window, else none where it is not the program's own: inside the shell's window the calendar shares the
+/// shell's input, and the active window may be the shell's.
+HWND Own(HWND window) {
+    return window != nullptr && GetWindowThreadProcessId(window, nullptr) == GetCurrentThreadId() ? window
+                                                                                                  : nullptr;
+}
+
 /// The dialog that the user works in, else none. The calendar owns no box: it may live inside the shell's
 /// window, which the box would then lock.
 HWND Active_Dialog() {
-    const HWND window = GetActiveWindow();
+    const HWND window = Own(GetActiveWindow());
     if (window == nullptr || (GetWindowLongW(window, GWL_STYLE) & WS_CAPTION) != WS_CAPTION)
         return nullptr;
     return GetAncestor(window, GA_ROOT) == window ? window : nullptr;
@@ -82,11 +89,13 @@ Box_Answer Answer_Of(int id, Box_Buttons buttons) {
 } // namespace
 
 Box_Answer Message_Box(std::string_view text, std::string_view title, Box_Icon icon, Box_Buttons buttons) {
+    if (win32::No_More_Boxes)
+        return Answer_Of(0, buttons);
     const std::wstring wide_text = Showable(text, Longest_Text);
     const std::wstring wide_title = Showable(title, Longest_Title);
     const HWND owner = Active_Dialog();
     // The system returns the keyboard to an owner alone.
-    const Returned_Focus focus(owner == nullptr ? GetFocus() : nullptr);
+    const Returned_Focus focus(owner == nullptr ? Own(GetFocus()) : nullptr);
     const win32::Modal_Scope modal(owner);
     return Answer_Of(MessageBoxW(owner, wide_text.c_str(), wide_title.c_str(), Style_Of(icon, buttons)),
                      buttons);

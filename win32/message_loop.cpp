@@ -75,19 +75,16 @@ void Process_Waiting_Messages() {
     }
 }
 
-void Paint_Waiting(const Form_Model &busy) {
+void Paint_Waiting() {
     MSG message = {};
     // A window that fails to paint asks for it again at once.
     constexpr int most_paints = 200;
     for (int i = 0; i < most_paints && PeekMessageW(&message, nullptr, WM_PAINT, WM_PAINT, PM_REMOVE); ++i)
         DispatchMessageW(&message);
-    const HWND window = win32::Window_Of_Form(busy);
-    if (window == nullptr)
-        return;
     constexpr UINT ranges[][2] = {
         {WM_KEYFIRST, WM_KEYLAST}, {WM_MOUSEFIRST, WM_MOUSELAST}, {WM_NCMOUSEMOVE, WM_NCXBUTTONDBLCLK}};
     for (const auto &range : ranges)
-        while (PeekMessageW(&message, window, range[0], range[1], PM_REMOVE)) {
+        while (PeekMessageW(&message, nullptr, range[0], range[1], PM_REMOVE)) {
         }
 }
 

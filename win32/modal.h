@@ -10,6 +10,9 @@ namespace win32 {
 /// How many message boxes and file dialogs are open.
 inline int Open_Modal_Boxes = 0;
 
+/// Whether the system ends the session and waits for no answer. Message boxes answer themselves then.
+inline bool No_More_Boxes = false;
+
 /// Counts one as open for the length of a scope, and locks the thread's other windows where it has an owner:
 /// the system locks only that.
 class Modal_Scope {

@@ -37,4 +37,14 @@ std::wstring Path_For_Call(const std::string &path) {
     return wide;
 }
 
+std::wstring Program_Path() {
+    std::wstring path(MAX_PATH, L'\0');
+    DWORD length = 0;
+    while ((length = GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size()))) >=
+           path.size())
+        path.resize(path.size() * 2);
+    path.resize(length);
+    return path;
+}
+
 } // namespace win32

@@ -155,6 +155,11 @@ Registry_Value Registry_Read(std::string_view root_name, std::string_view key, s
     return standard;
 }
 
+bool Registry_Writable(std::string_view root_name, std::string_view key) {
+    return static_cast<bool>(
+        Open_Key(Find_Registry_Root(root_name), key, KEY_SET_VALUE | KEY_CREATE_SUB_KEY));
+}
+
 void Registry_Write(std::string_view root_name, std::string_view key, std::string_view name, char type_letter,
                     const Registry_Value &value) {
     const Registry_Root root = Find_Registry_Root(root_name);

@@ -3,6 +3,9 @@
 #include "calendar/box_layout.h"
 #include "tests/calendar/calendar_test.h"
 
+#include <optional>
+#include <utility>
+
 using platform::Broadcast;
 
 namespace {
@@ -147,7 +150,54 @@ TEST_F(Lifecycle, ends_when_it_is_asked_to_and_when_the_session_is_over) {
         unsaved = !unsaved;
     }
     Fakes().wallpaper_ordered = true;
-    EXPECT_TRUE(Run_Program() == 0 && !Fakes().wallpaper_ordered);
+    Fakes().in_temporary_folder = true;
+    Fakes().Expect_Box("Vellatro was started from a temporary folder, as happens inside an archive. Events "
+                       "that you enter will be lost when that folder is deleted.\r\n\r\nCopy all of the "
+                       "program's files into a folder of your own and start it there.");
+    EXPECT_TRUE(Run_Program() == 0 && !Fakes().wallpaper_ordered && Fakes().expected_boxes.empty());
+}
+
+TEST_F(Lifecycle, starts_again_with_the_next_shell) {
+    const struct {
+        const char *what;
+        int restarts;
+        unsigned lived, desktop_at; ///< milliseconds, seconds
+        std::optional<Broadcast> said;
+        int again;
+        unsigned waited; ///< seconds
+    } cases[] = {
+        {"a shell that tells of its start", 3, 60000, 4, Broadcast::Shell_Started, 1, 4},
+        {"a silent one", 1, 59999, 4, std::nullopt, 2, 8},
+        {"no other one", 0, 60000, 0, Broadcast::Shell_Started, 0, 120},
+        {"one that takes every calendar down", 3, 59999, 1, std::nullopt, 0, 0},
+        {"the session is over first", 0, 60000, 4, Broadcast::Session_Over, 0, 2},
+        {"the user wants to end it first", 0, 60000, 4, Broadcast::Close_Request, 0, 2},
+    };
+    for (const auto &[what, restarts, lived, desktop_at, said, again, waited] : cases) {
+        SCOPED_TRACE(what);
+        Fakes().restart_count = restarts;
+        Fakes().started_again = 0;
+        Shell() = {};
+        unsigned seconds = 0;
+        Desktop().in_loop = [&, window_there = true]() mutable {
+            if (std::exchange(window_there, false)) {
+                Fakes().milliseconds += lived;
+                const platform::Form_Model &calendar = *Desktop().mirrors.begin()->first;
+                Desktop().mirrors.clear();
+                return calendar.input({.kind = platform::Input_Kind::Window_Lost});
+            }
+            EXPECT_TRUE(Desktop().mirrors.empty());
+            if (++seconds == 2 && said)
+                Desktop().Say(*said);
+            if (seconds == desktop_at)
+                Shell() = {.desktop = 11, .view = 12, .list = 13, .colours = {{-1, 0}}, .web_pages = {}};
+            if (!Desktop().loop_ended)
+                Desktop().Advance(1000);
+        };
+        EXPECT_EQ(Run_Program(), 0);
+        EXPECT_EQ(Fakes().started_again, again);
+        EXPECT_EQ(seconds, waited);
+    }
 }
 
 } // namespace

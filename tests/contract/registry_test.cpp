@@ -47,6 +47,8 @@ TEST_F(Registry_Contract, Values_Have_The_Type_Of_Their_Letter) {
     platform::Registry_Write_String(user, key, "Value", "simple");
     platform::Registry_Write_String(0, key, "Value", "nowhere");
     EXPECT_EQ(read('S'), Value("simple"));
+    EXPECT_TRUE(platform::Registry_Writable("HKCU", key));
+    EXPECT_FALSE(platform::Registry_Writable("HKCU", key + "\\Below")) << "which is not there";
 }
 #endif
 

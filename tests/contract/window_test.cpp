@@ -1,6 +1,7 @@
 // Where a form's window is, whoever moved it.
 #include "base/twips.h"
 #include "platform/forms.h"
+#include "platform/message_loop.h"
 #include "platform/screen.h"
 #include "tests/contract/contract.h"
 
@@ -48,5 +49,23 @@ TEST_F(Window_Contract, Its_Place_Is_Where_It_Is_And_It_Can_Be_Put_Back) {
 #endif
     }
 }
+
+#ifdef _WIN32
+TEST_F(Window_Contract, Long_Work_Drops_Input_Of_Every_Window) {
+    platform::Form_Model model;
+    std::vector<platform::Input_Kind> came;
+    model.kind = platform::Form_Kind::Painted;
+    model.name = "Contract_Painted";
+    model.input = [&came](const platform::Input_Event &event) { came.push_back(event.kind); };
+    platform::Create_Mirror(model);
+    const HWND window = FindWindowW(L"Vellatro_Contract_Painted", nullptr);
+    for (const UINT message : {UINT{WM_KEYDOWN}, UINT{WM_CLOSE}, UINT{WM_LBUTTONDOWN}})
+        PostMessageW(window, message, VK_F2, 0);
+    platform::Paint_Waiting();
+    platform::Process_Waiting_Messages();
+    EXPECT_EQ(came, std::vector{platform::Input_Kind::Close});
+    platform::Destroy_Mirror(model);
+}
+#endif
 
 } // namespace

@@ -6,6 +6,7 @@
 #include "platform/locale.h"
 #include "platform/message_box.h"
 #include "platform/pictures.h"
+#include "platform/process.h"
 #include "platform/registry.h"
 #include "tests/contract/contract.h"
 #include "tests/contract/small_jpeg.h"
@@ -13,6 +14,8 @@
 #include "win32/picture_scaling.h"
 
 #include <windows.h>
+
+#include <cctype>
 
 namespace {
 
@@ -68,6 +71,23 @@ TEST_F(Windows_Only, A_File_Keeps_Its_Own_Access_List) {
     ASSERT_TRUE(DeleteAce(list, before - 1));
     ASSERT_TRUE(SetFileSecurityW(wide.c_str(), DACL_SECURITY_INFORMATION, space.data()));
     EXPECT_EQ(entries(), before - 1);
+}
+
+TEST_F(Windows_Only, A_Start_From_The_Temporary_Folder_Is_Seen) {
+    const std::string folder = platform::Program_Folder();
+    std::string above = folder.substr(0, folder.rfind('\\'));
+    std::ranges::transform(above, above.begin(), [](char c) { return std::toupper(c); });
+    wchar_t before[MAX_PATH] = {};
+    GetEnvironmentVariableW(L"TMP", before, MAX_PATH);
+    for (const auto &[temporary, seen] : {std::pair(folder, true),
+                                          {above, true},
+                                          {folder.substr(0, 3), false},
+                                          {folder + "\\below", false},
+                                          {above + "\\contr", false}}) {
+        SetEnvironmentVariableW(L"TMP", win32::To_Wide(temporary).c_str());
+        EXPECT_EQ(platform::Started_From_Temporary_Folder(), seen) << temporary;
+    }
+    SetEnvironmentVariableW(L"TMP", before);
 }
 
 /// Only the prefix lets older systems take long names; and names that are none are refused.

@@ -187,27 +187,36 @@ TEST_F(Attachment, Region_Is_What_Is_Seen) {
     }
 }
 
-TEST_F(Attachment, Ends_With_The_Shell_But_Not_Without_The_Users_Text) {
-    {
-        const Program &program = Start_Calendar();
+TEST_F(Attachment, Comes_Back_With_The_Next_Shell_And_Asks_For_The_Users_Text_First) {
+    const auto windows = [](const Program &program) {
+        return [&program] { return program.Exit_Code(0) ? -1 : program.Windows(true); };
+    };
+    const auto loses_shell_with_text = [](const Program &program) {
+        program.Do_Default("Saturday 1st May 2027");
+        const auto editor = [&program] { return program.Window("Vellatro_Edit_Frm"); };
+        ASSERT_TRUE(Wait_Until([&] { return editor() && GetForegroundWindow() == editor(); }));
+        Send_Text("kept");
+        ASSERT_TRUE(Wait_Until([&] { return Text_Of(GetDlgItem(editor(), 102)) == "kept"; }));
         Kill_Shell();
-        EXPECT_EQ(program.Exit_Code(2000), 0U);
-    }
+        ASSERT_TRUE(Becomes(
+            std::string("[Desktop Wallpaper] Save changes for the Saturday 1st May 2027?"),
+            [&program] { return program.Box(); }, 2000));
+    };
+    const Program &first = Start_Calendar();
+    loses_shell_with_text(first);
+    first.Answer(IDNO);
+    EXPECT_TRUE(Becomes(std::ptrdiff_t{0}, windows(first)));
     Exchange_Shell(L"");
-    const Program &program = Start_Calendar();
-    program.Do_Default("Saturday 1st May 2027");
-    ASSERT_TRUE(Wait_Until([&] { return GetForegroundWindow() == program.Window("Vellatro_Edit_Frm"); }));
-    Send_Text("kept");
-    const HWND editor = program.Window("Vellatro_Edit_Frm");
-    ASSERT_TRUE(Wait_Until([&] { return Text_Of(GetDlgItem(editor, 102)) == "kept"; }));
-    Kill_Shell();
-    ASSERT_TRUE(Becomes(
-        std::string("[Desktop Wallpaper] Save changes for the Saturday 1st May 2027?"),
-        [&] { return program.Box(); }, 2000));
-    program.Answer(IDCANCEL);
-    // OK: the editor alone keeps the program.
-    Click_On(GetDlgItem(editor, 104), [&] { return program.Exit_Code(0) == 0U; });
+    EXPECT_EQ(first.Exit_Code(), 0U);
+    const Program &next = Calendar_Inside();
+    ASSERT_TRUE(Becomes(std::ptrdiff_t{1}, windows(next))) << "the splash window stays";
+    loses_shell_with_text(next);
+    next.Answer(IDCANCEL);
+    // OK: until then the editor alone keeps the program.
+    Click_On(GetDlgItem(next.Window("Vellatro_Edit_Frm"), 104), [&] { return windows(next)() == 0; });
     EXPECT_EQ(Data(), "\"1/5/2027=kept\"\r\n");
+    PostMessageA(FindWindowA("Vellatro_Broadcasts", nullptr), WM_CLOSE, 0, 0);
+    EXPECT_EQ(next.Exit_Code(), 0U);
 }
 
 } // namespace

@@ -205,6 +205,9 @@ Program::Program(const std::wstring &executable, const std::wstring &folder) {
     id_ = process.dwProcessId;
 }
 
+Program::Program(DWORD id) : process_(OpenProcess(PROCESS_ALL_ACCESS, FALSE, id)), id_(id) {
+}
+
 Program::~Program() {
     TerminateProcess(process_, 99);
     WaitForSingleObject(process_, 5000);

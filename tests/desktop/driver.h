@@ -77,6 +77,7 @@ template <typename Value, typename Read>
 class Program {
 public:
     Program(const std::wstring &executable, const std::wstring &folder);
+    explicit Program(DWORD id); ///< one that runs already
     ~Program();
     Program(const Program &) = delete;
     Program &operator=(const Program &) = delete;
@@ -148,6 +149,9 @@ protected:
 
     Program &Start();
     Program &Start_Calendar(); ///< and waits for the calendar, which no box may precede
+
+    /// Waits for a calendar inside the shell's window, and gives the program that it is of.
+    Program &Calendar_Inside();
 
     void Stop_All() { programs_.clear(); }
 

@@ -168,4 +168,16 @@ TEST_F(Editor, Keeps_Its_Day_Over_The_Turn_Of_The_Year) {
     EXPECT_TRUE(Shows(last, "New Year's Eve"));
 }
 
+TEST_F(Editor, Saves_Unasked_When_The_Session_Waits_For_Nobody) {
+    program = &Start_Calendar();
+    Open(saturday, "");
+    Type("New");
+    DWORD_PTR agreed = 0;
+    SendMessageTimeoutA(FindWindowA("Vellatro_Broadcasts", nullptr), WM_QUERYENDSESSION, 0,
+                        static_cast<LPARAM>(ENDSESSION_CRITICAL), SMTO_ABORTIFHUNG, 5000, &agreed);
+    EXPECT_EQ(agreed, 1U);
+    EXPECT_EQ(Data(), "\"8/5/2027=New\"\r\n");
+    EXPECT_EQ(program->Box(), "");
+}
+
 } // namespace

@@ -145,6 +145,21 @@ Program &Desktop_Test::Start_Calendar() {
     return program;
 }
 
+Program &Desktop_Test::Calendar_Inside() {
+    DWORD id = 0;
+    EXPECT_TRUE(Wait_Until(
+        [&id] {
+            const HWND shell = FindWindowA("Progman", nullptr);
+            const HWND calendar =
+                shell ? FindWindowExA(shell, nullptr, "Vellatro_Calendar", nullptr) : nullptr;
+            GetWindowThreadProcessId(calendar, &id);
+            return IsWindowVisible(calendar) != FALSE;
+        },
+        15000));
+    programs_.push_back(std::make_unique<Program>(id));
+    return *programs_.back();
+}
+
 void Desktop_Test::Write_Data(std::string_view bytes) const {
     FILE *file = _wfopen(data_path_.c_str(), L"wb");
     ASSERT_TRUE(file && std::fwrite(bytes.data(), 1, bytes.size(), file) == bytes.size());

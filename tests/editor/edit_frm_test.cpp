@@ -149,6 +149,7 @@ TEST_F(Editor, asks_for_unsaved_text_before_another_day_and_the_end_of_session_a
             Push(editor, editor.Every_Year_Chk, true);
             EXPECT_TRUE(way == other_day || leave(way)) << "nothing is unsaved yet";
             Type(row.typed);
+            EXPECT_EQ(Desktop().refusal, "An event in the editor is not saved yet.");
             editor.Set_Focus(editor.Ok_Btn);
             Fakes().Expect_Box(question, row.answer, [this] {
                 EXPECT_FALSE(Desktop().Say(Broadcast::Session_Ends)); // no second question over the first
@@ -167,7 +168,15 @@ TEST_F(Editor, asks_for_unsaved_text_before_another_day_and_the_end_of_session_a
                 EXPECT_EQ(editor.Model().focused, editor.Message_Txt.State().index);
             }
             Push(editor, editor.Cancel_Btn);
+            EXPECT_EQ(Desktop().refusal, "");
         }
+    }
+    for (const bool sound : {true, false}) { // a session that waits for nobody
+        Open(5);
+        Type(sound ? "kept" : "n\"w");
+        EXPECT_TRUE(Desktop().Say(Broadcast::Session_Forced));
+        EXPECT_EQ(Has_Window(), !sound);
+        EXPECT_EQ(Records(), "6/3/2002=six|5/3/2002=kept|");
     }
 }
 

@@ -5,6 +5,7 @@
 #include "base/twips.h"
 #include "core/date.h"
 #include "platform/pictures.h"
+#include "platform/process.h"
 #include "toolkit/form.h"
 
 #include <algorithm>
@@ -317,8 +318,28 @@ void Listen_To_Broadcasts(Callback<bool(Broadcast)> listener) {
     Desktop().listener = listener;
 }
 
+void Explain_Refusal(const std::string &reason) {
+    Desktop().refusal = reason;
+}
+
 bool Claim_Single_Instance(const std::string &) {
-    return true;
+    return Fakes().claimable;
+}
+
+void Release_Single_Instance() {
+    Fakes().claimable = true;
+}
+
+int Restart_Count() {
+    return Fakes().restart_count;
+}
+
+void Start_Again(int count) {
+    Fakes().started_again = count;
+}
+
+bool Started_From_Temporary_Folder() {
+    return Fakes().in_temporary_folder;
 }
 
 Shell_Window Find_Desktop_Window() {

@@ -73,6 +73,7 @@ struct Fake_Desktop {
     std::map<platform::Timer_Id, Fake_Timer> timers;
     unsigned time = 0;
     Callback<bool(platform::Broadcast)> listener;
+    std::string refusal; ///< why the session may not end
     bool loop_ended = false;
     std::deque<std::function<void()>> messages; ///< processed one by one while the program waits
 

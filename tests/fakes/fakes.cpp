@@ -71,7 +71,7 @@ unsigned Milliseconds() {
     return Fakes().milliseconds += Fakes().clock_step;
 }
 
-void Paint_Waiting(const Form_Model &) {
+void Paint_Waiting() {
     if (Fakes().painting)
         Fakes().painting();
 }
@@ -302,6 +302,10 @@ Registry_Value Registry_Read(std::string_view root_name, std::string_view key, s
                              const Registry_Value &standard) {
     const auto text = Read_User_Value(root_name == "HKCU" ? std::string(key) : Path(root_name, key), name);
     return text ? Registry_Value(*text) : standard;
+}
+
+bool Registry_Writable(std::string_view, std::string_view) {
+    return !Fakes().registry_refuses_writes;
 }
 
 void Registry_Write(std::string_view root_name, std::string_view key, std::string_view name, char,

@@ -73,6 +73,11 @@ struct Fake_System {
     bool registry_refuses_writes = false;
     int registry_writes = 0; ///< calls of Write_User_Value, failed ones too
 
+    bool claimable = true; ///< no other copy of the program runs
+    int restart_count = 0; ///< of this process
+    int started_again = 0; ///< the count of the next one
+    bool in_temporary_folder = false;
+
     std::deque<Expected_Box> expected_boxes;
     std::vector<Shown_Box> boxes; ///< all that were shown
     bool any_box = false;         ///< unexpected boxes are no failure; they get the answer that changes least

@@ -84,6 +84,14 @@ TEST_F(Settings_Window, esc_ends_a_preview_only_and_the_cancel_button_the_dialog
     }
 }
 
+TEST_F(Settings_Window, tells_who_may_set_the_start_up_entry) {
+    for (const bool refused : {true, false}) {
+        Fakes().registry_refuses_writes = refused;
+        const std::string told = Open(Settings_Frm::general_fra).General.Startup_Lbl.Caption();
+        EXPECT_EQ(told.find("you lack") != std::string::npos, refused) << told;
+    }
+}
+
 TEST_F(Settings_Window, previews_the_title_without_touching_a_setting) {
     General_Page &page = Open(Settings_Frm::general_fra).General;
     const int writes = Fakes().registry_writes;

@@ -1,0 +1,28 @@
+// The way back after the shell has taken the calendar's window with it.
+#pragma once
+
+#include "toolkit/timer.h"
+
+/// Waits, without a window, for the desktop of the next shell.
+class Desktop_Return {
+public:
+    Desktop_Return();
+    Desktop_Return(const Desktop_Return &) = delete;
+    Desktop_Return &operator=(const Desktop_Return &) = delete;
+    ~Desktop_Return();
+
+    /// Runs the message loop. Returns whether a desktop has come within two minutes; not when the session
+    /// ends or somebody asks the program to close.
+    bool Wait();
+
+private:
+    void Look();
+    void End();
+
+    Timer timer_{1000};
+    int looks_left_ = 120;
+    int looks_needed_ = 5; ///< that find a desktop, one after another
+    int looks_ = 0;
+    bool come_ = false;
+    bool over_ = false;
+};
