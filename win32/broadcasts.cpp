@@ -1,8 +1,10 @@
 // The broadcasts of the system and the one-instance claim.
 #include "win32/broadcasts.h"
 
+#include "base/scoped_value.h"
 #include "platform/message_loop.h"
 #include "win32/mirror.h"
+#include "win32/modal.h"
 #include "win32/wide_text.h"
 #include "win32/window_class.h"
 
@@ -69,6 +71,7 @@ bool Heard(UINT message, WPARAM wparam) {
 }
 
 LRESULT CALLBACK Broadcast_Procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
+    const Scoped_Value by_itself(win32::Comes_By_Itself, true);
     try {
         // The end itself, WM_ENDSESSION, leaves no time for a question: whoever agrees has to be done here.
         if (message == WM_QUERYENDSESSION)

@@ -10,6 +10,9 @@ namespace win32 {
 /// How many message boxes and file dialogs are open.
 inline int Open_Modal_Boxes = 0;
 
+/// Whether what runs now comes of a timer or of a broadcast of the system, and not of what the user did.
+inline bool Comes_By_Itself = false;
+
 /// Counts one as open for the length of a scope, and locks the thread's other windows where it has an owner:
 /// the system locks only that.
 class Modal_Scope {

@@ -3,6 +3,7 @@
 
 #include "win32/accessible.h"
 #include "win32/canvas.h"
+#include "win32/system_library.h"
 #include "win32/units.h"
 #include "win32/wide_text.h"
 #include "win32/window_class.h"
@@ -21,6 +22,13 @@ bool Is_Top_Level(HWND window) {
     return GetAncestor(window, GA_PARENT) == GetDesktopWindow();
 }
 
+/// Letters are commands in the window: an input method that is open would swallow them.
+void Leave_Input_Method_Out(HWND window) {
+    static const auto associate = Look_Up<HANDLE WINAPI(HWND, HANDLE)>(L"imm32.dll", "ImmAssociateContext");
+    if (associate != nullptr)
+        associate(window, nullptr);
+}
+
 bool Equal(const std::vector<RECT> &a, const std::vector<RECT> &b) {
     return std::equal(a.begin(), a.end(), b.begin(), b.end(),
                       [](const RECT &x, const RECT &y) { return EqualRect(&x, &y) != FALSE; });
@@ -36,6 +44,7 @@ void Painted_Window::Create() {
                           WS_POPUP | WS_CLIPSIBLINGS | WS_CLIPCHILDREN, place.left, place.top,
                           place.right - place.left, place.bottom - place.top, nullptr, nullptr,
                           GetModuleHandleW(nullptr), nullptr));
+    Leave_Input_Method_Out(window_);
     Texts_Changed();
     // The window may lie on a screen with a scale of its own; the form hears of it once it is made.
     PostMessageW(window_, Check_Dots_Message, 0, 0);
