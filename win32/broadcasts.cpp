@@ -5,6 +5,7 @@
 #include "platform/message_loop.h"
 #include "win32/mirror.h"
 #include "win32/modal.h"
+#include "win32/units.h"
 #include "win32/wide_text.h"
 #include "win32/window_class.h"
 
@@ -72,6 +73,7 @@ bool Heard(UINT message, WPARAM wparam) {
 
 LRESULT CALLBACK Broadcast_Procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
     const Scoped_Value by_itself(win32::Comes_By_Itself, true);
+    const Scoped_Value scale(win32::Dialog_Dots, 0);
     try {
         // The end itself, WM_ENDSESSION, leaves no time for a question: whoever agrees has to be done here.
         if (message == WM_QUERYENDSESSION)

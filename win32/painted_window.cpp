@@ -18,6 +18,9 @@ using platform::Control_State;
 
 namespace {
 
+/// WM_DPICHANGED_AFTERPARENT, which the headers name for newer systems alone.
+constexpr UINT Parent_Dots_Changed_Message = 0x02E3;
+
 bool Is_Top_Level(HWND window) {
     return GetAncestor(window, GA_PARENT) == GetDesktopWindow();
 }
@@ -90,6 +93,7 @@ LRESULT Painted_Window::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
         Send(platform::Input_Kind::Close);
         return 0;
     case WM_DPICHANGED:
+    case Parent_Dots_Changed_Message:
         Check_Scale(false);
         return 0;
     case WM_GETOBJECT:
