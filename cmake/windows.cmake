@@ -28,17 +28,25 @@ if(CMAKE_SIZEOF_VOID_P EQUAL 4)
     list(APPEND size_options -mno-stack-arg-probe -mno-accumulate-outgoing-args -mpreferred-stack-boundary=2
         -Werror=frame-larger-than=4000)
     target_compile_options(vellatro PRIVATE "$<$<COMPILE_LANGUAGE:CXX>:${size_options}>")
-    target_link_options(vellatro PRIVATE ${size_options})
 endif()
-target_link_libraries(vellatro PRIVATE vellatro_options
-    comctl32 comdlg32 gdi32 user32 advapi32 shell32 ole32 oleaut32 oleacc uuid)
-# One partition: with several GCC 12 breaks off while it links.
-target_link_options(vellatro PRIVATE -Oz -flto -flto-partition=none -static -s -Wl,--gc-sections
-    -Wl,--disable-auto-import -Wl,--nxcompat -Wl,--dynamicbase -Wl,--no-insert-timestamp)
+# The same program with its symbols: they name the function of an address in a report of a crash.
+add_executable(vellatro_unstripped WIN32 EXCLUDE_FROM_ALL $<TARGET_OBJECTS:vellatro>)
+foreach(program vellatro vellatro_unstripped)
+    target_link_libraries(${program} PRIVATE vellatro_options
+        comctl32 comdlg32 gdi32 user32 advapi32 shell32 ole32 oleaut32 oleacc uuid)
+    # One partition: with several GCC 12 breaks off while it links.
+    target_link_options(${program} PRIVATE -Oz -flto -flto-partition=none -static -Wl,--gc-sections
+        -Wl,--disable-auto-import -Wl,--nxcompat -Wl,--dynamicbase -Wl,--tsaware -Wl,--no-insert-timestamp)
+    if(CMAKE_SIZEOF_VOID_P EQUAL 4)
+        # Windows 2000; the linker's own choice is Windows NT 4.0.
+        target_link_options(${program} PRIVATE ${size_options} -Wl,--subsystem,windows:5.0)
+    endif()
+endforeach()
+target_link_options(vellatro PRIVATE -s)
 add_custom_target(package
     COMMAND ${CMAKE_COMMAND} -D PROGRAM=$<TARGET_FILE:vellatro> -D SOURCES=${CMAKE_SOURCE_DIR}
         -D OUT=${CMAKE_BINARY_DIR} -P ${CMAKE_SOURCE_DIR}/cmake/package.cmake
-    DEPENDS vellatro VERBATIM)
+    DEPENDS vellatro vellatro_unstripped VERBATIM)
 file(GLOB desktop_test_list CONFIGURE_DEPENDS tests/desktop/CMakeLists.txt)
 if(desktop_test_list)
     add_subdirectory(tests/desktop)

@@ -2,6 +2,7 @@
 // colours_layout.cpp.
 #include "settings/colours_page.h"
 
+#include "base/twips.h"
 #include "calendar/box_layout.h"
 #include "core/settings.h"
 #include "platform/locale.h"
@@ -204,8 +205,10 @@ void Colours_Page::ShowGradient(Colour colour) {
     Gradient_Pic.Repaint();
 }
 
-Point Colours_Page::Pixel_At(Point at) {
-    return {Twips_To_Pixels(at.x), Twips_To_Pixels(at.y)};
+/// Of the palette's own pixels, however large those of the dialog's screen are now.
+Point Colours_Page::Pixel_At(Point at) const {
+    return {Scale_Nearest(at.x, palette_.width, std::max(Pal.Width(), 1)),
+            Scale_Nearest(at.y, palette_.height, std::max(Pal.Height(), 1))};
 }
 
 Colour Colours_Page::Cross_Colour() const {

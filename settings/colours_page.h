@@ -93,7 +93,7 @@ private:
     void Key_Over_Palette(const platform::Input_Event &event);
     void Move_Cross(Point pixel);
     Colour Cross_Colour() const;
-    static Point Pixel_At(Point at);
+    Point Pixel_At(Point at) const;
     void Enable_Menu_Swatches(bool enabled);
     void Names_Cbo_Click();
     void Lay_Out_Swatches(int first, int last, int top);

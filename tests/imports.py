@@ -14,6 +14,7 @@ import xml.etree.ElementTree
 
 MOST_BYTES = 512 * 1024
 GUI = 2
+CHARACTERISTICS = 0x8140  # any address, no code in data, aware of terminal servers
 NEWEST_SYSTEM = (5, 0)  # Windows 2000 starts no program that asks for more
 IMPORTS, RESOURCES, DELAY_IMPORTS = 1, 2, 13
 RESOURCE_KINDS = {14: 'icon', 16: 'version', 24: 'manifest'}
@@ -36,7 +37,7 @@ class Image:
         self.wide = self.unpack('<H', optional) == (0x20B,)
         self.system_version = self.unpack('<HH', optional + 40)
         self.subsystem_version = self.unpack('<HH', optional + 48)
-        self.subsystem, = self.unpack('<H', optional + 68)
+        self.subsystem, self.characteristics = self.unpack('<HH', optional + 68)
         directories = optional + (112 if self.wide else 96)
         self.directories = [self.unpack('<I', directories + 8 * i)[0] for i in range(16)]
         sections = optional + optional_size
@@ -104,6 +105,8 @@ def offences(data, image):
         yield f'it has {len(data)} bytes, {len(data) - MOST_BYTES} too many'
     if image.subsystem != GUI:
         yield f'its subsystem is {image.subsystem} instead of {GUI} (windows)'
+    if image.characteristics & CHARACTERISTICS != CHARACTERISTICS:
+        yield f'its characteristics {image.characteristics:#x} lack some of {CHARACTERISTICS:#x}'
     if not image.wide and max(image.subsystem_version, image.system_version) > NEWEST_SYSTEM:
         yield f'it asks for a system newer than {NEWEST_SYSTEM}: {image.subsystem_version}, {image.system_version}'
     for dll, function in sorted(set(image.imports()) - allowed_functions(image.wide)):

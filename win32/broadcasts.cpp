@@ -1,10 +1,12 @@
 // The broadcasts of the system.
 #include "win32/broadcasts.h"
 
+#include "base/scoped_value.h"
 #include "platform/message_loop.h"
 #include "win32/mirror.h"
 #include "win32/modal.h"
 #include "win32/system_library.h"
+#include "win32/units.h"
 #include "win32/wide_text.h"
 #include "win32/window_class.h"
 
@@ -97,6 +99,8 @@ LRESULT End_Session(UINT message, WPARAM wparam, LPARAM lparam) {
 }
 
 LRESULT CALLBACK Broadcast_Procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
+    const Scoped_Value by_itself(win32::Comes_By_Itself, true);
+    const Scoped_Value scale(win32::Dialog_Dots, 0);
     try {
         if (message == WM_QUERYENDSESSION || message == WM_ENDSESSION)
             return End_Session(message, wparam, lparam);

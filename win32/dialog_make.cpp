@@ -110,6 +110,9 @@ void Dialog_Window::Create() {
     Update_Tooltips();
     Place();
     EnableWindow(window_, Model()->enabled);
+    // Its screen need not have the calendar's scale, in which it is made.
+    if (dots_ == 0 && Dots_Of(window_) != 0 && Dots_Of(window_) != platform::Dots_Per_Inch())
+        Scale_Told(Dots_Of(window_), nullptr);
 }
 
 /// What a hidden frame holds is made when the frame is shown for the first time: a dialog of many pages opens

@@ -2,7 +2,9 @@
 // dialog_make.cpp, dialog_controls.cpp and dialog_events.cpp.
 #include "win32/dialog_window.h"
 
+#include "base/scoped_value.h"
 #include "platform/message_box.h"
+#include "win32/broadcasts.h"
 #include "win32/units.h"
 #include "win32/wide_text.h"
 #include "win32/window_class.h"
@@ -70,7 +72,10 @@ LRESULT Dialog_Window::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
         Moved();
         break;
     case WM_DPICHANGED:
-        // The system would scale the controls by itself; they follow the calendar's screen.
+        Scale_Told(LOWORD(wparam), reinterpret_cast<const RECT *>(lparam));
+        return 0;
+    case Check_Dots_Message:
+        Take_Scale(dots_);
         return 0;
     case WM_HSCROLL:
     case WM_VSCROLL:
@@ -127,11 +132,12 @@ void Dialog_Window::Place() {
     RECT now = {};
     GetWindowRect(window_, &now);
     // A window that the user has moved stays there until the form itself moves.
-    const POINT corner =
-        moved ? POINT{To_Pixels(bounds.left), To_Pixels(bounds.top)} : POINT{now.left, now.top};
+    const POINT corner = moved ? Corner_On_Screen() : POINT{now.left, now.top};
     RECT place = {corner.x, corner.y, corner.x + outer.right - outer.left,
                   corner.y + outer.bottom - outer.top};
-    place = On_Screen(place);
+    // Under the user's hand it stays where that has it.
+    if (!Mouse_Is_Taken())
+        place = On_Screen(place);
     SetWindowPos(window_, nullptr, place.left, place.top, place.right - place.left, place.bottom - place.top,
                  SWP_NOZORDER | SWP_NOACTIVATE);
     // The frame may be larger than told, where its screen has a scale of its own.
@@ -147,11 +153,32 @@ void Dialog_Window::Place() {
     Moved();
 }
 
+/// Where the form wants it: places are in the calendar's scale, whatever that of the dialog is.
+POINT Dialog_Window::Corner_On_Screen() const {
+    const Scoped_Value scale(Dialog_Dots, 0);
+    return {To_Pixels(Model()->bounds.left), To_Pixels(Model()->bounds.top)};
+}
+
+/// Follows the scale of the screen that the window has moved to. `place` is where the system wants it there.
+void Dialog_Window::Scale_Told(int dots, const RECT *place) {
+    // Any program can send the message.
+    constexpr int least = 48, most = 960;
+    if (dots < least || dots > most)
+        return;
+    dots_ = dots;
+    if (place != nullptr)
+        SetWindowPos(window_, nullptr, place->left, place->top, place->right - place->left,
+                     place->bottom - place->top, SWP_NOZORDER | SWP_NOACTIVATE);
+    // Later, for it may come in the midst of the window's making or placing.
+    PostMessageW(window_, Check_Dots_Message, 0, 0);
+}
+
 /// Tells the form where the window is, as the user or the screen's edge has it.
 void Dialog_Window::Moved() {
     RECT now = {};
     if (!is_placed_ || IsIconic(window_) || !GetWindowRect(window_, &now))
         return;
+    const Scoped_Value scale(Dialog_Dots, 0);
     Input_Event event{};
     event.kind = Input_Kind::Moved;
     event.point = placed_ = {To_Twips(static_cast<int>(now.left)), To_Twips(static_cast<int>(now.top))};

@@ -19,7 +19,6 @@ public:
     void Control_Changed(const platform::Control_State &control, platform::Aspect aspect,
                          const Rect &before) override;
     void Bring_To_Front() override;
-    void Scale_Changed() override;
     bool Take_First(const MSG &message) override;
 
 private:
@@ -92,7 +91,10 @@ private:
     void Colours_Changed(UINT message, WPARAM wparam, LPARAM lparam);
 
     void Place() override;
+    POINT Corner_On_Screen() const;
     void Moved();
+    void Scale_Told(int dots, const RECT *place);
+    void Scale_Changed() override;
     void Show_Or_Hide() override;
     void Own_Aspect_Changed(platform::Aspect aspect) override;
     void Focus();

@@ -38,11 +38,13 @@ LOGFONTW Message_Font() {
     return font;
 }
 
-/// ClearType unless the user has turned smooth fonts off.
+/// ClearType where the user has it; else the system's own choice, smooth or not. Windows 2000 has no types.
 BYTE Font_Quality() {
-    BOOL smooth = TRUE;
+    BOOL smooth = FALSE;
+    UINT type = 0;
     SystemParametersInfoW(SPI_GETFONTSMOOTHING, 0, &smooth, 0);
-    return smooth ? CLEARTYPE_QUALITY : DEFAULT_QUALITY;
+    SystemParametersInfoW(SPI_GETFONTSMOOTHINGTYPE, 0, &type, 0);
+    return smooth && type == FE_FONTSMOOTHINGCLEARTYPE ? CLEARTYPE_QUALITY : DEFAULT_QUALITY;
 }
 
 HDC Any_Measuring_Dc() {

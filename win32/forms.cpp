@@ -2,6 +2,7 @@
 #include "platform/forms.h"
 
 #include "base/error.h"
+#include "base/scoped_value.h"
 #include "win32/dialog_window.h"
 #include "win32/fonts.h"
 #include "win32/menu_images.h"
@@ -71,6 +72,7 @@ LRESULT Mirror::Receive(HWND window, UINT message, WPARAM wparam, LPARAM lparam,
         } else if (Answer_Menu_Image(message, lparam)) {
             return TRUE;
         } else if (mirror->Model() != nullptr) {
+            const Scoped_Value scale(Dialog_Dots, mirror->dots_);
             return mirror->Handle(message, wparam, lparam);
         }
     } catch (...) {
@@ -80,6 +82,7 @@ LRESULT Mirror::Receive(HWND window, UINT message, WPARAM wparam, LPARAM lparam,
 }
 
 void Mirror::Form_Changed(platform::Aspect aspect) {
+    const Scoped_Value scale(Dialog_Dots, dots_);
     switch (aspect) {
     case platform::Aspect::Bounds:
         return Place();
@@ -105,6 +108,7 @@ void Mirror::Destroy() noexcept {
 void Mirror::Send(const platform::Input_Event &event) noexcept {
     if (model_ == nullptr || !model_->input)
         return;
+    const Scoped_Value scale(Dialog_Dots, event.kind == platform::Input_Kind::Dots_Changed ? dots_ : 0);
     // A copy, because the handler may destroy the form that holds it.
     const auto input = model_->input;
     input(event);
@@ -130,6 +134,15 @@ void Mirror::Window_Gone() {
         input(event);
 }
 
+void Mirror::Take_Scale(int dots) {
+    dots_ = dots;
+    if (window_ != nullptr) {
+        const Scoped_Value scale(Dialog_Dots, dots_);
+        Scale_Changed();
+    }
+    Send(platform::Input_Kind::Dots_Changed);
+}
+
 void Find_Lost_Windows() {
     for (const std::shared_ptr<Mirror> &mirror : All_Mirrors()) {
         if (mirror->window_ != nullptr && !IsWindow(mirror->window_))
@@ -149,9 +162,9 @@ void Check_Scale(bool fonts_changed) {
     if (!Refresh_Dots(calendar) && !fonts_changed)
         return;
     for (const std::shared_ptr<Mirror> &mirror : All_Mirrors()) {
-        if (mirror->Window() != nullptr)
-            mirror->Scale_Changed();
-        mirror->Send(platform::Input_Kind::Dots_Changed);
+        const platform::Form_Model *form = mirror->Model();
+        if (form != nullptr)
+            mirror->Take_Scale(form->kind == platform::Form_Kind::Dialog ? Dots_Of(mirror->Window()) : 0);
     }
 }
 
@@ -190,8 +203,10 @@ void Form_Changed(const Form_Model &model, Aspect aspect) {
 
 void Control_Changed(const Form_Model &model, const Control_State &control, Aspect aspect,
                      const Rect &before) {
-    if (const std::shared_ptr<win32::Mirror> mirror = win32::Find_Mirror(model))
+    if (const std::shared_ptr<win32::Mirror> mirror = win32::Find_Mirror(model)) {
+        const Scoped_Value scale(win32::Dialog_Dots, mirror->Dots());
         mirror->Control_Changed(control, aspect, before);
+    }
 }
 
 void Clip_Window(const Form_Model &model, const std::vector<Rect> &rects) {

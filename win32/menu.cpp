@@ -14,12 +14,13 @@ namespace platform {
 
 namespace {
 
-/// No item is ever checked: without the column for check marks the images stand at the edge.
+/// No item is ever checked: the images stand where the check marks would, at the edge. Drawn by the owner,
+/// they need a column of their own.
 void Leave_Check_Column_Out(HMENU menu) {
     MENUINFO info = {};
     info.cbSize = sizeof info;
     info.fMask = MIM_STYLE;
-    info.dwStyle = MNS_NOCHECK;
+    info.dwStyle = win32::Menu_Images::Show_Transparency() ? MNS_CHECKORBMP : MNS_NOCHECK;
     SetMenuInfo(menu, &info);
 }
 
@@ -31,7 +32,7 @@ void Append_Line(HMENU menu) {
     InsertMenuItemW(menu, static_cast<UINT>(GetMenuItemCount(menu)), TRUE, &info);
 }
 
-void Append_Item(HMENU menu, const Menu_Item &item) {
+void Append_Item(HMENU menu, const Menu_Item &item, win32::Menu_Images &images) {
     if (item.apart)
         Append_Line(menu);
     std::wstring text = win32::To_Wide(item.text);
@@ -41,7 +42,7 @@ void Append_Item(HMENU menu, const Menu_Item &item) {
     info.fState = item.enabled ? MFS_ENABLED : MFS_GRAYED;
     info.wID = static_cast<UINT>(item.id);
     info.dwTypeData = text.data();
-    win32::Set_Menu_Image(info, item.image);
+    images.Set(info, item.image);
     InsertMenuItemW(menu, static_cast<UINT>(GetMenuItemCount(menu)), TRUE, &info);
 }
 
@@ -94,12 +95,13 @@ private:
 
 int Track_Popup_Menu(const Form_Model &owner, const std::vector<Menu_Item> &items, const Point *at) {
     const HWND window = win32::Window_Of_Form(owner);
+    win32::Menu_Images images;
     const win32::Unique_Menu menu(CreatePopupMenu());
     if (window == nullptr || !menu)
         return 0;
     Leave_Check_Column_Out(menu.get());
     for (const Menu_Item &item : items)
-        Append_Item(menu.get(), item);
+        Append_Item(menu.get(), item, images);
     POINT place = {};
     GetCursorPos(&place);
     if (at != nullptr) {

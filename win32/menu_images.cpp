@@ -138,34 +138,64 @@ int Size_In_Pixels(int at_96_dots) {
     return Scale_Nearest(at_96_dots, platform::Dots_Per_Inch(), 96);
 }
 
+constexpr int pale = 96; ///< of 255: the opacity of the picture of an item that cannot be chosen
+
+/// The picture with its transparency, the colours multiplied by it. Null without memory.
+Unique_Bitmap Make_Image(Menu_Image image, Pixel_Buffer &pixels) {
+    const int size = Size_In_Pixels(image_size);
+    Unique_Bitmap bitmap = Make_Pixel_Bitmap(size, size, pixels);
+    if (bitmap)
+        Draw(Field(pixels), image);
+    return bitmap;
+}
+
+void Make_Pale(const Pixel_Buffer &pixels) {
+    auto *const bytes = reinterpret_cast<std::uint8_t *>(pixels.pixels);
+    for (int i = 0; i < pixels.width * pixels.height * 4; ++i)
+        bytes[i] = static_cast<std::uint8_t>(bytes[i] * pale / 255);
+}
+
 /// Lays the picture over the item's background, whichever that is.
 void Draw_Item(const DRAWITEMSTRUCT &item) {
     static const auto blend =
         Look_Up<BOOL WINAPI(HDC, int, int, int, int, HDC, int, int, int, int, BLENDFUNCTION)>(L"msimg32.dll",
                                                                                               "AlphaBlend");
-    const int size = Size_In_Pixels(image_size);
     Pixel_Buffer pixels;
-    const Unique_Bitmap bitmap = Make_Pixel_Bitmap(size, size, pixels);
+    const Unique_Bitmap bitmap = Make_Image(static_cast<Menu_Image>(item.itemData), pixels);
     const Unique_Memory_Dc source(CreateCompatibleDC(nullptr));
     if (blend == nullptr || !bitmap || !source)
         return;
-    Draw(Field(pixels), static_cast<Menu_Image>(item.itemData));
     const Selected_Object selected(source.get(), bitmap.get());
     const bool greyed = (item.itemState & (ODS_GRAYED | ODS_DISABLED)) != 0;
-    const BLENDFUNCTION over = {AC_SRC_OVER, 0, static_cast<BYTE>(greyed ? 96 : 255), AC_SRC_ALPHA};
-    const int top = static_cast<int>(item.rcItem.top + item.rcItem.bottom) / 2 - size / 2;
-    blend(item.hDC, static_cast<int>(item.rcItem.left), top, size, size, source.get(), 0, 0, size, size,
-          over);
+    const BLENDFUNCTION over = {AC_SRC_OVER, 0, static_cast<BYTE>(greyed ? pale : 255), AC_SRC_ALPHA};
+    const int top = static_cast<int>(item.rcItem.top + item.rcItem.bottom) / 2 - pixels.height / 2;
+    blend(item.hDC, static_cast<int>(item.rcItem.left), top, pixels.width, pixels.height, source.get(), 0, 0,
+          pixels.width, pixels.height, over);
 }
 
 } // namespace
 
-void Set_Menu_Image(MENUITEMINFOW &item, Menu_Image image) {
+bool Menu_Images::Show_Transparency() {
+    constexpr int vista = 6;
+    // Wine passes for a newer Windows, and copies what is clear as black.
+    static const bool is_wine = System_Function(L"ntdll.dll", "wine_get_version") != nullptr;
+    return LOBYTE(GetVersion()) >= vista && !is_wine;
+}
+
+void Menu_Images::Set(MENUITEMINFOW &item, Menu_Image image) {
     if (image == Menu_Image::None)
         return;
     item.fMask |= MIIM_BITMAP | MIIM_DATA;
     item.hbmpItem = HBMMENU_CALLBACK;
     item.dwItemData = static_cast<ULONG_PTR>(image);
+    if (!Show_Transparency())
+        return;
+    Pixel_Buffer pixels;
+    Unique_Bitmap bitmap = Make_Image(image, pixels);
+    if (bitmap && (item.fState & MFS_GRAYED) != 0)
+        Make_Pale(pixels);
+    item.hbmpItem = bitmap.get();
+    bitmaps_.push_back(std::move(bitmap));
 }
 
 bool Answer_Menu_Image(UINT message, LPARAM lparam) {

@@ -29,11 +29,13 @@ std::wstring Showable(std::string_view text, std::size_t longest) {
     return end == wide.size() ? wide : wide.substr(0, Whole_Code_Points(wide, end)) + L"...";
 }
 
+/// A box that comes by itself finds the user in another program, and may not take the foreground from that:
+/// it lies above all windows instead.
 UINT Style_Of(Box_Icon icon, Box_Buttons buttons) {
     constexpr UINT icons[] = {0, MB_ICONINFORMATION, MB_ICONQUESTION, MB_ICONEXCLAMATION, MB_ICONSTOP};
     constexpr UINT button_sets[] = {MB_OK, MB_YESNO, MB_YESNOCANCEL};
     return icons[static_cast<int>(icon)] | button_sets[static_cast<int>(buttons)] | MB_TASKMODAL |
-           MB_SETFOREGROUND;
+           MB_SETFOREGROUND | (win32::Comes_By_Itself ? MB_TOPMOST : 0U);
 }
 
 /// The window, else none where it is not the program's own: inside the shell's window the calendar shares the

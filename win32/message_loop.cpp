@@ -40,6 +40,8 @@ void Tick(UINT_PTR id) {
     if (Mouse_Is_Taken())
         return;
     Hear_Waiting();
+    // The shell's window that the calendar is in may change its scale without a word to what it holds.
+    Check_Scale(false);
     const auto timer =
         std::find_if(timers.begin(), timers.end(), [id](const Timer &t) { return t.id == id; });
     if (timer == timers.end())

@@ -29,8 +29,10 @@ public:
     virtual void Clip(const std::vector<Rect> &) {}
     virtual void Shape(const std::vector<Point> &) {}
     virtual void Bring_To_Front() = 0;
-    /// The dots per inch or the system's fonts changed.
-    virtual void Scale_Changed() = 0;
+    /// Takes the dots per inch of a dialog's own screen, 0 for the calendar's, or the system's new fonts, and
+    /// has the form lay itself out anew.
+    void Take_Scale(int dots);
+    int Dots() const { return dots_; }
     /// Looks at a message before the system does what is usual with it. Returns whether that was all.
     virtual bool Take_First(const MSG &) { return false; }
 
@@ -52,11 +54,14 @@ protected:
     /// Brings the window to where the model says, and shows or hides it.
     virtual void Place() = 0;
     virtual void Show_Or_Hide() = 0;
+    /// The dots per inch or the system's fonts changed.
+    virtual void Scale_Changed() = 0;
     /// The aspects of a form that each kind of window has its own way with.
     virtual void Own_Aspect_Changed(platform::Aspect aspect) = 0;
     /// The window is gone, whoever took it down: tells the form, unless Destroy did it.
     virtual void Window_Gone();
     HWND window_ = nullptr;
+    int dots_ = 0; ///< per inch of a dialog's own screen, 0: the calendar's count
 
 private:
     friend void Find_Lost_Windows();
@@ -78,6 +83,9 @@ HWND Window_Of_Form(const platform::Form_Model &model);
 /// Tells the forms whose windows vanished without a message, as they do when the process of their parent
 /// window is killed.
 void Find_Lost_Windows();
+
+/// Has the window's own scale, or the calendar's, looked at once it is served again.
+constexpr UINT Check_Dots_Message = WM_APP + 3;
 
 /// Looks the dots per inch up again, after the screen, the window's parent or the settings changed. A change
 /// of them, or of the system's fonts, is told to all forms, which lay themselves out anew.

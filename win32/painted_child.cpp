@@ -1,6 +1,7 @@
 // Painting, mouse and keyboard of controls of a dialog that paint themselves.
 #include "win32/painted_child.h"
 
+#include "base/scoped_value.h"
 #include "win32/accessible.h"
 #include "win32/canvas.h"
 #include "win32/painted_window.h"
@@ -36,6 +37,7 @@ LRESULT CALLBACK Painted_Child::Procedure(HWND window, UINT message, WPARAM wpar
     try {
         // A handler may close the dialog.
         const std::shared_ptr<Mirror> keep = child->owner_->weak_from_this().lock();
+        const Scoped_Value scale(Dialog_Dots, keep->Dots());
         return child->Handle(message, wparam, lparam);
     } catch (...) {
         // Only want of memory comes here. The system's code above cannot pass an exception on.

@@ -3,6 +3,7 @@
 
 #include "win32/accessible.h"
 #include "win32/canvas.h"
+#include "win32/system_library.h"
 #include "win32/units.h"
 #include "win32/wide_text.h"
 #include "win32/window_class.h"
@@ -17,8 +18,18 @@ using platform::Control_State;
 
 namespace {
 
+/// WM_DPICHANGED_AFTERPARENT, which the headers name for newer systems alone.
+constexpr UINT Parent_Dots_Changed_Message = 0x02E3;
+
 bool Is_Top_Level(HWND window) {
     return GetAncestor(window, GA_PARENT) == GetDesktopWindow();
+}
+
+/// Letters are commands in the window: an input method that is open would swallow them.
+void Leave_Input_Method_Out(HWND window) {
+    static const auto associate = Look_Up<HANDLE WINAPI(HWND, HANDLE)>(L"imm32.dll", "ImmAssociateContext");
+    if (associate != nullptr)
+        associate(window, nullptr);
 }
 
 bool Equal(const std::vector<RECT> &a, const std::vector<RECT> &b) {
@@ -36,6 +47,7 @@ void Painted_Window::Create() {
                           WS_POPUP | WS_CLIPSIBLINGS | WS_CLIPCHILDREN, place.left, place.top,
                           place.right - place.left, place.bottom - place.top, nullptr, nullptr,
                           GetModuleHandleW(nullptr), nullptr));
+    Leave_Input_Method_Out(window_);
     Texts_Changed();
     // The window may lie on a screen with a scale of its own; the form hears of it once it is made.
     PostMessageW(window_, Check_Dots_Message, 0, 0);
@@ -81,6 +93,7 @@ LRESULT Painted_Window::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
         Send(platform::Input_Kind::Close);
         return 0;
     case WM_DPICHANGED:
+    case Parent_Dots_Changed_Message:
         Check_Scale(false);
         return 0;
     case WM_GETOBJECT:

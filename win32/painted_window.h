@@ -20,7 +20,6 @@ public:
     void Clip(const std::vector<Rect> &rects) override;
     void Shape(const std::vector<Point> &corners) override;
     void Bring_To_Front() override;
-    void Scale_Changed() override;
 
 private:
     static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam);
@@ -35,6 +34,7 @@ private:
 
     void Paint_On(HDC target, const RECT &area);
     void Place() override;
+    void Scale_Changed() override;
     void Set_Region();
     void Show_Or_Hide() override;
     void Own_Aspect_Changed(platform::Aspect aspect) override;
@@ -57,6 +57,5 @@ private:
 /// Messages of painted windows to themselves.
 constexpr UINT Update_Texts_Message = WM_APP + 1;
 constexpr UINT Default_Action_Message = WM_APP + 2; ///< wparam: the control's index
-constexpr UINT Check_Dots_Message = WM_APP + 3;
 
 } // namespace win32

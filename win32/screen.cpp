@@ -11,13 +11,8 @@ namespace {
 int dots_per_inch = 0;
 
 int Look_Dots_Up(HWND window) {
-    // Systems with several scales tell those of a window; older ones have one scale for all.
-    if (window != nullptr) {
-        static const auto of_window = win32::Look_Up<UINT WINAPI(HWND)>(L"user32.dll", "GetDpiForWindow");
-        const UINT dots = of_window != nullptr ? of_window(window) : 0;
-        if (dots != 0)
-            return static_cast<int>(dots);
-    }
+    if (const int dots = win32::Dots_Of(window); dots != 0)
+        return dots;
     const win32::Window_Dc screen(nullptr);
     const int dots = GetDeviceCaps(screen.Get(), LOGPIXELSX);
     return dots > 0 ? dots : 96;
@@ -25,12 +20,20 @@ int Look_Dots_Up(HWND window) {
 
 } // namespace
 
+// Systems with several scales tell those of a window; older ones have one scale for all.
+int win32::Dots_Of(HWND window) {
+    static const auto of_window = Look_Up<UINT WINAPI(HWND)>(L"user32.dll", "GetDpiForWindow");
+    return window != nullptr && of_window != nullptr ? static_cast<int>(of_window(window)) : 0;
+}
+
 bool win32::Refresh_Dots(HWND window) {
     const int dots = Look_Dots_Up(window);
     return std::exchange(dots_per_inch, dots) != dots;
 }
 
 int platform::Dots_Per_Inch() {
+    if (win32::Dialog_Dots != 0)
+        return win32::Dialog_Dots;
     if (dots_per_inch == 0)
         dots_per_inch = Look_Dots_Up(nullptr);
     return dots_per_inch;

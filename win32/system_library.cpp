@@ -1,6 +1,7 @@
 // Looking functions up in system libraries.
 #include "win32/system_library.h"
 
+#include "platform/libraries.h"
 #include "win32/handles.h"
 
 #include <string>
@@ -21,3 +22,9 @@ void *System_Function(const wchar_t *library, const char *function) {
 }
 
 } // namespace win32
+
+void platform::Load_From_System_Only() {
+    const auto set = win32::Look_Up<BOOL WINAPI(DWORD)>(L"kernel32.dll", "SetDefaultDllDirectories");
+    if (set != nullptr)
+        set(LOAD_LIBRARY_SEARCH_SYSTEM32);
+}

@@ -35,4 +35,11 @@ inline Rect To_Covering_Twips(const RECT &rect) {
 /// they changed.
 bool Refresh_Dots(HWND window);
 
+/// Returns the dots per inch of the screen that `window` is on, 0 where the system does not tell them.
+int Dots_Of(HWND window);
+
+/// While a dialog's window is served, the dots per inch of its screen, which count then; 0: the calendar's
+/// count. A form's own code always has the calendar's, but for the laying out of a dialog after Dots_Changed.
+inline int Dialog_Dots = 0;
+
 } // namespace win32

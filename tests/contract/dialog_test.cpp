@@ -68,6 +68,7 @@ protected:
     void Follow(const Input_Event &event) {
         if (event.kind == Input_Kind::Moved)
             moved_to_ = event.point;
+        (event.kind == Input_Kind::Dots_Changed ? laid_out_at_ : heard_at_) = platform::Dots_Per_Inch();
         if (event.control < 0 || platform::Box_Is_Open())
             return;
         Control_State &control = controls_[event.control];
@@ -118,6 +119,7 @@ protected:
     HWND window_ = nullptr;
     std::string heard_;
     Point moved_to_;
+    int laid_out_at_ = 0, heard_at_ = 0;
 };
 
 TEST_F(Dialog_Contract, The_Form_Hears_What_The_User_Does) {
@@ -188,6 +190,31 @@ TEST_F(Dialog_Contract, Its_Own_Changes_Show_And_Are_Not_Told) {
     platform::Form_Changed(model_, Aspect::Enabled);
     SendMessageW(Typed_Text(), WM_CHAR, 'x', 0);
     EXPECT_TRUE(!IsWindowEnabled(window_) && GetWindowTextLengthW(Typed_Text()) == 0);
+}
+
+TEST_F(Dialog_Contract, On_A_Screen_Of_Another_Scale_It_Follows_That_And_Nothing_Else_Does) {
+    const int calendar_dots = platform::Dots_Per_Inch();
+    for (const int dots : {192, 144, 0, calendar_dots}) {
+        RECT wanted = {40, 50, 400, 500}, client = {}, part = {};
+        SendMessageW(window_, WM_DPICHANGED, static_cast<WPARAM>(MAKELONG(dots, dots)),
+                     reinterpret_cast<LPARAM>(&wanted));
+        platform::Process_Waiting_Messages();
+        const int now = dots == 0 ? 144 : dots; // no scale at all is not taken
+        EXPECT_EQ(laid_out_at_, now);
+        EXPECT_EQ(platform::Dots_Per_Inch(), calendar_dots);
+        GetClientRect(window_, &client);
+        EXPECT_EQ(client.right, Twips_To_Pixels(6000, now));
+        GetWindowRect(Native(List), &part);
+        MapWindowPoints(nullptr, window_, reinterpret_cast<POINT *>(&part), 2);
+        EXPECT_EQ(part.top, Twips_To_Pixels(controls_[List].bounds.top, now));
+        LOGFONTW font = {};
+        GetObjectW(reinterpret_cast<HGDIOBJ>(Send(List, WM_GETFONT)), sizeof font, &font);
+        EXPECT_EQ(font.lfHeight, -Scale_Nearest(controls_[List].font.tenth_points, now, 720));
+        Heard(), Send(Picture, WM_LBUTTONDOWN, MK_LBUTTON, 40), Send(Picture, WM_LBUTTONUP, 0, 40);
+        const std::string at = " 11 " + std::to_string(Pixels_To_Twips(40, now)) + "; ";
+        EXPECT_EQ(Heard(), "down" + at + "up" + at);
+        EXPECT_EQ(heard_at_, calendar_dots) << "the form's own code";
+    }
 }
 
 TEST_F(Dialog_Contract, A_Page_Is_Made_In_Its_Place_When_It_Is_First_Shown) {
