@@ -68,6 +68,7 @@ struct Control_State {
     bool transparent = false; ///< draws no background of its own
     Colour frame_colour = -1; ///< -1: no frame
     bool marked = false;      ///< bears the mark of the keyboard focus
+    bool edged = false;       ///< has a hairline inside its edges where no frame is
     Text_Align align = Text_Align::Left;
     bool middle = false; ///< caption centred between top and bottom
     int padding = 0;     ///< twips between the caption and the left, right and, unless `middle`, top edge

@@ -44,6 +44,14 @@ TEST_F(Form_Test, painting_covers_the_visible_labels_within_the_clip_and_cuts_ca
     form.B_Lbl.Set_Align(platform::Text_Align::Centre, true);
     EXPECT_EQ(form.Shape({600, 0, 10, 1000}), "text one@60; text two@300; ");
     EXPECT_EQ(form.drawn.at(1).align, platform::Text_Align::Centre);
+    form.A_Lbl.Set_Edged(true); // only where neither frame nor mark is
+    form.A_Lbl.Set_Back_Colour(Rgb(255, 100, 0));
+    form.A_Lbl.Set_Fore_Colour(Rgb(0, 200, 0));
+    EXPECT_EQ(form.Shape({0, 0, 10, 10}), "fill @0; frame @0; frame @0; ");
+    form.A_Lbl.Set_Frame_Colour(-1);
+    form.A_Lbl.Set_Marked(false);
+    EXPECT_EQ(form.Shape({0, 0, 10, 10}), "fill @0; frame @0; ");
+    EXPECT_EQ(form.drawn.at(2).colour, Rgb(178, 130, 0));
     form.B_Lbl.Set_Visible(false);
     EXPECT_EQ(form.Shape({600, 0, 10, 1000}), "");
 }
