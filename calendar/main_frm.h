@@ -237,7 +237,7 @@ private:
     void Expand();
     void Caption_Moved();
 
-    void Box_Mouse_Down(platform::Mouse_Button button, int index);
+    void Box_Mouse_Down(platform::Mouse_Button button, int index, Point at);
     void Box_Held(int index);
 
     void Function_Key(int key);

@@ -17,9 +17,6 @@ Rect Work_Area();
 /// The work area of the monitor that `point` (screen pixels) is on, or is nearest to, in pixels.
 Rect Work_Area_Around(Point point);
 
-/// The mouse position in screen pixels.
-Point Mouse_Position();
-
 /// Whether the user has Windows show everything in high contrast.
 bool High_Contrast();
 

@@ -175,7 +175,9 @@ bool Tooltips::Answer(NMHDR &notice) {
     if (index >= tools_.size())
         return false;
     shown_ = To_Wide(tools_[index].text);
-    const Rect area = platform::Work_Area_Around(platform::Mouse_Position());
+    POINT mouse = {};
+    GetCursorPos(&mouse);
+    const Rect area = platform::Work_Area_Around({mouse.x, mouse.y});
     const int around = Scale_Nearest(border, platform::Dots_Per_Inch(), 96);
     const Window_Dc dc(window_);
     const Selected_Object font(dc.Get(), reinterpret_cast<HFONT>(SendMessageW(window_, WM_GETFONT, 0, 0)));

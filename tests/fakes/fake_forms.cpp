@@ -228,10 +228,6 @@ bool Mouse_Button_Held() {
     return Desktop().button_held;
 }
 
-Point Mouse_Position() {
-    return Desktop().mouse;
-}
-
 int Track_Popup_Menu(const Form_Model &, const std::vector<Menu_Item> &items, const Point *at) {
     Desktop().menu_at = at == nullptr ? std::nullopt : std::optional(*at);
     if (Desktop().answer_menu && Desktop().expected_menus.empty()) {

@@ -59,7 +59,6 @@ struct Fake_Timer {
 struct Fake_Desktop {
     int dots_per_inch = 96;
     Rect work_area{0, 0, 1024, 740};
-    Point mouse;
     bool button_held = false;
     bool high_contrast = false;
     bool refuses_windows = false; ///< no form gets a native window

@@ -62,7 +62,6 @@ protected:
         Events({"6/3/2002=first", "6/3/9999=second", "7/3/2002=other"});
         Stored("Tooltips") = "2";
         Start();
-        Desktop().mouse = {500, 400};
     }
     void Press_Day(int day) { Press(form, Box_Of(day)); }
     void Tell(Input_Kind kind) { Input(form, {.kind = kind}); }
@@ -80,19 +79,28 @@ TEST_F(Balloon, shows_the_day_s_text_after_a_third_of_a_second_until_the_release
     EXPECT_EQ(form.Balloon.Window.Title_Lbl.Caption(), "6/3/2002");
     EXPECT_EQ(form.Balloon.Window.Message_Lbl.Caption(), "second"); // the last record, as in the box
     EXPECT_EQ(form.Balloon.Window.Height(), 1620);
-    EXPECT_EQ(form.Balloon.Window.Top() + form.Balloon.Window.Height(), 400 * 15);
+    EXPECT_EQ(form.Balloon.Window.Top() + form.Balloon.Window.Height(),
+              form.Top() + Box_Of(6).Top() + Box_Of(6).Height() / 2);
     const Fake_Mirror &window = Desktop().mirrors.at(&form.Balloon.Window.Model());
     EXPECT_TRUE(!window.shown_unclipped && window.shape.size() == 4 * 7 + 3U);
     Press(form, Box_Of(7), platform::Mouse_Button::Middle); // one at a time
     EXPECT_EQ(form.Tooltip_Box, 10);
     Release(form, Box_Of(20)); // wherever
     EXPECT_FALSE(Shown());
-    for (const std::size_t length : {300U, 20000U}) { // it grows with its text up to the work area
-        Events({"6/3/2002=" + std::string(length, 'w')});
+    struct { // it grows with its text up to the work area, in height first
+        std::string text;
+        bool wide, cut;
+    } const rows[] = {{std::string(300, 'w'), false, false},
+                      {std::string(3000, 'w'), true, false},
+                      {std::string(20000, 'w'), true, true},
+                      {"short" + std::string(100, '\n') + "lines", false, true}};
+    for (const auto &[text, wide, cut] : rows) {
+        Events({"6/3/2002=" + text});
         form.Redraw();
         Press_Day(6);
         EXPECT_TRUE(form.Balloon.Window.Height() > 1620 && form.Balloon.Window.Height() <= 740 * 15);
-        EXPECT_EQ(form.Balloon.Window.Message_Lbl.Caption().ends_with("..."), length == 20000);
+        EXPECT_EQ(form.Balloon.Window.Message_Lbl.Width() > 4680, wide) << text.size();
+        EXPECT_EQ(form.Balloon.Window.Message_Lbl.Caption().ends_with("..."), cut) << text.size();
         EXPECT_LE(form.Balloon.Window.Message_Lbl.Bounds().Bottom(), form.Balloon.Window.Height());
         Release(form, Box_Of(6));
     }
