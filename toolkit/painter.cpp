@@ -1,6 +1,8 @@
 // Painting of a form from the state of its controls.
 #include "toolkit/painter.h"
 
+#include "base/reading_direction.h"
+
 #include <algorithm>
 #include <cmath>
 #include <numbers>
@@ -80,6 +82,10 @@ void Paint_Caption(Canvas &canvas, const Control_State &control, const Rect &cli
     const std::string_view caption = control.caption;
     if (caption.empty())
         return;
+    // One for all lines: they are a text and not its parts.
+    const bool right_to_left = Is_Right_To_Left(caption);
+    const bool turned = right_to_left && control.align == platform::Text_Align::Left;
+    const platform::Text_Align align = turned ? platform::Text_Align::Right : control.align;
     const int line_height = platform::Line_Height(control.font);
     Rect line = control.bounds;
     line.left += control.padding;
@@ -95,7 +101,7 @@ void Paint_Caption(Canvas &canvas, const Control_State &control, const Rect &cli
         line.height = std::min(line_height, control.bounds.Bottom() - line.top);
         if (end > begin && line.Intersects(clip))
             platform::Draw_Text(canvas, caption.substr(begin, end - begin), line, control.font,
-                                control.fore_colour, control.align);
+                                control.fore_colour, align, right_to_left);
         line.top += line_height;
         begin = end + 1;
     }

@@ -179,8 +179,9 @@ void Fill_Polygon(Canvas &canvas, const std::vector<Point> &, Colour colour) {
 }
 
 void Draw_Text(Canvas &canvas, std::string_view text, const Rect &rect, const Font &, Colour colour,
-               Text_Align align) {
-    canvas.operations.push_back({Canvas_Operation::Kind::Text, rect, colour, std::string(text), align});
+               Text_Align align, bool right_to_left) {
+    canvas.operations.push_back(
+        {Canvas_Operation::Kind::Text, rect, colour, std::string(text), align, right_to_left});
 }
 
 void Draw_Picture(Canvas &canvas, const Picture &, const Rect &rect) {

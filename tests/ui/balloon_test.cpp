@@ -17,6 +17,20 @@ TEST_F(Form_Test, wrapped_text) {
         {"one two three four five", 2, {"one two", "three f..."}},
         {"12345678\u00E4\u00F6\u00FC", 2, {"12345678\u00E4\u00F6", "\u00FC"}},
         {"1234567\u00E4\u00F6\u00FC\u00E4", 1, {"1234567..."}},
+        // Without blanks: no line begins with a closing mark or a small letter, or ends with an opening mark.
+        {"\u4E00\u4E8C\u4E09\u56DB\u4E94\u516D\u4E03\u516B\u4E5D\u5341\u3002\u6B21",
+         3,
+         {"\u4E00\u4E8C\u4E09\u56DB\u4E94\u516D\u4E03\u516B\u4E5D", "\u5341\u3002\u6B21"}},
+        {"\u4E00\u4E8C\u4E09\u56DB\u4E94\u516D\u4E03\u516B\u4E5D\u300C\u5341\u300D",
+         3,
+         {"\u4E00\u4E8C\u4E09\u56DB\u4E94\u516D\u4E03\u516B\u4E5D", "\u300C\u5341\u300D"}},
+        {"\u3042\u3044\u3046\u3048\u304A\u304B\u304D\u304F\u3051\u3061\u3083\u3093",
+         3,
+         {"\u3042\u3044\u3046\u3048\u304A\u304B\u304D\u304F\u3051", "\u3061\u3083\u3093"}},
+        {"\u3042\u3044\u3046\u3048\u304Aabcdefgh", 3, {"\u3042\u3044\u3046\u3048\u304A", "abcdefgh"}},
+        {"\uAC00\uB098\uB2E4 \uB77C\uB9C8\uBC14\uC0AC\uC544\uC790\uCC28",
+         3,
+         {"\uAC00\uB098\uB2E4 \uB77C\uB9C8\uBC14\uC0AC\uC544\uC790", "\uCC28"}},
     };
     for (const auto &[text, most, lines] : rows)
         EXPECT_EQ(Wrap_Text(text, {}, 1000, most), lines) << text;
