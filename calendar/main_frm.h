@@ -252,6 +252,7 @@ private:
 
     void Describe_Boxes();
     void Describe_Heading();
+    void Describe_First_Steps();
     void Set_Event_Value(int index, std::string_view text);
     void Fill_Box(int index, std::string_view text);
     void Show_Entered();

@@ -6,6 +6,7 @@
 #include "core/convert.h"
 #include "core/settings.h"
 #include "core/title.h"
+#include "platform/files.h"
 #include "platform/locale.h"
 #include "platform/message_box.h"
 
@@ -102,6 +103,7 @@ void Main_Frm::Load_Dates() {
         });
     if (fill == fills_)
         broken_off_ = !complete;
+    Describe_First_Steps();
 }
 
 /// Puts the texts that were entered since the last call into their boxes.
@@ -133,6 +135,7 @@ void Main_Frm::Enter_Date(std::string_view record, const Date &today) {
 void Main_Frm::Show_Saved(const Date &date, std::string_view text) {
     if (Event_Saved)
         Event_Saved();
+    Describe_First_Steps();
     if (date.month != Cur_Month)
         return;
     const int index = Start_Box(Cur_Month, Cur_Year) + date.day - 1;
@@ -208,6 +211,11 @@ void Main_Frm::Describe_Heading() {
     Prev_Month_Lbl.Set_Access(access);
     access.name = "Next month";
     Next_Month_Lbl.Set_Access(access);
+}
+
+void Main_Frm::Describe_First_Steps() {
+    const bool new_here = !platform::Path_Exists(Event_Store::Data_File());
+    Set_Description(new_here ? Joined({First_Steps[0], " ", First_Steps[1]}) : std::string());
 }
 
 std::string Full_Date(const Date &date) {

@@ -156,7 +156,8 @@ struct Form_Model {
     Form_Kind kind = Form_Kind::Dialog;
     std::string name; ///< the native window's class is "Vellatro_" and this name
     std::string title;
-    Rect bounds; ///< on the screen, twips; of a dialog the client area's size counts
+    std::string description; ///< what assistive technology tells of it beside the title
+    Rect bounds;             ///< on the screen, twips; of a dialog the client area's size counts
     bool visible = false;
     bool enabled = true; ///< without this the window of a dialog takes no mouse and no keys
     Colour back_colour = System_Colour(15);
