@@ -36,13 +36,12 @@ public:
         return fitting == ends.end() ? 0 : *fitting;
     }
 
-    /// The next place behind `from` where a line may end, or npos.
+    /// The next place behind `from` where a line may end; behind the longest line, if there is none.
     static std::size_t Next_End(std::string_view text, std::size_t from) {
-        for (std::size_t at = from + 1; at < text.size(); ++at) {
-            if (Line_May_End(text, at))
-                return at;
-        }
-        return std::string_view::npos;
+        std::size_t at = from + 1;
+        while (at <= longest_line && (at >= text.size() || !Line_May_End(text, at)))
+            ++at;
+        return at;
     }
 
     /// Where a line of `rest`, which has no line breaks, ends: where a line may, or inside the first word. At
