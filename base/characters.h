@@ -59,6 +59,15 @@ inline constexpr Code_Range Combining_Ranges[] = {
     {0xABE3, 0xABEA}, {0xABEC, 0xABED}, {0xFB1E, 0xFB1E}, {0xFE00, 0xFE0F}, {0xFE20, 0xFE2F},
     {0xFF9E, 0xFF9F}};
 
+/// Whether one of the ranges, which are in order, has the code point.
+template <std::size_t Count>
+bool In_Ranges(const Code_Range (&ranges)[Count], std::uint32_t code) {
+    const Code_Range *range =
+        std::lower_bound(std::begin(ranges), std::end(ranges), code,
+                         [](const Code_Range &each, std::uint32_t wanted) { return each.last < wanted; });
+    return range != std::end(ranges) && range->first <= code;
+}
+
 /// Whether the code point belongs to the one before it, whatever that is.
 inline bool Extends_Previous(std::uint32_t code) {
     if (code > 0xFFFF) {
@@ -66,10 +75,7 @@ inline bool Extends_Previous(std::uint32_t code) {
         const bool tag = code >= 0xE0020 && code <= 0xE007F;
         return skin_tone || tag || (code >= 0xE0100 && code <= 0xE01EF);
     }
-    const Code_Range *range =
-        std::lower_bound(std::begin(Combining_Ranges), std::end(Combining_Ranges), code,
-                         [](const Code_Range &each, std::uint32_t wanted) { return each.last < wanted; });
-    return range != std::end(Combining_Ranges) && range->first <= code;
+    return In_Ranges(Combining_Ranges, code);
 }
 
 /// Two letters of this kind make a flag.
@@ -94,6 +100,18 @@ inline std::uint32_t Decode_Utf8(std::string_view text, std::size_t begin, std::
     }
     const bool surrogate = code >= 0xD800 && code <= 0xDFFF;
     return code < smallest[length] || code > 0x10FFFF || surrogate ? No_Character : code;
+}
+
+/// The number of bytes of a well-formed character that begins with this one.
+inline std::size_t Length_Utf8(char first) {
+    const unsigned lead = static_cast<unsigned char>(first);
+    return lead < 0x80 ? 1 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
+}
+
+/// The code point that begins at byte `begin`, or No_Character.
+inline std::uint32_t Code_At(std::string_view text, std::size_t begin) {
+    const std::size_t length = Length_Utf8(text[begin]);
+    return text.size() - begin < length ? No_Character : Decode_Utf8(text, begin, length);
 }
 
 /// The code point that ends before byte `end` of a UTF-8 text; a byte that belongs to none is one by itself.
@@ -125,11 +143,9 @@ inline bool Is_Utf8(std::string_view text) {
         if ((bits & high_bits) == 0)
             at = end;
         while (at < end) {
-            const unsigned lead = static_cast<unsigned char>(text[at]);
-            const std::size_t length = lead < 0x80 ? 1 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
-            if (text.size() - at < length || Decode_Utf8(text, at, length) == No_Character)
+            if (Code_At(text, at) == No_Character)
                 return false;
-            at += length;
+            at += Length_Utf8(text[at]);
         }
     }
     return true;

@@ -98,6 +98,7 @@ void Dress_Number(Label &label) {
     const bool bold = label.Font().bold;
     label.Set_Font({Box_Layout::number_font.tenth_points, bold});
     label.Set_Padding(Pixels_To_Twips(Pixels(number_inset)));
+    label.Set_Edged(true);
 }
 
 void Dress_Text(Label &label) {

@@ -29,11 +29,12 @@ Held_Balloon::Held_Balloon() {
     };
 }
 
-void Held_Balloon::Hold(Callback<void()> show) {
+void Held_Balloon::Hold(Point at, Callback<void()> show) {
     if (Showing())
         return;
     released_ = false;
     show_ = show;
+    at_ = at;
     ++holds_;
     // A second press during the wait: the wait begins anew for it, in the call that is waiting already.
     if (waiting_)
@@ -61,9 +62,9 @@ void Held_Balloon::TimeOut(float seconds) {
     }
 }
 
-void Held_Balloon::Show(const Date &date, std::string_view message, const Point *at) {
+void Held_Balloon::Show(const Date &date, std::string_view message) {
     Window.SetBalloon(platform::Short_Date(date.year, date.month, date.day), message, "i",
-                      "Tahoma, if exists", balloon_width, balloon_height, at);
+                      "Tahoma, if exists", balloon_width, balloon_height, at_);
     Window.Show();
     Timer2.Set_Enabled(true);
 }

@@ -16,13 +16,14 @@ public:
 
     bool Showing() const { return Window.Visible(); }
     bool Mouse_Released() const { return released_; }
-    /// Calls `show` when the button, which went down now, is still held after a while. Does nothing when
+    /// Calls `show` when the button, which went down now, is still held after a while. `at`, in twips on the
+    /// screen, is where the balloon will point to, wherever the mouse has gone meanwhile. Does nothing when
     /// there is a balloon already. A press during the wait begins it anew for its own `show`.
-    void Hold(Callback<void()> show);
+    void Hold(Point at, Callback<void()> show);
     /// Waits while the window's messages are processed. Ends early at midnight and at the program's end.
     void TimeOut(float seconds);
-    /// Shows an event of a day beside the mouse, or beside a point in twips on the screen.
-    void Show(const Date &date, std::string_view message, const Point *at = nullptr);
+    /// Shows an event of a day beside the place of the last Hold.
+    void Show(const Date &date, std::string_view message);
     /// The button is not held any more: the balloon goes, or does not come.
     void Hide();
     /// Ends this and every later wait: the program ends.
@@ -34,6 +35,7 @@ public:
 
 private:
     Callback<void()> show_; ///< of the last press
+    Point at_;              ///< likewise
     unsigned holds_ = 0;    ///< counts the presses
     bool released_ = true;
     bool waiting_ = false;

@@ -96,7 +96,9 @@ void Main_Frm::Wire_Events() {
 }
 
 void Main_Frm::Wire_Box(Label &label, int index) {
-    label.On_Mouse_Down = [this, index](Mouse_Button button, Point) { Box_Mouse_Down(button, index); };
+    label.On_Mouse_Down = [this, &label, index](Mouse_Button button, Point at) {
+        Box_Mouse_Down(button, index, {label.Left() + at.x, label.Top() + at.y});
+    };
     label.On_Mouse_Move = [this](Mouse_Button, Point) { Restart_Countdown(); };
     label.On_Mouse_Up = [this](Mouse_Button, Point) { Hide_Balloon(); };
     label.On_Double_Click = [this, index] { Edit_Box(index); };

@@ -168,7 +168,8 @@ private:
     void Compact();
     void Expand();
     void Caption_Moved();
-    void Box_Mouse_Down(platform::Mouse_Button button, int index);
+
+    void Box_Mouse_Down(platform::Mouse_Button button, int index, Point at);
     void Box_Held(int index);
 
     void Function_Key(int key);
@@ -180,6 +181,7 @@ private:
     void Update_Mark();
     int Marked_Box() const { return Start_Box(Cur_Month, Cur_Year) + mark_.Day() - 1; }
     void Take_Focus(bool has_focus);
+    void Describe_First_Steps();
     void Show_Entered();
     void Alert(const Date &today, std::string_view text);
     void Keep_Place(const std::optional<Point> &from);

@@ -20,7 +20,7 @@ void Main_Frm::No_ShowDesktop_and_IconColours() {
     const platform::Shell_Window desktop = platform::Find_Desktop_Window();
     if (desktop == 0)
         return;
-    Splash.Show_Over(Model().bounds, Box_Lbl[36].Top());
+    Splash.Show_Over(Model().bounds, Box_Lbl[36].Top(), !Model().description.empty());
     Attachment.Enter(desktop);
 }
 

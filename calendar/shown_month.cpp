@@ -3,6 +3,7 @@
 #include "calendar/main_frm.h"
 #include "core/convert.h"
 #include "core/settings.h"
+#include "platform/files.h"
 #include "platform/locale.h"
 #include "platform/message_box.h"
 
@@ -34,6 +35,13 @@ void Main_Frm::Load_Dates() {
         });
     if (fill == fills_)
         broken_off_ = !complete;
+    Describe_First_Steps();
+}
+
+/// Tells assistive technology how to begin, as the splash window does, as long as there is no data file.
+void Main_Frm::Describe_First_Steps() {
+    const bool new_here = !platform::Path_Exists(Event_Store::Data_File());
+    Set_Description(new_here ? Joined({First_Steps[0], " ", First_Steps[1]}) : std::string());
 }
 
 /// Puts the texts that were entered since the last call into their boxes.
@@ -65,6 +73,7 @@ void Main_Frm::Enter_Date(std::string_view record, const Date &today) {
 void Main_Frm::Show_Saved(const Date &date, std::string_view text) {
     if (Event_Saved)
         Event_Saved();
+    Describe_First_Steps();
     if (date.month != Cur_Month)
         return;
     const int index = Start_Box(Cur_Month, Cur_Year) + date.day - 1;

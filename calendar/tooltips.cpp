@@ -10,13 +10,13 @@ constexpr std::int16_t balloon_tooltips = 2;
 
 } // namespace
 
-void Main_Frm::Box_Mouse_Down(Mouse_Button button, int index) {
+void Main_Frm::Box_Mouse_Down(Mouse_Button button, int index, Point at) {
     mark_.Set_Day(Date_Of_Box(index).day);
     Update_Mark();
     if (button == Mouse_Button::Right)
         return Popup_Menu(index);
     if (Cur_Settings.Tooltips == balloon_tooltips && !Box_Caption_Lbl[index].Caption().empty())
-        Balloon.Hold([this, index] { Box_Held(index); });
+        Balloon.Hold({Left() + at.x, Top() + at.y}, [this, index] { Box_Held(index); });
 }
 
 void Main_Frm::Box_Held(int index) {

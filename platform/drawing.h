@@ -39,9 +39,10 @@ void Fill_Polygon(Canvas &canvas, const std::vector<Point> &corners, Colour colo
 void Draw_Program_Icon(Canvas &canvas, const Rect &rect);
 
 /// Draws one line of text, its line box (Line_Height) beginning at the top of `rect`, clipped to `rect`, with
-/// a transparent background. No character in it has a special meaning.
+/// a transparent background. No character in it has a special meaning. With `right_to_left` it is read from
+/// the right, and what has no direction at its end stands at its left.
 void Draw_Text(Canvas &canvas, std::string_view text, const Rect &rect, const Font &font, Colour colour,
-               Text_Align align);
+               Text_Align align, bool right_to_left);
 
 /// Width of one line of text in twips.
 int Text_Width(std::string_view text, const Font &font);

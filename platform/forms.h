@@ -68,6 +68,7 @@ struct Control_State {
     bool transparent = false; ///< draws no background of its own
     Colour frame_colour = -1; ///< -1: no frame
     bool marked = false;      ///< bears the mark of the keyboard focus
+    bool edged = false;       ///< has a hairline inside its edges where no frame is
     Text_Align align = Text_Align::Left;
     bool middle = false; ///< caption centred between top and bottom
     int padding = 0;     ///< twips between the caption and the left, right and, unless `middle`, top edge
@@ -155,7 +156,8 @@ struct Form_Model {
     Form_Kind kind = Form_Kind::Dialog;
     std::string name; ///< the native window's class is "Vellatro_" and this name
     std::string title;
-    Rect bounds; ///< on the screen, twips; of a dialog the client area's size counts
+    std::string description; ///< what assistive technology tells of it beside the title
+    Rect bounds;             ///< on the screen, twips; of a dialog the client area's size counts
     bool visible = false;
     bool enabled = true; ///< without this the window of a dialog takes no mouse and no keys
     Colour back_colour = System_Colour(15);

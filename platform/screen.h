@@ -19,9 +19,6 @@ Rect Work_Area_Around(Point point);
 /// The same for the monitor that most of `place` is on.
 Rect Work_Area_Of(const Rect &place);
 
-/// The mouse position in screen pixels.
-Point Mouse_Position();
-
 /// Whether the user has Windows show everything in high contrast.
 bool High_Contrast();
 

@@ -44,7 +44,7 @@ Tooltips_Page::Tooltips_Page(Frame &frame, Held_Balloon &balloon) : Page(frame),
         label->Set_Painted();
         label->On_Mouse_Down = [this](Mouse_Button button, Point) {
             if (button == Mouse_Button::Left && Tips_Opt[balloons].Checked())
-                balloon_.Hold([this] { Example_Tooltip(); });
+                Example_Tooltip();
         };
         label->On_Mouse_Up = [this](Mouse_Button, Point) { Release(); };
     }
@@ -87,7 +87,7 @@ void Tooltips_Page::Example_Tooltip() {
     const Point place{
         dialog_.Left() + page_left + Preview_Fra.Left() + TipExample_Lbl.Left() + TipExample_Lbl.Width() / 2,
         dialog_.Top() + page_top + Preview_Fra.Top() + TipExample_Lbl.Top() + TipExample_Lbl.Height()};
-    balloon_.Show(Today(), example, &place);
+    balloon_.Hold(place, [this] { balloon_.Show(Today(), example); });
 }
 
 void Tooltips_Page::Lay_Out() {

@@ -78,6 +78,10 @@ void Control::Set_Marked(bool marked) {
     Store(state_.marked, marked, Aspect::Look);
 }
 
+void Control::Set_Edged(bool edged) {
+    Store(state_.edged, edged, Aspect::Look);
+}
+
 void Control::Set_Font(const platform::Font &font) {
     Store(state_.font, font, Aspect::Look);
 }

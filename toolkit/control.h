@@ -58,6 +58,9 @@ public:
     void Set_Frame_Colour(Colour colour);
     /// The mark of the keyboard focus.
     void Set_Marked(bool marked);
+    /// A hairline inside the edges, for a box that stands on a picture of any colour. A frame and a mark
+    /// cover it.
+    void Set_Edged(bool edged);
     const platform::Font &Font() const { return state_.font; }
     void Set_Font(const platform::Font &font);
     void Set_Transparent(bool transparent);

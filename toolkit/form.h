@@ -41,6 +41,8 @@ public:
     /// Takes the native window down; the form's state stays.
     void Close();
     void Set_Title(std::string_view title);
+    /// For assistive technology, which asks when it comes to the form.
+    void Set_Description(std::string_view description) { model_.description = description; }
     Colour Back_Colour() const { return model_.back_colour; }
     void Set_Back_Colour(Colour colour);
     /// Paints the whole window anew: what it shows changed without a change of its state.

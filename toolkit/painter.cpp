@@ -1,6 +1,8 @@
 // Painting of a form from the state of its controls.
 #include "toolkit/painter.h"
 
+#include "base/reading_direction.h"
+
 #include <algorithm>
 #include <cmath>
 #include <numbers>
@@ -12,7 +14,25 @@ using platform::Control_State;
 
 namespace {
 
-constexpr int frame_thickness = 30; // twips: two pixels at 96 dots per inch
+constexpr int frame_thickness = 30;    // twips: two pixels at 96 dots per inch
+constexpr int hairline_thickness = 12; // one pixel, two from 180 dots per inch on
+
+/// The part of the caption's colour in a hairline, in hundredths. On a white box with black numbers the line
+/// has a contrast of 2.1:1, whatever lies around the box.
+constexpr int hairline_share = 30;
+
+/// The colour of the hairline in a box.
+Colour Hairline_Colour(const Control_State &control) {
+    const auto back = static_cast<std::uint32_t>(platform::Resolve_Colour(control.back_colour));
+    const auto fore = static_cast<std::uint32_t>(platform::Resolve_Colour(control.fore_colour));
+    std::uint32_t mixed = 0;
+    for (unsigned shift = 0; shift < 24; shift += 8) {
+        const std::uint32_t channel =
+            (back >> shift & 0xFFU) * (100 - hairline_share) + (fore >> shift & 0xFFU) * hairline_share;
+        mixed |= channel / 100 << shift;
+    }
+    return static_cast<Colour>(mixed);
+}
 
 /// The letter i on a disc of the control's colour that fills the box.
 void Paint_Information(Canvas &canvas, const Control_State &control) {
@@ -61,6 +81,10 @@ void Paint_Caption(Canvas &canvas, const Control_State &control, const Rect &cli
     const std::string_view caption = control.caption;
     if (caption.empty())
         return;
+    // One for all lines: they are a text and not its parts.
+    const bool right_to_left = Is_Right_To_Left(caption);
+    const bool turned = right_to_left && control.align == platform::Text_Align::Left;
+    const platform::Text_Align align = turned ? platform::Text_Align::Right : control.align;
     const int line_height = platform::Line_Height(control.font);
     Rect line = control.bounds;
     line.left += control.padding;
@@ -76,7 +100,7 @@ void Paint_Caption(Canvas &canvas, const Control_State &control, const Rect &cli
         line.height = std::min(line_height, control.bounds.Bottom() - line.top);
         if (end > begin && line.Intersects(clip))
             platform::Draw_Text(canvas, caption.substr(begin, end - begin), line, control.font,
-                                control.fore_colour, control.align);
+                                control.fore_colour, align, right_to_left);
         line.top += line_height;
         begin = end + 1;
     }
@@ -87,6 +111,8 @@ void Paint_Control(const Control_State &control, Canvas &canvas, const Rect &cli
         platform::Fill_Rect(canvas, control.bounds, control.back_colour);
     if (control.frame_colour != -1)
         platform::Frame_Rect(canvas, control.bounds, control.frame_colour, frame_thickness);
+    else if (control.edged)
+        platform::Frame_Rect(canvas, control.bounds, Hairline_Colour(control), hairline_thickness);
     // In place of a frame, since there is no room inside of it, and in the colour of the caption, which
     // stands out.
     if (control.marked)

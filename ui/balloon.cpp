@@ -31,6 +31,24 @@ void Prepare(Label &label, const platform::Font &font) {
     label.Set_Access(std::move(access));
 }
 
+/// Breaks the text into no more lines than that. Sets `width`, the balloon's, to what they need, where there
+/// is room for less than all of the text in it.
+std::vector<std::string> Lines_Of(std::string_view text, int &width, int widest, std::size_t most_lines) {
+    const int narrowest = width;
+    const auto wrapped = [&](std::size_t most) {
+        return Wrap_Text(text, text_font, width - 2 * margin, most);
+    };
+    // One line too many tells that there is more.
+    while (width < widest && wrapped(most_lines + 1).size() > most_lines)
+        width = std::min(width + width / 2, widest);
+    std::vector<std::string> lines = wrapped(most_lines);
+    int needed = narrowest;
+    for (const std::string &line : lines)
+        needed = std::max(needed, platform::Text_Width(line, text_font) + 2 * margin);
+    width = std::min(width, needed);
+    return lines;
+}
+
 } // namespace
 
 frmBalloon::frmBalloon()
@@ -46,22 +64,21 @@ frmBalloon::frmBalloon()
 }
 
 void frmBalloon::SetBalloon(const std::string &title, std::string_view text, std::string_view icon,
-                            std::string_view, int width, int height, const Point *at) {
-    const Point mouse =
-        at == nullptr ? platform::Mouse_Position() : Point{Twips_To_Pixels(at->x), Twips_To_Pixels(at->y)};
-    const Rect work = Pixels_To_Twips(platform::Work_Area_Around(mouse));
+                            std::string_view, int width, int height, Point at) {
+    const Rect work =
+        Pixels_To_Twips(platform::Work_Area_Around({Twips_To_Pixels(at.x), Twips_To_Pixels(at.y)}));
     const int line = std::max(platform::Line_Height(text_font), 1);
     const int heading = std::max(icon_size, platform::Line_Height(title_font));
     const int around = 2 * margin + heading + gap;
     const auto most_lines = static_cast<std::size_t>(std::max((work.height - around) / line, 1));
-    const std::vector<std::string> lines = Wrap_Text(text, text_font, width - 2 * margin, most_lines);
+    const std::vector<std::string> lines = Lines_Of(text, width, work.width, most_lines);
     std::string caption;
     for (const std::string &each : lines)
         caption += (caption.empty() ? "" : "\n") + each;
     const int text_height = static_cast<int>(lines.size()) * line;
     const Size size{Snap(width), Snap(std::max(height - tail_length, around + text_height))};
 
-    place_ = Place_Balloon({Pixels_To_Twips(mouse.x), Pixels_To_Twips(mouse.y)}, work, size);
+    place_ = Place_Balloon(at, work, size);
     const Rect window = Window_Of(place_);
     place_.tip = {place_.tip.x - window.left, place_.tip.y - window.top};
     place_.body.left -= window.left;
@@ -84,10 +101,15 @@ void frmBalloon::SetBalloon(const std::string &title, std::string_view text, std
 }
 
 void frmBalloon::Paint(platform::Canvas &canvas, const Rect &clip) const {
-    platform::Fill_Rect(canvas, clip, back_colour);
-    // The border: a strip inside along each side of the outline, of one thickness also along a slanted tail.
+    // The border's colour lies below all of it: the window's edge goes by whole pixels, and of those on the
+    // outline only a part is inside.
+    platform::Fill_Rect(canvas, clip, border_colour);
     const std::vector<Point> outline = Balloon_Outline(place_);
-    const double thickness = 1.4 * Pixels_To_Twips(1);
+    platform::Fill_Polygon(canvas, outline, back_colour);
+    // The border: a strip along each side of the outline, of one thickness also along a slanted tail. It
+    // reaches a pixel to the outside.
+    const int pixel = Pixels_To_Twips(1);
+    const double inside = 1.4 * pixel;
     for (std::size_t i = 0; i < outline.size(); ++i) {
         const Point from = outline[i];
         const Point to = outline[(i + 1) % outline.size()];
@@ -96,10 +118,13 @@ void frmBalloon::Paint(platform::Canvas &canvas, const Rect &clip) const {
         const double length = std::sqrt(across * across + down * down);
         if (length < 1)
             continue;
-        const int x = static_cast<int>(std::lround(-down / length * thickness));
-        const int y = static_cast<int>(std::lround(across / length * thickness));
-        platform::Fill_Polygon(canvas, {from, to, {to.x + x, to.y + y}, {from.x + x, from.y + y}},
-                               border_colour);
+        const auto aside = [&](Point point, double distance) -> Point {
+            return {point.x + static_cast<int>(std::lround(-down / length * distance)),
+                    point.y + static_cast<int>(std::lround(across / length * distance))};
+        };
+        platform::Fill_Polygon(
+            canvas, {aside(from, -pixel), aside(to, -pixel), aside(to, inside), aside(from, inside)},
+            border_colour);
     }
     Paint_Controls(Model(), canvas, clip);
 }

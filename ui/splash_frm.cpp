@@ -1,6 +1,7 @@
 // The splash window's look, place and life.
 #include "ui/splash_frm.h"
 
+#include "base/joined.h"
 #include "core/date.h"
 #include "platform/locale.h"
 
@@ -19,6 +20,7 @@ constexpr Rect leaf_head{300, 240, 960, 300};
 constexpr Rect leaf_page{300, 540, 960, 660};
 constexpr Rect name_place{1500, 180, 3180, 720};
 constexpr Rect line_place{1500, 900, 3180, 300};
+constexpr Rect lines_place{1500, 870, 3180, 510}; // of the first steps
 
 constexpr platform::Font head_font{80, true};
 constexpr platform::Font page_font{220, true};
@@ -66,7 +68,11 @@ Splash_Frm::Splash_Frm()
     Start_Timer.On_Timer = [this] { Start_Timer_Timer(); };
 }
 
-void Splash_Frm::Show_Over(const Rect &calendar, int box_36_top) {
+void Splash_Frm::Show_Over(const Rect &calendar, int box_36_top, bool new_here) {
+    if (new_here) {
+        Line_Lbl.Set_Caption(Joined({First_Steps[0], "\n", First_Steps[1]}));
+        Line_Lbl.Move(lines_place);
+    }
     const Date today = Today();
     Weekday_Lbl.Set_Caption(platform::Short_Weekday_Name(Weekday(today)));
     Day_Lbl.Set_Caption(std::to_string(today.day));

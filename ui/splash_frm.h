@@ -5,14 +5,20 @@
 #include "toolkit/form.h"
 #include "toolkit/timer.h"
 
+#include <string_view>
+
+/// How a user begins who has no events yet: a line for each sentence.
+inline constexpr std::string_view First_Steps[] = {"Double-click a day to write on it.",
+                                                   "Right-click it for settings and exit."};
+
 class Splash_Frm : public Form {
 public:
     Splash_Frm();
 
     /// Appears over the calendar, in front of all windows, without taking the keyboard, and goes by itself
     /// after 1500 ms. `calendar` is the calendar's place on the screen, `box_36_top` the upper edge of its
-    /// last day box; twips.
-    void Show_Over(const Rect &calendar, int box_36_top);
+    /// last day box; twips. A user who is `new_here` is told how to begin.
+    void Show_Over(const Rect &calendar, int box_36_top, bool new_here);
 
     Label Frame_Lbl;
     Control_Array<Label, 2> Ring_Lbl; ///< that the calendar leaf hangs by

@@ -2,6 +2,7 @@
 #include "ui/wrap_text.h"
 
 #include "base/cut_text.h"
+#include "base/line_ends.h"
 
 #include <algorithm>
 
@@ -32,14 +33,22 @@ public:
         return Whole_Characters(word, least);
     }
 
-    /// Where a line of `rest`, which has no line breaks, ends: at a blank, or inside the first word. At least
-    /// one character is in it, be it wider than the line.
+    /// The next place behind `from` where a line may end; behind the longest line, if there is none.
+    static std::size_t Next_End(std::string_view text, std::size_t from) {
+        std::size_t at = from + 1;
+        while (at <= longest_line && (at >= text.size() || !Line_May_End(text, at)))
+            ++at;
+        return at;
+    }
+
+    /// Where a line of `rest`, which has no line breaks, ends: where a line may, or inside the first word. At
+    /// least one character is in it, be it wider than the line.
     std::size_t Line_End(std::string_view rest) const {
         if (rest.size() <= longest_line && Fits(rest))
             return rest.size();
         std::size_t end = 0;
-        for (std::size_t at = rest.find(' '); at <= longest_line && Fits(rest.substr(0, at));
-             at = rest.find(' ', at + 1))
+        for (std::size_t at = Next_End(rest, 0); at <= longest_line && Fits(rest.substr(0, at));
+             at = Next_End(rest, at))
             end = at;
         if (end == 0)
             end = Fitting(rest);

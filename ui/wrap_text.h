@@ -12,8 +12,9 @@
 std::vector<std::string> Take_Lines(std::string_view &rest, const platform::Font &font, int width,
                                     std::size_t max_lines);
 
-/// The lines of `text`, broken at blanks, and inside a word that is wider than a line. `width` is in twips.
-/// Line breaks of the text stay; other control characters are blanks. Of more than `max_lines` lines (1 or
-/// more) the last one ends with "..."; so does a text beyond 16 KB, which is not laid out any further.
+/// The lines of `text`, broken at blanks, between characters of texts that have none, and inside a word that
+/// is wider than a line. `width` is in twips. Line breaks of the text stay; other control characters are
+/// blanks. Of more than `max_lines` lines (1 or more) the last one ends with "..."; so does a text beyond 16
+/// KB, which is not laid out any further.
 std::vector<std::string> Wrap_Text(std::string_view text, const platform::Font &font, int width,
                                    std::size_t max_lines);

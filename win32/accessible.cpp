@@ -136,7 +136,9 @@ public:
     HRESULT STDMETHODCALLTYPE get_accName(VARIANT child, BSTR *name) override;
     HRESULT STDMETHODCALLTYPE get_accValue(VARIANT child, BSTR *value) override;
     HRESULT STDMETHODCALLTYPE get_accDescription(VARIANT child, BSTR *out) override {
-        return No_Text(child, out);
+        return Give_Text(child, out, [](const Target &target) {
+            return target.control == nullptr ? target.form->description : std::string();
+        });
     }
     HRESULT STDMETHODCALLTYPE get_accRole(VARIANT child, VARIANT *role) override;
     HRESULT STDMETHODCALLTYPE get_accState(VARIANT child, VARIANT *state) override;

@@ -122,7 +122,7 @@ void Draw_Program_Icon(Canvas &canvas, const Rect &rect) {
 }
 
 void Draw_Text(Canvas &canvas, std::string_view text, const Rect &rect, const Font &font, Colour colour,
-               Text_Align align) {
+               Text_Align align, bool right_to_left) {
     const RECT pixels = win32::To_Pixels(rect);
     const std::wstring wide = win32::To_Wide(text);
     if (wide.empty() || pixels.left >= pixels.right || pixels.top >= pixels.bottom)
@@ -135,10 +135,13 @@ void Draw_Text(Canvas &canvas, std::string_view text, const Rect &rect, const Fo
     if (align != Text_Align::Left) {
         const int room = static_cast<int>(pixels.right - pixels.left) - Pixel_Width(dc, part);
         // A text that is too long shows its beginning.
-        left += std::max(0, align == Text_Align::Centre ? room / 2 : room);
+        if (room < 0)
+            left += right_to_left ? room : 0;
+        else
+            left += align == Text_Align::Centre ? room / 2 : room;
     }
-    ExtTextOutW(dc, left, static_cast<int>(pixels.top), ETO_CLIPPED, &pixels, part.data(),
-                static_cast<UINT>(part.size()), nullptr);
+    ExtTextOutW(dc, left, static_cast<int>(pixels.top), ETO_CLIPPED | (right_to_left ? ETO_RTLREADING : 0U),
+                &pixels, part.data(), static_cast<UINT>(part.size()), nullptr);
 }
 
 void Draw_Picture(Canvas &canvas, const Picture &picture, const Rect &rect) {

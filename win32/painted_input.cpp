@@ -70,6 +70,8 @@ bool Painted_Window::Handle_Mouse(UINT message, WPARAM wparam, LPARAM lparam) {
     if (!mouse_.Take(window_, message, wparam, lparam, event))
         return true;
     const bool pressed = event.kind == Input_Kind::Mouse_Down || event.kind == Input_Kind::Double_Click;
+    if (pressed)
+        tooltips_.Pop();
     if (pressed && !Floats() && GetFocus() != window_)
         SetFocus(window_);
     Send(event);
@@ -85,6 +87,8 @@ bool Painted_Window::Handle_Key(UINT message, WPARAM wparam, LPARAM lparam) {
         Send(Input_Kind::Close);
         return true;
     }
+    if (down)
+        tooltips_.Pop();
     Send(Key_Event(down, wparam, lparam));
     return true;
 }

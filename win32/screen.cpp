@@ -78,9 +78,3 @@ bool platform::Mouse_Button_Held() {
     }
     return false;
 }
-
-Point platform::Mouse_Position() {
-    POINT mouse = {};
-    GetCursorPos(&mouse);
-    return {mouse.x, mouse.y};
-}

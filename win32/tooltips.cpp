@@ -2,6 +2,9 @@
 #include "win32/tooltips.h"
 
 #include "base/cut_text.h"
+#include "base/reading_direction.h"
+#include "win32/broadcasts.h"
+#include "win32/mirror.h"
 #include "win32/units.h"
 #include "win32/wide_text.h"
 
@@ -162,6 +165,23 @@ void Tooltips::Update_Tool(HWND owner, std::size_t index, Tool wanted) {
     known = std::move(wanted);
 }
 
+void Tooltips::Pop() const {
+    if (window_ != nullptr)
+        SendMessageW(window_, TTM_POP, 0, 0);
+}
+
+/// Returns whether the user is busy with something that a tip would cover: a pressed button, a menu, for a
+/// painted form also any dialog of the program.
+bool Tooltips::In_The_Way() const {
+    if (platform::Mouse_Button_Held() || Mouse_Is_Taken())
+        return true;
+    const auto mirrors = All_Mirrors();
+    return windows_.empty() && std::any_of(mirrors.begin(), mirrors.end(), [](const auto &mirror) {
+               const platform::Form_Model *form = mirror->Model();
+               return form != nullptr && form->kind == platform::Form_Kind::Dialog && form->visible;
+           });
+}
+
 bool Tooltips::Answer(NMHDR &notice) {
     if (notice.hwndFrom != window_ || window_ == nullptr || notice.code != TTN_GETDISPINFOW)
         return false;
@@ -170,14 +190,19 @@ bool Tooltips::Answer(NMHDR &notice) {
         windows_.empty() ? notice.idFrom - 1 : static_cast<std::size_t>(window - windows_.begin());
     if (index >= tools_.size())
         return false;
-    shown_ = To_Wide(tools_[index].text);
-    const Rect area = platform::Work_Area_Around(platform::Mouse_Position());
+    auto &answer = reinterpret_cast<NMTTDISPINFOW &>(notice);
+    shown_ = In_The_Way() ? std::wstring() : To_Wide(tools_[index].text);
+    POINT mouse = {};
+    GetCursorPos(&mouse);
+    const Rect area = platform::Work_Area_Around({mouse.x, mouse.y});
     const int around = Scale_Nearest(border, platform::Dots_Per_Inch(), 96);
     const Window_Dc dc(window_);
     const Selected_Object font(dc.Get(), reinterpret_cast<HFONT>(SendMessageW(window_, WM_GETFONT, 0, 0)));
     const LONG width = Fit(dc.Get(), shown_, {area.width - around, area.height - around});
     SendMessageW(window_, TTM_SETMAXTIPWIDTH, 0, width);
-    reinterpret_cast<NMTTDISPINFOW &>(notice).lpszText = shown_.data();
+    answer.lpszText = shown_.data();
+    if (Is_Right_To_Left(tools_[index].text))
+        answer.uFlags |= TTF_RTLREADING;
     return true;
 }
 

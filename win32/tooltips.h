@@ -21,7 +21,10 @@ public:
     /// Brings the tools up to date with the controls. The tooltip window is made with the first text.
     /// Controls that are windows themselves have theirs in `windows`.
     void Update(HWND owner, const platform::Form_Model &model, std::vector<HWND> windows = {});
-    /// What the owner's window is told by WM_NOTIFY: gives the tip its text. Returns whether that was asked.
+    /// Takes the tip that is seen away: the user does something else.
+    void Pop() const;
+    /// What the owner's window is told by WM_NOTIFY: gives the tip its text, and none where a tip would be
+    /// in the way. Returns whether that was asked.
     bool Answer(NMHDR &notice);
     /// The owner's window is gone, or goes now.
     void Window_Gone();
@@ -34,7 +37,8 @@ private:
         std::string text;
     };
 
-    bool Make_Window();
+    bool Make_Window(HWND owner);
+    bool In_The_Way() const;
     void Update_Tool(HWND owner, std::size_t index, Tool wanted);
     TTTOOLINFOW Tool_Of(HWND owner, std::size_t index) const;
 

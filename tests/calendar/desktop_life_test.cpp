@@ -50,6 +50,13 @@ TEST_F(Desktop_Life, waits_outside_for_a_shell_that_does_not_answer) {
     const Splash_Frm &splash = form.Splash;
     EXPECT_EQ(splash.Left(), form.Left() + (form.Width() - splash.Width()) / 2);
     EXPECT_EQ(splash.Top(), form.Top() + form.Box_Lbl[36].Top() / 2 + splash.Height());
+    EXPECT_EQ(splash.Line_Lbl.Caption(),
+              "Double-click a day to write on it.\nRight-click it for settings and exit.");
+    EXPECT_EQ(form.Model().description,
+              "Double-click a day to write on it. Right-click it for settings and exit.");
+    Events({});
+    form.Redraw();
+    EXPECT_EQ(form.Model().description, "") << "there is a data file";
     for (const unsigned time : {1499U, 3501U}) {
         Desktop().Advance(time);
         EXPECT_EQ(Desktop().mirrors.contains(&splash.Model()), time == 1499);

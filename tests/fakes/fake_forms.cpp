@@ -183,8 +183,9 @@ void Draw_Program_Icon(Canvas &, const Rect &) {
 }
 
 void Draw_Text(Canvas &canvas, std::string_view text, const Rect &rect, const Font &, Colour colour,
-               Text_Align align) {
-    canvas.operations.push_back({Canvas_Operation::Kind::Text, rect, colour, std::string(text), align});
+               Text_Align align, bool right_to_left) {
+    canvas.operations.push_back(
+        {Canvas_Operation::Kind::Text, rect, colour, std::string(text), align, right_to_left});
 }
 
 void Draw_Picture(Canvas &canvas, const Picture &, const Rect &rect) {
@@ -234,10 +235,6 @@ bool High_Contrast() {
 
 bool Mouse_Button_Held() {
     return Desktop().button_held;
-}
-
-Point Mouse_Position() {
-    return Desktop().mouse;
 }
 
 int Track_Popup_Menu(const Form_Model &, const std::vector<Menu_Item> &items, const Point *at) {

@@ -21,6 +21,7 @@ struct Canvas_Operation {
     Colour colour = 0;
     std::string text{};
     platform::Text_Align align = platform::Text_Align::Left;
+    bool right_to_left = false;
 };
 
 struct platform::Canvas {
@@ -60,7 +61,6 @@ struct Fake_Desktop {
     int dots_per_inch = 96;
     Rect work_area{0, 0, 1024, 740};
     Rect second_area{}; ///< of another monitor; empty: there is none
-    Point mouse;
     bool button_held = false;
     bool high_contrast = false;
     bool refuses_windows = false; ///< no form gets a native window

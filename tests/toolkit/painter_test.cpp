@@ -44,6 +44,30 @@ TEST_F(Form_Test, painting_covers_the_visible_labels_within_the_clip_and_cuts_ca
     form.B_Lbl.Set_Align(platform::Text_Align::Centre, true);
     EXPECT_EQ(form.Shape({600, 0, 10, 1000}), "text one@60; text two@300; ");
     EXPECT_EQ(form.drawn.at(1).align, platform::Text_Align::Centre);
+    using platform::Text_Align;
+    struct {
+        const char *caption;
+        Text_Align align, drawn;
+        bool right_to_left;
+    } const texts[] = {{"1. \u05D0 a", Text_Align::Left, Text_Align::Right, true},
+                       {"\u0662 \uFE8D", Text_Align::Centre, Text_Align::Centre, true},
+                       {"\U0001F382 a \u05D0", Text_Align::Left, Text_Align::Left, false},
+                       {"\u0662 \u3001\u3042\u05D0", Text_Align::Left, Text_Align::Left, false}};
+    for (const auto &text : texts) {
+        form.B_Lbl.Set_Caption(text.caption);
+        form.B_Lbl.Set_Align(text.align, true);
+        form.Shape({600, 0, 10, 1000});
+        EXPECT_EQ(form.drawn.at(1).align, text.drawn) << text.caption;
+        EXPECT_EQ(form.drawn.at(1).right_to_left, text.right_to_left) << text.caption;
+    }
+    form.A_Lbl.Set_Edged(true); // only where neither frame nor mark is
+    form.A_Lbl.Set_Back_Colour(Rgb(255, 100, 0));
+    form.A_Lbl.Set_Fore_Colour(Rgb(0, 200, 0));
+    EXPECT_EQ(form.Shape({0, 0, 10, 10}), "fill @0; frame @0; frame @0; text a@0; ");
+    form.A_Lbl.Set_Frame_Colour(-1);
+    form.A_Lbl.Set_Marked(false);
+    EXPECT_EQ(form.Shape({0, 0, 10, 10}), "fill @0; frame @0; text a@0; ");
+    EXPECT_EQ(form.drawn.at(2).colour, Rgb(178, 130, 0));
     form.B_Lbl.Set_Visible(false);
     EXPECT_EQ(form.Shape({600, 0, 10, 1000}), "");
 }

@@ -17,6 +17,20 @@ TEST_F(Form_Test, wrapped_text) {
         {"one two three four five", 2, {"one two", "three f..."}},
         {"12345678\u00E4\u00F6\u00FC", 2, {"12345678\u00E4\u00F6", "\u00FC"}},
         {"1234567\u00E4\u00F6\u00FC\u00E4", 1, {"1234567..."}},
+        // Without blanks: no line begins with a closing mark or a small letter, or ends with an opening mark.
+        {"\u4E00\u4E8C\u4E09\u56DB\u4E94\u516D\u4E03\u516B\u4E5D\u5341\u3002\u6B21",
+         3,
+         {"\u4E00\u4E8C\u4E09\u56DB\u4E94\u516D\u4E03\u516B\u4E5D", "\u5341\u3002\u6B21"}},
+        {"\u4E00\u4E8C\u4E09\u56DB\u4E94\u516D\u4E03\u516B\u4E5D\u300C\u5341\u300D",
+         3,
+         {"\u4E00\u4E8C\u4E09\u56DB\u4E94\u516D\u4E03\u516B\u4E5D", "\u300C\u5341\u300D"}},
+        {"\u3042\u3044\u3046\u3048\u304A\u304B\u304D\u304F\u3051\u3061\u3083\u3093",
+         3,
+         {"\u3042\u3044\u3046\u3048\u304A\u304B\u304D\u304F\u3051", "\u3061\u3083\u3093"}},
+        {"\u3042\u3044\u3046\u3048\u304Aabcdefgh", 3, {"\u3042\u3044\u3046\u3048\u304A", "abcdefgh"}},
+        {"\uAC00\uB098\uB2E4 \uB77C\uB9C8\uBC14\uC0AC\uC544\uC790\uCC28",
+         3,
+         {"\uAC00\uB098\uB2E4 \uB77C\uB9C8\uBC14\uC0AC\uC544\uC790", "\uCC28"}},
     };
     for (const auto &[text, most, lines] : rows)
         EXPECT_EQ(Wrap_Text(text, {}, 1000, most), lines) << text;
@@ -62,7 +76,6 @@ protected:
         Events({"6/3/2002=first", "6/3/9999=second", "7/3/2002=other"});
         Stored("Tooltips") = "2";
         Start();
-        Desktop().mouse = {500, 400};
     }
     void Press_Day(int day) { Press(form, Box_Of(day)); }
     void Tell(Input_Kind kind) { Input(form, {.kind = kind}); }
@@ -80,19 +93,28 @@ TEST_F(Balloon, shows_the_day_s_text_after_a_third_of_a_second_until_the_release
     EXPECT_EQ(form.Balloon.Window.Title_Lbl.Caption(), "6/3/2002");
     EXPECT_EQ(form.Balloon.Window.Message_Lbl.Caption(), "second"); // the last record, as in the box
     EXPECT_EQ(form.Balloon.Window.Height(), 1620);
-    EXPECT_EQ(form.Balloon.Window.Top() + form.Balloon.Window.Height(), 400 * 15);
+    EXPECT_EQ(form.Balloon.Window.Top() + form.Balloon.Window.Height(),
+              form.Top() + Box_Of(6).Top() + Box_Of(6).Height() / 2);
     const Fake_Mirror &window = Desktop().mirrors.at(&form.Balloon.Window.Model());
     EXPECT_TRUE(!window.shown_unclipped && window.shape.size() == 4 * 7 + 3U);
     Press(form, Box_Of(7), platform::Mouse_Button::Middle); // one at a time
     EXPECT_EQ(form.Tooltip_Box, 10);
     Release(form, Box_Of(20)); // wherever
     EXPECT_FALSE(Shown());
-    for (const std::size_t length : {300U, 20000U}) { // it grows with its text up to the work area
-        Events({"6/3/2002=" + std::string(length, 'w')});
+    struct { // it grows with its text up to the work area, in height first
+        std::string text;
+        bool wide, cut;
+    } const rows[] = {{std::string(300, 'w'), false, false},
+                      {std::string(3000, 'w'), true, false},
+                      {std::string(20000, 'w'), true, true},
+                      {"short" + std::string(100, '\n') + "lines", false, true}};
+    for (const auto &[text, wide, cut] : rows) {
+        Events({"6/3/2002=" + text});
         form.Redraw();
         Press_Day(6);
         EXPECT_TRUE(form.Balloon.Window.Height() > 1620 && form.Balloon.Window.Height() <= 740 * 15);
-        EXPECT_EQ(form.Balloon.Window.Message_Lbl.Caption().ends_with("..."), length == 20000);
+        EXPECT_EQ(form.Balloon.Window.Message_Lbl.Width() > 4680, wide) << text.size();
+        EXPECT_EQ(form.Balloon.Window.Message_Lbl.Caption().ends_with("..."), cut) << text.size();
         EXPECT_LE(form.Balloon.Window.Message_Lbl.Bounds().Bottom(), form.Balloon.Window.Height());
         Release(form, Box_Of(6));
     }
