@@ -19,6 +19,7 @@ int Run_Program() {
         Connect_Settings(*main_frm, settings_frm);
         if (!main_frm->Form_Load())
             return;
+        Run_Guarded([] { Wallpaper_Preview::Mend(); });
         platform::Run_Message_Loop();
         main_frm->Close_Settings();
         // When the desktop is lost nobody has been asked yet, or the loop has ended under an open question.

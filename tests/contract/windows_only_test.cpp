@@ -7,6 +7,7 @@
 #include "platform/message_box.h"
 #include "platform/pictures.h"
 #include "platform/registry.h"
+#include "platform/wallpaper.h"
 #include "tests/contract/contract.h"
 #include "tests/contract/small_jpeg.h"
 #include "win32/paths.h"
@@ -63,6 +64,25 @@ TEST_F(Windows_Only, Dates_Beside_Another_Calendar_Are_Gregorian_And_Come_Back) 
         {0x409, "February"}, {0x41E, "กุมภาพันธ์"}, {0x401, "فبراير"}, {0x429, "فوریه"}};
     Use_Calendar(CAL_THAI);
     EXPECT_EQ(platform::Month_Name(2), names.at(GetUserDefaultLangID()));
+}
+
+TEST_F(Windows_Only, A_Wallpaper_That_The_System_Writes_Over_Is_Copied) {
+    Make_Folder(Scratch("CachedFiles"));
+    const std::string image = "CachedFiles\\CachedImage_1920_1080_POS4.jpg";
+    for (const auto &[name, lasting] : std::initializer_list<std::pair<std::string, std::string>>{
+             {"transcodedwallpaper", "Vellatro_transcodedwallpaper.jpg"},
+             {"TranscodedWallpaper_001.png", "Vellatro_TranscodedWallpaper_001.png"},
+             {image, "Vellatro_CachedImage_1920_1080_POS4.jpg"},
+             {"TranscodedWallpaper_002", "TranscodedWallpaper_002"}, // which is not there
+             {"Sunset.jpg", "Sunset.jpg"}}) {
+        if (!name.ends_with('2'))
+            platform::Replace_File(Scratch(name), "the picture " + name);
+        EXPECT_EQ(platform::Lasting_Wallpaper(Scratch(name)), Scratch(lasting));
+        if (lasting != name) {
+            EXPECT_EQ(platform::Read_File(Scratch(lasting)), "the picture " + name);
+        }
+    }
+    platform::Delete_File(Scratch(image));
 }
 
 TEST_F(Windows_Only, A_Hidden_File_Stays_Hidden_And_The_Rest_Of_A_Killed_Run_Goes) {

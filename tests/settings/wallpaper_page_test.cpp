@@ -156,7 +156,7 @@ TEST_F(Themes_Page, loads_only_the_picture_that_is_seen_and_tells_of_a_bad_one_o
 }
 
 TEST_F(Themes_Page, a_preview_leaves_all_as_it_was) {
-    enum End { by_itself, stopped, unchecked, dialog_gone, bad_number, pack_gone };
+    enum End { by_itself, stopped, unchecked, dialog_gone, killed, bad_number, pack_gone };
     const auto desktop = [](const char *name) -> std::string & {
         return Fakes().registry[std::string("Control Panel\\Desktop\\") + name];
     };
@@ -169,8 +169,8 @@ TEST_F(Themes_Page, a_preview_leaves_all_as_it_was) {
             all += path.ends_with(".bmp") ? "\n" + path : "";
         return all;
     };
-    for (const End end : {by_itself, stopped, unchecked, dialog_gone, bad_number, pack_gone}) {
-        const bool themes = end % 2 == 0;
+    for (const End end : {by_itself, stopped, unchecked, dialog_gone, killed, bad_number, pack_gone}) {
+        const bool themes = end == by_itself || end == unchecked || end == bad_number;
         SCOPED_TRACE(end);
         Fakes().files.clear();
         Make_Pack("Default");
@@ -183,7 +183,10 @@ TEST_F(Themes_Page, a_preview_leaves_all_as_it_was) {
         // Without themes: a wallpaper that stayed from a time when they were used, in another letter case.
         desktop("Wallpaper") = themes ? Path("Default", "3.bmp") : Path("WINTER", "3.BMP");
         Fakes().files[Path(themes ? "Default" : "Winter", "3.bmp")] = "";
-        Fakes().wallpapers = {desktop("Wallpaper")};
+        if (end == stopped) // which the system writes over
+            desktop("Wallpaper") = "C:\\Themes\\TranscodedWallpaper";
+        Fakes().monitors = end == dialog_gone ? " and a slide show" : "";
+        Fakes().wallpapers = {desktop("Wallpaper") + (end == stopped ? ", copied" : "") + Fakes().monitors};
         Events({"7/3/2002=Wedding anniversary of the whole family in Winchester"});
         form.Get_Wallpaper_Stuff("Default");
         form.Which_Style(form.Effective_Style());
@@ -213,8 +216,15 @@ TEST_F(Themes_Page, a_preview_leaves_all_as_it_was) {
         EXPECT_EQ(end == stopped && Page().End_Preview(), end == stopped);
         if (end == unchecked)
             Use_Themes(false);
-        if (end == dialog_gone)
+        const auto left = Fakes().registry;
+        if (end == dialog_gone || end == killed)
             dialog.reset();
+        if (end == killed) {
+            Fakes().registry = left;
+            Fakes().wallpapers.push_back("the preview's");
+        }
+        for (int start = 0; start < 2; ++start, Fakes().monitors = "must not be asked for")
+            Wallpaper_Preview::Mend(); // as the next start does; nothing is left over where nobody killed it
         EXPECT_TRUE(form.Dectect_Date_Timer.Enabled());
         if (end == pack_gone) // which can be put back as little as what the user was told of
             EXPECT_EQ(Cur_Settings.Use_Themes, 0);
