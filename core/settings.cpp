@@ -114,7 +114,10 @@ void Load_Settings() {
         } catch (const Conversion_Error &expected) {
             throw Setting_Error(
                 Joined({"The setting \"", row.key, "\" in the section \"", row.section, "\" is \"",
-                        Shortened(*stored), "\", but must be ", expected.what(), "."}));
+                        Shortened(*stored), "\", but must be ", expected.what(),
+                        ".\r\n\r\nVellatro ends now. Correct or delete the value in the registry, under "
+                        "HKEY_CURRENT_USER\\",
+                        Store_Key(row), ", and start it again."}));
         }
     }
 }
