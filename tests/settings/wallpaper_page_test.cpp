@@ -170,7 +170,8 @@ TEST_F(Themes_Page, a_preview_leaves_all_as_it_was) {
         return Fakes().registry[std::string("Control Panel\\Desktop\\") + name];
     };
     const auto state = [&] {
-        std::string all = desktop("WallpaperStyle") + desktop("TileWallpaper") + Fakes().wallpapers.back() +
+        std::string all = Fakes().registry["Software\\Vellatro\\Preview\\Pack"] + desktop("WallpaperStyle") +
+                          desktop("TileWallpaper") + Fakes().wallpapers.back() +
                           form.Which_Month_Lbl.Caption() + std::to_string(form.Left()) + "," + Text_Of(7);
         for (const Setting_Row &row : Setting_Rows())
             all += "\n" + Setting_Text(Cur_Settings, row);
