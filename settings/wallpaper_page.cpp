@@ -304,7 +304,11 @@ void Wallpaper_Page::Load(Month_Picture &wanted) const {
         wanted.picture = Thumbnail(platform::Load_Picture(wanted.path), box.width, box.height);
     } catch (const platform::Picture_Error &error) {
         wanted.picture = {};
-        wanted.failure = Joined({Not_Shown(Month()), "\n", error.what()});
+        // The frame is small, and the packs all lie in the program's folder.
+        std::string reason = error.what();
+        if (const std::string folder = platform::Program_Folder() + "\\"; reason.starts_with(folder))
+            reason.erase(0, folder.size());
+        wanted.failure = Joined({Not_Shown(Month()), "\n", reason});
     }
 }
 
