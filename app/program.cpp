@@ -36,6 +36,7 @@ Calendar_End Run_Calendar() {
     Connect_Settings(*main_frm, settings_frm);
     if (!main_frm->Form_Load())
         return Calendar_End::Not_Started;
+    Run_Guarded([] { Wallpaper_Preview::Mend(); });
     Warn_Of_Temporary_Folder();
     platform::Run_Message_Loop();
     main_frm->Close_Settings();

@@ -50,14 +50,15 @@ void Main_Frm::Preview_Wallpaper_Stuff(const std::string &pack, std::int16_t mon
     // What this month does not have is the user's own, and not that of the month or pack before. A bad number
     // keeps nothing else of the pack away, and is told last.
     std::string fault;
-    const auto number = [&](const std::string &text, const char *what) -> std::optional<std::int16_t> {
+    const auto number = [&](const std::string &text, const char *what,
+                            const char *meanwhile = "Your own is used.") -> std::optional<std::int16_t> {
         try {
             return To_Int16(text);
         } catch (const Conversion_Error &expected) {
             if (fault.empty())
                 fault = Joined({"In ", Pack_File(pack, "settings.ini"), " the ", what, " of month ",
                                 std::to_string(month), " is \"", Shortened(text), "\", but must be ",
-                                expected.what(), "."});
+                                expected.what(), ". ", meanwhile});
             return std::nullopt;
         }
     };
@@ -71,13 +72,20 @@ void Main_Frm::Preview_Wallpaper_Stuff(const std::string &pack, std::int16_t mon
     // It would leave the calendar where the month or the pack before has put it.
     if (Theme_Pos && !Is_Position(*Theme_Pos))
         Theme_Pos.reset();
-    const std::string path = Get_Paper_Path(month, pack);
+    std::string path;
+    try {
+        path = Get_Paper_Path(month, pack);
+    } catch (const Error &error) { // it names the file
+        throw Error(
+            Joined({Not_Shown(month), "\r\n\r\n", error.what(), "\r\n\r\nThe desktop stays as it is."}));
+    }
     if (path == Theme_Error)
         return;
     // As every number that is no mode, a bad one is stretched.
-    const std::optional<std::int16_t> mode = shown.Use_Other_Display_Mode
-                                                 ? shown.Other_Display_Mode
-                                                 : number(Get_Paper_DisplayMode(details), "display mode");
+    const std::optional<std::int16_t> mode =
+        shown.Use_Other_Display_Mode
+            ? shown.Other_Display_Mode
+            : number(Get_Paper_DisplayMode(details), "display mode", "The picture is stretched.");
     Set_Display_Mode_Wallpaper(path, mode.value_or(stretched));
     if (!fault.empty())
         throw Conversion_Error(fault);

@@ -43,6 +43,11 @@ foreach(program vellatro vellatro_unstripped)
     endif()
 endforeach()
 target_link_options(vellatro PRIVATE -s)
+# What a user with a calendar that is not seen is asked to run. It is no part of the package.
+add_executable(shell_tree tools/shell_tree.cpp)
+target_compile_definitions(shell_tree PRIVATE _WIN32_WINNT=0x0601 WINVER=0x0601 NOMINMAX)
+target_link_libraries(shell_tree PRIVATE vellatro_options user32)
+target_link_options(shell_tree PRIVATE -static -s)
 add_custom_target(package
     COMMAND ${CMAKE_COMMAND} -D PROGRAM=$<TARGET_FILE:vellatro> -D SOURCES=${CMAKE_SOURCE_DIR}
         -D OUT=${CMAKE_BINARY_DIR} -P ${CMAKE_SOURCE_DIR}/cmake/package.cmake

@@ -45,6 +45,11 @@ constexpr Setting_Row rows[] = {
     {general, "Settings Tab", &Settings::Settings_Tab, nullptr, 0},
 };
 
+/// Before the key that holds a malformed value.
+constexpr const char *advice =
+    ".\r\n\r\nVellatro ends now. Correct or delete the value in the registry, under "
+    "HKEY_CURRENT_USER\\";
+
 std::string Store_Key(const Setting_Row &row) {
     return std::string("Software\\Vellatro\\") + row.section;
 }
@@ -113,9 +118,9 @@ void Load_Settings() {
         try {
             Set_From_Text(Cur_Settings, row, *stored);
         } catch (const Conversion_Error &expected) {
-            throw Setting_Error(
-                Joined({"The setting \"", row.key, "\" in the section \"", row.section, "\" is \"",
-                        Shortened(*stored), "\", but must be ", expected.what(), "."}));
+            throw Setting_Error(Joined({"The setting \"", row.key, "\" in the section \"", row.section,
+                                        "\" is \"", Shortened(*stored), "\", but must be ", expected.what(),
+                                        advice, Store_Key(row), ", and start it again."}));
         }
     }
 }

@@ -5,6 +5,23 @@
 #include "platform/wallpaper.h"
 
 #include <exception>
+#include <variant>
+
+namespace {
+
+/// Where the system keeps the current user's wallpaper and its display mode.
+constexpr const char *Desktop_Key = "Control Panel\\Desktop";
+/// Where the program keeps it as long as it shows others.
+constexpr const char *kept_key = "Software\\Vellatro\\Preview";
+constexpr const char *unknown = "UNKNOWN";
+
+/// The names of the system's values, which those of the store bear, too.
+constexpr std::pair<const char *, std::string User_Wallpaper::*> values[] = {
+    {"TileWallpaper", &User_Wallpaper::tiled},
+    {"WallpaperStyle", &User_Wallpaper::style},
+    {"Wallpaper", &User_Wallpaper::path}};
+
+} // namespace
 
 void Set_Display_Mode_Wallpaper(const std::string &path, std::int16_t display_mode) noexcept {
     try {
@@ -34,4 +51,49 @@ void Set_Word_Wallpaper(const std::string &path, std::string_view mode_word) {
     platform::Registry_Write_String(user, Desktop_Key, "TileWallpaper", mode_word == "TILED" ? "1" : "0");
     platform::Registry_Write_String(user, Desktop_Key, "WallpaperStyle", stretched ? "2" : "0");
     platform::Set_Wallpaper(path);
+}
+
+User_Wallpaper Find_User_Wallpaper() {
+    User_Wallpaper wallpaper;
+    for (const auto &[name, member] : values) {
+        const platform::Registry_Value value =
+            platform::Registry_Read("HKCU", Desktop_Key, name, 'S', std::string(unknown));
+        const auto *text = std::get_if<std::string>(&value);
+        wallpaper.*member = text == nullptr ? unknown : *text;
+    }
+    wallpaper.monitors = platform::Wallpaper_Of_Monitors();
+    wallpaper.path = platform::Lasting_Wallpaper(wallpaper.path);
+    return wallpaper;
+}
+
+void Hang_Up(const User_Wallpaper &wallpaper) {
+    for (const auto &[name, member] : values)
+        // What was not there before is written as what the system takes it for.
+        if (member != &User_Wallpaper::path)
+            platform::Registry_Write_String(platform::Find_Registry_Root("HKCU"), Desktop_Key, name,
+                                            wallpaper.*member == unknown ? "0" : wallpaper.*member);
+    platform::Set_Wallpaper(wallpaper.path == unknown ? "" : wallpaper.path, wallpaper.monitors);
+}
+
+void Keep_User_Wallpaper(const User_Wallpaper &wallpaper, const std::string &pack) noexcept {
+    try {
+        for (const auto &[name, member] : values)
+            platform::Write_User_Value(kept_key, name, wallpaper.*member);
+        platform::Write_User_Value(kept_key, "Monitors", wallpaper.monitors);
+        // Last: before it, what is kept is not whole.
+        platform::Write_User_Value(kept_key, "Pack", pack);
+    } catch (const std::exception &) {
+        // It is there all the same, unless the program is ended by force.
+    }
+}
+
+std::pair<User_Wallpaper, std::string> Kept_User_Wallpaper() {
+    const auto kept = [](const char *name) {
+        return platform::Read_User_Value(kept_key, name).value_or(std::string());
+    };
+    User_Wallpaper wallpaper;
+    for (const auto &[name, member] : values)
+        wallpaper.*member = kept(name);
+    wallpaper.monitors = kept("Monitors");
+    return {wallpaper, kept("Pack")};
 }

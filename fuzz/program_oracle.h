@@ -202,7 +202,8 @@ inline void Oracle::Check_Store() {
             return std::any_of(names.begin(), names.end(),
                                [&](const char *name) { return key == general + name; });
         };
-        return key.starts_with("Control Panel\\Desktop\\") || is({"Use Themes", "Bar Date Format"}) ||
+        return key.starts_with("Control Panel\\Desktop\\") ||
+               key.starts_with("Software\\Vellatro\\Preview\\") || is({"Use Themes", "Bar Date Format"}) ||
                configures_ || (places_ && is({"Manual_PosX", "Manual_PosY", "Alignment", "Use Theme Pos"})) ||
                (styles_ && is({"Style", "Use Theme Style"})) ||
                (dialog_ && (is({"Settings Tab"}) || !is({"Manual_PosX", "Manual_PosY"})));

@@ -1,4 +1,5 @@
-// What the user's regional settings say about names and dates.
+// What the user's regional settings say about names and dates. All dates are Gregorian, whichever calendar
+// the user has there.
 #pragma once
 
 #include "platform/clock.h"
@@ -19,7 +20,8 @@ std::string Short_Weekday_Name(int weekday);
 /// The weekday on which the user's week begins, Sunday = 0 to Saturday = 6.
 int First_Weekday();
 
-/// A date of the years 100 to 9999 in the user's short date form.
+/// A date of the years 100 to 9999 in the user's short date form, which Read_Date takes for the same day if
+/// its year is whole.
 std::string Short_Date(int year, int month, int day);
 
 /// A date and time of day in the user's short date form and time form.

@@ -1,6 +1,7 @@
 // What the wallpaper page does, and where its controls are.
 #include "settings/wallpaper_page.h"
 
+#include "base/joined.h"
 #include "core/convert.h"
 #include "core/date.h"
 #include "core/settings.h"
@@ -13,6 +14,7 @@
 #include "settings/thumbnail.h"
 #include "themes/theme_pack.h"
 #include "toolkit/units.h"
+#include "ui/wrap_text.h"
 
 #include <algorithm>
 #include <string_view>
@@ -68,7 +70,8 @@ void Wallpaper_Page::Wire_Events() {
     preview_.On_End = [this](bool pack_failed) { Preview_Ended(pack_failed); };
     Load_Timer.On_Timer = [this] { Load_Pictures(); };
     // A picture that nobody could see was not loaded: a dialog that opens on another page is there sooner.
-    Theme_Preview_Img.On_Paint = [this](platform::Canvas &) {
+    Theme_Preview_Img.On_Paint = [this](platform::Canvas &canvas) {
+        Paint_Failure(canvas);
         if (shown_.pending)
             Load_Timer.Set_Enabled(true);
     };
@@ -242,7 +245,7 @@ void Wallpaper_Page::Get_Theme_Picture() {
         return Forget_Pictures();
     const auto want = [&pack](Month_Picture &picture, int month) {
         if (std::string path = Picture_File(pack, month); picture.path != path)
-            picture = {std::move(path), true, std::move(picture.picture)};
+            picture = {std::move(path), true, std::move(picture.picture), {}};
     };
     want(shown_, Month());
     want(todays_, Today().month);
@@ -259,40 +262,55 @@ void Wallpaper_Page::Forget_Pictures() {
 void Wallpaper_Page::Show_Picture() {
     Loading_Lbl.Set_Visible(shown_.pending);
     Theme_Preview_Img.Set_Picture(shown_.picture);
+    Theme_Preview_Img.Repaint();
+    Name_Aloud(Theme_Preview_Img, shown_.failure.empty() ? "Wallpaper of the month" : shown_.failure.c_str());
     Hand_Over_Look();
 }
 
-/// Returns why the picture could not be loaded; empty if it was. Then it is none.
-std::string Wallpaper_Page::Load(Month_Picture &wanted) const {
+void Wallpaper_Page::Paint_Failure(platform::Canvas &canvas) const {
+    const platform::Font &font = Theme_Preview_Img.Font();
+    const int line = platform::Line_Height(font);
+    const int width = picture_width - 2 * layout::gap;
+    const auto most = static_cast<std::size_t>((picture_height - 2 * layout::small_gap) / line);
+    int top = layout::small_gap;
+    for (const std::string &text : Wrap_Text(shown_.failure, font, width, most)) {
+        platform::Draw_Text(canvas, text, {layout::gap, top, width, line}, font, text_colour,
+                            platform::Text_Align::Left);
+        top += line;
+    }
+}
+
+/// The picture is none if it cannot be loaded.
+void Wallpaper_Page::Load(Month_Picture &wanted) const {
     wanted.pending = false;
     for (const Month_Picture *other : {&shown_, &todays_}) {
         if (other->path != wanted.path || other->pending || other->picture.width == 0 || other == &wanted)
             continue;
         wanted.picture = other->picture;
-        return {};
+        return;
     }
     try {
         const Rect box = Twips_To_Pixels(Theme_Preview_Img.Bounds());
         wanted.picture = Thumbnail(platform::Load_Picture(wanted.path), box.width, box.height);
     } catch (const platform::Picture_Error &error) {
         wanted.picture = {};
-        return error.what();
+        // The frame is small, and the packs all lie in the program's folder.
+        std::string reason = error.what();
+        if (const std::string folder = platform::Program_Folder() + "\\"; reason.starts_with(folder))
+            reason.erase(0, folder.size());
+        wanted.failure = Joined({Not_Shown(Month()), "\n", reason});
     }
-    return {};
 }
 
 void Wallpaper_Page::Load_Pictures() {
     Load_Timer.Set_Enabled(false);
     const bool seen = dialog_.Visible() && platform::Is_Shown(dialog_.Model(), Theme_Preview_Img.State());
-    std::string failure;
     if (shown_.pending && seen)
-        failure = Load(shown_);
+        Load(shown_);
     // A failure is told where the picture would be seen in full.
     if (todays_.pending && Theme_Use_Chk.Checked())
         Load(todays_);
     Show_Picture();
-    if (!failure.empty())
-        platform::Message_Box(failure, "Vellatro", platform::Box_Icon::Stop);
 }
 
 // Both boxes are ticked in the settings of a first run. While no theme is in use nothing replaces the user's

@@ -41,8 +41,8 @@ public:
     void Preview_Sli_Change();
     void Preview_Sli_Scroll();
     /// Has the picture of the slider's month loaded as soon as the page can be seen, and that of today's
-    /// month as soon as the miniature screen of the other page needs it. A picture that is to be seen here
-    /// and cannot be loaded is told once for each choice.
+    /// month as soon as the miniature screen of the other page needs it. Of one that is to be seen here and
+    /// cannot be loaded its frame says so, and why.
     void Get_Theme_Picture();
     void Get_Theme_Display();
     void Get_Theme_Style();
@@ -84,11 +84,13 @@ private:
         std::string path; ///< empty: there is none
         bool pending = false;
         Picture picture;
+        std::string failure; ///< why there is no picture
     };
     void Forget_Pictures();
     void Show_Picture();
     void Load_Pictures();
-    std::string Load(Month_Picture &wanted) const;
+    void Load(Month_Picture &wanted) const;
+    void Paint_Failure(platform::Canvas &canvas) const;
     void Drop_Pack(const std::string &pack);
     void Preview_Ended(bool pack_failed);
     std::int16_t Month() const { return static_cast<std::int16_t>(Preview_Sli.Value()); }

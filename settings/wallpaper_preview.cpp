@@ -2,35 +2,17 @@
 #include "settings/wallpaper_preview.h"
 
 #include "base/letters.h"
-#include "desktop/wallpaper.h"
 #include "platform/locale.h"
-#include "platform/registry.h"
 #include "platform/wallpaper.h"
 #include "themes/theme_pack.h"
 #include "toolkit/guard.h"
 #include "toolkit/handler.h"
 
 #include <utility>
-#include <variant>
 
 namespace {
 
 constexpr std::int16_t last_month = 12;
-constexpr const char *unknown = "UNKNOWN";
-
-std::string Desktop_Value(const char *name) {
-    const platform::Registry_Value value =
-        platform::Registry_Read("HKCU", Desktop_Key, name, 'S', std::string(unknown));
-    const auto *text = std::get_if<std::string>(&value);
-    return text == nullptr ? unknown : *text;
-}
-
-void Write_Desktop_Value(const char *name, const std::string &text) {
-    // What was not there before is written as what the system takes it for.
-    platform::Registry_Write_String(platform::Find_Registry_Root("HKCU"), Desktop_Key, name,
-                                    text == unknown ? "0" : text);
-}
-
 /// Deletes the bitmaps that the preview left in the pack, but for the wallpaper `path`, which is made anew if
 /// it is one of them, in whichever letter case it is named.
 void Keep_Only(const std::string &path, const std::string &pack) {
@@ -38,6 +20,16 @@ void Keep_Only(const std::string &path, const std::string &pack) {
     for (std::int16_t month = 1; month <= last_month; ++month)
         if (Capitals(path) == Capitals(Pack_File(pack, std::to_string(month) + ".bmp")))
             Get_Paper_Path(month, pack);
+}
+
+void Put_Back(User_Wallpaper wallpaper, const std::string &pack) {
+    // None, if its bitmap went in the preview and cannot be made again.
+    Run_Guarded([&] {
+        const std::string path = std::exchange(wallpaper.path, std::string());
+        Keep_Only(path, pack);
+        wallpaper.path = path;
+    });
+    Hang_Up(wallpaper);
 }
 
 } // namespace
@@ -53,13 +45,9 @@ Wallpaper_Preview::~Wallpaper_Preview() {
 
 void Wallpaper_Preview::Begin(const std::string &pack, const Settings &choices) {
     End();
-    before_ = Before{calendar_.Which_Month_Lbl.Caption(),
-                     calendar_.Dectect_Date_Timer.Enabled(),
-                     calendar_.Theme_BoxStyle,
-                     calendar_.Theme_Pos,
-                     Desktop_Value("Wallpaper"),
-                     Desktop_Value("WallpaperStyle"),
-                     Desktop_Value("TileWallpaper")};
+    before_ = Before{calendar_.Which_Month_Lbl.Caption(), calendar_.Dectect_Date_Timer.Enabled(),
+                     calendar_.Theme_BoxStyle, calendar_.Theme_Pos, Find_User_Wallpaper()};
+    Keep_User_Wallpaper(before_->wallpaper, pack);
     // The title would get its time back every second, and at midnight the calendar its wallpaper.
     calendar_.Dectect_Date_Timer.Set_Enabled(false);
     choices_ = choices;
@@ -106,7 +94,7 @@ void Wallpaper_Preview::End() noexcept {
     calendar_.Theme_BoxStyle = before.theme_style;
     calendar_.Theme_Pos = before.theme_position;
     // Each by itself: what fails is told, and keeps nothing else from being put back.
-    Run_Guarded([&] { Put_Wallpaper_Back(before); });
+    Run_Guarded([&] { Put_Back(before.wallpaper, pack_); });
     Run_Guarded([&] {
         if (Cur_Settings.Use_Themes == 1)
             calendar_.Get_Wallpaper_Stuff(Cur_Settings.Pack_Name);
@@ -115,18 +103,16 @@ void Wallpaper_Preview::End() noexcept {
     Run_Guarded([&] { calendar_.Which_Month_Lbl.Set_Caption(before.caption); });
     Run_Guarded([&] { calendar_.Dectect_Date_Timer.Set_Enabled(before.watches_date); });
     // The program may be about to end, and the next preview looks up what hangs now.
-    platform::Finish_Wallpaper();
+    if (platform::Finish_Wallpaper())
+        Keep_User_Wallpaper({}, {});
     Run_Guarded([&] { Fire(On_End, bool{pack_failed_}); });
 }
 
-void Wallpaper_Preview::Put_Wallpaper_Back(const Before &before) const {
-    // None, if its bitmap went in the preview and cannot be made again.
-    std::string path;
-    Run_Guarded([&] {
-        Keep_Only(before.wallpaper, pack_);
-        path = before.wallpaper;
-    });
-    Write_Desktop_Value("TileWallpaper", before.tiled);
-    Write_Desktop_Value("WallpaperStyle", before.wallpaper_style);
-    platform::Set_Wallpaper(path == unknown ? "" : path);
+void Wallpaper_Preview::Mend() {
+    const auto [wallpaper, pack] = Kept_User_Wallpaper();
+    if (pack.empty())
+        return;
+    if (Cur_Settings.Use_Themes != 1)
+        Put_Back(wallpaper, pack);
+    Keep_User_Wallpaper({}, {});
 }

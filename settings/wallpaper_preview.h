@@ -4,6 +4,7 @@
 
 #include "calendar/main_frm.h"
 #include "core/settings.h"
+#include "desktop/wallpaper.h"
 #include "toolkit/timer.h"
 
 #include <cstdint>
@@ -28,6 +29,10 @@ public:
     /// Puts the settings, the wallpaper and the calendar back at once. Does nothing when none is running.
     void End() noexcept;
 
+    /// Puts the wallpaper back that a preview has left behind which was ended by force, unless themes are in
+    /// use.
+    static void Mend();
+
     /// It has ended, and all is put back; `pack_failed`: because the pack could not be read.
     Handler<bool> On_End;
 
@@ -38,13 +43,10 @@ private:
         bool watches_date = false;
         std::optional<std::int16_t> theme_style;
         std::optional<std::int16_t> theme_position;
-        std::string wallpaper;
-        std::string wallpaper_style;
-        std::string tiled;
+        User_Wallpaper wallpaper;
     };
     void Show_Month();
     void Next_Month();
-    void Put_Wallpaper_Back(const Before &before) const;
 
     Main_Frm &calendar_;
     Settings choices_; ///< that the calendar shows meanwhile

@@ -6,6 +6,7 @@
 #include "core/convert.h"
 #include "core/sequential.h"
 #include "platform/files.h"
+#include "platform/locale.h"
 #include "platform/pictures.h"
 #include "themes/bitmap.h"
 
@@ -120,6 +121,10 @@ std::string Get_Paper_Path(std::int16_t month, const std::string &pack) {
     Delete_Old_Bmps(pack);
     platform::Replace_File(path, Bitmap_Bytes(platform::Load_Picture(Pack_File(pack, number + ".jpg"))));
     return path;
+}
+
+std::string Not_Shown(std::int16_t month) {
+    return Joined({"The wallpaper of ", platform::Month_Name(month), " cannot be shown."});
 }
 
 void Delete_Old_Bmps(const std::string &pack) {

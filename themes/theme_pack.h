@@ -45,5 +45,8 @@ std::string Get_Paper_DisplayMode(std::string_view details);
 /// platform::File_Error when the picture cannot be loaded or the bitmap not be saved.
 std::string Get_Paper_Path(std::int16_t month, const std::string &pack);
 
+/// Says that a month's picture cannot be shown, for a reason that is told behind it.
+std::string Not_Shown(std::int16_t month);
+
 /// Deletes the bitmaps of a pack. What cannot be deleted stays.
 void Delete_Old_Bmps(const std::string &pack);

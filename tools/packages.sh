@@ -34,6 +34,7 @@ Xvfb                                 xvfb
 xdotool                              xdotool
 /usr/bin/import                      imagemagick
 xdpyinfo                             x11-utils
+/usr/share/i18n/locales/th_TH        locales
 wine                                 wine
 /usr/lib/wine/wineserver64           wine64
 /usr/share/wine/fonts/marlett.ttf    fonts-wine

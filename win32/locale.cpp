@@ -7,6 +7,7 @@
 #include "win32/wide_text.h"
 
 #include <algorithm>
+#include <iterator>
 #include <oleauto.h>
 
 namespace platform {
@@ -16,17 +17,40 @@ namespace {
 /// The system counts its dates from here; earlier ones it does not format.
 constexpr int First_System_Year = 1601;
 
-/// One entry of the regional settings, empty where there is none.
-std::wstring Locale_Text(LCTYPE entry) {
+/// One entry of the regional settings, or of another locale; empty where there is none.
+std::wstring Locale_Text(LCTYPE entry, LCID locale = LOCALE_USER_DEFAULT) {
     std::wstring text(80, L'\0');
-    int length = GetLocaleInfoW(LOCALE_USER_DEFAULT, entry, text.data(), static_cast<int>(text.size()));
+    int length = GetLocaleInfoW(locale, entry, text.data(), static_cast<int>(text.size()));
     if (length == 0 && GetLastError() == ERROR_INSUFFICIENT_BUFFER) {
-        length = GetLocaleInfoW(LOCALE_USER_DEFAULT, entry, nullptr, 0);
+        length = GetLocaleInfoW(locale, entry, nullptr, 0);
         text.resize(static_cast<std::size_t>(std::max(length, 0)));
-        length = GetLocaleInfoW(LOCALE_USER_DEFAULT, entry, text.data(), length);
+        length = GetLocaleInfoW(locale, entry, text.data(), length);
     }
     text.resize(length > 0 ? static_cast<std::size_t>(length - 1) : 0);
     return text;
+}
+
+constexpr LCID American = MAKELCID(MAKELANGID(LANG_ENGLISH, SUBLANG_ENGLISH_US), SORT_DEFAULT);
+constexpr LCID British = MAKELCID(MAKELANGID(LANG_ENGLISH, SUBLANG_ENGLISH_UK), SORT_DEFAULT);
+
+/// The user's calendar as far as it is a Gregorian one, which has kinds of its own in some languages; nothing
+/// for a user of another one, as many in Thailand, Arabia or Persia are.
+std::optional<CALID> Gregorian_Calendar() {
+    const std::wstring type = Locale_Text(LOCALE_ICALENDARTYPE);
+    constexpr CALID kinds[] = {CAL_GREGORIAN,        CAL_GREGORIAN_US,           CAL_GREGORIAN_ME_FRENCH,
+                               CAL_GREGORIAN_ARABIC, CAL_GREGORIAN_XLIT_ENGLISH, CAL_GREGORIAN_XLIT_FRENCH};
+    for (const CALID kind : kinds)
+        if (type.empty() || type == win32::To_Wide(std::to_string(kind)))
+            return kind;
+    return std::nullopt;
+}
+
+/// By whose rules dates are written and read. The system would count the years, months and days of a user's
+/// other calendar. English rules with day and month in the user's order are Gregorian on every system.
+LCID Date_Locale() {
+    if (Gregorian_Calendar())
+        return LOCALE_USER_DEFAULT;
+    return Locale_Text(LOCALE_IDATE) == L"1" ? British : American;
 }
 
 /// The entry `number` steps after `first`.
@@ -39,9 +63,15 @@ int Days_From_Monday(int weekday) {
     return (weekday + 6) % 7;
 }
 
+/// The marks that turn the direction of writing, which dates of some languages have between their parts.
+bool Is_Direction_Mark(wchar_t character) {
+    return character == 0x200E || character == 0x200F;
+}
+
 /// The user's short date form with the year in it written out: "yyyy" becomes '0950', two letters or one the
-/// last two digits.
-std::wstring Form_With_Year(int year) {
+/// last two digits. In a form of `another` calendar the year is whole, so that nobody takes it for one of
+/// that calendar, and there is no era.
+std::wstring Form_With_Year(int year, bool another) {
     const std::wstring form = Locale_Text(LOCALE_SSHORTDATE);
     const std::wstring digits = win32::To_Wide(std::to_string(10000 + year).substr(1));
     std::wstring out;
@@ -49,13 +79,18 @@ std::wstring Form_With_Year(int year) {
     for (std::size_t i = 0; i < form.size();) {
         literal = literal != (form[i] == L'\'');
         const std::size_t end = std::min(form.find_first_not_of(form[i], i), form.size());
+        if (another && !literal && (form[i] == L'g' || Is_Direction_Mark(form[i]))) {
+            i = end;
+            continue;
+        }
         if (form[i] != L'y' || literal) {
             out += form[i++];
             continue;
         }
-        out += L'\'' + (end - i > 2 ? digits : digits.substr(2)) + L'\'';
+        out += L'\'' + (another || end - i > 2 ? digits : digits.substr(2)) + L'\'';
         i = end;
     }
+    out.erase(0, out.find_first_not_of(L' '));
     return out;
 }
 
@@ -63,15 +98,17 @@ std::wstring Form_With_Year(int year) {
 /// month from the same day of a later year, which the calendar repeats every 400 years.
 std::wstring Formatted_Date(int year, int month, int day) {
     const bool early = year < First_System_Year;
-    const std::wstring form = early ? Form_With_Year(year) : std::wstring();
+    const LCID locale = Date_Locale();
+    const bool another = locale != LOCALE_USER_DEFAULT;
+    const std::wstring form = early || another ? Form_With_Year(year, another) : std::wstring();
     SYSTEMTIME date{};
     date.wYear = static_cast<WORD>(early ? year + 1600 : year);
     date.wMonth = static_cast<WORD>(month);
     date.wDay = static_cast<WORD>(day);
     std::wstring text(128, L'\0');
     const int length =
-        GetDateFormatW(LOCALE_USER_DEFAULT, early ? 0 : DATE_SHORTDATE, &date, early ? form.c_str() : nullptr,
-                       text.data(), static_cast<int>(text.size()));
+        GetDateFormatW(locale, form.empty() ? DATE_SHORTDATE : 0, &date,
+                       form.empty() ? nullptr : form.c_str(), text.data(), static_cast<int>(text.size()));
     text.resize(length > 0 ? static_cast<std::size_t>(length - 1) : 0);
     return text;
 }
@@ -79,7 +116,15 @@ std::wstring Formatted_Date(int year, int month, int day) {
 } // namespace
 
 std::string Month_Name(int month) {
-    return win32::From_Wide(Locale_Text(Entry(LOCALE_SMONTHNAME1, month - 1)));
+    // The locale's own names may be those of another calendar.
+    const std::optional<CALID> calendar = Gregorian_Calendar();
+    wchar_t name[80] = {};
+    if (GetCalendarInfoW(LOCALE_USER_DEFAULT, calendar.value_or(CAL_GREGORIAN),
+                         Entry(CAL_SMONTHNAME1, month - 1), name, static_cast<int>(std::size(name)),
+                         nullptr) > 1)
+        return win32::From_Wide(name);
+    return win32::From_Wide(
+        Locale_Text(Entry(LOCALE_SMONTHNAME1, month - 1), calendar ? LOCALE_USER_DEFAULT : American));
 }
 
 std::string Weekday_Name(int weekday) {
@@ -118,6 +163,7 @@ std::optional<Date_Time> Read_Date(std::string_view text) {
     static const auto to_time =
         win32::Look_Up<decltype(VariantTimeToSystemTime)>(L"oleaut32.dll", "VariantTimeToSystemTime");
     std::wstring wide = win32::To_Wide(text); // the call wants it changeable
+    std::erase_if(wide, Is_Direction_Mark);
     // A short form may end in a dot, as the Hungarian one does, which not every system reads.
     if (wide.ends_with(L'.'))
         wide.pop_back();
@@ -125,7 +171,7 @@ std::optional<Date_Time> Read_Date(std::string_view text) {
     SYSTEMTIME time{};
     // What is behind a NUL would not be read.
     if (parse == nullptr || to_time == nullptr || wide.find(L'\0') != std::wstring::npos ||
-        FAILED(parse(wide.data(), LOCALE_USER_DEFAULT, 0, &date)) || !to_time(date, &time))
+        FAILED(parse(wide.data(), Date_Locale(), 0, &date)) || !to_time(date, &time))
         return std::nullopt;
     Date_Time day;
     day.year = time.wYear;

@@ -5,8 +5,7 @@
 #include "base/joined.h"
 #include "base/jpeg.h"
 #include "platform/files.h"
-#include "win32/handles.h"
-#include "win32/system_library.h"
+#include "win32/components.h"
 
 #include <olectl.h>
 
@@ -18,31 +17,7 @@ namespace platform {
 
 namespace {
 
-struct Releaser {
-    void operator()(IUnknown *object) const { object->Release(); }
-};
-
-template <typename Interface>
-using Unique_Interface = std::unique_ptr<Interface, Releaser>;
-
-/// The reader of pictures may look its parts up as components.
-class Component_Session {
-public:
-    Component_Session() {
-        static const auto begin = win32::Look_Up<HRESULT WINAPI(void *)>(L"ole32.dll", "CoInitialize");
-        begun_ = begin != nullptr && SUCCEEDED(begin(nullptr));
-    }
-    ~Component_Session() {
-        static const auto end = win32::Look_Up<void WINAPI()>(L"ole32.dll", "CoUninitialize");
-        if (begun_ && end != nullptr)
-            end();
-    }
-    Component_Session(const Component_Session &) = delete;
-    Component_Session &operator=(const Component_Session &) = delete;
-
-private:
-    bool begun_ = false;
-};
+using win32::Unique_Interface;
 
 /// A stream over a copy of the bytes; null when there is no memory for it.
 Unique_Interface<IStream> Stream_Of(const std::string &bytes) {
@@ -101,7 +76,7 @@ std::vector<std::uint8_t> Pixels_Of(HBITMAP bitmap, Size size) {
 }
 
 std::vector<std::uint8_t> Decode(const std::string &bytes, Size size) {
-    const Component_Session session;
+    const win32::Component_Session session;
     const Unique_Interface<IPicture> picture = Read_Picture(bytes);
     SHORT type = 0;
     OLE_HANDLE handle = 0;

@@ -3,8 +3,11 @@
 // own, and the calendar goes on.
 #include "platform/wallpaper.h"
 
+#include "win32/desktop_wallpaper.h"
 #include "win32/handles.h"
 #include "win32/wide_text.h"
+
+#include <utility>
 
 namespace platform {
 
@@ -16,9 +19,15 @@ class Wallpaper_Hanger {
 public:
     Wallpaper_Hanger() { InitializeCriticalSection(&section_); }
 
-    void Order(std::wstring path) {
+    struct Job {
+        std::wstring path;
+        std::string monitors;
+        bool looks = false; ///< what hangs is to be told, and nothing to be hung up
+    };
+
+    void Order(Job job) {
         EnterCriticalSection(&section_);
-        ordered_.swap(path);
+        std::swap(ordered_, job);
         is_ordered_ = true;
         if (!at_work_) {
             thread_.reset(CreateThread(nullptr, 0, Work, this, 0, nullptr));
@@ -30,34 +39,55 @@ public:
             Work(this);
     }
 
-    /// For the thread that orders.
-    void Finish() const {
+    /// Empty while another order is not done.
+    std::string Look() {
+        if (!Finish())
+            return {};
+        seen_.clear();
+        Order({{}, {}, true});
+        return Finish() ? seen_ : std::string();
+    }
+
+    /// For the thread that orders. Returns false if the last order is not done.
+    bool Finish() const {
         constexpr DWORD most = 5000; // milliseconds
         const DWORD begin = GetTickCount();
         for (DWORD spent = 0; thread_ && spent < most; spent = GetTickCount() - begin) {
             const HANDLE thread = thread_.get();
             // The program's own windows are told of the change, too, and have to answer.
-            if (MsgWaitForMultipleObjects(1, &thread, FALSE, most - spent, QS_SENDMESSAGE) !=
-                WAIT_OBJECT_0 + 1)
-                return;
+            const DWORD result = MsgWaitForMultipleObjects(1, &thread, FALSE, most - spent, QS_SENDMESSAGE);
+            if (result != WAIT_OBJECT_0 + 1)
+                return result == WAIT_OBJECT_0;
             MSG none;
             PeekMessageW(&none, nullptr, 0, 0, PM_NOREMOVE | PM_QS_SENDMESSAGE);
         }
+        return !thread_;
     }
 
 private:
     static DWORD WINAPI Work(void *self) {
         auto &hanger = *static_cast<Wallpaper_Hanger *>(self);
-        std::wstring path;
-        while (hanger.Take(path))
-            SystemParametersInfoW(SPI_SETDESKWALLPAPER, 0, path.data(),
-                                  SPIF_UPDATEINIFILE | SPIF_SENDWININICHANGE);
+        for (Job job; hanger.Take(job);)
+            try {
+                hanger.Do(job);
+            } catch (...) {
+                // Want of memory: the wallpaper stays.
+            }
         return 0;
     }
 
-    bool Take(std::wstring &path) {
+    void Do(Job &job) {
+        if (job.looks) {
+            seen_ = win32::Monitors_Now();
+        } else if (job.monitors.empty() || !win32::Hang_On_Monitors(job.monitors)) {
+            SystemParametersInfoW(SPI_SETDESKWALLPAPER, 0, job.path.data(),
+                                  SPIF_UPDATEINIFILE | SPIF_SENDWININICHANGE);
+        }
+    }
+
+    bool Take(Job &job) {
         EnterCriticalSection(&section_);
-        path.swap(ordered_);
+        std::swap(job, ordered_);
         at_work_ = is_ordered_;
         is_ordered_ = false;
         const bool taken = at_work_;
@@ -67,7 +97,8 @@ private:
 
     CRITICAL_SECTION section_;
     win32::Unique_Kernel_Handle thread_; ///< the last one, which may have ended
-    std::wstring ordered_;
+    Job ordered_;
+    std::string seen_; ///< touched by the thread while it works, and after that by who waited for it
     bool is_ordered_ = false;
     bool at_work_ = false;
 };
@@ -80,12 +111,20 @@ Wallpaper_Hanger &The_Hanger() {
 
 } // namespace
 
-void Set_Wallpaper(const std::string &path) {
-    The_Hanger().Order(win32::To_Wide(path));
+void Set_Wallpaper(const std::string &path, const std::string &monitors) {
+    The_Hanger().Order({win32::To_Wide(path), monitors});
 }
 
-void Finish_Wallpaper() {
-    The_Hanger().Finish();
+std::string Wallpaper_Of_Monitors() {
+    return The_Hanger().Look();
+}
+
+std::string Lasting_Wallpaper(const std::string &path) {
+    return win32::From_Wide(win32::Lasting_Picture(win32::To_Wide(path)));
+}
+
+bool Finish_Wallpaper() {
+    return The_Hanger().Finish();
 }
 
 } // namespace platform

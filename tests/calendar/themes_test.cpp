@@ -57,7 +57,7 @@ TEST_F(Themes, A_Pack_Rules_Wallpaper_Style_And_Position) {
 }
 
 TEST_F(Themes, A_Faulty_Pack_Is_Told_Once_A_Day_And_The_Calendar_Lives) {
-    const std::string number = "\", but must be a whole number from -32768 to 32767.";
+    const std::string number = "\", but must be a whole number from -32768 to 32767. Your own is used.";
     const std::string in = "In " + In_Pack("settings.ini") + " the ";
     const struct {
         const char *bytes;
@@ -66,7 +66,10 @@ TEST_F(Themes, A_Faulty_Pack_Is_Told_Once_A_Day_And_The_Calendar_Lives) {
     } cases[] = {{"", in + "box style of month 3 is \"" + number, 1, 8},
                  {"3=0-32768-1", in + "position of month 3 is \"32768" + number, 0, 8},
                  {"3=x-1", in + "box style of month 3 is \"x" + number, 1, 1},
-                 {"3=0-42-1", In_Pack("3.jpg") + " cannot be loaded", 0, 8}};
+                 {"3=0-42-1",
+                  "The wallpaper of March cannot be shown.\r\n\r\n" + In_Pack("3.jpg") +
+                      " cannot be loaded\r\n\r\nThe desktop stays as it is.",
+                  0, 8}};
     Stored("Alignment") = "8";
     Fakes().pictures.erase(In_Pack("3.jpg"));
     Fakes().files[In_Pack("3.bmp")] = "made before";

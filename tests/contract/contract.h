@@ -41,6 +41,8 @@ protected:
         RegDeleteKeyW(HKEY_CURRENT_USER, win32::To_Wide(Scratch_Key()).c_str());
         if (*short_date_before_ != 0)
             SetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_SSHORTDATE, short_date_before_);
+        if (*calendar_before_ != 0)
+            SetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_ICALENDARTYPE, calendar_before_);
     }
 
     std::string Scratch(const std::string &name) const { return win32::From_Wide(folder_ + L"\\") + name; }
@@ -89,8 +91,17 @@ protected:
         ASSERT_TRUE(SetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_SSHORTDATE, wide.c_str()));
     }
 
+    /// By the system's number of its kind.
+    void Use_Calendar(CALID calendar) {
+        if (*calendar_before_ == 0)
+            GetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_ICALENDARTYPE, calendar_before_, 81);
+        ASSERT_TRUE(
+            SetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_ICALENDARTYPE, std::to_wstring(calendar).c_str()));
+    }
+
 private:
     std::wstring folder_;
+    wchar_t calendar_before_[81] = {};
     wchar_t short_date_before_[81] = {};
     std::vector<win32::Unique_File> locks_;
 };

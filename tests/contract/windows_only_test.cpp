@@ -8,6 +8,7 @@
 #include "platform/pictures.h"
 #include "platform/process.h"
 #include "platform/registry.h"
+#include "platform/wallpaper.h"
 #include "tests/contract/contract.h"
 #include "tests/contract/small_jpeg.h"
 #include "win32/paths.h"
@@ -16,6 +17,8 @@
 #include <windows.h>
 
 #include <cctype>
+#include <map>
+#include <tuple>
 
 namespace {
 
@@ -34,6 +37,54 @@ TEST_F(Windows_Only, Early_Dates_Are_Formatted_As_The_System_Does) {
             EXPECT_EQ(platform::Short_Date(1600, month, day), expected) << pattern;
         }
     }
+}
+
+TEST_F(Windows_Only, Dates_Beside_Another_Calendar_Are_Gregorian_And_Come_Back) {
+    const struct {
+        CALID calendar;
+        const char *pattern, *date, *early_date;
+    } cases[] = {{CAL_THAI, "d/m/yy", "22/11/2026", "3/2/0950"},
+                 {CAL_UMALQURA, "d\u200F/m\u200F/yyyy", "22/11/2026", "3/2/0950"},
+                 {CALID{22}, "yyyy/mm/dd", "2026/11/22", "0950/02/03"},
+                 {CAL_JAPAN, "gg y/m/d", "2026/11/22", "0950/2/3"},
+                 {CAL_HIJRI, "m-d-yy", "11-22-2026", "2-3-0950"},
+                 {CAL_GREGORIAN_ARABIC, "d/m/yy", "22/11/26", "3/2/50"}};
+    for (const auto &c : cases) {
+        SCOPED_TRACE(c.calendar);
+        Use_Calendar(c.calendar);
+        Use_Short_Date(c.pattern);
+        EXPECT_EQ(platform::Short_Date(2026, 11, 22), c.date);
+        EXPECT_EQ(platform::Short_Date(950, 2, 3), c.early_date);
+        for (const auto &[month, day] : {std::pair(11, 22), {2, 3}}) {
+            const std::string text = platform::Short_Date(2026, month, day);
+            const platform::Date_Time read = platform::Read_Date(text).value_or(platform::Date_Time{});
+            EXPECT_EQ(std::tuple(read.year, read.month, read.day), std::tuple(2026, month, day)) << text;
+        }
+    }
+    // ./test runs this for users of all four languages.
+    const std::map<LANGID, std::string> names{
+        {0x409, "February"}, {0x41E, "กุมภาพันธ์"}, {0x401, "فبراير"}, {0x429, "فوریه"}};
+    Use_Calendar(CAL_THAI);
+    EXPECT_EQ(platform::Month_Name(2), names.at(GetUserDefaultLangID()));
+}
+
+TEST_F(Windows_Only, A_Wallpaper_That_The_System_Writes_Over_Is_Copied) {
+    Make_Folder(Scratch("CachedFiles"));
+    const std::string image = "CachedFiles\\CachedImage_1920_1080_POS4.jpg";
+    for (const auto &[name, lasting] : std::initializer_list<std::pair<std::string, std::string>>{
+             {"transcodedwallpaper", "Vellatro_transcodedwallpaper.jpg"},
+             {"TranscodedWallpaper_001.png", "Vellatro_TranscodedWallpaper_001.png"},
+             {image, "Vellatro_CachedImage_1920_1080_POS4.jpg"},
+             {"TranscodedWallpaper_002", "TranscodedWallpaper_002"}, // which is not there
+             {"Sunset.jpg", "Sunset.jpg"}}) {
+        if (!name.ends_with('2'))
+            platform::Replace_File(Scratch(name), "the picture " + name);
+        EXPECT_EQ(platform::Lasting_Wallpaper(Scratch(name)), Scratch(lasting));
+        if (lasting != name) {
+            EXPECT_EQ(platform::Read_File(Scratch(lasting)), "the picture " + name);
+        }
+    }
+    platform::Delete_File(Scratch(image));
 }
 
 TEST_F(Windows_Only, A_Hidden_File_Stays_Hidden_And_The_Rest_Of_A_Killed_Run_Goes) {

@@ -62,9 +62,13 @@ TEST_F(Settings_Test, A_Malformed_Value_Is_Named_And_Ends_The_Loading) {
     Stored("Colours\\Num") = "-2147483648";
     Stored("Colours\\Menu Colour Source") = "40000";
     Stored("Settings\\Tooltips") = "2";
+    const std::string mended =
+        ".\r\n\r\nVellatro ends now. Correct or delete the value in the registry, under "
+        "HKEY_CURRENT_USER\\Software\\Vellatro\\";
     EXPECT_EQ(Load_Error(),
               "The setting \"Menu Colour Source\" in the section \"Colours\" is \"40000\", but must be a "
-              "whole number from -32768 to 32767.");
+              "whole number from -32768 to 32767" +
+                  mended + "Colours, and start it again.");
     EXPECT_TRUE(Cur_Settings.Style == 2 && Cur_Settings.Col_Num == -2147483647 - 1);
     EXPECT_EQ(Cur_Settings.Tooltips, 1);
     Fakes().registry.clear();
@@ -74,7 +78,8 @@ TEST_F(Settings_Test, A_Malformed_Value_Is_Named_And_Ends_The_Loading) {
         value += "\xC3\xA9";
     Stored("Settings\\Bar Time") = value;
     EXPECT_EQ(Load_Error(), "The setting \"Bar Time\" in the section \"Settings\" is \"" +
-                                value.substr(0, 59) + "...\", but must be True or False.");
+                                value.substr(0, 59) + "...\", but must be True or False" + mended +
+                                "Settings, and start it again.");
 }
 
 } // namespace

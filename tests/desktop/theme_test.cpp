@@ -76,6 +76,7 @@ TEST_F(Themed, What_Is_Missing_Is_Told_And_The_Calendar_Appears) {
         const std::wstring wide = Folder() + name;
         return std::string(wide.begin(), wide.end());
     };
+    const std::string jpeg = "The wallpaper of May cannot be shown.\r\n\r\n" + path(L"\\5.jpg: ");
     const struct {
         const char *pack;
         std::wstring name;
@@ -84,9 +85,9 @@ TEST_F(Themed, What_Is_Missing_Is_Told_And_The_Calendar_Appears) {
     } cases[] = {
         {"Gone", L"", false, "", "Missing Theme Gone. Themes will now be disabled."},
         {"..", L"", false, "", "Missing Theme ... Themes will now be disabled."},
-        {"Default", L"5.jpg", false, Small_Jpeg(5).substr(0, 100), path(L"\\5.jpg: This is no JPEG")},
-        {"Default", L"5.jpg", false, "Only text.\r\n", path(L"\\5.jpg: This is no JPEG")},
-        {"Default", L"5.jpg", true, "", path(L"\\5.jpg: ")},
+        {"Default", L"5.jpg", false, Small_Jpeg(5).substr(0, 100), jpeg + "This is no JPEG"},
+        {"Default", L"5.jpg", false, "Only text.\r\n", jpeg + "This is no JPEG"},
+        {"Default", L"5.jpg", true, "", jpeg},
         {"Default", L"settings.ini", true, "",
          "Error loading in Settings file...\r\n\r\n" + path(L"\\settings.ini")},
     };
@@ -226,6 +227,13 @@ TEST_F(Wallpaper_Page, An_Abandoned_Preview_Leaves_No_Trace) {
         EXPECT_EQ(Size(L"5.bmp") > 0, used);
         EXPECT_EQ(Store().find("Use Themes=1") != std::string::npos, used);
         EXPECT_EQ(program_->Box(), "");
+        if (!used) { // killed, it leaves the pack's picture to the next start
+            Click_On(Part(preview_btn), [&] { return !IsWindowEnabled(Part(preview_btn)); });
+            EXPECT_TRUE(Becomes(std::wstring(L"0 2 \\1.bmp"), [&] { return Wallpaper(); }));
+            Stop_All();
+            Start_Calendar();
+            EXPECT_TRUE(Becomes(before, [&] { return Wallpaper(); }));
+        }
         Stop_All();
     }
 }

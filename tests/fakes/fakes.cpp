@@ -238,13 +238,22 @@ Picture Load_Picture(const std::string &path) {
     return picture->second;
 }
 
-void Set_Wallpaper(const std::string &path) {
-    Fakes().wallpapers.push_back(path);
+void Set_Wallpaper(const std::string &path, const std::string &monitors) {
+    Fakes().wallpapers.push_back(path + monitors);
     Fakes().wallpaper_ordered = true;
 }
 
-void Finish_Wallpaper() {
+std::string Wallpaper_Of_Monitors() {
+    return Fakes().monitors;
+}
+
+std::string Lasting_Wallpaper(const std::string &path) {
+    return path.ends_with("TranscodedWallpaper") ? path + ", copied" : path;
+}
+
+bool Finish_Wallpaper() {
     Fakes().wallpaper_ordered = false;
+    return true;
 }
 
 bool Path_Exists(const std::string &path) {

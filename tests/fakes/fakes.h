@@ -66,6 +66,7 @@ struct Fake_System {
     std::map<std::string, Picture, Name_Less> pictures; ///< path to what is loaded from it
     int loads = 0;                                      ///< calls of Load_Picture
     std::vector<std::string> wallpapers;                ///< all that were set
+    std::string monitors;                               ///< what hangs on them
     bool wallpaper_ordered = false; ///< the last one does not hang yet, and would not if the program ended
 
     /// Key, "\" and value name to text; of HKEY_LOCAL_MACHINE with "HKLM\" before.

@@ -125,7 +125,7 @@ TEST_F(Themes_Page, refuses_packs_that_are_not_whole_and_themes_without_packs) {
     EXPECT_EQ(Details(), "|Display:|Box Style:|Position:");
 }
 
-TEST_F(Themes_Page, loads_only_the_picture_that_is_seen_and_tells_of_a_bad_one_once) {
+TEST_F(Themes_Page, loads_only_the_picture_that_is_seen_and_tells_of_a_bad_one_in_its_frame) {
     Make_Pack("Default");
     Fakes().pictures.erase(Path("Default", "5.jpg"));
     Open(true);
@@ -138,28 +138,37 @@ TEST_F(Themes_Page, loads_only_the_picture_that_is_seen_and_tells_of_a_bad_one_o
     Desktop().Advance(50);
     EXPECT_TRUE(Page().Preview_Sli.Caption() == "June" && Fakes().loads == 1)
         << "the thumb has not come to rest";
-    Fakes().Expect_Box(Path("Default", "5.jpg") + " cannot be loaded");
+    const auto in_the_frame = [&] {
+        canvas.operations.clear();
+        Page().Theme_Preview_Img.State().paint(canvas, Page().Theme_Preview_Img.Bounds());
+        std::string text;
+        for (const Canvas_Operation &operation : canvas.operations)
+            text += (text.empty() ? "" : " ") + operation.text;
+        return text;
+    };
     for (const bool use : {true, false, true}) {
         Use_Themes(use);
         Slide(5);
     }
+    EXPECT_EQ(in_the_frame(), "The wallpaper of May cannot be shown. Default\\5.jpg cannot be loaded");
     EXPECT_EQ(Page().Look().picture.width, 3) << "the other page shows this month, here and below";
     EXPECT_EQ(Page().Look().position, 3);
     Choose(*dialog, Page().Preview_Sli, 6);
     EXPECT_TRUE(Page().Loading_Lbl.Visible());
     Desktop().Advance(50);
-    EXPECT_FALSE(Page().Loading_Lbl.Visible());
+    EXPECT_TRUE(!Page().Loading_Lbl.Visible() && in_the_frame().empty());
     EXPECT_EQ(Page().Look().picture.width, 3);
     EXPECT_EQ(Fakes().loads, 4) << "March, June, May, which fails, and June";
 }
 
 TEST_F(Themes_Page, a_preview_leaves_all_as_it_was) {
-    enum End { by_itself, stopped, unchecked, dialog_gone, bad_number, pack_gone };
+    enum End { by_itself, stopped, unchecked, dialog_gone, killed, bad_number, pack_gone };
     const auto desktop = [](const char *name) -> std::string & {
         return Fakes().registry[std::string("Control Panel\\Desktop\\") + name];
     };
     const auto state = [&] {
-        std::string all = desktop("WallpaperStyle") + desktop("TileWallpaper") + Fakes().wallpapers.back() +
+        std::string all = Fakes().registry["Software\\Vellatro\\Preview\\Pack"] + desktop("WallpaperStyle") +
+                          desktop("TileWallpaper") + Fakes().wallpapers.back() +
                           form.Which_Month_Lbl.Caption() + std::to_string(form.Left()) + "," + Text_Of(7);
         for (const Setting_Row &row : Setting_Rows())
             all += "\n" + Setting_Text(Cur_Settings, row);
@@ -167,8 +176,8 @@ TEST_F(Themes_Page, a_preview_leaves_all_as_it_was) {
             all += path.ends_with(".bmp") ? "\n" + path : "";
         return all;
     };
-    for (const End end : {by_itself, stopped, unchecked, dialog_gone, bad_number, pack_gone}) {
-        const bool themes = end % 2 == 0;
+    for (const End end : {by_itself, stopped, unchecked, dialog_gone, killed, bad_number, pack_gone}) {
+        const bool themes = end == by_itself || end == unchecked || end == bad_number;
         SCOPED_TRACE(end);
         Fakes().files.clear();
         Make_Pack("Default");
@@ -180,8 +189,12 @@ TEST_F(Themes_Page, a_preview_leaves_all_as_it_was) {
         desktop("TileWallpaper") = "0";
         // Without themes: a wallpaper that stayed from a time when they were used, in another letter case.
         desktop("Wallpaper") = themes ? Path("Default", "3.bmp") : Path("WINTER", "3.BMP");
-        Fakes().files[Path(themes ? "Default" : "Winter", "3.bmp")] = "";
-        Fakes().wallpapers = {desktop("Wallpaper")};
+        if (end == stopped) // which the system writes over
+            desktop("Wallpaper") = "C:\\Themes\\TranscodedWallpaper";
+        else
+            Fakes().files[Path(themes ? "Default" : "Winter", "3.bmp")] = "";
+        Fakes().monitors = end == dialog_gone ? " and a slide show" : "";
+        Fakes().wallpapers = {desktop("Wallpaper") + (end == stopped ? ", copied" : "") + Fakes().monitors};
         Events({"7/3/2002=Wedding anniversary of the whole family in Winchester"});
         form.Get_Wallpaper_Stuff("Default");
         form.Which_Style(form.Effective_Style());
@@ -199,7 +212,7 @@ TEST_F(Themes_Page, a_preview_leaves_all_as_it_was) {
         EXPECT_EQ(Fakes().wallpapers.back(), Path("Winter", "1.bmp"));
         if (end == bad_number)
             Fakes().Expect_Box("In C:\\Vellatro\\Winter\\settings.ini the position of month 2 is \"x\", "
-                               "but must be a whole number from -32768 to 32767.");
+                               "but must be a whole number from -32768 to 32767. Your own is used.");
         if (end == pack_gone) {
             Fakes().Expect_Box("Missing Theme Winter. Themes will now be disabled.");
             std::erase_if(Fakes().files, [](const auto &file) { return file.first[12] == 'W'; });
@@ -211,8 +224,15 @@ TEST_F(Themes_Page, a_preview_leaves_all_as_it_was) {
         EXPECT_EQ(end == stopped && Page().End_Preview(), end == stopped);
         if (end == unchecked)
             Use_Themes(false);
-        if (end == dialog_gone)
+        const auto left = Fakes().registry;
+        if (end == dialog_gone || end == killed)
             dialog.reset();
+        if (end == killed) {
+            Fakes().registry = left;
+            Fakes().wallpapers.push_back("the preview's");
+        }
+        for (int start = 0; start < 2; ++start, Fakes().monitors = "must not be asked for")
+            Wallpaper_Preview::Mend(); // as the next start does; nothing is left over where nobody killed it
         EXPECT_TRUE(form.Dectect_Date_Timer.Enabled());
         if (end == pack_gone) // which can be put back as little as what the user was told of
             EXPECT_EQ(Cur_Settings.Use_Themes, 0);

@@ -1,0 +1,38 @@
+// The system's component objects: an owner of one, and the right to use them on a thread.
+#pragma once
+
+#include "win32/handles.h"
+#include "win32/system_library.h"
+
+#include <memory>
+#include <unknwn.h>
+
+namespace win32 {
+
+struct Releaser {
+    void operator()(IUnknown *object) const { object->Release(); }
+};
+
+template <typename Interface>
+using Unique_Interface = std::unique_ptr<Interface, Releaser>;
+
+/// Lets the calling thread use component objects for the length of a scope. None may outlive it.
+class Component_Session {
+public:
+    Component_Session() {
+        auto *const begin = Look_Up<HRESULT WINAPI(void *)>(L"ole32.dll", "CoInitialize");
+        begun_ = begin != nullptr && SUCCEEDED(begin(nullptr));
+    }
+    ~Component_Session() {
+        auto *const end = Look_Up<void WINAPI()>(L"ole32.dll", "CoUninitialize");
+        if (begun_ && end != nullptr)
+            end();
+    }
+    Component_Session(const Component_Session &) = delete;
+    Component_Session &operator=(const Component_Session &) = delete;
+
+private:
+    bool begun_ = false;
+};
+
+} // namespace win32
