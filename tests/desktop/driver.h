@@ -47,8 +47,6 @@ void Send_Key(WORD key, bool with_alt = false); ///< down and up
 void Send_Text(std::string_view ascii);
 /// Clicks into the middle of a dialog's control, once nothing covers it, and waits for the effect.
 void Click_On(HWND window, const std::function<bool()> &done);
-/// Gives a dialog's control the keyboard by its access key.
-void Focus_On(HWND window, WORD access_key);
 bool Has_Keyboard(HWND window);
 /// What a control of a dialog tells assistive technology of itself; with `act`, its default action is asked
 /// for.

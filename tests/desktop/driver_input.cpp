@@ -90,14 +90,6 @@ void Click_On(HWND window, const std::function<bool()> &done) {
     EXPECT_TRUE(done()) << "no effect of a click";
 }
 
-void Focus_On(HWND window, WORD access_key) {
-    for (int i = 0; i < 3 && !Has_Keyboard(window); ++i) { // a key is lost while X changes the focus
-        Send_Key(access_key, true);
-        Wait_Until([window] { return Has_Keyboard(window); }, 2000);
-    }
-    EXPECT_TRUE(Has_Keyboard(window)) << "no keyboard by an access key";
-}
-
 void Program::Answer(WORD button) const {
     const HWND box = Box_Window();
     PostMessageW(box, WM_COMMAND, button, 0);

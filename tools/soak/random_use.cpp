@@ -1,7 +1,7 @@
-// Random clicks, keys and picks on the running program for the VT_MINUTES of the environment, or for one
-// minute: the calendar, its menus, editor and settings, files, jumps of the clock and of the screen's size.
-// It neither breaks off nor hangs nor holds ever more objects of the system, and its file stays one that it
-// reads.
+// Random clicks, keys and picks on the running program for the VT_MINUTES of the environment, by the seed
+// VT_SEED or a new one: the calendar, its menus, editor and settings, files, jumps of the clock and of the
+// screen's size. It neither breaks off nor hangs nor holds ever more objects of the system, and its file
+// stays one that it reads.
 #include "tests/contract/small_jpeg.h"
 #include "tests/desktop/driver.h"
 
@@ -243,8 +243,10 @@ TEST_F(Random_Use, Goes_On) {
     const char *minutes = std::getenv("VT_MINUTES");
     const int end = minutes ? std::atoi(minutes) : 1;
     const DWORD begin = GetTickCount();
-    random_.seed(begin);
-    std::printf("seed %lu\n", begin);
+    const char *given = std::getenv("VT_SEED");
+    const auto seed = given ? static_cast<unsigned>(std::strtoul(given, nullptr, 10)) : unsigned{begin};
+    random_.seed(seed);
+    std::printf("seed %u\n", seed);
     const std::wstring folder = Data_Path().substr(0, Data_Path().rfind(L'\\') + 1);
     const auto put = [&](const std::wstring &name, const std::string &bytes) {
         FILE *file = _wfopen((folder + name).c_str(), L"wb");
