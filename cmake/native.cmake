@@ -31,6 +31,8 @@ else()
     if(test_sources)
         add_executable(vellatro_tests ${test_sources})
         target_link_libraries(vellatro_tests PRIVATE vellatro_portable GTest::gtest GTest::gtest_main)
+        # Nearly all of a test's build goes into the headers that it shares with the others.
+        target_precompile_headers(vellatro_tests PRIVATE tests/settings/settings_test.h <functional> <vector>)
         gtest_discover_tests(vellatro_tests)
     endif()
     add_executable(calendar_days tests/transfer/calendar_days.cpp)

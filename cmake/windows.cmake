@@ -1,21 +1,22 @@
 # The program and, for the desktop tests, the programs that drive it.
 enable_language(RC)
 
-add_executable(vellatro WIN32 ${portable_sources} app/main.cpp app/cxx_runtime.cpp)
-file(GLOB win32_sources CONFIGURE_DEPENDS win32/*.cpp)
-target_sources(vellatro PRIVATE ${win32_sources} win32/vellatro.rc)
-set_source_files_properties(win32/vellatro.rc PROPERTIES
-    OBJECT_DEPENDS "${CMAKE_SOURCE_DIR}/win32/vellatro.manifest;${CMAKE_SOURCE_DIR}/win32/vellatro.ico")
-target_include_directories(vellatro PRIVATE ${CMAKE_SOURCE_DIR}/win32)
-target_compile_definitions(vellatro PRIVATE _WIN32_WINNT=0x0601 WINVER=0x0601 _WIN32_IE=0x0700 NOMINMAX
+# How the product is compiled: the program, and the platform's procedures, which the contract tests share.
+add_library(vellatro_product_options INTERFACE)
+target_link_libraries(vellatro_product_options INTERFACE vellatro_options)
+target_include_directories(vellatro_product_options INTERFACE ${CMAKE_SOURCE_DIR}/win32)
+target_compile_definitions(vellatro_product_options INTERFACE _WIN32_WINNT=0x0601 WINVER=0x0601 _WIN32_IE=0x0700
+    NOMINMAX
     # No function of the system throws: what Windows calls back catches at the border.
     "$<$<COMPILE_LANGUAGE:CXX>:DECLSPEC_IMPORT=__attribute__((dllimport,nothrow))>")
-target_compile_options(vellatro PRIVATE
+target_compile_options(vellatro_product_options INTERFACE
     $<$<COMPILE_LANGUAGE:CXX>:-Oz -flto -ffunction-sections -fdata-sections -fno-rtti -fmerge-all-constants
         # Or each file keeps constructors of its own that no linker can merge.
         -fno-declone-ctor-dtor
         # The only other thread, which hangs the wallpaper, uses no static variable of a function.
         -fno-threadsafe-statics>)
+# One partition: with several GCC 12 breaks off while it links.
+target_link_options(vellatro_product_options INTERFACE -Oz -flto -flto-partition=none -static -s -Wl,--gc-sections)
 # Here the constructors of the large forms are called once. Inlined into one another they run out of registers,
 # and each control costs more instructions.
 set_source_files_properties(app/program.cpp settings/settings_frm.cpp PROPERTIES
@@ -27,13 +28,22 @@ if(CMAKE_SIZEOF_VOID_P EQUAL 4)
     # which is safe as long as no function's frame leaps over a page.
     list(APPEND size_options -mno-stack-arg-probe -mno-accumulate-outgoing-args -mpreferred-stack-boundary=2
         -Werror=frame-larger-than=4000)
-    target_compile_options(vellatro PRIVATE "$<$<COMPILE_LANGUAGE:CXX>:${size_options}>")
-    target_link_options(vellatro PRIVATE ${size_options})
+    target_compile_options(vellatro_product_options INTERFACE "$<$<COMPILE_LANGUAGE:CXX>:${size_options}>")
+    target_link_options(vellatro_product_options INTERFACE ${size_options})
 endif()
-target_link_libraries(vellatro PRIVATE vellatro_options
+target_link_libraries(vellatro_product_options INTERFACE
     comctl32 comdlg32 gdi32 user32 advapi32 shell32 ole32 oleaut32 oleacc uuid)
-# One partition: with several GCC 12 breaks off while it links.
-target_link_options(vellatro PRIVATE -Oz -flto -flto-partition=none -static -s -Wl,--gc-sections
+
+file(GLOB win32_sources CONFIGURE_DEPENDS win32/*.cpp)
+add_library(vellatro_win32 OBJECT ${win32_sources})
+add_executable(vellatro WIN32 ${portable_sources} app/main.cpp app/cxx_runtime.cpp win32/vellatro.rc
+    $<TARGET_OBJECTS:vellatro_win32>)
+set_source_files_properties(win32/vellatro.rc PROPERTIES
+    OBJECT_DEPENDS "${CMAKE_SOURCE_DIR}/win32/vellatro.manifest;${CMAKE_SOURCE_DIR}/win32/vellatro.ico")
+foreach(target vellatro_win32 vellatro)
+    target_link_libraries(${target} PRIVATE vellatro_product_options)
+endforeach()
+target_link_options(vellatro PRIVATE
     -Wl,--disable-auto-import -Wl,--nxcompat -Wl,--dynamicbase -Wl,--no-insert-timestamp)
 add_custom_target(package
     COMMAND ${CMAKE_COMMAND} -D PROGRAM=$<TARGET_FILE:vellatro> -D SOURCES=${CMAKE_SOURCE_DIR}

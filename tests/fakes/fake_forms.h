@@ -21,6 +21,7 @@ struct Canvas_Operation {
     Colour colour = 0;
     std::string text{};
     platform::Text_Align align = platform::Text_Align::Left;
+    std::vector<Point> corners{};
 };
 
 struct platform::Canvas {
