@@ -5,6 +5,7 @@
 #include <windows.h>
 
 #include <array>
+#include <cstdint>
 #include <functional>
 #include <gtest/gtest.h>
 #include <memory>
@@ -82,9 +83,8 @@ public:
 
     HWND Window(std::string_view class_name) const; ///< null until it is visible
     HWND Calendar() const { return Window("Vellatro_Calendar"); }
-    /// All that the calendar presents; nothing when there is no calendar or it does not answer.
-    std::vector<Item> Items() const;
-    std::vector<Item> Items(long role) const;
+    /// What the calendar presents, of a role or all; nothing when there is no calendar or it does not answer.
+    std::vector<Item> Items(long role = 0, std::size_t most = SIZE_MAX) const;
     /// The item of that name, or an empty one.
     Item Named(std::string_view name) const;
     std::string Title() const;

@@ -130,8 +130,7 @@ TEST_F(Use, Tooltip_And_Balloon) {
     Send_Mouse(middle, MOUSEEVENTF_LEFTUP);
     EXPECT_TRUE(Wait_Until([&] { return !balloon(); }));
     EXPECT_TRUE(Wait_Until([&] { return Picture().pixels == before.pixels; })) << "a rest of it is seen";
-    Send_Mouse(middle, MOUSEEVENTF_LEFTDOWN);
-    Send_Mouse(middle, MOUSEEVENTF_LEFTUP); // too short
+    Send_Mouse({{middle, MOUSEEVENTF_LEFTDOWN}, {middle, MOUSEEVENTF_LEFTUP}}); // too short
     EXPECT_FALSE(Wait_Until([&] { return balloon() != nullptr; }, 600));
 }
 
