@@ -146,9 +146,13 @@ protected:
 
     void Stop_All() { programs_.clear(); }
 
-    const std::wstring &Data_Path() const { return data_path_; } ///< of calendar.dat
-    void Write_Data(std::string_view bytes) const;
-    std::string Data() const;
+    /// A file or folder beside the program.
+    std::wstring Path_Of(const std::wstring &name) const { return folder_ + L"\\" + name; }
+    void Write_File(const std::wstring &name, std::string_view bytes) const;
+    std::string Read_File(const std::wstring &name) const; ///< empty where there is none
+    std::wstring Data_Path() const { return Path_Of(L"calendar.dat"); }
+    void Write_Data(std::string_view bytes) const { Write_File(L"calendar.dat", bytes); }
+    std::string Data() const { return Read_File(L"calendar.dat"); }
 
     /// Takes a picture for people to look at, once the screen has come to rest.
     static void Save_Picture(const std::string &name);
@@ -161,6 +165,5 @@ protected:
 
 private:
     std::wstring folder_;
-    std::wstring data_path_;
     std::vector<std::unique_ptr<Program>> programs_;
 };

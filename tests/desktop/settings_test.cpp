@@ -95,7 +95,8 @@ protected:
     }
     static std::string Value() { return Text_Of(Part(use_system, 11)); } ///< of the colour shown last
     std::string Executable() const {
-        return std::string(Data_Path().begin(), Data_Path().end() - 12) + "vellatro.exe";
+        const std::wstring path = Path_Of(L"vellatro.exe");
+        return {path.begin(), path.end()};
     }
 
     static inline const Program *program = nullptr;

@@ -2,15 +2,13 @@
 #include "tests/contract/small_jpeg.h"
 #include "tests/desktop/driver.h"
 
-#include <cstdio>
-
 namespace {
 
 class Themed : public Desktop_Test {
 protected:
     void SetUp() override {
         Desktop_Test::SetUp();
-        folder_ = Data_Path().substr(0, Data_Path().rfind(L'\\')) + L"\\Default";
+        folder_ = Path_Of(L"Default");
         Set_Setting("Settings", "Use Themes", "1");
         SystemParametersInfoW(SPI_SETDESKWALLPAPER, 0, const_cast<wchar_t *>(L""), SPIF_UPDATEINIFILE);
         CreateDirectoryW(folder_.c_str(), nullptr);
@@ -20,9 +18,7 @@ protected:
     }
 
     void Put(const std::wstring &name, std::string_view bytes) const {
-        FILE *file = _wfopen((folder_ + L"\\" + name).c_str(), L"wb");
-        ASSERT_TRUE(file && std::fwrite(bytes.data(), 1, bytes.size(), file) == bytes.size());
-        std::fclose(file);
+        Write_File(L"Default\\" + name, bytes);
     }
 
     /// The size of a file of the pack, 0 for none.

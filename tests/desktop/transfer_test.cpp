@@ -13,8 +13,8 @@ TEST_F(Transfer, An_Export_Asks_And_Keeps_What_It_May_Not_Replace) {
     const std::string question = "[Vellatro] Overwrite existing file?";
     Choose_File('V', title, "");
     Expect_Quiet();
-    EXPECT_EQ(File("out.csv"), "");
-    Set_File("out.csv", "old");
+    EXPECT_EQ(Read_File(L"out.csv"), "");
+    Write_File(L"out.csv", "old");
     Choose_File('V', title, "out.csv");
     Answer(question, IDNO);
     Give_Name(title, ""); // it asks for another name
@@ -24,23 +24,23 @@ TEST_F(Transfer, An_Export_Asks_And_Keeps_What_It_May_Not_Replace) {
     Answer(question, IDYES);
     Answer("stop [Vellatro] " + folder_ + "out.csv: ");
     Expect_Quiet();
-    EXPECT_EQ(File("out.csv"), "old");
+    EXPECT_EQ(Read_File(L"out.csv"), "old");
     Set_Read_Only("out.csv", false);
     Choose_File('V', title, "out"); // which gets the ending
     Answer(question, IDYES);
     Answer("[Vellatro] Successfully exported 3 events to the CSV file...\r\n" + folder_ + "out.csv");
     Expect_Quiet();
-    EXPECT_NE(File("out.csv").find("\"Say \"\"no\"\" twice\",\"12:00:00 AM\",\"5/7/2027\","),
+    EXPECT_NE(Read_File(L"out.csv").find("\"Say \"\"no\"\" twice\",\"12:00:00 AM\",\"5/7/2027\","),
               std::string::npos);
-    EXPECT_EQ(File("out.csv.vellatro-new"), "");
+    EXPECT_EQ(Read_File(L"out.csv.vellatro-new"), "");
 }
 
 TEST_F(Transfer, An_Import_Refuses_And_Asks) {
     const std::string old = "\"6/5/2027=Old\"\r\n", other = "\"7/5/2027=Other\"\r\n";
-    Set_File("out.dat", other.c_str());
-    Set_File("out.ics",
-             "BEGIN:VCALENDAR\nBEGIN:VEVENT\nDTSTART:20270509\nSUMMARY:Web\nEND:VEVENT\nEND:VCALENDAR\n");
-    Set_File("out.ini", "\"Tooltips=2\"\r\n\"Unknown=1\"\r\n");
+    Write_File(L"out.dat", other);
+    Write_File(L"out.ics",
+               "BEGIN:VCALENDAR\nBEGIN:VEVENT\nDTSTART:20270509\nSUMMARY:Web\nEND:VEVENT\nEND:VCALENDAR\n");
+    Write_File(L"out.ini", "\"Tooltips=2\"\r\n\"Unknown=1\"\r\n");
     Write_Data(old);
     Open();
     const std::string warning = "warning [Vellatro] ";

@@ -247,17 +247,12 @@ TEST_F(Random_Use, Goes_On) {
     const auto seed = given ? static_cast<unsigned>(std::strtoul(given, nullptr, 10)) : unsigned{begin};
     random_.seed(seed);
     std::printf("seed %u\n", seed);
-    const std::wstring folder = Data_Path().substr(0, Data_Path().rfind(L'\\') + 1);
-    const auto put = [&](const std::wstring &name, const std::string &bytes) {
-        FILE *file = _wfopen((folder + name).c_str(), L"wb");
-        ASSERT_TRUE(file && std::fwrite(bytes.data(), 1, bytes.size(), file) == bytes.size());
-        std::fclose(file);
-    };
-    CreateDirectoryW((folder + L"Default").c_str(), nullptr);
-    put(L"Default\\settings.ini", "1=0-3-1\r\n5=1-0-1\r\n6=0-6-0\r\n");
+    CreateDirectoryW(Path_Of(L"Default").c_str(), nullptr);
+    Write_File(L"Default\\settings.ini", "1=0-3-1\r\n5=1-0-1\r\n6=0-6-0\r\n");
     for (int month = 1; month <= 12; ++month)
-        put(L"Default\\" + std::to_wstring(month) + L".jpg", Small_Jpeg(month));
-    put(L"in.csv", "\"Subject\",\"Start Date\",\"Description\"\r\n\"Vellatro\",\"5/6/2027\",\"New\"\r\n");
+        Write_File(L"Default\\" + std::to_wstring(month) + L".jpg", Small_Jpeg(month));
+    Write_File(L"in.csv",
+               "\"Subject\",\"Start Date\",\"Description\"\r\n\"Vellatro\",\"5/6/2027\",\"New\"\r\n");
     Write_Data("\"12/5/9999=Always\"\r\n\"6/5/2027=Once\"\r\n");
     Set_Setting("Settings", "Allow Dragging", "0");
     const auto minute = [begin] { return static_cast<int>((GetTickCount() - begin) / 60000); };
