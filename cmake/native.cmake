@@ -1,6 +1,7 @@
 # Unit tests, benchmarks and fuzz targets on the building machine, with fakes in the place of the operating system.
 add_library(vellatro_portable STATIC ${portable_sources})
 target_link_libraries(vellatro_portable PUBLIC vellatro_options)
+Precompile(vellatro_portable toolkit/form.h)
 file(GLOB fake_sources CONFIGURE_DEPENDS tests/fakes/*.cpp)
 add_library(vellatro_fakes STATIC ${fake_sources})
 target_link_libraries(vellatro_fakes PUBLIC vellatro_portable)
@@ -31,8 +32,7 @@ else()
     if(test_sources)
         add_executable(vellatro_tests ${test_sources})
         target_link_libraries(vellatro_tests PRIVATE vellatro_portable GTest::gtest GTest::gtest_main)
-        # Nearly all of a test's build goes into the headers that it shares with the others.
-        target_precompile_headers(vellatro_tests PRIVATE tests/settings/settings_test.h <functional> <vector>)
+        Precompile(vellatro_tests tests/settings/settings_test.h)
         gtest_discover_tests(vellatro_tests)
     endif()
     add_executable(calendar_days tests/transfer/calendar_days.cpp)
