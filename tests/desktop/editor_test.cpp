@@ -78,6 +78,9 @@ TEST_F(Editor, Saves_Refuses_And_Asks) {
     ASSERT_TRUE(
         Asks("warning [Vellatro] Make sure you haven't used any quotation marks (\") in your entry."));
     program->Answer();
+    EXPECT_EQ(Text_Of(Part(message_txt)), "a \"quote\"");
+    Push(cancel_btn); // without a question
+    Open(saturday, "Each May");
     Type("New");
     for (const WORD answer : {WORD{IDCANCEL}, WORD{IDYES}}) {
         program->Double_Click(sunday);
