@@ -1,21 +1,22 @@
 # The program and, for the desktop tests, the programs that drive it.
 enable_language(RC)
 
-add_executable(vellatro WIN32 ${portable_sources} app/main.cpp app/cxx_runtime.cpp)
-file(GLOB win32_sources CONFIGURE_DEPENDS win32/*.cpp)
-target_sources(vellatro PRIVATE ${win32_sources} win32/vellatro.rc)
-set_source_files_properties(win32/vellatro.rc PROPERTIES
-    OBJECT_DEPENDS "${CMAKE_SOURCE_DIR}/win32/vellatro.manifest;${CMAKE_SOURCE_DIR}/win32/vellatro.ico")
-target_include_directories(vellatro PRIVATE ${CMAKE_SOURCE_DIR}/win32)
-target_compile_definitions(vellatro PRIVATE _WIN32_WINNT=0x0601 WINVER=0x0601 _WIN32_IE=0x0700 NOMINMAX
+# How the product is compiled: the program, and the platform's procedures, which the contract tests share.
+add_library(vellatro_product_options INTERFACE)
+target_link_libraries(vellatro_product_options INTERFACE vellatro_options)
+target_include_directories(vellatro_product_options INTERFACE ${CMAKE_SOURCE_DIR}/win32)
+target_compile_definitions(vellatro_product_options INTERFACE _WIN32_WINNT=0x0601 WINVER=0x0601 _WIN32_IE=0x0700
+    NOMINMAX
     # No function of the system throws: what Windows calls back catches at the border.
     "$<$<COMPILE_LANGUAGE:CXX>:DECLSPEC_IMPORT=__attribute__((dllimport,nothrow))>")
-target_compile_options(vellatro PRIVATE
+target_compile_options(vellatro_product_options INTERFACE
     $<$<COMPILE_LANGUAGE:CXX>:-Oz -flto -ffunction-sections -fdata-sections -fno-rtti -fmerge-all-constants
         # Or each file keeps constructors of its own that no linker can merge.
         -fno-declone-ctor-dtor
         # The only other thread, which hangs the wallpaper, uses no static variable of a function.
         -fno-threadsafe-statics>)
+# One partition: with several GCC 12 breaks off while it links.
+target_link_options(vellatro_product_options INTERFACE -Oz -flto -flto-partition=none -static -Wl,--gc-sections)
 # Here the constructors of the large forms are called once. Inlined into one another they run out of registers,
 # and each control costs more instructions.
 set_source_files_properties(app/program.cpp settings/settings_frm.cpp PROPERTIES
@@ -27,19 +28,29 @@ if(CMAKE_SIZEOF_VOID_P EQUAL 4)
     # which is safe as long as no function's frame leaps over a page.
     list(APPEND size_options -mno-stack-arg-probe -mno-accumulate-outgoing-args -mpreferred-stack-boundary=2
         -Werror=frame-larger-than=4000)
-    target_compile_options(vellatro PRIVATE "$<$<COMPILE_LANGUAGE:CXX>:${size_options}>")
+    target_compile_options(vellatro_product_options INTERFACE "$<$<COMPILE_LANGUAGE:CXX>:${size_options}>")
+    target_link_options(vellatro_product_options INTERFACE ${size_options})
 endif()
-# The same program with its symbols: they name the function of an address in a report of a crash.
-add_executable(vellatro_unstripped WIN32 EXCLUDE_FROM_ALL $<TARGET_OBJECTS:vellatro>)
+target_link_libraries(vellatro_product_options INTERFACE
+    comctl32 comdlg32 gdi32 user32 advapi32 shell32 ole32 oleaut32 oleacc uuid)
+
+file(GLOB win32_sources CONFIGURE_DEPENDS win32/*.cpp)
+add_library(vellatro_win32 OBJECT ${win32_sources})
+# The one with symbols names the function of an address in a report of a crash.
+add_executable(vellatro WIN32 ${portable_sources} app/main.cpp app/cxx_runtime.cpp win32/vellatro.rc
+    $<TARGET_OBJECTS:vellatro_win32>)
+add_executable(vellatro_unstripped WIN32 EXCLUDE_FROM_ALL $<TARGET_OBJECTS:vellatro> $<TARGET_OBJECTS:vellatro_win32>)
+set_source_files_properties(win32/vellatro.rc PROPERTIES
+    OBJECT_DEPENDS "${CMAKE_SOURCE_DIR}/win32/vellatro.manifest;${CMAKE_SOURCE_DIR}/win32/vellatro.ico")
+foreach(target vellatro_win32 vellatro vellatro_unstripped)
+    target_link_libraries(${target} PRIVATE vellatro_product_options)
+endforeach()
 foreach(program vellatro vellatro_unstripped)
-    target_link_libraries(${program} PRIVATE vellatro_options
-        comctl32 comdlg32 gdi32 user32 advapi32 shell32 ole32 oleaut32 oleacc uuid)
-    # One partition: with several GCC 12 breaks off while it links.
-    target_link_options(${program} PRIVATE -Oz -flto -flto-partition=none -static -Wl,--gc-sections
-        -Wl,--disable-auto-import -Wl,--nxcompat -Wl,--dynamicbase -Wl,--tsaware -Wl,--no-insert-timestamp)
+    target_link_options(${program} PRIVATE -Wl,--disable-auto-import -Wl,--nxcompat -Wl,--dynamicbase -Wl,--tsaware
+        -Wl,--no-insert-timestamp)
     if(CMAKE_SIZEOF_VOID_P EQUAL 4)
         # Windows 2000; the linker's own choice is Windows NT 4.0.
-        target_link_options(${program} PRIVATE ${size_options} -Wl,--subsystem,windows:5.0)
+        target_link_options(${program} PRIVATE -Wl,--subsystem,windows:5.0)
     endif()
 endforeach()
 target_link_options(vellatro PRIVATE -s)
@@ -56,4 +67,5 @@ file(GLOB desktop_test_list CONFIGURE_DEPENDS tests/desktop/CMakeLists.txt)
 if(desktop_test_list)
     add_subdirectory(tests/desktop)
     add_subdirectory(bench/desktop EXCLUDE_FROM_ALL)
+    add_subdirectory(tools/soak EXCLUDE_FROM_ALL)
 endif()

@@ -10,9 +10,9 @@ import sys
 # From the top down: a folder includes itself and those in the groups after its own.
 LEVELS = ('app', 'editor settings', 'transfer', 'calendar', 'ui', 'themes desktop', 'toolkit', 'core', 'platform', 'base')
 LEVEL_OF = {folder: level for level, folders in enumerate(LEVELS) for folder in folders.split()}
-FREE = ('tests', 'bench', 'fuzz')
-WITHOUT_SOURCES = ('build', 'cmake', 'tools', 'packs', 'docs')
-SEES_WINDOWS = ('win32/', 'tests/desktop/', 'tests/contract/', 'bench/desktop/')
+FREE = ('tests', 'bench', 'fuzz', 'tools')
+WITHOUT_SOURCES = ('build', 'cmake', 'packs', 'docs')
+SEES_WINDOWS = ('win32/', 'tests/desktop/', 'tests/contract/', 'bench/desktop/', 'tools/soak/')
 WINDOWS_HEADER = re.compile(
     r'(win(dows|dowsx|def|base|user|gdi|reg|nls)|comm(ctrl|dlg)|objbase|ole(2|auto|ctl|acc)|shellapi|shlobj|'
     r'shlwapi|tchar|tlhelp32|psapi|uxtheme|io|direct)\.h', re.IGNORECASE)

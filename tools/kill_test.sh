@@ -10,9 +10,9 @@ times=${1:-200}
 [[ $times =~ ^[1-9][0-9]*$ ]] || Fail "kill_test.sh [TIMES]" 2
 rounds=$(((times + 1) / 2 + 1)) # the first one kills no import
 out=$PROJECT/build/kills
-Desktop_Open "$out"
+Desktop_Open "$out" vellatro shell_standin kill_rounds
 WINE_OUT=$out/kills.log
-Desktop_Drive "$out" $((rounds * 60 + 60)) desktop_kills "--gtest_repeat=$rounds" || true
+Desktop_Drive "$out" $((rounds * 60 + 60)) kill_rounds "--gtest_repeat=$rounds" || true
 good=$(grep -c '^\[       OK ' "$WINE_OUT") || true
 [ "$good" = "$rounds" ] || Fail "$((rounds - good)) of $rounds rounds have failed; see $WINE_OUT"
 echo "$((2 * rounds - 1)) kills, the data file whole after each"

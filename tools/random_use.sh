@@ -10,9 +10,9 @@ set -euo pipefail
 export VT_MINUTES=${1:-60}
 [[ $VT_MINUTES =~ ^[1-9][0-9]*$ ]] || Fail "random_use.sh [MINUTES]" 2
 out=$PROJECT/build/random
-Desktop_Open "$out"
+Desktop_Open "$out" vellatro shell_standin random_use
 WINE_OUT=$out/random.log
 code=0
-Desktop_Drive "$out" $((VT_MINUTES * 60 + 300)) desktop_tests --gtest_filter='Random_Use.*' || code=$?
+Desktop_Drive "$out" $((VT_MINUTES * 60 + 300)) random_use || code=$?
 grep -vE '^(\[|Note:|$)' "$WINE_OUT"
 [ "$code" = 0 ] || Fail "The program did not stand it; see $WINE_OUT"

@@ -4,6 +4,7 @@
 #include "calendar/main_frm.h"
 #include "tests/fakes/form_test.h"
 
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -20,6 +21,21 @@ protected:
         Data_File().clear();
         for (const std::string &record : records)
             Data_File() += "\"" + record + "\"\r\n";
+    }
+
+    static std::string In_Pack(const std::string &pack, const std::string &file) {
+        return "C:\\Vellatro\\" + pack + "\\" + file;
+    }
+    /// Month m has the value text 0-m-1, unless it has another one, and a picture that is m pixels wide.
+    static void Make_Pack(const std::string &pack, const std::string &more_details = {}) {
+        std::string &ini = Fakes().files[In_Pack(pack, "settings.ini")] = "";
+        for (int month = 1; month <= 12; ++month) {
+            const std::string path = In_Pack(pack, std::to_string(month) + ".jpg");
+            Fakes().files[path] = "a picture";
+            Fakes().pictures[path] = {month, 1, std::make_shared<std::vector<std::uint8_t>>(month * 3)};
+            ini += std::to_string(month) + "=0-" + std::to_string(month) + "-1\r\n";
+        }
+        ini += more_details;
     }
 
     void Start() { ASSERT_TRUE(form.Form_Load()); }

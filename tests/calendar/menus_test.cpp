@@ -105,6 +105,14 @@ TEST_F(Menus, keys_move_the_mark_over_the_month_s_edges) {
     };
     Start();
     Press_Key(form, 39); // shows it on today
+    for (const auto &[key, year] : {std::pair(33, 2001), {33, 2000}, {34, 2001}, {34, 2002}}) {
+        Input(form, {.kind = Input_Kind::Key_Down, .key = key, .control_key = true});
+        EXPECT_TRUE(form.Cur_Year == year && form.Cur_Month == 3) << year;
+    }
+    Input(form, {.kind = Input_Kind::Focus_Changed, .checked = true}); // the editor went, by Alt and F4
+    Input(form, {.kind = Input_Kind::Key_Up, .key = 115});
+    Input(form, {.kind = Input_Kind::Key_Up, .key = 115, .alt = true});
+    EXPECT_EQ(form.Cur_Month, 3);
     for (const auto &row : rows) {
         Show_Month(row.from.month, row.from.year);
         Click(form, Box_Of(row.from.day)); // takes the mark along

@@ -30,6 +30,11 @@ TEST_F(Month_Grid, lays_months_out_and_marks_today) {
     Show_Month(3, 2002);
     EXPECT_EQ(Box_Of(5).Access().name + Box_Of(22).Access().name,
               "Tuesday 5th March 2002, todayFriday 22nd March 2002");
+    for (const Label *arrow : {&form.Prev_Month_Lbl, &form.Next_Month_Lbl}) { // it points outwards
+        const auto corners = Painted(form, arrow->Bounds()).operations.back().corners;
+        ASSERT_EQ(corners.size(), 3U);
+        EXPECT_EQ(corners[0].x < corners[1].x, arrow == &form.Prev_Month_Lbl);
+    }
 }
 
 TEST_F(Month_Grid, events_go_to_their_days_as_far_as_the_file_is_sound) {

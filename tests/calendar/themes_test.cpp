@@ -38,11 +38,21 @@ TEST_F(Themes, A_Pack_Rules_Wallpaper_Style_And_Position) {
     EXPECT_TRUE(form.Effective_Style() == 1 && form.Left() == 300);
     // A box style key steps from the one that is seen.
     Cur_Settings.Style = 0;
-    Fakes().Expect_Box("You can't change the box style because Use Theme Style is selected. Do you want to "
-                       "turn off Use Theme Style?",
-                       platform::Box_Answer::Yes);
-    Press_Key(form, 119);
+    for (const auto answer :
+         {platform::Box_Answer::Cancel, platform::Box_Answer::No, platform::Box_Answer::Yes}) {
+        EXPECT_EQ(Stored("Style") + Stored("Use Theme Style") + std::to_string(form.Effective_Style()), "1");
+        Fakes().Expect_Box("You can't change the box style because Use Theme Style is selected. Do you want "
+                           "to turn off Use Theme Style?",
+                           answer);
+        Press_Key(form, 119);
+    }
     EXPECT_EQ(Stored("Style") + Stored("Use Theme Style") + std::to_string(form.Effective_Style()), "000");
+    // A store that refuses is told, and the style stays what it was.
+    Fakes().registry_refuses_writes = true;
+    Fakes().Expect_Box("Software\\Vellatro\\Settings cannot be written");
+    Press_Key(form, 119);
+    EXPECT_TRUE(Cur_Settings.Style == 0 && form.Effective_Style() == 0);
+    Fakes().registry_refuses_writes = false;
     // What is not wanted is not even read.
     Fakes().files[In_Pack("settings.ini")] = "4=x-y-1";
     Cur_Settings.Use_Theme_Pos = Cur_Settings.Use_Theme_Style = 0;

@@ -246,30 +246,29 @@ HWND Program::Window(std::string_view class_name) const {
     return nullptr;
 }
 
-std::vector<Item> Program::Items() const {
+// Each property is a call into the other process: only those that are wanted are asked for.
+std::vector<Item> Program::Items(long role, std::size_t most) const {
     std::vector<Item> items;
     if (const Accessible accessible = Accessible_Of(Calendar()))
-        for (const VARIANT &child : Children_Of(*accessible))
-            items.push_back(Item_Of(*accessible, child));
-    return items;
-}
-
-std::vector<Item> Program::Items(long role) const {
-    std::vector<Item> items = Items();
-    std::erase_if(items, [role](const Item &item) { return item.role != role; });
+        for (const VARIANT &child : Children_Of(*accessible)) {
+            VARIANT is{};
+            if (items.size() < most && (role == 0 || (accessible->get_accRole(child, &is), is.lVal == role)))
+                items.push_back(Item_Of(*accessible, child));
+        }
     return items;
 }
 
 Item Program::Named(std::string_view name) const {
-    for (const Item &item : Items())
-        if (item.name == name)
-            return item;
+    if (const Accessible accessible = Accessible_Of(Calendar()))
+        for (const VARIANT &child : Children_Of(*accessible))
+            if (Text_Of(*accessible, &IAccessible::get_accName, child) == name)
+                return Item_Of(*accessible, child);
     return {};
 }
 
 std::string Program::Title() const {
-    const std::vector<Item> titles = Items(ROLE_SYSTEM_STATICTEXT);
-    return titles.size() == 1 ? titles.front().name : "";
+    const std::vector<Item> titles = Items(ROLE_SYSTEM_STATICTEXT, 1);
+    return titles.empty() ? "" : titles.front().name;
 }
 
 void Program::Do_Default(std::string_view name) const {

@@ -5,6 +5,7 @@
 #include <windows.h>
 
 #include <array>
+#include <cstdint>
 #include <functional>
 #include <gtest/gtest.h>
 #include <memory>
@@ -47,8 +48,6 @@ void Send_Key(WORD key, bool with_alt = false); ///< down and up
 void Send_Text(std::string_view ascii);
 /// Clicks into the middle of a dialog's control, once nothing covers it, and waits for the effect.
 void Click_On(HWND window, const std::function<bool()> &done);
-/// Gives a dialog's control the keyboard by its access key.
-void Focus_On(HWND window, WORD access_key);
 bool Has_Keyboard(HWND window);
 /// What a control of a dialog tells assistive technology of itself; with `act`, its default action is asked
 /// for.
@@ -88,9 +87,8 @@ public:
 
     HWND Window(std::string_view class_name) const; ///< null until it is visible
     HWND Calendar() const { return Window("Vellatro_Calendar"); }
-    /// All that the calendar presents; nothing when there is no calendar or it does not answer.
-    std::vector<Item> Items() const;
-    std::vector<Item> Items(long role) const;
+    /// What the calendar presents, of a role or all; nothing when there is no calendar or it does not answer.
+    std::vector<Item> Items(long role = 0, std::size_t most = SIZE_MAX) const;
     /// The item of that name, or an empty one.
     Item Named(std::string_view name) const;
     std::string Title() const;
@@ -155,9 +153,13 @@ protected:
 
     void Stop_All() { programs_.clear(); }
 
-    const std::wstring &Data_Path() const { return data_path_; } ///< of calendar.dat
-    void Write_Data(std::string_view bytes) const;
-    std::string Data() const;
+    /// A file or folder beside the program.
+    std::wstring Path_Of(const std::wstring &name) const { return folder_ + L"\\" + name; }
+    void Write_File(const std::wstring &name, std::string_view bytes) const;
+    std::string Read_File(const std::wstring &name) const; ///< empty where there is none
+    std::wstring Data_Path() const { return Path_Of(L"calendar.dat"); }
+    void Write_Data(std::string_view bytes) const { Write_File(L"calendar.dat", bytes); }
+    std::string Data() const { return Read_File(L"calendar.dat"); }
 
     /// Takes a picture for people to look at, once the screen has come to rest.
     static void Save_Picture(const std::string &name);
@@ -170,6 +172,5 @@ protected:
 
 private:
     std::wstring folder_;
-    std::wstring data_path_;
     std::vector<std::unique_ptr<Program>> programs_;
 };

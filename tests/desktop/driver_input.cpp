@@ -83,19 +83,10 @@ void Click_On(HWND window, const std::function<bool()> &done) {
                 Raise(GetAncestor(window, GA_ROOT));
             return seen == window;
         })) << "there is nothing to click";
-        Send_Mouse(Middle(place), MOUSEEVENTF_LEFTDOWN);
-        Send_Mouse(Middle(place), MOUSEEVENTF_LEFTUP);
+        Send_Mouse({{Middle(place), MOUSEEVENTF_LEFTDOWN}, {Middle(place), MOUSEEVENTF_LEFTUP}});
         Wait_Until(done, 2000);
     }
     EXPECT_TRUE(done()) << "no effect of a click";
-}
-
-void Focus_On(HWND window, WORD access_key) {
-    for (int i = 0; i < 3 && !Has_Keyboard(window); ++i) { // a key is lost while X changes the focus
-        Send_Key(access_key, true);
-        Wait_Until([window] { return Has_Keyboard(window); }, 2000);
-    }
-    EXPECT_TRUE(Has_Keyboard(window)) << "no keyboard by an access key";
 }
 
 void Program::Answer(WORD button) const {
@@ -132,10 +123,10 @@ bool Program::Uncover(POINT point) const {
 
 void Program::Click(const RECT &place, DWORD button, int times) const {
     EXPECT_TRUE(Uncover(Middle(place))) << "there is nothing to click";
-    for (int i = 0; i < times; ++i) {
-        Send_Mouse(Middle(place), button);
-        Send_Mouse(Middle(place), 2 * button); // the bit of its release
-    }
+    std::vector<std::pair<POINT, DWORD>> steps;
+    for (int i = 0; i < 2 * times; ++i) // the next bit is that of the button's release
+        steps.push_back({Middle(place), button << (i % 2)});
+    Send_Mouse(steps);
 }
 
 bool Program::Open_Menu(POINT place) const {
@@ -159,7 +150,7 @@ HWND Program::Open_Settings() const {
     HWND dialog = nullptr;
     for (int i = 0; i < 3 && !dialog; ++i) {
         std::vector<Item> days;
-        EXPECT_TRUE(Wait_Until([&] { return !(days = Items(ROLE_SYSTEM_CELL)).empty(); }));
+        EXPECT_TRUE(Wait_Until([&] { return !(days = Items(ROLE_SYSTEM_CELL, 1)).empty(); }));
         if (!days.empty() && Open_Menu(Middle(days[0].place)))
             Choose({VK_DOWN, VK_DOWN, VK_DOWN, VK_RETURN});
         Wait_Until([&] { return (dialog = Window("Vellatro_Settings_Frm")) != nullptr; });

@@ -67,9 +67,8 @@ void Desktop_Test::SetUp() {
     folder_ = Scratch + L"\\" + Wide(Test_Name());
     CreateDirectoryW(folder_.c_str(), nullptr);
     folder_ += L"\\Vellatro";
-    data_path_ = folder_ + L"\\calendar.dat";
     CreateDirectoryW(folder_.c_str(), nullptr);
-    ASSERT_TRUE(CopyFileW(Program_Path.c_str(), (folder_ + L"\\vellatro.exe").c_str(), FALSE));
+    ASSERT_TRUE(CopyFileW(Program_Path.c_str(), Path_Of(L"vellatro.exe").c_str(), FALSE));
     Clear_Store();
     Set_Regional("sShortDate", "M/d/yyyy");
     Set_Regional("iFirstDayOfWeek", "6");
@@ -131,7 +130,7 @@ void Desktop_Test::Exchange_Shell(const std::wstring &options) {
 }
 
 Program &Desktop_Test::Start() {
-    programs_.push_back(std::make_unique<Program>(folder_ + L"\\vellatro.exe", folder_));
+    programs_.push_back(std::make_unique<Program>(Path_Of(L"vellatro.exe"), folder_));
     return *programs_.back();
 }
 
@@ -160,15 +159,15 @@ Program &Desktop_Test::Calendar_Inside() {
     return *programs_.back();
 }
 
-void Desktop_Test::Write_Data(std::string_view bytes) const {
-    FILE *file = _wfopen(data_path_.c_str(), L"wb");
+void Desktop_Test::Write_File(const std::wstring &name, std::string_view bytes) const {
+    FILE *file = _wfopen(Path_Of(name).c_str(), L"wb");
     ASSERT_TRUE(file && std::fwrite(bytes.data(), 1, bytes.size(), file) == bytes.size());
     std::fclose(file);
 }
 
-std::string Desktop_Test::Data() const {
+std::string Desktop_Test::Read_File(const std::wstring &name) const {
     std::string bytes;
-    FILE *file = _wfopen(data_path_.c_str(), L"rb");
+    FILE *file = _wfopen(Path_Of(name).c_str(), L"rb");
     if (!file)
         return bytes;
     std::size_t got = 1;

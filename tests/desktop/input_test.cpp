@@ -1,29 +1,11 @@
-// What the user does and is told: the alert, keys and mouse, a second start, the end.
+// A second start, and the end by the keyboard and by a message.
 #include "tests/desktop/driver.h"
 
 #include <windows.h>
 
-#include <oleacc.h>
-
 namespace {
 
 using Input = Desktop_Test;
-
-TEST_F(Input, Alert_Comes_Once) {
-    Write_Data(
-        "\"12/5/2026=Last year\"\r\n\"12/5/9999=Anniversary, = 25\"\r\n\"12/5/2027=Not told any more\"\r\n");
-    const Program &program = Start();
-    ASSERT_TRUE(Becomes(
-        std::string("[Vellatro] Today: 5/12/2027\r\nAnniversary, = 25"), [&] { return program.Box(); },
-        15000));
-    program.Answer();
-    const auto text = [&] { return program.Named("Wednesday 12th May 2027, today").value; };
-    ASSERT_TRUE(Becomes(std::string("Not told any more"), text));
-    program.Press(VK_F1);
-    ASSERT_TRUE(Becomes(std::string("[Vellatro] Today: 5/12/2027\r\nNot told any more"),
-                        [&] { return program.Box(); }));
-    program.Answer();
-}
 
 TEST_F(Input, Second_Start_Ends_Itself) {
     const Program &first = Start_Calendar();

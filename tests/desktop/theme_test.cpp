@@ -1,8 +1,6 @@
-// Theme packs as a user has them: the month's picture on the desktop, and packs with something missing.
+// Theme packs as a user has them: the month's picture on the desktop, and the preview of all months.
 #include "tests/contract/small_jpeg.h"
 #include "tests/desktop/driver.h"
-
-#include <cstdio>
 
 namespace {
 
@@ -10,7 +8,7 @@ class Themed : public Desktop_Test {
 protected:
     void SetUp() override {
         Desktop_Test::SetUp();
-        folder_ = Data_Path().substr(0, Data_Path().rfind(L'\\')) + L"\\Default";
+        folder_ = Path_Of(L"Default");
         Set_Setting("Settings", "Use Themes", "1");
         SystemParametersInfoW(SPI_SETDESKWALLPAPER, 0, const_cast<wchar_t *>(L""), SPIF_UPDATEINIFILE);
         CreateDirectoryW(folder_.c_str(), nullptr);
@@ -20,9 +18,7 @@ protected:
     }
 
     void Put(const std::wstring &name, std::string_view bytes) const {
-        FILE *file = _wfopen((folder_ + L"\\" + name).c_str(), L"wb");
-        ASSERT_TRUE(file && std::fwrite(bytes.data(), 1, bytes.size(), file) == bytes.size());
-        std::fclose(file);
+        Write_File(L"Default\\" + name, bytes);
     }
 
     /// The size of a file of the pack, 0 for none.
@@ -70,51 +66,8 @@ TEST_F(Themed, The_Months_Picture_Is_The_Wallpaper) {
     ShowWindow(shell, SW_SHOWNA);
 }
 
-TEST_F(Themed, What_Is_Missing_Is_Told_And_The_Calendar_Appears) {
-    const std::string told = "stop [Vellatro] ";
-    const auto path = [&](const wchar_t *name) {
-        const std::wstring wide = Folder() + name;
-        return std::string(wide.begin(), wide.end());
-    };
-    const std::string jpeg = "The wallpaper of May cannot be shown.\r\n\r\n" + path(L"\\5.jpg: ");
-    const struct {
-        const char *pack;
-        std::wstring name;
-        bool goes;
-        std::string bytes, box;
-    } cases[] = {
-        {"Gone", L"", false, "", "Missing Theme Gone. Themes will now be disabled."},
-        {"..", L"", false, "", "Missing Theme ... Themes will now be disabled."},
-        {"Default", L"5.jpg", false, Small_Jpeg(5).substr(0, 100), jpeg + "This is no JPEG"},
-        {"Default", L"5.jpg", false, "Only text.\r\n", jpeg + "This is no JPEG"},
-        {"Default", L"5.jpg", true, "", jpeg},
-        {"Default", L"settings.ini", true, "",
-         "Error loading in Settings file...\r\n\r\n" + path(L"\\settings.ini")},
-    };
-    for (const auto &[pack, name, goes, bytes, box] : cases) {
-        SCOPED_TRACE(box);
-        Set_Setting("Settings", "Use Themes", "1");
-        Set_Setting("Settings", "Pack Name", pack);
-        if (goes)
-            ASSERT_TRUE(DeleteFileW((Folder() + L"\\" + name).c_str()));
-        else if (!name.empty())
-            Put(name, bytes);
-        const Program &program = Start();
-        std::string seen;
-        EXPECT_TRUE(Wait_Until([&] { return (seen = program.Box()).starts_with(told + box); }, 15000))
-            << seen;
-        program.Answer();
-        EXPECT_TRUE(Wait_Until([&] { return !program.Items().empty(); }, 15000));
-        EXPECT_EQ(Wallpaper(), L"0 2 ");
-        EXPECT_EQ(Store().find("Use Themes=0") != std::string::npos, box[0] == 'M');
-        EXPECT_EQ(Size(L"5.bmp"), 0U);
-        Stop_All();
-    }
-}
-
 // The controls of the dialog's page, from its first one.
-constexpr int use_chk = 0, packs_cbo = 2, display_lbl = 4, style_lbl = 5, pos_lbl = 6, month_lbl = 8,
-              month_sli = 9, preview_btn = 16;
+constexpr int use_chk = 0, preview_btn = 16;
 
 class Wallpaper_Page : public Themed {
 protected:
@@ -139,56 +92,9 @@ protected:
         return GetDlgItem(dialog_, GetDlgCtrlID(first) + control);
     }
     bool Ticked() const { return SendMessageA(Part(use_chk), BM_GETCHECK, 0, 0) == BST_CHECKED; }
-    ::testing::AssertionResult Shows(const std::vector<std::string> &labels) const {
-        return Becomes(labels, [this] {
-            std::vector<std::string> texts;
-            for (const int label : {packs_cbo, display_lbl, style_lbl, pos_lbl, month_lbl})
-                texts.push_back(Text_Of(Part(label)));
-            return texts;
-        });
-    }
     Program *program_ = nullptr;
     HWND dialog_ = nullptr;
 };
-
-TEST_F(Wallpaper_Page, Offers_Packs_And_Refuses_One_Without_December) {
-    program_ = &Start_Calendar();
-    dialog_ = program_->Open_Settings();
-    const auto packs = [&] { return SendMessageA(Part(packs_cbo), CB_GETCOUNT, 0, 0); };
-    ASSERT_EQ(packs(), 0);
-    Click_On(Part(use_chk), [&] { return !program_->Box().empty(); });
-    EXPECT_EQ(program_->Box(), "warning [Vellatro] No Themes Available!");
-    program_->Answer();
-    EXPECT_FALSE(Ticked());
-    EXPECT_TRUE(Shows({"", "Display:", "Box Style:", "Position:", "&Month: May"}));
-    const std::vector<std::string> may = {"Default", "Display: Tile", "Box Style: Square Box",
-                                          "Position: Bottom Right", "&Month: May"};
-    const std::pair<const wchar_t *, int> packs_put[] = {{L"Default", 12}, {L"Lacking", 11}};
-    for (const auto &[pack, pictures] : packs_put) {
-        Put_Pack(pack, pictures);
-        Send_Key(VK_ESCAPE);
-        ASSERT_TRUE(Wait_Until([&] { return !IsWindow(dialog_); }));
-        dialog_ = program_->Open_Settings();
-        EXPECT_EQ(packs(), pictures == 12 ? 1 : 2);
-        EXPECT_FALSE(IsWindowEnabled(Part(packs_cbo)));
-        Click_On(Part(use_chk), [&] { return Ticked(); });
-        for (const int control : {packs_cbo, month_sli, preview_btn})
-            EXPECT_TRUE(Wait_Until([&] { return IsWindowEnabled(Part(control)); })) << control;
-        EXPECT_TRUE(Shows(may));
-        Focus_On(Part(month_sli), 'M');
-        Send_Key(VK_RIGHT);
-        EXPECT_TRUE(
-            Shows({"Default", "Display: Stretch", "Box Style: Thin Box", "Position: ", "&Month: June"}));
-    }
-    Focus_On(Part(packs_cbo), 'K');
-    Send_Key(VK_DOWN);
-    ASSERT_TRUE(
-        Becomes(std::string("stop [Vellatro] Error Loading Theme."), [&] { return program_->Box(); }));
-    program_->Answer();
-    EXPECT_TRUE(Shows(may));
-    EXPECT_EQ(program_->Box(), "");
-    EXPECT_EQ(Wallpaper(), L"1 0 ") << "by looking alone";
-}
 
 TEST_F(Wallpaper_Page, An_Abandoned_Preview_Leaves_No_Trace) {
     Put_Pack(L"Default", 12);

@@ -1,9 +1,12 @@
-// The program over time: midnight, rest, and many changes of the month.
+// The program over time: midnight, rest, and windows that come and go.
 #include "tests/desktop/driver.h"
 
 #include <windows.h>
 
+#include <commctrl.h>
 #include <oleacc.h>
+
+#include <functional>
 
 namespace {
 
@@ -76,108 +79,49 @@ TEST_F(Time, Rests_While_Nothing_Happens) {
     CloseHandle(held);
 }
 
-/// What can be open while time goes on, and how a user opens and closes it.
-class Opened : public Desktop_Test {
-protected:
-    struct Row {
+TEST_F(Time, What_Opens_And_Closes_Leaves_Nothing_Behind) {
+    Write_Data("\"8/5/2027=Held\"\r\n");
+    Set_Setting("Settings", "Tooltips", "2");
+    const Program &program = Start_Calendar();
+    constexpr const char *day = "Saturday 8th May 2027";
+    const POINT place = Middle(program.Named(day).place);
+    WPARAM page = 0; // of the settings, another one each time
+    const struct {
         const char *window;
         std::function<void()> open, close;
-    };
-    void SetUp() override {
-        Desktop_Test::SetUp();
-        Write_Data("\"8/5/2027=Held\"\r\n");
-        Set_Setting("Settings", "Tooltips", "2");
-        program_ = &Start_Calendar();
-        day_ = Middle(program_->Named(saturday).place);
-    }
-    /// There is the text that was typed, which goes into its own day.
-    void Save_Typed() {
-        EXPECT_EQ(Text_Of(GetDlgItem(program_->Window("Vellatro_Edit_Frm"), 102)), "HeldUnsaved");
-        PostMessageW(GetDlgItem(program_->Window("Vellatro_Edit_Frm"), 104), BM_CLICK, 0, 0);
-        EXPECT_TRUE(Becomes(std::string("\"8/5/2027=HeldUnsaved\"\r\n"), [this] { return Data(); }));
-        Write_Data("\"8/5/2027=Held\"\r\n");
-    }
-
-    static constexpr const char *saturday = "Saturday 8th May 2027";
-    const Program *program_ = nullptr;
-    POINT day_{};
-    const Row rows_[4] = {
-        {"#32768", [this] { program_->Open_Menu(day_); }, [this] { program_->Choose({VK_ESCAPE}); }},
-        {"Vellatro_Balloon", [this] { Send_Mouse(day_, MOUSEEVENTF_LEFTDOWN); },
-         [this] { Send_Mouse(day_, MOUSEEVENTF_LEFTUP); }},
-        {"Vellatro_Settings_Frm", [this] { program_->Open_Settings(); },
-         [this] { PostMessageW(program_->Window("Vellatro_Settings_Frm"), WM_CLOSE, 0, 0); }},
-        {"Vellatro_Edit_Frm",
-         [this] {
-             program_->Do_Default(saturday);
-             const auto text = [this] { return GetDlgItem(program_->Window("Vellatro_Edit_Frm"), 102); };
-             EXPECT_TRUE(Wait_Until([&] { return Has_Keyboard(text()); }));
-             for (const char letter : std::string("Unsaved"))
-                 PostMessageW(text(), WM_CHAR, static_cast<WPARAM>(letter), 1);
-             EXPECT_TRUE(Becomes(std::string("HeldUnsaved"), [&] { return Text_Of(text()); }));
-         },
-         [this] { Save_Typed(); }}};
-};
-
-TEST_F(Opened, Leaves_Nothing_Behind) {
+    } rows[] = {{"#32768", [&] { program.Open_Menu(place); }, [&] { program.Choose({VK_ESCAPE}); }},
+                {"Vellatro_Balloon", [&] { Send_Mouse(place, MOUSEEVENTF_LEFTDOWN); },
+                 [&] { Send_Mouse(place, MOUSEEVENTF_LEFTUP); }},
+                {"Vellatro_Settings_Frm",
+                 [&] {
+                     const HWND tabs =
+                         FindWindowExW(program.Open_Settings(), nullptr, WC_TABCONTROLW, nullptr);
+                     SendMessageW(tabs, TCM_SETCURFOCUS, page++ % 8, 0);
+                 },
+                 [&] { PostMessageW(program.Window("Vellatro_Settings_Frm"), WM_CLOSE, 0, 0); }},
+                {"Vellatro_Edit_Frm", [&] { program.Do_Default(day); },
+                 [&] { PostMessageW(program.Window("Vellatro_Edit_Frm"), WM_CLOSE, 0, 0); }}};
     // What the system makes once and keeps goes on for a while; a leak would go on for ever.
     ::testing::AssertionResult same = ::testing::AssertionFailure();
     Program::Held before{};
     for (int round = 0; round < 40 && !same; ++round) {
         if (round % 10 == 0)
-            before = program_->Holds();
-        for (const Row &row : rows_) {
-            program_->Uncover(day_);
-            row.open();
-            ASSERT_TRUE(Wait_Until([&] { return program_->Window(row.window) != nullptr; })) << row.window;
-            row.close();
-            ASSERT_TRUE(Wait_Until([&] { return program_->Windows(true) == 1; })) << row.window;
+            before = program.Holds();
+        for (const auto &[window, open, close] : rows) {
+            program.Uncover(place);
+            open();
+            ASSERT_TRUE(Wait_Until([&, name = window] { return program.Window(name) != nullptr; })) << window;
+            close();
+            ASSERT_TRUE(Wait_Until([&] { return program.Windows(true) == 1; })) << window;
         }
         for (const char *title : {"June - 2027", "12th May - 2027"}) {
-            program_->Do_Default(*title == 'J' ? "Next month" : "Previous month");
-            ASSERT_TRUE(Becomes(std::string(title), [this] { return program_->Title(); }));
+            program.Do_Default(*title == 'J' ? "Next month" : "Previous month");
+            ASSERT_TRUE(Becomes(std::string(title), [&] { return program.Title(); }));
         }
         if (round % 10 == 9)
-            same = program_->Holds_No_More_Than(before);
+            same = program.Holds_No_More_Than(before);
     }
     EXPECT_TRUE(same);
-}
-
-TEST_F(Opened, Bears_Jumps_Of_The_Clock) {
-    const struct {
-        WORD year, month, day;
-        const char *title;
-        std::size_t days;
-    } jumps[] = {{2027, 5, 13, "13th May - 2027", 31},
-                 {2028, 2, 13, "13th February - 2028", 29},
-                 {2026, 12, 31, "31st December - 2026", 31},
-                 {2027, 5, 12, "12th May - 2027", 31}};
-    for (const Row &row : rows_) {
-        SCOPED_TRACE(row.window);
-        const auto open = [&] {
-            program_->Uncover(day_);
-            row.open();
-            return Wait_Until([&] { return program_->Window(row.window) != nullptr; });
-        };
-        ASSERT_TRUE(open());
-        if (&row >= rows_ + 2)
-            Send_Key(VK_MENU); // which opens no menu
-        for (const auto &[year, month, day, title, days] : jumps) {
-            Set_Clock(year, month, day, 12, 0, 0);
-            const bool menu = row.window == rows_[0].window;
-            if (menu) { // what the clock asks for waits for its end
-                Sleep(1100);
-                EXPECT_NE(program_->Title(), title);
-                row.close();
-            }
-            ASSERT_TRUE(Becomes(std::string(title), [this] { return program_->Title(); }));
-            EXPECT_TRUE(Becomes(days, [this] { return program_->Items(ROLE_SYSTEM_CELL).size(); }));
-            ASSERT_TRUE(!menu || open());
-        }
-        row.close();
-        ASSERT_TRUE(Wait_Until([&] { return program_->Windows(true) == 1; }));
-        EXPECT_EQ(program_->Named(saturday).value.substr(0, 4), "Held");
-    }
 }
 
 } // namespace

@@ -4,17 +4,14 @@
 
 #include "tests/desktop/driver.h"
 
-#include <cstdio>
-
 class Transfer : public Desktop_Test {
 protected:
     void SetUp() override {
         Desktop_Test::SetUp();
-        for (const wchar_t character : Data_Path().substr(0, Data_Path().rfind(L'\\') + 1))
-            folder_ += static_cast<char>(character);
-        for (const char *name :
-             {"out.csv", "out.dat", "out.ics", "out.ini", "out.txt", "data.bak"}) // of an earlier run
-            Set_File(name, nullptr);
+        const std::wstring folder = Path_Of(L"");
+        folder_.assign(folder.begin(), folder.end());
+        for (const wchar_t *name : {L"out.csv", L"out.dat", L"out.ini", L"data.bak"}) // of an earlier run
+            DeleteFileW(Path_Of(name).c_str());
     }
 
     /// The settings dialog, on its page of import and export.
@@ -60,29 +57,10 @@ protected:
             Wait_Until([&] { return page && IsWindowEnabled(page) && GetForegroundWindow() == page; }));
         EXPECT_EQ(program_->Box(), "");
     }
-    /// Makes the file hold the bytes; null: makes it go.
-    void Set_File(const std::string &name, const char *bytes) const {
-        SetFileAttributesA((folder_ + name).c_str(), FILE_ATTRIBUTE_NORMAL);
-        DeleteFileA((folder_ + name).c_str());
-        if (FILE *file = bytes ? std::fopen((folder_ + name).c_str(), "wb") : nullptr) {
-            std::fputs(bytes, file);
-            std::fclose(file);
-        }
-    }
     void Set_Read_Only(const std::string &name, bool on) const {
         EXPECT_TRUE(SetFileAttributesA((folder_ + name).c_str(),
                                        on ? FILE_ATTRIBUTE_READONLY : FILE_ATTRIBUTE_NORMAL));
     }
-    /// Empty: there is none.
-    std::string File(const std::string &name) const {
-        char bytes[10000] = "";
-        if (FILE *file = std::fopen((folder_ + name).c_str(), "rb")) {
-            bytes[std::fread(bytes, 1, sizeof bytes - 1, file)] = '\0';
-            std::fclose(file);
-        }
-        return bytes;
-    }
-
     const Program *program_ = nullptr;
     std::string folder_; ///< the program's, with the separator
 };

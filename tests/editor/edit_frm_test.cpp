@@ -110,6 +110,9 @@ TEST_F(Editor, closes_without_saving_and_lets_compact_mode_go_on) {
     for (const Input_Kind way : {Input_Kind::Clicked, Input_Kind::Close, Input_Kind::Window_Lost}) {
         Input(form, {.kind = Input_Kind::Default_Action}, &Box_Of(5));
         ASSERT_TRUE(Has_Window());
+        Desktop().front = nullptr;
+        Input(form, {.kind = Input_Kind::Default_Action}, &Box_Of(5));
+        EXPECT_EQ(Desktop().front, &editor.Model()) << "one that is open comes to the front";
         Type("dropped");
         Cur_Settings.Auto_Compact = 1;
         form.Compact_Timer.Set_Enabled(false);

@@ -175,8 +175,9 @@ void Frame_Rect(Canvas &canvas, const Rect &rect, Colour colour, int) {
     canvas.operations.push_back({Canvas_Operation::Kind::Frame, rect, colour});
 }
 
-void Fill_Polygon(Canvas &canvas, const std::vector<Point> &, Colour colour) {
-    canvas.operations.push_back({Canvas_Operation::Kind::Polygon, {}, colour});
+void Fill_Polygon(Canvas &canvas, const std::vector<Point> &corners, Colour colour) {
+    canvas.operations.push_back(
+        {.kind = Canvas_Operation::Kind::Polygon, .colour = colour, .corners = corners});
 }
 
 void Draw_Program_Icon(Canvas &, const Rect &) {

@@ -22,6 +22,7 @@ struct Canvas_Operation {
     std::string text{};
     platform::Text_Align align = platform::Text_Align::Left;
     bool right_to_left = false;
+    std::vector<Point> corners{};
 };
 
 struct platform::Canvas {

@@ -34,16 +34,7 @@ TEST_F(Saving, the_calendar_follows_at_once_also_without_a_store) {
               "Bar Time Format=H:mm|Other Display Mode=0|Style=1|Use Other Display Mode=False|");
     Fakes().registry_refuses_writes = true;
     Colours_Page &colours = dialog->Colours;
-    Colour colour = 0;
-    for (Picture_Box *swatch : {&colours.Col_Normal_Pic, &colours.Col_Today_Pic, &colours.Col_Num_Pic,
-                                &colours.Col_Text_Pic, &colours.Col_Back_Pic, &colours.Col_Fore_Pic}) {
-        swatch->Set_Back_Colour(++colour);
-        dialog->Save_Colours(dialog->Shown_Configuration());
-    }
-    EXPECT_EQ((std::vector{Box_Of(6).Back_Colour(), Box_Of(5).Back_Colour(), Box_Of(6).Fore_Colour(),
-                           form.Box_Caption_Lbl[3].Fore_Colour(), form.Back_Colour(),
-                           form.Which_Month_Lbl.Fore_Colour()}),
-              (std::vector<Colour>{1, 2, 3, 4, 5, 6}));
+    colours.Col_Back_Pic.Set_Back_Colour(5);
     for (Option_Button *option : {&colours.Col_Sys_Opt, &colours.Col_Other_Opt}) {
         option->Set_Checked(true);
         dialog->Save_Colours(dialog->Shown_Configuration());
@@ -58,10 +49,7 @@ TEST_F(Saving, the_calendar_follows_at_once_also_without_a_store) {
 }
 
 TEST_F(Saving, a_pack_rules_style_and_position_as_far_as_it_may) {
-    for (int month = 1; month <= 12; ++month)
-        Fakes().files["C:\\Vellatro\\P\\" + std::to_string(month) + ".jpg"] = "a picture";
-    Fakes().files["C:\\Vellatro\\P\\settings.ini"] = "3=0-6-1\r\n";
-    Fakes().pictures["C:\\Vellatro\\P\\3.jpg"] = {1, 1, std::make_shared<std::vector<std::uint8_t>>(3)};
+    Make_Pack("P", "3=0-6-1\r\n");
     Cur_Settings.Use_Theme_Pos = 0;
     Open(Settings_Frm::wallpaper_fra);
     const int height = form.Height();
@@ -85,6 +73,118 @@ TEST_F(Saving, a_pack_rules_style_and_position_as_far_as_it_may) {
     EXPECT_TRUE(
         Written([this] { Push(*dialog, dialog->Apply_Btn); }).starts_with("Vellatro=|Bar Date Format="));
     EXPECT_TRUE(Fakes().boxes.size() == 1 && form.Height() == height);
+}
+
+TEST_F(Saving, every_control_shows_its_setting) {
+    // The second choice of each is what the first one is not, so that none is an empty control's.
+    const std::pair<const char *, const char *> rows[] = {
+        {"0", "1"},        {"4", "7"},     {"1", "2"},
+        {"3", "4"},        {"5", "6"},     {"7", "8"},
+        {"9", "10"},       {"11", "12"},   {"0", "1"},
+        {"P", "Q"},        {"1", "0"},     {"0", "1"},
+        {"0", "1"},        {"0", "1"},     {"0", "1"},
+        {"True", "False"}, {"h.mm", "HH"}, {"mm/yyyy", "Month - yyyy"},
+        {"15", "-30"},     {"-45", "60"},  {"True", "False"},
+        {"2", "1"},        {"1", "0"},     {"2", "0"},
+        {"4", "4"}};
+    for (const char *pack : {"Default", "P", "Q"})
+        Make_Pack(pack);
+    std::string &run = Fakes().registry["HKLM\\Software\\Microsoft\\Windows\\CurrentVersion\\Run\\Vellatro"];
+    const auto all = [] {
+        std::string texts;
+        for (const Setting_Row &row : Setting_Rows())
+            texts += std::string(row.key) + "=" + Setting_Text(Cur_Settings, row) + "|";
+        return texts;
+    };
+    for (const bool second : {false, true}) {
+        form.Close_Settings();
+        for (const Setting_Row &row : Setting_Rows()) {
+            const auto &texts = rows[&row - &Setting_Rows().front()];
+            Set_From_Text(Cur_Settings, row, second ? texts.second : texts.first);
+        }
+        run = "C:\\Vellatro\\vellatro.exe";
+        Open(Settings_Frm::style_fra);
+        const std::string before = all(), started = run;
+        Push(*dialog, dialog->Ok_Btn);
+        EXPECT_EQ(all(), before);
+        EXPECT_EQ(run, started);
+    }
+}
+
+TEST_F(Saving, colours_and_texts_go_with_whatever_happens) {
+    Events({"7/3/2002=fourteen chars", "6/4/2002=fourteen chars"});
+    Make_Pack("Default", "3=0-6-1\r\n4=0-6-1\r\n");
+    using Colours = std::vector<Colour>;
+    Colours own{1, 2, 3, 4, 5, 6};
+    Colour Settings::*const members[] = {&Settings::Col_Normal, &Settings::Col_Today, &Settings::Col_Num,
+                                         &Settings::Col_Text,   &Settings::Col_Back,  &Settings::Col_Fore};
+    for (std::size_t i = 0; i < 6; ++i)
+        Cur_Settings.*members[i] = own[i];
+    form.Redraw();
+    const auto import = [this](const std::string &lines) {
+        Fakes().files["C:\\in.ini"] = lines;
+        Open(Settings_Frm::transfer_fra);
+        Fakes().Expect_Dialog("Import Configuration File", "C:\\in.ini");
+        Fakes().Expect_Box("Loaded configuration file successfully.");
+        Push(*dialog, dialog->Transfer.Import_Btn[1]);
+    };
+    Cur_Settings.Use_Theme_Style = 0;
+    const struct {
+        const char *name;
+        std::function<void()> act;
+        bool thin; ///< where a text has one line
+    } steps[] = {
+        {"F8", [this] { Press_Key(form, 119); }, true},
+        {"F9", [this] { Press_Key(form, 120); }, false},
+        {"out of compact mode", [this] { Press_Key(form, 123), Press_Key(form, 123); }, false},
+        {"Apply",
+         [&] {
+             Colours_Page &page = Open(Settings_Frm::colours_fra).Colours;
+             Picture_Box *swatches[] = {&page.Col_Normal_Pic, &page.Col_Today_Pic, &page.Col_Num_Pic,
+                                        &page.Col_Text_Pic,   &page.Col_Back_Pic,  &page.Col_Fore_Pic};
+             for (std::size_t i = 0; i < 6; ++i)
+                 swatches[i]->Set_Back_Colour(own[i] += 16);
+             dialog->Style.Style1_Opt.Set_Checked(true);
+             dialog->Style.Style2_Opt.Set_Checked(false);
+             Fakes().registry_refuses_writes = true;
+             Push(*dialog, dialog->Apply_Btn);
+             Fakes().registry_refuses_writes = false;
+         },
+         true},
+        {"midnight",
+         [] {
+             Fakes().now = {2002, 4, 1, 0, 0, 0, 0};
+             Desktop().Advance(1000);
+         },
+         true},
+        {"an import",
+         [&] {
+             own = {35, 36, 37, 38, 39, 40};
+             import("Col_Normal=35,Col_Today=36,Col_Num=37,Col_Text=38,Col_Back=39,Col_Fore=40,Style=1");
+         },
+         false},
+        {"an import of a pack", [&] { import("Use_Theme_Style=1,Use_Themes=1"); }, true}};
+    for (const auto &[name, act, thin] : steps) {
+        SCOPED_TRACE(name);
+        act();
+        const int today = Fakes().now.day, other = form.Cur_Month == 3 ? 7 : 6;
+        const Control *titles[] = {&form.Which_Month_Lbl, &form.Day_Lbl[0], &form.Next_Month_Lbl};
+        const auto drawn = [this](const Control &control, std::size_t operation) {
+            return Painted(form, control.Bounds()).operations.at(operation).colour;
+        };
+        // Each is painted over the form's colour: a box, its number and its text; titles and an arrow.
+        EXPECT_EQ((Colours{drawn(Box_Of(other), 1), drawn(Box_Of(today), 1), drawn(Box_Of(other), 2),
+                           drawn(Box_Of(other), 3), drawn(*titles[0], 0), drawn(*titles[0], 1)}),
+                  own);
+        int todays = 0;
+        for (const Label &box : form.Box_Lbl)
+            todays += box.Back_Colour() == own[1] ? 1 : 0;
+        EXPECT_EQ(todays, 1);
+        for (const Control *title : titles)
+            EXPECT_EQ(drawn(*title, 1), own[5]) << title->Name();
+        EXPECT_EQ(Text_Of(other), thin ? "fourteen..." : "fourteen\nchars");
+    }
+    EXPECT_EQ(Fakes().wallpapers, std::vector<std::string>{In_Pack("Default", "4.bmp")});
 }
 
 } // namespace

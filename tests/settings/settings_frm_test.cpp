@@ -33,14 +33,17 @@ TEST_F(Settings_Window, opens_at_the_stored_tab_and_stores_the_last_one_however_
         [this] { form.Close_Settings(); }, // as the program's end does
     };
     std::int16_t tab = 1;
+    Desktop().work_area.width = 1280;
     for (const auto &end : ends) {
         SCOPED_TRACE(tab);
         form.Compact_Timer.Set_Enabled(false);
         Cur_Settings.Auto_Compact = tab % 2 == 0;
         form.Compacted = tab == 4;
         Cur_Settings.Settings_Tab = tab;
+        form.Move(tab % 2 == 0 ? 0 : 1280 * 15 - form.Width(), 600);
         form.Open_Settings();
         EXPECT_EQ(Pages(), std::to_string(tab - 1));
+        EXPECT_FALSE(dialog->Model().bounds.Intersects(form.Model().bounds)) << "it covers the calendar";
         Choose(*dialog, dialog->TabStrip1, tab);
         const Settings_Frm *first = dialog.get();
         form.Open_Settings();
@@ -67,20 +70,31 @@ TEST_F(Settings_Window, opens_at_the_stored_tab_and_stores_the_last_one_however_
     }
 }
 
-TEST_F(Settings_Window, esc_ends_a_preview_only_and_the_cancel_button_the_dialog_too) {
-    const std::string pack = "C:\\Vellatro\\Default\\";
-    for (int month = 1; month <= 12; ++month)
-        Fakes().files[pack + std::to_string(month) + ".jpg"] = "a picture";
-    Fakes().files[pack + "settings.ini"] = "1=0-1-1\r\n";
-    Fakes().pictures[pack + "1.jpg"] = {1, 1, std::make_shared<std::vector<std::uint8_t>>(3)};
-    const Wallpaper_Page &page = Open(Settings_Frm::wallpaper_fra).Wallpaper;
-    Push(*dialog, page.Theme_Use_Chk, true);
-    for (const int key : {int{Key_Escape}, 0}) {
+TEST_F(Settings_Window, a_preview_ends_with_whatever_the_user_turns_to) {
+    Make_Pack("Default", "1=1-1-2\r\n");
+    Cur_Settings.Use_Themes = 1;
+    const std::pair<std::function<void()>, bool> ends[] = {
+        {[this] { Input(*dialog, {.kind = Input_Kind::Clicked, .key = Key_Escape}, &dialog->Cancel_Btn); },
+         true},
+        {[this] { Push(*dialog, dialog->Apply_Btn); }, true},
+        {[this] { Choose(*dialog, dialog->TabStrip1, Settings_Frm::style_fra); }, true},
+        {[this] { Push(*dialog, dialog->Cancel_Btn); }, false},
+        {[this] { form.Close_Settings(); }, false}, // as the program's end does
+    };
+    for (const auto &[end, stays] : ends) {
+        SCOPED_TRACE(&end - &ends[0].first);
+        form.Get_Wallpaper_Stuff("Default");
+        form.Follow(Cur_Settings);
+        const int height = form.Height();
+        Wallpaper_Page &page = Open(Settings_Frm::wallpaper_fra).Wallpaper;
         Push(*dialog, page.Preview_Btn);
         EXPECT_TRUE(page.Preview_Lbl.Visible());
-        Input(*dialog, {.kind = Input_Kind::Clicked, .key = key}, &dialog->Cancel_Btn);
-        EXPECT_FALSE(form.Which_Month_Lbl.Caption().starts_with("Preview"));
-        EXPECT_EQ(form.Settings_Visible(), key == Key_Escape);
+        EXPECT_EQ(Fakes().wallpapers.back(), In_Pack("Default", "1.bmp"));
+        end();
+        EXPECT_EQ(form.Which_Month_Lbl.Caption(), "5th March - 2002");
+        EXPECT_EQ(Fakes().wallpapers.back(), In_Pack("Default", "3.bmp"));
+        EXPECT_TRUE(form.Height() == height && form.Dectect_Date_Timer.Enabled());
+        EXPECT_EQ(form.Settings_Visible(), stays);
     }
 }
 

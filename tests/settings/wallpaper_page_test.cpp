@@ -20,21 +20,6 @@ protected:
         Start();
     }
 
-    static std::string Path(const std::string &pack, const std::string &file) {
-        return "C:\\Vellatro\\" + pack + "\\" + file;
-    }
-    /// Month m has the value text 0-m-1 and a picture that is m pixels wide.
-    static void Make_Pack(const std::string &pack, const std::string &more_details = {}) {
-        std::string &ini = Fakes().files[Path(pack, "settings.ini")] = "";
-        for (int month = 1; month <= 12; ++month) {
-            const std::string path = Path(pack, std::to_string(month) + ".jpg");
-            Fakes().files[path] = "a picture";
-            Fakes().pictures[path] = {month, 1, std::make_shared<std::vector<std::uint8_t>>(month * 3)};
-            ini += std::to_string(month) + "=0-" + std::to_string(month) + "-1\r\n";
-        }
-        ini += more_details;
-    }
-
     void Open(bool on_another_page = false) {
         dialog.emplace(form);
         dialog->Page_Fra.Set_Visible(!on_another_page);
@@ -103,7 +88,7 @@ TEST_F(Themes_Page, refuses_packs_that_are_not_whole_and_themes_without_packs) {
     Open();
     Use_Themes(true);
     Slide(11);
-    Fakes().files.erase(Path("Winter", "12.jpg")); // while the dialog is open
+    Fakes().files.erase(In_Pack("Winter", "12.jpg")); // while the dialog is open
     Fakes().Expect_Box("Error Loading Theme.");
     Choose(*dialog, Page().Packs_Cbo, 1);
     Desktop().Advance(50);
@@ -127,7 +112,7 @@ TEST_F(Themes_Page, refuses_packs_that_are_not_whole_and_themes_without_packs) {
 
 TEST_F(Themes_Page, loads_only_the_picture_that_is_seen_and_tells_of_a_bad_one_in_its_frame) {
     Make_Pack("Default");
-    Fakes().pictures.erase(Path("Default", "5.jpg"));
+    Fakes().pictures.erase(In_Pack("Default", "5.jpg"));
     Open(true);
     EXPECT_EQ(Fakes().loads, 0);
     dialog->Page_Fra.Set_Visible(true);
@@ -188,11 +173,11 @@ TEST_F(Themes_Page, a_preview_leaves_all_as_it_was) {
         desktop("WallpaperStyle") = "10";
         desktop("TileWallpaper") = "0";
         // Without themes: a wallpaper that stayed from a time when they were used, in another letter case.
-        desktop("Wallpaper") = themes ? Path("Default", "3.bmp") : Path("WINTER", "3.BMP");
+        desktop("Wallpaper") = themes ? In_Pack("Default", "3.bmp") : In_Pack("WINTER", "3.BMP");
         if (end == stopped) // which the system writes over
             desktop("Wallpaper") = "C:\\Themes\\TranscodedWallpaper";
         else
-            Fakes().files[Path(themes ? "Default" : "Winter", "3.bmp")] = "";
+            Fakes().files[In_Pack(themes ? "Default" : "Winter", "3.bmp")] = "";
         Fakes().monitors = end == dialog_gone ? " and a slide show" : "";
         Fakes().wallpapers = {desktop("Wallpaper") + (end == stopped ? ", copied" : "") + Fakes().monitors};
         Events({"7/3/2002=Wedding anniversary of the whole family in Winchester"});
@@ -209,7 +194,7 @@ TEST_F(Themes_Page, a_preview_leaves_all_as_it_was) {
         EXPECT_EQ(form.Which_Month_Lbl.Caption(), "Preview Mode - January");
         EXPECT_EQ(Cur_Settings.Use_Themes, themes) << "the calendar shows a copy";
         EXPECT_EQ(Text_Of(7) == text, themes) << "fitted for another style";
-        EXPECT_EQ(Fakes().wallpapers.back(), Path("Winter", "1.bmp"));
+        EXPECT_EQ(Fakes().wallpapers.back(), In_Pack("Winter", "1.bmp"));
         if (end == bad_number)
             Fakes().Expect_Box("In C:\\Vellatro\\Winter\\settings.ini the position of month 2 is \"x\", "
                                "but must be a whole number from -32768 to 32767. Your own is used.");

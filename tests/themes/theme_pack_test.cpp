@@ -81,7 +81,7 @@ TEST_F(Theme_Pack, One_Bitmap_At_A_Time_Is_Made_Of_A_Picture) {
     const auto pixels = std::make_shared<const std::vector<std::uint8_t>>(
         std::vector<std::uint8_t>{1, 2, 3, 4, 5, 6, 11, 12, 13, 14, 15, 16});
     for (const char *name : {"3.jpg", "4.jpg"})
-        Fakes().pictures[In_Pack(name)] = {2, 2, pixels};
+        Fakes().pictures[In_Pack(name)] = {*name == '3' ? 2 : 4, *name == '3' ? 2 : 1, pixels};
     for (const char *name : {"2.bmp", "held.bmp", "x.BMP", "bmp", "4.jpg", "deeper\\1.bmp"})
         Fakes().files[In_Pack(name)] = "old";
     Fakes().unwritable = {In_Pack("held.bmp")};
@@ -98,6 +98,7 @@ TEST_F(Theme_Pack, One_Bitmap_At_A_Time_Is_Made_Of_A_Picture) {
         EXPECT_TRUE(Has(name)) << name;
     Get_Paper_Path(4, "Hills");
     EXPECT_TRUE(Has("4.bmp") && !Has("3.bmp"));
+    EXPECT_EQ(Fakes().files[In_Pack("4.bmp")].substr(54), std::string(pixels->begin(), pixels->end()));
     EXPECT_THROW(Get_Paper_Path(5, "Hills"), platform::Picture_Error);
     Fakes().unwritable = {In_Pack("3.bmp")};
     EXPECT_THROW(Get_Paper_Path(3, "Hills"), platform::File_Error);

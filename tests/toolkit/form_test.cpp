@@ -103,13 +103,21 @@ TEST_F(Form_Test, the_mirror_is_told_of_the_program_s_changes_only_and_only_whil
         form.Text_Txt.Set_Text("after");
         form.Low.Move({0, 0, 10, 10});
         form.Move(5, 5);
+        form.Low.Set_Back_Colour(7);
+        form.Low.Set_Fore_Colour(8);
+        form.Low.Set_Frame_Colour(9);
+        form.Set_Back_Colour(10);
     }
     form.Close();
     form.Low.Set_Caption("unheard");
     EXPECT_EQ(form.Taken(), "one two three; after; ");
-    EXPECT_EQ(Desktop().told,
-              (std::vector<Told_Change>{
-                  {"Text_Txt", Aspect::Caption}, {"Low", Aspect::Bounds}, {"", Aspect::Bounds}}));
+    EXPECT_EQ(Desktop().told, (std::vector<Told_Change>{{"Text_Txt", Aspect::Caption},
+                                                        {"Low", Aspect::Bounds},
+                                                        {"", Aspect::Bounds},
+                                                        {"Low", Aspect::Look},
+                                                        {"Low", Aspect::Look},
+                                                        {"Low", Aspect::Look},
+                                                        {"", Aspect::Look}}));
 }
 
 TEST_F(Form_Test, a_window_that_was_lost_or_refused_is_made_by_the_next_show) {

@@ -167,6 +167,26 @@ TEST_F(Importing, leaves_nothing_behind_when_it_fails) {
     EXPECT_EQ(Data_File(), before);
 }
 
+TEST_F(Importing, that_fails_after_its_first_write_puts_the_file_back) {
+    std::string bytes = Quoted(headings);
+    for (int i = 0; i < 2000; ++i)
+        bytes += "\"0\",\"" + std::to_string(1 + i % 28) + "/3/2002\",\"x\"\r\n";
+    File("C:\\in.csv") = bytes;
+    Fakes().clock_step = 300;
+    const std::string old = Quoted("'6/3/2002=Old'\r\n");
+    for (const bool for_good : {false, true}) {
+        Data_File() = old;
+        const int second = Fakes().writes + 4; // after the two of the copy and the first merged part
+        Fakes().file_fails = [=](const std::string &path) {
+            return path == "C:\\Vellatro\\calendar.dat" &&
+                   (for_good ? Fakes().writes >= second : Fakes().writes == second);
+        };
+        Import(2, "C:\\in.csv", failed);
+        EXPECT_EQ(Data_File() == old, !for_good);
+        EXPECT_TRUE(Has_Backup() == for_good && (!for_good || Backup() == old)) << "the last copy is lost";
+    }
+}
+
 TEST_F(Importing, is_seen_while_it_takes_long_and_the_file_is_whole_then) {
     std::string bytes = Quoted(headings);
     constexpr int count = 2000;
@@ -177,8 +197,12 @@ TEST_F(Importing, is_seen_while_it_takes_long_and_the_file_is_whole_then) {
     Fakes().clock_step = 300;
     std::vector<std::ptrdiff_t> merged;
     const Transfer_Page &page = dialog->Transfer;
+    int shown = 0;
     Fakes().painting = [&] {
         EXPECT_TRUE(page.Progress_Bar1.Visible() && page.Progress_Lbl.Visible());
+        const platform::Control_State &bar = page.Progress_Bar1.State();
+        EXPECT_TRUE(bar.value >= shown && bar.value <= 100 && bar.maximum == 100) << bar.value;
+        shown = bar.value;
         EXPECT_EQ(dialog->Model().pointer, platform::Pointer_Shape::Hourglass);
         const std::string &data = Data_File();
         if (data.empty())
@@ -191,7 +215,7 @@ TEST_F(Importing, is_seen_while_it_takes_long_and_the_file_is_whole_then) {
         form.Events.Check_For_Pre("1/1/2003", std::to_string(merged.size()) + " typed x", false);
     };
     Import(2, "C:\\in.csv", Imported(count));
-    EXPECT_GT(merged.size(), 3U);
+    EXPECT_TRUE(merged.size() > 3 && shown > 90);
     EXPECT_EQ(std::count(Data_File().begin(), Data_File().end(), 'x'), count + 1);
     EXPECT_FALSE(page.Progress_Bar1.Visible());
     EXPECT_EQ(dialog->Model().pointer, platform::Pointer_Shape::Arrow);
@@ -244,6 +268,16 @@ TEST_F(Importing, replaces_the_data_file_when_the_user_agrees) {
         "and you will lose all data. Are you absolutely sure you want to do this?\r\n\r\nReplace current "
         "file 'calendar.dat' modified on 1/2/2002 09:05:00\r\n\r\nwith new file 'other.dat' modified on "
         "1/2/2002 09:05:00";
+    Data_File() = "own";
+    for (const bool to : {false, true}) { // its own file is none, however it is written
+        const std::string title = to ? "Export Data File" : "Import Data File";
+        Fakes().Expect_Dialog(title, "c:\\VELLATRO\\Calendar.DAT");
+        Fakes().Expect_Box(to ? "You can't export to the data file you're currently using!"
+                              : "You can't import the data file your currently using!");
+        Fakes().Expect_Dialog(title, "");
+        Push(*dialog, to ? dialog->Transfer.Export_Btn[0] : dialog->Transfer.Import_Btn[0]);
+    }
+    Fakes().files.erase("C:\\Vellatro\\calendar.dat");
     for (const bool has_one : {false, true}) {
         File("C:\\other.dat") = has_one ? "\"6/3/2002=Newer\"\r\n" : "\"6/3/2002=New\"\r\n";
         if (has_one)

@@ -79,7 +79,7 @@ TEST_F(Kill, Round) {
     const std::string saved = "\"8/5/2027=Saved\"\r\n";
     std::string table, all = before;
     Make_Events(table, all);
-    Set_File("many.csv", table.c_str());
+    Write_File(L"many.csv", table);
     Write_Data(before);
     Open();
     Choose_File('L', import_title, "many.csv");
@@ -118,7 +118,7 @@ TEST_F(Kill, Round) {
                 static_cast<unsigned>(all.size()), left ? " and a rest" : "", wait,
                 after == imported ? "not done" : "done", left_by_save ? " and a rest" : "");
     std::fflush(stdout);
-    Set_File("calendar.dat.vellatro-new", nullptr);
+    DeleteFileW(Path_Of(L"calendar.dat.vellatro-new").c_str());
 }
 
 } // namespace

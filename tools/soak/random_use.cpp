@@ -1,7 +1,7 @@
-// Random clicks, keys and picks on the running program for the VT_MINUTES of the environment, or for one
-// minute: the calendar, its menus, editor and settings, files, jumps of the clock and of the screen's size.
-// It neither breaks off nor hangs nor holds ever more objects of the system, and its file stays one that it
-// reads.
+// Random clicks, keys and picks on the running program for the VT_MINUTES of the environment, by the seed
+// VT_SEED or a new one: the calendar, its menus, editor and settings, files, jumps of the clock and of the
+// screen's size. It neither breaks off nor hangs nor holds ever more objects of the system, and its file
+// stays one that it reads.
 #include "tests/contract/small_jpeg.h"
 #include "tests/desktop/driver.h"
 
@@ -243,19 +243,16 @@ TEST_F(Random_Use, Goes_On) {
     const char *minutes = std::getenv("VT_MINUTES");
     const int end = minutes ? std::atoi(minutes) : 1;
     const DWORD begin = GetTickCount();
-    random_.seed(begin);
-    std::printf("seed %lu\n", begin);
-    const std::wstring folder = Data_Path().substr(0, Data_Path().rfind(L'\\') + 1);
-    const auto put = [&](const std::wstring &name, const std::string &bytes) {
-        FILE *file = _wfopen((folder + name).c_str(), L"wb");
-        ASSERT_TRUE(file && std::fwrite(bytes.data(), 1, bytes.size(), file) == bytes.size());
-        std::fclose(file);
-    };
-    CreateDirectoryW((folder + L"Default").c_str(), nullptr);
-    put(L"Default\\settings.ini", "1=0-3-1\r\n5=1-0-1\r\n6=0-6-0\r\n");
+    const char *given = std::getenv("VT_SEED");
+    const auto seed = given ? static_cast<unsigned>(std::strtoul(given, nullptr, 10)) : unsigned{begin};
+    random_.seed(seed);
+    std::printf("seed %u\n", seed);
+    CreateDirectoryW(Path_Of(L"Default").c_str(), nullptr);
+    Write_File(L"Default\\settings.ini", "1=0-3-1\r\n5=1-0-1\r\n6=0-6-0\r\n");
     for (int month = 1; month <= 12; ++month)
-        put(L"Default\\" + std::to_wstring(month) + L".jpg", Small_Jpeg(month));
-    put(L"in.csv", "\"Subject\",\"Start Date\",\"Description\"\r\n\"Vellatro\",\"5/6/2027\",\"New\"\r\n");
+        Write_File(L"Default\\" + std::to_wstring(month) + L".jpg", Small_Jpeg(month));
+    Write_File(L"in.csv",
+               "\"Subject\",\"Start Date\",\"Description\"\r\n\"Vellatro\",\"5/6/2027\",\"New\"\r\n");
     Write_Data("\"12/5/9999=Always\"\r\n\"6/5/2027=Once\"\r\n");
     Set_Setting("Settings", "Allow Dragging", "0");
     const auto minute = [begin] { return static_cast<int>((GetTickCount() - begin) / 60000); };
