@@ -3,7 +3,6 @@
 
 #include <windows.h>
 
-#include <oleacc.h>
 
 namespace {
 
@@ -144,28 +143,6 @@ TEST_F(Editor, Refuses_Asks_And_Drops) {
     EXPECT_TRUE(Unsaved());
     Push(ok_btn);
     EXPECT_EQ(Data(), "\"8/5/2027=Newest\"\r\n\"9/5/2027=Sunday\"\r\n");
-}
-
-TEST_F(Editor, Keeps_Its_Day_Over_The_Turn_Of_The_Year) {
-    Set_Clock(2027, 12, 20, 10, 30, 0);
-    program = &Start_Calendar();
-    const std::string last = "Friday 31st December 2027";
-    Open(last, "");
-    Type("New Year's Eve");
-    const auto step = [](const char *button, const char *title) {
-        program->Do_Default(button);
-        ASSERT_TRUE(Becomes(std::string(title), [] { return program->Title(); }));
-    };
-    step("Next month", "January - 2028");
-    step("Next month", "February - 2028");
-    EXPECT_EQ(Text_Of(Part(date_lbl)), last);
-    Push(apply_btn);
-    EXPECT_EQ(Data(), "\"31/12/2027=New Year's Eve\"\r\n");
-    for (const Item &day : program->Items(ROLE_SYSTEM_CELL))
-        EXPECT_EQ(day.value, "") << day.name;
-    step("Previous month", "January - 2028");
-    step("Previous month", "20th December - 2027");
-    EXPECT_TRUE(Shows(last, "New Year's Eve"));
 }
 
 TEST_F(Editor, Saves_Unasked_When_The_Session_Waits_For_Nobody) {

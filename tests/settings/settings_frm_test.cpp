@@ -84,15 +84,11 @@ TEST_F(Settings_Window, esc_ends_a_preview_only_and_the_cancel_button_the_dialog
     }
 }
 
-TEST_F(Settings_Window, tells_who_may_set_the_start_up_entry) {
-    for (const bool refused : {true, false}) {
-        Fakes().registry_refuses_writes = refused;
-        EXPECT_EQ(Open(Settings_Frm::general_fra).General.Startup_Lbl.Visible(), refused);
-    }
-}
-
 TEST_F(Settings_Window, previews_the_title_without_touching_a_setting) {
+    EXPECT_FALSE(Open(Settings_Frm::general_fra).General.Startup_Lbl.Visible());
+    Fakes().registry_refuses_writes = true;
     General_Page &page = Open(Settings_Frm::general_fra).General;
+    EXPECT_TRUE(page.Startup_Lbl.Visible());
     const int writes = Fakes().registry_writes;
     for (const bool with_time : {false, true}) {
         Push(*dialog, page.Bar_Time_Chk, with_time);
