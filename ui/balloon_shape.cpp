@@ -105,7 +105,11 @@ std::vector<Point> Balloon_Outline(const Balloon_Place &place) {
     const int foot_y = std::clamp(tip.y, body.top + clear, std::max(body.Bottom() - clear, body.top + clear));
     constexpr int half = tail_half_width;
     std::vector<Point> outline;
-    const auto add = [&outline](Point a, Point b, Point c) { outline.insert(outline.end(), {a, b, c}); };
+    const auto add = [&](Point a, Point b, Point c) {
+        // Inside of the body the tail would cover the text.
+        if (!body.Contains(tip))
+            outline.insert(outline.end(), {a, b, c});
+    };
     Add_Arc(outline, {body.left + radius, body.top + radius}, 2);
     if (place.side == Balloon_Side::Below)
         add({foot_x - half, body.top}, tip, {foot_x + half, body.top});

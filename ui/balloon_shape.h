@@ -24,5 +24,6 @@ Balloon_Place Place_Balloon(Point pointer, const Rect &work, Size size);
 /// The smallest rectangle that holds body and tip.
 Rect Window_Of(const Balloon_Place &place);
 
-/// The outline of body and tail, clockwise, on the same plane as `place`.
+/// The outline of body and tail, clockwise, on the same plane as `place`. A body that covers the pointer has
+/// no tail.
 std::vector<Point> Balloon_Outline(const Balloon_Place &place);

@@ -131,17 +131,20 @@ void Draw_Text(Canvas &canvas, std::string_view text, const Rect &rect, const Fo
     SelectObject(dc, win32::Find_Font(font).handle);
     SetTextColor(dc, Plain(colour));
     const std::wstring_view part(wide.data(), Whole_Code_Points(wide, longest_call));
-    int left = static_cast<int>(pixels.left);
-    if (align != Text_Align::Left) {
-        const int room = static_cast<int>(pixels.right - pixels.left) - Pixel_Width(dc, part);
-        // A text that is too long shows its beginning.
-        if (room < 0)
-            left += right_to_left ? room : 0;
-        else
-            left += align == Text_Align::Centre ? room / 2 : room;
+    // A text that is too long shows its beginning.
+    const int room =
+        align == Text_Align::Left ? 0 : static_cast<int>(pixels.right - pixels.left) - Pixel_Width(dc, part);
+    int x = static_cast<int>(pixels.left);
+    if (right_to_left && (align == Text_Align::Right || room < 0)) {
+        // From the edge, since letters that are joined are not as wide as they are measured one by one.
+        SetTextAlign(dc, TA_RIGHT);
+        x = static_cast<int>(pixels.right);
+    } else {
+        x += std::max(0, align == Text_Align::Centre ? room / 2 : room);
     }
-    ExtTextOutW(dc, left, static_cast<int>(pixels.top), ETO_CLIPPED | (right_to_left ? ETO_RTLREADING : 0U),
+    ExtTextOutW(dc, x, static_cast<int>(pixels.top), ETO_CLIPPED | (right_to_left ? ETO_RTLREADING : 0U),
                 &pixels, part.data(), static_cast<UINT>(part.size()), nullptr);
+    SetTextAlign(dc, TA_LEFT);
 }
 
 void Draw_Picture(Canvas &canvas, const Picture &picture, const Rect &rect) {
