@@ -9,7 +9,6 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
-#include <cstring>
 #include <winternl.h>
 
 namespace {
@@ -333,18 +332,6 @@ long Program::Processor_Ticks() const {
                     &user, &system) != 2)
         return -1;
     return user + system;
-}
-
-long Program::Private_Memory() const {
-    const std::string rollup = Host_File(L"\\smaps_rollup");
-    long sum = 0;
-    for (const char *name : {"Private_Clean:", "Private_Dirty:"}) {
-        const std::size_t place = rollup.find(name);
-        if (place == std::string::npos)
-            return -1;
-        sum += std::atol(rollup.c_str() + place + std::strlen(name));
-    }
-    return sum;
 }
 
 std::ptrdiff_t Program::Gdi_Objects() const {

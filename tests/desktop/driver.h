@@ -113,8 +113,9 @@ public:
     HWND Open_Settings() const;                        ///< by the menu of a day
     void Press(WORD key, bool with_alt = false) const; ///< makes the calendar the active window first
 
+    /// What the host tells of the process in the file of that name; empty when it does not.
+    std::string Host_File(const wchar_t *name) const;
     long Processor_Ticks() const;       ///< hundredths of a second since its start; -1: not to be had
-    long Private_Memory() const;        ///< KB; -1: not to be had
     std::ptrdiff_t Gdi_Objects() const; ///< -1: not to be had
     std::ptrdiff_t Windows(bool only_visible) const;
     std::ptrdiff_t Handles() const; ///< of the kernel; -1: not to be had
@@ -125,9 +126,6 @@ public:
     ::testing::AssertionResult Holds_No_More_Than(const Held &before) const;
 
 private:
-    /// What the host tells of the process in the file of that name; empty when it does not.
-    std::string Host_File(const wchar_t *name) const;
-
     HANDLE process_ = nullptr;
     DWORD id_ = 0;
 };

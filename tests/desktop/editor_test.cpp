@@ -97,17 +97,6 @@ TEST_F(Editor, Saves_Refuses_And_Asks) {
     EXPECT_EQ(Text_Of(Part(date_lbl)), sunday);
     EXPECT_EQ(Data(), rest + "\"8/5/9999=Newer\"\r\n");
     Push(cancel_btn);
-
-    // "Clear" of another day, while the editor holds unsaved text for its own.
-    Open(saturday, "Newer");
-    Type("Newest");
-    program->Click(program->Named(sunday).place, MOUSEEVENTF_RIGHTDOWN);
-    program->Choose({VK_DOWN, VK_RETURN});
-    EXPECT_TRUE(Shows(sunday, ""));
-    EXPECT_EQ(Text_Of(Part(message_txt)), "Newest");
-    EXPECT_TRUE(Unsaved());
-    Push(ok_btn);
-    EXPECT_EQ(Data(), "\"8/5/9999=Newest\"\r\n");
 }
 
 TEST_F(Editor, Saves_Unasked_When_The_Session_Waits_For_Nobody) {

@@ -21,6 +21,13 @@ std::string Quoted(std::string text) {
     return text;
 }
 
+std::string Long_Table(int events) {
+    std::string bytes = Quoted(headings);
+    for (int i = 0; i < events; ++i)
+        bytes += "\"0\",\"" + std::to_string(1 + i % 28) + "/3/2002\",\"x\"\r\n";
+    return bytes;
+}
+
 TEST_F(Importing, reads_files_of_many_hands) {
     const std::string before = "'25/12/9999=Christmas'\r\n'3/4/2002=Payday \u20AC'\r\n";
     const std::string yearly = "'25/12/9999=Christmas", payday = "'\r\n'3/4/2002=Payday \u20AC",
@@ -168,10 +175,7 @@ TEST_F(Importing, leaves_nothing_behind_when_it_fails) {
 }
 
 TEST_F(Importing, that_fails_after_its_first_write_puts_the_file_back) {
-    std::string bytes = Quoted(headings);
-    for (int i = 0; i < 2000; ++i)
-        bytes += "\"0\",\"" + std::to_string(1 + i % 28) + "/3/2002\",\"x\"\r\n";
-    File("C:\\in.csv") = bytes;
+    File("C:\\in.csv") = Long_Table(2000);
     Fakes().clock_step = 300;
     const std::string old = Quoted("'6/3/2002=Old'\r\n");
     for (const bool for_good : {false, true}) {
@@ -188,11 +192,8 @@ TEST_F(Importing, that_fails_after_its_first_write_puts_the_file_back) {
 }
 
 TEST_F(Importing, is_seen_while_it_takes_long_and_the_file_is_whole_then) {
-    std::string bytes = Quoted(headings);
     constexpr int count = 2000;
-    for (int i = 0; i < count; ++i)
-        bytes += "\"0\",\"" + std::to_string(1 + i % 28) + "/3/2002\",\"x\"\r\n";
-    File("C:\\in.csv") = bytes;
+    File("C:\\in.csv") = Long_Table(count);
     Data_File() = "";
     Fakes().clock_step = 300;
     std::vector<std::ptrdiff_t> merged;

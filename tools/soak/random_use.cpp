@@ -13,11 +13,25 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <map>
 #include <random>
 #include <sstream>
 
 namespace {
+
+/// In KB; -1: not to be had.
+long Private_Memory(const Program &program) {
+    const std::string rollup = program.Host_File(L"\\smaps_rollup");
+    long sum = 0;
+    for (const char *name : {"Private_Clean:", "Private_Dirty:"}) {
+        const std::size_t place = rollup.find(name);
+        if (place == std::string::npos)
+            return -1;
+        sum += std::atol(rollup.c_str() + place + std::strlen(name));
+    }
+    return sum;
+}
 
 class Random_Use : public Desktop_Test {
 protected:
@@ -276,7 +290,7 @@ TEST_F(Random_Use, Goes_On) {
         const std::ptrdiff_t objects = program_->Gdi_Objects() + program_->Windows(false);
         std::printf("minute %d: %d GDI objects, %d windows, %d handles, %ld KB;", minute(),
                     static_cast<int>(program_->Gdi_Objects()), static_cast<int>(program_->Windows(false)),
-                    static_cast<int>(program_->Handles()), program_->Private_Memory());
+                    static_cast<int>(program_->Handles()), Private_Memory(*program_));
         for (const auto &[what, times] : did_)
             std::printf(" %d %s", times, what.c_str());
         std::printf("; data file %u bytes\n", static_cast<unsigned>(Data().size()));
