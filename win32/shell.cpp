@@ -87,9 +87,6 @@ void Attach_To_Desktop(const Form_Model &model, Shell_Window desktop) {
     Change_Style(window, WS_CHILD, WS_POPUP);
     if (GetAncestor(window, GA_PARENT) != Window_Of(desktop))
         return;
-    // The move makes one queue of the shell's input and the program's, in which each waits for the other.
-    // Systems that refuse to part them again keep it.
-    AttachThreadInput(GetCurrentThreadId(), GetWindowThreadProcessId(Window_Of(desktop), nullptr), FALSE);
     // A parent takes a new child in above the others; the calendar relies on standing above the icons.
     SetWindowPos(window, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     win32::Check_Scale(false);
