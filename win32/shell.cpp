@@ -130,9 +130,6 @@ bool Attach_To_Desktop(const Form_Model &model, Shell_Window holder) {
     Change_Style(window, WS_CHILD, WS_POPUP);
     if (GetAncestor(window, GA_PARENT) != Window_Of(holder))
         return false;
-    // The move makes one queue of the shell's input and the program's, in which each waits for the other.
-    // Systems that refuse to part them again keep it.
-    AttachThreadInput(GetCurrentThreadId(), GetWindowThreadProcessId(Window_Of(holder), nullptr), FALSE);
     Set_Layered(window, Has_Extended(Window_Of(holder), Without_Surface));
     // A parent takes a new child in above the others; the calendar relies on standing above the icons.
     SetWindowPos(window, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);

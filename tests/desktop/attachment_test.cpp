@@ -122,7 +122,6 @@ TEST_F(Attachment, Takes_Place_And_Colours_From_What_There_Is_Of_The_Shell) {
     }
 }
 
-/// Nothing is seen here: bringing the calendar over the stand-in would make one queue of both again.
 TEST_F(Attachment, Follows_The_View_Of_Icons) {
     const struct {
         const wchar_t *options;
@@ -163,22 +162,6 @@ TEST_F(Attachment, Follows_The_View_Of_Icons) {
                             [&] { return GetAncestor(program.Calendar(), GA_PARENT); }));
     }
     EXPECT_LT(Milliseconds_Now() - begin, 4500);
-}
-
-TEST_F(Attachment, Takes_The_Mouse_And_Keys_While_The_Shell_Hangs) {
-    const Program &program = Start();
-    ASSERT_TRUE(Wait_Until([&] { return program.Calendar() && program.Windows(true) == 1; }, 15000));
-    const HWND progman = FindWindowA("Progman", nullptr);
-    EXPECT_EQ(GetAncestor(program.Calendar(), GA_PARENT), progman);
-    const POINT title = Middle(program.Named(program.Title()).place);
-    const HANDLE shell = OpenThread(THREAD_SUSPEND_RESUME, FALSE, GetWindowThreadProcessId(progman, nullptr));
-    EXPECT_EQ(SuspendThread(shell), 0U);
-    Send_Mouse({{title, MOUSEEVENTF_LEFTDOWN}, {title, MOUSEEVENTF_LEFTUP}});
-    EXPECT_TRUE(Wait_Until([&] { return Has_Keyboard(program.Calendar()); }));
-    Send_Key(VK_F4);
-    EXPECT_TRUE(Becomes(std::string("June - 2027"), [&] { return program.Title(); }));
-    ResumeThread(shell);
-    CloseHandle(shell);
 }
 
 TEST_F(Attachment, Comes_Back_With_The_Next_Shell_And_Asks_For_The_Users_Text_First) {
