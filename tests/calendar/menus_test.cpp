@@ -133,9 +133,13 @@ TEST_F(Menus, keys_move_the_mark_over_the_month_s_edges) {
 }
 
 TEST_F(Menus, keys_act_on_the_marked_day_when_they_went_down_here) {
-    Events({"5/3/2002=text"});
     Stored("Show Alerts") = "0";
     Start();
+    for (const int key : {114, 116}) { // F3 and F5 read the file anew
+        Events({"5/3/2002=" + std::string(key == 114 ? "F3" : "text")});
+        Press_Key(form, key);
+        EXPECT_EQ(Text_Of(5), key == 114 ? "F3" : "text");
+    }
     Press_Key(form, 46); // a mark that is not seen yet only appears
     Press_Key(form, 13);
     Input(form, {.kind = Input_Kind::Key_Up, .key = 46}); // of a key that closed a message box

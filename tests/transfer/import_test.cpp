@@ -272,6 +272,10 @@ TEST_F(Importing, replaces_the_data_file_when_the_user_agrees) {
     Data_File() = "own";
     for (const bool to : {false, true}) { // its own file is none, however it is written
         const std::string title = to ? "Export Data File" : "Import Data File";
+        if (!to) {
+            Fakes().Expect_Dialog(title, "C:\\none.dat");
+            Fakes().Expect_Box("File doesn't exist!");
+        }
         Fakes().Expect_Dialog(title, "c:\\VELLATRO\\Calendar.DAT");
         Fakes().Expect_Box(to ? "You can't export to the data file you're currently using!"
                               : "You can't import the data file your currently using!");
