@@ -37,7 +37,7 @@ private:
         std::string text;
     };
 
-    bool Make_Window(HWND owner);
+    bool Make_Window();
     bool In_The_Way() const;
     void Update_Tool(HWND owner, std::size_t index, Tool wanted);
     TTTOOLINFOW Tool_Of(HWND owner, std::size_t index) const;
