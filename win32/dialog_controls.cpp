@@ -124,9 +124,9 @@ void Dialog_Window::Place_Control(const Control_State &control) {
         width = To_Pixels(bounds.width);
         height = To_Pixels(bounds.height);
     }
-    if (control.kind == Control_Kind::Combo_Box)
-        return Place_Combo_Box(window, place, control);
     SetWindowPos(window, nullptr, place.left, place.top, width, height, SWP_NOZORDER | SWP_NOACTIVATE);
+    if (control.kind == Control_Kind::Combo_Box)
+        Set_Combo_Heights(window, height, control);
 }
 
 void Dialog_Window::Place_Held(const Control_State &changed, const Rect &before) {

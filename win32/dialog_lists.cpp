@@ -118,25 +118,26 @@ void Fit_Widest_Item(HWND window, const Control_State &control) {
     }
 }
 
-void Place_Combo_Box(HWND combo, const RECT &place, const Control_State &control) {
+void Set_Combo_Heights(HWND combo, int pixels, const Control_State &control) {
     constexpr auto field = static_cast<WPARAM>(-1);
     RECT now = {};
     GetWindowRect(combo, &now);
     const auto field_height = static_cast<int>(SendMessageW(combo, CB_GETITEMHEIGHT, field, 0));
     const int around = static_cast<int>(now.bottom - now.top) - field_height;
-    // As high as its text needs: the system writes at the top of a higher one.
     const int needed = To_Pixels(platform::Line_Height(control.font));
-    if (needed != field_height)
-        SendMessageW(combo, CB_SETITEMHEIGHT, field, needed);
+    const int wanted = std::max(pixels - around, needed);
+    if (around > 0 && wanted != field_height)
+        SendMessageW(combo, CB_SETITEMHEIGHT, field, wanted);
+    // The height that a combo box is given is the one with the open list.
     // Newer systems show as many items as they are told here, and thirty otherwise.
     SendMessageW(combo, CB_SETMINVISIBLE, most_items_shown, 0);
     const int shown = std::clamp(static_cast<int>(control.items.size()), 1, most_items_shown);
     const auto item_height = static_cast<int>(SendMessageW(combo, CB_GETITEMHEIGHT, 0, 0));
-    // The height that a combo box is given is the one with the open list.
-    const int closed = needed + around;
-    const int whole = closed + shown * item_height + 2 * GetSystemMetrics(SM_CYEDGE);
-    SetWindowPos(combo, nullptr, place.left, (place.top + place.bottom - closed) / 2,
-                 place.right - place.left, whole, SWP_NOZORDER | SWP_NOACTIVATE);
+    const int whole =
+        std::max(pixels, wanted + around) + shown * item_height + 2 * GetSystemMetrics(SM_CYEDGE);
+    GetWindowRect(combo, &now);
+    SetWindowPos(combo, nullptr, 0, 0, now.right - now.left, whole,
+                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 void Select_Item(HWND window, const Control_State &control, int item) {
