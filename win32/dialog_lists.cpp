@@ -19,6 +19,7 @@ using platform::Control_State;
 namespace {
 
 constexpr int most_items_shown = 12;
+constexpr int around_text = 2 * 15; ///< of the field of a combo box, above and below its text together
 
 /// Measures many texts of one font: those of ASCII alone by a table of its characters' widths.
 class Text_Measure {
@@ -125,7 +126,9 @@ void Set_Combo_Heights(HWND combo, int pixels, const Control_State &control) {
     const auto field_height = static_cast<int>(SendMessageW(combo, CB_GETITEMHEIGHT, field, 0));
     const int around = static_cast<int>(now.bottom - now.top) - field_height;
     const int needed = To_Pixels(platform::Line_Height(control.font));
-    const int wanted = std::max(pixels - around, needed);
+    // No higher than its text, which some systems draw at its top: it stands in the middle of its place
+    // instead.
+    const int wanted = std::clamp(pixels - around, needed, needed + To_Pixels(around_text));
     if (around > 0 && wanted != field_height)
         SendMessageW(combo, CB_SETITEMHEIGHT, field, wanted);
     // The height that a combo box is given is the one with the open list.
@@ -133,11 +136,11 @@ void Set_Combo_Heights(HWND combo, int pixels, const Control_State &control) {
     SendMessageW(combo, CB_SETMINVISIBLE, most_items_shown, 0);
     const int shown = std::clamp(static_cast<int>(control.items.size()), 1, most_items_shown);
     const auto item_height = static_cast<int>(SendMessageW(combo, CB_GETITEMHEIGHT, 0, 0));
-    const int whole =
-        std::max(pixels, wanted + around) + shown * item_height + 2 * GetSystemMetrics(SM_CYEDGE);
+    const int whole = wanted + around + shown * item_height + 2 * GetSystemMetrics(SM_CYEDGE);
     GetWindowRect(combo, &now);
-    SetWindowPos(combo, nullptr, 0, 0, now.right - now.left, whole,
-                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    MapWindowPoints(nullptr, GetParent(combo), reinterpret_cast<POINT *>(&now), 2);
+    SetWindowPos(combo, nullptr, now.left, now.top + std::max(0, (pixels - wanted - around) / 2),
+                 now.right - now.left, whole, SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 void Select_Item(HWND window, const Control_State &control, int item) {
