@@ -13,8 +13,8 @@ void Fill_List(HWND window, const platform::Control_State &control);
 /// After a change of the items, the font or the dots per inch.
 void Fit_Widest_Item(HWND window, const platform::Control_State &control);
 
-/// Puts a combo box into the middle of its place, which is `pixels` high, with a list that shows all its items,
-/// or twelve.
+/// Puts a combo box into the middle of its place, which is `pixels` high, with a list that shows all its
+/// items, or twelve.
 void Set_Combo_Heights(HWND combo, int pixels, const platform::Control_State &control);
 
 /// Selects an item, -1: none. Nothing is told of it.

@@ -111,7 +111,8 @@ bool Tooltips::Make_Window() {
         return true;
     INITCOMMONCONTROLSEX classes = {sizeof classes, ICC_BAR_CLASSES};
     InitCommonControlsEx(&classes);
-    // Without an owner: that would be the window of the shell that the calendar is in, with which it would go.
+    // Without an owner: that would be the window of the shell that the calendar is in, with which it would
+    // go.
     window_ = CreateWindowExW(
         WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX, CW_USEDEFAULT,
         CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, nullptr, nullptr, GetModuleHandleW(nullptr), nullptr);

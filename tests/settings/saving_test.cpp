@@ -172,7 +172,8 @@ TEST_F(Saving, colours_and_texts_go_with_whatever_happens) {
         const auto drawn = [this](const Control &control, std::size_t operation) {
             return Painted(form, control.Bounds()).operations.at(operation).colour;
         };
-        // Each is painted over the form's colour: a box, its edge, its number and its text; titles and an arrow.
+        // Each is painted over the form's colour: a box, its edge, its number and its text; titles and an
+        // arrow.
         EXPECT_EQ((Colours{drawn(Box_Of(other), 1), drawn(Box_Of(today), 1), drawn(Box_Of(other), 3),
                            drawn(Box_Of(other), 4), drawn(*titles[0], 0), drawn(*titles[0], 1)}),
                   own);

@@ -100,7 +100,8 @@ TEST_F(Settings_Window, a_preview_ends_with_whatever_the_user_turns_to) {
 
 TEST_F(Settings_Window, previews_the_title_without_touching_a_setting) {
     const auto lacks_rights = [&] {
-        return Open(Settings_Frm::general_fra).General.Startup_Lbl.Caption().find("lack") != std::string::npos;
+        return Open(Settings_Frm::general_fra).General.Startup_Lbl.Caption().find("lack") !=
+               std::string::npos;
     };
     EXPECT_FALSE(lacks_rights());
     Fakes().registry_refuses_writes = true;
