@@ -12,7 +12,7 @@ LEVELS = ('app', 'editor settings', 'transfer', 'calendar', 'ui', 'themes deskto
 LEVEL_OF = {folder: level for level, folders in enumerate(LEVELS) for folder in folders.split()}
 FREE = ('tests', 'bench', 'fuzz', 'tools')
 WITHOUT_SOURCES = ('build', 'cmake', 'packs', 'docs')
-SEES_WINDOWS = ('win32/', 'tests/desktop/', 'tests/contract/', 'bench/desktop/', 'tools/soak/')
+SEES_WINDOWS = ('win32/', 'tests/desktop/', 'tests/contract/', 'bench/desktop/', 'tools/')
 WINDOWS_HEADER = re.compile(
     r'(win(dows|dowsx|def|base|user|gdi|reg|nls)|comm(ctrl|dlg)|objbase|ole(2|auto|ctl|acc)|shellapi|shlobj|'
     r'shlwapi|tchar|tlhelp32|psapi|uxtheme|io|direct)\.h', re.IGNORECASE)
