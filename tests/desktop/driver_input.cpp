@@ -152,7 +152,7 @@ HWND Program::Open_Settings() const {
         std::vector<Item> days;
         EXPECT_TRUE(Wait_Until([&] { return !(days = Items(ROLE_SYSTEM_CELL, 1)).empty(); }));
         if (!days.empty() && Open_Menu(Middle(days[0].place)))
-            Choose({VK_DOWN, VK_DOWN, VK_DOWN, VK_RETURN});
+            Choose({VK_HOME, VK_DOWN, VK_DOWN, VK_RETURN}); // wherever the mouse is on the menu
         Wait_Until([&] { return (dialog = Window("Vellatro_Settings_Frm")) != nullptr; });
     }
     EXPECT_TRUE(Wait_Until([&] { return dialog && dialog == GetForegroundWindow(); })) << "no settings";

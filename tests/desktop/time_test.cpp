@@ -80,13 +80,14 @@ TEST_F(Time, What_Opens_And_Closes_Leaves_Nothing_Behind) {
     const Program &program = Start_Calendar();
     constexpr const char *day = "Saturday 8th May 2027";
     const POINT place = Middle(program.Named(day).place);
-    WPARAM page = 0; // of the settings, another one each time
+    POINT press = place; // two at one place would be a double click
+    WPARAM page = 0;     // of the settings, another one each time
     const struct {
         const char *window;
         std::function<void()> open, close;
     } rows[] = {{"#32768", [&] { program.Open_Menu(place); }, [&] { program.Choose({VK_ESCAPE}); }},
-                {"Vellatro_Balloon", [&] { Send_Mouse(place, MOUSEEVENTF_LEFTDOWN); },
-                 [&] { Send_Mouse(place, MOUSEEVENTF_LEFTUP); }},
+                {"Vellatro_Balloon", [&] { Send_Mouse(press, MOUSEEVENTF_LEFTDOWN); },
+                 [&] { Send_Mouse(press, MOUSEEVENTF_LEFTUP); }},
                 {"Vellatro_Settings_Frm",
                  [&] {
                      const HWND tabs =
@@ -102,6 +103,7 @@ TEST_F(Time, What_Opens_And_Closes_Leaves_Nothing_Behind) {
     for (int round = 0; round < 40 && !same; ++round) {
         if (round % 10 == 0)
             before = program.Holds();
+        press.x = place.x + round % 2 * 8;
         for (const auto &[window, open, close] : rows) {
             program.Uncover(place);
             open();
