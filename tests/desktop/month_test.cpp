@@ -36,6 +36,7 @@ TEST_F(Month, Shows_Days_And_Texts) {
                "\"7/5/2027=日本語の予定\"\r\n\"8/5/2027=" +
                long_text + "\"\r\n\"9/5/2027=First\"\r\n\"9/5/2027=Second\"\r\n31/5/2027=Unquoted\r\n");
     Set_Regional("iFirstDayOfWeek", "0");
+    Clear_Store();
     const Program &program = Start_Calendar();
     EXPECT_EQ(program.Title(), "12th May - 2027");
     const std::vector<Item> days = program.Items(ROLE_SYSTEM_CELL);
