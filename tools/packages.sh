@@ -6,6 +6,7 @@
 #   Packages_Need build     compilers, CMake, test and benchmark libraries, formatter and checker, another reader of
 #                           calendar files
 #   Packages_Need desktop   Wine, a virtual display, its tools, fonts
+#   Packages_Need root      what makes a Debian of another architecture or release in a folder
 #   Apt_Allowed             succeeds when this user may install packages
 #   Apt_Install PACKAGE...  installs, trying again after refreshing the lists
 
@@ -40,7 +41,8 @@ wine                                 wine
 /usr/share/wine/fonts/marlett.ttf    fonts-wine
 /usr/share/fonts/truetype/liberation fonts-liberation
 /usr/share/fonts/truetype/dejavu     fonts-dejavu-core
-/usr/share/fonts/opentype/noto       fonts-noto-cjk
+/usr/share/fonts/opentype/noto       fonts-noto-cjk'
+root_packages='
 /usr/sbin/debootstrap                debootstrap'
 
 As_Root() {

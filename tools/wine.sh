@@ -2,8 +2,8 @@
 # Gives the scripts a Wine. Sourced after common.sh and packages.sh; call the procedures from the script
 # itself, not from a subshell. Nothing that they start outlives the script.
 #
-#   Wine_Setup                  chooses and installs: WINE_KIND (package32, root32, wine64), WINE_PRESET (win32, win64).
-#                               VELLATRO_WINE in the environment forces a kind.
+#   Wine_Setup                  chooses and installs: WINE_KIND (package32, root32, wine10, wine64), WINE_PRESET (win32,
+#                               win64). VELLATRO_WINE in the environment forces a kind.
 #   Wine_Prefix DIR [keep]      a fresh prefix in DIR (in /tmp or in the project), used by all calls that follow;
 #                               "keep" takes the one that is there, with what programs have written into it
 #   Wine_Run SECONDS [NAME=VALUE...] EXE [ARGUMENT...]    waits; gives the exit code, 124 after SECONDS
@@ -20,29 +20,35 @@
 #   root32     a private i386 Debian under CACHE, entered in namespaces of its own, so that neither mounts nor
 #              processes are left on the host; used where apt cannot install wine32, and only as root
 #   wine64     the 64-bit Wine and the 64-bit build
+# And one that is never chosen, only forced:
+#   wine10     like root32, with the Wine of the next Debian, to see the product and the tests on another one
 
 wine_root=$CACHE/i386
-wine_root_complete=$CACHE/i386.complete
+wine_release=bookworm # Debian's, in the root
 wine_bed=
 
 Wine_Setup() {
   WINE_KIND=${VELLATRO_WINE:-}
+  if [ "$WINE_KIND" = wine10 ]; then
+    wine_root=$CACHE/i386-trixie
+    wine_release=trixie
+  fi
   case $WINE_KIND in
     '') Wine_Choose ;;
     package32) Wine_Has_Package32 || Wine_Install_Package32 || Fail "wine32 cannot be installed" ;;
-    root32) Wine_Has_Root32 || Wine_Install_Root32 || Fail "The i386 root cannot be made" ;;
+    root32 | wine10) Wine_Has_Root32 || Wine_Install_Root32 || Fail "The i386 root cannot be made" ;;
     wine64) ;;
-    *) Fail "VELLATRO_WINE must be package32, root32 or wine64" 2 ;;
+    *) Fail "VELLATRO_WINE must be package32, root32, wine10 or wine64" 2 ;;
   esac
   case $WINE_KIND in
     package32) WINE_PRESET=win32 && Say "Wine: 32 bit, from the package wine32" ;;
-    root32) WINE_PRESET=win32 && Say "Wine: 32 bit, from the i386 root $wine_root" ;;
+    root32 | wine10) WINE_PRESET=win32 && Say "Wine: 32 bit, from the i386 root $wine_root" ;;
     wine64) WINE_PRESET=win64 && Say "Wine: 64 bit, with the 64-bit build" ;;
   esac
   export WINEDEBUG=-all WINEDLLOVERRIDES='mscoree,mshtml,winemenubuilder.exe=' LC_ALL=C.UTF-8
   export WINEARCH=$WINE_PRESET FONTCONFIG_FILE=$PROJECT/tools/fonts.conf
   unset WINEPREFIX WINELOADER WINESERVER
-  if [ "$WINE_KIND" = root32 ]; then Wine_Enter_Root32; fi
+  case $WINE_KIND in root32 | wine10) Wine_Enter_Root32 ;; esac
 }
 
 Wine_Choose() {
@@ -64,7 +70,7 @@ Wine_Has_Package32() { [ -x /usr/lib/wine/wine ] && [ -x /usr/lib/wine/wineserve
 # Some containers forbid namespaces even to root.
 Wine_May_Root32() { [ "$(id -u)" = 0 ] && unshare --mount --pid --fork true 2>/dev/null; }
 
-Wine_Has_Root32() { Wine_May_Root32 && [ -e "$wine_root_complete" ] && [ -x "$wine_root/usr/lib/wine/wine" ]; }
+Wine_Has_Root32() { Wine_May_Root32 && [ -e "$wine_root.complete" ] && [ -x "$wine_root/usr/lib/wine/wine" ]; }
 
 # Simulates first: on some days the i386 lists are out of step with the amd64 ones. Then the architecture is
 # taken out again, because with it every later apt-get update would fail. A refusal is remembered for a day.
@@ -99,25 +105,25 @@ Wine_Drop_I386() {
 # A root without its mark is the rest of an interrupted attempt and is begun anew.
 Wine_Install_Root32() {
   local mirror log
-  Wine_May_Root32 && command -v debootstrap >/dev/null || return 1
+  Wine_May_Root32 && (Packages_Need root) || return 1
   Say "Making an i386 Debian with Wine in $wine_root (once; about a minute)"
-  rm -f "$wine_root_complete"
+  rm -f "$wine_root.complete"
   rm -rf --one-file-system "$wine_root"
   mkdir -p "$CACHE"
-  log=$CACHE/debootstrap.log
+  log=$wine_root.log
   # shellcheck disable=SC2016 # a name of apt's, not of the shell
   mirror=$(apt-get indextargets --format '$(SITE)' 'Codename: bookworm' 'Component: main' \
     'Created-By: Packages' 2>/dev/null | head -n 1 || true)
   # In namespaces of its own, so that an interrupted attempt leaves neither mounts nor processes.
   setpriv --pdeathsig KILL unshare --mount --pid --fork --kill-child=KILL --mount-proc timeout -k 10 1200 \
-    debootstrap --arch=i386 --variant=minbase --include=wine32,wine bookworm "$wine_root" ${mirror:+"$mirror"} \
+    debootstrap --arch=i386 --variant=minbase --include=wine32,wine "$wine_release" "$wine_root" ${mirror:+"$mirror"} \
     </dev/null >"$log" 2>&1 &
   if ! wait $!; then
     tail -n 20 "$log" >&2
     return 1
   fi
   rm -rf "$wine_root"/var/cache/apt/archives/*.deb
-  touch "$wine_root_complete"
+  touch "$wine_root.complete"
 }
 
 # One keeper process holds the namespaces: Wine's server and programs find each other in them, and the
@@ -160,7 +166,7 @@ Wine_Leave_Root32() {
 # A command where Wine is: on the host, or in the i386 root. Folders that the root does not show become "/".
 Wine_Inside() {
   local folder
-  if [ "$WINE_KIND" != root32 ]; then
+  if [ -z "$wine_bed" ]; then
     "$@"
     return
   fi

@@ -83,6 +83,9 @@ void Dialog_Window::Click(const Control_State &control, int key) {
     Input_Event event = Event_Of(Input_Kind::Clicked);
     event.key = key;
     event.checked = SendMessageW(Control_Window(control.index), BM_GETCHECK, 0, 0) == BST_CHECKED;
+    // An option that is not checked tells of a click also when the keyboard reaches it.
+    if (control.kind == Control_Kind::Option_Button && !event.checked)
+        return;
     Tell(control, std::move(event));
 }
 

@@ -127,6 +127,7 @@ TEST_F(Dialog_Contract, The_Form_Hears_What_The_User_Does) {
         return std::to_string(Pixels_To_Twips(pixels, platform::Dots_Per_Inch()));
     };
     const std::pair<std::function<void()>, std::string> cases[] = {
+        {[this] { Notify(Opt_1, BN_CLICKED); }, ""}, // the keyboard has reached it
         {[this] { Send(Opt_2, BM_CLICK); }, "click 4 on; "},
         {[this] { Send(Check, BM_CLICK); }, "click 5 on; "},
         {[this] { Send(Check, BM_CLICK); }, "click 5 off; "},

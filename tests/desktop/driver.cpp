@@ -152,10 +152,10 @@ double Milliseconds_Now() {
 
 bool Wait_Until(const std::function<bool()> &holds, DWORD milliseconds) {
     const DWORD begin = GetTickCount();
-    while (!holds()) {
-        if (GetTickCount() - begin >= milliseconds)
+    for (bool last = false; !holds(); Sleep(20)) {
+        if (last)
             return false;
-        Sleep(20);
+        last = GetTickCount() - begin >= milliseconds; // what came in time is seen, however late the question
     }
     return true;
 }

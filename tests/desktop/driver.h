@@ -130,9 +130,9 @@ private:
     DWORD id_ = 0;
 };
 
-/// A fresh folder with a copy of the program, an empty store, the regional settings of the United States, and
-/// the clock at 10:30 on Wednesday, 12 May 2027: a month that reaches into the last of the boxes. What the
-/// test started ends with it; when it fails, it tells what there was to be seen.
+/// A fresh folder with a copy of the program, a store with dragging off alone, the regional settings of the
+/// United States, and the clock at 10:30 on Wednesday, 12 May 2027: a month that reaches into the last of the
+/// boxes. What the test started ends with it; when it fails, it tells what there was to be seen.
 class Desktop_Test : public ::testing::Test {
 protected:
     void SetUp() override;

@@ -66,8 +66,7 @@ TEST_F(Themed, The_Months_Picture_Is_The_Wallpaper) {
     ShowWindow(shell, SW_SHOWNA);
 }
 
-// The controls of the dialog's page, from its first one.
-constexpr int use_chk = 0, preview_btn = 16;
+constexpr const char *use_chk = "Use &themes", *preview_btn = "Pre&view all months";
 
 class Wallpaper_Page : public Themed {
 protected:
@@ -87,10 +86,7 @@ protected:
         for (int month = 1; month <= pictures; ++month)
             Put(pack + std::to_wstring(month) + L".jpg", Small_Jpeg(month));
     }
-    HWND Part(int control) const {
-        const HWND first = FindWindowExA(dialog_, nullptr, nullptr, "Use &themes");
-        return GetDlgItem(dialog_, GetDlgCtrlID(first) + control);
-    }
+    HWND Part(const char *caption) const { return FindWindowExA(dialog_, nullptr, "Button", caption); }
     bool Ticked() const { return SendMessageA(Part(use_chk), BM_GETCHECK, 0, 0) == BST_CHECKED; }
     Program *program_ = nullptr;
     HWND dialog_ = nullptr;

@@ -25,11 +25,15 @@ TEST_F(Time, Date_Changes_While_It_Runs) {
     ASSERT_TRUE(Becomes(std::string("April - 2027"), title));
 
     Set_Clock(2027, 5, 31, 23, 59, 58);
-    ASSERT_TRUE(Becomes(std::string("1st June - 2027"), title));
-    SYSTEMTIME now;
+    SYSTEMTIME now{}, still{}; // when the old title was last asked for: a busy machine may answer late
+    ASSERT_TRUE(Becomes(std::string("1st June - 2027"), [&] {
+        still = std::exchange(now, {});
+        GetSystemTime(&now);
+        return program.Title();
+    }));
+    EXPECT_TRUE(still.wHour == 23 || still.wSecond <= 2) << "too late";
     GetSystemTime(&now);
     EXPECT_EQ(now.wHour, 0) << "too early";
-    EXPECT_LE(now.wSecond, 2) << "too late";
     ASSERT_TRUE(Becomes(std::string("[Vellatro] Today: 6/1/2027\r\nFirst of June"), box));
     program.Answer();
     EXPECT_EQ(program.Items(ROLE_SYSTEM_CELL).size(), 30U);

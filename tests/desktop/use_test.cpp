@@ -11,11 +11,6 @@ constexpr DWORD right_button = MOUSEEVENTF_RIGHTDOWN;
 
 class Use : public Desktop_Test {
 protected:
-    void SetUp() override {
-        Desktop_Test::SetUp();
-        // Wine tells late of the mouse's earlier places, which a click on the title would take for a drag.
-        Set_Setting("Settings", "Allow Dragging", "0");
-    }
     static ::testing::AssertionResult Shows(const Program &program, const std::string &title) {
         return Becomes(title, [&] { return program.Title(); });
     }

@@ -268,7 +268,6 @@ TEST_F(Random_Use, Goes_On) {
     Write_File(L"in.csv",
                "\"Subject\",\"Start Date\",\"Description\"\r\n\"Vellatro\",\"5/6/2027\",\"New\"\r\n");
     Write_Data("\"12/5/9999=Always\"\r\n\"6/5/2027=Once\"\r\n");
-    Set_Setting("Settings", "Allow Dragging", "0");
     const auto minute = [begin] { return static_cast<int>((GetTickCount() - begin) / 60000); };
     std::ptrdiff_t most = 0; // objects, in the first ten minutes
     int starts = 0, told = 0;
