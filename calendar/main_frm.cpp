@@ -75,6 +75,7 @@ void Main_Frm::Wire_Events() {
         // No release comes any more, and a calendar that is dragged does not follow the shell.
         Hide_Balloon();
         drag_.End();
+        Take_Focus(false);
         if (!Attachment.Lose_Window())
             Lose_Desktop();
     };
