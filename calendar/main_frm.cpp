@@ -214,7 +214,8 @@ bool Main_Frm::Hear(Broadcast broadcast) {
         Repaint();
         break;
     case Broadcast::Shell_Started:
-        Attachment.Expect();
+        if (end_ == End::None)
+            Attachment.Expect();
         break;
     case Broadcast::Session_Ends:
         return May_End();

@@ -100,6 +100,11 @@ TEST_F(Desktop_Life, follows_the_icons_to_where_the_shell_has_them) {
         EXPECT_EQ(Desktop().loop_ended, !shell_stays);
         EXPECT_EQ(Shell().attached_to, 11U);
     }
+    // The next shell is for the next process.
+    Shell().desktop = 11;
+    Desktop().Say(platform::Broadcast::Shell_Started);
+    Desktop().Advance(1000);
+    EXPECT_FALSE(form.Attachment.Waiting());
 }
 
 TEST_F(Desktop_Life, waits_two_minutes_for_a_view_that_comes_late_and_again_for_the_next_shells) {
