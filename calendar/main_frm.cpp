@@ -72,6 +72,10 @@ void Main_Frm::Wire_Events() {
     // Nothing is asked here: the window inside the shell's goes down in the middle of the shell's own end,
     // which waits for it.
     On_Window_Lost = [this] {
+        // No release comes any more, and a calendar that is dragged does not follow the shell.
+        Hide_Balloon();
+        drag_.End();
+        Take_Focus(false);
         if (!Attachment.Lose_Window())
             Lose_Desktop();
     };
@@ -155,6 +159,9 @@ Date Main_Frm::Take_Today() {
 
 void Main_Frm::Dectect_Date_Timer_Timer() {
     RePosition();
+    // A preview has a title and a wallpaper of its own.
+    if (Shown_Settings != &Cur_Settings)
+        return;
     Update_Title();
     const Date today = Today();
     const std::string stamp = Date_Stamp(today);
@@ -207,6 +214,8 @@ bool Main_Frm::Hear(Broadcast broadcast) {
         Repaint();
         break;
     case Broadcast::Shell_Started:
+        if (end_ == End::None)
+            Attachment.Expect();
         break;
     case Broadcast::Session_Ends:
         return May_End();

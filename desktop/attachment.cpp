@@ -25,9 +25,15 @@ constexpr unsigned longest_start = 120'000;
 } // namespace
 
 void Desktop_Attachment::Enter(platform::Shell_Window desktop) {
-    waiting_ = true;
-    entered_ = platform::Milliseconds();
+    Expect();
     Look(desktop, first_patience);
+}
+
+void Desktop_Attachment::Expect() {
+    if (holder_ != 0)
+        return;
+    waiting_ = true;
+    waits_since_ = platform::Milliseconds();
 }
 
 void Desktop_Attachment::Follow() {
@@ -36,7 +42,7 @@ void Desktop_Attachment::Follow() {
         return;
     const platform::Shell_Window desktop = platform::Find_Desktop_Window();
     if (desktop == 0) {
-        waiting_ = false;
+        waiting_ = waiting_ && !lost_ && Is_Early();
         if (std::exchange(lost_, false))
             Fire(On_Desktop_Lost);
         return;
@@ -52,8 +58,13 @@ void Desktop_Attachment::Follow() {
 bool Desktop_Attachment::Lose_Window() {
     // The desktop takes what is in it down before it is gone itself.
     lost_ = waiting_ = std::exchange(holder_, 0) != std::exchange(desktop_, 0);
-    entered_ = platform::Milliseconds();
+    waits_since_ = platform::Milliseconds();
     return lost_;
+}
+
+/// Returns whether a shell may be still to make its windows.
+bool Desktop_Attachment::Is_Early() const {
+    return platform::Milliseconds() - waits_since_ < longest_start;
 }
 
 /// Looks for the view, with `patience` milliseconds for each of the shell's answers. Returns whether the form
@@ -64,7 +75,7 @@ bool Desktop_Attachment::Look(platform::Shell_Window desktop, unsigned patience)
     const platform::Shell_Window list = view == 0 ? 0 : platform::Find_Icon_List(view);
     const platform::Shell_Window holder = view == 0 ? 0 : platform::Holder_Of(view);
     if (list == 0 || holder == 0) {
-        waiting_ = waiting_ && platform::Milliseconds() - entered_ < longest_start;
+        waiting_ = waiting_ && Is_Early();
         return false;
     }
     if (holder == holder_) {

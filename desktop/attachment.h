@@ -12,8 +12,10 @@ public:
     /// Puts the form into the window that holds the view of icons. What of the shell is missing is left out
     /// in silence, and looked for again by Follow.
     void Enter(platform::Shell_Window desktop);
+    /// Has Follow look for the desktop of a shell that has just started, unless the form is inside one.
+    void Expect();
     /// Puts the form where the view is now, and above it. Called every second and whenever another window
-    /// comes to the front. Does nothing before Enter.
+    /// comes to the front. Does nothing before Enter or Expect.
     void Follow();
     /// Whether the form is still to go inside.
     bool Waiting() const { return waiting_; }
@@ -29,11 +31,12 @@ public:
 
 private:
     bool Look(platform::Shell_Window desktop, unsigned patience);
+    bool Is_Early() const;
 
     Form &form_;
     platform::Shell_Window desktop_ = 0; ///< when the form went inside
     platform::Shell_Window holder_ = 0;  ///< of the view, which the form went into; 0: it is outside
-    unsigned entered_ = 0;               ///< the time of Enter
+    unsigned waits_since_ = 0;           ///< the time of Enter or Expect
     bool waiting_ = false;
     bool lost_ = false; ///< the form has no window
     bool looking_ = false;

@@ -45,11 +45,9 @@ Wallpaper_Preview::~Wallpaper_Preview() {
 
 void Wallpaper_Preview::Begin(const std::string &pack, const Settings &choices) {
     End();
-    before_ = Before{calendar_.Which_Month_Lbl.Caption(), calendar_.Dectect_Date_Timer.Enabled(),
-                     calendar_.Theme_BoxStyle, calendar_.Theme_Pos, Find_User_Wallpaper()};
+    before_ = Before{calendar_.Which_Month_Lbl.Caption(), calendar_.Theme_BoxStyle, calendar_.Theme_Pos,
+                     Find_User_Wallpaper()};
     Keep_User_Wallpaper(before_->wallpaper, pack);
-    // The title would get its time back every second, and at midnight the calendar its wallpaper.
-    calendar_.Dectect_Date_Timer.Set_Enabled(false);
     choices_ = choices;
     calendar_.Shown_Settings = &choices_;
     pack_ = pack;
@@ -101,7 +99,6 @@ void Wallpaper_Preview::End() noexcept {
     });
     Run_Guarded([&] { calendar_.Follow(Cur_Settings); });
     Run_Guarded([&] { calendar_.Which_Month_Lbl.Set_Caption(before.caption); });
-    Run_Guarded([&] { calendar_.Dectect_Date_Timer.Set_Enabled(before.watches_date); });
     // The program may be about to end, and the next preview looks up what hangs now.
     if (platform::Finish_Wallpaper())
         Keep_User_Wallpaper({}, {});

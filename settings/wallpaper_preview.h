@@ -40,7 +40,6 @@ private:
     /// What the preview changes.
     struct Before {
         std::string caption;
-        bool watches_date = false;
         std::optional<std::int16_t> theme_style;
         std::optional<std::int16_t> theme_position;
         User_Wallpaper wallpaper;

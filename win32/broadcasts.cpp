@@ -73,6 +73,8 @@ bool Heard(UINT message, WPARAM wparam) {
 }
 
 void CALLBACK Hear_Of_Front(HWINEVENTHOOK, DWORD, HWND, LONG, LONG, DWORD, DWORD) {
+    const Scoped_Value by_itself(win32::Comes_By_Itself, true);
+    const Scoped_Value scale(win32::Dialog_Dots, 0);
     if (!win32::Mouse_Is_Taken())
         Tell(platform::Broadcast::Front_Changed);
 }

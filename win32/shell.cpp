@@ -48,8 +48,10 @@ void Set_Layered(HWND window, bool layered) {
     const LONG style = GetWindowLongW(window, GWL_EXSTYLE);
     SetWindowLongW(window, GWL_EXSTYLE, style ^ WS_EX_LAYERED);
     // A layered window that has no attributes is not shown at all.
-    if (layered && !SetLayeredWindowAttributes(window, 0, 255, LWA_ALPHA))
+    if (layered && !SetLayeredWindowAttributes(window, 0, 255, LWA_ALPHA)) {
         SetWindowLongW(window, GWL_EXSTYLE, style);
+        return;
+    }
     InvalidateRect(window, nullptr, FALSE);
 }
 
