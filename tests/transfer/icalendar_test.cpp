@@ -15,7 +15,7 @@ protected:
         File("C:\\in.ics") = bytes;
         Fakes().Expect_Dialog("Import Events from iCalendar File", "C:\\in.ics");
         Fakes().Expect_Box(message);
-        Push(*dialog, dialog->Transfer.Import_ICalendar_Btn);
+        Push(*dialog, dialog->Transfer.Import_Btn[3]);
     }
     static std::string Lines(std::string text) {
         std::string bytes;
@@ -182,7 +182,7 @@ TEST_F(Calendar_Files, are_written_byte_for_byte) {
     Fakes().zone_minutes = -60;
     Fakes().Expect_Dialog("Export Events as iCalendar File", "C:\\out");
     Fakes().Expect_Box("Successfully exported 2 events to the iCalendar file...\r\nC:\\out.ics");
-    Push(*dialog, dialog->Transfer.Export_ICalendar_Btn);
+    Push(*dialog, dialog->Transfer.Export_Btn[4]);
     const std::string stamp = "DTSTAMP:20020305T113000Z|", end = "TRANSP:TRANSPARENT|";
     EXPECT_EQ(
         File("C:\\out.ics"),
