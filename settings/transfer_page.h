@@ -7,8 +7,6 @@
 #include "transfer/export.h"
 #include "transfer/import.h"
 
-#include <cstdint>
-
 class Transfer_Page final : public Page {
 public:
     Transfer_Page(Frame &frame, Main_Frm &calendar);
@@ -18,8 +16,8 @@ public:
     /// it, and the slots of `Import`.
     Callback<Settings()> Shown_Configuration;
 
-    void Export_Btn_Click(std::int16_t index); ///< a number of Export_Kind
-    void Import_Btn_Click(std::int16_t index);
+    void Export_Btn_Click(int index); ///< a number of Export_Kind
+    void Import_Btn_Click(int index);
 
     Frame Export_Fra{frame_, "Export_Fra", "Export"};
     Control_Array<Button, 5> Export_Btn{Export_Fra, "Export_Btn"};
