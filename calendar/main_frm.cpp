@@ -29,7 +29,7 @@ std::string Regional_Look() {
 
 } // namespace
 
-Main_Frm::Main_Frm() : Dectect_Date_Timer(1000) {
+Main_Frm::Main_Frm() {
     Wire_Events();
 }
 

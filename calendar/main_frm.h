@@ -149,7 +149,7 @@ public:
     /// Lets compact mode come again after a dialog is closed.
     void Resume_Auto_Compact();
 
-    Timer Dectect_Date_Timer;
+    Timer Dectect_Date_Timer{1000};
     Timer Compact_Timer{60000};
     Desktop_Attachment Attachment{*this};
     Splash_Frm Splash;

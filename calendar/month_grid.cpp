@@ -18,11 +18,7 @@ constexpr Colour white = Rgb(255, 255, 255);
 
 } // namespace
 
-Month_Grid::Month_Grid()
-    : Form(platform::Form_Kind::Painted, "Calendar"), Prev_Month_Lbl(*this, "Prev_Month_Lbl"),
-      Which_Month_Lbl(*this, "Which_Month_Lbl"), Next_Month_Lbl(*this, "Next_Month_Lbl"),
-      Day_Lbl(*this, "Day_Lbl"), Box_Lbl(*this, "Box_Lbl"), Box_Caption_Lbl(*this, "Box_Caption_Lbl"),
-      DotDotDot_Lbl(*this, "DotDotDot_Lbl") {
+Month_Grid::Month_Grid() : Form(platform::Form_Kind::Painted, "Calendar") {
     Set_Title("Vellatro");
     DotDotDot_Lbl.Set_Visible(false);
     Describe_Heading();

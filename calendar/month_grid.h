@@ -59,13 +59,13 @@ public:
     /// Gives today's box, which is the one with this index, its colours.
     void Colour_Today(int index);
 
-    Label Prev_Month_Lbl;
-    Label Which_Month_Lbl;
-    Label Next_Month_Lbl;
-    Control_Array<Label, days_a_week> Day_Lbl;
-    Control_Array<Label, box_count> Box_Lbl;
-    Control_Array<Label, box_count> Box_Caption_Lbl;
-    Label DotDotDot_Lbl; ///< never seen: texts are measured in it
+    Label Prev_Month_Lbl{*this, "Prev_Month_Lbl"};
+    Label Which_Month_Lbl{*this, "Which_Month_Lbl"};
+    Label Next_Month_Lbl{*this, "Next_Month_Lbl"};
+    Control_Array<Label, days_a_week> Day_Lbl{*this, "Day_Lbl"};
+    Control_Array<Label, box_count> Box_Lbl{*this, "Box_Lbl"};
+    Control_Array<Label, box_count> Box_Caption_Lbl{*this, "Box_Caption_Lbl"};
+    Label DotDotDot_Lbl{*this, "DotDotDot_Lbl"}; ///< never seen: texts are measured in it
 
 protected:
     /// Shows the text of a day in its box, its tooltip and to assistive technology; an empty one: no event.

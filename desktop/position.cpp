@@ -22,7 +22,8 @@ int Fit_Int32(std::int64_t value) {
 /// One coordinate, where the calendar takes `taken` of the work area's `length`. The fraction is dropped,
 /// also of a window larger than the work area.
 int Coordinate(std::int64_t begin, std::int64_t length, std::int64_t taken, int hundredths) {
-    return Fit_Int32(begin + (length - taken) * hundredths / whole);
+    const std::int64_t free = Fit_Int32(length - taken);
+    return Fit_Int32(begin + free * hundredths / whole);
 }
 
 } // namespace

@@ -10,8 +10,6 @@
 #include <cstdint>
 #include <memory>
 
-struct Settings;
-
 class Colours_Page final : public Page {
 public:
     static constexpr int colour_count = 6;
@@ -73,7 +71,7 @@ public:
     Label Preview_Caption1_Lbl{Preview_Fra, "Preview_Caption1_Lbl", "Event"};
 
 private:
-    /// One colour: its controls, its setting and the value of a first run.
+    /// One colour: its controls and its setting.
     struct Swatch {
         Label *label;
         Picture_Box *picture;

@@ -1,18 +1,14 @@
 // The wording of the overview's lines.
 #include "settings/event_overview.h"
 
+#include "base/cut_text.h"
+
+#include <algorithm>
+
 std::string Overview_Line(const Sort_Entry &entry) {
-    std::string line = Line_Head(entry);
-    line.reserve(line.size() + entry.text.size());
-    char before = '\0';
-    for (const char character : entry.text) {
-        const bool second_of_line_end = before == '\r' && character == '\n';
-        before = character;
-        if (static_cast<unsigned char>(character) >= ' ')
-            line += character;
-        else if (!second_of_line_end)
-            line += ' ';
-    }
+    std::string line = Without_Line_Breaks(Line_Head(entry) + entry.text);
+    const auto control = [](char c) { return static_cast<unsigned char>(c) < ' '; };
+    std::replace_if(line.begin(), line.end(), control, ' ');
     return line;
 }
 

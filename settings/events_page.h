@@ -73,8 +73,6 @@ private:
     void List_Events();
     void Events_Lst_KeyDown(const platform::Input_Event &event);
     bool Remove_Event(std::size_t line);
-    void Lay_Out_Overview();
-    void Lay_Out_Statistics();
 
     Main_Frm &calendar_;
     Event_Statistics statistics_;

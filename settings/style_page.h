@@ -20,7 +20,6 @@ struct Theme_Look {
 
 class Style_Page final : public Page {
 public:
-    using Theme_Look = ::Theme_Look;
     static constexpr const char *theme_hint = "The theme chooses these. See the page Wallpaper.";
 
     Style_Page(Frame &frame, Main_Frm &calendar);

@@ -2,7 +2,6 @@
 #include "settings/wallpaper_page.h"
 
 #include "base/joined.h"
-#include "base/reading_direction.h"
 #include "core/convert.h"
 #include "core/date.h"
 #include "core/settings.h"
@@ -127,8 +126,6 @@ void Wallpaper_Page::Get_Papers() {
 
 void Wallpaper_Page::Get_Themes() {
     Theme_Use_Chk.Set_Checked(Cur_Settings.Use_Themes != 0);
-    Theme_Style_Chk.Set_Checked(Cur_Settings.Use_Theme_Style != 0);
-    Theme_Pos_Chk.Set_Checked(Cur_Settings.Use_Theme_Pos != 0);
     Enable_Choices(Theme_Use_Chk.Checked());
     Hand_Over_Look();
     Other_Display_Chk_Click();
@@ -276,7 +273,7 @@ void Wallpaper_Page::Paint_Failure(platform::Canvas &canvas) const {
     int top = layout::small_gap;
     for (const std::string &text : Wrap_Text(shown_.failure, font, width, most)) {
         platform::Draw_Text(canvas, text, {layout::gap, top, width, line}, font, text_colour,
-                            platform::Text_Align::Left, Is_Right_To_Left(text));
+                            platform::Text_Align::Left, false);
         top += line;
     }
 }
@@ -316,8 +313,8 @@ void Wallpaper_Page::Load_Pictures() {
 
 // Both boxes are ticked in the settings of a first run. While no theme is in use nothing replaces the user's
 // own style and position, so their choice is free.
-Style_Page::Theme_Look Wallpaper_Page::Look() const {
-    Style_Page::Theme_Look look;
+Theme_Look Wallpaper_Page::Look() const {
+    Theme_Look look;
     if (!Theme_Use_Chk.Checked())
         return look;
     look.rules_style = Theme_Style_Chk.Checked();

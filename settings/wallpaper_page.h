@@ -32,7 +32,7 @@ public:
     /// Ends a running preview and puts all back. Returns whether one was running.
     bool End_Preview();
     /// What the selected pack makes of the calendar this month, as far as it is to be used.
-    Style_Page::Theme_Look Look() const;
+    Theme_Look Look() const;
 
     void Packs_Cbo_Click();
     /// Refuses a selected pack in which a file is missing: the user is told, and the pack of the settings is

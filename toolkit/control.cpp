@@ -10,7 +10,6 @@
 
 #include <utility>
 
-using platform::Aspect;
 
 Container::Container(const Frame &in) : form(in.Owner()), frame(in.State().index) {
 }
@@ -46,68 +45,12 @@ void Control::Move(const Rect &bounds) {
         platform::Control_Changed(form_.model_, state_, Aspect::Bounds, before);
 }
 
-void Control::Set_Visible(bool visible) {
-    Store(state_.visible, visible, Aspect::Visible);
-}
-
-void Control::Set_Enabled(bool enabled) {
-    Store(state_.enabled, enabled, Aspect::Enabled);
-}
-
-void Control::Set_Caption(std::string_view caption) {
-    Store(state_.caption, caption, Aspect::Caption);
-}
-
-void Control::Set_Tooltip(std::string_view tooltip) {
-    Store(state_.tooltip, tooltip, Aspect::Tooltip);
-}
-
-void Control::Set_Fore_Colour(Colour colour) {
-    Store(state_.fore_colour, colour, Aspect::Look);
-}
-
-void Control::Set_Back_Colour(Colour colour) {
-    Store(state_.back_colour, colour, Aspect::Look);
-}
-
-void Control::Set_Frame_Colour(Colour colour) {
-    Store(state_.frame_colour, colour, Aspect::Look);
-}
-
-void Control::Set_Marked(bool marked) {
-    Store(state_.marked, marked, Aspect::Look);
-}
-
-void Control::Set_Edged(bool edged) {
-    Store(state_.edged, edged, Aspect::Look);
-}
-
-void Control::Set_Font(const platform::Font &font) {
-    Store(state_.font, font, Aspect::Look);
-}
-
-void Control::Set_Transparent(bool transparent) {
-    Store(state_.transparent, transparent, Aspect::Look);
-}
-
 void Control::Set_Align(platform::Text_Align align, bool middle) {
     if (state_.align == align && state_.middle == middle)
         return;
     state_.align = align;
     state_.middle = middle;
     Tell(Aspect::Look);
-}
-
-void Control::Set_Padding(int twips) {
-    Store(state_.padding, twips, Aspect::Look);
-}
-
-void Control::Set_Glyph(platform::Glyph glyph) {
-    Store(state_.glyph, glyph, Aspect::Look);
-}
-
-void Control::Set_Access(platform::Access_State access) {
-    Store(state_.access, std::move(access), Aspect::Access);
 }
 
 void Control::Take(const platform::Input_Event &event) {
@@ -120,22 +63,10 @@ void Label::Set_Painted() {
     state_.paint = [this](platform::Canvas &canvas, const Rect &clip) { Paint_Itself(state_, canvas, clip); };
 }
 
-void Button::Set_Default(bool is_default) {
-    Store(state_.is_default, is_default, Aspect::Look);
-}
-
-void Button::Set_Cancel(bool is_cancel) {
-    Store(state_.is_cancel, is_cancel, Aspect::Look);
-}
-
 void Button::Take(const platform::Input_Event &event) {
     if (event.key == Key_Escape && On_Escape)
         return Fire(On_Escape);
     Control::Take(event);
-}
-
-void Check_Box::Set_Checked(bool checked) {
-    Store(state_.checked, checked, Aspect::Checked);
 }
 
 void Check_Box::Take(const platform::Input_Event &event) {

@@ -43,32 +43,34 @@ public:
     void Move(const Rect &bounds);
 
     bool Visible() const { return state_.visible; }
-    void Set_Visible(bool visible);
+    void Set_Visible(bool visible) { Store(state_.visible, visible, Aspect::Visible); }
     bool Enabled() const { return state_.enabled; }
-    void Set_Enabled(bool enabled);
+    void Set_Enabled(bool enabled) { Store(state_.enabled, enabled, Aspect::Enabled); }
     const std::string &Caption() const { return state_.caption; }
-    void Set_Caption(std::string_view caption);
+    void Set_Caption(std::string_view caption) { Store(state_.caption, caption, Aspect::Caption); }
     const std::string &Tooltip() const { return state_.tooltip; }
-    void Set_Tooltip(std::string_view tooltip);
+    void Set_Tooltip(std::string_view tooltip) { Store(state_.tooltip, tooltip, Aspect::Tooltip); }
     Colour Fore_Colour() const { return state_.fore_colour; }
-    void Set_Fore_Colour(Colour colour);
+    void Set_Fore_Colour(Colour colour) { Store(state_.fore_colour, colour, Aspect::Look); }
     Colour Back_Colour() const { return state_.back_colour; }
-    void Set_Back_Colour(Colour colour);
+    void Set_Back_Colour(Colour colour) { Store(state_.back_colour, colour, Aspect::Look); }
     /// -1 takes the frame away.
-    void Set_Frame_Colour(Colour colour);
+    void Set_Frame_Colour(Colour colour) { Store(state_.frame_colour, colour, Aspect::Look); }
     /// The mark of the keyboard focus.
-    void Set_Marked(bool marked);
+    void Set_Marked(bool marked) { Store(state_.marked, marked, Aspect::Look); }
     /// A hairline inside the edges, for a box that stands on a picture of any colour. A frame and a mark
     /// cover it.
-    void Set_Edged(bool edged);
+    void Set_Edged(bool edged) { Store(state_.edged, edged, Aspect::Look); }
     const platform::Font &Font() const { return state_.font; }
-    void Set_Font(const platform::Font &font);
-    void Set_Transparent(bool transparent);
+    void Set_Font(const platform::Font &font) { Store(state_.font, font, Aspect::Look); }
+    void Set_Transparent(bool transparent) { Store(state_.transparent, transparent, Aspect::Look); }
     void Set_Align(platform::Text_Align align, bool middle);
-    void Set_Padding(int twips);
-    void Set_Glyph(platform::Glyph glyph);
+    void Set_Padding(int twips) { Store(state_.padding, twips, Aspect::Look); }
+    void Set_Glyph(platform::Glyph glyph) { Store(state_.glyph, glyph, Aspect::Look); }
     const platform::Access_State &Access() const { return state_.access; }
-    void Set_Access(platform::Access_State access);
+    void Set_Access(platform::Access_State access) {
+        Store(state_.access, std::move(access), Aspect::Access);
+    }
 
     // Events. The point is relative to the control's top left corner.
     /// A button of any kind pressed, a painted control clicked with the left button. The second click of a
@@ -87,16 +89,18 @@ public:
     virtual void Take(const platform::Input_Event &event);
 
 protected:
+    using Aspect = platform::Aspect;
+
     /// Stores `value` in `field` and tells the mirror, if that is a change. Returns whether it was.
     template <typename Field, typename Value>
-    bool Store(Field &field, Value &&value, platform::Aspect aspect) {
+    bool Store(Field &field, Value &&value, Aspect aspect) {
         if (field == value)
             return false;
         field = std::forward<Value>(value);
         Tell(aspect);
         return true;
     }
-    void Tell(platform::Aspect aspect);
+    void Tell(Aspect aspect);
 
     platform::Control_State state_;
 
@@ -124,8 +128,8 @@ public:
 class Button : public Of_Kind<platform::Control_Kind::Button> {
 public:
     using Of_Kind::Of_Kind;
-    void Set_Default(bool is_default);
-    void Set_Cancel(bool is_cancel);
+    void Set_Default(bool is_default) { Store(state_.is_default, is_default, Aspect::Look); }
+    void Set_Cancel(bool is_cancel) { Store(state_.is_cancel, is_cancel, Aspect::Look); }
     /// Esc, where it stands for the button. Empty: `On_Click` comes then, too.
     Handler<> On_Escape;
 
@@ -137,7 +141,7 @@ class Check_Box : public Of_Kind<platform::Control_Kind::Check_Box> {
 public:
     using Of_Kind::Of_Kind;
     bool Checked() const { return state_.checked; }
-    void Set_Checked(bool checked);
+    void Set_Checked(bool checked) { Store(state_.checked, checked, Aspect::Checked); }
 
 private:
     void Take(const platform::Input_Event &event) override;

@@ -10,7 +10,6 @@
 #include <cstdint>
 #include <utility>
 
-using platform::Aspect;
 using platform::Control_Kind;
 using platform::Input_Event;
 using platform::Input_Kind;

@@ -237,8 +237,7 @@ Event_Days Find_Event_Days(const Calendar_File &file, const Date &today, Progres
     Day_Finder finder(file, today);
     for (std::size_t i = 0; i < file.events.size(); ++i) {
         finder.Find(static_cast<std::uint32_t>(i), result);
-        if (progress.Due())
-            progress.Show(8 * file.events.size() + 2 * i, 10 * file.events.size());
+        progress.Step(8 * file.events.size() + 2 * i, 10 * file.events.size());
     }
     return result;
 }

@@ -74,6 +74,15 @@ std::string Short_Date(const Date &date) {
     return platform::Short_Date(date.year, date.month, date.day);
 }
 
+std::string Text_Bytes(const std::vector<Sort_Entry> &entries, Progress &progress) {
+    std::string bytes;
+    for (std::size_t i = 0; i < entries.size(); ++i) {
+        bytes.append(Line_Head(entries[i])).append(entries[i].text).append("\r\n");
+        progress.Step(i, entries.size());
+    }
+    return bytes;
+}
+
 /// The bytes of a file that is not a copy, and the closing message without the file's name. False when there
 /// is nothing to export, which the user has been told.
 bool Make_Content(Export_Kind kind, Callback_Ref<Settings()> shown, Progress &progress, std::string &bytes,
@@ -107,16 +116,6 @@ bool Make_Content(Export_Kind kind, Callback_Ref<Settings()> shown, Progress &pr
 
 } // namespace
 
-std::string Text_Bytes(const std::vector<Sort_Entry> &entries, Progress &progress) {
-    std::string bytes;
-    for (std::size_t i = 0; i < entries.size(); ++i) {
-        bytes.append(Line_Head(entries[i])).append(entries[i].text).append("\r\n");
-        if (progress.Due())
-            progress.Show(i, entries.size());
-    }
-    return bytes;
-}
-
 std::string CSV_Bytes(const std::vector<Sort_Entry> &entries, Progress &progress) {
     constexpr const char *midnight = "12:00:00 AM";
     std::string bytes =
@@ -128,8 +127,7 @@ std::string CSV_Bytes(const std::vector<Sort_Entry> &entries, Progress &progress
         Append_Field(bytes, midnight, ",");
         Append_Field(bytes, Short_Date(Date_Of(Day_Number(entries[i].date) + 1)), ",");
         Append_Field(bytes, midnight, "\r\n");
-        if (progress.Due())
-            progress.Show(i, entries.size());
+        progress.Step(i, entries.size());
     }
     return bytes;
 }

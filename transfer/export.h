@@ -14,7 +14,6 @@
 enum class Export_Kind { Data_File, Configuration, Text, CSV, ICalendar };
 
 /// The bytes of a file with these events, in their order.
-std::string Text_Bytes(const std::vector<Sort_Entry> &entries, Progress &progress);
 std::string CSV_Bytes(const std::vector<Sort_Entry> &entries, Progress &progress);
 
 /// Asks for a name and writes the file, with all messages to the user. The target is replaced by a whole new

@@ -206,17 +206,10 @@ void Append_Line(std::string &bytes, std::string_view line) {
 
 std::string Escaped(std::string_view text) {
     std::string escaped;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        if (text.substr(i).starts_with("\r\n"))
-            ++i;
-        const char c = text[i];
-        if (c == '\n' || c == '\r') {
-            escaped += "\\n";
-        } else {
-            if (c == '\\' || c == ';' || c == ',')
-                escaped += '\\';
-            escaped += c;
-        }
+    for (const char c : Without_Line_Breaks(std::string(text), '\n')) {
+        if (c == '\n' || c == '\\' || c == ';' || c == ',')
+            escaped += '\\';
+        escaped += c == '\n' ? 'n' : c;
     }
     return escaped;
 }
@@ -354,8 +347,7 @@ Calendar_File Read_ICalendar(std::string_view bytes, Progress &progress) {
     Content_Lines lines(bytes);
     for (Content_Line line; lines.Next(line);) {
         reader.Take(line);
-        if (progress.Due())
-            progress.Show(lines.Position(), bytes.size() / 8 * 10);
+        progress.Step(lines.Position(), bytes.size() / 8 * 10);
     }
     return reader.Finish();
 }
@@ -368,8 +360,7 @@ std::string ICalendar_Bytes(const std::vector<Sort_Entry> &entries, Progress &pr
     std::string bytes = "BEGIN:VCALENDAR\r\nVERSION:2.0\r\nPRODID:-//Vellatro//Vellatro//EN\r\n";
     for (std::size_t i = 0; i < entries.size(); ++i) {
         Append_Event(bytes, entries[i], stamp);
-        if (progress.Due())
-            progress.Show(i, entries.size());
+        progress.Step(i, entries.size());
     }
     bytes += "END:VCALENDAR\r\n";
     return bytes;

@@ -157,8 +157,7 @@ void Importer::Read_Events(const std::string &bytes, std::vector<Sort_Entry> &st
     while (!lines.At_End()) {
         if (Read_CSV_Line(lines.Next_Record(), columns_, event))
             staged.push_back({Day_Number(event.date), event.date, false, {}, std::move(event.text)});
-        if (Work.Due())
-            Work.Show(lines.Position(), bytes.size() / 9 * 10);
+        Work.Step(lines.Position(), bytes.size() / 9 * 10);
     }
 }
 

@@ -17,6 +17,11 @@ public:
     bool Due();
     /// Tells that `done` of `total` steps are done.
     void Show(std::size_t done, std::size_t total);
+    /// The same after a small step, when it is time to tell.
+    void Step(std::size_t done, std::size_t total) {
+        if (Due())
+            Show(done, total);
+    }
     /// The work is done, or given up; may be called without any.
     void End();
 

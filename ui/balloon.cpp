@@ -51,9 +51,7 @@ std::vector<std::string> Lines_Of(std::string_view text, int &width, int widest,
 
 } // namespace
 
-frmBalloon::frmBalloon()
-    : Form(platform::Form_Kind::Floating, "Balloon"), Icon_Lbl(*this, "Icon_Lbl"),
-      Title_Lbl(*this, "Title_Lbl"), Message_Lbl(*this, "Message_Lbl") {
+frmBalloon::frmBalloon() : Form(platform::Form_Kind::Floating, "Balloon") {
     Set_Back_Colour(back_colour);
     Icon_Lbl.Set_Transparent(true);
     Icon_Lbl.Set_Fore_Colour(icon_colour);

@@ -38,10 +38,7 @@ void Dress(Label &label, const Rect &place, Colour back, Colour fore, const plat
 
 } // namespace
 
-Splash_Frm::Splash_Frm()
-    : Form(platform::Form_Kind::Floating, "Splash"), Frame_Lbl(*this, "Frame_Lbl"),
-      Ring_Lbl(*this, "Ring_Lbl"), Weekday_Lbl(*this, "Weekday_Lbl"), Day_Lbl(*this, "Day_Lbl"),
-      Name_Lbl(*this, "Name_Lbl"), Line_Lbl(*this, "Line_Lbl"), Start_Timer(1500) {
+Splash_Frm::Splash_Frm() : Form(platform::Form_Kind::Floating, "Splash") {
     using platform::Text_Align;
     Set_Title("Welcome to Vellatro");
     Set_Back_Colour(deep_blue);

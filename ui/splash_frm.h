@@ -20,13 +20,13 @@ public:
     /// last day box; twips. A user who is `new_here` is told how to begin.
     void Show_Over(const Rect &calendar, int box_36_top, bool new_here);
 
-    Label Frame_Lbl;
-    Control_Array<Label, 2> Ring_Lbl; ///< that the calendar leaf hangs by
-    Label Weekday_Lbl;                ///< the leaf's head
-    Label Day_Lbl;                    ///< the leaf
-    Label Name_Lbl;
-    Label Line_Lbl; ///< the line below the name
-    Timer Start_Timer;
+    Label Frame_Lbl{*this, "Frame_Lbl"};
+    Control_Array<Label, 2> Ring_Lbl{*this, "Ring_Lbl"}; ///< that the calendar leaf hangs by
+    Label Weekday_Lbl{*this, "Weekday_Lbl"};             ///< the leaf's head
+    Label Day_Lbl{*this, "Day_Lbl"};                     ///< the leaf
+    Label Name_Lbl{*this, "Name_Lbl"};
+    Label Line_Lbl{*this, "Line_Lbl"}; ///< the line below the name
+    Timer Start_Timer{1500};
 
 private:
     void Start_Timer_Timer();

@@ -95,10 +95,8 @@ HFONT Dialog_Window::Find_Font(const platform::Font &font) {
 
 void Dialog_Window::Set_Caption(const Control_State &control) {
     const HWND window = Control_Window(control.index);
-    if (control.kind == Control_Kind::Slider) {
-        if (slider_tip_.Is_Over(window))
-            slider_tip_.Show(window, To_Wide(control.caption));
-    }
+    if (control.kind == Control_Kind::Slider && slider_tip_.Is_Over(window))
+        slider_tip_.Show(window, To_Wide(control.caption));
     const bool shows_text = control.kind != Control_Kind::Slider && (!Has_Items(control) || control.editable);
     if (!shows_text && control.access.name.empty())
         return;

@@ -84,7 +84,7 @@ TEST_F(Style, the_miniature_shows_the_calendar_where_it_will_be) {
             Show_Month(month, 2002);
             form.Which_Style(style);
             form.Position_Form(position);
-            Style_Page::Theme_Look look;
+            Theme_Look look;
             look.style = style;
             look.position = position;
             page.Set_Theme(look);

@@ -13,19 +13,19 @@ protected:
 
     void Export(int index, const std::string &answer, const std::string &message) {
         constexpr const char *titles[] = {"Export Data File", "Export Configuration File",
-                                          "Export Events to Text File", "Export Events as CSV File"};
-        Fakes().Expect_Dialog(titles[index], answer);
-        Press_Button(dialog->Transfer.Export_Btn[index], message);
+                                          "Export Events to Text File", "Export Events as CSV File",
+                                          "Export Events as iCalendar File"};
+        Press(dialog->Transfer.Export_Btn[index], titles[index], answer, message);
     }
     void Import(int index, const std::string &answer, const std::string &message) {
         constexpr const char *titles[] = {"Import Data File", "Import Configuration File",
-                                          "Import Events from CSV File"};
-        Fakes().Expect_Dialog(titles[index], answer);
-        Press_Button(dialog->Transfer.Import_Btn[index], message);
+                                          "Import Events from CSV File", "Import Events from iCalendar File"};
+        Press(dialog->Transfer.Import_Btn[index], titles[index], answer, message);
     }
 
 private:
-    void Press_Button(const Button &button, const std::string &message) {
+    void Press(Button &button, const char *title, const std::string &answer, const std::string &message) {
+        Fakes().Expect_Dialog(title, answer);
         if (!message.empty())
             Fakes().Expect_Box(message);
         Push(*dialog, button);

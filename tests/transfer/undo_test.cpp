@@ -60,9 +60,7 @@ TEST_F(Undoing, takes_every_kind_of_change_back) {
         {"Import",
          [&] { Import_File("C:\\in.csv", "Import Events from CSV File", transfer().Import_Btn[2]); }},
         {"Import",
-         [&] {
-             Import_File("C:\\in.ics", "Import Events from iCalendar File", transfer().Import_ICalendar_Btn);
-         }},
+         [&] { Import_File("C:\\in.ics", "Import Events from iCalendar File", transfer().Import_Btn[3]); }},
         {"Import", [&] { Import_File("C:\\in.dat", "Import Data File", transfer().Import_Btn[0]); }},
         {"Edit 20 March", [&] { Edit(20, ""); }},
     };
