@@ -4,7 +4,6 @@
 #include "platform/message_loop.h"
 
 #include <algorithm>
-#include <iterator>
 
 using namespace layout;
 
@@ -19,14 +18,12 @@ constexpr Button_Text export_texts[] = {
     {"&Data File...", "A copy of the data file calendar.dat with all events."},
     {"&Configuration...", "The settings as this dialog shows them."},
     {"Te&xt File...", "All events by date, one on each line, to read or to print."},
-    {"CS&V File...", "All events as a table, for other calendars and for spreadsheets."},
-    {"&iCalendar...", "All events, for calendars on the web and in phones."}};
+    {"CS&V File...", "All events as a table, for other calendars and for spreadsheets."}};
 
 constexpr Button_Text import_texts[] = {
     {"Da&ta File...", "Replaces all events by those of another data file."},
     {"Confi&guration...", "Loads all settings from a file and closes this dialog."},
-    {"CSV Fi&le...", "Adds the events of a table to those that are there."},
-    {"iCal&endar...", "Adds the events of another calendar to those that are there."}};
+    {"CSV Fi&le...", "Adds the events of a table to those that are there."}};
 
 constexpr int wide_button = 115 * 15;
 constexpr int bar_height = 16 * 15;
@@ -35,16 +32,18 @@ constexpr int explanation_lines = 2;
 } // namespace
 
 Transfer_Page::Transfer_Page(Frame &frame, Main_Frm &calendar) : Page(frame), Import(calendar, Dialog1) {
-    for (int i = 0; i < std::ssize(export_texts); ++i) {
+    for (std::int16_t i = 0; i < 4; ++i) {
         Export_Btn[i].Set_Caption(export_texts[i].caption);
         Export_Lbl[i].Set_Caption(export_texts[i].explanation);
         Export_Btn[i].On_Click = [this, i] { Export_Btn_Click(i); };
     }
-    for (int i = 0; i < std::ssize(import_texts); ++i) {
+    for (std::int16_t i = 0; i < 3; ++i) {
         Import_Btn[i].Set_Caption(import_texts[i].caption);
         Import_Lbl[i].Set_Caption(import_texts[i].explanation);
         Import_Btn[i].On_Click = [this, i] { Import_Btn_Click(i); };
     }
+    Export_ICalendar_Btn.On_Click = [this] { Export(Export_Kind::ICalendar); };
+    Import_ICalendar_Btn.On_Click = [this] { Import.Import_ICalendar(); };
     Import.Show_Hourglass = [this] { dialog_.Set_Pointer(platform::Pointer_Shape::Hourglass); };
     for (Progress *progress : {&Import.Work, &progress_}) {
         progress->On_Show = [this](int percent) { Show_Progress(percent); };
@@ -54,9 +53,14 @@ Transfer_Page::Transfer_Page(Frame &frame, Main_Frm &calendar) : Page(frame), Im
     Lay_Out();
 }
 
-void Transfer_Page::Export_Btn_Click(int index) {
+void Transfer_Page::Export_Btn_Click(std::int16_t index) {
+    if (index >= 0 && index <= 3)
+        Export(static_cast<Export_Kind>(index));
+}
+
+void Transfer_Page::Export(Export_Kind kind) {
     try {
-        Export_File(static_cast<Export_Kind>(index), Dialog1, Shown_Configuration, progress_);
+        Export_File(kind, Dialog1, Shown_Configuration, progress_);
     } catch (...) {
         progress_.End();
         throw;
@@ -72,7 +76,7 @@ void Transfer_Page::Import_Btn_Click(int index) {
     case 2:
         return Import.Import_CSV();
     default:
-        return Import.Import_ICalendar();
+        return;
     }
 }
 
@@ -93,12 +97,17 @@ void Transfer_Page::End_Progress() {
 void Transfer_Page::Lay_Out() {
     const int line = platform::Line_Height(Progress_Lbl.Font());
     const int height = std::max(explanation_lines * line, button_height);
+    const auto add = [height](Rows &rows, Button &button, Label &label) {
+        rows.Add_Pair(button, wide_button, label, small_gap, height);
+    };
     Rows exports = Group_Rows();
-    for (int i = 0; i < std::ssize(export_texts); ++i)
-        exports.Add_Pair(Export_Btn[i], wide_button, Export_Lbl[i], small_gap, height);
+    for (int i = 0; i < 4; ++i)
+        add(exports, Export_Btn[i], Export_Lbl[i]);
+    add(exports, Export_ICalendar_Btn, Export_ICalendar_Lbl);
     Rows imports = Group_Rows();
-    for (int i = 0; i < std::ssize(import_texts); ++i)
-        imports.Add_Pair(Import_Btn[i], wide_button, Import_Lbl[i], small_gap, height);
+    for (int i = 0; i < 3; ++i)
+        add(imports, Import_Btn[i], Import_Lbl[i]);
+    add(imports, Import_ICalendar_Btn, Import_ICalendar_Lbl);
     Rows page = Page_Rows();
     page.Add(Export_Fra, group_gap, exports.Bottom() + gap);
     page.Add(Import_Fra, small_gap, imports.Bottom() + gap);

@@ -16,21 +16,28 @@ public:
     /// it, and the slots of `Import`.
     Callback<Settings()> Shown_Configuration;
 
-    void Export_Btn_Click(int index); ///< a number of Export_Kind
-    void Import_Btn_Click(int index);
+    void Export_Btn_Click(std::int16_t index);
+    void Import_Btn_Click(std::int16_t index);
 
     Frame Export_Fra{frame_, "Export_Fra", "Export"};
-    Control_Array<Button, 5> Export_Btn{Export_Fra, "Export_Btn"};
-    Control_Array<Label, 5> Export_Lbl{Export_Fra, "Export_Lbl"};
+    Control_Array<Button, 4> Export_Btn{Export_Fra, "Export_Btn"};
+    Control_Array<Label, 4> Export_Lbl{Export_Fra, "Export_Lbl"};
+    Button Export_ICalendar_Btn{Export_Fra, "Export_ICalendar_Btn", "&iCalendar..."};
+    Label Export_ICalendar_Lbl{Export_Fra, "Export_ICalendar_Lbl",
+                               "All events, for calendars on the web and in phones."};
     Frame Import_Fra{frame_, "Import_Fra", "Import"};
-    Control_Array<Button, 4> Import_Btn{Import_Fra, "Import_Btn"};
-    Control_Array<Label, 4> Import_Lbl{Import_Fra, "Import_Lbl"};
+    Control_Array<Button, 3> Import_Btn{Import_Fra, "Import_Btn"};
+    Control_Array<Label, 3> Import_Lbl{Import_Fra, "Import_Lbl"};
+    Button Import_ICalendar_Btn{Import_Fra, "Import_ICalendar_Btn", "iCal&endar..."};
+    Label Import_ICalendar_Lbl{Import_Fra, "Import_ICalendar_Lbl",
+                               "Adds the events of another calendar to those that are there."};
     Label Progress_Lbl{frame_, "Progress_Lbl", "Progress:"}; ///< names the bar
     Progress_Bar Progress_Bar1{frame_, "Progress_Bar1"};
     OpenSaveDialog Dialog1{&dialog_.Model()};
     Importer Import;
 
 private:
+    void Export(Export_Kind kind);
     void Show_Progress(int percent);
     void End_Progress();
 

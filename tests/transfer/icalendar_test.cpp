@@ -13,7 +13,9 @@ protected:
     /// Imports events, given as "|" between their lines, and expects this message.
     void Import_Bytes(const std::string &bytes, const std::string &message) {
         File("C:\\in.ics") = bytes;
-        Import(3, "C:\\in.ics", message);
+        Fakes().Expect_Dialog("Import Events from iCalendar File", "C:\\in.ics");
+        Fakes().Expect_Box(message);
+        Push(*dialog, dialog->Transfer.Import_ICalendar_Btn);
     }
     static std::string Lines(std::string text) {
         std::string bytes;
@@ -178,7 +180,9 @@ TEST_F(Calendar_Files, are_written_byte_for_byte) {
                       text = "a, b; c\\d " + std::string(31, 'x') + cut;
     Data_File() = Lines("\"29/2/9999=Leap\"|\"31/12/2002=" + text + cut + "\"|");
     Fakes().zone_minutes = -60;
-    Export(4, "C:\\out", "Successfully exported 2 events to the iCalendar file...\r\nC:\\out.ics");
+    Fakes().Expect_Dialog("Export Events as iCalendar File", "C:\\out");
+    Fakes().Expect_Box("Successfully exported 2 events to the iCalendar file...\r\nC:\\out.ics");
+    Push(*dialog, dialog->Transfer.Export_ICalendar_Btn);
     const std::string stamp = "DTSTAMP:20020305T113000Z|", end = "TRANSP:TRANSPARENT|";
     EXPECT_EQ(
         File("C:\\out.ics"),

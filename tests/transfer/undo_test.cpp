@@ -60,7 +60,9 @@ TEST_F(Undoing, takes_every_kind_of_change_back) {
         {"Import",
          [&] { Import_File("C:\\in.csv", "Import Events from CSV File", transfer().Import_Btn[2]); }},
         {"Import",
-         [&] { Import_File("C:\\in.ics", "Import Events from iCalendar File", transfer().Import_Btn[3]); }},
+         [&] {
+             Import_File("C:\\in.ics", "Import Events from iCalendar File", transfer().Import_ICalendar_Btn);
+         }},
         {"Import", [&] { Import_File("C:\\in.dat", "Import Data File", transfer().Import_Btn[0]); }},
         {"Edit 20 March", [&] { Edit(20, ""); }},
     };
