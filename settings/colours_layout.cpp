@@ -18,6 +18,7 @@ constexpr int group_bottom = 7 * 15;
 constexpr int value_label_width = 41 * 15;
 constexpr int gradient_width = 16 * 15;
 constexpr int value_rows = 3;
+constexpr int around_text = 8; ///< pixels of a field above and below its text together
 
 } // namespace
 
@@ -62,8 +63,16 @@ void Colours_Page::Lay_Out_Palette() {
     constexpr int values_height = (value_rows + 1) * (row_height + small_gap);
     const int values_top = height - margin + small_gap - values_height;
     Rows values{margin, values_top, width - 2 * margin};
-    for (int i = 0; i < value_rows; ++i)
+    for (int i = 0; i < value_rows; ++i) {
         values.Add_Pair(txCol_Lbl[i], value_label_width, txCol[i], small_gap);
+        // A field draws its text some pixels below its top, whatever the dots per inch.
+        Rect place = txCol[i].Bounds();
+        const int text_height = platform::Line_Height(txCol[i].Font()) + Pixels_To_Twips(around_text);
+        const int spare = std::max(0, place.height - text_height);
+        place.top += spare / 2;
+        place.height -= spare;
+        txCol[i].Move(place);
+    }
     values.Add_Pair(Names_Lbl, value_label_width, Names_Cbo);
     const int pal_height = Snap(values_top - 2 * small_gap - group_top);
     const int pal_width = Snap(width - 2 * margin - gradient_width - small_gap);

@@ -97,8 +97,14 @@ void Transfer_Page::End_Progress() {
 void Transfer_Page::Lay_Out() {
     const int line = platform::Line_Height(Progress_Lbl.Font());
     const int height = std::max(explanation_lines * line, button_height);
-    const auto add = [height](Rows &rows, Button &button, Label &label) {
+    const auto add = [height, line](Rows &rows, Button &button, Label &label) {
         rows.Add_Pair(button, wide_button, label, small_gap, height);
+        // Where one line is enough, it stands in the middle of the button.
+        if (Rect place = label.Bounds(); Usual_Width(label) <= place.width) {
+            place.top += (height - line) / 2;
+            place.height = line;
+            label.Move(place);
+        }
     };
     Rows exports = Group_Rows();
     for (int i = 0; i < 4; ++i)

@@ -20,7 +20,9 @@ constexpr Rect leaf_head{300, 240, 960, 300};
 constexpr Rect leaf_page{300, 540, 960, 660};
 constexpr Rect name_place{1500, 180, 3180, 720};
 constexpr Rect line_place{1500, 900, 3180, 300};
-constexpr Rect lines_place{1500, 870, 3180, 510}; // of the first steps
+// With the first steps, which are two lines, both in the middle again.
+constexpr Rect high_name_place{1500, 60, 3180, 720};
+constexpr Rect lines_place{1500, 750, 3180, 510};
 
 constexpr platform::Font head_font{80, true};
 constexpr platform::Font page_font{220, true};
@@ -68,6 +70,7 @@ Splash_Frm::Splash_Frm() : Form(platform::Form_Kind::Floating, "Splash") {
 void Splash_Frm::Show_Over(const Rect &calendar, int box_36_top, bool new_here) {
     if (new_here) {
         Line_Lbl.Set_Caption(Joined({First_Steps[0], "\n", First_Steps[1]}));
+        Name_Lbl.Move(high_name_place);
         Line_Lbl.Move(lines_place);
     }
     const Date today = Today();

@@ -1,0 +1,28 @@
+#!/usr/bin/env bash
+# pictures.sh: makes all pictures of the guide anew, in docs/, from the running program. Under Wine on a display of
+# its own; a minute. Installs what is missing. Look at them before you commit them.
+set -euo pipefail
+# shellcheck source=/dev/null
+. "$(dirname "${BASH_SOURCE[0]}")/desktop.sh"
+
+out=$PROJECT/build/pictures
+Desktop_Prepare "$out"
+Desktop_Build "$out/build.log" vellatro shell_standin pictures
+Display_Start 1280x1024x24
+Wine_Prefix "$out/prefix"
+Desktop_Start "$BINARIES/tests/desktop/shell_standin.exe" 96 vellatro 1280x720 --adopt # as wide as the pack's pictures
+WINE_OUT=$out/pictures.log
+VT_PACK=$(Wine_Path packs/Default)
+export VT_PACK
+Desktop_Drive "$out" 300 pictures || Fail "The program could not be posed; see $WINE_OUT"
+
+while read -r name part; do
+  convert "$out/tests/$name.bmp" -crop "$part" +repage "$out/$name.png"
+done < <(tr -d '\r' <"$WINE_OUT" | sed -n 's/^picture //p')
+convert "$out"/menus-?.png -background none -splice 10x0 +append -chop 10x0 "$out/menus.png"
+rm "$out"/menus-?.png
+convert "$out/theme.png" -resize 960x "$out/theme.png"
+for picture in "$out"/*.png; do
+  convert "$picture" -strip -colors 256 "png8:docs/${picture##*/}"
+done
+identify -format '%f %wx%h %b\n' "$out"/../../docs/*.png
