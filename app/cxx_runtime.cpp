@@ -1,18 +1,12 @@
-// What the program answers in the place of the C++ runtime, whose own versions bring 120 KB that it never
-// needs: the decoding of names for a text on a console, and exceptions that hold their text in a string class
-// of old. The linker takes these and leaves the library's out.
+// Replacements of C++ runtime functions. The linker prefers these to the library's, whose terminate handler
+// decodes names for a console and whose logic errors hold their text in an older string class, 120 KB
+// together.
 #include "base/error.h"
 
 #include <cstdlib>
-#include <memory>
 #include <new>
 
-// What mends addresses of variables in DLLs at start. The program uses none; the linker is told to refuse
-// one.
-extern "C" void _pei386_runtime_relocator() {
-}
-
-// The library's names and its way of parameters are what the linker looks for.
+// The library prescribes these names and parameters.
 // NOLINTBEGIN(cert-dcl50-cpp,cert-dcl58-cpp,readability-redundant-declaration)
 namespace __gnu_cxx {
 
@@ -23,12 +17,7 @@ void __verbose_terminate_handler() {
 
 } // namespace __gnu_cxx
 
-// Tells make_shared's objects where there is no RTTI and two modules may differ; the program is one module.
-bool std::_Sp_make_shared_tag::_S_eq(const type_info &) noexcept {
-    return false;
-}
-
-// Where std::string and std::vector find that they are used wrongly.
+// Thrown by std::string and std::vector.
 namespace std {
 
 void __throw_length_error(const char *what) {

@@ -6,31 +6,12 @@ add_library(vellatro_product_options INTERFACE)
 target_link_libraries(vellatro_product_options INTERFACE vellatro_options)
 target_include_directories(vellatro_product_options INTERFACE ${CMAKE_SOURCE_DIR}/win32)
 target_compile_definitions(vellatro_product_options INTERFACE _WIN32_WINNT=0x0601 WINVER=0x0601 _WIN32_IE=0x0700
-    NOMINMAX
-    # No function of the system throws: what Windows calls back catches at the border.
-    "$<$<COMPILE_LANGUAGE:CXX>:DECLSPEC_IMPORT=__attribute__((dllimport,nothrow))>")
+    NOMINMAX)
+set(product_flags -Oz -flto -fstack-protector-strong)
 target_compile_options(vellatro_product_options INTERFACE
-    $<$<COMPILE_LANGUAGE:CXX>:-Oz -flto -ffunction-sections -fdata-sections -fno-rtti -fmerge-all-constants
-        # Or each file keeps constructors of its own that no linker can merge.
-        -fno-declone-ctor-dtor
-        # The only other thread, which hangs the wallpaper, uses no static variable of a function.
-        -fno-threadsafe-statics>)
+    $<$<COMPILE_LANGUAGE:CXX>:${product_flags} -ffunction-sections -fdata-sections -fno-rtti>)
 # One partition: with several GCC 12 breaks off while it links.
-target_link_options(vellatro_product_options INTERFACE -Oz -flto -flto-partition=none -static -Wl,--gc-sections)
-# Here the constructors of the large forms are called once. Inlined into one another they run out of registers,
-# and each control costs more instructions.
-set_source_files_properties(app/program.cpp settings/settings_frm.cpp PROPERTIES
-    COMPILE_OPTIONS -fno-inline-functions-called-once)
-if(CMAKE_SIZEOF_VOID_P EQUAL 4)
-    # On x86_64 exceptions need these tables; without them the compiler takes another model, or breaks off.
-    set(size_options -fno-asynchronous-unwind-tables)
-    # Parameters are pushed, on a stack that is aligned as the system aligns it. Pushing needs the stack unprobed,
-    # which is safe as long as no function's frame leaps over a page.
-    list(APPEND size_options -mno-stack-arg-probe -mno-accumulate-outgoing-args -mpreferred-stack-boundary=2
-        -Werror=frame-larger-than=4000)
-    target_compile_options(vellatro_product_options INTERFACE "$<$<COMPILE_LANGUAGE:CXX>:${size_options}>")
-    target_link_options(vellatro_product_options INTERFACE ${size_options})
-endif()
+target_link_options(vellatro_product_options INTERFACE ${product_flags} -flto-partition=none -static -Wl,--gc-sections)
 target_link_libraries(vellatro_product_options INTERFACE
     comctl32 comdlg32 gdi32 user32 advapi32 shell32 ole32 oleaut32 oleacc uuid)
 

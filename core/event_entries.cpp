@@ -10,31 +10,11 @@
 
 #include <algorithm>
 #include <string>
-#include <utility>
 
 namespace {
 
 constexpr std::int16_t leap_year = 2000;
 constexpr std::string_view yearly_year = "/yyyy";
-
-/// By date, the events of a day in file order. What is sorted are plain numbers, the day above the place in
-/// the file, because C's procedure for these is a tenth of the code of a template for the entries.
-void Sort_By_Day(std::vector<Sort_Entry> &entries) {
-    std::vector<std::int64_t> order;
-    order.reserve(entries.size());
-    for (const Sort_Entry &entry : entries)
-        order.push_back((std::int64_t{entry.number} << 32) + static_cast<std::int64_t>(order.size()));
-    std::qsort(order.data(), order.size(), sizeof order[0], [](const void *a, const void *b) {
-        const auto left = *static_cast<const std::int64_t *>(a);
-        const auto right = *static_cast<const std::int64_t *>(b);
-        return left < right ? -1 : static_cast<int>(left > right);
-    });
-    std::vector<Sort_Entry> sorted;
-    sorted.reserve(entries.size());
-    for (const std::int64_t each : order)
-        sorted.push_back(std::move(entries[static_cast<std::uint32_t>(each)]));
-    entries.swap(sorted);
-}
 
 } // namespace
 
@@ -93,7 +73,9 @@ Reading Load_Entries(std::vector<Sort_Entry> &entries, Sort_Order order, const D
     });
     if (order == Sort_Order::Date_Added || entries.empty())
         return reading;
-    Sort_By_Day(entries);
+    std::stable_sort(entries.begin(), entries.end(), [](const Sort_Entry &left, const Sort_Entry &right) {
+        return left.number < right.number;
+    });
     if (order == Sort_Order::Descending_Date)
         std::reverse(entries.begin(), entries.end());
     return reading;

@@ -18,7 +18,7 @@ Flags() {
   cmake --preset "$1" >/dev/null
   grep -m 1 "CMakeFiles/$2\\.dir/" "build/$1/compile_commands.json" |
     sed -E -e 's/^ *"command": "[^ ]* //' -e 's/ -o .*//' \
-      -e 's/-(W(error|no-restrict)|f(no-)?sanitize|flto|fno-(declone-ctor-dtor|inline-functions-called-once)|DDECLSPEC_IMPORT|m)[^ ]*//g'
+      -e 's/-(W(error|no-restrict)|f(no-)?sanitize|flto)[^ ]*//g'
 }
 host=$(Flags host vellatro_portable)
 win32="--target=i686-w64-mingw32 -nostdinc++ $(Flags win32 vellatro)"

@@ -4,7 +4,6 @@
 #include "win32/accessible.h"
 
 #include "platform/message_box.h"
-#include "win32/accessible_children.h"
 #include "win32/mirror.h"
 #include "win32/painted_window.h"
 #include "win32/system_library.h"
@@ -13,15 +12,18 @@
 
 #include <oleacc.h>
 
-#include <algorithm>
 #include <new>
 #include <optional>
+
+// The system's interfaces have no virtual destructor: nobody deletes through them.
+#pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
 
 namespace win32 {
 
 namespace {
 
 using platform::Access_Role;
+using platform::Access_State;
 using platform::Control_State;
 using platform::Form_Model;
 
@@ -133,8 +135,14 @@ public:
     HRESULT STDMETHODCALLTYPE get_accParent(IDispatch **parent) override;
     HRESULT STDMETHODCALLTYPE get_accChildCount(long *count) override;
     HRESULT STDMETHODCALLTYPE get_accChild(VARIANT child, IDispatch **object) override;
-    HRESULT STDMETHODCALLTYPE get_accName(VARIANT child, BSTR *name) override;
-    HRESULT STDMETHODCALLTYPE get_accValue(VARIANT child, BSTR *value) override;
+    HRESULT STDMETHODCALLTYPE get_accName(VARIANT child, BSTR *out) override {
+        return Give_Text(child, out, [](const Target &target) {
+            return target.control == nullptr ? target.form->title : Access_Name(*target.control);
+        });
+    }
+    HRESULT STDMETHODCALLTYPE get_accValue(VARIANT child, BSTR *out) override {
+        return Give_Text(child, out, &Access_State::value);
+    }
     HRESULT STDMETHODCALLTYPE get_accDescription(VARIANT child, BSTR *out) override {
         return Give_Text(child, out, [](const Target &target) {
             return target.control == nullptr ? target.form->description : std::string();
@@ -151,7 +159,9 @@ public:
     }
     HRESULT STDMETHODCALLTYPE get_accFocus(VARIANT *child) override;
     HRESULT STDMETHODCALLTYPE get_accSelection(VARIANT *children) override;
-    HRESULT STDMETHODCALLTYPE get_accDefaultAction(VARIANT child, BSTR *action) override;
+    HRESULT STDMETHODCALLTYPE get_accDefaultAction(VARIANT child, BSTR *out) override {
+        return Give_Text(child, out, &Access_State::default_action);
+    }
     HRESULT STDMETHODCALLTYPE accSelect(long, VARIANT) override { return DISP_E_MEMBERNOTFOUND; }
     HRESULT STDMETHODCALLTYPE accLocation(long *left, long *top, long *width, long *height,
                                           VARIANT child) override;
@@ -163,24 +173,21 @@ public:
 
     HRESULT STDMETHODCALLTYPE Next(ULONG wanted, VARIANT *children, ULONG *fetched) override;
     HRESULT STDMETHODCALLTYPE Skip(ULONG count) override;
-    HRESULT STDMETHODCALLTYPE Reset() override;
+    HRESULT STDMETHODCALLTYPE Reset() override {
+        last_ = CHILDID_SELF;
+        return S_OK;
+    }
     HRESULT STDMETHODCALLTYPE Clone(IEnumVARIANT **copy) override;
 
 private:
     ~Accessible_Form() = default;
 
     const Form_Model *Form() const { return Form_Of_Window(only_ < 0 ? window_ : GetParent(window_)); }
-    Target Find(const VARIANT &child) const;
-
-    /// Runs a call's work; want of memory becomes its error code.
-    template <typename Work>
-    static HRESULT Guarded(const Work &work) {
-        try {
-            return work();
-        } catch (...) {
-            return E_OUTOFMEMORY;
-        }
+    long Last_Child(const Form_Model &form) const {
+        return only_ < 0 ? static_cast<long>(form.controls.size()) : CHILDID_SELF;
     }
+    Target Find(const VARIANT &child) const;
+    std::optional<long> Nearest(const Form_Model &form, long start, long step) const;
 
     /// Hands out the text that `pick` has for a child.
     template <typename Pick>
@@ -188,9 +195,18 @@ private:
         if (out == nullptr)
             return E_POINTER;
         *out = nullptr;
-        return Guarded([&]() -> HRESULT {
-            const Target target = Find(child);
+        const Target target = Find(child);
+        try {
             return FAILED(target.error) ? target.error : Give(pick(target), out);
+        } catch (...) {
+            return E_OUTOFMEMORY;
+        }
+    }
+
+    /// Hands out one text of a child's control. The form itself has none.
+    HRESULT Give_Text(const VARIANT &child, BSTR *out, std::string Access_State::*text) const {
+        return Give_Text(child, out, [text](const Target &target) {
+            return target.control == nullptr ? std::string() : target.control->access.*text;
         });
     }
     HRESULT No_Text(const VARIANT &child, BSTR *out) const {
@@ -217,26 +233,10 @@ private:
         return form == nullptr ? CO_E_OBJNOTCONNECTED : Give(pick(*form), out);
     }
 
-    /// Runs `work` with the numbers of all children, in order.
-    template <typename Work>
-    HRESULT With_Children(const Work &work) const {
-        return Guarded([&]() -> HRESULT {
-            const Form_Model *form = Form();
-            if (form == nullptr)
-                return CO_E_OBJNOTCONNECTED;
-            std::vector<long> numbers;
-            for (const Control_State *control : form->controls) {
-                if (only_ < 0 && Is_Presented(*control))
-                    numbers.push_back(Child_Number(*control));
-            }
-            return work(numbers);
-        });
-    }
-
     ULONG owners_ = 1;
     HWND window_;
     int only_; ///< index of the control whose window it is, which has no children; -1: the form's
-    Child_Position position_;
+    long last_ = CHILDID_SELF; ///< the last child that the enumeration has passed
 };
 
 HRESULT Accessible_Form::QueryInterface(REFIID id, void **object) {
@@ -264,8 +264,7 @@ Target Accessible_Form::Find(const VARIANT &child) const {
     const Form_Model *form = Form();
     if (form == nullptr)
         return {nullptr, nullptr, CO_E_OBJNOTCONNECTED};
-    const auto count = only_ < 0 ? static_cast<long>(form->controls.size()) : 0L;
-    if (child.vt != VT_I4 || child.lVal < 0 || child.lVal > count)
+    if (child.vt != VT_I4 || child.lVal < 0 || child.lVal > Last_Child(*form))
         return {form, nullptr, E_INVALIDARG};
     if (child.lVal == CHILDID_SELF)
         return {form, only_ < 0 ? nullptr : form->controls[static_cast<std::size_t>(only_)], S_OK};
@@ -273,6 +272,15 @@ Target Accessible_Form::Find(const VARIANT &child) const {
     if (control->access.role == Access_Role::None)
         return {form, nullptr, E_INVALIDARG};
     return {form, control, S_OK};
+}
+
+/// Returns the number of the presented child that is nearest to the number `start`, up (1) or down (-1).
+std::optional<long> Accessible_Form::Nearest(const Form_Model &form, long start, long step) const {
+    for (long number = start + step; number > 0 && number <= Last_Child(form); number += step) {
+        if (Is_Presented(*form.controls[static_cast<std::size_t>(number - 1)]))
+            return number;
+    }
+    return std::nullopt;
 }
 
 HRESULT Accessible_Form::get_accParent(IDispatch **parent) {
@@ -291,36 +299,52 @@ HRESULT Accessible_Form::get_accChildCount(long *count) {
     if (count == nullptr)
         return E_POINTER;
     *count = 0;
-    return With_Children([&](const std::vector<long> &numbers) {
-        *count = static_cast<long>(numbers.size());
-        return S_OK;
-    });
+    const Form_Model *form = Form();
+    if (form == nullptr)
+        return CO_E_OBJNOTCONNECTED;
+    for (auto child = Nearest(*form, CHILDID_SELF, 1); child; child = Nearest(*form, *child, 1))
+        ++*count;
+    return S_OK;
 }
 
 HRESULT Accessible_Form::Next(ULONG wanted, VARIANT *children, ULONG *fetched) {
     if (fetched != nullptr)
         *fetched = 0;
-    return With_Children(
-        [&](const std::vector<long> &numbers) { return position_.Next(numbers, wanted, children, fetched); });
+    if (children == nullptr)
+        return E_POINTER;
+    const Form_Model *form = Form();
+    if (form == nullptr)
+        return CO_E_OBJNOTCONNECTED;
+    ULONG given = 0;
+    for (; given < wanted; ++given) {
+        const std::optional<long> child = Nearest(*form, last_, 1);
+        if (!child)
+            break;
+        last_ = *child;
+        Give(child, &children[given]);
+    }
+    if (fetched != nullptr)
+        *fetched = given;
+    return given == wanted ? S_OK : S_FALSE;
 }
 
 HRESULT Accessible_Form::Skip(ULONG count) {
-    return With_Children([&](const std::vector<long> &numbers) { return position_.Skip(numbers, count); });
-}
-
-HRESULT Accessible_Form::Reset() {
-    position_ = {};
-    return S_OK;
+    HRESULT result = S_OK;
+    VARIANT passed = {};
+    for (; count > 0 && result == S_OK; --count)
+        result = Next(1, &passed, nullptr);
+    return result;
 }
 
 HRESULT Accessible_Form::Clone(IEnumVARIANT **copy) {
     if (copy == nullptr)
         return E_POINTER;
-    *copy = nullptr;
-    return With_Children([&](const std::vector<long> &numbers) {
-        *copy = new Child_List(numbers, position_);
-        return S_OK;
-    });
+    auto *clone = new (std::nothrow) Accessible_Form(window_, only_);
+    *copy = clone;
+    if (clone == nullptr)
+        return E_OUTOFMEMORY;
+    clone->last_ = last_;
+    return S_OK;
 }
 
 HRESULT Accessible_Form::get_accChild(VARIANT child, IDispatch **object) {
@@ -330,24 +354,6 @@ HRESULT Accessible_Form::get_accChild(VARIANT child, IDispatch **object) {
     // The children are simple: they are asked for through this object.
     const HRESULT error = Find(child).error;
     return FAILED(error) ? error : S_FALSE;
-}
-
-HRESULT Accessible_Form::get_accName(VARIANT child, BSTR *name) {
-    return Give_Text(child, name, [](const Target &target) {
-        return target.control == nullptr ? target.form->title : Access_Name(*target.control);
-    });
-}
-
-HRESULT Accessible_Form::get_accValue(VARIANT child, BSTR *value) {
-    return Give_Text(child, value, [](const Target &target) {
-        return target.control == nullptr ? std::string() : target.control->access.value;
-    });
-}
-
-HRESULT Accessible_Form::get_accDefaultAction(VARIANT child, BSTR *action) {
-    return Give_Text(child, action, [](const Target &target) {
-        return target.control == nullptr ? std::string() : target.control->access.default_action;
-    });
 }
 
 HRESULT Accessible_Form::get_accRole(VARIANT child, VARIANT *role) {
@@ -415,28 +421,13 @@ HRESULT Accessible_Form::accLocation(long *left, long *top, long *width, long *h
 }
 
 HRESULT Accessible_Form::accNavigate(long direction, VARIANT start, VARIANT *end) {
-    if (end == nullptr)
-        return E_POINTER;
-    end->vt = VT_EMPTY;
-    return With_Children([&](const std::vector<long> &numbers) -> HRESULT {
-        const HRESULT error = Find(start).error;
-        if (FAILED(error))
-            return error;
-        if (start.lVal == CHILDID_SELF) {
-            const bool first = direction == NAVDIR_FIRSTCHILD;
-            if (numbers.empty() || (!first && direction != NAVDIR_LASTCHILD))
-                return S_FALSE;
-            return Give(first ? numbers.front() : numbers.back(), end);
-        }
-        if (direction == NAVDIR_NEXT) {
-            const auto next = std::upper_bound(numbers.begin(), numbers.end(), start.lVal);
-            return next == numbers.end() ? S_FALSE : Give(*next, end);
-        }
-        if (direction == NAVDIR_PREVIOUS) {
-            const auto here = std::lower_bound(numbers.begin(), numbers.end(), start.lVal);
-            return here == numbers.begin() ? S_FALSE : Give(*(here - 1), end);
-        }
-        return S_FALSE;
+    return Give_Number(start, end, [&](const Target &target) -> std::optional<long> {
+        const bool from_form = start.lVal == CHILDID_SELF;
+        if (direction == (from_form ? NAVDIR_FIRSTCHILD : NAVDIR_NEXT))
+            return Nearest(*target.form, start.lVal, 1);
+        if (direction == (from_form ? NAVDIR_LASTCHILD : NAVDIR_PREVIOUS))
+            return Nearest(*target.form, from_form ? Last_Child(*target.form) + 1 : start.lVal, -1);
+        return std::nullopt;
     });
 }
 
