@@ -32,12 +32,12 @@ constexpr int explanation_lines = 2;
 } // namespace
 
 Transfer_Page::Transfer_Page(Frame &frame, Main_Frm &calendar) : Page(frame), Import(calendar, Dialog1) {
-    for (std::int16_t i = 0; i < 4; ++i) {
+    for (int i = 0; i < 4; ++i) {
         Export_Btn[i].Set_Caption(export_texts[i].caption);
         Export_Lbl[i].Set_Caption(export_texts[i].explanation);
         Export_Btn[i].On_Click = [this, i] { Export_Btn_Click(i); };
     }
-    for (std::int16_t i = 0; i < 3; ++i) {
+    for (int i = 0; i < 3; ++i) {
         Import_Btn[i].Set_Caption(import_texts[i].caption);
         Import_Lbl[i].Set_Caption(import_texts[i].explanation);
         Import_Btn[i].On_Click = [this, i] { Import_Btn_Click(i); };
@@ -53,7 +53,7 @@ Transfer_Page::Transfer_Page(Frame &frame, Main_Frm &calendar) : Page(frame), Im
     Lay_Out();
 }
 
-void Transfer_Page::Export_Btn_Click(std::int16_t index) {
+void Transfer_Page::Export_Btn_Click(int index) {
     if (index >= 0 && index <= 3)
         Export(static_cast<Export_Kind>(index));
 }

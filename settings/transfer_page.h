@@ -16,8 +16,8 @@ public:
     /// it, and the slots of `Import`.
     Callback<Settings()> Shown_Configuration;
 
-    void Export_Btn_Click(std::int16_t index);
-    void Import_Btn_Click(std::int16_t index);
+    void Export_Btn_Click(int index); ///< a number of Export_Kind
+    void Import_Btn_Click(int index);
 
     Frame Export_Fra{frame_, "Export_Fra", "Export"};
     Control_Array<Button, 4> Export_Btn{Export_Fra, "Export_Btn"};
