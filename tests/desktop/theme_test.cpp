@@ -67,7 +67,7 @@ TEST_F(Themed, The_Months_Picture_Is_The_Wallpaper) {
 }
 
 // The controls of the dialog's page, from its first one.
-constexpr int use_chk = 0, preview_btn = 16;
+constexpr int use_chk = 0, preview_btn = 9;
 
 class Wallpaper_Page : public Themed {
 protected:
