@@ -10,14 +10,13 @@
 
 namespace {
 
-constexpr float hold_time = 0.3F; // seconds
+constexpr int hold_time = 300; // milliseconds
 constexpr int balloon_width = 4680;
 constexpr int balloon_height = 1620;
 
-float Seconds_Since_Midnight() {
+int Milliseconds_Since_Midnight() {
     const platform::Date_Time now = platform::Now();
-    return static_cast<float>(now.hour * 3600 + now.minute * 60 + now.second) +
-           static_cast<float>(now.millisecond) / 1000;
+    return (now.hour * 3600 + now.minute * 60 + now.second) * 1000 + now.millisecond;
 }
 
 } // namespace
@@ -50,15 +49,15 @@ void Held_Balloon::Hold(Point at, Callback<void()> show) {
         Fire(show_);
 }
 
-void Held_Balloon::TimeOut(float seconds) {
-    const float start = Seconds_Since_Midnight();
-    for (float now = start; now < start + seconds && now >= start; now = Seconds_Since_Midnight()) {
+void Held_Balloon::TimeOut(int milliseconds) {
+    const int start = Milliseconds_Since_Midnight();
+    for (int now = start; now < start + milliseconds && now >= start; now = Milliseconds_Since_Midnight()) {
         platform::Process_Waiting_Messages();
         if (ended_)
             return;
-        const float left = start + seconds - std::max(Seconds_Since_Midnight(), start);
+        const int left = start + milliseconds - std::max(Milliseconds_Since_Midnight(), start);
         if (left > 0)
-            platform::Wait_For_Messages(static_cast<unsigned>(left * 1000) + 1);
+            platform::Wait_For_Messages(static_cast<unsigned>(left) + 1);
     }
 }
 

@@ -21,7 +21,7 @@ public:
     /// there is a balloon already. A press during the wait begins it anew for its own `show`.
     void Hold(Point at, Callback<void()> show);
     /// Waits while the window's messages are processed. Ends early at midnight and at the program's end.
-    void TimeOut(float seconds);
+    void TimeOut(int milliseconds);
     /// Shows an event of a day beside the place of the last Hold.
     void Show(const Date &date, std::string_view message);
     /// The button is not held any more: the balloon goes, or does not come.

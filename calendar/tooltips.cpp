@@ -28,7 +28,7 @@ void Main_Frm::Box_Held(int index) {
 }
 
 void Main_Frm::TimeOut(float seconds) {
-    Balloon.TimeOut(seconds);
+    Balloon.TimeOut(static_cast<int>(seconds * 1000));
 }
 
 void Main_Frm::Balloon_Tooltip(int index, std::string_view message) {

@@ -11,7 +11,6 @@
 namespace win32 {
 
 using platform::Control_Kind;
-using platform::Control_State;
 using platform::Input_Event;
 using platform::Input_Kind;
 
