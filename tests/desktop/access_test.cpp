@@ -40,7 +40,6 @@ TEST_F(Desktop_Test, Every_Control_Of_The_Settings_Has_A_Name_And_The_Painted_On
          STATE_SYSTEM_UNAVAILABLE},
         {1, "Palette", "red ", "Pick", ROLE_SYSTEM_PUSHBUTTON, 0},
         {3, "Position on the screen, Bottom Right", "", "", ROLE_SYSTEM_PUSHBUTTON, 0},
-        {7, "https://vellatro.example/", "", "Open", ROLE_SYSTEM_LINK, STATE_SYSTEM_LINKED},
     };
     std::size_t described = 0;
     for (int page = 0; page < 8; ++page) {
