@@ -10,7 +10,6 @@
 
 #include <utility>
 
-
 Container::Container(const Frame &in) : form(in.Owner()), frame(in.State().index) {
 }
 

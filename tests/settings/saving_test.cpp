@@ -1,6 +1,8 @@
 // What Apply writes and changes, and what it leaves alone.
 #include "tests/settings/settings_test.h"
 
+#include <array>
+
 namespace {
 
 class Saving : public Settings_Dialog {
@@ -76,17 +78,23 @@ TEST_F(Saving, a_pack_rules_style_and_position_as_far_as_it_may) {
 }
 
 TEST_F(Saving, every_control_shows_its_setting) {
-    // The second choice of each is what the first one is not, so that none is an empty control's.
-    const std::pair<const char *, const char *> rows[] = {
-        {"0", "1"},        {"4", "7"},     {"1", "2"},
-        {"3", "4"},        {"5", "6"},     {"7", "8"},
-        {"9", "10"},       {"11", "12"},   {"0", "1"},
-        {"P", "Q"},        {"1", "0"},     {"0", "1"},
-        {"0", "1"},        {"0", "1"},     {"0", "1"},
-        {"True", "False"}, {"h.mm", "HH"}, {"mm/yyyy", "Month - yyyy"},
-        {"15", "-30"},     {"-45", "60"},  {"True", "False"},
-        {"2", "1"},        {"1", "0"},     {"2", "0"},
-        {"4", "4"}};
+    // The second choice of each is what the first one is not, so that none is an empty control's. Flags are
+    // by turns set first and last.
+    constexpr std::array<const char *, 3> others[] = {{"Alignment", "4", "7"},
+                                                      {"Today", "1", "2"},
+                                                      {"Normal", "3", "4"},
+                                                      {"Fore", "5", "6"},
+                                                      {"Num", "7", "8"},
+                                                      {"Text", "9", "10"},
+                                                      {"Back", "11", "12"},
+                                                      {"Pack Name", "P", "Q"},
+                                                      {"Bar Time Format", "h.mm", "HH"},
+                                                      {"Bar Date Format", "mm/yyyy", "Month - yyyy"},
+                                                      {"Manual_PosX", "15", "-30"},
+                                                      {"Manual_PosY", "-45", "60"},
+                                                      {"Other Display Mode", "2", "1"},
+                                                      {"Tooltips", "2", "0"},
+                                                      {"Settings Tab", "4", "4"}};
     for (const char *pack : {"Default", "P", "Q"})
         Make_Pack(pack);
     std::string &run = Fakes().registry["HKLM\\Software\\Microsoft\\Windows\\CurrentVersion\\Run\\Vellatro"];
@@ -99,8 +107,11 @@ TEST_F(Saving, every_control_shows_its_setting) {
     for (const bool second : {false, true}) {
         form.Close_Settings();
         for (const Setting_Row &row : Setting_Rows()) {
-            const auto &texts = rows[&row - &Setting_Rows().front()];
-            Set_From_Text(Cur_Settings, row, second ? texts.second : texts.first);
+            const char *text = second == ((&row - &Setting_Rows().front()) % 2 != 0) ? "1" : "0";
+            for (const auto &[key, first, last] : others)
+                if (row.key == std::string_view(key))
+                    text = second ? last : first;
+            Set_From_Text(Cur_Settings, row, text);
         }
         run = "C:\\Vellatro\\vellatro.exe";
         Open(Settings_Frm::style_fra);
