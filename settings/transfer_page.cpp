@@ -100,7 +100,7 @@ void Transfer_Page::Lay_Out() {
     const auto add = [height, line](Rows &rows, Button &button, Label &label) {
         rows.Add_Pair(button, wide_button, label, small_gap, height);
         // Where one line is enough, it stands in the middle of the button.
-        if (Rect place = label.Bounds(); Usual_Width(label) <= place.width) {
+        if (Rect place = label.Bounds(); platform::Text_Width(label.Caption(), label.Font()) <= place.width) {
             place.top += (height - line) / 2;
             place.height = line;
             label.Move(place);

@@ -19,7 +19,7 @@ Desktop_Drive "$out" 300 pictures || Fail "The program could not be posed; see $
 while read -r name part; do
   convert "$out/tests/$name.bmp" -crop "$part" +repage "$out/$name.png"
 done < <(tr -d '\r' <"$WINE_OUT" | sed -n 's/^picture //p')
-convert "$out"/menus-?.png -background none -splice 10x0 +append -chop 10x0 "$out/menus.png"
+convert "$out"/menus-?.png -background white -splice 10x0 +append -chop 10x0 "$out/menus.png"
 rm "$out"/menus-?.png
 convert "$out/theme.png" -resize 960x "$out/theme.png"
 for picture in "$out"/*.png; do
