@@ -52,6 +52,10 @@ void Control::Set_Align(platform::Text_Align align, bool middle) {
     Tell(Aspect::Look);
 }
 
+void Control::Set_Access(platform::Access_State access) {
+    Store(state_.access, std::move(access), Aspect::Access);
+}
+
 void Control::Take(const platform::Input_Event &event) {
     if (event.kind == platform::Input_Kind::Clicked)
         Fire(On_Click);

@@ -68,9 +68,7 @@ public:
     void Set_Padding(int twips) { Store(state_.padding, twips, Aspect::Look); }
     void Set_Glyph(platform::Glyph glyph) { Store(state_.glyph, glyph, Aspect::Look); }
     const platform::Access_State &Access() const { return state_.access; }
-    void Set_Access(platform::Access_State access) {
-        Store(state_.access, std::move(access), Aspect::Access);
-    }
+    void Set_Access(platform::Access_State access);
 
     // Events. The point is relative to the control's top left corner.
     /// A button of any kind pressed, a painted control clicked with the left button. The second click of a

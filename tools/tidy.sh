@@ -13,12 +13,12 @@ out=$(mktemp -d build/tidy.XXXXXX) # inside of the project, where .clang-tidy is
 At_Exit rm -rf "$out"
 
 # Flags PRESET TARGET: what all sources of the target are compiled with. The sanitizers are not the analyser's matter,
-# and .clang-tidy says what is an error.
+# and .clang-tidy says what is an error; a precompiled header of GCC's is not for clang.
 Flags() {
   cmake --preset "$1" >/dev/null
   grep -m 1 "CMakeFiles/$2\\.dir/" "build/$1/compile_commands.json" |
     sed -E -e 's/^ *"command": "[^ ]* //' -e 's/ -o .*//' \
-      -e 's/-(W(error|no-restrict)|f(no-)?sanitize|flto)[^ ]*//g'
+      -e 's/ (-x c\+\+-header|-include [^ ]*)//g' -e 's/-(W(error|no-restrict|invalid-pch)|f(no-)?sanitize|flto)[^ ]*//g'
 }
 host=$(Flags host vellatro_portable)
 win32="--target=i686-w64-mingw32 -nostdinc++ $(Flags win32 vellatro)"
