@@ -39,13 +39,13 @@ Desktop_Return::~Desktop_Return() {
 bool Desktop_Return::Wait() {
     timer_.Set_Enabled(true);
     // The end of the calendar may have asked the loop to end once more than it ran.
-    while (!over_ && timer_.Enabled())
+    while (timer_.Enabled())
         platform::Run_Message_Loop();
     return come_;
 }
 
 void Desktop_Return::End() {
-    over_ = true;
+    timer_.Set_Enabled(false);
     platform::End_Message_Loop();
 }
 

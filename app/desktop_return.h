@@ -19,10 +19,9 @@ private:
     void Look();
     void End();
 
-    Timer timer_{1000};
+    Timer timer_{1000}; ///< off: the wait is over
     int looks_left_ = 120;
     int looks_needed_ = 5; ///< that find a desktop, one after another
     int looks_ = 0;
     bool come_ = false;
-    bool over_ = false;
 };

@@ -107,6 +107,9 @@ void Month_Grid::Get_Line(const Label &label) {
 }
 
 void Month_Grid::DotDotDot(Label &label, std::string_view text) {
+    // Every box of a new month begins so: nothing is to be measured.
+    if (text.empty())
+        return label.Set_Caption({});
     bool more = false;
     const std::string all = Blanks_Made_One(text, more);
     std::string_view rest = all;

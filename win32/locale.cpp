@@ -36,13 +36,15 @@ constexpr LCID British = MAKELCID(MAKELANGID(LANG_ENGLISH, SUBLANG_ENGLISH_UK), 
 /// The user's calendar as far as it is a Gregorian one, which has kinds of its own in some languages; nothing
 /// for a user of another one, as many in Thailand, Arabia or Persia are.
 std::optional<CALID> Gregorian_Calendar() {
-    const std::wstring type = Locale_Text(LOCALE_ICALENDARTYPE);
+    CALID type = 0;
+    GetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_ICALENDARTYPE | LOCALE_RETURN_NUMBER,
+                   reinterpret_cast<wchar_t *>(&type), sizeof type / sizeof(wchar_t));
     constexpr CALID kinds[] = {CAL_GREGORIAN,        CAL_GREGORIAN_US,           CAL_GREGORIAN_ME_FRENCH,
                                CAL_GREGORIAN_ARABIC, CAL_GREGORIAN_XLIT_ENGLISH, CAL_GREGORIAN_XLIT_FRENCH};
-    for (const CALID kind : kinds)
-        if (type.empty() || type == win32::To_Wide(std::to_string(kind)))
-            return kind;
-    return std::nullopt;
+    if (type == 0) // none is told
+        return CAL_GREGORIAN;
+    return std::find(std::begin(kinds), std::end(kinds), type) == std::end(kinds) ? std::nullopt
+                                                                                  : std::optional(type);
 }
 
 /// By whose rules dates are written and read. The system would count the years, months and days of a user's
