@@ -20,12 +20,12 @@ bool Desktop_Is_There() {
 } // namespace
 
 Desktop_Return::Desktop_Return() {
-    timer_.On_Timer = [this] { Look(); };
+    timer_.On_Timer = [this] { Poll(); };
     platform::Listen_To_Broadcasts([this](Broadcast broadcast) {
         // A desktop that has stood for some seconds will do, too: not every shell tells of its start, and one
         // that takes a single window down does not start at all.
         if (broadcast == Broadcast::Shell_Started)
-            looks_needed_ = 1;
+            hits_needed_ = 1;
         else if (broadcast == Broadcast::Session_Over || broadcast == Broadcast::Close_Request)
             End();
         return true;
@@ -41,7 +41,7 @@ bool Desktop_Return::Wait() {
     // The end of the calendar may have asked the loop to end once more than it ran.
     while (timer_.Enabled())
         platform::Run_Message_Loop();
-    return come_;
+    return desktop_found_;
 }
 
 void Desktop_Return::End() {
@@ -49,9 +49,9 @@ void Desktop_Return::End() {
     platform::End_Message_Loop();
 }
 
-void Desktop_Return::Look() {
-    looks_ = Desktop_Is_There() ? looks_ + 1 : 0;
-    come_ = looks_ >= looks_needed_;
-    if (come_ || --looks_left_ == 0)
+void Desktop_Return::Poll() {
+    hits_ = Desktop_Is_There() ? hits_ + 1 : 0;
+    desktop_found_ = hits_ >= hits_needed_;
+    if (desktop_found_ || --polls_left_ == 0)
         End();
 }

@@ -16,12 +16,12 @@ public:
     bool Wait();
 
 private:
-    void Look();
+    void Poll();
     void End();
 
     Timer timer_{1000}; ///< off: the wait is over
-    int looks_left_ = 120;
-    int looks_needed_ = 5; ///< that find a desktop, one after another
-    int looks_ = 0;
-    bool come_ = false;
+    int polls_left_ = 120;
+    int hits_needed_ = 5; ///< that find a desktop, one after another
+    int hits_ = 0;
+    bool desktop_found_ = false;
 };

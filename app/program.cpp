@@ -36,7 +36,7 @@ Calendar_End Run_Calendar() {
     Connect_Settings(*main_frm, settings_frm);
     if (!main_frm->Form_Load())
         return Calendar_End::Not_Started;
-    Run_Guarded([] { Wallpaper_Preview::Mend(); });
+    Run_Guarded([] { Wallpaper_Preview::Recover(); });
     Warn_Of_Temporary_Folder();
     platform::Run_Message_Loop();
     main_frm->Close_Settings();
@@ -44,7 +44,7 @@ Calendar_End Run_Calendar() {
     // Who answers Cancel, or whose text is refused, gets the editor back; it alone keeps the program
     // then.
     edit_frm->On_Unload = [] { platform::End_Message_Loop(); };
-    while (!edit_frm->Ask_Unsaved() && edit_frm->Visible())
+    while (!edit_frm->Offer_To_Save() && edit_frm->Visible())
         platform::Run_Message_Loop();
     edit_frm->On_Unload = nullptr;
     return main_frm->Lost_With_Shell() ? Calendar_End::Lost_With_Shell : Calendar_End::Wanted;
@@ -76,7 +76,7 @@ int Run_Program() {
         if (restart > 0 && !Desktop_Return().Wait())
             restart = 0;
     });
-    platform::Finish_Wallpaper();
+    platform::Wait_For_Wallpaper();
     if (restart > 0)
         platform::Start_Again(restart);
     return end == Calendar_End::Not_Started ? 1 : 0;
@@ -84,8 +84,8 @@ int Run_Program() {
 
 void Connect_Editor(Main_Frm &calendar, Edit_Frm &editor) {
     calendar.Open_Editor = [&editor](int index) { editor.Edit_Box(index); };
-    calendar.Ask_Unsaved = [&editor] { return editor.Ask_Unsaved(); };
-    calendar.Save_Unasked = [&editor] { editor.Save_Unasked(); };
+    calendar.Offer_To_Save = [&editor] { return editor.Offer_To_Save(); };
+    calendar.Save_Without_Asking = [&editor] { editor.Save_Without_Asking(); };
     calendar.Editor_Visible = [&editor] { return editor.Visible(); };
     calendar.Block_Editor = [&editor](Form *modal) { editor.Set_Blocked_By(modal); };
 }
@@ -105,8 +105,8 @@ void Connect_Settings(Main_Frm &calendar, std::unique_ptr<Settings_Frm> &setting
             settings->Form_Unload();
     };
     calendar.Settings_Visible = [&settings] { return settings && settings->Visible(); };
-    calendar.Event_Saved = [&settings] {
+    calendar.On_Event_Saved = [&settings] {
         if (settings && settings->Visible())
-            settings->Events.Follow_File();
+            settings->Events.Refresh_From_File();
     };
 }

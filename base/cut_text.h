@@ -39,13 +39,13 @@ inline std::size_t Whole_Characters(std::string_view text, std::size_t limit) {
 }
 
 /// Returns a value as a message can show it: of a long one whole characters, and the ellipsis.
-inline std::string Shortened(std::string_view text) {
+inline std::string Shorten(std::string_view text) {
     const std::size_t end = Whole_Characters(text, 60);
     return std::string(text.substr(0, end)).append(end < text.size() ? Ellipsis : "");
 }
 
 /// Returns the part of `text` between the blanks at its ends.
-constexpr std::string_view Trimmed(std::string_view text, std::string_view blanks = " \t\r\n") {
+constexpr std::string_view Trim(std::string_view text, std::string_view blanks = " \t\r\n") {
     const std::size_t begin = std::min(text.find_first_not_of(blanks), text.size());
     return text.substr(begin, text.find_last_not_of(blanks) + 1 - begin);
 }

@@ -5,13 +5,13 @@
 #include <string>
 #include <string_view>
 
-constexpr char Capital(char c) {
+constexpr char To_Upper(char c) {
     return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
 }
 
-inline std::string Capitals(std::string_view text) {
+inline std::string To_Upper(std::string_view text) {
     std::string capitals(text);
     for (char &c : capitals)
-        c = Capital(c);
+        c = To_Upper(c);
     return capitals;
 }

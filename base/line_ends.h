@@ -5,12 +5,12 @@
 #include "base/characters.h"
 
 /// The characters of those texts among the first 65536 code points, with their marks.
-inline constexpr Code_Range Unparted_Ranges[] = {{0x1100, 0x115F}, {0x2E80, 0xA4CF}, {0xA960, 0xA97F},
-                                                 {0xAC00, 0xD7FF}, {0xF900, 0xFAFF}, {0xFE30, 0xFE6F},
-                                                 {0xFF00, 0xFFEF}};
+inline constexpr Code_Range Cjk_Ranges[] = {{0x1100, 0x115F}, {0x2E80, 0xA4CF}, {0xA960, 0xA97F},
+                                            {0xAC00, 0xD7FF}, {0xF900, 0xFAFF}, {0xFE30, 0xFE6F},
+                                            {0xFF00, 0xFFEF}};
 
 /// What no line begins with: closing marks, small kana, signs that lengthen or repeat.
-inline constexpr Code_Range Never_First[] = {
+inline constexpr Code_Range No_Line_Start[] = {
     {0x0021, 0x0022}, {0x0025, 0x0025}, {0x0027, 0x0027}, {0x0029, 0x0029}, {0x002C, 0x002F},
     {0x003A, 0x003B}, {0x003F, 0x003F}, {0x005D, 0x005D}, {0x007D, 0x007D}, {0x00A0, 0x00A0},
     {0x00BB, 0x00BB}, {0x2010, 0x2013}, {0x2019, 0x2019}, {0x201D, 0x201D}, {0x2025, 0x2026},
@@ -29,7 +29,7 @@ inline constexpr Code_Range Never_First[] = {
     {0xFF9E, 0xFF9F}};
 
 /// What no line ends with: opening marks, signs of a currency.
-inline constexpr Code_Range Never_Last[] = {
+inline constexpr Code_Range No_Line_End[] = {
     {0x0022, 0x0022}, {0x0024, 0x0024}, {0x0027, 0x0028}, {0x005B, 0x005B}, {0x007B, 0x007B},
     {0x00A0, 0x00A0}, {0x00A3, 0x00A3}, {0x00A5, 0x00A5}, {0x00AB, 0x00AB}, {0x2018, 0x2018},
     {0x201C, 0x201C}, {0x2039, 0x2039}, {0x2060, 0x2060}, {0x3008, 0x3008}, {0x300A, 0x300A},
@@ -38,10 +38,10 @@ inline constexpr Code_Range Never_Last[] = {
     {0xFE5D, 0xFE5D}, {0xFF04, 0xFF04}, {0xFF08, 0xFF08}, {0xFF3B, 0xFF3B}, {0xFF5B, 0xFF5B},
     {0xFF5F, 0xFF5F}, {0xFF62, 0xFF62}, {0xFFE1, 0xFFE1}, {0xFFE5, 0xFFE6}};
 
-inline bool Is_Unparted(std::uint32_t code) {
+inline bool Is_Cjk(std::uint32_t code) {
     constexpr std::uint32_t rare_first = 0x20000;
     constexpr std::uint32_t rare_last = 0x3FFFF;
-    return (code >= rare_first && code <= rare_last) || In_Ranges(Unparted_Ranges, code);
+    return (code >= rare_first && code <= rare_last) || In_Ranges(Cjk_Ranges, code);
 }
 
 /// Whether a line of a UTF-8 text may end before byte `at`, which is neither its first nor behind its last:
@@ -58,6 +58,6 @@ inline bool Line_May_End(std::string_view text, std::size_t at) {
         return false;
     while (before.begin > 0 && Extends_Previous(before.code))
         before = Step_Back_Utf8(text, before.begin);
-    return (Is_Unparted(before.code) || Is_Unparted(after)) && !In_Ranges(Never_First, after) &&
-           !In_Ranges(Never_Last, before.code);
+    return (Is_Cjk(before.code) || Is_Cjk(after)) && !In_Ranges(No_Line_Start, after) &&
+           !In_Ranges(No_Line_End, before.code);
 }

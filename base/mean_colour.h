@@ -15,7 +15,7 @@ struct Span {
 };
 
 /// Those that pixel `i` of `count` stands for, where the picture has `length`: at least one.
-inline Span Source_Of(int i, int count, int length) {
+inline Span Source_Span(int i, int count, int length) {
     const auto at = [count, length](int pixel) {
         return static_cast<int>(static_cast<std::int64_t>(pixel) * length / count);
     };

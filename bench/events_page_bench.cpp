@@ -27,11 +27,11 @@ void Make_File(std::int64_t count) {
 
 void List_Events(benchmark::State &state) {
     Make_File(state.range(0));
-    std::vector<Sort_Entry> entries;
+    std::vector<Event> entries;
     std::size_t length = 0;
     for (auto _ : state) {
         Load_Entries(entries, Sort_Order::Descending_Date, today);
-        for (const Sort_Entry &entry : entries)
+        for (const Event &entry : entries)
             length += Overview_Line(entry).size();
     }
     benchmark::DoNotOptimize(length);

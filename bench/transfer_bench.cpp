@@ -47,8 +47,8 @@ void Import_Events(benchmark::State &state, const std::string &bytes, const char
     form.Cur_Year = 2027;
     OpenSaveDialog dialog(nullptr);
     Importer importer(form, dialog);
-    importer.Show_Staged = [](const std::vector<Sort_Entry> &) {};
-    importer.Data_File_Replaced = [] {};
+    importer.Show_Staged_Events = [](const std::vector<Event> &) {};
+    importer.On_Data_File_Replaced = [] {};
     for (auto _ : state) {
         Reset_Fakes();
         Fakes().any_box = true;
@@ -82,7 +82,7 @@ void Import_Unclosed(benchmark::State &state) {
 }
 
 void Export_Events(benchmark::State &state) {
-    std::vector<Sort_Entry> entries;
+    std::vector<Event> entries;
     for (std::int64_t i = 0; i < state.range(0); ++i)
         entries.push_back({0, {2002, 3, 5}, false, "5/3/2002", "Event " + std::to_string(i)});
     Progress progress;

@@ -88,31 +88,31 @@ Rect Box_Layout::Text(int index) const {
     return {box.left + inset, top, box.width - 2 * inset, bottom - top};
 }
 
-void Dress_Heading(Label &label, const platform::Font &font) {
+void Style_Heading(Label &label, const platform::Font &font) {
     label.Set_Font(font);
     label.Set_Align(platform::Text_Align::Centre, true);
     label.Set_Transparent(true);
 }
 
-void Dress_Number(Label &label) {
+void Style_Number(Label &label) {
     const bool bold = label.Font().bold;
     label.Set_Font({Box_Layout::number_font.tenth_points, bold});
     label.Set_Padding(Pixels_To_Twips(Pixels(number_inset)));
-    label.Set_Edged(true);
+    label.Set_Hairline(true);
 }
 
-void Dress_Text(Label &label) {
+void Style_Text(Label &label) {
     label.Set_Font(Box_Layout::text_font);
     label.Set_Transparent(true);
 }
 
-void Dress_Today(Label &label, Colour colour) {
+void Style_Today(Label &label, Colour colour) {
     label.Set_Back_Colour(colour);
     label.Set_Frame_Colour(Strong_Shade(colour));
     Set_Bold(label, true);
 }
 
-void Undress_Today(Label &label) {
+void Clear_Today_Style(Label &label) {
     label.Set_Frame_Colour(-1);
     Set_Bold(label, false);
 }

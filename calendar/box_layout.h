@@ -25,15 +25,15 @@ public:
     /// of now.
     explicit Box_Layout(std::int16_t style);
 
-    Rect Previous() const { return {0, 0, title_, title_}; }
+    Rect Previous_Arrow() const { return {0, 0, title_, title_}; }
     Rect Month() const { return {title_ + gap_, 0, Full_Width() - 2 * (title_ + gap_), title_}; }
-    Rect Next() const { return {Full_Width() - title_, 0, title_, title_}; }
+    Rect Next_Arrow() const { return {Full_Width() - title_, 0, title_, title_}; }
     Rect Header(int column) const;
     Rect Box(int index) const;
     /// The place of the event text in a box.
     Rect Text(int index) const;
     /// Of the whole calendar.
-    Size Whole() const { return {Full_Width(), Box(columns * rows - 1).Bottom()}; }
+    Size Full_Size() const { return {Full_Width(), Box(columns * rows - 1).Bottom()}; }
     int Gap() const { return gap_; }
 
 private:
@@ -51,14 +51,14 @@ private:
 int Line_Pixels(const platform::Font &font);
 
 // The looks, without place, colours and caption.
-void Dress_Heading(Label &label, const platform::Font &font);
+void Style_Heading(Label &label, const platform::Font &font);
 /// Leaves the caption bold that is so.
-void Dress_Number(Label &label);
-void Dress_Text(Label &label);
+void Style_Number(Label &label);
+void Style_Text(Label &label);
 /// Gives a box the look of today's.
-void Dress_Today(Label &label, Colour colour);
+void Style_Today(Label &label, Colour colour);
 /// Takes it away; the background stays.
-void Undress_Today(Label &label);
+void Clear_Today_Style(Label &label);
 
 /// A colour that stands out from `colour` and is of its hue.
 Colour Strong_Shade(Colour colour);

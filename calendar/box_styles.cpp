@@ -20,7 +20,7 @@ void Place(Label &label, const Rect &pixels) {
 
 /// The beginning of an event text as the boxes show it: runs of blanks, tabs, line breaks and other control
 /// characters are one blank each, and there are none at its ends. `more` is set when text is left over.
-std::string Blanks_Made_One(std::string_view text, bool &more) {
+std::string Collapse_Blanks(std::string_view text, bool &more) {
     std::string shown;
     bool blank = false;
     more = false;
@@ -51,7 +51,7 @@ bool Fits(const Label &label, std::string_view text) {
 
 /// A beginning of `text` that is too wide for the label by a few characters at most, or all of it. It only
 /// spares Get_Line steps.
-std::string_view Measurable(const Label &label, std::string_view text) {
+std::string_view Measurable_Prefix(const Label &label, std::string_view text) {
     while (text.size() > 1) {
         const std::size_t half = Whole_Characters(text, text.size() / 2);
         if (half == 0 || Fits(label, text.substr(0, half)))
@@ -66,23 +66,23 @@ std::string_view Measurable(const Label &label, std::string_view text) {
 void Month_Grid::Which_Style(std::int16_t style) {
     style_ = style;
     const Box_Layout layout(style);
-    Place(Prev_Month_Lbl, layout.Previous());
+    Place(Prev_Month_Lbl, layout.Previous_Arrow());
     Place(Which_Month_Lbl, layout.Month());
-    Place(Next_Month_Lbl, layout.Next());
+    Place(Next_Month_Lbl, layout.Next_Arrow());
     for (Label *label : {&Prev_Month_Lbl, &Which_Month_Lbl, &Next_Month_Lbl})
-        Dress_Heading(*label, Box_Layout::title_font);
+        Style_Heading(*label, Box_Layout::title_font);
     Prev_Month_Lbl.Set_Glyph(platform::Glyph::Arrow_Left);
     Next_Month_Lbl.Set_Glyph(platform::Glyph::Arrow_Right);
     for (int i = 0; i < days_a_week; ++i) {
         Place(Day_Lbl[i], layout.Header(i));
-        Dress_Heading(Day_Lbl[i], Box_Layout::header_font);
+        Style_Heading(Day_Lbl[i], Box_Layout::header_font);
     }
     for (int i = 0; i < box_count; ++i) {
         Place(Box_Lbl[i], layout.Box(i));
-        Dress_Number(Box_Lbl[i]);
+        Style_Number(Box_Lbl[i]);
     }
     DDD_Style(style);
-    const Rect whole = Pixels_To_Twips(Rect{0, 0, layout.Whole().width, layout.Whole().height});
+    const Rect whole = Pixels_To_Twips(Rect{0, 0, layout.Full_Size().width, layout.Full_Size().height});
     Resize(whole.width, whole.height);
 }
 
@@ -90,7 +90,7 @@ void Month_Grid::DDD_Style(std::int16_t style) {
     const Box_Layout layout(style);
     for (int i = 0; i < box_count; ++i) {
         Place(Box_Caption_Lbl[i], layout.Text(i));
-        Dress_Text(Box_Caption_Lbl[i]);
+        Style_Text(Box_Caption_Lbl[i]);
     }
     // The measuring label is as wide as a line that is followed by "...".
     const int room = Box_Caption_Lbl[0].Width() - platform::Text_Width(Ellipsis, Box_Layout::text_font);
@@ -111,7 +111,7 @@ void Month_Grid::DotDotDot(Label &label, std::string_view text) {
     if (text.empty())
         return label.Set_Caption({});
     bool more = false;
-    const std::string all = Blanks_Made_One(text, more);
+    const std::string all = Collapse_Blanks(text, more);
     std::string_view rest = all;
     const int lines = std::max(Twips_To_Pixels(label.Bounds()).height / Line_Pixels(label.Font()), 1);
     std::string shown;
@@ -119,7 +119,7 @@ void Month_Grid::DotDotDot(Label &label, std::string_view text) {
     // none.
     if (more || !Fits(label, rest)) {
         const std::vector<std::string> taken =
-            Take_Lines(rest, DotDotDot_Lbl.Font(), label.Width() - 1, static_cast<std::size_t>(lines - 1));
+            Extract_Lines(rest, DotDotDot_Lbl.Font(), label.Width() - 1, static_cast<std::size_t>(lines - 1));
         if (!taken.empty() && !Fits(label, taken.front()))
             rest = all;
         else
@@ -131,7 +131,7 @@ void Month_Grid::DotDotDot(Label &label, std::string_view text) {
     if (!more && Fits(label, rest)) {
         shown.append(rest);
     } else {
-        DotDotDot_Lbl.Set_Caption(Measurable(DotDotDot_Lbl, rest));
+        DotDotDot_Lbl.Set_Caption(Measurable_Prefix(DotDotDot_Lbl, rest));
         Get_Line(DotDotDot_Lbl);
         std::string_view line = DotDotDot_Lbl.Caption();
         while (line.ends_with(' '))

@@ -17,7 +17,7 @@ constexpr Colour shadow = System_Colour(16);
 } // namespace
 
 void Month_Grid::Set_Colours() {
-    contrast_ = platform::High_Contrast();
+    high_contrast_ = platform::High_Contrast();
     Colour_Boxes();
     Colour_Nums();
     Colour_Texts();
@@ -26,28 +26,28 @@ void Month_Grid::Set_Colours() {
 
 void Month_Grid::Colour_Boxes() {
     for (int i = 0; i < box_count; ++i) {
-        Box_Lbl[i].Set_Back_Colour(contrast_ ? window : Cur_Settings.Col_Normal);
-        Undress_Today(Box_Lbl[i]);
+        Box_Lbl[i].Set_Back_Colour(high_contrast_ ? window : Cur_Settings.Col_Normal);
+        Clear_Today_Style(Box_Lbl[i]);
         // The desktop between the boxes may have their colour.
-        if (contrast_)
+        if (high_contrast_)
             Box_Lbl[i].Set_Frame_Colour(shadow);
     }
 }
 
 void Month_Grid::Colour_Nums() {
     for (Label &box : Box_Lbl)
-        box.Set_Fore_Colour(contrast_ ? window_text : Cur_Settings.Col_Num);
+        box.Set_Fore_Colour(high_contrast_ ? window_text : Cur_Settings.Col_Num);
 }
 
 void Month_Grid::Colour_Texts() {
     for (Label &caption : Box_Caption_Lbl)
-        caption.Set_Fore_Colour(contrast_ ? window_text : Cur_Settings.Col_Text);
+        caption.Set_Fore_Colour(high_contrast_ ? window_text : Cur_Settings.Col_Text);
 }
 
 void Month_Grid::Colour_Today(int index) {
     Label &box = Box_Lbl[index];
-    Dress_Today(box, contrast_ ? highlight : Cur_Settings.Col_Today);
-    if (!contrast_)
+    Style_Today(box, high_contrast_ ? highlight : Cur_Settings.Col_Today);
+    if (!high_contrast_)
         return;
     // No frame but that of the keyboard's mark, which has the colour of the number.
     box.Set_Frame_Colour(highlight);
@@ -55,8 +55,8 @@ void Month_Grid::Colour_Today(int index) {
     Box_Caption_Lbl[index].Set_Fore_Colour(highlight_text);
 }
 
-void Month_Grid::Follow_Contrast() {
-    if (contrast_ == platform::High_Contrast())
+void Month_Grid::Apply_Contrast() {
+    if (high_contrast_ == platform::High_Contrast())
         return;
     Set_Colours();
     Mark_Today();
@@ -64,7 +64,7 @@ void Month_Grid::Follow_Contrast() {
 
 void Month_Grid::Colour_Menus() {
     Colour text = Cur_Settings.Col_Fore;
-    if (contrast_) {
+    if (high_contrast_) {
         Set_Back_Colour(window);
         text = window_text;
     } else if (Cur_Settings.Menu_Col_Sorce != 0) {

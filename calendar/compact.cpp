@@ -30,7 +30,7 @@ void Main_Frm::Compact() {
 }
 
 void Main_Frm::Expand() {
-    stale_ = false;
+    layout_outdated_ = false;
     Box_Lbl[0].Set_Visible(true);
     Box_Caption_Lbl[0].Set_Visible(true);
     Hide_Misc_Boxes();
@@ -46,7 +46,7 @@ void Main_Frm::Expand() {
     Mark_Today();
     Compacted = false;
     // The month, the week or the fonts may have changed under an alert, when no month was to be drawn.
-    if (stale_)
+    if (layout_outdated_)
         Redraw();
     // Going in has stopped the countdown, and nobody may move the mouse after a double click.
     Restart_Countdown();
@@ -70,7 +70,7 @@ void Main_Frm::Restart_Countdown() {
     Compact_Timer.Set_Enabled(true);
 }
 
-void Main_Frm::Caption_Moved() {
+void Main_Frm::Handle_Title_Mouse_Move() {
     Restart_Countdown();
     if (!Compacted || Cur_Settings.Auto_Compact != 1 || !Timer_Compacted)
         return;

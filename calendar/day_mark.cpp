@@ -1,20 +1,20 @@
 // The mark's way from box to box.
 #include "calendar/day_mark.h"
 
-void Day_Mark::Put_On(Label *box, const Date &date, const Label &title) {
+void Day_Mark::Move_To(Label *box, const Date &date, const Label &title) {
     if (box_ != nullptr && box_ != box)
         box_->Set_Marked(false);
     box_ = box;
     if (box != nullptr)
-        box->Set_Marked(used_ && has_focus_);
-    if (!used_)
+        box->Set_Marked(active_ && has_focus_);
+    if (!active_)
         return;
     // Told to assistive technology only when it is another day.
     std::optional<Date> focused;
     if (box != nullptr)
         focused = date;
-    if (told_ == focused)
+    if (announced_ == focused)
         return;
-    told_ = focused;
+    announced_ = focused;
     form_.Set_Focus(box != nullptr ? *box : title);
 }

@@ -17,16 +17,16 @@ public:
     std::int16_t Day() const { return day_; }
     void Set_Day(std::int16_t day) { day_ = day; }
     /// The keyboard goes over the days from now on; false when it did already.
-    bool Use() { return !std::exchange(used_, true); }
+    bool Activate() { return !std::exchange(active_, true); }
     void Set_Focus(bool has_focus) { has_focus_ = has_focus; }
     /// Moves the mark to the box of a day. Without a box nothing is marked, and `title` has the focus.
-    void Put_On(Label *box, const Date &date, const Label &title);
+    void Move_To(Label *box, const Date &date, const Label &title);
 
 private:
     Form &form_;
     std::int16_t day_ = 0;
-    bool used_ = false;
+    bool active_ = false;
     bool has_focus_ = false;
     Label *box_ = nullptr;
-    std::optional<Date> told_; ///< the day that was announced as having the focus
+    std::optional<Date> announced_; ///< the day that was announced as having the focus
 };

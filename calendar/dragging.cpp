@@ -19,8 +19,8 @@ bool Stays_Where_Dropped() {
 
 } // namespace
 
-void Main_Frm::Keep_Place(const std::optional<Point> &from) {
-    if (place_.Away())
+void Main_Frm::Save_Manual_Place(const std::optional<Point> &from) {
+    if (place_.Is_Displaced())
         return; // a click on the title moves nothing, and the kept place's monitor may come back
     const Point manual{Left(), Top()};
     place_.Set_Manual(manual);

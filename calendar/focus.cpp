@@ -30,7 +30,7 @@ void Main_Frm::Form_KeyDown(const platform::Input_Event &event) {
         // too long, does nothing to the days.
         if (!event.repeated)
             pending_key_ = event.key;
-    } else if (Day_Key(event.key)) {
+    } else if (Handle_Day_Key(event.key)) {
         Restart_Countdown();
     }
 }
@@ -42,13 +42,13 @@ void Main_Frm::Form_KeyUp(const platform::Input_Event &event) {
     // Alt+F4 closes a window, this one or another; its F4 is no step to the next month.
     if (event.alt || std::exchange(stray_key_, false))
         return;
-    Function_Key(event.key);
+    Handle_Function_Key(event.key);
     if (pending)
-        Act_On_Marked(event.key);
+        Act_On_Marked_Day(event.key);
     Restart_Countdown();
 }
 
-void Main_Frm::Function_Key(int key) {
+void Main_Frm::Handle_Function_Key(int key) {
     switch (key) {
     case Key_F1:
         return Show_Today_Event();
@@ -70,7 +70,7 @@ void Main_Frm::Function_Key(int key) {
     }
 }
 
-bool Main_Frm::Day_Key(int key) {
+bool Main_Frm::Handle_Day_Key(int key) {
     if (const Point step = Arrow_Step(key); step != Point{}) {
         Move_Mark(step.x + days_a_week * step.y);
         return true;
@@ -83,8 +83,8 @@ bool Main_Frm::Day_Key(int key) {
         Next_Month();
         return true;
     case Key_Home:
-        mark_.Use();
-        mark_.Set_Day(Take_Today().day);
+        mark_.Activate();
+        mark_.Set_Day(Select_Current_Month().day);
         Redraw();
         return true;
     case Key_M:
@@ -106,7 +106,7 @@ void Main_Frm::Popup_Below_Title(bool months) {
         Popup_Years(&below);
 }
 
-void Main_Frm::Act_On_Marked(int key) {
+void Main_Frm::Act_On_Marked_Day(int key) {
     const bool menu = key == Key_Menu || key == Key_F10;
     if (Compacted) {
         if (menu)
@@ -129,7 +129,7 @@ void Main_Frm::Act_On_Marked(int key) {
 
 /// Makes the mark seen; false when it was already.
 bool Main_Frm::Show_Mark() {
-    if (!mark_.Use())
+    if (!mark_.Activate())
         return false;
     if (mark_.Day() == 0) {
         const Date today = Today();
@@ -163,7 +163,7 @@ void Main_Frm::Move_Mark(int days) {
     }
 }
 
-void Main_Frm::Take_Focus(bool has_focus) {
+void Main_Frm::Update_Focus(bool has_focus) {
     mark_.Set_Focus(has_focus);
     pending_key_ = 0;
     stray_key_ = has_focus;
@@ -177,5 +177,5 @@ void Main_Frm::Update_Mark() {
     const std::int32_t length = DaysInMonth({Cur_Year, Cur_Month, 1});
     mark_.Set_Day(static_cast<std::int16_t>(std::min<std::int32_t>(mark_.Day(), length)));
     const int box = Marked_Box();
-    mark_.Put_On(Compacted ? nullptr : &Box_Lbl[box], Date_Of_Box(box), Which_Month_Lbl);
+    mark_.Move_To(Compacted ? nullptr : &Box_Lbl[box], Date_Of_Box(box), Which_Month_Lbl);
 }

@@ -7,7 +7,7 @@ void Main_Frm::Follow(const Settings &before, bool where_dropped) {
     };
     // The window may get another size. One that stands at its set position keeps to it, so that it neither
     // runs off the screen nor floats.
-    const bool stays = where_dropped && (Compacted || !place_.Stands());
+    const bool stays = where_dropped && (Compacted || !place_.Is_In_Position());
     const bool refit = style_ != Effective_Style();
     Which_Style(Effective_Style());
     if (changed(&Settings::Bar_Time, &Settings::Bar_Time_Format, &Settings::Bar_Date_Format))

@@ -27,7 +27,7 @@ void Form_Drag::Begin(Mouse_Button button, Point mouse) {
     drag_ = Drag{mouse, {form_.Left(), form_.Top()}};
 }
 
-void Form_Drag::Along(Mouse_Button held, Point mouse) {
+void Form_Drag::Continue(Mouse_Button held, Point mouse) {
     if (held != Mouse_Button::Left)
         return End(); // the release went elsewhere: into a message box that came in between
     if (drag_ && May_Drag())

@@ -17,7 +17,7 @@ public:
     bool Dragging() const { return drag_.has_value(); }
     // The mouse on the title, at a point in it.
     void Begin(platform::Mouse_Button button, Point mouse);
-    void Along(platform::Mouse_Button held, Point mouse);
+    void Continue(platform::Mouse_Button held, Point mouse);
     void Drop(platform::Mouse_Button button);
     void End();
 

@@ -34,16 +34,16 @@ void Held_Balloon::Hold(Point at, Callback<void()> show) {
     released_ = false;
     show_ = show;
     at_ = at;
-    ++holds_;
+    ++press_count_;
     // A second press during the wait: the wait begins anew for it, in the call that is waiting already.
     if (waiting_)
         return;
     waiting_ = true;
     unsigned hold = 0;
     do {
-        hold = holds_;
+        hold = press_count_;
         TimeOut(hold_time);
-    } while (hold != holds_ && !released_ && !ended_);
+    } while (hold != press_count_ && !released_ && !ended_);
     waiting_ = false;
     if (!released_ && !ended_)
         Fire(show_);

@@ -34,9 +34,9 @@ public:
     Timer Timer2{1000};
 
 private:
-    Callback<void()> show_; ///< of the last press
-    Point at_;              ///< likewise
-    unsigned holds_ = 0;    ///< counts the presses
+    Callback<void()> show_;    ///< of the last press
+    Point at_;                 ///< likewise
+    unsigned press_count_ = 0; ///< counts the presses
     bool released_ = true;
     bool waiting_ = false;
     bool ended_ = false;

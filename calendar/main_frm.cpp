@@ -54,7 +54,7 @@ void Main_Frm::Wire_Events() {
     }
     On_Key_Up = [this](const platform::Input_Event &event) { Form_KeyUp(event); };
     On_Key_Down = [this](const platform::Input_Event &event) { Form_KeyDown(event); };
-    On_Focus_Changed = [this](bool has_focus) { Take_Focus(has_focus); };
+    On_Focus_Changed = [this](bool has_focus) { Update_Focus(has_focus); };
     On_Capture_Lost = [this] {
         Hide_Balloon();
         drag_.End();
@@ -75,19 +75,19 @@ void Main_Frm::Wire_Events() {
         // No release comes any more, and a calendar that is dragged does not follow the shell.
         Hide_Balloon();
         drag_.End();
-        Take_Focus(false);
-        if (!Attachment.Lose_Window())
-            Lose_Desktop();
+        Update_Focus(false);
+        if (!Attachment.Handle_Window_Lost())
+            Handle_Desktop_Lost();
     };
-    Attachment.On_Desktop_Lost = [this] { Lose_Desktop(); };
+    Attachment.On_Desktop_Lost = [this] { Handle_Desktop_Lost(); };
     Which_Month_Lbl.On_Mouse_Down = [this](Mouse_Button button, Point at) {
         drag_.Begin(button, at);
         if (button == Mouse_Button::Right)
             Popup_Title_Menu(at);
     };
     Which_Month_Lbl.On_Mouse_Move = [this](Mouse_Button held, Point at) {
-        drag_.Along(held, at);
-        Caption_Moved();
+        drag_.Continue(held, at);
+        Handle_Title_Mouse_Move();
     };
     Which_Month_Lbl.On_Double_Click = [this] { Which_Month_Lbl_DblClick(); };
     for (Control *label : std::initializer_list<Control *>{&Prev_Month_Lbl, &Next_Month_Lbl})
@@ -130,12 +130,12 @@ bool Main_Frm::Form_Load() {
     // A pack that is damaged, its month's picture above all, is told; it is no reason to show no calendar.
     Run_Guarded([this] { Get_Wallpaper_Stuff(Cur_Settings.Pack_Name); });
     Which_Style(Effective_Style());
-    const Date today = Take_Today();
+    const Date today = Select_Current_Month();
     Setup_Boxes(Cur_Month, Cur_Year);
     Set_Repos();
     // Heard from here on, with the day's stamp: an alert may stay open for hours.
     date_stamp_ = Date_Stamp(today);
-    Hear_Broadcasts();
+    Subscribe_To_Broadcasts();
     Load_Dates();
     Update_Title();
     Set_Day_Headers();
@@ -150,7 +150,7 @@ bool Main_Frm::Form_Load() {
     return true;
 }
 
-Date Main_Frm::Take_Today() {
+Date Main_Frm::Select_Current_Month() {
     const Date today = Today();
     Cur_Month = today.month;
     Cur_Year = today.year;
@@ -168,7 +168,7 @@ void Main_Frm::Dectect_Date_Timer_Timer() {
     if (stamp == date_stamp_)
         return;
     Alert_Done = false;
-    Take_Today();
+    Select_Current_Month();
     Update_Title();
     Set_Day_Headers();
     // Before anything is told: this timer goes on while a message is open, and once a day is enough.
@@ -176,7 +176,7 @@ void Main_Frm::Dectect_Date_Timer_Timer() {
     Run_Guarded([this] { Get_Wallpaper_Stuff(Cur_Settings.Pack_Name); });
     Which_Style(Effective_Style());
     if (Compacted) {
-        stale_ = true;
+        layout_outdated_ = true;
         return TransparentForm();
     }
     Setup_Boxes(Cur_Month, Cur_Year);
@@ -185,20 +185,20 @@ void Main_Frm::Dectect_Date_Timer_Timer() {
     Load_Dates();
 }
 
-void Main_Frm::Hear_Broadcasts() {
+void Main_Frm::Subscribe_To_Broadcasts() {
     regional_look_ = Regional_Look();
     platform::Listen_To_Broadcasts([this](Broadcast broadcast) {
         bool agreed = false;
-        Run_Guarded([&] { agreed = Hear(broadcast); });
+        Run_Guarded([&] { agreed = Handle_Broadcast(broadcast); });
         return agreed;
     });
 }
 
-bool Main_Frm::Hear(Broadcast broadcast) {
+bool Main_Frm::Handle_Broadcast(Broadcast broadcast) {
     switch (broadcast) {
     case Broadcast::Settings_Changed:
-        Follow_Contrast();
-        Take_Regional_Settings();
+        Apply_Contrast();
+        Apply_Regional_Settings();
         break;
     case Broadcast::Time_Changed:
         Dectect_Date_Timer_Timer();
@@ -209,27 +209,27 @@ bool Main_Frm::Hear(Broadcast broadcast) {
         break;
     case Broadcast::Colours_Changed:
         // System colours are looked up while painting; only the frame of today's box is worked out before.
-        Follow_Contrast();
+        Apply_Contrast();
         Mark_Today();
         Repaint();
         break;
     case Broadcast::Shell_Started:
-        if (end_ == End::None)
-            Attachment.Expect();
+        if (end_reason_ == End_Reason::None)
+            Attachment.Await_Shell();
         break;
     case Broadcast::Session_Ends:
-        return May_End();
+        return Confirm_End();
     case Broadcast::Session_Forced:
-        if (Save_Unasked)
-            Save_Unasked();
+        if (Save_Without_Asking)
+            Save_Without_Asking();
         break;
     case Broadcast::Session_Over:
-        end_ = End::Wanted;
+        end_reason_ = End_Reason::Wanted;
         Balloon.End();
         // The process may go at once: the dialog keeps its tab now.
         if (Close_Settings)
             Close_Settings();
-        platform::Finish_Wallpaper();
+        platform::Wait_For_Wallpaper();
         platform::End_Message_Loop();
         break;
     case Broadcast::Close_Request:
@@ -239,23 +239,23 @@ bool Main_Frm::Hear(Broadcast broadcast) {
     return true;
 }
 
-bool Main_Frm::May_End() const {
-    return !Ask_Unsaved || Ask_Unsaved();
+bool Main_Frm::Confirm_End() const {
+    return !Offer_To_Save || Offer_To_Save();
 }
 
 void Main_Frm::End_Program() {
     Hide_Balloon();
-    if (!May_End())
+    if (!Confirm_End())
         return;
-    end_ = End::Wanted;
+    end_reason_ = End_Reason::Wanted;
     Balloon.End();
     platform::End_Message_Loop();
 }
 
-void Main_Frm::Lose_Desktop() {
+void Main_Frm::Handle_Desktop_Lost() {
     Balloon.End();
-    if (end_ == End::None)
-        end_ = End::Lost;
+    if (end_reason_ == End_Reason::None)
+        end_reason_ = End_Reason::Lost;
     platform::End_Message_Loop();
 }
 
@@ -265,7 +265,7 @@ void Main_Frm::Resume_Auto_Compact() {
         Compact_Timer.Set_Enabled(true);
 }
 
-void Main_Frm::Take_Regional_Settings() {
+void Main_Frm::Apply_Regional_Settings() {
     if (Regional_Look() != regional_look_)
         Renew_Layout();
 }

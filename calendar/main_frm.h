@@ -40,8 +40,8 @@ public:
     // The event editor, of which the calendar knows no more than this. Whoever owns both windows fills it;
     // empty, there is no editor.
     Callback<void(int index)> Open_Editor; ///< for a day box
-    Callback<bool()> Ask_Unsaved;          ///< offers unsaved text for saving; false: the user wants to stay
-    Callback<void()> Save_Unasked;         ///< saves unsaved text, as far as it can be saved
+    Callback<bool()> Offer_To_Save;        ///< offers unsaved text for saving; false: the user wants to stay
+    Callback<void()> Save_Without_Asking;  ///< saves unsaved text, as far as it can be saved
     Callback<bool()> Editor_Visible;
     Callback<void(Form *modal)> Block_Editor; ///< as Set_Blocked_By does with the calendar
 
@@ -49,12 +49,12 @@ public:
     Callback<void()> Open_Settings;
     Callback<void()> Close_Settings; ///< at the end, whatever is in it
     Callback<bool()> Settings_Visible;
-    Callback<void()> Event_Saved; ///< the data file is another one now
+    Callback<void()> On_Event_Saved; ///< the data file is another one now
 
     /// Whether the program may end now; asks for unsaved text first.
-    bool May_End() const;
+    bool Confirm_End() const;
     /// Whether the window went down with the shell's, before anybody wanted the program to end.
-    bool Lost_With_Shell() const { return end_ == End::Lost; }
+    bool Lost_With_Shell() const { return end_reason_ == End_Reason::Lost; }
 
     /// Of which the window has its style, its position and what it takes of a theme: Cur_Settings, but for
     /// the length of a preview. Must not be null.
@@ -74,16 +74,16 @@ public:
     void Enter_Date(std::string_view record, const Date &today);
     /// Shows the text that was saved for a day in its box, if that is one of the shown month. Where the same
     /// month of another year is shown, a yearly event comes or goes with it.
-    void Show_Saved(const Date &date, std::string_view text);
+    void Show_Saved_Event(const Date &date, std::string_view text);
     /// Makes today's month the shown one, without drawing it. Gives today.
-    Date Take_Today();
+    Date Select_Current_Month();
     /// All of the display, after the shown month changed.
     void Redraw();
 
     /// Moves the window to a position code (desktop/position.h); a number that is none leaves it.
     void Position_Form(std::int16_t code);
     /// Remembers the work area's height.
-    void Set_Repos() { place_.Take_Height(); }
+    void Set_Repos() { place_.Update_Work_Area_Height(); }
     /// Follows the shell's icons to where they are now. Places the window anew when the work area's height is
     /// another one; puts it back when something else has moved it.
     void RePosition();
@@ -159,43 +159,44 @@ private:
     bool Check_For_Multiple();
     void Wire_Events();
     void Wire_Box(Label &label, int index);
-    void Hear_Broadcasts();
-    bool Hear(platform::Broadcast broadcast);
-    void Lose_Desktop();
-    void Take_Regional_Settings();
+    void Subscribe_To_Broadcasts();
+    bool Handle_Broadcast(platform::Broadcast broadcast);
+    void Handle_Desktop_Lost();
+    void Apply_Regional_Settings();
     void Renew_Layout();
     void Popup_Title_Menu(Point mouse);
     void Compact();
     void Expand();
-    void Caption_Moved();
+    void Handle_Title_Mouse_Move();
 
     void Box_Mouse_Down(platform::Mouse_Button button, int index, Point at);
-    void Box_Held(int index);
+    void Show_Box_Balloon(int index);
 
-    void Function_Key(int key);
-    bool Day_Key(int key);
+    void Handle_Function_Key(int key);
+    bool Handle_Day_Key(int key);
     void Popup_Below_Title(bool months);
-    void Act_On_Marked(int key);
+    void Act_On_Marked_Day(int key);
     void Move_Mark(int days);
     bool Show_Mark();
     void Update_Mark();
     int Marked_Box() const { return Start_Box(Cur_Month, Cur_Year) + mark_.Day() - 1; }
-    void Take_Focus(bool has_focus);
+    void Update_Focus(bool has_focus);
     void Describe_First_Steps();
-    void Show_Entered();
-    void Alert(const Date &today, std::string_view text);
-    void Keep_Place(const std::optional<Point> &from);
+    void Show_Pending_Texts();
+    void Show_Alert(const Date &today, std::string_view text);
+    void Save_Manual_Place(const std::optional<Point> &from);
 
-    enum class End { None, Wanted, Lost };
-    End end_ = End::None;
+    enum class End_Reason { None, Wanted, Lost };
+    End_Reason end_reason_ = End_Reason::None;
     std::string date_stamp_;
     std::string regional_look_;
     /// Texts that are read and not in their boxes yet.
-    std::array<std::optional<std::string>, box_count> entered_;
-    unsigned fills_ = 0;      ///< counts the fillings: one that begins inside another puts an end to that
-    bool broken_off_ = false; ///< the last filling: events of the month may not be in their boxes
+    std::array<std::optional<std::string>, box_count> pending_texts_;
+    unsigned load_generation_ =
+        0; ///< counts the fillings: one that begins inside another puts an end to that
+    bool load_incomplete_ = false; ///< the last filling: events of the month may not be in their boxes
     Form_Place place_{*this};
-    Form_Drag drag_{*this, [this](const std::optional<Point> &from) { Keep_Place(from); }};
+    Form_Drag drag_{*this, [this](const std::optional<Point> &from) { Save_Manual_Place(from); }};
     Day_Mark mark_{*this};
     int pending_key_ = 0;    ///< went down here and acts when it comes up
     bool stray_key_ = false; ///< a key that comes up now went down in another window

@@ -49,9 +49,9 @@ void Main_Frm::Clear_Box(int index) {
     // A key of its own: an open editor keeps the day that it edits.
     const Date date = Date_Of_Box(index);
     // A box that is empty because the reading broke off is no event that the user means.
-    if (broken_off_ && Box_Lbl[index].Access().value.empty())
+    if (load_incomplete_ && Box_Lbl[index].Access().value.empty())
         return;
-    const Undo_Log::Change change(Events.Changes, Change_Of_Day("Clear", date));
+    const Undo_Log::Change change(Events.Changes, Change_Name("Clear", date));
     Events.Load_File();
     if (!Events.Check_For_Pre(Date_Key(date), "", false))
         return;
@@ -110,7 +110,7 @@ void Main_Frm::Popup_Years(const Point *at) {
     if (chosen == 0)
         return;
     if (chosen == years_around + 1) {
-        Take_Today();
+        Select_Current_Month();
     } else {
         Cur_Month = month; // also when the month has changed under the menu
         Cur_Year = static_cast<std::int16_t>(middle + chosen - 1 - years_around);

@@ -50,11 +50,11 @@ void Month_Grid::Reset_Boxes() {
         Box_Lbl[i].Set_Visible(true);
         Box_Caption_Lbl[i].Set_Visible(true);
         // In high contrast the texts that are there until Set_Colours comes may be white.
-        if (!contrast_)
+        if (!high_contrast_)
             Box_Lbl[i].Set_Back_Colour(white);
         Box_Lbl[i].Set_Caption({});
         Fill_Box(i, {});
-        Undress_Today(Box_Lbl[i]);
+        Clear_Today_Style(Box_Lbl[i]);
     }
 }
 
@@ -83,7 +83,7 @@ void Month_Grid::Hide_Misc_Boxes() {
 
 void Month_Grid::Mark_Today() {
     // The boxes are those of another month until compact mode ends.
-    if (stale_)
+    if (layout_outdated_)
         return;
     const Date today = Today();
     if (today.month != Cur_Month || today.year != Cur_Year)

@@ -74,13 +74,14 @@ protected:
     /// technology.
     void Number_Boxes(Date date);
     void Describe_Heading();
-    void Follow_Contrast();
+    void Apply_Contrast();
 
-    bool stale_ = false; ///< what was laid out is not what the month shows now: it changed in compact mode
+    bool layout_outdated_ =
+        false; ///< what was laid out is not what the month shows now: it changed in compact mode
     std::int16_t style_ = 0; ///< of the last Which_Style
 
 private:
-    bool contrast_ = false; ///< the shown colours are those of high contrast
+    bool high_contrast_ = false; ///< the shown colours are those of high contrast
 };
 
 /// A day as the user reads it: Tuesday 5th March 2002.

@@ -44,7 +44,7 @@ void Main_Frm::Step_Year(int years) {
 void Main_Frm::Redraw() {
     Update_Title();
     // In compact mode no box may appear; leaving it lays the month out afresh.
-    stale_ = Compacted;
+    layout_outdated_ = Compacted;
     if (Compacted)
         return;
     Set_Day_Headers();

@@ -4,16 +4,16 @@
 
 void Main_Frm::Position_Form(std::int16_t code) {
     const Label &lowest = Box_Lbl[35].Visible() ? Box_Lbl[35] : Box_Lbl[28];
-    place_.Put(code, lowest.Bounds().Bottom(), {Cur_Settings.Manual_PosX, Cur_Settings.Manual_PosY});
+    place_.Move_To(code, lowest.Bounds().Bottom(), {Cur_Settings.Manual_PosX, Cur_Settings.Manual_PosY});
 }
 
 void Main_Frm::RePosition() {
     if (!drag_.Dragging())
         Attachment.Follow();
-    if (place_.Take_Height())
+    if (place_.Update_Work_Area_Height())
         Position_Form(Effective_Position());
     else if (!drag_.Dragging())
-        place_.Put_Back();
+        place_.Restore_Position();
 }
 
 void Main_Frm::No_ShowDesktop_and_IconColours() {
@@ -21,7 +21,7 @@ void Main_Frm::No_ShowDesktop_and_IconColours() {
     if (desktop == 0)
         return;
     Splash.Show_Over(Model().bounds, Box_Lbl[36].Top(), !Model().description.empty());
-    Attachment.Enter(desktop);
+    Attachment.Attach(desktop);
 }
 
 void Main_Frm::Set_Icon_Colours(platform::Shell_Window, Colour background, Colour text) {

@@ -22,19 +22,19 @@ void Main_Frm::Setup_Boxes(std::int16_t month, std::int16_t year) {
 void Main_Frm::Load_Dates() {
     Clear_Tooltips();
     const Date today = Today();
-    const unsigned fill = ++fills_;
-    entered_ = {};
+    const unsigned generation = ++load_generation_;
+    pending_texts_ = {};
     const bool complete = Events.Load_Dates(
         [&](std::string_view record) {
-            if (fill == fills_)
+            if (generation == load_generation_)
                 Enter_Date(record, today);
         },
         [&] {
-            if (fill == fills_)
-                Show_Entered();
+            if (generation == load_generation_)
+                Show_Pending_Texts();
         });
-    if (fill == fills_)
-        broken_off_ = !complete;
+    if (generation == load_generation_)
+        load_incomplete_ = !complete;
     Describe_First_Steps();
 }
 
@@ -45,9 +45,9 @@ void Main_Frm::Describe_First_Steps() {
 }
 
 /// Puts the texts that were entered since the last call into their boxes.
-void Main_Frm::Show_Entered() {
+void Main_Frm::Show_Pending_Texts() {
     for (int i = 0; i < box_count; ++i) {
-        std::optional<std::string> &text = entered_[static_cast<std::size_t>(i)];
+        std::optional<std::string> &text = pending_texts_[static_cast<std::size_t>(i)];
         if (text)
             Fill_Box(i, *std::exchange(text, {}));
     }
@@ -55,24 +55,24 @@ void Main_Frm::Show_Entered() {
 
 void Main_Frm::Enter_Date(std::string_view record, const Date &today) {
     Event_Record parts;
-    if (!Part_Record(record, parts))
+    if (!Parse_Record(record, parts))
         throw Conversion_Error("a record without \"=\"");
     const Date date = Parse_Date_Key(parts.key);
     if ((date.year == every_year || date.year == Cur_Year) && date.month == Cur_Month) {
         // Fitting a text into its box takes longer than reading a hundred records, and of several texts of a
         // day only the last one stays.
         const int index = Start_Box(Cur_Month, Cur_Year) + date.day - 1;
-        entered_.at(static_cast<std::size_t>(index)) = parts.text;
+        pending_texts_.at(static_cast<std::size_t>(index)) = parts.text;
     }
     // A day that the date watch has not seen yet gets its alert from there, and not two.
     if (Cur_Settings.Show_Alerts == 1 && !Alert_Done && date.day == today.day && date.month == today.month &&
         (date.year == today.year || date.year == every_year) && Date_Stamp(today) == date_stamp_)
-        Alert(today, parts.text);
+        Show_Alert(today, parts.text);
 }
 
-void Main_Frm::Show_Saved(const Date &date, std::string_view text) {
-    if (Event_Saved)
-        Event_Saved();
+void Main_Frm::Show_Saved_Event(const Date &date, std::string_view text) {
+    if (On_Event_Saved)
+        On_Event_Saved();
     Describe_First_Steps();
     if (date.month != Cur_Month)
         return;
@@ -85,11 +85,11 @@ void Main_Frm::Show_Saved(const Date &date, std::string_view text) {
         Fill_Box(index, message.text);
 }
 
-void Main_Frm::Alert(const Date &today, std::string_view text) {
+void Main_Frm::Show_Alert(const Date &today, std::string_view text) {
     // Done before the user has answered: the month may be drawn again meanwhile, which must not show the
     // alert once more, and at midnight the next day gets one of its own.
     Alert_Done = true;
-    Show_Entered();
+    Show_Pending_Texts();
     platform::Message_Box(Today_Text(today, text), "Vellatro", platform::Box_Icon::Information);
 }
 

@@ -57,7 +57,7 @@ void Main_Frm::Preview_Wallpaper_Stuff(const std::string &pack, std::int16_t mon
         } catch (const Conversion_Error &expected) {
             if (fault.empty())
                 fault = Joined({"In ", Pack_File(pack, "settings.ini"), " the ", what, " of month ",
-                                std::to_string(month), " is \"", Shortened(text), "\", but must be ",
+                                std::to_string(month), " is \"", Shorten(text), "\", but must be ",
                                 expected.what(), ". ", meanwhile});
             return std::nullopt;
         }
@@ -76,8 +76,8 @@ void Main_Frm::Preview_Wallpaper_Stuff(const std::string &pack, std::int16_t mon
     try {
         path = Get_Paper_Path(month, pack);
     } catch (const Error &error) { // it names the file
-        throw Error(
-            Joined({Not_Shown(month), "\r\n\r\n", error.what(), "\r\n\r\nThe desktop stays as it is."}));
+        throw Error(Joined(
+            {Picture_Error_Text(month), "\r\n\r\n", error.what(), "\r\n\r\nThe desktop stays as it is."}));
     }
     if (path == Theme_Error)
         return;

@@ -16,10 +16,10 @@ void Main_Frm::Box_Mouse_Down(Mouse_Button button, int index, Point at) {
     if (button == Mouse_Button::Right)
         return Popup_Menu(index);
     if (Cur_Settings.Tooltips == balloon_tooltips && !Box_Caption_Lbl[index].Caption().empty())
-        Balloon.Hold({Left() + at.x, Top() + at.y}, [this, index] { Box_Held(index); });
+        Balloon.Hold({Left() + at.x, Top() + at.y}, [this, index] { Show_Box_Balloon(index); });
 }
 
-void Main_Frm::Box_Held(int index) {
+void Main_Frm::Show_Box_Balloon(int index) {
     Tooltip_Box = static_cast<std::int16_t>(index);
     const Stored_Message message = Events.Get_Message(Date_Key(Date_Of_Box(index)));
     // Reading may have told the user of a failure, in a box that took the mouse.

@@ -14,7 +14,7 @@ namespace {
 
 template <class Integer>
 bool Read_Integer(std::string_view text, Integer &value) {
-    std::string_view digits = Trimmed(text, " \t");
+    std::string_view digits = Trim(text, " \t");
     // from_chars knows no plus sign; after one there must be no other sign.
     if (digits.size() > 1 && digits[0] == '+' && digits[1] != '-')
         digits.remove_prefix(1);
@@ -59,7 +59,7 @@ std::optional<std::int16_t> Int16_Of(std::string_view text) {
 }
 
 bool To_Flag(std::string_view text) {
-    const std::string word = Capitals(Trimmed(text, " \t"));
+    const std::string word = To_Upper(Trim(text, " \t"));
     if (word == "TRUE")
         return true;
     if (word == "FALSE")

@@ -18,7 +18,7 @@ std::chrono::year_month_day Calendar_Day(const Date &date) {
 
 /// Reads one to four digits and the `separator` behind them, the form in which the program writes its keys.
 /// Leaves `at` behind the separator; false when the text is something else.
-bool Plain_Number(const char *&at, const char *end, char separator, std::int16_t &number) {
+bool Parse_Number(const char *&at, const char *end, char separator, std::int16_t &number) {
     int value = 0;
     const char *digit = at;
     for (; digit != end && *digit >= '0' && *digit <= '9'; ++digit) {
@@ -34,7 +34,7 @@ bool Plain_Number(const char *&at, const char *end, char separator, std::int16_t
 }
 
 /// Day, month and year.
-std::string Parted_By(std::string_view separator, const Date &date) {
+std::string Join_Date(std::string_view separator, const Date &date) {
     return Joined({std::to_string(date.day), separator, std::to_string(date.month), separator,
                    std::to_string(date.year)});
 }
@@ -71,7 +71,7 @@ Date Date_Of(std::int32_t day_number) {
 }
 
 std::string Date_Key(const Date &date) {
-    return Parted_By("/", date);
+    return Join_Date("/", date);
 }
 
 std::string Every_Year_Key(const std::string &key) {
@@ -83,8 +83,8 @@ Date Parse_Date_Key(std::string_view key) {
     Date date;
     const char *at = key.data();
     const char *const end = at + key.size();
-    if (Plain_Number(at, end, '/', date.day) && Plain_Number(at, end, '/', date.month) &&
-        Plain_Number(at, end, '\0', date.year))
+    if (Parse_Number(at, end, '/', date.day) && Parse_Number(at, end, '/', date.month) &&
+        Parse_Number(at, end, '\0', date.year))
         return date;
     const std::size_t first = key.find('/');
     const std::size_t second = first == std::string_view::npos ? first : key.find('/', first + 1);
@@ -97,7 +97,7 @@ Date Parse_Date_Key(std::string_view key) {
 }
 
 std::string Date_Stamp(const Date &date) {
-    return Parted_By(":", date);
+    return Join_Date(":", date);
 }
 
 std::string Ordinal_Suffix(int day) {

@@ -20,7 +20,7 @@ constexpr std::string_view yearly_year = "/yyyy";
 
 bool Read_Entry(std::string_view record, Event_Entry &entry) {
     Event_Record parts;
-    if (!Part_Record(record, parts))
+    if (!Parse_Record(record, parts))
         return false;
     entry.key = parts.key;
     entry.text = parts.text;
@@ -37,10 +37,10 @@ bool Read_Entry(std::string_view record, Event_Entry &entry) {
     return date.day <= DaysInMonth({entry.yearly ? leap_year : date.year, date.month, 1});
 }
 
-Reading Read_Entries(Callback_Ref<void(const Event_Entry &)> take) {
+Read_Result Read_Entries(Callback_Ref<void(const Event_Entry &)> take) {
     const std::string path = Event_Store::Data_File();
     if (!platform::File_Exists(path))
-        return Reading::No_File;
+        return Read_Result::No_File;
     try {
         const std::string bytes = platform::Read_File(path);
         Sequential_Reader reader(bytes);
@@ -49,11 +49,11 @@ Reading Read_Entries(Callback_Ref<void(const Event_Entry &)> take) {
             if (Read_Entry(item, entry))
                 take(entry);
     } catch (const platform::File_Error &) {
-        return Reading::Incomplete;
+        return Read_Result::Incomplete;
     } catch (const Sequential_Error &) {
-        return Reading::Incomplete;
+        return Read_Result::Incomplete;
     }
-    return Reading::Complete;
+    return Read_Result::Complete;
 }
 
 Date Day_In_Year(const Event_Entry &entry, std::int16_t year) {
@@ -64,24 +64,23 @@ Date Day_In_Year(const Event_Entry &entry, std::int16_t year) {
     return {year, entry.date.month, std::min(entry.date.day, last)};
 }
 
-Reading Load_Entries(std::vector<Sort_Entry> &entries, Sort_Order order, const Date &today) {
+Read_Result Load_Entries(std::vector<Event> &entries, Sort_Order order, const Date &today) {
     entries.clear();
-    const Reading reading = Read_Entries([&](const Event_Entry &entry) {
+    const Read_Result result = Read_Entries([&](const Event_Entry &entry) {
         const Date date = Day_In_Year(entry, today.year);
         entries.push_back({Day_Number(date), date, entry.yearly, std::string(entry.key),
                            std::string(entry.text), entry.place});
     });
     if (order == Sort_Order::Date_Added || entries.empty())
-        return reading;
-    std::stable_sort(entries.begin(), entries.end(), [](const Sort_Entry &left, const Sort_Entry &right) {
-        return left.number < right.number;
-    });
+        return result;
+    std::stable_sort(entries.begin(), entries.end(),
+                     [](const Event &left, const Event &right) { return left.number < right.number; });
     if (order == Sort_Order::Descending_Date)
         std::reverse(entries.begin(), entries.end());
-    return reading;
+    return result;
 }
 
-bool Remove_Record(std::vector<std::string> &records, const Sort_Entry &event) {
+bool Remove_Record(std::vector<std::string> &records, const Event &event) {
     const std::string record = Joined({event.key, "=", event.text});
     // Of records that are alike the place tells which one; the file may have changed since.
     auto at = records.end();
@@ -95,7 +94,7 @@ bool Remove_Record(std::vector<std::string> &records, const Sort_Entry &event) {
     return true;
 }
 
-std::string Line_Head(const Sort_Entry &entry) {
+std::string Line_Head(const Event &entry) {
     return platform::Short_Date(entry.date.year, entry.date.month, entry.date.day) +
            (entry.yearly ? " (every year)  -  " : "  -  ");
 }

@@ -24,14 +24,14 @@ struct Event_Entry {
 /// that the calendar shows. The year of a yearly event is "9999" or "yyyy"; it can be on 29 February.
 bool Read_Entry(std::string_view record, Event_Entry &entry);
 
-enum class Reading {
+enum class Read_Result {
     No_File,
     Incomplete, ///< the file, or the rest of it, cannot be read
     Complete
 };
 
 /// Calls `take` for each event of the data file in file order. Shows no message.
-Reading Read_Entries(Callback_Ref<void(const Event_Entry &)> take);
+Read_Result Read_Entries(Callback_Ref<void(const Event_Entry &)> take);
 
 /// The day of an event's date, of a yearly one in `year`. In a year without a 29 February its events are on
 /// the 28th: the event stays in its month, where it is counted too.
@@ -40,7 +40,7 @@ Date Day_In_Year(const Event_Entry &entry, std::int16_t year);
 enum class Sort_Order { Ascending_Date, Descending_Date, Date_Added };
 
 /// One event, ready to be sorted and shown.
-struct Sort_Entry {
+struct Event {
     std::int32_t number = 0; ///< day number of the date
     Date date;               ///< of a yearly event in the current year
     bool yearly = false;
@@ -51,11 +51,11 @@ struct Sort_Entry {
 
 /// Replaces `entries` by the events of the data file, by `order`: by date, the events of a day in file order
 /// and, descending, in the reverse of that; or all in file order. What cannot be read is left out.
-Reading Load_Entries(std::vector<Sort_Entry> &entries, Sort_Order order, const Date &today);
+Read_Result Load_Entries(std::vector<Event> &entries, Sort_Order order, const Date &today);
 
 /// Takes the record of the event out of `records`, the items of the data file. False when it is not among
 /// them any more.
-bool Remove_Record(std::vector<std::string> &records, const Sort_Entry &event);
+bool Remove_Record(std::vector<std::string> &records, const Event &event);
 
 /// What stands before the text in the line of an event: its date in the user's short form, and the separator.
-std::string Line_Head(const Sort_Entry &entry);
+std::string Line_Head(const Event &entry);

@@ -13,7 +13,7 @@
 
 namespace {
 
-void Tell_Loading_Failed() {
+void Show_Loading_Error() {
     platform::Message_Box("Error loading in data file.", "Vellatro", platform::Box_Icon::Stop);
 }
 
@@ -30,14 +30,14 @@ bool Read_Data_File(std::string &bytes) {
 /// Calls `take` with each item of the data file that is a record, parted. A line without "=", as of a note or
 /// an empty one, is none and hides no other. Returns whether the file held none of those. Throws
 /// platform::File_Error, Sequential_Error and what `take` throws.
-bool Each_Record(Callback_Ref<void(std::string_view item, const Event_Record &parts)> take) {
+bool For_Each_Record(Callback_Ref<void(std::string_view item, const Event_Record &parts)> take) {
     std::string bytes;
     if (!Read_Data_File(bytes))
         return true;
     bool sound = true;
     Sequential_Reader reader(bytes);
     for (std::string_view item; reader.Next(item);) {
-        if (Event_Record parts; Part_Record(item, parts))
+        if (Event_Record parts; Parse_Record(item, parts))
             take(item, parts);
         else
             sound = false;
@@ -45,7 +45,7 @@ bool Each_Record(Callback_Ref<void(std::string_view item, const Event_Record &pa
     return sound;
 }
 
-std::string All_Records(const std::vector<std::string> &records) {
+std::string Format_Records(const std::vector<std::string> &records) {
     std::size_t size = 0;
     for (const std::string &record : records)
         size += record.size() + 4;
@@ -58,7 +58,7 @@ std::string All_Records(const std::vector<std::string> &records) {
 
 } // namespace
 
-bool Part_Record(std::string_view record, Event_Record &parts) {
+bool Parse_Record(std::string_view record, Event_Record &parts) {
     const std::size_t equals = record.find('=');
     if (equals == std::string_view::npos)
         return false;
@@ -67,7 +67,7 @@ bool Part_Record(std::string_view record, Event_Record &parts) {
     return true;
 }
 
-std::string Change_Of_Day(std::string_view what, const Date &day) {
+std::string Change_Name(std::string_view what, const Date &day) {
     return Joined({what, " ", std::to_string(day.day), " ", platform::Month_Name(day.month)});
 }
 
@@ -88,7 +88,7 @@ bool Event_Store::Undo() {
             return false;
         }
     } catch (const std::exception &) {
-        return Refuse_Save();
+        return Show_Save_Error();
     }
     // Where there is no file again, Load_File leaves this alone, and the next save must not bring it back.
     Temp_Lst.clear();
@@ -98,25 +98,25 @@ bool Event_Store::Undo() {
 bool Event_Store::Load_File() {
     try {
         std::string bytes;
-        partly_loaded_ = true;
+        load_failed_ = true;
         if (Read_Data_File(bytes)) {
             Temp_Lst.clear();
             Sequential_Reader reader(bytes);
             for (std::string_view item; reader.Next(item);)
                 Temp_Lst.emplace_back(item);
         }
-        partly_loaded_ = false;
+        load_failed_ = false;
     } catch (const std::exception &) {
-        Tell_Loading_Failed();
+        Show_Loading_Error();
     }
-    return !partly_loaded_;
+    return !load_failed_;
 }
 
 bool Event_Store::Check_For_Pre(const std::string &key, const std::string &text, bool each_year) {
     const std::string every = Every_Year_Key(key);
     const auto same_day = [&](const std::string &record) {
         Event_Record parts;
-        return Part_Record(record, parts) && (parts.key == key || parts.key == every);
+        return Parse_Record(record, parts) && (parts.key == key || parts.key == every);
     };
     const auto match = std::find_if(Temp_Lst.begin(), Temp_Lst.end(), same_day);
     if (match == Temp_Lst.end())
@@ -128,29 +128,29 @@ bool Event_Store::Check_For_Pre(const std::string &key, const std::string &text,
     return Write_ALL();
 }
 
-void Event_Store::Write_Whole(const std::string &added) const {
-    if (partly_loaded_)
+void Event_Store::Write_Records(const std::string &added) const {
+    if (load_failed_)
         throw platform::File_Error("what else the file holds is not known");
-    std::string bytes = All_Records(Temp_Lst);
+    std::string bytes = Format_Records(Temp_Lst);
     if (!added.empty())
         Append_Item(bytes, added);
     platform::Replace_File(Data_File(), bytes);
 }
 
 void Event_Store::Write_Data_File() {
-    Write_Whole({});
+    Write_Records({});
 }
 
 bool Event_Store::Rewrite_File(const std::string &added) {
     try {
-        Write_Whole(added);
+        Write_Records(added);
         return true;
     } catch (const std::exception &) {
-        return Refuse_Save();
+        return Show_Save_Error();
     }
 }
 
-bool Event_Store::Refuse_Save() {
+bool Event_Store::Show_Save_Error() {
     platform::Message_Box("Error saving data file.", "Vellatro", platform::Box_Icon::Stop);
     return false;
 }
@@ -161,7 +161,7 @@ bool Event_Store::Write_ALL() {
 
 bool Event_Store::Write_New_Line(const std::string &key, const std::string &text, bool each_year) {
     if (text.empty())
-        return !partly_loaded_;
+        return !load_failed_;
     return Rewrite_File(Joined({each_year ? Every_Year_Key(key) : key, "=", text}));
 }
 
@@ -170,7 +170,7 @@ Stored_Message Event_Store::Get_Message(const std::string &key) {
     Stored_Message message;
     bool sound = false;
     try {
-        sound = Each_Record([&](std::string_view, const Event_Record &parts) {
+        sound = For_Each_Record([&](std::string_view, const Event_Record &parts) {
             if (parts.key == every)
                 message.every_year = true;
             else if (parts.key != key)
@@ -182,7 +182,7 @@ Stored_Message Event_Store::Get_Message(const std::string &key) {
         message.incomplete = true;
     }
     if (!sound)
-        Tell_Loading_Failed();
+        Show_Loading_Error();
     return message;
 }
 
@@ -190,13 +190,13 @@ bool Event_Store::Load_Dates(Callback_Ref<void(std::string_view record)> enter, 
     bool complete = false;
     bool sound = false;
     try {
-        sound = Each_Record([&](std::string_view item, const Event_Record &) { enter(item); });
+        sound = For_Each_Record([&](std::string_view item, const Event_Record &) { enter(item); });
         complete = true;
     } catch (const std::exception &) { // told below
     }
     if (entered)
         entered();
     if (!sound)
-        Tell_Loading_Failed();
+        Show_Loading_Error();
     return complete;
 }

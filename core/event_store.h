@@ -17,10 +17,10 @@ struct Event_Record {
 };
 
 /// Parts a record; false when it has no "=".
-bool Part_Record(std::string_view record, Event_Record &parts);
+bool Parse_Record(std::string_view record, Event_Record &parts);
 
 /// The name of a change to the event of a day: Clear 5 March.
-std::string Change_Of_Day(std::string_view what, const Date &day);
+std::string Change_Name(std::string_view what, const Date &day);
 
 /// What Get_Message found for a day.
 struct Stored_Message {
@@ -72,7 +72,7 @@ public:
     bool Write_New_Line(const std::string &key, const std::string &text, bool each_year);
 
     /// Shows "Error saving data file." for a save that must not be tried. Returns false.
-    static bool Refuse_Save();
+    static bool Show_Save_Error();
 
     /// The event of the day `key`: of several records the last one in the file. Without a file there is none.
     /// A failure shows the message of Load_File; what was found before it is returned. Lines without "=" show
@@ -86,9 +86,9 @@ public:
 
 private:
     /// Writes Temp_Lst and, unless it is empty, the record `added`. Throws as Write_Data_File does.
-    void Write_Whole(const std::string &added) const;
+    void Write_Records(const std::string &added) const;
     /// The same with a message for a failure.
     bool Rewrite_File(const std::string &added);
 
-    bool partly_loaded_ = false; ///< the last Load_File failed: a rewrite would lose what it did not read
+    bool load_failed_ = false; ///< the last Load_File failed: a rewrite would lose what it did not read
 };

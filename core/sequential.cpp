@@ -52,24 +52,24 @@ Sequential_Reader::Sequential_Reader(std::string_view bytes) {
     if (bytes.starts_with("\xFF\xFE") || bytes.starts_with("\xFE\xFF"))
         throw Sequential_Error("the text is UTF-16");
     bytes = Without_Byte_Order_Mark(bytes);
-    at_ = looked_to_ = bytes.data();
+    at_ = scanned_to_ = bytes.data();
     end_ = at_ + bytes.size();
     all_utf8_ = Is_Utf8(bytes);
 }
 
 /// Blanks and line ends before the end of the file are no items. Each run of them is looked over once.
 bool Sequential_Reader::At_End() {
-    if (at_ != end_ && Is_Line_End(*at_) && at_ >= looked_to_) {
-        looked_to_ = at_;
-        while (looked_to_ != end_ && (Is_Blank(*looked_to_) || Is_Line_End(*looked_to_)))
-            ++looked_to_;
-        if (looked_to_ == end_ || *looked_to_ == end_mark)
-            at_ = looked_to_;
+    if (at_ != end_ && Is_Line_End(*at_) && at_ >= scanned_to_) {
+        scanned_to_ = at_;
+        while (scanned_to_ != end_ && (Is_Blank(*scanned_to_) || Is_Line_End(*scanned_to_)))
+            ++scanned_to_;
+        if (scanned_to_ == end_ || *scanned_to_ == end_mark)
+            at_ = scanned_to_;
     }
     return at_ == end_ || *at_ == end_mark;
 }
 
-std::string_view Sequential_Reader::Take_Quoted() {
+std::string_view Sequential_Reader::Read_Quoted() {
     const char *begin = at_ + 1;
     const void *quote = std::memchr(begin, '"', static_cast<std::size_t>(end_ - begin));
     if (quote == nullptr)
@@ -80,7 +80,7 @@ std::string_view Sequential_Reader::Take_Quoted() {
     return {begin, static_cast<std::size_t>(close - begin)};
 }
 
-std::string_view Sequential_Reader::Take_Plain() {
+std::string_view Sequential_Reader::Read_Unquoted() {
     const char *begin = at_;
     while (at_ != end_ && !Is_Separator(*at_) && *at_ != end_mark)
         ++at_;
@@ -97,7 +97,7 @@ bool Sequential_Reader::Next(std::string_view &item) {
     at_ = Skip_Blanks(at_, end_);
     if (At_End())
         return false;
-    item = *at_ == '"' ? Take_Quoted() : Take_Plain();
+    item = *at_ == '"' ? Read_Quoted() : Read_Unquoted();
     at_ = Skip_Separator(at_, end_);
     if (!all_utf8_)
         item = As_Utf8(item, converted_);

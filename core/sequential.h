@@ -31,14 +31,14 @@ public:
 
 private:
     bool At_End();
-    std::string_view Take_Quoted();
-    std::string_view Take_Plain();
+    std::string_view Read_Quoted();
+    std::string_view Read_Unquoted();
 
     const char *at_;
     const char *end_;
-    const char *looked_to_; ///< no line end before this one is among the last bytes of the file
-    bool all_utf8_;         ///< no item needs a look
-    std::string converted_; ///< the last item that was not UTF-8
+    const char *scanned_to_; ///< no line end before this one is among the last bytes of the file
+    bool all_utf8_;          ///< no item needs a look
+    std::string converted_;  ///< the last item that was not UTF-8
 };
 
 /// Appends one item to `bytes` so that it reads back the same: in quotes, followed by CR LF. An item that

@@ -119,7 +119,7 @@ void Load_Settings() {
             Set_From_Text(Cur_Settings, row, *stored);
         } catch (const Conversion_Error &expected) {
             throw Setting_Error(Joined({"The setting \"", row.key, "\" in the section \"", row.section,
-                                        "\" is \"", Shortened(*stored), "\", but must be ", expected.what(),
+                                        "\" is \"", Shorten(*stored), "\", but must be ", expected.what(),
                                         advice, Store_Key(row), ", and start it again."}));
         }
     }
@@ -130,7 +130,7 @@ void Save_Setting(Setting_Member member) {
     platform::Write_User_Value(Store_Key(row), row.key, Setting_Text(Cur_Settings, row));
 }
 
-void Take_Setting(const Setting_Row &row, std::string_view text) {
+void Store_Setting_Text(const Setting_Row &row, std::string_view text) {
     // Converted first: a stored text that is no value would keep the program from starting.
     Set_From_Text(Cur_Settings, row, text);
     platform::Write_User_Value(Store_Key(row), row.key, std::string(text));

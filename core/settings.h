@@ -82,7 +82,7 @@ std::string Setting_Text(const Settings &settings, const Setting_Row &row);
 
 /// Converts `text`, puts it into the member of a row of Cur_Settings and stores it, unchanged, under its
 /// key. Throws Conversion_Error, and platform::Registry_Error when the member has its value already.
-void Take_Setting(const Setting_Row &row, std::string_view text);
+void Store_Setting_Text(const Setting_Row &row, std::string_view text);
 
 /// Converts `text` and puts it into the member of a row. Throws Conversion_Error.
 void Set_From_Text(Settings &settings, const Setting_Row &row, std::string_view text);

@@ -46,7 +46,7 @@ bool Stands_At(const Characters &characters, std::size_t at, std::string_view wo
         return false;
     for (std::size_t i = 0; i < word.size(); ++i) {
         const std::string_view character = characters[at + i];
-        if (character.size() != 1 || Capital(character[0]) != word[i])
+        if (character.size() != 1 || To_Upper(character[0]) != word[i])
             return false;
     }
     return true;
@@ -73,7 +73,7 @@ Field Field_Of(std::string_view character) {
 }
 
 /// Reads one run of a field's letter, or one literal character, at `at` and steps over it.
-Token Read_Run(const Characters &characters, std::size_t &at) {
+Token Read_Token(const Characters &characters, std::size_t &at) {
     const std::string_view character = characters[at];
     const Field field = Field_Of(character);
     std::size_t length = 1;
@@ -106,7 +106,7 @@ std::vector<Token> Read_Pattern(const Characters &characters) {
             tokens.push_back({Field::Half_Day, 1, std::string_view(characters[at].data(), 3)});
             at += 3;
         } else {
-            tokens.push_back(Read_Run(characters, at));
+            tokens.push_back(Read_Token(characters, at));
         }
     }
     return tokens;

@@ -17,14 +17,14 @@ Undo_Log::Change::Change(Undo_Log &log, std::string name) : log_(log), name_(std
         return;
     try {
         before_ = log_.Read();
-        known_ = true;
+        has_before_ = true;
     } catch (const std::exception &) { // this change will not be remembered
     }
-    log_.changing_ = known_;
+    log_.changing_ = has_before_;
 }
 
 Undo_Log::Change::~Change() {
-    if (!known_)
+    if (!has_before_)
         return;
     log_.changing_ = false;
     try {
@@ -56,8 +56,8 @@ void Undo_Log::Add(std::string name, const File_Bytes &before, const File_Bytes 
     step.removed = was_rest.substr(0, was_rest.size() - step.tail);
     step.size = is.size();
     step.hash = std::hash<std::string_view>()(is);
-    step.was_there = before.has_value();
-    step.stayed_there = after.has_value();
+    step.existed_before = before.has_value();
+    step.existed_after = after.has_value();
     steps_.push_back(std::move(step));
     if (steps_.size() > most_steps)
         steps_.pop_front();
@@ -73,10 +73,10 @@ bool Undo_Log::Undo() {
     const Step &step = steps_.back();
     const File_Bytes file = Read();
     const std::string_view bytes = file ? std::string_view(*file) : std::string_view();
-    if (file.has_value() != step.stayed_there || bytes.size() != step.size ||
+    if (file.has_value() != step.existed_after || bytes.size() != step.size ||
         std::hash<std::string_view>()(bytes) != step.hash)
         return false;
-    if (step.was_there)
+    if (step.existed_before)
         platform::Replace_File(path_, Joined({bytes.substr(0, step.head), step.removed,
                                               bytes.substr(bytes.size() - step.tail)}));
     else

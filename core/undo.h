@@ -32,7 +32,7 @@ public:
     private:
         Undo_Log &log_;
         std::string name_;
-        bool known_ = false; ///< before_ is the file
+        bool has_before_ = false; ///< before_ is the file
         File_Bytes before_;
     };
 
@@ -47,13 +47,13 @@ public:
 private:
     struct Step {
         std::string name;
-        std::string removed;      ///< what stood where the files differ
-        std::size_t head = 0;     ///< bytes before that, the same in both
-        std::size_t tail = 0;     ///< bytes behind it, likewise
-        std::size_t size = 0;     ///< of the file after the change
-        std::size_t hash = 0;     ///< of its bytes
-        bool was_there = false;   ///< the file, before the change
-        bool stayed_there = true; ///< and after it
+        std::string removed;         ///< what stood where the files differ
+        std::size_t head = 0;        ///< bytes before that, the same in both
+        std::size_t tail = 0;        ///< bytes behind it, likewise
+        std::size_t size = 0;        ///< of the file after the change
+        std::size_t hash = 0;        ///< of its bytes
+        bool existed_before = false; ///< the file, before the change
+        bool existed_after = true;   ///< and after it
     };
 
     File_Bytes Read() const;

@@ -24,53 +24,53 @@ constexpr unsigned longest_start = 120'000;
 
 } // namespace
 
-void Desktop_Attachment::Enter(platform::Shell_Window desktop) {
-    Expect();
-    Look(desktop, first_patience);
+void Desktop_Attachment::Attach(platform::Shell_Window desktop) {
+    Await_Shell();
+    Try_Attach(desktop, first_patience);
 }
 
-void Desktop_Attachment::Expect() {
+void Desktop_Attachment::Await_Shell() {
     if (holder_ != 0)
         return;
     waiting_ = true;
-    waits_since_ = platform::Milliseconds();
+    wait_start_ = platform::Milliseconds();
 }
 
 void Desktop_Attachment::Follow() {
     // Questions to the shell may let news in that lead here.
-    if ((!waiting_ && holder_ == 0) || looking_)
+    if ((!waiting_ && holder_ == 0) || attaching_)
         return;
     const platform::Shell_Window desktop = platform::Find_Desktop_Window();
     if (desktop == 0) {
-        waiting_ = waiting_ && !lost_ && Is_Early();
-        if (std::exchange(lost_, false))
+        waiting_ = waiting_ && !window_lost_ && Is_Early();
+        if (std::exchange(window_lost_, false))
             Fire(On_Desktop_Lost);
         return;
     }
-    if (lost_)
+    if (window_lost_)
         form_.Create();
-    if (Look(desktop, later_patience))
+    if (Try_Attach(desktop, later_patience))
         Fire(On_Late_Entry);
-    if (std::exchange(lost_, false))
+    if (std::exchange(window_lost_, false))
         form_.Show();
 }
 
-bool Desktop_Attachment::Lose_Window() {
+bool Desktop_Attachment::Handle_Window_Lost() {
     // The desktop takes what is in it down before it is gone itself.
-    lost_ = waiting_ = std::exchange(holder_, 0) != std::exchange(desktop_, 0);
-    waits_since_ = platform::Milliseconds();
-    return lost_;
+    window_lost_ = waiting_ = std::exchange(holder_, 0) != std::exchange(desktop_, 0);
+    wait_start_ = platform::Milliseconds();
+    return window_lost_;
 }
 
 /// Returns whether a shell may be still to make its windows.
 bool Desktop_Attachment::Is_Early() const {
-    return platform::Milliseconds() - waits_since_ < longest_start;
+    return platform::Milliseconds() - wait_start_ < longest_start;
 }
 
 /// Looks for the view, with `patience` milliseconds for each of the shell's answers. Returns whether the form
 /// has gone into another window.
-bool Desktop_Attachment::Look(platform::Shell_Window desktop, unsigned patience) {
-    const Scoped_Value looking(looking_, true);
+bool Desktop_Attachment::Try_Attach(platform::Shell_Window desktop, unsigned patience) {
+    const Scoped_Value looking(attaching_, true);
     const platform::Shell_Window view = platform::Find_Shell_View(desktop);
     const platform::Shell_Window list = view == 0 ? 0 : platform::Find_Icon_List(view);
     const platform::Shell_Window holder = view == 0 ? 0 : platform::Holder_Of(view);

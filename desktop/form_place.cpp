@@ -8,7 +8,7 @@
 
 #include <utility>
 
-void Form_Place::Put(std::int16_t code, int lowest_box_bottom, Point kept) {
+void Form_Place::Move_To(std::int16_t code, int lowest_box_bottom, Point kept) {
     Placement placement;
     placement.work_area = GetDesktopRect(true);
     placement.form = {form_.Width(), form_.Height()};
@@ -17,28 +17,28 @@ void Form_Place::Put(std::int16_t code, int lowest_box_bottom, Point kept) {
     placement.manual = manual == kept ? manual_ : kept;
     if (const auto place = Position_Of(code, placement)) {
         placed_ = home_ = *place;
-        shown_ = Seen_At();
+        shown_ = Visible_Place();
         form_.Move(shown_.x, shown_.y);
     }
 }
 
-void Form_Place::Put_Back() {
-    if (form_.Put_At() != shown_) // by the user
-        home_ = shown_ = form_.Put_At();
-    const Point seen = Seen_At();
+void Form_Place::Restore_Position() {
+    if (form_.Requested_Position() != shown_) // by the user
+        home_ = shown_ = form_.Requested_Position();
+    const Point seen = Visible_Place();
     if (seen == shown_)
-        return form_.Put_Back();
+        return form_.Restore_Position();
     shown_ = seen;
     form_.Move(seen.x, seen.y);
 }
 
 /// Returns the form's place, or the one nearest to it that is seen.
-Point Form_Place::Seen_At() const {
+Point Form_Place::Visible_Place() const {
     const Rect home{home_.x, home_.y, form_.Width(), form_.Height()};
     return Place_In_Sight(home, Pixels_To_Twips(platform::Work_Area_Of(Twips_To_Pixels(home))));
 }
 
-bool Form_Place::Take_Height() {
+bool Form_Place::Update_Work_Area_Height() {
     const int height = GetDesktopRect(true).height;
     return std::exchange(desktop_height_, height) != height;
 }

@@ -62,11 +62,11 @@ User_Wallpaper Find_User_Wallpaper() {
         wallpaper.*member = text == nullptr ? unknown : *text;
     }
     wallpaper.monitors = platform::Wallpaper_Of_Monitors();
-    wallpaper.path = platform::Lasting_Wallpaper(wallpaper.path);
+    wallpaper.path = platform::Persistent_Wallpaper(wallpaper.path);
     return wallpaper;
 }
 
-void Hang_Up(const User_Wallpaper &wallpaper) {
+void Restore_User_Wallpaper(const User_Wallpaper &wallpaper) {
     for (const auto &[name, member] : values)
         // What was not there before is written as what the system takes it for.
         if (member != &User_Wallpaper::path)
@@ -75,7 +75,7 @@ void Hang_Up(const User_Wallpaper &wallpaper) {
     platform::Set_Wallpaper(wallpaper.path == unknown ? "" : wallpaper.path, wallpaper.monitors);
 }
 
-void Keep_User_Wallpaper(const User_Wallpaper &wallpaper, const std::string &pack) noexcept {
+void Save_User_Wallpaper(const User_Wallpaper &wallpaper, const std::string &pack) noexcept {
     try {
         for (const auto &[name, member] : values)
             platform::Write_User_Value(kept_key, name, wallpaper.*member);
@@ -87,7 +87,7 @@ void Keep_User_Wallpaper(const User_Wallpaper &wallpaper, const std::string &pac
     }
 }
 
-std::pair<User_Wallpaper, std::string> Kept_User_Wallpaper() {
+std::pair<User_Wallpaper, std::string> Load_User_Wallpaper() {
     const auto kept = [](const char *name) {
         return platform::Read_User_Value(kept_key, name).value_or(std::string());
     };

@@ -24,11 +24,11 @@ struct User_Wallpaper {
 User_Wallpaper Find_User_Wallpaper();
 
 /// Hangs it up again.
-void Hang_Up(const User_Wallpaper &wallpaper);
+void Restore_User_Wallpaper(const User_Wallpaper &wallpaper);
 
 /// Keeps it in the store for a next start, together with the name of the pack that hangs meanwhile, or, with
 /// an empty name, keeps nothing any more. A store that refuses keeps nothing.
-void Keep_User_Wallpaper(const User_Wallpaper &wallpaper, const std::string &pack) noexcept;
+void Save_User_Wallpaper(const User_Wallpaper &wallpaper, const std::string &pack) noexcept;
 
 /// Returns what is kept; an empty name of a pack: nothing.
-std::pair<User_Wallpaper, std::string> Kept_User_Wallpaper();
+std::pair<User_Wallpaper, std::string> Load_User_Wallpaper();

@@ -42,7 +42,7 @@ void Edit_Frm::Edit_Box(int index) {
     // While a question of the editor is open its answer goes first.
     if (busy_ || day.day < 1 || day.day > DaysInMonth({day.year, day.month, 1}))
         return;
-    if (!May_Leave())
+    if (!Confirm_Leave())
         return;
     day_ = day;
     // Only a new window starts afresh: an open one keeps the tick of its former day.
@@ -54,7 +54,7 @@ void Edit_Frm::Edit_Box(int index) {
     Lay_Out();
     Place_Near(calendar_.Box_Lbl[index]);
     if (Visible())
-        return Stay();
+        return Return_To_Editor();
     Set_Focus(Message_Txt);
     Show();
 }
@@ -63,14 +63,14 @@ void Edit_Frm::Fill() {
     const Scoped_Value busy(busy_, true);
     Message_Txt.Set_Text({});
     const Stored_Message message = calendar_.Events.Get_Message(Date_Key(day_));
-    unread_ = message.incomplete;
+    load_incomplete_ = message.incomplete;
     if (message.every_year)
         Every_Year_Chk.Set_Checked(true);
     Message_Txt.Set_Text(message.text);
 }
 
 /// False: the editor stays on its day, by the user's will or because the text was refused.
-bool Edit_Frm::May_Leave() {
+bool Edit_Frm::Confirm_Leave() {
     if (!Visible() || !Apply_Btn.Enabled())
         return true;
     Box_Answer answer{};
@@ -82,14 +82,14 @@ bool Edit_Frm::May_Leave() {
     }
     if (answer == Box_Answer::No || (answer == Box_Answer::Yes && Apply_Btn_Click()))
         return true;
-    Stay();
+    Return_To_Editor();
     return false;
 }
 
-bool Edit_Frm::Ask_Unsaved() {
+bool Edit_Frm::Offer_To_Save() {
     if (busy_)
         return false;
-    if (!May_Leave())
+    if (!Confirm_Leave())
         return false;
     // Dropped text must not be offered once more, should something else keep the program from ending.
     if (Visible() && Apply_Btn.Enabled())
@@ -97,13 +97,13 @@ bool Edit_Frm::Ask_Unsaved() {
     return true;
 }
 
-void Edit_Frm::Save_Unasked() {
+void Edit_Frm::Save_Without_Asking() {
     if (Visible() && Apply_Btn.Enabled() && Check_Quotes())
         Apply_Btn_Click();
 }
 
 /// The user goes on in the open editor.
-void Edit_Frm::Stay() {
+void Edit_Frm::Return_To_Editor() {
     Bring_To_Front();
     Set_Focus(Message_Txt);
 }
@@ -124,7 +124,7 @@ bool Edit_Frm::Apply_Btn_Click() {
         Set_Unsaved(true);
         return false;
     }
-    calendar_.Show_Saved(day_, text);
+    calendar_.Show_Saved_Event(day_, text);
     Set_Unsaved(false);
     calendar_.Alert_Done = true;
     Form_Unload();
@@ -134,11 +134,11 @@ bool Edit_Frm::Apply_Btn_Click() {
 /// Stores the text for the day. False when that failed, which the user has been told.
 bool Edit_Frm::Save(const std::string &text) {
     Event_Store &events = calendar_.Events;
-    const Undo_Log::Change change(events.Changes, Change_Of_Day("Edit", day_));
+    const Undo_Log::Change change(events.Changes, Change_Name("Edit", day_));
     events.Load_File();
     // What the day had may not be here: it would go unseen, also when the file can be read by now.
-    return unread_ ? Event_Store::Refuse_Save()
-                   : events.Check_For_Pre(Date_Key(day_), text, Every_Year_Chk.Checked());
+    return load_incomplete_ ? Event_Store::Show_Save_Error()
+                            : events.Check_For_Pre(Date_Key(day_), text, Every_Year_Chk.Checked());
 }
 
 void Edit_Frm::Ok_Btn_Click() {

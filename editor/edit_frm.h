@@ -19,11 +19,11 @@ public:
 
     /// Before the program or the session ends: offers unsaved text for saving. False when the user wants to
     /// stay, when the text cannot be saved as it is, and while a question about it is open already.
-    bool Ask_Unsaved();
+    bool Offer_To_Save();
 
     /// Saves unsaved text without a question and closes, where the session cannot wait. A text that is
     /// refused stays as it is.
-    void Save_Unasked();
+    void Save_Without_Asking();
 
     /// False when the text holds a double quote, which no record can carry.
     bool Check_Quotes() const;
@@ -47,17 +47,17 @@ public:
     Button Apply_Btn{*this, "Apply_Btn", "&Apply"}; ///< enabled: there is unsaved text
 
 private:
-    bool May_Leave();
+    bool Confirm_Leave();
     bool Save(const std::string &text);
     void Set_Unsaved(bool unsaved);
     void Fill();
     void Form_Unload();
-    void Stay();
+    void Return_To_Editor();
     void Lay_Out();
     void Place_Near(const Control &box);
 
     Main_Frm &calendar_;
-    Date day_;            ///< being edited; its key and its box follow from it
-    bool unread_ = false; ///< the day's event may be one that the editor has not seen
-    bool busy_ = false;   ///< in a procedure that shows message boxes
+    Date day_;                     ///< being edited; its key and its box follow from it
+    bool load_incomplete_ = false; ///< the day's event may be one that the editor has not seen
+    bool busy_ = false;            ///< in a procedure that shows message boxes
 };

@@ -19,7 +19,7 @@ void Demand(bool holds) {
 
 bool Is_That_Day(const std::string &record) {
     Event_Record parts;
-    return Part_Record(record, parts) && (parts.key == key || parts.key == every);
+    return Parse_Record(record, parts) && (parts.key == key || parts.key == every);
 }
 
 } // namespace

@@ -25,7 +25,7 @@ void Join(const Calendar_File &file, std::vector<std::string> &records, Progress
         Demand(Text_On(day, file.events[day.event]).find_first_of("\"\r\n") == std::string::npos);
     }
     const Join_Counts counts = Join_Events(file, days, records);
-    Demand(counts.imported + counts.already_there + counts.passed_over == file.events.size());
+    Demand(counts.imported + counts.already_there + counts.skipped == file.events.size());
 }
 
 std::vector<std::string> Read_Back(const std::string &bytes) {
@@ -37,8 +37,8 @@ std::vector<std::string> Read_Back(const std::string &bytes) {
 }
 
 /// The records' own events: one for each, on its date.
-std::vector<Sort_Entry> Entries(const std::vector<std::string> &records) {
-    std::vector<Sort_Entry> entries;
+std::vector<Event> Entries(const std::vector<std::string> &records) {
+    std::vector<Event> entries;
     Event_Entry entry;
     for (const std::string &record : records)
         if (Read_Entry(record, entry)) {
@@ -71,7 +71,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
         Append_Item(bytes, record);
     Demand(Read_Back(bytes) == records);
 
-    const std::vector<Sort_Entry> entries = Entries(records);
+    const std::vector<Event> entries = Entries(records);
     const Calendar_File exported = Read_ICalendar(ICalendar_Bytes(entries, progress), progress);
     Demand(exported.events.size() == entries.size());
     const Event_Days days = Find_Event_Days(exported, today, progress);

@@ -32,8 +32,8 @@ bool Folder_Exists(const std::string &path);
 
 /// The names, without the folder's, of the plain files in a folder, or of the folders in it, in no certain
 /// order. None where the folder cannot be read.
-enum class Listed { Files, Folders };
-std::vector<std::string> Names_In_Folder(const std::string &folder, Listed listed);
+enum class Entry_Kind { Files, Folders };
+std::vector<std::string> Names_In_Folder(const std::string &folder, Entry_Kind kind);
 
 /// False when it is certain that nothing bears the name `path`. Where the system cannot tell, as with a disk
 /// that fails or a name that can be none, it is true: reading then tells the failure.

@@ -68,7 +68,7 @@ struct Control_State {
     bool transparent = false; ///< draws no background of its own
     Colour frame_colour = -1; ///< -1: no frame
     bool marked = false;      ///< bears the mark of the keyboard focus
-    bool edged = false;       ///< has a hairline inside its edges where no frame is
+    bool hairline = false;    ///< has a hairline inside its edges where no frame is
     Text_Align align = Text_Align::Left;
     bool middle = false; ///< caption centred between top and bottom
     int padding = 0;     ///< twips between the caption and the left, right and, unless `middle`, top edge
@@ -130,7 +130,7 @@ enum class Input_Kind : std::uint8_t {
     Focus_Changed,  ///< the form got (`checked`) or lost the keyboard
     Capture_Lost,   ///< the mouse went elsewhere while a button was held: its release will not come
     Dots_Changed,   ///< the screen's dots per inch changed
-    Moved,          ///< the window of a dialog is at `point` on the screen now
+    Window_Moved,   ///< the window of a dialog is at `point` on the screen now
 };
 
 /// One user action. Fields that do not belong to the kind stay at their defaults.
@@ -139,7 +139,8 @@ struct Input_Event {
     /// Index of the control of a dialog that the event is about, with keys the focused one; in painted forms
     /// the control that assistive technology means.
     int control = -1;
-    Point point{}; ///< mouse, twips on the form; where `control` names one, on that; of Moved on the screen
+    Point point{}; ///< mouse, twips on the form; where `control` names one, on that; of Window_Moved on the
+                   ///< screen
     Mouse_Button button = Mouse_Button::None; ///< the button that changed; in a move the one that is held
     int key = 0;                              ///< virtual key code
     bool repeated = false;                    ///< a Key_Down of a key that was down before

@@ -15,8 +15,8 @@ struct Menu_Item {
     int id = 0; ///< 1 or more
     std::string text;
     Menu_Image image = Menu_Image::None;
-    bool enabled = true; ///< else greyed, and not to be chosen
-    bool apart = false;  ///< a line stands between it and the item before
+    bool enabled = true;           ///< else greyed, and not to be chosen
+    bool separator_before = false; ///< a line stands between it and the item before
 };
 
 /// Shows the items as a popup menu centred on the mouse and returns the id of the chosen one, 0 when it was

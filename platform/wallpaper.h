@@ -16,10 +16,10 @@ void Set_Wallpaper(const std::string &path, const std::string &monitors = {});
 std::string Wallpaper_Of_Monitors();
 
 /// The path itself, or that of a copy, if it is a file that the system writes over with the next wallpaper.
-std::string Lasting_Wallpaper(const std::string &path);
+std::string Persistent_Wallpaper(const std::string &path);
 
 /// Waits until the last wallpaper hangs and the registry names it, so that the program may end or look there.
 /// Gives up after five seconds and returns false: a hung window of another program can hold it for so long.
-bool Finish_Wallpaper();
+bool Wait_For_Wallpaper();
 
 } // namespace platform

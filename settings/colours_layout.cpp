@@ -94,13 +94,13 @@ void Colours_Page::Lay_Out_Preview() {
     Preview_Fra.Move({0, top, page_width, group_top + height + 2 * backdrop + group_bottom});
 
     // Title, today's box and a thin one stand as in the calendar, and the square one at the right edge.
-    const Rect origin = thin.Previous();
+    const Rect origin = thin.Previous_Arrow();
     const int first_left = margin + backdrop;
     const int first_top = group_top + backdrop;
-    Preview_Prev_Lbl.Move(Moved(origin, origin, first_left, first_top));
+    Preview_Prev_Lbl.Move(Translate_Rect(origin, origin, first_left, first_top));
     Rect month = thin.Month();
     month.width = thin.Box(1).Right() - month.left;
-    Preview_Month_Lbl.Move(Moved(month, origin, first_left, first_top));
+    Preview_Month_Lbl.Move(Translate_Rect(month, origin, first_left, first_top));
     const int boxes_top = first_top + Pixels_To_Twips(origin.Bottom() + thin.Gap());
     const int second_left = first_left + Pixels_To_Twips(thin.Box(1).left);
     const int third_left = margin + inner_width - backdrop - Pixels_To_Twips(square.Box(0).width);
@@ -109,7 +109,7 @@ void Colours_Page::Lay_Out_Preview() {
     Place_Example(thin, Preview_Style0_Lbl, Preview_Caption0_Lbl, second_left, boxes_top);
     Place_Example(square, Preview_Style1_Lbl, Preview_Caption1_Lbl, third_left, first_top);
     for (Label *heading : {&Preview_Prev_Lbl, &Preview_Month_Lbl}) {
-        Dress_Heading(*heading, Box_Layout::title_font);
+        Style_Heading(*heading, Box_Layout::title_font);
         heading->Set_Transparent(false);
     }
 }

@@ -58,7 +58,7 @@ std::string Parts_Text(Colour colour, const char *red, const char *green, const 
 }
 
 /// As it is read aloud.
-std::string Spoken(Colour colour) {
+std::string Spoken_Colour(Colour colour) {
     return Parts_Text(platform::Resolve_Colour(colour), "red ", ", green ", ", blue ");
 }
 
@@ -87,7 +87,7 @@ Colours_Page::Colours_Page(Frame &frame, Main_Frm &calendar)
         txCol_Lbl[i].Set_Caption(shown_as[static_cast<std::size_t>(i)]);
         txCol[i].Set_Display_Only();
     }
-    Dress_Preview();
+    Style_Preview_Labels();
     Lay_Out();
     Move_Cross(cross_);
 }
@@ -141,7 +141,7 @@ void Colours_Page::Show(const Settings &settings) {
     Select(selector_);
 }
 
-void Colours_Page::Put(Settings &settings) const {
+void Colours_Page::Write_To(Settings &settings) const {
     for (const Swatch &swatch : swatches_)
         settings.*swatch.setting = swatch.picture->Back_Colour();
     settings.Menu_Col_Sorce = Col_Sys_Opt.Checked() ? 0 : 1;
@@ -179,7 +179,7 @@ void Colours_Page::Describe_Swatches() {
         swatch.picture->Set_Access(
             {platform::Access_Role::Choice,
              i == selector_,
-             swatch.label->Caption() + " colour, " + Spoken(swatch.picture->Back_Colour()),
+             swatch.label->Caption() + " colour, " + Spoken_Colour(swatch.picture->Back_Colour()),
              {},
              "Select"});
     }
@@ -217,7 +217,7 @@ Colour Colours_Page::Cross_Colour() const {
 
 void Colours_Page::Move_Cross(Point pixel) {
     cross_ = {std::clamp(pixel.x, 0, palette_.width - 1), std::clamp(pixel.y, 0, palette_.height - 1)};
-    Pal.Set_Access({platform::Access_Role::Button, false, "Palette", Spoken(Cross_Colour()), "Pick"});
+    Pal.Set_Access({platform::Access_Role::Button, false, "Palette", Spoken_Colour(Cross_Colour()), "Pick"});
     Pal.Repaint();
 }
 
@@ -291,7 +291,7 @@ void Colours_Page::Default_Cols_Btn_Click() {
     Recolour_Preview();
 }
 
-void Colours_Page::Dress_Preview() {
+void Colours_Page::Style_Preview_Labels() {
     for (Label *label :
          {&Preview_Prev_Lbl, &Preview_Month_Lbl, &Preview_Today_Lbl, &Preview_Caption_Today_Lbl,
           &Preview_Style0_Lbl, &Preview_Caption0_Lbl, &Preview_Style1_Lbl, &Preview_Caption1_Lbl})
@@ -307,7 +307,7 @@ void Colours_Page::Recolour_Preview() {
     const Colour num = Col_Num_Pic.Back_Colour();
     const Colour normal = Col_Normal_Pic.Back_Colour();
     const Colour today = Col_Today_Pic.Back_Colour();
-    Dress_Today(Preview_Today_Lbl, today);
+    Style_Today(Preview_Today_Lbl, today);
     Preview_Style0_Lbl.Set_Back_Colour(normal);
     Preview_Style1_Lbl.Set_Back_Colour(normal);
     for (Label *box : {&Preview_Today_Lbl, &Preview_Style0_Lbl, &Preview_Style1_Lbl})

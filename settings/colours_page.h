@@ -16,7 +16,7 @@ public:
 
     Colours_Page(Frame &frame, Main_Frm &calendar);
     void Show(const Settings &settings) override;
-    void Put(Settings &settings) const override;
+    void Write_To(Settings &settings) const override;
     void Lay_Out() override;
 
     /// Takes the mark from all six labels.
@@ -83,7 +83,7 @@ private:
     void Paint_Palette(platform::Canvas &canvas);
     void Paint_Gradient(platform::Canvas &canvas);
     void Wire_Palette();
-    void Dress_Preview();
+    void Style_Preview_Labels();
     void Select(int index);
     void Set_Swatch(int index, Colour colour);
     void Describe_Swatches();

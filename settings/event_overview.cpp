@@ -5,13 +5,13 @@
 
 #include <algorithm>
 
-std::string Overview_Line(const Sort_Entry &entry) {
+std::string Overview_Line(const Event &entry) {
     std::string line = Without_Line_Breaks(Line_Head(entry) + entry.text);
     const auto control = [](char c) { return static_cast<unsigned char>(c) < ' '; };
     std::replace_if(line.begin(), line.end(), control, ' ');
     return line;
 }
 
-std::string Countdown_Text(const Sort_Entry &entry, const Date &today) {
+std::string Countdown_Text(const Event &entry, const Date &today) {
     return std::to_string(entry.number - Day_Number(today)) + " days";
 }

@@ -16,8 +16,8 @@ namespace {
 
 /// A list or counts that are not whole must not look so. There is no message box for it: every choice on the
 /// page reads the file, and each would bring another one.
-void Title_Frame(Frame &frame, Reading reading) {
-    frame.Set_Caption(reading == Reading::Incomplete ? "Error loading in data file." : "Events");
+void Title_Frame(Frame &frame, Read_Result result) {
+    frame.Set_Caption(result == Read_Result::Incomplete ? "Error loading in data file." : "Events");
 }
 
 /// Places a label in one of several columns, by its number.
@@ -32,7 +32,7 @@ void Place(Label &label, int index, int columns) {
 Events_Page::Events_Page(Frame &frame, Main_Frm &calendar) : Page(frame), calendar_(calendar) {
     Sort_Cbo.Set_Items({"Ascending Date", "Descending Date", "Date Added"});
     Sort_Cbo.Select(0);
-    Name_Aloud(Events_Lst, "Events");
+    Set_Access_Name(Events_Lst, "Events");
     Write_Labels();
     Overview_Opt.Set_Checked(true);
     Show_View(true);
@@ -66,13 +66,13 @@ void Events_Page::Reset_Vars() {
     statistics_ = {};
 }
 
-Reading Events_Page::Load_Dates() {
+Read_Result Events_Page::Load_Dates() {
     const Date today = Today();
-    const Reading reading =
+    const Read_Result result =
         Read_Entries([&](const Event_Entry &entry) { Workout_Stats(statistics_, entry, today); });
-    if (reading != Reading::No_File)
+    if (result != Read_Result::No_File)
         Write_Labels();
-    return reading;
+    return result;
 }
 
 void Events_Page::Write_Labels() {
@@ -95,17 +95,17 @@ void Events_Page::Reload() {
     Get_Stats();
 }
 
-void Events_Page::Follow_File() {
-    if (staged_)
+void Events_Page::Refresh_From_File() {
+    if (showing_imported_)
         Get_Stats();
     else
         Reload();
 }
 
-void Events_Page::Show_Imported(std::vector<Sort_Entry> staged) {
+void Events_Page::Show_Imported(std::vector<Event> staged) {
     Dates_Lst = std::move(staged);
-    staged_ = true;
-    Sort_List(Reading::Complete);
+    showing_imported_ = true;
+    Sort_List(Read_Result::Complete);
     Get_Stats();
 }
 
@@ -129,23 +129,23 @@ void Events_Page::Sort_Cbo_Click() {
 }
 
 void Events_Page::List_Events() {
-    staged_ = false;
+    showing_imported_ = false;
     Sort_List(Loadin_Data());
 }
 
-Reading Events_Page::Loadin_Data() {
+Read_Result Events_Page::Loadin_Data() {
     const auto order = static_cast<Sort_Order>(std::max(Sort_Cbo.Selected(), 0));
     return Load_Entries(Dates_Lst, order, Today());
 }
 
-void Events_Page::Sort_List(Reading reading) {
-    Title_Frame(Overview_Fra, reading);
-    const bool none = Dates_Lst.empty() && !staged_ && reading != Reading::Incomplete;
+void Events_Page::Sort_List(Read_Result result) {
+    Title_Frame(Overview_Fra, result);
+    const bool none = Dates_Lst.empty() && !showing_imported_ && result != Read_Result::Incomplete;
     Events_Lst_Lbl.Set_Caption(none ? "No &events yet: double-click a day of the calendar."
                                     : "&Events (double-click or Delete removes one):");
     std::vector<std::string> lines;
     lines.reserve(Dates_Lst.size());
-    for (const Sort_Entry &entry : Dates_Lst)
+    for (const Event &entry : Dates_Lst)
         lines.push_back(Overview_Line(entry));
     Events_Lst.Set_Items(std::move(lines));
     Events_Lst_Click();
@@ -190,20 +190,20 @@ void Events_Page::Events_Lst_DblClick() {
 /// it is still in both, which the user has been told.
 bool Events_Page::Remove_Event(std::size_t line) {
     Event_Store &events = calendar_.Events;
-    const Undo_Log::Change change(events.Changes, Change_Of_Day("Remove", Dates_Lst[line].date));
+    const Undo_Log::Change change(events.Changes, Change_Name("Remove", Dates_Lst[line].date));
     if (!events.Load_File())
         return false;
-    std::vector<Sort_Entry> rest = Dates_Lst;
+    std::vector<Event> rest = Dates_Lst;
     // Without a file Temp_Lst is not what is stored.
-    const bool there =
-        platform::File_Exists(Event_Store::Data_File()) &&
-        (staged_ ? Unmerge(events.Temp_Lst, rest, line) : Remove_Record(events.Temp_Lst, rest[line]));
+    const bool there = platform::File_Exists(Event_Store::Data_File()) &&
+                       (showing_imported_ ? Unmerge(events.Temp_Lst, rest, line)
+                                          : Remove_Record(events.Temp_Lst, rest[line]));
     if (!there)
         platform::Message_Box("This event is no longer in the data file.", "Vellatro",
                               platform::Box_Icon::Exclamation);
     else if (!events.Write_ALL())
         return false;
-    if (staged_) {
+    if (showing_imported_) {
         Dates_Lst = std::move(rest);
         Events_Lst.Remove_Item(static_cast<int>(line));
         Get_Stats();

@@ -26,11 +26,11 @@ public:
     void Reload();
 
     /// The same after a change from elsewhere, which leaves the list of imported events.
-    void Follow_File();
+    void Refresh_From_File();
 
     /// Lists these events, in their order, instead of what is listed. The next choice on the page lists the
     /// data file's again.
-    void Show_Imported(std::vector<Sort_Entry> staged);
+    void Show_Imported(std::vector<Event> staged);
 
     void Overview_Opt_Click();
     void Stats_Opt_Click();
@@ -40,7 +40,7 @@ public:
     void Events_Lst_DblClick();
 
     /// The events in the order of the lines of Events_Lst.
-    std::vector<Sort_Entry> Dates_Lst;
+    std::vector<Event> Dates_Lst;
 
     Option_Button Overview_Opt{frame_, "Overview_Opt", "Events &Overview"};
     Option_Button Stats_Opt{frame_, "Stats_Opt", "General &Statstics"};
@@ -66,15 +66,15 @@ private:
     void Wire_Events();
     void Show_View(bool overview);
     void Reset_Vars();
-    Reading Load_Dates();
+    Read_Result Load_Dates();
     void Write_Labels();
-    Reading Loadin_Data();
-    void Sort_List(Reading reading);
+    Read_Result Loadin_Data();
+    void Sort_List(Read_Result result);
     void List_Events();
     void Events_Lst_KeyDown(const platform::Input_Event &event);
     bool Remove_Event(std::size_t line);
 
     Main_Frm &calendar_;
     Event_Statistics statistics_;
-    bool staged_ = false; ///< the list shows what was imported, and not the data file
+    bool showing_imported_ = false; ///< the list shows what was imported, and not the data file
 };

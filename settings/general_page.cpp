@@ -57,7 +57,7 @@ void General_Page::Show_Preview() {
         Title_Of_Today(Bar_Time_Chk.Checked(), Bar_Time_Cbo.Text(), Bar_Date_Cbo.Text(), platform::Now()));
 }
 
-void General_Page::Set_Watched(bool watched) {
+void General_Page::Set_Page_Visible(bool watched) {
     preview_timer_.Set_Enabled(watched);
     Show_Preview();
 }

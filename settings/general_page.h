@@ -16,7 +16,7 @@ public:
     /// Shows the title as it would be now.
     void Show_Preview();
     /// Whether the page can be seen: only then the preview goes with the time.
-    void Set_Watched(bool watched);
+    void Set_Page_Visible(bool watched);
 
     Frame Title_Bar_Fra{frame_, "Title_Bar_Fra", "Title Bar"};
     Check_Box Bar_Time_Chk{Title_Bar_Fra, "Bar_Time_Chk", "&Time:"};

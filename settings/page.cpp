@@ -8,23 +8,23 @@
 
 namespace {
 
-void Show_In(Control &control, const std::string &text) {
+void Show_Value(Control &control, const std::string &text) {
     static_cast<Combo_Box &>(control).Set_Text(text);
 }
 
-void Show_In(Control &control, int number) {
+void Show_Value(Control &control, int number) {
     if (control.State().kind == platform::Control_Kind::Combo_Box)
         static_cast<Combo_Box &>(control).Select(number);
     else
         static_cast<Check_Box &>(control).Set_Checked(number != 0);
 }
 
-void Take_From(const platform::Control_State &control, std::string &text) {
+void Read_Value(const platform::Control_State &control, std::string &text) {
     text = control.caption;
 }
 
 template <typename Number>
-void Take_From(const platform::Control_State &control, Number &number) {
+void Read_Value(const platform::Control_State &control, Number &number) {
     if (control.kind != platform::Control_Kind::Combo_Box)
         number = control.checked;
     else if (control.selected != -1)
@@ -35,31 +35,31 @@ void Take_From(const platform::Control_State &control, Number &number) {
 
 void Page::Show(const Settings &settings) {
     for (const Choice &choice : choices_)
-        std::visit([&](auto member) { Show_In(*choice.control, settings.*member); }, choice.setting);
+        std::visit([&](auto member) { Show_Value(*choice.control, settings.*member); }, choice.setting);
 }
 
-void Page::Put(Settings &settings) const {
+void Page::Write_To(Settings &settings) const {
     for (const Choice &choice : choices_)
-        std::visit([&](auto member) { Take_From(choice.control->State(), settings.*member); },
+        std::visit([&](auto member) { Read_Value(choice.control->State(), settings.*member); },
                    choice.setting);
 }
 
-void Name_Aloud(Control &control, const char *name) {
+void Set_Access_Name(Control &control, const char *name) {
     platform::Access_State access;
     access.name = name;
     control.Set_Access(std::move(access));
 }
 
-Rect Moved(Rect pixels, const Rect &from, int left, int top) {
+Rect Translate_Rect(Rect pixels, const Rect &from, int left, int top) {
     pixels.left += Twips_To_Pixels(left) - from.left;
     pixels.top += Twips_To_Pixels(top) - from.top;
     return Pixels_To_Twips(pixels);
 }
 
 void Place_Example(const Box_Layout &style, Label &number, Label &text, int left, int top) {
-    number.Move(Moved(style.Box(0), style.Box(0), left, top));
-    text.Move(Moved(style.Text(0), style.Box(0), left, top));
-    Dress_Number(number);
-    Dress_Text(text);
+    number.Move(Translate_Rect(style.Box(0), style.Box(0), left, top));
+    text.Move(Translate_Rect(style.Text(0), style.Box(0), left, top));
+    Style_Number(number);
+    Style_Text(text);
     text.Set_Transparent(false);
 }

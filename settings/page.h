@@ -38,7 +38,7 @@ public:
     /// Shows the settings.
     virtual void Show(const Settings &settings);
     /// Puts what is chosen into the settings. What is no choice leaves its setting as it is.
-    virtual void Put(Settings &settings) const;
+    virtual void Write_To(Settings &settings) const;
     /// Places the controls, also after a change of the dots per inch.
     virtual void Lay_Out() = 0;
 
@@ -67,11 +67,11 @@ inline Rows Group_Rows() {
 }
 
 /// Gives a control without a caption the name that is read aloud.
-void Name_Aloud(Control &control, const char *name);
+void Set_Access_Name(Control &control, const char *name);
 
 /// A rectangle of the calendar's layout in twips, moved as `from` (pixels) must be for its left top corner to
 /// be at `left` and `top` (twips).
-Rect Moved(Rect pixels, const Rect &from, int left, int top);
+Rect Translate_Rect(Rect pixels, const Rect &from, int left, int top);
 
 /// Gives a box and the text in it their look, and their places with the box at `left` and `top`.
 void Place_Example(const Box_Layout &style, Label &number, Label &text, int left, int top);

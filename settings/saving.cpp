@@ -93,6 +93,6 @@ void Settings_Frm::Save_Bar_Settings(const Settings &shown) {
 Settings Settings_Frm::Shown_Configuration() const {
     Settings shown = Cur_Settings;
     for (const Page *page : pages_)
-        page->Put(shown);
+        page->Write_To(shown);
     return shown;
 }

@@ -44,7 +44,7 @@ Size Screen_Miniature::Fit(Size room) const {
 void Screen_Miniature::Place_Calendar(std::int16_t style, std::int16_t position) {
     style_ = style;
     const Box_Layout layout(style);
-    const Rect whole = Pixels_To_Twips(Rect{0, 0, layout.Whole().width, layout.Whole().height});
+    const Rect whole = Pixels_To_Twips(Rect{0, 0, layout.Full_Size().width, layout.Full_Size().height});
     const int lowest = first_box_ <= sixth_row && sixth_row <= last_box_ ? sixth_row : fifth_row;
     Placement placement;
     placement.work_area = GetDesktopRect(true);
@@ -56,7 +56,7 @@ void Screen_Miniature::Place_Calendar(std::int16_t style, std::int16_t position)
                                      place ? place->y : main_frm_->Top(), whole.width, whole.height});
 }
 
-Rect Screen_Miniature::Small(const Rect &pixels, Size size) const {
+Rect Screen_Miniature::Scaled_Rect(const Rect &pixels, Size size) const {
     const auto across = [&](int x) { return static_cast<int>(std::int64_t{x} * size.width / screen_.width); };
     const auto down = [&](int y) { return static_cast<int>(std::int64_t{y} * size.height / screen_.height); };
     const int left = across(pixels.left);
@@ -65,7 +65,7 @@ Rect Screen_Miniature::Small(const Rect &pixels, Size size) const {
 }
 
 Point Screen_Miniature::Mark(std::int16_t place, Size size) const {
-    const Rect work = Small(work_area_, size);
+    const Rect work = Scaled_Rect(work_area_, size);
     // The outer ones stand as far from the edges as half of the way to the middle ones.
     const auto along = [](int length, int hundredths) { return length * (hundredths + 25) / 150; };
     return {work.left + along(work.width, Positions[place].left),
@@ -103,7 +103,7 @@ void Screen_Miniature::Paint(Canvas &canvas, const Picture &wallpaper, Size size
 
 /// What is not work area, at whichever edge.
 void Screen_Miniature::Paint_Task_Bar(Canvas &canvas, Size size) const {
-    const Rect work = Small(work_area_, size);
+    const Rect work = Scaled_Rect(work_area_, size);
     for (const Rect &bar :
          {Rect{0, 0, size.width, work.top}, Rect{0, work.Bottom(), size.width, size.height - work.Bottom()},
           Rect{0, work.top, work.left, work.height},
@@ -120,11 +120,11 @@ void Screen_Miniature::Paint_Calendar(Canvas &canvas, Size size) const {
     const auto place = [&](Rect pixels) {
         pixels.left += calendar_.left;
         pixels.top += calendar_.top;
-        return Small(pixels, size);
+        return Scaled_Rect(pixels, size);
     };
     // Title and headers are one bar, as the gap between them is less than a pixel.
     const Rect headers = layout.Header(0);
-    platform::Fill_Rect(canvas, place({0, 0, layout.Whole().width, headers.Bottom()}),
+    platform::Fill_Rect(canvas, place({0, 0, layout.Full_Size().width, headers.Bottom()}),
                         main_frm_->Back_Colour());
     // The gaps between boxes would be seen in some places and not in others: a line of its own parts them.
     for (int i = first_box_; i <= last_box_; ++i) {

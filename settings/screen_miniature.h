@@ -35,7 +35,7 @@ public:
     void Paint(platform::Canvas &canvas, const Picture &wallpaper, Size size) const;
 
 private:
-    Rect Small(const Rect &pixels, Size size) const;
+    Rect Scaled_Rect(const Rect &pixels, Size size) const;
     void Paint_Task_Bar(platform::Canvas &canvas, Size size) const;
     void Paint_Calendar(platform::Canvas &canvas, Size size) const;
 

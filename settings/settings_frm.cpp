@@ -43,12 +43,12 @@ Settings_Frm::Settings_Frm(Main_Frm &calendar)
     };
     Apply_Btn.On_Click = [this] { Apply_Btn_Click(); };
     Transfer.Shown_Configuration = [this] { return Shown_Configuration(); };
-    Transfer.Import.Show_Staged = [this](std::vector<Sort_Entry> staged) {
+    Transfer.Import.Show_Staged_Events = [this](std::vector<Event> staged) {
         Events.Show_Imported(std::move(staged));
     };
-    Transfer.Import.Data_File_Replaced = [this] { Events.Reload(); };
-    Transfer.Import.Configuration_Changed = [this] { Form_Unload(); };
-    Transfer.Import.Configuration_Partly_Changed = [this] { Load_Pages(); };
+    Transfer.Import.On_Data_File_Replaced = [this] { Events.Reload(); };
+    Transfer.Import.On_Configuration_Changed = [this] { Form_Unload(); };
+    Transfer.Import.On_Configuration_Partly_Changed = [this] { Load_Pages(); };
     On_Close = [this] { Form_Unload(); };
     On_Window_Lost = [this] { Form_Unload(); };
     // The pages measure their texts, which are a little wider or narrower then.
@@ -145,8 +145,8 @@ void Settings_Frm::TabStrip1_Click() {
     const int page = Which_Tab() - 1;
     Settings_Fra[page].Set_Visible(true);
     // Apply may have changed the calendar's colours, and midnight the day.
-    Tooltips.Dress_Examples();
-    General.Set_Watched(page == general_fra);
+    Tooltips.Style_Examples();
+    General.Set_Page_Visible(page == general_fra);
 }
 
 void Settings_Frm::Ok_Btn_Click() {
@@ -176,7 +176,7 @@ void Settings_Frm::Form_Unload() {
         return;
     Wallpaper.End_Preview();
     Tooltips.Release();
-    General.Set_Watched(false);
+    General.Set_Page_Visible(false);
     Block_Others(nullptr);
     Cur_Settings.Settings_Tab = Which_Tab();
     Store_Setting(&Settings::Settings_Tab);

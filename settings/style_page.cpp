@@ -72,7 +72,7 @@ void Style_Page::Show(const Settings &settings) {
     Show_Position();
 }
 
-void Style_Page::Put(Settings &settings) const {
+void Style_Page::Write_To(Settings &settings) const {
     settings.Style = Chosen_Style();
     settings.Alignment = Chosen_Position();
 }

@@ -25,7 +25,7 @@ public:
     Style_Page(Frame &frame, Main_Frm &calendar);
     /// A position that is no code is shown as the first one.
     void Show(const Settings &settings) override;
-    void Put(Settings &settings) const override;
+    void Write_To(Settings &settings) const override;
     void Lay_Out() override;
 
     /// Shows what a theme pack decides, and locks the choices that it rules.

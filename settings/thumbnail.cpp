@@ -17,9 +17,9 @@ Picture Thumbnail(const Picture &picture, int most_width, int most_height) {
     auto pixels = std::make_shared<std::vector<std::uint8_t>>();
     pixels->reserve(static_cast<std::size_t>(small.width) * static_cast<std::size_t>(small.height) * 3);
     for (int y = 0; y < small.height; ++y) {
-        const Span rows = Source_Of(y, small.height, picture.height);
+        const Span rows = Source_Span(y, small.height, picture.height);
         for (int x = 0; x < small.width; ++x) {
-            const std::uint32_t mean = Mean_Colour(picture, Source_Of(x, small.width, picture.width), rows);
+            const std::uint32_t mean = Mean_Colour(picture, Source_Span(x, small.width, picture.width), rows);
             for (const unsigned shift : {0U, 8U, 16U})
                 pixels->push_back(static_cast<std::uint8_t>(mean >> shift));
         }

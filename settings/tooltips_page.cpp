@@ -51,14 +51,14 @@ Tooltips_Page::Tooltips_Page(Frame &frame, Held_Balloon &balloon) : Page(frame),
     TipExample_Lbl.Set_Transparent(true);
     TipExample_Lbl.Set_Align(platform::Text_Align::Centre, true);
     TipBoxExample_Lbl.Set_Padding(small_gap);
-    Dress_Examples();
+    Style_Examples();
     Lay_Out();
 }
 
-void Tooltips_Page::Dress_Examples() {
+void Tooltips_Page::Style_Examples() {
     TipBoxExample_Lbl.Set_Caption(std::to_string(Today().day));
     TipBoxExample_Lbl.Set_Fore_Colour(Cur_Settings.Col_Num);
-    Dress_Today(TipBoxExample_Lbl, Cur_Settings.Col_Today);
+    Style_Today(TipBoxExample_Lbl, Cur_Settings.Col_Today);
 }
 
 void Tooltips_Page::Show(const Settings &settings) {
@@ -67,7 +67,7 @@ void Tooltips_Page::Show(const Settings &settings) {
     Tips_Opt_Click(index);
 }
 
-void Tooltips_Page::Put(Settings &settings) const {
+void Tooltips_Page::Write_To(Settings &settings) const {
     settings.Tooltips = 0;
     for (std::int16_t i = 0; i <= balloons; ++i)
         if (Tips_Opt[i].Checked())

@@ -10,11 +10,11 @@ public:
     Tooltips_Page(Frame &frame, Held_Balloon &balloon);
     /// Selects the kind: 0 none, 1 standard, 2 balloons. Another number is the standard kind.
     void Show(const Settings &settings) override;
-    void Put(Settings &settings) const override;
+    void Write_To(Settings &settings) const override;
     void Lay_Out() override;
 
     /// Shows today's box among the examples as the calendar draws it now.
-    void Dress_Examples();
+    void Style_Examples();
     /// The button is not held any more, by whatever way: an example balloon goes, or does not come.
     void Release() { balloon_.Hide(); }
 

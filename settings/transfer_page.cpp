@@ -45,7 +45,7 @@ Transfer_Page::Transfer_Page(Frame &frame, Main_Frm &calendar) : Page(frame), Im
     Export_ICalendar_Btn.On_Click = [this] { Export(Export_Kind::ICalendar); };
     Import_ICalendar_Btn.On_Click = [this] { Import.Import_ICalendar(); };
     Import.Show_Hourglass = [this] { dialog_.Set_Pointer(platform::Pointer_Shape::Hourglass); };
-    for (Progress *progress : {&Import.Work, &progress_}) {
+    for (Progress *progress : {&Import.Import_Progress, &progress_}) {
         progress->On_Show = [this](int percent) { Show_Progress(percent); };
         progress->On_End = [this] { End_Progress(); };
     }

@@ -33,7 +33,7 @@ std::string Picture_File(const std::string &pack, int month) {
 }
 
 /// A number's name, with a blank before it; only that for a text that is no number.
-std::string Named(const char *(*name)(std::int16_t), const std::string &number) {
+std::string Display_Name(const char *(*name)(std::int16_t), const std::string &number) {
     return std::string(" ") + name(Int16_Of(number).value_or(-1));
 }
 
@@ -48,8 +48,8 @@ Wallpaper_Page::Wallpaper_Page(Frame &frame, Main_Frm &calendar, Style_Page &sty
                 {&Display_Cbo, &Settings::Other_Display_Mode}};
     Display_Cbo.Set_Items({Display_Mode_Name(0), Display_Mode_Name(1), Display_Mode_Name(2)});
     Theme_Preview_Img.Set_Frame_Colour(shadow_colour);
-    Name_Aloud(Theme_Preview_Img, "Wallpaper of the month");
-    Name_Aloud(Preview_Sli, "Month");
+    Set_Access_Name(Theme_Preview_Img, "Wallpaper of the month");
+    Set_Access_Name(Preview_Sli, "Month");
     Loading_Lbl.Set_Visible(false);
     Preview_Lbl.Set_Visible(false);
     Lay_Out();
@@ -113,8 +113,8 @@ void Wallpaper_Page::Show(const Settings &settings) {
     Get_Wallpaper();
 }
 
-void Wallpaper_Page::Put(Settings &settings) const {
-    Page::Put(settings);
+void Wallpaper_Page::Write_To(Settings &settings) const {
+    Page::Write_To(settings);
     // None is selected where the pack of the settings is missing: it may come back.
     if (!Packs_Cbo.Text().empty())
         settings.Pack_Name = Packs_Cbo.Text();
@@ -127,7 +127,7 @@ void Wallpaper_Page::Get_Papers() {
 void Wallpaper_Page::Get_Themes() {
     Theme_Use_Chk.Set_Checked(Cur_Settings.Use_Themes != 0);
     Enable_Choices(Theme_Use_Chk.Checked());
-    Hand_Over_Look();
+    Update_Style_Page();
     Other_Display_Chk_Click();
 }
 
@@ -197,7 +197,7 @@ void Wallpaper_Page::Preview_Sli_Change() {
     const std::string pack = Packs_Cbo.Text();
     if (pack.empty()) {
         Clear_Details();
-        return Hand_Over_Look();
+        return Update_Style_Page();
     }
     // Once for all three: a pack that was deleted meanwhile is told once.
     details_ = Main_Frm::Get_Paper_Details(Month(), pack);
@@ -209,20 +209,21 @@ void Wallpaper_Page::Preview_Sli_Change() {
     Get_Theme_Display();
     Get_Theme_Style();
     Get_Theme_Pos();
-    Hand_Over_Look();
+    Update_Style_Page();
 }
 
 void Wallpaper_Page::Get_Theme_Display() {
-    Theme_Display_Lbl.Set_Caption("Display:" + Named(Display_Mode_Name, Get_Paper_DisplayMode(details_)));
+    Theme_Display_Lbl.Set_Caption("Display:" +
+                                  Display_Name(Display_Mode_Name, Get_Paper_DisplayMode(details_)));
 }
 
 void Wallpaper_Page::Get_Theme_Style() {
-    Theme_Style_Lbl.Set_Caption("Box Style:" + Named(Box_Style_Name, Get_Paper_BoxStyle(details_)));
+    Theme_Style_Lbl.Set_Caption("Box Style:" + Display_Name(Box_Style_Name, Get_Paper_BoxStyle(details_)));
 }
 
 void Wallpaper_Page::Get_Theme_Pos() {
     const auto name = [](std::int16_t code) { return Is_Place(code) ? Positions[code].name : ""; };
-    Theme_Pos_Lbl.Set_Caption("Position:" + Named(name, Get_Paper_Pos(details_)));
+    Theme_Pos_Lbl.Set_Caption("Position:" + Display_Name(name, Get_Paper_Pos(details_)));
 }
 
 /// After the user was told that the pack cannot be read. Its entry goes, if it is not there any more.
@@ -261,8 +262,9 @@ void Wallpaper_Page::Show_Picture() {
     Loading_Lbl.Set_Visible(shown_.pending);
     Theme_Preview_Img.Set_Picture(shown_.picture);
     Theme_Preview_Img.Repaint();
-    Name_Aloud(Theme_Preview_Img, shown_.failure.empty() ? "Wallpaper of the month" : shown_.failure.c_str());
-    Hand_Over_Look();
+    Set_Access_Name(Theme_Preview_Img,
+                    shown_.failure.empty() ? "Wallpaper of the month" : shown_.failure.c_str());
+    Update_Style_Page();
 }
 
 void Wallpaper_Page::Paint_Failure(platform::Canvas &canvas) const {
@@ -296,7 +298,7 @@ void Wallpaper_Page::Load(Month_Picture &wanted) const {
         std::string reason = error.what();
         if (const std::string folder = platform::Program_Folder() + "\\"; reason.starts_with(folder))
             reason.erase(0, folder.size());
-        wanted.failure = Joined({Not_Shown(Month()), "\n", reason});
+        wanted.failure = Joined({Picture_Error_Text(Month()), "\n", reason});
     }
 }
 
@@ -313,7 +315,7 @@ void Wallpaper_Page::Load_Pictures() {
 
 // Both boxes are ticked in the settings of a first run. While no theme is in use nothing replaces the user's
 // own style and position, so their choice is free.
-Theme_Look Wallpaper_Page::Look() const {
+Theme_Look Wallpaper_Page::Current_Look() const {
     Theme_Look look;
     if (!Theme_Use_Chk.Checked())
         return look;
@@ -329,8 +331,8 @@ Theme_Look Wallpaper_Page::Look() const {
     return look;
 }
 
-void Wallpaper_Page::Hand_Over_Look() {
-    style_page_.Set_Theme(Look());
+void Wallpaper_Page::Update_Style_Page() {
+    style_page_.Set_Theme(Current_Look());
 }
 
 void Wallpaper_Page::Theme_Use_Chk_Click() {
@@ -350,11 +352,11 @@ void Wallpaper_Page::Theme_Use_Chk_Click() {
 }
 
 void Wallpaper_Page::Theme_Style_Chk_Click() {
-    Hand_Over_Look();
+    Update_Style_Page();
 }
 
 void Wallpaper_Page::Theme_Pos_Chk_Click() {
-    Hand_Over_Look();
+    Update_Style_Page();
 }
 
 void Wallpaper_Page::Other_Display_Chk_Click() {
@@ -370,8 +372,8 @@ void Wallpaper_Page::Preview_Btn_Click() {
     Enable_Choices(false);
     Preview_Lbl.Set_Visible(true);
     Settings shown = Cur_Settings;
-    style_page_.Put(shown);
-    Put(shown);
+    style_page_.Write_To(shown);
+    Write_To(shown);
     preview_.Begin(Packs_Cbo.Text(), shown);
 }
 

@@ -17,7 +17,7 @@ public:
     /// All must outlive the page.
     Wallpaper_Page(Frame &frame, Main_Frm &calendar, Style_Page &style_page);
     void Show(const Settings &settings) override;
-    void Put(Settings &settings) const override;
+    void Write_To(Settings &settings) const override;
     void Lay_Out() override;
 
     // What Show does, in this order.
@@ -32,7 +32,7 @@ public:
     /// Ends a running preview and puts all back. Returns whether one was running.
     bool End_Preview();
     /// What the selected pack makes of the calendar this month, as far as it is to be used.
-    Theme_Look Look() const;
+    Theme_Look Current_Look() const;
 
     void Packs_Cbo_Click();
     /// Refuses a selected pack in which a file is missing: the user is told, and the pack of the settings is
@@ -94,7 +94,7 @@ private:
     void Drop_Pack(const std::string &pack);
     void Preview_Ended(bool pack_failed);
     std::int16_t Month() const { return static_cast<std::int16_t>(Preview_Sli.Value()); }
-    void Hand_Over_Look();
+    void Update_Style_Page();
 
     Style_Page &style_page_;
     std::string details_;        ///< the value text of the selected pack and month

@@ -15,21 +15,21 @@ namespace {
 constexpr std::int16_t last_month = 12;
 /// Deletes the bitmaps that the preview left in the pack, but for the wallpaper `path`, which is made anew if
 /// it is one of them, in whichever letter case it is named.
-void Keep_Only(const std::string &path, const std::string &pack) {
+void Delete_Other_Bitmaps(const std::string &path, const std::string &pack) {
     Delete_Old_Bmps(pack);
     for (std::int16_t month = 1; month <= last_month; ++month)
-        if (Capitals(path) == Capitals(Pack_File(pack, std::to_string(month) + ".bmp")))
+        if (To_Upper(path) == To_Upper(Pack_File(pack, std::to_string(month) + ".bmp")))
             Get_Paper_Path(month, pack);
 }
 
-void Put_Back(User_Wallpaper wallpaper, const std::string &pack) {
+void Restore_Desktop(User_Wallpaper wallpaper, const std::string &pack) {
     // None, if its bitmap went in the preview and cannot be made again.
     Run_Guarded([&] {
         const std::string path = std::exchange(wallpaper.path, std::string());
-        Keep_Only(path, pack);
+        Delete_Other_Bitmaps(path, pack);
         wallpaper.path = path;
     });
-    Hang_Up(wallpaper);
+    Restore_User_Wallpaper(wallpaper);
 }
 
 } // namespace
@@ -47,7 +47,7 @@ void Wallpaper_Preview::Begin(const std::string &pack, const Settings &choices) 
     End();
     before_ = Before{calendar_.Which_Month_Lbl.Caption(), calendar_.Theme_BoxStyle, calendar_.Theme_Pos,
                      Find_User_Wallpaper()};
-    Keep_User_Wallpaper(before_->wallpaper, pack);
+    Save_User_Wallpaper(before_->wallpaper, pack);
     choices_ = choices;
     calendar_.Shown_Settings = &choices_;
     pack_ = pack;
@@ -92,7 +92,7 @@ void Wallpaper_Preview::End() noexcept {
     calendar_.Theme_BoxStyle = before.theme_style;
     calendar_.Theme_Pos = before.theme_position;
     // Each by itself: what fails is told, and keeps nothing else from being put back.
-    Run_Guarded([&] { Put_Back(before.wallpaper, pack_); });
+    Run_Guarded([&] { Restore_Desktop(before.wallpaper, pack_); });
     Run_Guarded([&] {
         if (Cur_Settings.Use_Themes == 1)
             calendar_.Get_Wallpaper_Stuff(Cur_Settings.Pack_Name);
@@ -100,16 +100,16 @@ void Wallpaper_Preview::End() noexcept {
     Run_Guarded([&] { calendar_.Follow(Cur_Settings); });
     Run_Guarded([&] { calendar_.Which_Month_Lbl.Set_Caption(before.caption); });
     // The program may be about to end, and the next preview looks up what hangs now.
-    if (platform::Finish_Wallpaper())
-        Keep_User_Wallpaper({}, {});
+    if (platform::Wait_For_Wallpaper())
+        Save_User_Wallpaper({}, {});
     Run_Guarded([&] { Fire(On_End, bool{pack_failed_}); });
 }
 
-void Wallpaper_Preview::Mend() {
-    const auto [wallpaper, pack] = Kept_User_Wallpaper();
+void Wallpaper_Preview::Recover() {
+    const auto [wallpaper, pack] = Load_User_Wallpaper();
     if (pack.empty())
         return;
     if (Cur_Settings.Use_Themes != 1)
-        Put_Back(wallpaper, pack);
-    Keep_User_Wallpaper({}, {});
+        Restore_Desktop(wallpaper, pack);
+    Save_User_Wallpaper({}, {});
 }

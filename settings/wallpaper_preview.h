@@ -31,7 +31,7 @@ public:
 
     /// Puts the wallpaper back that a preview has left behind which was ended by force, unless themes are in
     /// use.
-    static void Mend();
+    static void Recover();
 
     /// It has ended, and all is put back; `pack_failed`: because the pack could not be read.
     Handler<bool> On_End;

@@ -20,7 +20,7 @@ constexpr std::string_view bitmap_ending = ".bmp";
 
 /// Whether the system takes the name for a device, in every folder and with any ending.
 bool Is_Device(std::string_view name) {
-    std::string base = Capitals(name.substr(0, name.find('.')));
+    std::string base = To_Upper(name.substr(0, name.find('.')));
     base.erase(base.find_last_not_of(' ') + 1);
     if (base.starts_with("COM") || base.starts_with("LPT")) {
         // Small raised digits count too.
@@ -49,17 +49,17 @@ bool Is_Pack_Name(std::string_view name) {
 }
 
 bool Same_Pack(std::string_view a, std::string_view b) {
-    return Capitals(a) == Capitals(b);
+    return To_Upper(a) == To_Upper(b);
 }
 
 std::vector<std::string> Find_Packs() {
     const auto comes_before = [](const std::string &a, const std::string &b) {
-        const int order = Capitals(a).compare(Capitals(b));
+        const int order = To_Upper(a).compare(To_Upper(b));
         return order < 0 || (order == 0 && a < b);
     };
     std::vector<std::string> packs;
     for (const std::string &name :
-         platform::Names_In_Folder(platform::Program_Folder(), platform::Listed::Folders))
+         platform::Names_In_Folder(platform::Program_Folder(), platform::Entry_Kind::Folders))
         if (Is_Pack_Name(name) && platform::File_Exists(Pack_File(name, settings_file)))
             packs.insert(std::upper_bound(packs.begin(), packs.end(), name, comes_before), name);
     return packs;
@@ -123,14 +123,15 @@ std::string Get_Paper_Path(std::int16_t month, const std::string &pack) {
     return path;
 }
 
-std::string Not_Shown(std::int16_t month) {
+std::string Picture_Error_Text(std::int16_t month) {
     return Joined({"The wallpaper of ", platform::Month_Name(month), " cannot be shown."});
 }
 
 void Delete_Old_Bmps(const std::string &pack) {
     if (!Is_Pack_Name(pack))
         return;
-    for (const std::string &name : platform::Names_In_Folder(Pack_Folder(pack), platform::Listed::Files)) {
+    for (const std::string &name :
+         platform::Names_In_Folder(Pack_Folder(pack), platform::Entry_Kind::Files)) {
         if (!name.ends_with(bitmap_ending))
             continue;
         try {

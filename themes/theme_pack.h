@@ -46,7 +46,7 @@ std::string Get_Paper_DisplayMode(std::string_view details);
 std::string Get_Paper_Path(std::int16_t month, const std::string &pack);
 
 /// Says that a month's picture cannot be shown, for a reason that is told behind it.
-std::string Not_Shown(std::int16_t month);
+std::string Picture_Error_Text(std::int16_t month);
 
 /// Deletes the bitmaps of a pack. What cannot be deleted stays.
 void Delete_Old_Bmps(const std::string &pack);

@@ -26,7 +26,7 @@ Control::~Control() {
     form_.Forget(*this);
 }
 
-void Control::Tell(Aspect aspect) {
+void Control::Notify_Mirror(Aspect aspect) {
     if (!form_.created_)
         return;
     // A painted form draws its labels from their state: of one that is not seen there is nothing to redraw.
@@ -49,14 +49,14 @@ void Control::Set_Align(platform::Text_Align align, bool middle) {
         return;
     state_.align = align;
     state_.middle = middle;
-    Tell(Aspect::Look);
+    Notify_Mirror(Aspect::Look);
 }
 
 void Control::Set_Access(platform::Access_State access) {
     Store(state_.access, std::move(access), Aspect::Access);
 }
 
-void Control::Take(const platform::Input_Event &event) {
+void Control::Handle_Event(const platform::Input_Event &event) {
     if (event.kind == platform::Input_Kind::Clicked)
         Fire(On_Click);
 }
@@ -66,17 +66,17 @@ void Label::Set_Painted() {
     state_.paint = [this](platform::Canvas &canvas, const Rect &clip) { Paint_Itself(state_, canvas, clip); };
 }
 
-void Button::Take(const platform::Input_Event &event) {
+void Button::Handle_Event(const platform::Input_Event &event) {
     if (event.key == Key_Escape && On_Escape)
         return Fire(On_Escape);
-    Control::Take(event);
+    Control::Handle_Event(event);
 }
 
-void Check_Box::Take(const platform::Input_Event &event) {
+void Check_Box::Handle_Event(const platform::Input_Event &event) {
     // The native control shows the new state already, so the mirror is not told.
     if (event.kind == platform::Input_Kind::Clicked)
         state_.checked = event.checked;
-    Control::Take(event);
+    Control::Handle_Event(event);
 }
 
 void Text_Box::Set_Text(std::string text) {
@@ -91,7 +91,7 @@ void Text_Box::Set_Display_Only() {
     state_.read_only = true;
 }
 
-void Text_Box::Take(const platform::Input_Event &event) {
+void Text_Box::Handle_Event(const platform::Input_Event &event) {
     if (event.kind != platform::Input_Kind::Text_Changed)
         return;
     std::string text = Without_Line_Breaks(event.text);

@@ -60,7 +60,7 @@ public:
     void Set_Marked(bool marked) { Store(state_.marked, marked, Aspect::Look); }
     /// A hairline inside the edges, for a box that stands on a picture of any colour. A frame and a mark
     /// cover it.
-    void Set_Edged(bool edged) { Store(state_.edged, edged, Aspect::Look); }
+    void Set_Hairline(bool hairline) { Store(state_.hairline, hairline, Aspect::Look); }
     const platform::Font &Font() const { return state_.font; }
     void Set_Font(const platform::Font &font) { Store(state_.font, font, Aspect::Look); }
     void Set_Transparent(bool transparent) { Store(state_.transparent, transparent, Aspect::Look); }
@@ -84,7 +84,7 @@ public:
 
     /// Takes what a native control tells of; the point where the kinds of controls differ. The handler may
     /// end the form: it comes last.
-    virtual void Take(const platform::Input_Event &event);
+    virtual void Handle_Event(const platform::Input_Event &event);
 
 protected:
     using Aspect = platform::Aspect;
@@ -95,10 +95,10 @@ protected:
         if (field == value)
             return false;
         field = std::forward<Value>(value);
-        Tell(aspect);
+        Notify_Mirror(aspect);
         return true;
     }
-    void Tell(Aspect aspect);
+    void Notify_Mirror(Aspect aspect);
 
     platform::Control_State state_;
 
@@ -107,48 +107,48 @@ protected:
 
 /// What all kinds have in common: a container, a name and a caption make one.
 template <platform::Control_Kind Kind, typename Base = Control>
-class Of_Kind : public Base {
+class Control_Of_Kind : public Base {
 public:
-    explicit Of_Kind(Container in, const char *name, const char *caption = "")
+    explicit Control_Of_Kind(Container in, const char *name, const char *caption = "")
         : Base(in, Kind, name, caption) {}
 };
 
 /// A text, or in a painted form a box of colour with a text.
-class Label : public Of_Kind<platform::Control_Kind::Label> {
+class Label : public Control_Of_Kind<platform::Control_Kind::Label> {
 public:
-    using Of_Kind::Of_Kind;
+    using Control_Of_Kind::Control_Of_Kind;
     /// In a dialog: draws itself as a painted form draws its labels, and takes the mouse.
     void Set_Painted();
 };
 
 /// A push button. `On_Click` comes from the mouse, the keyboard, the access key, and Enter or Esc where it
 /// stands for them.
-class Button : public Of_Kind<platform::Control_Kind::Button> {
+class Button : public Control_Of_Kind<platform::Control_Kind::Button> {
 public:
-    using Of_Kind::Of_Kind;
+    using Control_Of_Kind::Control_Of_Kind;
     void Set_Default(bool is_default) { Store(state_.is_default, is_default, Aspect::Look); }
     void Set_Cancel(bool is_cancel) { Store(state_.is_cancel, is_cancel, Aspect::Look); }
     /// Esc, where it stands for the button. Empty: `On_Click` comes then, too.
     Handler<> On_Escape;
 
 private:
-    void Take(const platform::Input_Event &event) override;
+    void Handle_Event(const platform::Input_Event &event) override;
 };
 
-class Check_Box : public Of_Kind<platform::Control_Kind::Check_Box> {
+class Check_Box : public Control_Of_Kind<platform::Control_Kind::Check_Box> {
 public:
-    using Of_Kind::Of_Kind;
+    using Control_Of_Kind::Control_Of_Kind;
     bool Checked() const { return state_.checked; }
     void Set_Checked(bool checked) { Store(state_.checked, checked, Aspect::Checked); }
 
 private:
-    void Take(const platform::Input_Event &event) override;
+    void Handle_Event(const platform::Input_Event &event) override;
 };
 
 /// A text box that holds no line break: a pasted one becomes a blank.
-class Text_Box : public Of_Kind<platform::Control_Kind::Text_Box> {
+class Text_Box : public Control_Of_Kind<platform::Control_Kind::Text_Box> {
 public:
-    using Of_Kind::Of_Kind;
+    using Control_Of_Kind::Control_Of_Kind;
     const std::string &Text() const { return state_.caption; }
     void Set_Text(std::string text);
     /// One line in place of several wrapped ones, to be read and copied only. Before there is a native
@@ -158,5 +158,5 @@ public:
     Handler<> On_Change;
 
 private:
-    void Take(const platform::Input_Event &event) override;
+    void Handle_Event(const platform::Input_Event &event) override;
 };

@@ -49,7 +49,7 @@ void Form::Forget(const Control &control) {
     std::erase(model_.controls, &control.State());
 }
 
-void Form::Tell(Aspect aspect) {
+void Form::Notify_Mirror(Aspect aspect) {
     if (created_)
         platform::Form_Changed(model_, aspect);
 }
@@ -57,7 +57,7 @@ void Form::Tell(Aspect aspect) {
 Point Form::Corner() const {
     // The form's own twips where they are the window's pixels, lest a place drifts by being looked at.
     const std::optional<Point> pixels = created_ ? platform::Window_Corner(model_) : std::nullopt;
-    const Point put = Put_At();
+    const Point put = Requested_Position();
     if (!pixels || *pixels == Point{Twips_To_Pixels(put.x), Twips_To_Pixels(put.y)})
         return put;
     return {Pixels_To_Twips(pixels->x), Pixels_To_Twips(pixels->y)};
@@ -68,14 +68,14 @@ void Form::Move(int left, int top) {
     model_.bounds.left = left;
     model_.bounds.top = top;
     if (!there)
-        Tell(Aspect::Bounds);
+        Notify_Mirror(Aspect::Bounds);
 }
 
-void Form::Put_Back() {
+void Form::Restore_Position() {
     const Point now = Corner();
-    if (now == Put_At() || now == stuck_at_)
+    if (now == Requested_Position() || now == stuck_at_)
         return;
-    Tell(Aspect::Bounds);
+    Notify_Mirror(Aspect::Bounds);
     stuck_at_ = Corner();
 }
 
@@ -84,7 +84,7 @@ void Form::Resize(int width, int height) {
         return;
     model_.bounds.width = width;
     model_.bounds.height = height;
-    Tell(Aspect::Bounds);
+    Notify_Mirror(Aspect::Bounds);
 }
 
 void Form::Make_Window(bool visible) {
@@ -112,7 +112,7 @@ void Form::Show() {
     if (!created_)
         Make_Window(!clip_ && shape_.empty());
     if (!std::exchange(model_.visible, true))
-        Tell(Aspect::Visible);
+        Notify_Mirror(Aspect::Visible);
 }
 
 void Form::Close() {
@@ -126,23 +126,23 @@ void Form::Set_Title(std::string_view title) {
     if (model_.title == title)
         return;
     model_.title = title;
-    Tell(Aspect::Caption);
+    Notify_Mirror(Aspect::Caption);
 }
 
 void Form::Set_Back_Colour(Colour colour) {
     if (std::exchange(model_.back_colour, colour) != colour)
-        Tell(Aspect::Look);
+        Notify_Mirror(Aspect::Look);
 }
 
 void Form::Set_Pointer(platform::Pointer_Shape shape) {
     if (std::exchange(model_.pointer, shape) != shape)
-        Tell(Aspect::Pointer);
+        Notify_Mirror(Aspect::Pointer);
 }
 
 void Form::Set_Focus(const Control &control) {
     // Told even when equal: the user moves the focus between native controls without the form's doing.
     model_.focused = control.State().index;
-    Tell(Aspect::Focus);
+    Notify_Mirror(Aspect::Focus);
 }
 
 void Form::Clip(std::vector<Rect> rects) {
@@ -170,7 +170,7 @@ void Form::Set_Blocked_By(Form *modal) {
     modal_ = modal;
     captured_ = nullptr;
     if (std::exchange(model_.enabled, modal == nullptr) != model_.enabled)
-        Tell(Aspect::Enabled);
+        Notify_Mirror(Aspect::Enabled);
 }
 
 void Form::Bring_To_Front() {
@@ -180,7 +180,7 @@ void Form::Bring_To_Front() {
 bool Form::Blocked(const Input_Event &event) {
     const bool beside_box = platform::Box_Is_Open();
     switch (event.kind) {
-    case Input_Kind::Moved:
+    case Input_Kind::Window_Moved:
     case Input_Kind::Window_Lost:
     case Input_Kind::Focus_Changed:
     case Input_Kind::Capture_Lost:
@@ -243,7 +243,7 @@ void Form::Handle(const Input_Event &event) {
         return Fire(On_Capture_Lost);
     case Input_Kind::Dots_Changed:
         return Fire(On_Dots_Changed);
-    case Input_Kind::Moved:
+    case Input_Kind::Window_Moved:
         model_.bounds.left = event.point.x;
         model_.bounds.top = event.point.y;
         return;
@@ -316,5 +316,5 @@ void Form::Handle_Native(const Input_Event &event) {
         return;
     if (event.kind == Input_Kind::Default_Action)
         return Fire(control->On_Default_Action);
-    control->Take(event);
+    control->Handle_Event(event);
 }

@@ -27,10 +27,10 @@ public:
     int Height() const { return model_.bounds.height; }
     void Move(int left, int top);
     /// Returns where the form itself put its window last.
-    Point Put_At() const { return {model_.bounds.left, model_.bounds.top}; }
+    Point Requested_Position() const { return {model_.bounds.left, model_.bounds.top}; }
     /// Brings a window that others have moved back there. One that does not come is left where it is until it
     /// is moved again.
-    void Put_Back();
+    void Restore_Position();
     void Resize(int width, int height);
 
     bool Visible() const { return model_.visible; }
@@ -46,7 +46,7 @@ public:
     Colour Back_Colour() const { return model_.back_colour; }
     void Set_Back_Colour(Colour colour);
     /// Paints the whole window anew: what it shows changed without a change of its state.
-    void Repaint() { Tell(platform::Aspect::Look); }
+    void Repaint() { Notify_Mirror(platform::Aspect::Look); }
     void Set_Pointer(platform::Pointer_Shape shape);
     void Set_Focus(const Control &control);
     /// Lets another form, which is modal to this one, take all that the user does here: pressing a mouse
@@ -90,7 +90,7 @@ private:
     friend class Control;
     void Register(Control &control, platform::Control_State &state);
     void Forget(const Control &control);
-    void Tell(platform::Aspect aspect);
+    void Notify_Mirror(platform::Aspect aspect);
     Point Corner() const;
     void Make_Window(bool visible);
     void Handle(const platform::Input_Event &event);
@@ -110,6 +110,6 @@ private:
     std::optional<std::vector<Rect>> clip_; ///< nothing: not clipped
     std::vector<Point> shape_;              ///< empty: no polygon
     bool created_ = false;                  ///< there is a native window
-    std::optional<Point> stuck_at_;         ///< where the last Put_Back left the window
+    std::optional<Point> stuck_at_;         ///< where the last Restore_Position left the window
     Form *modal_ = nullptr;                 ///< takes what the user does here
 };

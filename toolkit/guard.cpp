@@ -22,7 +22,7 @@ std::string Failure_Text() {
     return "Something went wrong, and the last action was not completed.";
 }
 
-void Tell(const std::string &text) {
+void Show_Error(const std::string &text) {
     platform::Message_Box(text, "Vellatro", platform::Box_Icon::Stop);
 }
 
@@ -33,7 +33,7 @@ void Run_Guarded(Callback_Ref<void()> action) noexcept {
         action();
     } catch (...) {
         try {
-            Tell(Failure_Text());
+            Show_Error(Failure_Text());
         } catch (...) {
             // Not even the message can be shown; the program goes on all the same.
         }
@@ -43,15 +43,15 @@ void Run_Guarded(Callback_Ref<void()> action) noexcept {
 void Repeated_Guard::Run(Callback_Ref<void()> action) noexcept {
     try {
         action();
-        told_.clear();
+        last_failure_.clear();
     } catch (...) {
         try {
             const std::string text = Failure_Text();
-            if (text == told_)
+            if (text == last_failure_)
                 return;
             // Remembered first: the action may run again while the box is open.
-            told_ = text;
-            Tell(text);
+            last_failure_ = text;
+            Show_Error(text);
         } catch (...) {
         }
     }

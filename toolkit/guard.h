@@ -15,5 +15,5 @@ public:
     void Run(Callback_Ref<void()> action) noexcept;
 
 private:
-    std::string told_;
+    std::string last_failure_;
 };

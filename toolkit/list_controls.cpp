@@ -29,10 +29,10 @@ void Option_Button::Uncheck_Others() {
     }
 }
 
-void Option_Button::Take(const Input_Event &event) {
+void Option_Button::Handle_Event(const Input_Event &event) {
     if (event.kind == Input_Kind::Clicked)
         Set_Checked(true);
-    Control::Take(event);
+    Control::Handle_Event(event);
 }
 
 void Item_Control::Set_Items(std::vector<std::string> items) {
@@ -42,7 +42,7 @@ void Item_Control::Set_Items(std::vector<std::string> items) {
     state_.selected = -1;
     if (state_.kind == Control_Kind::Combo_Box && !state_.editable)
         state_.caption.clear();
-    Tell(Aspect::Items);
+    Notify_Mirror(Aspect::Items);
 }
 
 void Item_Control::Select(int index) {
@@ -52,10 +52,10 @@ void Item_Control::Select(int index) {
         state_.caption = index == -1 ? std::string{} : state_.items[static_cast<std::size_t>(index)];
     // A combo box that shows a typed text has no item selected either, but selecting none empties it.
     if (std::exchange(state_.selected, index) != index || state_.editable)
-        Tell(Aspect::Selected);
+        Notify_Mirror(Aspect::Selected);
 }
 
-void Item_Control::Take(const Input_Event &event) {
+void Item_Control::Handle_Event(const Input_Event &event) {
     if (event.kind != Input_Kind::Selected || event.selected < 0 ||
         event.selected >= static_cast<int>(state_.items.size()))
         return;
@@ -77,12 +77,12 @@ void Combo_Box::Set_Text(const std::string &text) {
         return;
     state_.selected = -1;
     state_.caption = text;
-    Tell(Aspect::Caption);
+    Notify_Mirror(Aspect::Caption);
 }
 
-void Combo_Box::Take(const Input_Event &event) {
+void Combo_Box::Handle_Event(const Input_Event &event) {
     if (event.kind != Input_Kind::Text_Changed)
-        return Item_Control::Take(event);
+        return Item_Control::Handle_Event(event);
     if (!state_.editable || state_.caption == event.text)
         return;
     state_.caption = event.text;
@@ -95,13 +95,13 @@ void List_Box::Remove_Item(int index) {
         return;
     state_.items.erase(state_.items.begin() + index);
     state_.selected = -1;
-    Tell(Aspect::Items);
+    Notify_Mirror(Aspect::Items);
 }
 
-void List_Box::Take(const Input_Event &event) {
+void List_Box::Handle_Event(const Input_Event &event) {
     if (event.kind == Input_Kind::Item_Activated)
         return Fire(On_Double_Click);
-    Item_Control::Take(event);
+    Item_Control::Handle_Event(event);
 }
 
 Slider::Slider(Container in, const char *name, int minimum, int maximum)
@@ -115,7 +115,7 @@ void Slider::Set_Value(int value) {
     Store(state_.value, std::clamp(value, state_.minimum, state_.maximum), Aspect::Selected);
 }
 
-void Slider::Take(const Input_Event &event) {
+void Slider::Handle_Event(const Input_Event &event) {
     if (event.kind != Input_Kind::Selected && event.kind != Input_Kind::Scrolled)
         return;
     state_.value = std::clamp(event.selected, state_.minimum, state_.maximum);

@@ -11,22 +11,22 @@
 
 /// Holds other controls, which are made in it: they move, hide and are disabled with it. With a caption it is
 /// drawn as a box around them.
-class Frame : public Of_Kind<platform::Control_Kind::Frame> {
+class Frame : public Control_Of_Kind<platform::Control_Kind::Frame> {
 public:
-    using Of_Kind::Of_Kind;
+    using Control_Of_Kind::Control_Of_Kind;
 };
 
 /// One of several choices: of all the option buttons in one frame (or on the form itself) at most one is
 /// checked.
-class Option_Button : public Of_Kind<platform::Control_Kind::Option_Button> {
+class Option_Button : public Control_Of_Kind<platform::Control_Kind::Option_Button> {
 public:
-    using Of_Kind::Of_Kind;
+    using Control_Of_Kind::Control_Of_Kind;
     bool Checked() const { return state_.checked; }
     /// Checking one unchecks the others.
     void Set_Checked(bool checked);
 
 private:
-    void Take(const platform::Input_Event &event) override;
+    void Handle_Event(const platform::Input_Event &event) override;
     void Uncheck_Others();
 };
 
@@ -43,13 +43,13 @@ public:
 
 protected:
     using Control::Control;
-    void Take(const platform::Input_Event &event) override;
+    void Handle_Event(const platform::Input_Event &event) override;
 };
 
 /// A drop-down list whose text is the selected item's, or an editable one, whose text can be any.
-class Combo_Box : public Of_Kind<platform::Control_Kind::Combo_Box, Item_Control> {
+class Combo_Box : public Control_Of_Kind<platform::Control_Kind::Combo_Box, Item_Control> {
 public:
-    using Of_Kind::Of_Kind;
+    using Control_Of_Kind::Control_Of_Kind;
     /// Any text can be typed. To be called before there is a native window.
     void Set_Editable();
     const std::string &Text() const { return state_.caption; }
@@ -60,23 +60,23 @@ public:
     Handler<> On_Change;
 
 private:
-    void Take(const platform::Input_Event &event) override;
+    void Handle_Event(const platform::Input_Event &event) override;
 };
 
 /// A list with one column. `On_Click` comes with every selection by the user, by mouse or keyboard.
-class List_Box : public Of_Kind<platform::Control_Kind::List_Box, Item_Control> {
+class List_Box : public Control_Of_Kind<platform::Control_Kind::List_Box, Item_Control> {
 public:
-    using Of_Kind::Of_Kind;
+    using Control_Of_Kind::Control_Of_Kind;
     void Remove_Item(int index);
 
 private:
-    void Take(const platform::Input_Event &event) override;
+    void Handle_Event(const platform::Input_Event &event) override;
 };
 
 /// Tabs above pages that the form shows and hides by itself. `On_Click` comes with every change by the user.
-class Tab_Strip : public Of_Kind<platform::Control_Kind::Tab_Strip, Item_Control> {
+class Tab_Strip : public Control_Of_Kind<platform::Control_Kind::Tab_Strip, Item_Control> {
 public:
-    using Of_Kind::Of_Kind;
+    using Control_Of_Kind::Control_Of_Kind;
 };
 
 /// A slider over whole numbers, with a mark for each.
@@ -92,7 +92,7 @@ public:
     Handler<> On_Scroll; ///< the user is moving it
 
 private:
-    void Take(const platform::Input_Event &event) override;
+    void Handle_Event(const platform::Input_Event &event) override;
 };
 
 /// A box that paints itself: its background, its picture if it has one, fitted in whole and centred, and what
@@ -108,7 +108,7 @@ public:
     /// Gives it the pointer of a link.
     void Set_Link() { state_.link = true; }
     /// Paints it anew: what On_Paint draws has changed.
-    void Repaint() { Tell(platform::Aspect::Look); }
+    void Repaint() { Notify_Mirror(platform::Aspect::Look); }
     /// Paints on the background and the picture, in twips from the top left corner of the box.
     Handler<platform::Canvas &> On_Paint;
 
@@ -119,9 +119,9 @@ private:
 };
 
 /// How far a long piece of work has come.
-class Progress_Bar : public Of_Kind<platform::Control_Kind::Progress_Bar> {
+class Progress_Bar : public Control_Of_Kind<platform::Control_Kind::Progress_Bar> {
 public:
-    using Of_Kind::Of_Kind;
+    using Control_Of_Kind::Control_Of_Kind;
     /// Per cent, 0 to 100.
     void Set_Value(int value);
 };

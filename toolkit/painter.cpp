@@ -111,7 +111,7 @@ void Paint_Control(const Control_State &control, Canvas &canvas, const Rect &cli
         platform::Fill_Rect(canvas, control.bounds, control.back_colour);
     if (control.frame_colour != -1)
         platform::Frame_Rect(canvas, control.bounds, control.frame_colour, frame_thickness);
-    else if (control.edged)
+    else if (control.hairline)
         platform::Frame_Rect(canvas, control.bounds, Hairline_Colour(control), hairline_thickness);
     // In place of a frame, since there is no room inside of it, and in the colour of the caption, which
     // stands out.

@@ -41,7 +41,7 @@ void Import_Config_Line(std::string_view item) {
     if (equals == std::string_view::npos)
         throw Conversion_Error("an item of the form key=value");
     if (const Setting_Row *const row = Row_Of(item.substr(0, equals)))
-        Take_Setting(*row, item.substr(equals + 1));
+        Store_Setting_Text(*row, item.substr(equals + 1));
 }
 
 void Import_Configuration(std::string_view bytes) {

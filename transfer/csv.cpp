@@ -25,7 +25,7 @@ std::size_t End_Mark(std::string_view bytes) {
 }
 
 /// The record without pairs of quotes, and with a comma behind its last field.
-std::string Prepared(std::string_view record) {
+std::string Prepare_Record(std::string_view record) {
     std::string text;
     text.reserve(record.size() + 1);
     for (std::size_t i = 0; i < record.size(); ++i) {
@@ -102,7 +102,7 @@ std::string_view CSV_Lines::Next_Record() {
 }
 
 bool Check_CSV_Headings(std::string_view line, CSV_Columns &columns) {
-    std::string headings = Capitals(line);
+    std::string headings = To_Upper(line);
     for (const char *const word : {"DESCRIPTION", "START DATE", "SUBJECT"}) {
         if (headings.find(word) != std::string::npos)
             continue;
@@ -128,7 +128,7 @@ bool Check_CSV_Headings(std::string_view line, CSV_Columns &columns) {
 }
 
 bool Read_CSV_Line(std::string_view record, const CSV_Columns &columns, CSV_Event &event) {
-    const std::string text = Prepared(record);
+    const std::string text = Prepare_Record(record);
     event = {};
     std::string subject, description;
     std::int16_t column = 0;

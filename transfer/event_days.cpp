@@ -61,8 +61,8 @@ private:
     bool Is_In(const Moments &moments, std::int64_t moment) const;
     bool Is_Removed(std::int64_t moment) const;
     bool Find_Repetitions();
-    void Put(std::int64_t begin, std::int32_t first, std::int32_t last, bool every_year_again,
-             Event_Days &result);
+    void Add_Days(std::int64_t begin, std::int32_t first, std::int32_t last, bool every_year_again,
+                  Event_Days &result);
 
     const Calendar_File &file_;
     std::int32_t window_begin_, window_end_;
@@ -70,15 +70,15 @@ private:
 
     // Of the event that is being worked on:
     const Calendar_Event *event_ = nullptr;
-    const Replacements *replaced_ = nullptr;
+    const Replacements *own_replacements_ = nullptr;
     std::uint32_t index_ = 0;
     Moment start_;
     std::int64_t length_ = 0; ///< seconds
     Moments removed_;
     std::vector<std::int64_t> repetitions_; ///< seconds by the clock of the start
     bool yearly_ = false;
-    std::size_t put_ = 0;       ///< days
-    std::int32_t last_put_ = 0; ///< the last of them
+    std::size_t day_count_ = 0; ///< days
+    std::int32_t last_day_ = 0; ///< the last of them
 };
 
 bool Repeats(const Calendar_Event &event) {
@@ -143,13 +143,14 @@ bool Day_Finder::Is_In(const Moments &moments, std::int64_t moment) const {
 }
 
 bool Day_Finder::Is_Removed(std::int64_t moment) const {
-    return Is_In(removed_, moment) || (replaced_ != nullptr && Is_In(replaced_->moments, moment));
+    return Is_In(removed_, moment) ||
+           (own_replacements_ != nullptr && Is_In(own_replacements_->moments, moment));
 }
 
 /// False: there is a rule that is not understood.
 bool Day_Finder::Find_Repetitions() {
     repetitions_.clear();
-    if (event_->not_understood)
+    if (event_->unsupported)
         return false;
     repetitions_.push_back(start_.seconds);
     for (const Moment &moment : event_->added)
@@ -159,14 +160,14 @@ bool Day_Finder::Find_Repetitions() {
         if (!rule)
             return false;
         yearly_ = event_->rules.size() == 1 && event_->added.empty() && removed_.empty() &&
-                  replaced_ == nullptr && Is_Plain_Yearly(*rule, start_);
+                  own_replacements_ == nullptr && Is_Plain_Yearly(*rule, start_);
         if (yearly_)
             return true;
         if (rule->until && rule->until->timed && start_.timed)
             rule->until->seconds = In_Clock_Of_Start(*rule->until);
         const auto before = static_cast<std::int32_t>(length_ / seconds_a_day + 1);
-        if (!Expand(*rule, start_, window_begin_ - before, window_end_ + 1, 2 * most_repeated_days,
-                    repetitions_))
+        if (!Expand_Recurrence(*rule, start_, window_begin_ - before, window_end_ + 1, 2 * most_repeated_days,
+                               repetitions_))
             return false;
     }
     std::sort(repetitions_.begin(), repetitions_.end());
@@ -176,8 +177,8 @@ bool Day_Finder::Find_Repetitions() {
 
 /// Adds the days from `first` to `last` that a repetition touches. An end at midnight does not touch the day
 /// that begins then.
-void Day_Finder::Put(std::int64_t begin, std::int32_t first, std::int32_t last, bool every_year_again,
-                     Event_Days &result) {
+void Day_Finder::Add_Days(std::int64_t begin, std::int32_t first, std::int32_t last, bool every_year_again,
+                          Event_Days &result) {
     const std::int64_t local_begin = start_.utc ? Local_Seconds(begin) : begin;
     const std::int64_t local_end = start_.utc ? Local_Seconds(begin + length_) : begin + length_;
     const std::int32_t begin_day = Day_Of(local_begin);
@@ -185,15 +186,15 @@ void Day_Finder::Put(std::int64_t begin, std::int32_t first, std::int32_t last, 
     const auto minute = static_cast<std::int16_t>(start_.timed ? Second_Of_Day(local_begin) / 60 : -1);
     last = std::min({last, end_day, begin_day + static_cast<std::int32_t>(most_days) - 1});
     for (std::int32_t day = std::max(first, begin_day); day <= last; ++day) {
-        const bool again = put_ > 0 && day <= last_put_ && result.days.back().minute == minute;
-        if (again || put_ == most_repeated_days)
+        const bool again = day_count_ > 0 && day <= last_day_ && result.days.back().minute == minute;
+        if (again || day_count_ == most_repeated_days)
             continue;
         Date date = Date_Of(day);
         if (every_year_again)
             date.year = every_year;
         result.days.push_back({index_, minute, date});
-        last_put_ = std::max(last_put_, day);
-        ++put_;
+        last_day_ = std::max(last_day_, day);
+        ++day_count_;
     }
 }
 
@@ -205,29 +206,29 @@ void Day_Finder::Find(std::uint32_t index, Event_Days &result) {
         return;
     const auto replaced = replacements_.find(event_->uid);
     const bool replaces = event_->replaces && replaced->second.of_repeated;
-    replaced_ = replaced == replacements_.end() || event_->replaces ? nullptr : &replaced->second;
+    own_replacements_ = replaced == replacements_.end() || event_->replaces ? nullptr : &replaced->second;
     start_ = *event_->start;
     length_ = Length();
     removed_ = event_->removed;
     std::sort(removed_.begin(), removed_.end(), Earlier);
     yearly_ = false;
-    put_ = 0;
-    last_put_ = -all;
+    day_count_ = 0;
+    last_day_ = -all;
     const auto first_day = Day_Number({first_year, 1, 1}), last_day = Day_Number({last_year, 12, 31});
-    const bool repeats = !event_->replaces && (Repeats(*event_) || event_->not_understood);
+    const bool repeats = !event_->replaces && (Repeats(*event_) || event_->unsupported);
     const bool understood = repeats && Find_Repetitions();
     if (repeats && !understood)
-        ++result.not_understood;
+        ++result.unsupported;
     if (yearly_) // also one that has begun before all years, as one for whom no year is known
-        Put(start_.seconds, -all, all, true, result);
+        Add_Days(start_.seconds, -all, all, true, result);
     else if (replaces)
-        Put(start_.seconds, window_begin_, window_end_, false, result);
+        Add_Days(start_.seconds, window_begin_, window_end_, false, result);
     else if (!understood && !Is_Removed(start_.seconds))
-        Put(start_.seconds, first_day, last_day, false, result);
+        Add_Days(start_.seconds, first_day, last_day, false, result);
     else if (understood)
         for (const std::int64_t moment : repetitions_)
             if (!Is_Removed(moment))
-                Put(moment, window_begin_, window_end_, false, result);
+                Add_Days(moment, window_begin_, window_end_, false, result);
 }
 
 } // namespace

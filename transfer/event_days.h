@@ -18,7 +18,7 @@ struct Event_Day {
 /// The days of a file's events, those of an event together.
 struct Event_Days {
     std::vector<Event_Day> days;
-    std::size_t not_understood = 0; ///< events that are on their first day only, because of their rule
+    std::size_t unsupported = 0; ///< events that are on their first day only, because of their rule
 };
 
 /// Finds the days of all events. An event that is not repeated has its own days, one of every year all years,

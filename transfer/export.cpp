@@ -31,7 +31,7 @@ constexpr std::array<Kind_Row, 5> kinds{
      {"Export Events as iCalendar File", "iCalendar File (*.ics)|*.ics", ".ics",
       " events to the iCalendar file..."}}};
 
-void Tell(std::string_view text, platform::Box_Icon icon) {
+void Show_Message(std::string_view text, platform::Box_Icon icon) {
     platform::Message_Box(text, "Vellatro", icon);
 }
 
@@ -45,12 +45,12 @@ std::string Ask_Name(const Kind_Row &kind, OpenSaveDialog &dialog) {
         std::string name = dialog.FileName;
         if (name.empty())
             return name;
-        if (!Capitals(name).ends_with(Capitals(kind.extension)))
+        if (!To_Upper(name).ends_with(To_Upper(kind.extension)))
             name += kind.extension;
         // The copy would do no harm, but it would be none either.
-        if (Capitals(name) == Capitals(Event_Store::Data_File())) {
-            Tell("You can't export to the data file you're currently using!",
-                 platform::Box_Icon::Exclamation);
+        if (To_Upper(name) == To_Upper(Event_Store::Data_File())) {
+            Show_Message("You can't export to the data file you're currently using!",
+                         platform::Box_Icon::Exclamation);
             continue;
         }
         if (!platform::File_Exists(name) ||
@@ -74,7 +74,7 @@ std::string Short_Date(const Date &date) {
     return platform::Short_Date(date.year, date.month, date.day);
 }
 
-std::string Text_Bytes(const std::vector<Sort_Entry> &entries, Progress &progress) {
+std::string Text_Bytes(const std::vector<Event> &entries, Progress &progress) {
     std::string bytes;
     for (std::size_t i = 0; i < entries.size(); ++i) {
         bytes.append(Line_Head(entries[i])).append(entries[i].text).append("\r\n");
@@ -95,16 +95,16 @@ bool Make_Content(Export_Kind kind, Callback_Ref<Settings()> shown, Progress &pr
     }
     if (kind == Export_Kind::Data_File) {
         if (!platform::File_Exists(Event_Store::Data_File())) {
-            Tell("Can't find data file! This could be because you havn't created any events yet?",
-                 platform::Box_Icon::Exclamation);
+            Show_Message("Can't find data file! This could be because you havn't created any events yet?",
+                         platform::Box_Icon::Exclamation);
             return false;
         }
         return true;
     }
-    std::vector<Sort_Entry> entries;
+    std::vector<Event> entries;
     // Half of the events must not look like all of them.
-    if (Load_Entries(entries, Sort_Order::Ascending_Date, Today()) == Reading::Incomplete) {
-        Tell("Error loading in data file.", platform::Box_Icon::Stop);
+    if (Load_Entries(entries, Sort_Order::Ascending_Date, Today()) == Read_Result::Incomplete) {
+        Show_Message("Error loading in data file.", platform::Box_Icon::Stop);
         return false;
     }
     bytes = kind == Export_Kind::CSV         ? CSV_Bytes(entries, progress)
@@ -116,7 +116,7 @@ bool Make_Content(Export_Kind kind, Callback_Ref<Settings()> shown, Progress &pr
 
 } // namespace
 
-std::string CSV_Bytes(const std::vector<Sort_Entry> &entries, Progress &progress) {
+std::string CSV_Bytes(const std::vector<Event> &entries, Progress &progress) {
     constexpr const char *midnight = "12:00:00 AM";
     std::string bytes =
         "\"Subject\",\"Start Date\",\"Description\",\"Start Time\",\"End Date\",\"End Time\"\r\n";
@@ -146,5 +146,5 @@ void Export_File(Export_Kind kind, OpenSaveDialog &dialog, Callback_Ref<Settings
     else
         platform::Replace_File(name, bytes);
     progress.End();
-    Tell(Joined({message, "\r\n", name}), platform::Box_Icon::Information);
+    Show_Message(Joined({message, "\r\n", name}), platform::Box_Icon::Information);
 }

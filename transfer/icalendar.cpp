@@ -15,7 +15,7 @@ namespace {
 bool Same_Word(std::string_view text, std::string_view capitals) {
     return text.size() == capitals.size() &&
            std::equal(text.begin(), text.end(), capitals.begin(),
-                      [](char letter, char capital) { return Capital(letter) == capital; });
+                      [](char letter, char capital) { return To_Upper(letter) == capital; });
 }
 
 /// Where the first of the characters stands outside of quotes; at the end: nowhere.
@@ -48,17 +48,17 @@ struct Text_Parts {
 /// Its summary, else the first line of its description, and its location. Empty: it has neither of the first
 /// two, so there is nothing that says what it is.
 std::string Event_Text(const Text_Parts &parts) {
-    const std::string summary = Unescaped(parts.summary);
-    std::string_view name = Trimmed(summary);
-    const std::string description = name.empty() ? Unescaped(parts.description) : std::string();
+    const std::string summary = Unescape(parts.summary);
+    std::string_view name = Trim(summary);
+    const std::string description = name.empty() ? Unescape(parts.description) : std::string();
     if (name.empty()) {
-        name = Trimmed(description);
-        name = Trimmed(name.substr(0, name.find_first_of("\r\n")));
+        name = Trim(description);
+        name = Trim(name.substr(0, name.find_first_of("\r\n")));
     }
     if (name.empty())
         return {};
-    const std::string location = Unescaped(parts.location);
-    const std::string_view place = Trimmed(location);
+    const std::string location = Unescape(parts.location);
+    const std::string_view place = Trim(location);
     return In_One_Line(Joined({name, place.empty() ? "" : ", ", place}));
 }
 
@@ -67,14 +67,14 @@ void Read_Moments(std::string_view list, std::vector<Moment> &moments) {
     while (!list.empty()) {
         const std::size_t end = std::min(list.find(','), list.size());
         const std::string_view part = list.substr(0, end);
-        if (const auto moment = Read_Moment(Trimmed(part.substr(0, part.find('/')))))
+        if (const auto moment = Read_Moment(Trim(part.substr(0, part.find('/')))))
             moments.push_back(*moment);
         list.remove_prefix(std::min(end + 1, list.size()));
     }
 }
 
 /// Keeps the first of several properties that are to be there once.
-void Keep(std::string &text, std::string_view value) {
+void Set_If_Empty(std::string &text, std::string_view value) {
     if (text.empty())
         text = value;
 }
@@ -82,32 +82,32 @@ void Keep(std::string &text, std::string_view value) {
 void Read_Property(const Content_Line &line, Calendar_Event &event, Text_Parts &parts) {
     const auto is = [&](std::string_view name) { return Same_Word(line.name, name); };
     if (is("SUMMARY")) {
-        Keep(parts.summary, line.value);
+        Set_If_Empty(parts.summary, line.value);
     } else if (is("DESCRIPTION")) {
-        Keep(parts.description, line.value);
+        Set_If_Empty(parts.description, line.value);
     } else if (is("LOCATION")) {
-        Keep(parts.location, line.value);
+        Set_If_Empty(parts.location, line.value);
     } else if (is("UID")) {
-        Keep(event.uid, line.value);
+        Set_If_Empty(event.uid, line.value);
     } else if (is("DTSTART")) {
-        event.start = Read_Moment(Trimmed(line.value));
+        event.start = Read_Moment(Trim(line.value));
         event.zone = Parameter(line, "TZID");
     } else if (is("DTEND")) {
-        event.end = Read_Moment(Trimmed(line.value));
+        event.end = Read_Moment(Trim(line.value));
     } else if (is("DURATION")) {
-        event.duration = Read_Duration(Trimmed(line.value));
+        event.duration = Read_Duration(Trim(line.value));
     } else if (is("RRULE")) {
-        event.rules.emplace_back(Trimmed(line.value));
+        event.rules.emplace_back(Trim(line.value));
     } else if (is("EXRULE")) {
-        event.not_understood = true;
+        event.unsupported = true;
     } else if (is("RDATE")) {
         Read_Moments(line.value, event.added);
     } else if (is("EXDATE")) {
         Read_Moments(line.value, event.removed);
     } else if (is("RECURRENCE-ID")) {
-        event.replaces = Read_Moment(Trimmed(line.value));
+        event.replaces = Read_Moment(Trim(line.value));
     } else if (is("STATUS")) {
-        event.cancelled = Same_Word(Trimmed(line.value), "CANCELLED");
+        event.cancelled = Same_Word(Trim(line.value), "CANCELLED");
     }
 }
 
@@ -126,15 +126,15 @@ std::int64_t Offset(std::string_view text) {
 /// The components that are open, and what has been read of the innermost.
 class Calendar_Reader {
 public:
-    void Take(const Content_Line &line) {
+    void Read_Line(const Content_Line &line) {
         if (Same_Word(line.name, "BEGIN"))
-            Begin(Capitals(Trimmed(line.value)));
+            Begin(To_Upper(Trim(line.value)));
         else if (Same_Word(line.name, "END"))
-            End(Capitals(Trimmed(line.value)));
-        else if (In("VEVENT") && open_.size() == 2)
+            End(To_Upper(Trim(line.value)));
+        else if (Is_Inside("VEVENT") && open_.size() == 2)
             Read_Property(line, event_, parts_);
-        else if (In("VTIMEZONE"))
-            Take_Of_Zone(line);
+        else if (Is_Inside("VTIMEZONE"))
+            Read_Zone_Property(line);
     }
     Calendar_File Finish() {
         if (!any_calendar_)
@@ -145,7 +145,7 @@ public:
     }
 
 private:
-    bool In(std::string_view component) const {
+    bool Is_Inside(std::string_view component) const {
         return open_.size() > 1 && open_[1] == component && open_[0] == "VCALENDAR";
     }
     void Begin(std::string name) {
@@ -161,21 +161,21 @@ private:
     void End(const std::string &name) {
         if (open_.empty() || open_.back() != name)
             throw ICalendar_Error("The file is damaged: " + name + " ends where it has not begun.");
-        if (In("VEVENT") && open_.size() == 2) {
+        if (Is_Inside("VEVENT") && open_.size() == 2) {
             event_.text = Event_Text(parts_);
             file_.events.push_back(std::move(event_));
         }
-        if (In("VTIMEZONE") && open_.size() == 2 && zone_offset_) {
+        if (Is_Inside("VTIMEZONE") && open_.size() == 2 && zone_offset_) {
             const auto [zone, is_new] = file_.zones.emplace(zone_, *zone_offset_);
             zone->second = std::max(zone->second, *zone_offset_);
         }
         open_.pop_back();
     }
-    void Take_Of_Zone(const Content_Line &line) {
+    void Read_Zone_Property(const Content_Line &line) {
         if (Same_Word(line.name, "TZID") && open_.size() == 2) {
-            zone_ = Trimmed(line.value);
+            zone_ = Trim(line.value);
         } else if (Same_Word(line.name, "TZOFFSETTO") && open_.size() == 3) {
-            const std::int64_t offset = Offset(Trimmed(line.value));
+            const std::int64_t offset = Offset(Trim(line.value));
             zone_offset_ = std::max(zone_offset_.value_or(offset), offset);
         }
     }
@@ -204,7 +204,7 @@ void Append_Line(std::string &bytes, std::string_view line) {
     bytes.append(line).append("\r\n");
 }
 
-std::string Escaped(std::string_view text) {
+std::string Escape(std::string_view text) {
     std::string escaped;
     for (const char c : Without_Line_Breaks(std::string(text), '\n')) {
         if (c == '\n' || c == '\\' || c == ';' || c == ',')
@@ -225,7 +225,7 @@ std::string Date_Digits(const Date &date) {
 
 /// A number that is the same each time for the same record, and another one for another. It is that of
 /// Fowler, Noll and Vo.
-std::string Record_Number(std::string_view record) {
+std::string Record_Id(std::string_view record) {
     std::uint64_t hash = 0xCBF29CE484222325;
     for (const char c : record)
         hash = (hash ^ static_cast<unsigned char>(c)) * 0x100000001B3;
@@ -237,7 +237,7 @@ std::string Record_Number(std::string_view record) {
 
 /// The day on which an event begins. A yearly one of 29 February begins in the last year that had one: others
 /// show it in those years then, as the month does here.
-Date First_Day(const Sort_Entry &entry) {
+Date First_Day(const Event &entry) {
     if (!entry.yearly || !entry.key.starts_with("29/2/"))
         return entry.date;
     Date day{entry.date.year, 2, 1};
@@ -247,20 +247,20 @@ Date First_Day(const Sort_Entry &entry) {
     return day;
 }
 
-void Append_Event(std::string &bytes, const Sort_Entry &entry, std::string_view stamp) {
+void Append_Event(std::string &bytes, const Event &entry, std::string_view stamp) {
     const Date day = First_Day(entry);
     const std::string key = Date_Key(entry.yearly ? Date{every_year, day.month, day.day} : day);
     const auto append = [&](std::initializer_list<std::string_view> parts) {
         Append_Line(bytes, Joined(parts));
     };
     append({"BEGIN:VEVENT"});
-    append({"UID:", Record_Number(Joined({key, "=", entry.text})), "@vellatro"});
+    append({"UID:", Record_Id(Joined({key, "=", entry.text})), "@vellatro"});
     append({"DTSTAMP:", stamp});
     append({"DTSTART;VALUE=DATE:", Date_Digits(day)});
     append({"DTEND;VALUE=DATE:", Date_Digits(Date_Of(Day_Number(day) + 1))});
     if (entry.yearly)
         append({"RRULE:FREQ=YEARLY"});
-    append({"SUMMARY:", Escaped(entry.text)});
+    append({"SUMMARY:", Escape(entry.text)});
     append({"TRANSP:TRANSPARENT"});
     append({"END:VEVENT"});
 }
@@ -315,8 +315,8 @@ std::string_view Parameter(const Content_Line &line, std::string_view name) {
         const std::size_t end = Find_Unquoted(rest, ";");
         const std::string_view parameter = rest.substr(0, end);
         const std::size_t equals = std::min(parameter.find('='), parameter.size() - 1);
-        if (Same_Word(Trimmed(parameter.substr(0, equals)), name)) {
-            std::string_view value = Trimmed(parameter.substr(equals + 1));
+        if (Same_Word(Trim(parameter.substr(0, equals)), name)) {
+            std::string_view value = Trim(parameter.substr(equals + 1));
             if (value.size() > 1 && value.front() == '"' && value.back() == '"')
                 value = value.substr(1, value.size() - 2);
             return value;
@@ -326,12 +326,12 @@ std::string_view Parameter(const Content_Line &line, std::string_view name) {
     return {};
 }
 
-std::string Unescaped(std::string_view value) {
+std::string Unescape(std::string_view value) {
     std::string text, room;
     value = As_Utf8(value, room);
     text.reserve(value.size());
     for (std::size_t i = 0; i < value.size(); ++i) {
-        const char next = value[i] == '\\' && i + 1 < value.size() ? Capital(value[i + 1]) : '\0';
+        const char next = value[i] == '\\' && i + 1 < value.size() ? To_Upper(value[i + 1]) : '\0';
         if (next != '\0' && std::string_view("N,;\\\"").find(next) != std::string_view::npos) {
             text += next == 'N' ? '\n' : next;
             ++i;
@@ -346,13 +346,13 @@ Calendar_File Read_ICalendar(std::string_view bytes, Progress &progress) {
     Calendar_Reader reader;
     Content_Lines lines(bytes);
     for (Content_Line line; lines.Next(line);) {
-        reader.Take(line);
+        reader.Read_Line(line);
         progress.Step(lines.Position(), bytes.size() / 8 * 10);
     }
     return reader.Finish();
 }
 
-std::string ICalendar_Bytes(const std::vector<Sort_Entry> &entries, Progress &progress) {
+std::string ICalendar_Bytes(const std::vector<Event> &entries, Progress &progress) {
     const platform::Date_Time now = platform::Now_In_Utc();
     const std::string stamp =
         Joined({Digits(now.year, 4), Digits(now.month, 2), Digits(now.day, 2), "T", Digits(now.hour, 2),

@@ -56,7 +56,7 @@ std::string_view Parameter(const Content_Line &line, std::string_view name);
 
 /// A text without its escapes: \n is a line end, and \, \; \\ are the characters themselves. So is \", which
 /// some write although they need not.
-std::string Unescaped(std::string_view value);
+std::string Unescape(std::string_view value);
 
 /// One VEVENT.
 struct Calendar_Event {
@@ -71,7 +71,7 @@ struct Calendar_Event {
     std::vector<Moment> added;   ///< days beside those of the rules
     std::vector<Moment> removed; ///< days on which it is not repeated
     bool cancelled = false;
-    bool not_understood = false; ///< it repeats in a way that is not known here
+    bool unsupported = false; ///< it repeats in a way that is not known here
 };
 
 /// What counts of a file.
@@ -87,4 +87,4 @@ struct Calendar_File {
 Calendar_File Read_ICalendar(std::string_view bytes, Progress &progress);
 
 /// The bytes of a file with these events, in their order, each on whole days.
-std::string ICalendar_Bytes(const std::vector<Sort_Entry> &entries, Progress &progress);
+std::string ICalendar_Bytes(const std::vector<Event> &entries, Progress &progress);

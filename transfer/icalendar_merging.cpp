@@ -66,20 +66,20 @@ public:
     bool Add(std::string_view key, std::string_view text) { return Add(key, {}, text); }
     /// What stands on the day of every year stands on that of each.
     bool Add(const Date &date, std::string_view text) { return Add(Date_Key(date), Yearly_Key(date), text); }
-    void Reserve(std::size_t texts) { known_.reserve(texts); }
+    void Reserve(std::size_t texts) { known_texts_.reserve(texts); }
 
 private:
     bool Add(std::string_view key, std::string_view every, std::string_view text) {
         bool any_new = false;
         Pieces pieces(text);
         for (std::string piece; pieces.Next(piece);)
-            if (!any_yearly_ || !known_.contains(Joined({every, "=", piece})))
-                any_new = known_.insert(Joined({key, "=", piece})).second || any_new;
+            if (!any_yearly_ || !known_texts_.contains(Joined({every, "=", piece})))
+                any_new = known_texts_.insert(Joined({key, "=", piece})).second || any_new;
         any_yearly_ = any_yearly_ || Is_Yearly(key);
         return any_new;
     }
 
-    std::unordered_set<std::string> known_; ///< as records of one piece
+    std::unordered_set<std::string> known_texts_; ///< as records of one piece
     bool any_yearly_ = false;
 };
 
@@ -93,7 +93,7 @@ void Uncover_Days(std::vector<std::string> &records, std::size_t first_new, cons
     std::unordered_set<std::string> of_both_kinds;
     Event_Record parts;
     for (std::string &record : records) {
-        if (!Part_Record(record, parts) || Is_Yearly(parts.key))
+        if (!Parse_Record(record, parts) || Is_Yearly(parts.key))
             continue;
         const auto found = taken.find(Day_And_Month(parts.key));
         if (found == taken.end())
@@ -104,11 +104,11 @@ void Uncover_Days(std::vector<std::string> &records, std::size_t first_new, cons
         own.Add(key, parts.text);
         for (const auto &[date, text] : found->second)
             if ((date.year == every_year || Date_Key(date) == key) && own.Add(key, text))
-                record.append(joint).append(text);
+                record.append(text_separator).append(text);
     }
     const auto old_end = records.begin() + static_cast<std::ptrdiff_t>(first_new);
     const auto hiding_end = std::stable_partition(old_end, records.end(), [&](const std::string &record) {
-        return Part_Record(record, parts) && Is_Yearly(parts.key) &&
+        return Parse_Record(record, parts) && Is_Yearly(parts.key) &&
                of_both_kinds.contains(Day_And_Month(parts.key));
     });
     std::rotate(records.begin(), old_end, hiding_end);
@@ -124,11 +124,11 @@ Join_Counts Join_Events(const Calendar_File &file, const Event_Days &days,
     texts.Reserve(records.size() + days.days.size());
     Event_Record parts;
     for (const std::string &record : records)
-        if (Part_Record(record, parts))
+        if (Parse_Record(record, parts))
             texts.Add(parts.key, parts.text);
     Taken_Texts taken;
     Join_Counts counts;
-    counts.not_understood = days.not_understood;
+    counts.unsupported = days.unsupported;
     auto day = days.days.begin();
     for (std::uint32_t i = 0; i < file.events.size(); ++i) {
         const bool has_days = day != days.days.end() && day->event == i;
@@ -141,7 +141,7 @@ Join_Counts Join_Events(const Calendar_File &file, const Event_Days &days,
                 taken[Day_And_Month(key)].emplace_back(day->date, text);
             joined = true;
         }
-        ++(joined ? counts.imported : has_days ? counts.already_there : counts.passed_over);
+        ++(joined ? counts.imported : has_days ? counts.already_there : counts.skipped);
     }
     Uncover_Days(records, first_new, taken);
     return counts;

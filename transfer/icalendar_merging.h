@@ -11,9 +11,9 @@
 /// What has become of the events of a calendar file.
 struct Join_Counts {
     std::size_t imported = 0;
-    std::size_t already_there = 0;  ///< on all of their days
-    std::size_t passed_over = 0;    ///< they have no days
-    std::size_t not_understood = 0; ///< of the first two, those whose repetition is not known here
+    std::size_t already_there = 0; ///< on all of their days
+    std::size_t skipped = 0;       ///< they have no days
+    std::size_t unsupported = 0;   ///< of the first two, those whose repetition is not known here
 };
 
 /// Folds the events of a calendar file into the records, on each of their days on which their texts do not

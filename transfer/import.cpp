@@ -19,8 +19,8 @@
 
 namespace {
 
-platform::Box_Answer Tell(std::string_view text, platform::Box_Icon icon,
-                          platform::Box_Buttons buttons = platform::Box_Buttons::Ok) {
+platform::Box_Answer Show_Message(std::string_view text, platform::Box_Icon icon,
+                                  platform::Box_Buttons buttons = platform::Box_Buttons::Ok) {
     return platform::Message_Box(text, "Vellatro", icon, buttons);
 }
 
@@ -65,7 +65,7 @@ std::string First_Unwritable(const std::vector<std::string> &records) {
     std::string bytes;
     try {
         for (const std::string &record : records) {
-            Part_Record(record, parts);
+            Parse_Record(record, parts);
             Append_Item(bytes, record);
         }
     } catch (const Sequential_Error &) {
@@ -93,9 +93,10 @@ bool Importer::Ask_File(const char *title, const char *filter, bool not_own_file
         if (dialog_.FileName.empty())
             return false;
         if (!platform::File_Exists(dialog_.FileName))
-            Tell("File doesn't exist!", platform::Box_Icon::Exclamation);
-        else if (not_own_file && Capitals(dialog_.FileName) == Capitals(Event_Store::Data_File()))
-            Tell("You can't import the data file your currently using!", platform::Box_Icon::Exclamation);
+            Show_Message("File doesn't exist!", platform::Box_Icon::Exclamation);
+        else if (not_own_file && To_Upper(dialog_.FileName) == To_Upper(Event_Store::Data_File()))
+            Show_Message("You can't import the data file your currently using!",
+                         platform::Box_Icon::Exclamation);
         else
             return true;
     }
@@ -104,13 +105,13 @@ bool Importer::Ask_File(const char *title, const char *filter, bool not_own_file
 void Importer::Import_CSV() {
     std::optional<Backup> backup;
     std::optional<Undo_Log::Change> change; // to its end or to the restored file
-    std::vector<Sort_Entry> staged;
+    std::vector<Event> staged;
     enum { Asking, Reading, Merging, Listed } stage = Asking;
     try {
         backup.emplace(calendar_.Events.Temp_Lst);
         if (!Ask_File("Import Events from CSV File", "Comma Separated Values File (*.csv)|*.csv", false))
             return;
-        Work.Begin();
+        Import_Progress.Begin();
         stage = Reading;
         change.emplace(calendar_.Events.Changes, "Import");
         Read_Events(platform::Read_File(dialog_.FileName), staged);
@@ -121,12 +122,12 @@ void Importer::Import_CSV() {
         change.reset();
         const std::size_t count = staged.size();
         stage = Listed;
-        Show_Staged(std::move(staged));
-        Work.End();
+        Show_Staged_Events(std::move(staged));
+        Import_Progress.End();
         calendar_.Redraw();
-        Tell(Joined({"Successfully imported ", std::to_string(count), " events from the CSV file...\r\n\r\n",
-                     dialog_.FileName}),
-             platform::Box_Icon::Information);
+        Show_Message(Joined({"Successfully imported ", std::to_string(count),
+                             " events from the CSV file...\r\n\r\n", dialog_.FileName}),
+                     platform::Box_Icon::Information);
     } catch (const std::exception &) {
         try {
             // A copy that could not be made may be an older one, which is not to come back.
@@ -137,19 +138,19 @@ void Importer::Import_CSV() {
         change.reset();
         if (stage == Reading || stage == Merging) {
             // The events before the error, beside the counts of the restored file.
-            for (Sort_Entry &event : staged)
+            for (Event &event : staged)
                 event.key.clear(); // none is in the file
-            Show_Staged(std::move(staged));
+            Show_Staged_Events(std::move(staged));
         }
-        Work.End();
-        Tell("Error when importing from CSV file.", platform::Box_Icon::Exclamation);
+        Import_Progress.End();
+        Show_Message("Error when importing from CSV file.", platform::Box_Icon::Exclamation);
     }
 }
 
 /// Stages the events of a file, nine tenths of the work. The date is kept beside the text and not read back
 /// out of the line that the list shows: a short form with two digits of the year, or one that the system does
 /// not read, would change the day. Where the form can be read back the result is the same.
-void Importer::Read_Events(const std::string &bytes, std::vector<Sort_Entry> &staged) {
+void Importer::Read_Events(const std::string &bytes, std::vector<Event> &staged) {
     CSV_Lines lines(bytes);
     if (!Check_CSV_Headings(lines.Next_Line(), columns_))
         throw CSV_Error("the headings are not those of events");
@@ -157,7 +158,7 @@ void Importer::Read_Events(const std::string &bytes, std::vector<Sort_Entry> &st
     while (!lines.At_End()) {
         if (Read_CSV_Line(lines.Next_Record(), columns_, event))
             staged.push_back({Day_Number(event.date), event.date, false, {}, std::move(event.text)});
-        Work.Step(lines.Position(), bytes.size() / 9 * 10);
+        Import_Progress.Step(lines.Position(), bytes.size() / 9 * 10);
     }
 }
 
@@ -166,7 +167,7 @@ void Importer::Read_Events(const std::string &bytes, std::vector<Sort_Entry> &st
 /// what it is after some number of events, so that nobody can tell the difference, also when the program is
 /// killed. While windows are painted a session that ends may have unsaved text stored; so the file is read
 /// again afterwards.
-void Importer::Merge_Imported(std::vector<Sort_Entry> &staged) {
+void Importer::Merge_Imported(std::vector<Event> &staged) {
     std::size_t i = 0;
     do {
         calendar_.Events.Load_File();
@@ -176,25 +177,25 @@ void Importer::Merge_Imported(std::vector<Sort_Entry> &staged) {
             Merged_Text merged = merger.Merge(staged[i].date, staged[i].text);
             staged[i].key = std::move(merged.key);
             staged[i].place = merged.place;
-            due = Work.Due();
+            due = Import_Progress.Due();
         }
         if (!staged.empty())
             Write_Merged(staged);
         if (due)
-            Work.Show(9 * staged.size() + i, 10 * staged.size());
+            Import_Progress.Show(9 * staged.size() + i, 10 * staged.size());
     } while (i < staged.size());
 }
 
 /// Throws as Write_Data_File does, and tells which day's record cannot be written.
-void Importer::Write_Merged(const std::vector<Sort_Entry> &staged) const {
+void Importer::Write_Merged(const std::vector<Event> &staged) const {
     try {
         calendar_.Events.Write_Data_File();
     } catch (const Sequential_Error &) {
         const std::string key = First_Unwritable(calendar_.Events.Temp_Lst);
-        const auto event = std::find_if(staged.begin(), staged.end(),
-                                        [&](const Sort_Entry &each) { return each.key == key; });
+        const auto event =
+            std::find_if(staged.begin(), staged.end(), [&](const Event &each) { return each.key == key; });
         if (event != staged.end())
-            Tell(
+            Show_Message(
                 Joined(
                     {"The event of ",
                      platform::Short_Date(event->date.year, event->date.month, event->date.day),
@@ -216,8 +217,8 @@ void Importer::Import_Config() {
         calendar_.Get_Wallpaper_Stuff(Cur_Settings.Pack_Name);
         calendar_.Follow(before);
     } catch (const std::exception &) {
-        Work.End();
-        Tell("Error when importing configuration from file.", platform::Box_Icon::Exclamation);
+        Import_Progress.End();
+        Show_Message("Error when importing configuration from file.", platform::Box_Icon::Exclamation);
         if (Cur_Settings == before)
             return;
         // What came before the error stays. The calendar and the dialog follow it; else the next OK would put
@@ -225,16 +226,16 @@ void Importer::Import_Config() {
         if (!imported)
             Run_Guarded([this] { calendar_.Get_Wallpaper_Stuff(Cur_Settings.Pack_Name); });
         Run_Guarded([&] { calendar_.Follow(before); });
-        Configuration_Partly_Changed();
+        On_Configuration_Partly_Changed();
         return;
     }
-    Work.End();
-    Tell("Loaded configuration file successfully.", platform::Box_Icon::Information);
-    Configuration_Changed();
+    Import_Progress.End();
+    Show_Message("Loaded configuration file successfully.", platform::Box_Icon::Information);
+    On_Configuration_Changed();
 }
 
 /// Whether the user agrees to lose the data file that is there.
-bool Importer::May_Replace() const {
+bool Importer::Confirm_Replace() const {
     if (!platform::File_Exists(Event_Store::Data_File()))
         return true;
     const auto modified = [](const std::string &path) {
@@ -247,7 +248,7 @@ bool Importer::May_Replace() const {
     const std::string question = Joined({warning, "Replace current file 'calendar.dat' modified on ",
                                          modified(Event_Store::Data_File()), "\r\n\r\nwith new file '",
                                          dialog_.FileTitle, "' modified on ", modified(dialog_.FileName)});
-    return Tell(question, platform::Box_Icon::Exclamation, platform::Box_Buttons::Yes_No_Cancel) ==
+    return Show_Message(question, platform::Box_Icon::Exclamation, platform::Box_Buttons::Yes_No_Cancel) ==
            platform::Box_Answer::Yes;
 }
 
@@ -255,50 +256,51 @@ void Importer::Import_Data_File() {
     try {
         if (!Ask_File("Import Data File", "Data File (calendar.dat)|*.dat", true))
             return;
-        if (May_Replace()) {
+        if (Confirm_Replace()) {
             {
                 const Undo_Log::Change change(calendar_.Events.Changes, "Import");
                 platform::Copy_File(dialog_.FileName, Event_Store::Data_File());
             }
-            Data_File_Replaced();
+            On_Data_File_Replaced();
         }
         calendar_.Redraw();
         // After No and Cancel, too.
-        Tell("Successfully imported data file from...\r\n\r\n" + dialog_.FileName,
-             platform::Box_Icon::Information);
+        Show_Message("Successfully imported data file from...\r\n\r\n" + dialog_.FileName,
+                     platform::Box_Icon::Information);
     } catch (const std::exception &) {
-        Tell("Error when importing data file.", platform::Box_Icon::Exclamation);
+        Show_Message("Error when importing data file.", platform::Box_Icon::Exclamation);
     }
 }
 
 void Importer::Import_ICalendar() {
     const auto fail = [this](std::string_view reason) {
-        Work.End();
-        Tell(Joined({"Error when importing from iCalendar file.", reason}), platform::Box_Icon::Exclamation);
+        Import_Progress.End();
+        Show_Message(Joined({"Error when importing from iCalendar file.", reason}),
+                     platform::Box_Icon::Exclamation);
     };
     Join_Counts counts;
     try {
         if (!Ask_File("Import Events from iCalendar File", "iCalendar File (*.ics)|*.ics", false))
             return;
-        Work.Begin();
+        Import_Progress.Begin();
         counts = Join_Calendar(platform::Read_File(dialog_.FileName));
     } catch (const Error &error) {
         return fail(Joined({"\r\n\r\n", error.what()}));
     } catch (const std::exception &) {
         return fail({});
     }
-    Work.End();
-    Data_File_Replaced();
+    Import_Progress.End();
+    On_Data_File_Replaced();
     calendar_.Redraw();
     const auto number = [](std::size_t count) { return std::to_string(count); };
     std::string message = Joined(
         {"Successfully imported ", number(counts.imported), " events from the iCalendar file...\r\n\r\n",
          dialog_.FileName, "\r\n\r\nImported: ", number(counts.imported),
-         ", already there: ", number(counts.already_there), ", passed over: ", number(counts.passed_over)});
-    if (counts.not_understood > 0)
+         ", already there: ", number(counts.already_there), ", passed over: ", number(counts.skipped)});
+    if (counts.unsupported > 0)
         message += "\r\nOn their first day only, since their repetition is not understood: " +
-                   number(counts.not_understood);
-    Tell(message, platform::Box_Icon::Information);
+                   number(counts.unsupported);
+    Show_Message(message, platform::Box_Icon::Information);
 }
 
 /// Folds the events of a calendar file in as a whole: the data file is written once, at the end, and neither
@@ -306,8 +308,8 @@ void Importer::Import_ICalendar() {
 /// not needed to restore it. No window is painted between reading and writing, so that nothing else can be
 /// stored meanwhile.
 Join_Counts Importer::Join_Calendar(const std::string &bytes) {
-    const Calendar_File file = Read_ICalendar(bytes, Work);
-    const Event_Days days = Find_Event_Days(file, Today(), Work);
+    const Calendar_File file = Read_ICalendar(bytes, Import_Progress);
+    const Event_Days days = Find_Event_Days(file, Today(), Import_Progress);
     calendar_.Events.Load_File();
     std::vector<std::string> &records = calendar_.Events.Temp_Lst;
     std::vector<std::string> before = records;

@@ -27,27 +27,27 @@ public:
 
     // All to be filled.
 
-    Progress Work;
+    Progress Import_Progress;
     /// The list of events is to show these instead of what it shows.
-    Callback<void(std::vector<Sort_Entry>)> Show_Staged;
+    Callback<void(std::vector<Event>)> Show_Staged_Events;
     /// The list of events and their counts are to be those of the data file, which is another one now.
-    Callback<void()> Data_File_Replaced;
+    Callback<void()> On_Data_File_Replaced;
     /// The pointer over the dialog is to be the hourglass until the work's end.
     Callback<void()> Show_Hourglass;
     /// The settings are not what the dialog shows any more: it is to be closed.
-    Callback<void()> Configuration_Changed;
+    Callback<void()> On_Configuration_Changed;
     /// The same, but only a part was imported: the dialog is to stay, and to show the settings.
-    Callback<void()> Configuration_Partly_Changed;
+    Callback<void()> On_Configuration_Partly_Changed;
 
     static std::string Backup_File();
 
 private:
     bool Ask_File(const char *title, const char *filter, bool not_own_file);
-    void Read_Events(const std::string &bytes, std::vector<Sort_Entry> &staged);
-    void Merge_Imported(std::vector<Sort_Entry> &staged);
-    void Write_Merged(const std::vector<Sort_Entry> &staged) const;
+    void Read_Events(const std::string &bytes, std::vector<Event> &staged);
+    void Merge_Imported(std::vector<Event> &staged);
+    void Write_Merged(const std::vector<Event> &staged) const;
     Join_Counts Join_Calendar(const std::string &bytes);
-    bool May_Replace() const;
+    bool Confirm_Replace() const;
 
     Main_Frm &calendar_;
     OpenSaveDialog &dialog_;

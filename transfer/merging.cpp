@@ -11,22 +11,22 @@
 namespace {
 
 /// Takes the event's text out of `record`, with one of the joints beside it. False when it is not there.
-bool Part_From(std::string &record, const Sort_Entry &event) {
+bool Part_From(std::string &record, const Event &event) {
     std::size_t begin = event.key.size() + 1 + event.place;
     std::size_t length = event.text.size();
     const std::string_view whole = record;
     if (begin > whole.size() || whole.substr(begin, length) != event.text)
         return false;
     const std::string_view behind = whole.substr(begin + length);
-    if (!behind.empty() && !behind.starts_with(joint))
+    if (!behind.empty() && !behind.starts_with(text_separator))
         return false;
     if (event.place != 0) {
-        if (!whole.substr(0, begin).ends_with(joint))
+        if (!whole.substr(0, begin).ends_with(text_separator))
             return false;
-        begin -= joint.size();
+        begin -= text_separator.size();
     }
     if (event.place != 0 || !behind.empty())
-        length += joint.size();
+        length += text_separator.size();
     record.erase(begin, length);
     return true;
 }
@@ -36,7 +36,7 @@ bool Part_From(std::string &record, const Sort_Entry &event) {
 Record_Merger::Record_Merger(std::vector<std::string> &records) : records_(records) {
     // A record without "=", which only another hand can have written, is one of no day.
     for (std::size_t i = 0; i < records.size(); ++i)
-        if (Event_Record parts; Part_Record(records[i], parts))
+        if (Event_Record parts; Parse_Record(records[i], parts))
             first_.emplace(parts.key, i);
 }
 
@@ -53,26 +53,26 @@ Merged_Text Record_Merger::Merge(const Date &date, std::string_view text) {
         exact == first_.end() || (yearly != first_.end() && yearly->second < exact->second);
     const auto &[key, index] = joins_yearly ? *yearly : *exact;
     std::string &record = records_[index];
-    record.append(joint);
+    record.append(text_separator);
     const std::size_t place = record.size() - key.size() - 1;
     record.append(text);
     return {key, place};
 }
 
-bool Unmerge(std::vector<std::string> &records, std::vector<Sort_Entry> &staged, std::size_t line) {
+bool Unmerge(std::vector<std::string> &records, std::vector<Event> &staged, std::size_t line) {
     const auto at = staged.begin() + static_cast<std::ptrdiff_t>(line);
-    const Sort_Entry event = std::move(*at);
+    const Event event = std::move(*at);
     staged.erase(at);
     const auto record = std::find_if(records.begin(), records.end(), [&](const std::string &each) {
         Event_Record parts;
-        return Part_Record(each, parts) && parts.key == event.key;
+        return Parse_Record(each, parts) && parts.key == event.key;
     });
     if (event.key.empty() || record == records.end() || !Part_From(*record, event))
         return false;
     // The texts behind it move up.
-    for (Sort_Entry &other : staged)
+    for (Event &other : staged)
         if (other.key == event.key && other.place > event.place)
-            other.place -= event.text.size() + joint.size();
+            other.place -= event.text.size() + text_separator.size();
     if (record->size() == event.key.size() + 1 && event.place == 0)
         records.erase(record);
     return true;

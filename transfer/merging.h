@@ -10,7 +10,7 @@
 #include <vector>
 
 /// Stands between the texts of a record that several events have joined.
-inline constexpr std::string_view joint = " + ";
+inline constexpr std::string_view text_separator = " + ";
 
 /// Where a text is that was merged.
 struct Merged_Text {
@@ -36,4 +36,4 @@ private:
 /// Takes the event of a line of `staged`, which were merged in this order, out of both lists: out of its
 /// record the text that joined it, and the whole record when it holds nothing else. False when the records do
 /// not hold it any more; then only the line goes.
-bool Unmerge(std::vector<std::string> &records, std::vector<Sort_Entry> &staged, std::size_t line);
+bool Unmerge(std::vector<std::string> &records, std::vector<Event> &staged, std::size_t line);

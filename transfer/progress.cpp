@@ -12,13 +12,13 @@ constexpr unsigned steps_a_look = 64; ///< the clock is slower than a step
 } // namespace
 
 void Progress::Begin() {
-    begun_ = platform::Milliseconds();
+    start_time_ = platform::Milliseconds();
     wait_ = first_wait;
     steps_ = 0;
 }
 
 bool Progress::Due() {
-    return ++steps_ % steps_a_look == 0 && platform::Milliseconds() - begun_ >= wait_;
+    return ++steps_ % steps_a_look == 0 && platform::Milliseconds() - start_time_ >= wait_;
 }
 
 void Progress::Show(std::size_t done, std::size_t total) {
@@ -27,7 +27,7 @@ void Progress::Show(std::size_t done, std::size_t total) {
                     ? 100
                     : static_cast<int>(100.0 * static_cast<double>(done) / static_cast<double>(total)));
     // Counted from now: what was done to show it takes time, too.
-    wait_ = platform::Milliseconds() - begun_ + next_wait;
+    wait_ = platform::Milliseconds() - start_time_ + next_wait;
 }
 
 void Progress::End() {

@@ -26,7 +26,7 @@ public:
     void End();
 
 private:
-    unsigned begun_ = 0;
-    unsigned wait_ = 0; ///< milliseconds after begun_ until the next telling
+    unsigned start_time_ = 0;
+    unsigned wait_ = 0; ///< milliseconds after start_time_ until the next telling
     unsigned steps_ = 0;
 };

@@ -24,7 +24,7 @@ bool Read_Number(std::string_view text, Integer least, Integer most, Integer &nu
 }
 
 /// Takes what stands before the next `separator` from the beginning of `text`.
-std::string_view Take_Part(std::string_view &text, char separator) {
+std::string_view Next_Field(std::string_view &text, char separator) {
     const std::size_t end = std::min(text.find(separator), text.size());
     const std::string_view part = text.substr(0, end);
     text.remove_prefix(std::min(end + 1, text.size()));
@@ -61,7 +61,7 @@ bool Read_List(std::string_view text, const List_Row &row, std::vector<int> &num
     while (!text.empty()) {
         int number = 0;
         if (numbers.size() == longest_list ||
-            !Read_Number(Take_Part(text, ','), row.from_end ? -row.most : row.least, row.most, number) ||
+            !Read_Number(Next_Field(text, ','), row.from_end ? -row.most : row.least, row.most, number) ||
             (number == 0 && row.least > 0))
             return false;
         numbers.push_back(number);
@@ -72,7 +72,7 @@ bool Read_List(std::string_view text, const List_Row &row, std::vector<int> &num
 bool Read_Weekdays(std::string_view text, std::vector<Repeated_Weekday> &weekdays) {
     weekdays.clear();
     while (!text.empty()) {
-        const std::string_view part = Take_Part(text, ',');
+        const std::string_view part = Next_Field(text, ',');
         if (part.size() < 2 || weekdays.size() == longest_list)
             return false;
         Repeated_Weekday day;
@@ -110,7 +110,7 @@ bool Read_Part(std::string_view name, std::string_view value, Recurrence &rule) 
 }
 
 /// Gives the rule the limits that it takes from its start, where it has none of its own.
-void Complete(Recurrence &rule, const Moment &start) {
+void Add_Implied_Limits(Recurrence &rule, const Moment &start) {
     const Date date = Date_Of(Day_Of(start.seconds));
     std::vector<int> &months = rule.numbers[Recurrence::Months];
     std::vector<int> &month_days = rule.numbers[Recurrence::Month_Days];
@@ -280,8 +280,8 @@ std::optional<Moment> Read_Moment(std::string_view text) {
     Moment moment{Day_Number(date) * seconds_a_day, false, false};
     if (text.size() == 8)
         return moment;
-    moment.timed = Capital(text[8]) == 'T';
-    moment.utc = Capital(text.back()) == 'Z';
+    moment.timed = To_Upper(text[8]) == 'T';
+    moment.utc = To_Upper(text.back()) == 'Z';
     const std::string_view time = text.substr(9, text.size() - 9 - (moment.utc ? 1 : 0));
     const int hour = Two_Digits(time, 0), minute = Two_Digits(time, 2);
     const int second = time.size() == 4 ? 0 : Two_Digits(time, 4);
@@ -298,12 +298,12 @@ std::optional<std::int64_t> Read_Duration(std::string_view text) {
     const bool negative = text.starts_with('-');
     if (negative || text.starts_with('+'))
         text.remove_prefix(1);
-    if (text.size() < 2 || Capital(text[0]) != 'P')
+    if (text.size() < 2 || To_Upper(text[0]) != 'P')
         return std::nullopt;
     std::int64_t seconds = 0, number = 0;
     bool digits = false, time = false;
     for (const char character : text.substr(1)) {
-        const char c = Capital(character);
+        const char c = To_Upper(character);
         if (c >= '0' && c <= '9') {
             number = std::min<std::int64_t>(number * 10 + (c - '0'), INT32_MAX);
             digits = true;
@@ -327,21 +327,21 @@ std::optional<std::int64_t> Read_Duration(std::string_view text) {
 }
 
 std::optional<Recurrence> Read_Recurrence(std::string_view text, const Moment &start) {
-    const std::string capitals = Capitals(text);
+    const std::string capitals = To_Upper(text);
     Recurrence rule;
     bool has_frequency = false;
     for (std::string_view rest = capitals; !rest.empty();) {
-        std::string_view value = Take_Part(rest, ';');
+        std::string_view value = Next_Field(rest, ';');
         if (value.empty()) // a semicolon at the end
             continue;
-        const std::string_view name = Take_Part(value, '=');
+        const std::string_view name = Next_Field(value, '=');
         has_frequency = has_frequency || name == "FREQ";
         if (!Read_Part(name, value, rule))
             return std::nullopt;
     }
     if (!has_frequency || !At_Time_Of_Start(rule, start))
         return std::nullopt;
-    Complete(rule, start);
+    Add_Implied_Limits(rule, start);
     return rule;
 }
 
@@ -356,8 +356,8 @@ bool Is_Plain_Yearly(const Recurrence &rule, const Moment &start) {
            rule.numbers[Recurrence::Year_Days].empty() && rule.numbers[Recurrence::Set_Positions].empty();
 }
 
-bool Expand(const Recurrence &rule, const Moment &start, std::int32_t first, std::int32_t last,
-            std::size_t most, std::vector<std::int64_t> &moments) {
+bool Expand_Recurrence(const Recurrence &rule, const Moment &start, std::int32_t first, std::int32_t last,
+                       std::size_t most, std::vector<std::int64_t> &moments) {
     const std::int32_t start_day = Day_Of(start.seconds);
     if (rule.count && std::int64_t{first} - start_day > longest_count)
         return false;

@@ -69,5 +69,5 @@ bool Is_Plain_Yearly(const Recurrence &rule, const Moment &start);
 /// `most`. Those of Coordinated Universal Time are counted by that clock; `until` must be by the same clock
 /// as `start`. False, with nothing added, for a rule whose count begins too long before `first` to be
 /// counted.
-bool Expand(const Recurrence &rule, const Moment &start, std::int32_t first, std::int32_t last,
-            std::size_t most, std::vector<std::int64_t> &moments);
+bool Expand_Recurrence(const Recurrence &rule, const Moment &start, std::int32_t first, std::int32_t last,
+                       std::size_t most, std::vector<std::int64_t> &moments);

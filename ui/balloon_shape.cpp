@@ -26,7 +26,7 @@ Point Tip_Of(Balloon_Side side, Point pointer) {
 }
 
 /// The room for a body on a side, between its tail and the work area's edge.
-int Room(Balloon_Side side, Point pointer, const Rect &work) {
+int Room_On_Side(Balloon_Side side, Point pointer, const Rect &work) {
     const Point tip = Tip_Of(side, pointer);
     switch (side) {
     case Balloon_Side::Above:
@@ -42,11 +42,11 @@ int Room(Balloon_Side side, Point pointer, const Rect &work) {
 }
 
 /// Moves a length into a range; one that is too long begins where the range begins.
-int Into(int begin, int length, int range_begin, int range_end) {
+int Shift_Into_Range(int begin, int length, int range_begin, int range_end) {
     return std::max(range_begin, std::min(begin, range_end - length));
 }
 
-bool Upright(Balloon_Side side) {
+bool Is_Vertical(Balloon_Side side) {
     return side == Balloon_Side::Above || side == Balloon_Side::Below;
 }
 
@@ -65,7 +65,7 @@ void Add_Arc(std::vector<Point> &outline, Point centre, int quarter) {
 Balloon_Place Place_Balloon(Point pointer, const Rect &work, Size size) {
     Balloon_Place place;
     const auto fits = [&](Balloon_Side side) {
-        return Room(side, pointer, work) >= (Upright(side) ? size.height : size.width);
+        return Room_On_Side(side, pointer, work) >= (Is_Vertical(side) ? size.height : size.width);
     };
     for (const Balloon_Side side :
          {Balloon_Side::Left, Balloon_Side::Right, Balloon_Side::Below, Balloon_Side::Above}) {
@@ -83,8 +83,8 @@ Balloon_Place Place_Balloon(Point pointer, const Rect &work, Size size) {
         corner.x = place.tip.x + tail_length;
     else
         corner.x = place.tip.x - tail_length - size.width;
-    place.body = {Into(corner.x, size.width, work.left, work.Right()),
-                  Into(corner.y, size.height, work.top, work.Bottom()), size.width, size.height};
+    place.body = {Shift_Into_Range(corner.x, size.width, work.left, work.Right()),
+                  Shift_Into_Range(corner.y, size.height, work.top, work.Bottom()), size.width, size.height};
     return place;
 }
 

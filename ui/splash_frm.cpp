@@ -29,8 +29,8 @@ constexpr platform::Font page_font{220, true};
 constexpr platform::Font name_font{260, true};
 constexpr platform::Font line_font{90, false};
 
-void Dress(Label &label, const Rect &place, Colour back, Colour fore, const platform::Font &font,
-           platform::Text_Align align) {
+void Style_Label(Label &label, const Rect &place, Colour back, Colour fore, const platform::Font &font,
+                 platform::Text_Align align) {
     label.Move(place);
     label.Set_Back_Colour(back);
     label.Set_Fore_Colour(fore);
@@ -48,21 +48,21 @@ Splash_Frm::Splash_Frm() : Form(platform::Form_Kind::Floating, "Splash") {
     Frame_Lbl.Move({0, 0, splash_width, splash_height});
     Frame_Lbl.Set_Transparent(true);
     Frame_Lbl.Set_Frame_Colour(violet);
-    Dress(Weekday_Lbl, leaf_head, violet, deep_blue, head_font, Text_Align::Centre);
-    Dress(Day_Lbl, leaf_page, white, deep_blue, page_font, Text_Align::Centre);
+    Style_Label(Weekday_Lbl, leaf_head, violet, deep_blue, head_font, Text_Align::Centre);
+    Style_Label(Day_Lbl, leaf_page, white, deep_blue, page_font, Text_Align::Centre);
     for (int i = 0; i < 2; ++i) {
         Rect place = ring_place;
         place.left += i * ring_distance;
         Ring_Lbl[i].Move(place);
         Ring_Lbl[i].Set_Back_Colour(white);
     }
-    Dress(Name_Lbl, name_place, deep_blue, white, name_font, Text_Align::Left);
+    Style_Label(Name_Lbl, name_place, deep_blue, white, name_font, Text_Align::Left);
     Name_Lbl.Set_Caption("Vellatro");
     platform::Access_State access;
     access.role = platform::Access_Role::Text;
     access.name = "Vellatro";
     Name_Lbl.Set_Access(std::move(access));
-    Dress(Line_Lbl, line_place, deep_blue, violet, line_font, Text_Align::Left);
+    Style_Label(Line_Lbl, line_place, deep_blue, violet, line_font, Text_Align::Left);
     Line_Lbl.Set_Caption("Your month on the desktop");
     Start_Timer.On_Timer = [this] { Start_Timer_Timer(); };
 }

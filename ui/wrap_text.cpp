@@ -21,7 +21,7 @@ public:
     bool Fits(std::string_view line) const { return platform::Text_Width(line, font_) <= width_; }
 
     /// Length of the longest beginning that fits, in whole characters.
-    std::size_t Fitting(std::string_view word) const {
+    std::size_t Fitting_Length(std::string_view word) const {
         std::size_t least = 0;
         for (std::size_t most = std::min(word.size(), longest_line); least < most;) {
             const std::size_t middle = (least + most + 1) / 2;
@@ -51,7 +51,7 @@ public:
              at = Next_End(rest, at))
             end = at;
         if (end == 0)
-            end = Fitting(rest);
+            end = Fitting_Length(rest);
         if (end != 0)
             return end;
         for (end = 1; end < rest.size() && Previous_Character(rest, end + 1) != end; ++end) {
@@ -82,8 +82,8 @@ std::string With_Plain_Breaks(std::string_view text) {
 
 } // namespace
 
-std::vector<std::string> Take_Lines(std::string_view &rest, const platform::Font &font, int width,
-                                    std::size_t max_lines) {
+std::vector<std::string> Extract_Lines(std::string_view &rest, const platform::Font &font, int width,
+                                       std::size_t max_lines) {
     const Line_Breaker breaker(font, width);
     std::vector<std::string> lines;
     while (!rest.empty() && lines.size() < max_lines) {
@@ -105,7 +105,7 @@ std::vector<std::string> Wrap_Text(std::string_view text, const platform::Font &
                                    std::size_t max_lines) {
     const std::string plain = With_Plain_Breaks(text.substr(0, longest_text));
     std::string_view rest = plain;
-    std::vector<std::string> lines = Take_Lines(rest, font, width, max_lines);
+    std::vector<std::string> lines = Extract_Lines(rest, font, width, max_lines);
     if ((text.size() > longest_text || !rest.empty()) && !lines.empty())
         Line_Breaker(font, width).Cut(lines.back());
     return lines;

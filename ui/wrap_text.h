@@ -9,8 +9,8 @@
 
 /// Takes lines off the beginning of `rest`, at most `max_lines` of them, as Wrap_Text breaks them; each ends
 /// at a "\n" or where no more fits into `width` twips.
-std::vector<std::string> Take_Lines(std::string_view &rest, const platform::Font &font, int width,
-                                    std::size_t max_lines);
+std::vector<std::string> Extract_Lines(std::string_view &rest, const platform::Font &font, int width,
+                                       std::size_t max_lines);
 
 /// The lines of `text`, broken at blanks, between characters of texts that have none, and inside a word that
 /// is wider than a line. `width` is in twips. Line breaks of the text stay; other control characters are

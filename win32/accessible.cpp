@@ -46,7 +46,7 @@ BSTR New_String(const std::string &text) {
 }
 
 /// Hands a text out; an empty one is none.
-HRESULT Give(const std::string &text, BSTR *out) {
+HRESULT Set_Result(const std::string &text, BSTR *out) {
     if (text.empty())
         return S_FALSE;
     *out = New_String(text);
@@ -54,7 +54,7 @@ HRESULT Give(const std::string &text, BSTR *out) {
 }
 
 /// Hands a number out, if there is one.
-HRESULT Give(std::optional<long> number, VARIANT *out) {
+HRESULT Set_Result(std::optional<long> number, VARIANT *out) {
     if (!number)
         return S_FALSE;
     out->vt = VT_I4;
@@ -136,15 +136,15 @@ public:
     HRESULT STDMETHODCALLTYPE get_accChildCount(long *count) override;
     HRESULT STDMETHODCALLTYPE get_accChild(VARIANT child, IDispatch **object) override;
     HRESULT STDMETHODCALLTYPE get_accName(VARIANT child, BSTR *out) override {
-        return Give_Text(child, out, [](const Target &target) {
+        return Return_Text(child, out, [](const Target &target) {
             return target.control == nullptr ? target.form->title : Access_Name(*target.control);
         });
     }
     HRESULT STDMETHODCALLTYPE get_accValue(VARIANT child, BSTR *out) override {
-        return Give_Text(child, out, &Access_State::value);
+        return Return_Text(child, out, &Access_State::value);
     }
     HRESULT STDMETHODCALLTYPE get_accDescription(VARIANT child, BSTR *out) override {
-        return Give_Text(child, out, [](const Target &target) {
+        return Return_Text(child, out, [](const Target &target) {
             return target.control == nullptr ? target.form->description : std::string();
         });
     }
@@ -160,7 +160,7 @@ public:
     HRESULT STDMETHODCALLTYPE get_accFocus(VARIANT *child) override;
     HRESULT STDMETHODCALLTYPE get_accSelection(VARIANT *children) override;
     HRESULT STDMETHODCALLTYPE get_accDefaultAction(VARIANT child, BSTR *out) override {
-        return Give_Text(child, out, &Access_State::default_action);
+        return Return_Text(child, out, &Access_State::default_action);
     }
     HRESULT STDMETHODCALLTYPE accSelect(long, VARIANT) override { return DISP_E_MEMBERNOTFOUND; }
     HRESULT STDMETHODCALLTYPE accLocation(long *left, long *top, long *width, long *height,
@@ -191,46 +191,46 @@ private:
 
     /// Hands out the text that `pick` has for a child.
     template <typename Pick>
-    HRESULT Give_Text(const VARIANT &child, BSTR *out, const Pick &pick) const {
+    HRESULT Return_Text(const VARIANT &child, BSTR *out, const Pick &pick) const {
         if (out == nullptr)
             return E_POINTER;
         *out = nullptr;
         const Target target = Find(child);
         try {
-            return FAILED(target.error) ? target.error : Give(pick(target), out);
+            return FAILED(target.error) ? target.error : Set_Result(pick(target), out);
         } catch (...) {
             return E_OUTOFMEMORY;
         }
     }
 
     /// Hands out one text of a child's control. The form itself has none.
-    HRESULT Give_Text(const VARIANT &child, BSTR *out, std::string Access_State::*text) const {
-        return Give_Text(child, out, [text](const Target &target) {
+    HRESULT Return_Text(const VARIANT &child, BSTR *out, std::string Access_State::*text) const {
+        return Return_Text(child, out, [text](const Target &target) {
             return target.control == nullptr ? std::string() : target.control->access.*text;
         });
     }
     HRESULT No_Text(const VARIANT &child, BSTR *out) const {
-        return Give_Text(child, out, [](const Target &) { return std::string(); });
+        return Return_Text(child, out, [](const Target &) { return std::string(); });
     }
 
     /// Hands out the number that `pick` has for a child.
     template <typename Pick>
-    HRESULT Give_Number(const VARIANT &child, VARIANT *out, const Pick &pick) const {
+    HRESULT Return_Number(const VARIANT &child, VARIANT *out, const Pick &pick) const {
         if (out == nullptr)
             return E_POINTER;
         out->vt = VT_EMPTY;
         const Target target = Find(child);
-        return FAILED(target.error) ? target.error : Give(pick(target), out);
+        return FAILED(target.error) ? target.error : Set_Result(pick(target), out);
     }
 
     /// Hands out the child, if any, that `pick` finds in the form.
     template <typename Pick>
-    HRESULT Give_Child(VARIANT *out, const Pick &pick) const {
+    HRESULT Return_Child(VARIANT *out, const Pick &pick) const {
         if (out == nullptr)
             return E_POINTER;
         out->vt = VT_EMPTY;
         const Form_Model *form = Form();
-        return form == nullptr ? CO_E_OBJNOTCONNECTED : Give(pick(*form), out);
+        return form == nullptr ? CO_E_OBJNOTCONNECTED : Set_Result(pick(*form), out);
     }
 
     ULONG owners_ = 1;
@@ -321,7 +321,7 @@ HRESULT Accessible_Form::Next(ULONG wanted, VARIANT *children, ULONG *fetched) {
         if (!child)
             break;
         last_ = *child;
-        Give(child, &children[given]);
+        Set_Result(child, &children[given]);
     }
     if (fetched != nullptr)
         *fetched = given;
@@ -357,7 +357,7 @@ HRESULT Accessible_Form::get_accChild(VARIANT child, IDispatch **object) {
 }
 
 HRESULT Accessible_Form::get_accRole(VARIANT child, VARIANT *role) {
-    return Give_Number(child, role, [this](const Target &target) -> long {
+    return Return_Number(child, role, [this](const Target &target) -> long {
         if (only_ >= 0 && target.control->access.role == Access_Role::None)
             return target.control->kind == platform::Control_Kind::Label ? ROLE_SYSTEM_STATICTEXT
                                                                          : ROLE_SYSTEM_GRAPHIC;
@@ -366,7 +366,7 @@ HRESULT Accessible_Form::get_accRole(VARIANT child, VARIANT *role) {
 }
 
 HRESULT Accessible_Form::get_accState(VARIANT child, VARIANT *state) {
-    return Give_Number(child, state, [this](const Target &target) {
+    return Return_Number(child, state, [this](const Target &target) {
         if (only_ >= 0)
             return State_Of(window_, *target.control);
         const bool focus = GetFocus() == window_;
@@ -379,7 +379,7 @@ HRESULT Accessible_Form::get_accState(VARIANT child, VARIANT *state) {
 }
 
 HRESULT Accessible_Form::get_accFocus(VARIANT *child) {
-    return Give_Child(child, [this](const Form_Model &form) -> std::optional<long> {
+    return Return_Child(child, [this](const Form_Model &form) -> std::optional<long> {
         if (GetFocus() != window_)
             return std::nullopt;
         VARIANT number = {};
@@ -390,7 +390,7 @@ HRESULT Accessible_Form::get_accFocus(VARIANT *child) {
 }
 
 HRESULT Accessible_Form::get_accSelection(VARIANT *children) {
-    return Give_Child(children, [this](const Form_Model &form) -> std::optional<long> {
+    return Return_Child(children, [this](const Form_Model &form) -> std::optional<long> {
         for (const Control_State *control : form.controls) {
             if (only_ < 0 && Is_Presented(*control) && control->access.current)
                 return Child_Number(*control);
@@ -421,7 +421,7 @@ HRESULT Accessible_Form::accLocation(long *left, long *top, long *width, long *h
 }
 
 HRESULT Accessible_Form::accNavigate(long direction, VARIANT start, VARIANT *end) {
-    return Give_Number(start, end, [&](const Target &target) -> std::optional<long> {
+    return Return_Number(start, end, [&](const Target &target) -> std::optional<long> {
         const bool from_form = start.lVal == CHILDID_SELF;
         if (direction == (from_form ? NAVDIR_FIRSTCHILD : NAVDIR_NEXT))
             return Nearest(*target.form, start.lVal, 1);
@@ -432,7 +432,7 @@ HRESULT Accessible_Form::accNavigate(long direction, VARIANT start, VARIANT *end
 }
 
 HRESULT Accessible_Form::accHitTest(long x, long y, VARIANT *child) {
-    return Give_Child(child, [&](const Form_Model &form) -> std::optional<long> {
+    return Return_Child(child, [&](const Form_Model &form) -> std::optional<long> {
         POINT point = {x, y};
         ScreenToClient(window_, &point);
         RECT all = {};

@@ -15,10 +15,10 @@ namespace win32 {
 LRESULT Answer_Get_Object(HWND window, WPARAM wparam, LPARAM lparam, int only = -1);
 
 /// Announces that the name, the value or the state of a dialog's painted control has changed.
-void Tell_Changed(HWND window);
+void Announce_Change(HWND window);
 
 /// Announces the control with the focus to those that listen.
-void Tell_Focus(HWND window, const platform::Form_Model &model);
+void Announce_Focus(HWND window, const platform::Form_Model &model);
 
 /// What has been announced of a form's controls.
 class Announcements {
@@ -29,12 +29,12 @@ public:
 
 private:
     /// Of the texts a fingerprint is enough to see a change.
-    struct Told {
+    struct Announced_State {
         bool presented;
         std::size_t name;
         std::size_t value;
     };
-    std::vector<Told> told_;
+    std::vector<Announced_State> announced_;
 };
 
 /// A control's number among the children: its place in the control order, from 1. It never changes.

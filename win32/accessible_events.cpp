@@ -27,15 +27,16 @@ const std::string &Access_Name(const platform::Control_State &control) {
 }
 
 void Announcements::Update(HWND window, const platform::Form_Model &model) {
-    const bool first = told_.empty();
-    told_.resize(model.controls.size());
+    const bool first = announced_.empty();
+    announced_.resize(model.controls.size());
     for (const platform::Control_State *control : model.controls) {
         if (control->access.role == platform::Access_Role::None)
             continue;
         const std::hash<std::string> fingerprint;
-        const Told now = {control->visible, fingerprint(Access_Name(*control)),
-                          fingerprint(control->access.value)};
-        const Told before = std::exchange(told_[static_cast<std::size_t>(control->index)], now);
+        const Announced_State now = {control->visible, fingerprint(Access_Name(*control)),
+                                     fingerprint(control->access.value)};
+        const Announced_State before =
+            std::exchange(announced_[static_cast<std::size_t>(control->index)], now);
         if (first)
             continue;
         const long child = Child_Number(*control);
@@ -50,12 +51,12 @@ void Announcements::Update(HWND window, const platform::Form_Model &model) {
     }
 }
 
-void Tell_Changed(HWND window) {
+void Announce_Change(HWND window) {
     for (const auto event : {EVENT_OBJECT_NAMECHANGE, EVENT_OBJECT_VALUECHANGE, EVENT_OBJECT_STATECHANGE})
         Announce(static_cast<DWORD>(event), window, CHILDID_SELF);
 }
 
-void Tell_Focus(HWND window, const platform::Form_Model &model) {
+void Announce_Focus(HWND window, const platform::Form_Model &model) {
     if (GetFocus() != window || model.focused < 0 || model.focused >= static_cast<int>(model.controls.size()))
         return;
     const platform::Control_State &control = *model.controls[static_cast<std::size_t>(model.focused)];

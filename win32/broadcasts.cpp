@@ -20,10 +20,10 @@ Callback<bool(platform::Broadcast)> broadcast_listener;
 HWND broadcasts = nullptr;
 
 /// What the system told while the mouse was taken, each thing once.
-std::vector<std::pair<UINT, WPARAM>> unheard;
+std::vector<std::pair<UINT, WPARAM>> deferred_broadcasts;
 
 /// The listener's answer.
-bool Tell(platform::Broadcast broadcast) noexcept {
+bool Notify_Listener(platform::Broadcast broadcast) noexcept {
     const auto now = broadcast_listener;
     return !now || now(broadcast);
 }
@@ -34,25 +34,25 @@ bool Concerns_Fonts(WPARAM setting) {
 }
 
 /// Does what one of the system's broadcasts means to the program.
-void Hear(UINT message, WPARAM wparam) {
+void Process_Broadcast(UINT message, WPARAM wparam) {
     if (message == WM_SETTINGCHANGE && Concerns_Fonts(wparam)) {
         // Fonts are no other setting besides: of them all forms hear, which then lay themselves out once.
         win32::Check_Scale(true);
     } else if (message == WM_SETTINGCHANGE) {
         win32::Check_Scale(false);
-        Tell(platform::Broadcast::Settings_Changed);
+        Notify_Listener(platform::Broadcast::Settings_Changed);
     } else if (message == WM_DISPLAYCHANGE) {
         win32::Check_Scale(false);
-        Tell(platform::Broadcast::Display_Changed);
+        Notify_Listener(platform::Broadcast::Display_Changed);
     } else if (message == WM_TIMECHANGE) {
-        Tell(platform::Broadcast::Time_Changed);
+        Notify_Listener(platform::Broadcast::Time_Changed);
     } else {
-        Tell(platform::Broadcast::Colours_Changed);
+        Notify_Listener(platform::Broadcast::Colours_Changed);
     }
 }
 
 /// Returns whether a message was one of those that mean something to the program.
-bool Heard(UINT message, WPARAM wparam) {
+bool Process_Message(UINT message, WPARAM wparam) {
     switch (message) {
     case WM_TIMER:
         win32::Tick(wparam);
@@ -63,20 +63,21 @@ bool Heard(UINT message, WPARAM wparam) {
     case WM_SYSCOLORCHANGE:
     case WM_THEMECHANGED:
         if (!win32::Mouse_Is_Taken())
-            Hear(message, wparam);
-        else if (const std::pair told(message, wparam); std::ranges::find(unheard, told) == unheard.end())
-            unheard.push_back(told); // until the next tick
+            Process_Broadcast(message, wparam);
+        else if (const std::pair told(message, wparam);
+                 std::ranges::find(deferred_broadcasts, told) == deferred_broadcasts.end())
+            deferred_broadcasts.push_back(told); // until the next tick
         return true;
     default:
         return false;
     }
 }
 
-void CALLBACK Hear_Of_Front(HWINEVENTHOOK, DWORD, HWND, LONG, LONG, DWORD, DWORD) {
-    const Scoped_Value by_itself(win32::Comes_By_Itself, true);
+void CALLBACK On_Front_Changed(HWINEVENTHOOK, DWORD, HWND, LONG, LONG, DWORD, DWORD) {
+    const Scoped_Value system_event(win32::In_System_Event, true);
     const Scoped_Value scale(win32::Dialog_Dots, 0);
     if (!win32::Mouse_Is_Taken())
-        Tell(platform::Broadcast::Front_Changed);
+        Notify_Listener(platform::Broadcast::Front_Changed);
 }
 
 /// The message by which a shell tells that it has its task bar.
@@ -89,33 +90,33 @@ UINT Shell_Started_Message() {
 LRESULT End_Session(UINT message, WPARAM wparam, LPARAM lparam) {
     const bool ends = message == WM_QUERYENDSESSION || wparam != FALSE;
     const bool forced = ends && (static_cast<ULONG_PTR>(lparam) & ENDSESSION_CRITICAL) != 0;
-    win32::No_More_Boxes = forced;
+    win32::Boxes_Suppressed = forced;
     if (forced)
-        Tell(platform::Broadcast::Session_Forced);
+        Notify_Listener(platform::Broadcast::Session_Forced);
     // The end itself, WM_ENDSESSION, leaves no time for a question: whoever agrees has to be done here.
     if (message == WM_QUERYENDSESSION)
-        return forced || Tell(platform::Broadcast::Session_Ends) ? TRUE : FALSE;
+        return forced || Notify_Listener(platform::Broadcast::Session_Ends) ? TRUE : FALSE;
     if (ends)
-        Tell(platform::Broadcast::Session_Over);
+        Notify_Listener(platform::Broadcast::Session_Over);
     return 0;
 }
 
 LRESULT CALLBACK Broadcast_Procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
-    const Scoped_Value by_itself(win32::Comes_By_Itself, true);
+    const Scoped_Value system_event(win32::In_System_Event, true);
     const Scoped_Value scale(win32::Dialog_Dots, 0);
     try {
         if (message == WM_QUERYENDSESSION || message == WM_ENDSESSION)
             return End_Session(message, wparam, lparam);
         if (message == Shell_Started_Message()) {
-            Tell(platform::Broadcast::Shell_Started);
+            Notify_Listener(platform::Broadcast::Shell_Started);
             return 0;
         }
         if (message == WM_CLOSE) {
             // Not the window's end: the timers and the broadcasts live in it.
-            Tell(platform::Broadcast::Close_Request);
+            Notify_Listener(platform::Broadcast::Close_Request);
             return 0;
         }
-        if (Heard(message, wparam))
+        if (Process_Message(message, wparam))
             return 0;
     } catch (...) {
         // Only want of memory comes here. The system's code above cannot pass an exception on.
@@ -139,9 +140,9 @@ HWND Broadcast_Window() {
     return broadcasts;
 }
 
-void Hear_Waiting() {
-    for (const auto &[message, wparam] : std::exchange(unheard, {}))
-        Hear(message, wparam);
+void Process_Deferred_Broadcasts() {
+    for (const auto &[message, wparam] : std::exchange(deferred_broadcasts, {}))
+        Process_Broadcast(message, wparam);
 }
 
 } // namespace win32
@@ -154,7 +155,7 @@ void Listen_To_Broadcasts(Callback<bool(Broadcast)> listener) {
     if (!broadcast_listener || front != nullptr)
         return;
     win32::Broadcast_Window();
-    front = SetWinEventHook(EVENT_SYSTEM_FOREGROUND, EVENT_SYSTEM_FOREGROUND, nullptr, Hear_Of_Front, 0, 0,
+    front = SetWinEventHook(EVENT_SYSTEM_FOREGROUND, EVENT_SYSTEM_FOREGROUND, nullptr, On_Front_Changed, 0, 0,
                             WINEVENT_OUTOFCONTEXT | WINEVENT_SKIPOWNPROCESS);
 }
 

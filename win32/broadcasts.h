@@ -13,7 +13,7 @@ HWND Broadcast_Window();
 bool Mouse_Is_Taken();
 
 /// Does what the broadcasts mean that came while the mouse was taken.
-void Hear_Waiting();
+void Process_Deferred_Broadcasts();
 
 /// Calls what the timer is to call.
 void Tick(UINT_PTR id);

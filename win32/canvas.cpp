@@ -18,7 +18,7 @@ namespace {
 /// The longest text that one drawing call takes.
 constexpr std::size_t longest_call = 8192;
 
-COLORREF Plain(Colour colour) {
+COLORREF To_Colorref(Colour colour) {
     return static_cast<COLORREF>(Resolve_Colour(colour));
 }
 
@@ -68,7 +68,7 @@ const win32::Pixel_Buffer &Canvas::Pixels() const {
     return pixels_;
 }
 
-void Canvas::Put_On(HDC target) const {
+void Canvas::Copy_To(HDC target) const {
     // What the system draws has no opacity, and would not be seen on a surface of the window's own.
     const win32::Pixel_Buffer &all = Pixels();
     std::for_each(all.pixels, all.pixels + std::ptrdiff_t{all.width} * all.height,
@@ -80,7 +80,7 @@ void Canvas::Put_On(HDC target) const {
 void Fill_Rect(Canvas &canvas, const Rect &rect, Colour colour) {
     const RECT pixels = win32::To_Pixels(rect);
     if (pixels.left < pixels.right && pixels.top < pixels.bottom)
-        Fill_Pixels(canvas.Dc(), pixels, Plain(colour));
+        Fill_Pixels(canvas.Dc(), pixels, To_Colorref(colour));
 }
 
 void Frame_Rect(Canvas &canvas, const Rect &rect, Colour colour, int thickness) {
@@ -97,7 +97,7 @@ void Frame_Rect(Canvas &canvas, const Rect &rect, Colour colour, int thickness) 
                           {outer.left, top, left, bottom},
                           {right, top, outer.right, bottom}};
     for (const RECT &side : sides)
-        Fill_Pixels(canvas.Dc(), side, Plain(colour));
+        Fill_Pixels(canvas.Dc(), side, To_Colorref(colour));
 }
 
 void Fill_Polygon(Canvas &canvas, const std::vector<Point> &corners, Colour colour) {
@@ -129,7 +129,7 @@ void Draw_Text(Canvas &canvas, std::string_view text, const Rect &rect, const Fo
         return;
     const HDC dc = canvas.Dc();
     SelectObject(dc, win32::Find_Font(font).handle);
-    SetTextColor(dc, Plain(colour));
+    SetTextColor(dc, To_Colorref(colour));
     const std::wstring_view part(wide.data(), Whole_Code_Points(wide, longest_call));
     // A text that is too long shows its beginning.
     const int room =

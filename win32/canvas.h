@@ -19,7 +19,7 @@ struct platform::Canvas {
     /// The bitmap's pixels, with all earlier drawing done.
     const win32::Pixel_Buffer &Pixels() const;
     /// Copies the bitmap to its place on `target`.
-    void Put_On(HDC target) const;
+    void Copy_To(HDC target) const;
 
 private:
     RECT area_;

@@ -21,18 +21,18 @@ class Component_Session {
 public:
     Component_Session() {
         auto *const begin = Look_Up<HRESULT WINAPI(void *)>(L"ole32.dll", "CoInitialize");
-        begun_ = begin != nullptr && SUCCEEDED(begin(nullptr));
+        initialized_ = begin != nullptr && SUCCEEDED(begin(nullptr));
     }
     ~Component_Session() {
         auto *const end = Look_Up<void WINAPI()>(L"ole32.dll", "CoUninitialize");
-        if (begun_ && end != nullptr)
+        if (initialized_ && end != nullptr)
             end();
     }
     Component_Session(const Component_Session &) = delete;
     Component_Session &operator=(const Component_Session &) = delete;
 
 private:
-    bool begun_ = false;
+    bool initialized_ = false;
 };
 
 } // namespace win32

@@ -96,8 +96,8 @@ bool Add_Pictures(IDesktopWallpaper &wallpaper, std::string &lines) {
         const Task_Text picture(text);
         if (*picture == L'\0')
             return false;
-        lines +=
-            Monitor_Line + From_Wide(monitor.get()) + "\t" + From_Wide(Lasting_Picture(picture.get())) + "\n";
+        lines += Monitor_Line + From_Wide(monitor.get()) + "\t" +
+                 From_Wide(Persistent_Picture(picture.get())) + "\n";
     }
     return true;
 }
@@ -124,7 +124,7 @@ bool Show_Slides(IDesktopWallpaper &wallpaper, const std::vector<std::string> &p
 
 } // namespace
 
-std::string Monitors_Now() {
+std::string Get_Monitor_Wallpapers() {
     const Component_Session session;
     const Unique_Interface<IDesktopWallpaper> wallpaper = Desktop_Wallpaper();
     DESKTOP_WALLPAPER_POSITION position{};
@@ -136,7 +136,7 @@ std::string Monitors_Now() {
     return (slides ? Add_Slides(*wallpaper, lines) : Add_Pictures(*wallpaper, lines)) ? lines : std::string();
 }
 
-bool Hang_On_Monitors(const std::string &monitors) {
+bool Set_Monitor_Wallpapers(const std::string &monitors) {
     const Component_Session session;
     const Unique_Interface<IDesktopWallpaper> wallpaper = Desktop_Wallpaper();
     if (!wallpaper)
@@ -167,7 +167,7 @@ bool Hang_On_Monitors(const std::string &monitors) {
                                                     static_cast<UINT>(tick)));
 }
 
-std::wstring Lasting_Picture(const std::wstring &path) {
+std::wstring Persistent_Picture(const std::wstring &path) {
     // C:\Users\NAME\AppData\Roaming\Microsoft\Windows\Themes\TranscodedWallpaper, there with an ending in
     // Windows 7 and with a number for a monitor, or ...\Themes\CachedFiles\CachedImage_1920_1080_POS4.jpg
     const std::size_t cut = path.rfind(L'\\');

@@ -6,14 +6,14 @@
 
 namespace win32 {
 
-/// What hangs on the monitors now, as a text for Hang_On_Monitors. Empty where the system does not tell, or
-/// where a monitor has no picture.
-std::string Monitors_Now();
+/// What hangs on the monitors now, as a text for Set_Monitor_Wallpapers. Empty where the system does not
+/// tell, or where a monitor has no picture.
+std::string Get_Monitor_Wallpapers();
 
 /// Hangs that up again. Returns false if something of it cannot be hung up any more.
-bool Hang_On_Monitors(const std::string &monitors);
+bool Set_Monitor_Wallpapers(const std::string &monitors);
 
 /// The path itself, or that of a copy, if it is a file that the system writes over with the next wallpaper.
-std::wstring Lasting_Picture(const std::wstring &path);
+std::wstring Persistent_Picture(const std::wstring &path);
 
 } // namespace win32

@@ -59,7 +59,7 @@ const Control_State *Dialog_Window::Tab_Strip() const {
     return nullptr;
 }
 
-bool Dialog_Window::Holds(const Control_State &holder, const Control_State &control) const {
+bool Dialog_Window::Contains(const Control_State &holder, const Control_State &control) const {
     for (const Control_State *each = &control;;
          each = Model()->controls[static_cast<std::size_t>(each->container)]) {
         if (each == &holder)
@@ -127,9 +127,9 @@ void Dialog_Window::Place_Control(const Control_State &control) {
         Set_Combo_Heights(window, height, control);
 }
 
-void Dialog_Window::Place_Held(const Control_State &changed, const Rect &before) {
+void Dialog_Window::Place_Children(const Control_State &changed, const Rect &before) {
     for (const Control_State *control : Model()->controls) {
-        if (Control_Window(control->index) != nullptr && Holds(changed, *control))
+        if (Control_Window(control->index) != nullptr && Contains(changed, *control))
             Place_Control(*control);
     }
     if (changed.kind != Control_Kind::Frame) {
@@ -227,7 +227,7 @@ void Dialog_Window::Show_Choice(const Control_State &control) {
 
 /// The keyboard leaves what cannot take it any more: a control that is hidden or disabled would keep it, and
 /// swallow it.
-void Dialog_Window::Leave_Focus(const Control_State &changed) {
+void Dialog_Window::Release_Focus(const Control_State &changed) {
     HWND focus = GetFocus();
     if (focus == nullptr || !IsChild(window_, focus))
         return;
@@ -235,7 +235,7 @@ void Dialog_Window::Leave_Focus(const Control_State &changed) {
     while (GetParent(focus) != window_)
         focus = GetParent(focus);
     const Control_State *control = Control_Of(focus);
-    if (control == nullptr || !Holds(changed, *control))
+    if (control == nullptr || !Contains(changed, *control))
         return;
     const Control_State *tabs = Tab_Strip();
     // With its page the keyboard goes to the tabs.
@@ -246,16 +246,16 @@ void Dialog_Window::Leave_Focus(const Control_State &changed) {
         SendMessageW(window_, WM_NEXTDLGCTL, 0, FALSE);
 }
 
-void Dialog_Window::Update_Held(const Control_State &changed) {
+void Dialog_Window::Update_Children(const Control_State &changed) {
     if (!changed.visible || !changed.enabled)
-        Leave_Focus(changed);
-    if (changed.kind == Control_Kind::Frame && changed.visible && Make_Missing())
+        Release_Focus(changed);
+    if (changed.kind == Control_Kind::Frame && changed.visible && Make_Missing_Controls())
         Update_Tooltips();
     HDWP moves = BeginDeferWindowPos(16);
     bool shown_or_hidden = false;
     for (const Control_State *control : Model()->controls) {
         const HWND window = Control_Window(control->index);
-        if (window == nullptr || !Holds(changed, *control))
+        if (window == nullptr || !Contains(changed, *control))
             continue;
         const bool usable = platform::Is_Usable(*Model(), *control);
         if (usable != (IsWindowEnabled(window) != FALSE))
@@ -289,9 +289,9 @@ void Dialog_Window::Update_Tooltips() {
 void Dialog_Window::Control_Changed(const Control_State &control, Aspect aspect, const Rect &before) {
     // These concern what a frame holds too, even when it has no window itself.
     if (aspect == Aspect::Bounds)
-        return Place_Held(control, before);
+        return Place_Children(control, before);
     if (aspect == Aspect::Visible || aspect == Aspect::Enabled)
-        return Update_Held(control);
+        return Update_Children(control);
     const HWND window = Control_Window(control.index);
     if (window == nullptr)
         return;
@@ -301,7 +301,7 @@ void Dialog_Window::Control_Changed(const Control_State &control, Aspect aspect,
         Set_Caption(control);
         if (control.painted) {
             InvalidateRect(window, nullptr, FALSE);
-            Tell_Changed(window);
+            Announce_Change(window);
         }
         break;
     case Aspect::Look:
@@ -313,13 +313,13 @@ void Dialog_Window::Control_Changed(const Control_State &control, Aspect aspect,
         Fill(control);
         Set_Caption(control);
         Show_Choice(control);
-        natives_[static_cast<std::size_t>(control.index)].rested = control.value;
+        natives_[static_cast<std::size_t>(control.index)].settled_value = control.value;
         break;
     case Aspect::Checked:
     case Aspect::Selected:
         Show_Choice(control);
         Set_Caption(control);
-        natives_[static_cast<std::size_t>(control.index)].rested = control.value;
+        natives_[static_cast<std::size_t>(control.index)].settled_value = control.value;
         break;
     case Aspect::Tooltip:
         Update_Tooltips();

@@ -50,7 +50,7 @@ Selection Selection_Of(HWND edit) {
 }
 
 /// How many more characters fit in the place of the selection.
-std::size_t Room(HWND edit) {
+std::size_t Remaining_Length(HWND edit) {
     const auto [begin, end] = Selection_Of(edit);
     const auto limit = static_cast<std::size_t>(SendMessageW(edit, EM_GETLIMITTEXT, 0, 0));
     const auto kept = static_cast<std::size_t>(GetWindowTextLengthW(edit)) - (end - begin);
@@ -72,7 +72,7 @@ void Replace_Selection(HWND edit, std::wstring_view text, bool can_undo) {
 
 void Paste(HWND edit) {
     std::wstring text = Without_Breaks(Clipboard(edit).Text());
-    const std::size_t room = Room(edit);
+    const std::size_t room = Remaining_Length(edit);
     if (text.size() > room) {
         MessageBeep(MB_OK);
         text.resize(Whole_Code_Points(text, room));

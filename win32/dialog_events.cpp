@@ -15,7 +15,7 @@ using platform::Input_Event;
 using platform::Input_Kind;
 
 /// Where the form did not follow the native control, that one goes back.
-void Dialog_Window::Tell(const Control_State &control, Input_Event event) {
+void Dialog_Window::Send_Event(const Control_State &control, Input_Event event) {
     if (updating_)
         return;
     event.control = control.index;
@@ -32,13 +32,13 @@ void Dialog_Window::Tell(const Control_State &control, Input_Event event) {
     }
 }
 
-void Dialog_Window::Tell(const Control_State &control, Input_Kind kind, int selected) {
+void Dialog_Window::Send_Event(const Control_State &control, Input_Kind kind, int selected) {
     Input_Event event = Event_Of(kind);
     event.selected = selected;
-    Tell(control, std::move(event));
+    Send_Event(control, std::move(event));
 }
 
-void Dialog_Window::Command(int id, int code) {
+void Dialog_Window::Handle_Command(int id, int code) {
     if (id == IDCANCEL)
         return Cancel();
     const int index = id - First_Control_Id;
@@ -85,7 +85,7 @@ void Dialog_Window::Click(const Control_State &control, int key) {
     // An option that is not checked tells of a click also when the keyboard reaches it.
     if (control.kind == Control_Kind::Option_Button && !event.checked)
         return;
-    Tell(control, std::move(event));
+    Send_Event(control, std::move(event));
 }
 
 void Dialog_Window::Text_Edited(const Control_State &control) {
@@ -103,9 +103,9 @@ void Dialog_Window::Text_Edited(const Control_State &control) {
 void Dialog_Window::List_Command(const Control_State &control, int code) {
     const int item = Selected_Item(Control_Window(control.index), control);
     if (code == LBN_SELCHANGE && item >= 0)
-        Tell(control, Input_Kind::Selected, item);
+        Send_Event(control, Input_Kind::Selected, item);
     else if (code == LBN_DBLCLK && item >= 0)
-        Tell(control, Input_Kind::Item_Activated, item);
+        Send_Event(control, Input_Kind::Item_Activated, item);
 }
 
 void Dialog_Window::Combo_Command(const Control_State &control, int code) {
@@ -113,7 +113,7 @@ void Dialog_Window::Combo_Command(const Control_State &control, int code) {
     switch (code) {
     case CBN_SELCHANGE:
         if (item >= 0)
-            Tell(control, Input_Kind::Selected, item);
+            Send_Event(control, Input_Kind::Selected, item);
         break;
     case CBN_EDITCHANGE:
         Text_Edited(control);
@@ -135,7 +135,7 @@ void Dialog_Window::Combo_Closed(const Control_State &control) {
         if (Window_Text(combo) != Without_Breaks(To_Wide(control.caption)))
             Text_Edited(control);
     } else if (item >= 0 && item != control.selected) {
-        Tell(control, Input_Kind::Selected, item);
+        Send_Event(control, Input_Kind::Selected, item);
     }
 }
 
@@ -148,22 +148,22 @@ void Dialog_Window::Slider_Moved(const Control_State &control, int code) {
     if (rests)
         slider_tip_.Hide();
     if (value != control.value)
-        Tell(control, Input_Kind::Scrolled, value);
+        Send_Event(control, Input_Kind::Scrolled, value);
     if (Model() == nullptr || !rests)
         return;
-    int &rested = natives_[static_cast<std::size_t>(control.index)].rested;
+    int &settled_value = natives_[static_cast<std::size_t>(control.index)].settled_value;
     const auto left_at = static_cast<int>(SendMessageW(slider, TBM_GETPOS, 0, 0));
-    if (std::exchange(rested, left_at) != left_at)
-        Tell(control, Input_Kind::Selected, left_at);
+    if (std::exchange(settled_value, left_at) != left_at)
+        Send_Event(control, Input_Kind::Selected, left_at);
 }
 
-bool Dialog_Window::Notified(NMHDR &notice) {
+bool Dialog_Window::Handle_Notify(NMHDR &notice) {
     if (tooltips_.Answer(notice))
         return true;
     const Control_State *control = Control_Of(notice.hwndFrom);
     if (control == nullptr || control->kind != Control_Kind::Tab_Strip || notice.code != TCN_SELCHANGE)
         return false;
-    Tell(*control, Input_Kind::Selected, Selected_Item(notice.hwndFrom, *control));
+    Send_Event(*control, Input_Kind::Selected, Selected_Item(notice.hwndFrom, *control));
     return true;
 }
 
@@ -173,11 +173,11 @@ bool Dialog_Window::Turn_Page(int step) {
         !platform::Is_Shown(*Model(), *tabs))
         return false;
     const auto count = static_cast<int>(tabs->items.size());
-    Tell(*tabs, Input_Kind::Selected, (tabs->selected + step + count) % count);
+    Send_Event(*tabs, Input_Kind::Selected, (tabs->selected + step + count) % count);
     return true;
 }
 
-bool Dialog_Window::Take_First(const MSG &message) {
+bool Dialog_Window::Preprocess_Message(const MSG &message) {
     if (message.message != WM_KEYDOWN)
         return false;
     const Input_Event event = Key_Event(true, message.wParam, message.lParam);

@@ -52,7 +52,7 @@ private:
     std::array<int, 128> widths_ = {};
 };
 
-int Widest(const Control_State &control) {
+int Widest_Item(const Control_State &control) {
     const Text_Measure measure(control.font);
     int widest = 0;
     for (const std::string &item : control.items)
@@ -109,12 +109,12 @@ void Fill_List(HWND window, const Control_State &control) {
 void Fit_Widest_Item(HWND window, const Control_State &control) {
     const int margin = 2 * GetSystemMetrics(SM_CXEDGE) + To_Pixels(60);
     if (control.kind == Control_Kind::List_Box) {
-        SendMessageW(window, LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(Widest(control) + margin), 0);
+        SendMessageW(window, LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(Widest_Item(control) + margin), 0);
     } else if (control.kind == Control_Kind::Combo_Box) {
         const int bar = GetSystemMetrics(SM_CXVSCROLL);
         const int room = GetSystemMetrics(SM_CXSCREEN);
         // The system takes the combo box's own width when that is larger.
-        const int width = std::min(Widest(control) + margin + bar, room);
+        const int width = std::min(Widest_Item(control) + margin + bar, room);
         SendMessageW(window, CB_SETDROPPEDWIDTH, static_cast<WPARAM>(width), 0);
     }
 }

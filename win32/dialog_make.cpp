@@ -105,19 +105,19 @@ void Dialog_Window::Create() {
     Adopt(Make_Dialog(L"Vellatro_" + To_Wide(Model()->name), Procedure));
     SetWindowTextW(window_, To_Wide(Model()->title).c_str());
     natives_.resize(Model()->controls.size());
-    Make_Missing();
+    Make_Missing_Controls();
     Find_Page_Colour();
     Update_Tooltips();
-    Place();
+    Update_Bounds();
     EnableWindow(window_, Model()->enabled);
     // Its screen need not have the calendar's scale, in which it is made.
     if (dots_ == 0 && Dots_Of(window_) != 0 && Dots_Of(window_) != platform::Dots_Per_Inch())
-        Scale_Told(Dots_Of(window_), nullptr);
+        Handle_Scale_Message(Dots_Of(window_), nullptr);
 }
 
 /// What a hidden frame holds is made when the frame is shown for the first time: a dialog of many pages opens
 /// with the controls of one. Returns whether there was anything to make.
-bool Dialog_Window::Make_Missing() {
+bool Dialog_Window::Make_Missing_Controls() {
     int last_made = -1;
     const Scoped_Value updating(updating_, true);
     for (const Control_State *control : Model()->controls) {
@@ -151,12 +151,12 @@ HWND Dialog_Window::Make_Native(const Control_State &control) {
     Native &native = natives_[static_cast<std::size_t>(control.index)];
     if (control.painted) {
         native.painted = std::make_unique<Painted_Child>(*this, control.index);
-        return Made(native.painted->Make(window_, id));
+        return Require_Window(native.painted->Make(window_, id));
     }
-    return Made(CreateWindowExW(Is_Sunken(control.kind) ? WS_EX_CLIENTEDGE : 0, Class_Of(control.kind),
-                                nullptr, WS_CHILD | Style_Of(control), 0, 0, 0, 0, window_,
-                                reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), GetModuleHandleW(nullptr),
-                                nullptr));
+    return Require_Window(CreateWindowExW(Is_Sunken(control.kind) ? WS_EX_CLIENTEDGE : 0,
+                                          Class_Of(control.kind), nullptr, WS_CHILD | Style_Of(control), 0, 0,
+                                          0, 0, window_, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)),
+                                          GetModuleHandleW(nullptr), nullptr));
 }
 
 /// Hidden when the dialog can be seen. Returns false for a control that needs no window.
@@ -185,7 +185,7 @@ bool Dialog_Window::Make_Control(const Control_State &control) {
     Fill(control);
     Set_Caption(control);
     Show_Choice(control);
-    native.rested = control.value;
+    native.settled_value = control.value;
     if (control.is_default)
         SendMessageW(window_, DM_SETDEFID, static_cast<WPARAM>(First_Control_Id + control.index), 0);
     Raise_Over_Painted(control);

@@ -43,7 +43,7 @@ LRESULT CALLBACK Dialog_Window::Procedure(HWND window, UINT message, WPARAM wpar
 LRESULT Dialog_Window::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
     switch (message) {
     case WM_COMMAND:
-        Command(LOWORD(wparam), HIWORD(wparam));
+        Handle_Command(LOWORD(wparam), HIWORD(wparam));
         return 0;
     case WM_SETCURSOR:
         // All that a disabled window hears of a press; beside a message box the system shows that one.
@@ -69,13 +69,13 @@ LRESULT Dialog_Window::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
         return result;
     }
     case WM_MOVE:
-        Moved();
+        Send_Window_Moved();
         break;
     case WM_DPICHANGED:
-        Scale_Told(LOWORD(wparam), reinterpret_cast<const RECT *>(lparam));
+        Handle_Scale_Message(LOWORD(wparam), reinterpret_cast<const RECT *>(lparam));
         return 0;
     case Check_Dots_Message:
-        Take_Scale(dots_);
+        Apply_Scale(dots_);
         return 0;
     case WM_HSCROLL:
     case WM_VSCROLL:
@@ -83,7 +83,7 @@ LRESULT Dialog_Window::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
             Slider_Moved(*slider, LOWORD(wparam));
         return 0;
     case WM_NOTIFY:
-        if (Notified(*reinterpret_cast<NMHDR *>(lparam)))
+        if (Handle_Notify(*reinterpret_cast<NMHDR *>(lparam)))
             return 0;
         break;
     case WM_ERASEBKGND:
@@ -123,7 +123,7 @@ void Dialog_Window::Own_Aspect_Changed(Aspect aspect) {
     SetCursor(Load_Pointer(waits ? System_Pointer::Hourglass : System_Pointer::Arrow));
 }
 
-void Dialog_Window::Place() {
+void Dialog_Window::Update_Bounds() {
     const Rect bounds = Model()->bounds;
     const bool moved = bounds.left != placed_.x || bounds.top != placed_.y || !is_placed_;
     RECT outer = {0, 0, To_Pixels(bounds.width), To_Pixels(bounds.height)};
@@ -150,7 +150,7 @@ void Dialog_Window::Place() {
                      place.bottom - place.top + higher, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
     }
     is_placed_ = true;
-    Moved();
+    Send_Window_Moved();
 }
 
 /// Where the form wants it: places are in the calendar's scale, whatever that of the dialog is.
@@ -160,7 +160,7 @@ POINT Dialog_Window::Corner_On_Screen() const {
 }
 
 /// Follows the scale of the screen that the window has moved to. `place` is where the system wants it there.
-void Dialog_Window::Scale_Told(int dots, const RECT *place) {
+void Dialog_Window::Handle_Scale_Message(int dots, const RECT *place) {
     // Any program can send the message.
     constexpr int least = 48, most = 960;
     if (dots < least || dots > most)
@@ -174,13 +174,13 @@ void Dialog_Window::Scale_Told(int dots, const RECT *place) {
 }
 
 /// Tells the form where the window is, as the user or the screen's edge has it.
-void Dialog_Window::Moved() {
+void Dialog_Window::Send_Window_Moved() {
     RECT now = {};
     if (!is_placed_ || IsIconic(window_) || !GetWindowRect(window_, &now))
         return;
     const Scoped_Value scale(Dialog_Dots, 0);
     Input_Event event{};
-    event.kind = Input_Kind::Moved;
+    event.kind = Input_Kind::Window_Moved;
     event.point = placed_ = {To_Twips(static_cast<int>(now.left)), To_Twips(static_cast<int>(now.top))};
     Send(event);
 }
@@ -231,7 +231,7 @@ void Dialog_Window::Scale_Changed() {
         Place_Control(*control);
     }
     Find_Page_Colour();
-    Place();
+    Update_Bounds();
 }
 
 } // namespace win32

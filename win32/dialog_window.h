@@ -19,7 +19,7 @@ public:
     void Control_Changed(const platform::Control_State &control, platform::Aspect aspect,
                          const Rect &before) override;
     void Bring_To_Front() override;
-    bool Take_First(const MSG &message) override;
+    bool Preprocess_Message(const MSG &message) override;
 
 private:
     using Control_State = platform::Control_State;
@@ -30,7 +30,7 @@ private:
         HWND window = nullptr;
         Unique_Brush brush; ///< of a background colour of its own
         std::unique_ptr<Painted_Child> painted;
-        int rested = 0; ///< of a slider: its value when it was at rest last
+        int settled_value = 0; ///< of a slider: its value when it was at rest last
     };
 
     /// A native font that all controls with this font share.
@@ -44,7 +44,7 @@ private:
     void Window_Gone() override;
 
     // The making of the controls (dialog_make.cpp).
-    bool Make_Missing();
+    bool Make_Missing_Controls();
     bool Make_Control(const Control_State &control);
     void Put_Lowest(const Control_State &control);
     HWND Make_Native(const Control_State &control);
@@ -57,29 +57,29 @@ private:
     HFONT Find_Font(const platform::Font &font);
     void Set_Caption(const Control_State &control);
     void Place_Control(const Control_State &control);
-    void Place_Held(const Control_State &changed, const Rect &before);
+    void Place_Children(const Control_State &changed, const Rect &before);
     void Redraw(const Rect &place);
     void Fill(const Control_State &control);
     void Show_Choice(const Control_State &control);
     void Show_Check(const Control_State &control);
     void Set_Group_Stop(int container);
-    void Update_Held(const Control_State &changed);
-    void Leave_Focus(const Control_State &changed);
+    void Update_Children(const Control_State &changed);
+    void Release_Focus(const Control_State &changed);
     void Update_Tooltips();
-    bool Holds(const Control_State &holder, const Control_State &control) const;
+    bool Contains(const Control_State &holder, const Control_State &control) const;
 
     // What the user does with them (dialog_events.cpp).
-    void Command(int id, int code);
+    void Handle_Command(int id, int code);
     void Cancel();
-    void Tell(const Control_State &control, platform::Input_Kind kind, int selected = -1);
-    void Tell(const Control_State &control, platform::Input_Event event);
+    void Send_Event(const Control_State &control, platform::Input_Kind kind, int selected = -1);
+    void Send_Event(const Control_State &control, platform::Input_Event event);
     void Click(const Control_State &control, int key = 0);
     void Text_Edited(const Control_State &control);
     void List_Command(const Control_State &control, int code);
     void Combo_Command(const Control_State &control, int code);
     void Combo_Closed(const Control_State &control);
     void Slider_Moved(const Control_State &control, int code);
-    bool Notified(NMHDR &notice);
+    bool Handle_Notify(NMHDR &notice);
     bool Turn_Page(int step);
 
     // The background of the tab page, which is not always the dialog's (dialog_background.cpp).
@@ -90,10 +90,10 @@ private:
     LRESULT Colour_Control(UINT message, HDC dc, HWND window, LRESULT usual);
     void Colours_Changed(UINT message, WPARAM wparam, LPARAM lparam);
 
-    void Place() override;
+    void Update_Bounds() override;
     POINT Corner_On_Screen() const;
-    void Moved();
-    void Scale_Told(int dots, const RECT *place);
+    void Send_Window_Moved();
+    void Handle_Scale_Message(int dots, const RECT *place);
     void Scale_Changed() override;
     void Show_Or_Hide() override;
     void Own_Aspect_Changed(platform::Aspect aspect) override;

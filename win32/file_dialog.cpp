@@ -14,19 +14,19 @@ namespace {
 
 /// Puts the current folder back at the end of a scope: the dialogs change it to where the user has looked,
 /// and a current folder is one that nobody can remove.
-class Kept_Folder {
+class Current_Folder_Guard {
 public:
-    Kept_Folder() {
+    Current_Folder_Guard() {
         const DWORD size = GetCurrentDirectoryW(0, nullptr);
         folder_.resize(size);
         folder_.resize(GetCurrentDirectoryW(size, folder_.data()));
     }
-    ~Kept_Folder() {
+    ~Current_Folder_Guard() {
         if (!folder_.empty())
             SetCurrentDirectoryW(folder_.c_str());
     }
-    Kept_Folder(const Kept_Folder &) = delete;
-    Kept_Folder &operator=(const Kept_Folder &) = delete;
+    Current_Folder_Guard(const Current_Folder_Guard &) = delete;
+    Current_Folder_Guard &operator=(const Current_Folder_Guard &) = delete;
 
 private:
     std::wstring folder_;
@@ -36,7 +36,7 @@ std::wstring Up_To_Nul(const std::wstring &text) {
     return text.substr(0, text.find(L'\0'));
 }
 
-const wchar_t *Or_None(const std::wstring &text) {
+const wchar_t *Null_If_Empty(const std::wstring &text) {
     return text.empty() ? nullptr : text.c_str();
 }
 
@@ -53,17 +53,17 @@ bool Show_File_Dialog(File_Dialog &dialog) {
     record.lStructSize = OPENFILENAME_SIZE_VERSION_400W;
     record.hwndOwner = dialog.owner == nullptr ? nullptr : win32::Window_Of_Form(*dialog.owner);
     record.hInstance = GetModuleHandleW(nullptr);
-    record.lpstrFilter = Or_None(filter);
+    record.lpstrFilter = Null_If_Empty(filter);
     record.nFilterIndex = static_cast<DWORD>(dialog.filter_index);
     record.lpstrFile = file.data();
     record.nMaxFile = static_cast<DWORD>(file.size());
     record.lpstrFileTitle = file_title.data();
     record.nMaxFileTitle = static_cast<DWORD>(file_title.size());
-    record.lpstrInitialDir = Or_None(folder);
-    record.lpstrTitle = Or_None(title);
+    record.lpstrInitialDir = Null_If_Empty(folder);
+    record.lpstrTitle = Null_If_Empty(title);
     record.Flags = static_cast<DWORD>(dialog.flags);
 
-    const Kept_Folder kept;
+    const Current_Folder_Guard kept;
     const win32::Modal_Scope modal(record.hwndOwner);
     // Most days need no file dialog; its library and those that come with it would make every start slower.
     const auto show = win32::Look_Up<decltype(GetOpenFileNameW)>(

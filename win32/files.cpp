@@ -46,7 +46,7 @@ private:
 };
 
 /// Takes the attributes of whatever bears the name. Gives an error code.
-DWORD Query(const std::string &path, DWORD &attributes) {
+DWORD Query_Attributes(const std::string &path, DWORD &attributes) {
     const std::wstring wide = win32::Path_For_Call(path);
     if (wide.empty())
         return ERROR_INVALID_NAME;
@@ -108,16 +108,16 @@ DWORD Write_All(HANDLE file, std::string_view bytes) {
 }
 
 /// Opens a file for asking about it, which also goes while another program has it for itself.
-win32::Unique_File Open_To_Ask(const std::wstring &path) {
+win32::Unique_File Open_For_Query(const std::wstring &path) {
     return win32::Own_File(CreateFileW(path.c_str(), 0, Share_All, nullptr, OPEN_EXISTING, 0, nullptr));
 }
 
 /// The file's path behind all symbolic links; empty where the system cannot tell, as before Windows Vista,
 /// which has no such links, or when there is no file.
-std::wstring Behind_Links(const std::wstring &path) {
+std::wstring Resolve_Links(const std::wstring &path) {
     using Final_Path = DWORD WINAPI(HANDLE, LPWSTR, DWORD, DWORD);
     auto *const final_path = win32::Look_Up<Final_Path>(L"kernel32.dll", "GetFinalPathNameByHandleW");
-    const win32::Unique_File file = Open_To_Ask(path);
+    const win32::Unique_File file = Open_For_Query(path);
     if (final_path == nullptr || !file)
         return {};
     std::wstring found(MAX_PATH, L'\0');
@@ -132,7 +132,7 @@ std::wstring Behind_Links(const std::wstring &path) {
 
 /// Gives a new file the access list of another one. Where there are no such lists it keeps what its folder
 /// gives.
-void Take_Access_List(const std::wstring &from, const std::wstring &to) {
+void Copy_Access_List(const std::wstring &from, const std::wstring &to) {
     DWORD size = 0;
     GetFileSecurityW(from.c_str(), DACL_SECURITY_INFORMATION, nullptr, 0, &size);
     std::string space(size, '\0');
@@ -153,7 +153,7 @@ DWORD Write_New_File(const std::wstring &path, std::string_view bytes, DWORD att
         CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, attributes, nullptr));
     if (!file)
         return GetLastError();
-    Take_Access_List(old, path);
+    Copy_Access_List(old, path);
     const DWORD code = Write_All(file.get(), bytes);
     // A disk that does not keep the time is no reason to keep no copy.
     if (code == NO_ERROR && written != nullptr)
@@ -187,7 +187,7 @@ void Replace(const std::string &path, std::string_view bytes, const FILETIME *wr
     if (wide.empty())
         Throw(path, ERROR_INVALID_NAME);
     const Quiet_Errors quiet;
-    if (const std::wstring real = Behind_Links(wide); !real.empty()) {
+    if (const std::wstring real = Resolve_Links(wide); !real.empty()) {
         wide = real;
         new_file = real + win32::To_Wide(New_File_Ending);
     }
@@ -210,12 +210,12 @@ void Replace(const std::string &path, std::string_view bytes, const FILETIME *wr
 }
 
 /// When the file was written last. Throws File_Error.
-FILETIME Written(const std::string &path) {
+FILETIME Last_Write_Time(const std::string &path) {
     const std::wstring wide = win32::Path_For_Call(path);
     if (wide.empty())
         Throw(path, ERROR_INVALID_NAME);
     const Quiet_Errors quiet;
-    const win32::Unique_File file = Open_To_Ask(wide);
+    const win32::Unique_File file = Open_For_Query(wide);
     FILETIME written = {};
     if (!file || !GetFileTime(file.get(), nullptr, nullptr, &written))
         Throw(path, GetLastError());
@@ -239,15 +239,15 @@ std::string Program_Name() {
 
 bool File_Exists(const std::string &path) {
     DWORD attributes = 0;
-    return Query(path, attributes) == NO_ERROR && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
+    return Query_Attributes(path, attributes) == NO_ERROR && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
 }
 
 bool Folder_Exists(const std::string &path) {
     DWORD attributes = 0;
-    return Query(path, attributes) == NO_ERROR && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+    return Query_Attributes(path, attributes) == NO_ERROR && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
 }
 
-std::vector<std::string> Names_In_Folder(const std::string &folder, Listed listed) {
+std::vector<std::string> Names_In_Folder(const std::string &folder, Entry_Kind kind) {
     std::vector<std::string> names;
     const std::wstring pattern = win32::Path_For_Call(folder + "\\*");
     const Quiet_Errors quiet;
@@ -259,7 +259,7 @@ std::vector<std::string> Names_In_Folder(const std::string &folder, Listed liste
     do {
         const std::wstring name = found.cFileName;
         const bool is_folder = (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
-        if (is_folder != (listed == Listed::Folders) || name == L"." || name == L"..")
+        if (is_folder != (kind == Entry_Kind::Folders) || name == L"." || name == L"..")
             continue;
         // One that is no valid text would name something else.
         std::string text = win32::From_Wide(name);
@@ -271,7 +271,7 @@ std::vector<std::string> Names_In_Folder(const std::string &folder, Listed liste
 
 bool Path_Exists(const std::string &path) {
     DWORD attributes = 0;
-    const DWORD code = Query(path, attributes);
+    const DWORD code = Query_Attributes(path, attributes);
     return code != ERROR_FILE_NOT_FOUND && code != ERROR_PATH_NOT_FOUND;
 }
 
@@ -299,12 +299,12 @@ void Replace_File(const std::string &path, std::string_view bytes) {
 }
 
 void Copy_File(const std::string &from, const std::string &to) {
-    const FILETIME written = Written(from);
+    const FILETIME written = Last_Write_Time(from);
     Replace(to, Read_File(from), &written);
 }
 
 Date_Time Modified_Time(const std::string &path) {
-    const FILETIME written = Written(path);
+    const FILETIME written = Last_Write_Time(path);
     FILETIME local = {};
     SYSTEMTIME time = {};
     if (!FileTimeToLocalFileTime(&written, &local) || !FileTimeToSystemTime(&local, &time))

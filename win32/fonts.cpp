@@ -67,10 +67,10 @@ Unique_Font Make_Font(const platform::Font &font, int dots) {
     return Unique_Font(CreateFontIndirectW(&description));
 }
 
-Kept_Font Find_Font(const platform::Font &font) {
+Cached_Font Find_Font(const platform::Font &font) {
     Font_Cache &cache = Cache();
     if (cache.dots != platform::Dots_Per_Inch()) {
-        Drop_Fonts();
+        Clear_Font_Cache();
         cache.dots = platform::Dots_Per_Inch();
     }
     for (const Cache_Entry &entry : cache.entries) {
@@ -86,7 +86,7 @@ Kept_Font Find_Font(const platform::Font &font) {
     return {cache.entries.back().handle.get(), cache.entries.back().line_height};
 }
 
-void Drop_Fonts() {
+void Clear_Font_Cache() {
     // First the one that is selected, since a selected font cannot be deleted.
     if (Cache().measuring)
         SelectObject(Cache().measuring.get(), GetStockObject(SYSTEM_FONT));
@@ -94,7 +94,7 @@ void Drop_Fonts() {
 }
 
 HDC Measuring_Dc(const platform::Font &font) {
-    const Kept_Font kept = Find_Font(font);
+    const Cached_Font kept = Find_Font(font);
     const HDC dc = Any_Measuring_Dc();
     SelectObject(dc, kept.handle);
     return dc;

@@ -10,16 +10,16 @@ namespace win32 {
 Unique_Font Make_Font(const platform::Font &font, int dots);
 
 /// A native font kept for drawing and measuring, with its line height in pixels.
-struct Kept_Font {
+struct Cached_Font {
     HFONT handle;
     int line_height;
 };
 
-/// Valid until Drop_Fonts or the next change of the dots per inch.
-Kept_Font Find_Font(const platform::Font &font);
+/// Valid until Clear_Font_Cache or the next change of the dots per inch.
+Cached_Font Find_Font(const platform::Font &font);
 
 /// The fonts are made anew at their next use: the user changed the message-box face or the smoothing.
-void Drop_Fonts();
+void Clear_Font_Cache();
 
 /// A device context only for measuring text, with the font selected.
 HDC Measuring_Dc(const platform::Font &font);

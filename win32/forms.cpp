@@ -49,14 +49,14 @@ HWND Window_Of_Form(const platform::Form_Model &model) {
     return mirror ? mirror->Window() : nullptr;
 }
 
-HWND Mirror::Made(HWND window) {
+HWND Mirror::Require_Window(HWND window) {
     if (window == nullptr)
         throw Error("The window cannot be made: " + System_Error_Text(GetLastError()));
     return window;
 }
 
 void Mirror::Adopt(HWND window) {
-    window_ = Made(window);
+    window_ = Require_Window(window);
     SetWindowLongPtrW(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
 }
 
@@ -85,7 +85,7 @@ void Mirror::Form_Changed(platform::Aspect aspect) {
     const Scoped_Value scale(Dialog_Dots, dots_);
     switch (aspect) {
     case platform::Aspect::Bounds:
-        return Place();
+        return Update_Bounds();
     case platform::Aspect::Visible:
         return Show_Or_Hide();
     case platform::Aspect::Caption:
@@ -134,7 +134,7 @@ void Mirror::Window_Gone() {
         input(event);
 }
 
-void Mirror::Take_Scale(int dots) {
+void Mirror::Apply_Scale(int dots) {
     dots_ = dots;
     if (window_ != nullptr) {
         const Scoped_Value scale(Dialog_Dots, dots_);
@@ -158,13 +158,13 @@ void Check_Scale(bool fonts_changed) {
             calendar = mirror->Window();
     }
     if (fonts_changed)
-        Drop_Fonts();
+        Clear_Font_Cache();
     if (!Refresh_Dots(calendar) && !fonts_changed)
         return;
     for (const std::shared_ptr<Mirror> &mirror : All_Mirrors()) {
         const platform::Form_Model *form = mirror->Model();
         if (form != nullptr)
-            mirror->Take_Scale(form->kind == platform::Form_Kind::Dialog ? Dots_Of(mirror->Window()) : 0);
+            mirror->Apply_Scale(form->kind == platform::Form_Kind::Dialog ? Dots_Of(mirror->Window()) : 0);
     }
 }
 

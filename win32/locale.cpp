@@ -56,7 +56,7 @@ LCID Date_Locale() {
 }
 
 /// The entry `number` steps after `first`.
-LCTYPE Entry(LCTYPE first, int number) {
+LCTYPE Entry_After(LCTYPE first, int number) {
     return first + static_cast<LCTYPE>(number);
 }
 
@@ -122,19 +122,19 @@ std::string Month_Name(int month) {
     const std::optional<CALID> calendar = Gregorian_Calendar();
     wchar_t name[80] = {};
     if (GetCalendarInfoW(LOCALE_USER_DEFAULT, calendar.value_or(CAL_GREGORIAN),
-                         Entry(CAL_SMONTHNAME1, month - 1), name, static_cast<int>(std::size(name)),
+                         Entry_After(CAL_SMONTHNAME1, month - 1), name, static_cast<int>(std::size(name)),
                          nullptr) > 1)
         return win32::From_Wide(name);
     return win32::From_Wide(
-        Locale_Text(Entry(LOCALE_SMONTHNAME1, month - 1), calendar ? LOCALE_USER_DEFAULT : American));
+        Locale_Text(Entry_After(LOCALE_SMONTHNAME1, month - 1), calendar ? LOCALE_USER_DEFAULT : American));
 }
 
 std::string Weekday_Name(int weekday) {
-    return win32::From_Wide(Locale_Text(Entry(LOCALE_SDAYNAME1, Days_From_Monday(weekday))));
+    return win32::From_Wide(Locale_Text(Entry_After(LOCALE_SDAYNAME1, Days_From_Monday(weekday))));
 }
 
 std::string Short_Weekday_Name(int weekday) {
-    return win32::From_Wide(Locale_Text(Entry(LOCALE_SABBREVDAYNAME1, Days_From_Monday(weekday))));
+    return win32::From_Wide(Locale_Text(Entry_After(LOCALE_SABBREVDAYNAME1, Days_From_Monday(weekday))));
 }
 
 int First_Weekday() {

@@ -16,7 +16,7 @@ namespace {
 
 /// No item is ever checked: the images stand where the check marks would, at the edge. Drawn by the owner,
 /// they need a column of their own.
-void Leave_Check_Column_Out(HMENU menu) {
+void Hide_Check_Column(HMENU menu) {
     MENUINFO info = {};
     info.cbSize = sizeof info;
     info.fMask = MIM_STYLE;
@@ -33,7 +33,7 @@ void Append_Line(HMENU menu) {
 }
 
 void Append_Item(HMENU menu, const Menu_Item &item, win32::Menu_Images &images) {
-    if (item.apart)
+    if (item.separator_before)
         Append_Line(menu);
     std::wstring text = win32::To_Wide(item.text);
     MENUITEMINFOW info = {};
@@ -99,7 +99,7 @@ int Track_Popup_Menu(const Form_Model &owner, const std::vector<Menu_Item> &item
     const win32::Unique_Menu menu(CreatePopupMenu());
     if (window == nullptr || !menu)
         return 0;
-    Leave_Check_Column_Out(menu.get());
+    Hide_Check_Column(menu.get());
     for (const Menu_Item &item : items)
         Append_Item(menu.get(), item, images);
     POINT place = {};

@@ -17,7 +17,7 @@ constexpr std::ptrdiff_t Most_Lines = 30;
 constexpr std::size_t Longest_Title = 200;
 
 /// `text` as the box can show it: a zero would end it and becomes a blank; what is too long ends with dots.
-std::wstring Showable(std::string_view text, std::size_t longest) {
+std::wstring Displayable_Text(std::string_view text, std::size_t longest) {
     std::wstring wide = win32::To_Wide(text);
     std::replace(wide.begin(), wide.end(), L'\0', L' ');
     std::size_t end = std::min(wide.size(), longest);
@@ -35,12 +35,12 @@ UINT Style_Of(Box_Icon icon, Box_Buttons buttons) {
     constexpr UINT icons[] = {0, MB_ICONINFORMATION, MB_ICONQUESTION, MB_ICONEXCLAMATION, MB_ICONSTOP};
     constexpr UINT button_sets[] = {MB_OK, MB_YESNO, MB_YESNOCANCEL};
     return icons[static_cast<int>(icon)] | button_sets[static_cast<int>(buttons)] | MB_TASKMODAL |
-           MB_SETFOREGROUND | (win32::Comes_By_Itself ? MB_TOPMOST : 0U);
+           MB_SETFOREGROUND | (win32::In_System_Event ? MB_TOPMOST : 0U);
 }
 
 /// The window, else none where it is not the program's own: inside the shell's window the calendar shares the
 /// shell's input, and the active window may be the shell's.
-HWND Own(HWND window) {
+HWND Own_Window_Or_Null(HWND window) {
     return window != nullptr && GetWindowThreadProcessId(window, nullptr) == GetCurrentThreadId() ? window
                                                                                                   : nullptr;
 }
@@ -48,24 +48,24 @@ HWND Own(HWND window) {
 /// The dialog that the user works in, else none. The calendar owns no box: it may live inside the shell's
 /// window, which the box would then lock.
 HWND Active_Dialog() {
-    const HWND window = Own(GetActiveWindow());
+    const HWND window = Own_Window_Or_Null(GetActiveWindow());
     if (window == nullptr || (GetWindowLongW(window, GWL_STYLE) & WS_CAPTION) != WS_CAPTION)
         return nullptr;
     return GetAncestor(window, GA_ROOT) == window ? window : nullptr;
 }
 
 /// Gives the keyboard back at the end of a scope to a window that had it, if there is one.
-class Returned_Focus {
+class Focus_Restorer {
 public:
-    explicit Returned_Focus(HWND window) : window_(window) {}
-    ~Returned_Focus() {
+    explicit Focus_Restorer(HWND window) : window_(window) {}
+    ~Focus_Restorer() {
         if (window_ == nullptr || !IsWindow(window_))
             return;
         SetForegroundWindow(window_);
         SetFocus(window_);
     }
-    Returned_Focus(const Returned_Focus &) = delete;
-    Returned_Focus &operator=(const Returned_Focus &) = delete;
+    Focus_Restorer(const Focus_Restorer &) = delete;
+    Focus_Restorer &operator=(const Focus_Restorer &) = delete;
 
 private:
     HWND window_;
@@ -91,13 +91,13 @@ Box_Answer Answer_Of(int id, Box_Buttons buttons) {
 } // namespace
 
 Box_Answer Message_Box(std::string_view text, std::string_view title, Box_Icon icon, Box_Buttons buttons) {
-    if (win32::No_More_Boxes)
+    if (win32::Boxes_Suppressed)
         return Answer_Of(0, buttons);
-    const std::wstring wide_text = Showable(text, Longest_Text);
-    const std::wstring wide_title = Showable(title, Longest_Title);
+    const std::wstring wide_text = Displayable_Text(text, Longest_Text);
+    const std::wstring wide_title = Displayable_Text(title, Longest_Title);
     const HWND owner = Active_Dialog();
     // The system returns the keyboard to an owner alone.
-    const Returned_Focus focus(owner == nullptr ? Own(GetFocus()) : nullptr);
+    const Focus_Restorer focus(owner == nullptr ? Own_Window_Or_Null(GetFocus()) : nullptr);
     const win32::Modal_Scope modal(owner);
     return Answer_Of(MessageBoxW(owner, wide_text.c_str(), wide_title.c_str(), Style_Of(icon, buttons)),
                      buttons);

@@ -23,7 +23,7 @@ void Dispatch(MSG &message) {
     if (form != nullptr && form->kind == platform::Form_Kind::Dialog) {
         // Kept, because what it does may close the dialog.
         const std::shared_ptr<win32::Mirror> dialog = win32::Find_Mirror(*form);
-        if (dialog->Take_First(message) || IsDialogMessageW(root, &message))
+        if (dialog->Preprocess_Message(message) || IsDialogMessageW(root, &message))
             return;
     }
     TranslateMessage(&message);
@@ -39,7 +39,7 @@ void Tick(UINT_PTR id) {
     Find_Lost_Windows();
     if (Mouse_Is_Taken())
         return;
-    Hear_Waiting();
+    Process_Deferred_Broadcasts();
     // The shell's window that the calendar is in may change its scale without a word to what it holds.
     Check_Scale(false);
     const auto timer =

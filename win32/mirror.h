@@ -31,10 +31,10 @@ public:
     virtual void Bring_To_Front() = 0;
     /// Takes the dots per inch of a dialog's own screen, 0 for the calendar's, or the system's new fonts, and
     /// has the form lay itself out anew.
-    void Take_Scale(int dots);
+    void Apply_Scale(int dots);
     int Dots() const { return dots_; }
     /// Looks at a message before the system does what is usual with it. Returns whether that was all.
-    virtual bool Take_First(const MSG &) { return false; }
+    virtual bool Preprocess_Message(const MSG &) { return false; }
 
     /// Takes the window down without an event.
     void Destroy() noexcept;
@@ -44,7 +44,7 @@ public:
 
 protected:
     /// A window that the system has just been asked for. Throws Error when there is none.
-    static HWND Made(HWND window);
+    static HWND Require_Window(HWND window);
     /// Takes a window that has just been made as this mirror's; from then on its messages arrive.
     void Adopt(HWND window);
     /// What the window procedures do: gives the messages of adopted windows to their mirrors, and all others
@@ -52,7 +52,7 @@ protected:
     static LRESULT Receive(HWND window, UINT message, WPARAM wparam, LPARAM lparam, WNDPROC usual);
     virtual LRESULT Handle(UINT message, WPARAM wparam, LPARAM lparam) = 0;
     /// Brings the window to where the model says, and shows or hides it.
-    virtual void Place() = 0;
+    virtual void Update_Bounds() = 0;
     virtual void Show_Or_Hide() = 0;
     /// The dots per inch or the system's fonts changed.
     virtual void Scale_Changed() = 0;

@@ -11,10 +11,10 @@ namespace win32 {
 inline int Open_Modal_Boxes = 0;
 
 /// Whether the system ends the session and waits for no answer. Message boxes answer themselves then.
-inline bool No_More_Boxes = false;
+inline bool Boxes_Suppressed = false;
 
 /// Whether what runs now comes of a timer or of a broadcast of the system, and not of what the user did.
-inline bool Comes_By_Itself = false;
+inline bool In_System_Event = false;
 
 /// Counts one as open for the length of a scope, and locks the thread's other windows where it has an owner:
 /// the system locks only that.

@@ -18,7 +18,7 @@ bool Key_Is_Down(int key) {
     return (static_cast<unsigned>(GetKeyState(key)) & 0x8000U) != 0;
 }
 
-Mouse_Button Held(WPARAM keys) {
+Mouse_Button Held_Button(WPARAM keys) {
     if ((keys & MK_LBUTTON) != 0)
         return Mouse_Button::Left;
     if ((keys & MK_RBUTTON) != 0)
@@ -62,7 +62,7 @@ Input_Event Key_Event(bool down, WPARAM wparam, LPARAM lparam) {
     return event;
 }
 
-bool Mouse_Input::Take(HWND window, UINT message, WPARAM wparam, LPARAM lparam, Input_Event &event) {
+bool Mouse_Input::Translate(HWND window, UINT message, WPARAM wparam, LPARAM lparam, Input_Event &event) {
     // The capture and the keyboard stay with an open message box.
     if (platform::Box_Is_Open())
         return false;
@@ -70,7 +70,7 @@ bool Mouse_Input::Take(HWND window, UINT message, WPARAM wparam, LPARAM lparam, 
     event.point = {To_Twips(static_cast<short>(LOWORD(lparam))),
                    To_Twips(static_cast<short>(HIWORD(lparam)))};
     if (message == WM_MOUSEMOVE)
-        return Moved(wparam, event);
+        return Translate_Move(wparam, event);
     for (const Button_Message &each : button_messages) {
         if (each.message != message)
             continue;
@@ -90,14 +90,14 @@ bool Mouse_Input::Take(HWND window, UINT message, WPARAM wparam, LPARAM lparam, 
     return false;
 }
 
-bool Mouse_Input::Moved(WPARAM held, Input_Event &event) {
+bool Mouse_Input::Translate_Move(WPARAM held, Input_Event &event) {
     // The system repeats the message when windows change under a mouse that rests.
     POINT mouse = {};
     GetCursorPos(&mouse);
     if (mouse.x == last_mouse_.x && mouse.y == last_mouse_.y)
         return false;
     last_mouse_ = mouse;
-    event.button = Held(held);
+    event.button = Held_Button(held);
     return true;
 }
 

@@ -19,13 +19,13 @@ public:
     static bool Is_Mouse(UINT message) { return message >= WM_MOUSEFIRST && message <= WM_MBUTTONDBLCLK; }
 
     /// What a message of the mouse says, its point in twips on the window. Returns whether it says anything.
-    bool Take(HWND window, UINT message, WPARAM wparam, LPARAM lparam, platform::Input_Event &event);
+    bool Translate(HWND window, UINT message, WPARAM wparam, LPARAM lparam, platform::Input_Event &event);
 
     /// To be called with WM_CAPTURECHANGED. Returns whether the release of a button will not come.
     bool Capture_Lost();
 
 private:
-    bool Moved(WPARAM held, platform::Input_Event &event);
+    bool Translate_Move(WPARAM held, platform::Input_Event &event);
 
     unsigned held_buttons_ = 0;
     POINT last_mouse_ = {-1, -1};

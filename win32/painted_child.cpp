@@ -58,7 +58,7 @@ LRESULT Painted_Child::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
     case WM_PRINTCLIENT:
         return Paint_Window(window_, message, wparam, [&](HDC target, const RECT &area) {
             if (message == WM_PAINT)
-                Leave_Later_Ones_Out(target);
+                Exclude_Later_Siblings(target);
             Paint_On(target, area);
         });
     case WM_GETOBJECT:
@@ -104,11 +104,11 @@ LRESULT Painted_Child::Dialog_Code(const MSG *message) const {
 
 bool Painted_Child::Handle_Input(UINT message, WPARAM wparam, LPARAM lparam) {
     if (Mouse_Input::Is_Mouse(message)) {
-        Mouse(message, wparam, lparam);
+        Handle_Mouse(message, wparam, lparam);
         return true;
     }
     if (message == WM_KEYDOWN) {
-        Key_Down(wparam, lparam);
+        Handle_Key_Down(wparam, lparam);
         return true;
     }
     if (message == WM_CAPTURECHANGED) {
@@ -119,9 +119,9 @@ bool Painted_Child::Handle_Input(UINT message, WPARAM wparam, LPARAM lparam) {
     return false;
 }
 
-void Painted_Child::Mouse(UINT message, WPARAM wparam, LPARAM lparam) {
+void Painted_Child::Handle_Mouse(UINT message, WPARAM wparam, LPARAM lparam) {
     Input_Event event{};
-    if (!mouse_.Take(window_, message, wparam, lparam, event))
+    if (!mouse_.Translate(window_, message, wparam, lparam, event))
         return;
     const bool pressed = event.kind == Input_Kind::Mouse_Down || event.kind == Input_Kind::Double_Click;
     if (pressed && Control().tab_stop && GetFocus() != window_)
@@ -130,7 +130,7 @@ void Painted_Child::Mouse(UINT message, WPARAM wparam, LPARAM lparam) {
     owner_->Send(event);
 }
 
-void Painted_Child::Key_Down(WPARAM wparam, LPARAM lparam) {
+void Painted_Child::Handle_Key_Down(WPARAM wparam, LPARAM lparam) {
     Input_Event event = Key_Event(true, wparam, lparam);
     event.control = index_;
     if (wparam == VK_SPACE) {
@@ -143,7 +143,7 @@ void Painted_Child::Key_Down(WPARAM wparam, LPARAM lparam) {
 }
 
 /// The controls that lie over this one are windows beside it, and would flicker.
-void Painted_Child::Leave_Later_Ones_Out(HDC target) const {
+void Painted_Child::Exclude_Later_Siblings(HDC target) const {
     const platform::Form_Model &model = *owner_->Model();
     const Control_State &self = Control();
     const HWND parent = GetParent(window_);
@@ -184,7 +184,7 @@ void Painted_Child::Paint_On(HDC target, const RECT &area) {
         SetBkColor(canvas.Dc(), RGB(255, 255, 255));
         DrawFocusRect(canvas.Dc(), &inside);
     }
-    canvas.Put_On(target);
+    canvas.Copy_To(target);
 }
 
 } // namespace win32

@@ -22,10 +22,10 @@ private:
     LRESULT Handle(UINT message, WPARAM wparam, LPARAM lparam);
     bool Handle_Input(UINT message, WPARAM wparam, LPARAM lparam);
     LRESULT Dialog_Code(const MSG *message) const;
-    void Mouse(UINT message, WPARAM wparam, LPARAM lparam);
-    void Key_Down(WPARAM wparam, LPARAM lparam);
+    void Handle_Mouse(UINT message, WPARAM wparam, LPARAM lparam);
+    void Handle_Key_Down(WPARAM wparam, LPARAM lparam);
     void Paint_On(HDC target, const RECT &area);
-    void Leave_Later_Ones_Out(HDC target) const;
+    void Exclude_Later_Siblings(HDC target) const;
     const platform::Control_State &Control() const;
 
     Mirror *owner_;

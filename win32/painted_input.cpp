@@ -57,7 +57,7 @@ bool Painted_Window::Handle_Input(UINT message, WPARAM wparam, LPARAM lparam, LR
         event.checked = message == WM_SETFOCUS;
         Send(event);
         if (event.checked && Model() != nullptr)
-            Tell_Focus(window_, *Model());
+            Announce_Focus(window_, *Model());
         return true;
     }
     default:
@@ -67,7 +67,7 @@ bool Painted_Window::Handle_Input(UINT message, WPARAM wparam, LPARAM lparam, LR
 
 bool Painted_Window::Handle_Mouse(UINT message, WPARAM wparam, LPARAM lparam) {
     Input_Event event{};
-    if (!mouse_.Take(window_, message, wparam, lparam, event))
+    if (!mouse_.Translate(window_, message, wparam, lparam, event))
         return true;
     const bool pressed = event.kind == Input_Kind::Mouse_Down || event.kind == Input_Kind::Double_Click;
     if (pressed)

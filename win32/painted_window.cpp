@@ -26,13 +26,13 @@ bool Is_Top_Level(HWND window) {
 }
 
 /// Letters are commands in the window: an input method that is open would swallow them.
-void Leave_Input_Method_Out(HWND window) {
+void Disable_Input_Method(HWND window) {
     static const auto associate = Look_Up<HANDLE WINAPI(HWND, HANDLE)>(L"imm32.dll", "ImmAssociateContext");
     if (associate != nullptr)
         associate(window, nullptr);
 }
 
-bool Equal(const std::vector<RECT> &a, const std::vector<RECT> &b) {
+bool Equal_Rects(const std::vector<RECT> &a, const std::vector<RECT> &b) {
     return std::equal(a.begin(), a.end(), b.begin(), b.end(),
                       [](const RECT &x, const RECT &y) { return EqualRect(&x, &y) != FALSE; });
 }
@@ -47,7 +47,7 @@ void Painted_Window::Create() {
                           WS_POPUP | WS_CLIPSIBLINGS | WS_CLIPCHILDREN, place.left, place.top,
                           place.right - place.left, place.bottom - place.top, nullptr, nullptr,
                           GetModuleHandleW(nullptr), nullptr));
-    Leave_Input_Method_Out(window_);
+    Disable_Input_Method(window_);
     Texts_Changed();
     // The window may lie on a screen with a scale of its own; the form hears of it once it is made.
     PostMessageW(window_, Check_Dots_Message, 0, 0);
@@ -137,7 +137,7 @@ void Painted_Window::Paint_On(HDC target, const RECT &area) {
     if (!canvas.Ok())
         return;
     Model()->paint(canvas, To_Covering_Twips(area));
-    canvas.Put_On(target);
+    canvas.Copy_To(target);
 }
 
 void Painted_Window::Own_Aspect_Changed(Aspect aspect) {
@@ -153,7 +153,7 @@ void Painted_Window::Own_Aspect_Changed(Aspect aspect) {
         break;
     }
     case Aspect::Focus:
-        Tell_Focus(window_, *Model());
+        Announce_Focus(window_, *Model());
         break;
     default:
         break;
@@ -215,7 +215,7 @@ void Painted_Window::Set_Region() {
     for (const Rect &rect : clip_)
         pixels.push_back(To_Pixels(rect));
     const Unique_Region now(CreateRectRgn(0, 0, 0, 0));
-    if (Equal(pixels, region_) && GetWindowRgn(window_, now.get()) != ERROR)
+    if (Equal_Rects(pixels, region_) && GetWindowRgn(window_, now.get()) != ERROR)
         return;
     Unique_Region whole(CreateRectRgn(0, 0, 0, 0));
     const Unique_Region part(CreateRectRgn(0, 0, 0, 0));
@@ -241,7 +241,7 @@ void Painted_Window::Shape(const std::vector<Point> &corners) {
         static_cast<void>(region.release());
 }
 
-void Painted_Window::Place() {
+void Painted_Window::Update_Bounds() {
     RECT place = To_Pixels(Model()->bounds);
     // Both corners: a mirrored parent counts from its right edge to the window's right one.
     if (!Is_Top_Level(window_))
@@ -273,7 +273,7 @@ void Painted_Window::Bring_To_Front() {
 }
 
 void Painted_Window::Scale_Changed() {
-    Place();
+    Update_Bounds();
     if (has_clip_)
         Set_Region();
     if (!shape_.empty())

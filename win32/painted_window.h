@@ -33,7 +33,7 @@ private:
     bool Handle_Key(UINT message, WPARAM wparam, LPARAM lparam);
 
     void Paint_On(HDC target, const RECT &area);
-    void Place() override;
+    void Update_Bounds() override;
     void Scale_Changed() override;
     void Set_Region();
     void Show_Or_Hide() override;

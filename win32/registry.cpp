@@ -20,7 +20,7 @@ struct Raw_Value {
 };
 
 /// Takes the value's bytes. Another program may lengthen it between two calls. Gives an error code.
-LONG Query(HKEY key, const std::wstring &name, Raw_Value &value) {
+LONG Query_Value(HKEY key, const std::wstring &name, Raw_Value &value) {
     LONG result = ERROR_SUCCESS;
     DWORD size = 256;
     do {
@@ -32,7 +32,7 @@ LONG Query(HKEY key, const std::wstring &name, Raw_Value &value) {
 }
 
 /// What a value that is there but cannot be read is given as; nothing for one that is absent.
-std::optional<std::string> Unread(LONG code) {
+std::optional<std::string> Unreadable_Text(LONG code) {
     if (code == ERROR_FILE_NOT_FOUND)
         return std::nullopt;
     return Joined({"(", win32::System_Error_Text(static_cast<unsigned long>(code)), ")"});
@@ -47,7 +47,7 @@ std::string Text_Of(const std::vector<BYTE> &data) {
 }
 
 /// With the values of the environment variables in it, or as it is where the system cannot do so.
-std::string Expanded(const std::string &text) {
+std::string Expand_Variables(const std::string &text) {
     const std::wstring wide = win32::To_Wide(text);
     std::wstring expanded(ExpandEnvironmentStringsW(wide.c_str(), nullptr, 0), L'\0');
     const DWORD size =
@@ -79,7 +79,7 @@ win32::Unique_Key Open_Key(Registry_Root root, std::string_view key, REGSAM acce
 
 /// Copies the bytes of a stored value of that type and exactly that size into `number`.
 template <typename Number>
-bool Take_Number(const Raw_Value &value, DWORD type, Number &number) {
+bool Read_Number(const Raw_Value &value, DWORD type, Number &number) {
     if (value.type != type || value.data.size() != sizeof number)
         return false;
     std::memcpy(&number, value.data.data(), sizeof number);
@@ -97,16 +97,16 @@ std::optional<std::string> Read_User_Value(std::string_view key, std::string_vie
     HKEY opened = nullptr;
     LONG result = RegOpenKeyExW(HKEY_CURRENT_USER, win32::To_Wide(key).c_str(), 0, KEY_QUERY_VALUE, &opened);
     if (result != ERROR_SUCCESS)
-        return Unread(result);
+        return Unreadable_Text(result);
     const win32::Unique_Key owner(opened);
     Raw_Value value;
-    result = Query(opened, win32::To_Wide(name), value);
+    result = Query_Value(opened, win32::To_Wide(name), value);
     if (result != ERROR_SUCCESS)
-        return Unread(result);
+        return Unreadable_Text(result);
     if (value.type == REG_SZ || value.type == REG_EXPAND_SZ)
         return Text_Of(value.data);
     std::int32_t number = 0;
-    if (!Take_Number(value, REG_DWORD, number))
+    if (!Read_Number(value, REG_DWORD, number))
         return "(binary data)";
     return std::to_string(number);
 }
@@ -139,7 +139,7 @@ Registry_Value Registry_Read(std::string_view root_name, std::string_view key, s
                              char type_letter, const Registry_Value &standard) {
     const win32::Unique_Key opened = Open_Key(Find_Registry_Root(root_name), key, KEY_QUERY_VALUE);
     Raw_Value value;
-    if (!opened || Query(opened.get(), win32::To_Wide(name), value) != ERROR_SUCCESS)
+    if (!opened || Query_Value(opened.get(), win32::To_Wide(name), value) != ERROR_SUCCESS)
         return standard;
     std::int16_t flag = 0;
     std::int32_t number = 0;
@@ -147,10 +147,10 @@ Registry_Value Registry_Read(std::string_view root_name, std::string_view key, s
     if (wants_text && value.type == REG_SZ)
         return Text_Of(value.data);
     if (wants_text && value.type == REG_EXPAND_SZ)
-        return Expanded(Text_Of(value.data));
-    if ((type_letter == 'B' || type_letter == 'b') && Take_Number(value, REG_BINARY, flag))
+        return Expand_Variables(Text_Of(value.data));
+    if ((type_letter == 'B' || type_letter == 'b') && Read_Number(value, REG_BINARY, flag))
         return flag != 0;
-    if ((type_letter == 'D' || type_letter == 'd') && Take_Number(value, REG_DWORD, number))
+    if ((type_letter == 'D' || type_letter == 'd') && Read_Number(value, REG_DWORD, number))
         return number;
     return standard;
 }

@@ -24,13 +24,13 @@ constexpr std::size_t longest_text = 32000;
 constexpr int usual_width = 300;
 constexpr int border = 16;
 
-void Cut(std::wstring &text, std::size_t length) {
+void Truncate(std::wstring &text, std::size_t length) {
     text.resize(Whole_Code_Points(text, length));
     text += L"...";
 }
 
 /// The size that the text takes, wrapped at `width`; wider only when a word is.
-SIZE Measured(HDC dc, const std::wstring &text, LONG width) {
+SIZE Measure_Text(HDC dc, const std::wstring &text, LONG width) {
     RECT rect = {0, 0, width, 0};
     DrawTextW(dc, text.c_str(), static_cast<int>(text.size()), &rect,
               DT_CALCRECT | DT_WORDBREAK | DT_NOPREFIX | DT_EXTERNALLEADING);
@@ -65,25 +65,25 @@ std::wstring With_Broken_Words(HDC dc, std::wstring_view text, LONG width) {
 
 /// Makes the text fit on a screen with `room`: it is wrapped, and only what is too long for the whole screen
 /// is cut. Returns the width to wrap it at.
-LONG Fit(HDC dc, std::wstring &text, const SIZE &room) {
+LONG Fit_Text(HDC dc, std::wstring &text, const SIZE &room) {
     if (text.size() > longest_text)
-        Cut(text, longest_text);
+        Truncate(text, longest_text);
     LONG width = std::min<LONG>(Scale_Nearest(usual_width, platform::Dots_Per_Inch(), 96), room.cx);
-    SIZE size = Measured(dc, text, width);
+    SIZE size = Measure_Text(dc, text, width);
     if (size.cx > room.cx) {
         text = With_Broken_Words(dc, text, room.cx);
         width = room.cx;
-        size = Measured(dc, text, width);
+        size = Measure_Text(dc, text, width);
     }
     while (size.cy > room.cy && width < room.cx) {
         width = std::min(width + width / 2, room.cx);
-        size = Measured(dc, text, width);
+        size = Measure_Text(dc, text, width);
     }
     while (size.cy > room.cy && room.cy > 0 && text.size() > 64) {
         // A little less than in proportion, so that it is done soon.
-        Cut(text,
-            text.size() * static_cast<std::size_t>(room.cy) / static_cast<std::size_t>(size.cy) * 15 / 16);
-        size = Measured(dc, text, width);
+        Truncate(text, text.size() * static_cast<std::size_t>(room.cy) / static_cast<std::size_t>(size.cy) *
+                           15 / 16);
+        size = Measure_Text(dc, text, width);
     }
     return width;
 }
@@ -199,7 +199,7 @@ bool Tooltips::Answer(NMHDR &notice) {
     const int around = Scale_Nearest(border, platform::Dots_Per_Inch(), 96);
     const Window_Dc dc(window_);
     const Selected_Object font(dc.Get(), reinterpret_cast<HFONT>(SendMessageW(window_, WM_GETFONT, 0, 0)));
-    const LONG width = Fit(dc.Get(), shown_, {area.width - around, area.height - around});
+    const LONG width = Fit_Text(dc.Get(), shown_, {area.width - around, area.height - around});
     SendMessageW(window_, TTM_SETMAXTIPWIDTH, 0, width);
     answer.lpszText = shown_.data();
     if (Is_Right_To_Left(tools_[index].text))

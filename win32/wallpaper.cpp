@@ -15,41 +15,41 @@ namespace {
 
 /// Takes the orders for the one thread, of which there is at most one at a time, so that none overtakes
 /// another.
-class Wallpaper_Hanger {
+class Wallpaper_Worker {
 public:
-    Wallpaper_Hanger() { InitializeCriticalSection(&section_); }
+    Wallpaper_Worker() { InitializeCriticalSection(&section_); }
 
     struct Job {
         std::wstring path;
         std::string monitors;
-        bool looks = false; ///< what hangs is to be told, and nothing to be hung up
+        bool is_query = false; ///< what hangs is to be told, and nothing to be hung up
     };
 
-    void Order(Job job) {
+    void Enqueue(Job job) {
         EnterCriticalSection(&section_);
-        std::swap(ordered_, job);
-        is_ordered_ = true;
-        if (!at_work_) {
-            thread_.reset(CreateThread(nullptr, 0, Work, this, 0, nullptr));
-            at_work_ = static_cast<bool>(thread_);
+        std::swap(queued_job_, job);
+        has_job_ = true;
+        if (!running_) {
+            thread_.reset(CreateThread(nullptr, 0, Run_Jobs, this, 0, nullptr));
+            running_ = static_cast<bool>(thread_);
         }
-        const bool alone = !at_work_;
+        const bool alone = !running_;
         LeaveCriticalSection(&section_);
         if (alone)
-            Work(this);
+            Run_Jobs(this);
     }
 
     /// Empty while another order is not done.
-    std::string Look() {
-        if (!Finish())
+    std::string Query_Monitors() {
+        if (!Wait())
             return {};
-        seen_.clear();
-        Order({{}, {}, true});
-        return Finish() ? seen_ : std::string();
+        monitors_.clear();
+        Enqueue({{}, {}, true});
+        return Wait() ? monitors_ : std::string();
     }
 
     /// For the thread that orders. Returns false if the last order is not done.
-    bool Finish() const {
+    bool Wait() const {
         constexpr DWORD most = 5000; // milliseconds
         const DWORD begin = GetTickCount();
         for (DWORD spent = 0; thread_ && spent < most; spent = GetTickCount() - begin) {
@@ -65,66 +65,66 @@ public:
     }
 
 private:
-    static DWORD WINAPI Work(void *self) {
-        auto &hanger = *static_cast<Wallpaper_Hanger *>(self);
-        for (Job job; hanger.Take(job);)
+    static DWORD WINAPI Run_Jobs(void *self) {
+        auto &worker = *static_cast<Wallpaper_Worker *>(self);
+        for (Job job; worker.Dequeue(job);)
             try {
-                hanger.Do(job);
+                worker.Run(job);
             } catch (...) {
                 // Want of memory: the wallpaper stays.
             }
         return 0;
     }
 
-    void Do(Job &job) {
-        if (job.looks) {
-            seen_ = win32::Monitors_Now();
-        } else if (job.monitors.empty() || !win32::Hang_On_Monitors(job.monitors)) {
+    void Run(Job &job) {
+        if (job.is_query) {
+            monitors_ = win32::Get_Monitor_Wallpapers();
+        } else if (job.monitors.empty() || !win32::Set_Monitor_Wallpapers(job.monitors)) {
             SystemParametersInfoW(SPI_SETDESKWALLPAPER, 0, job.path.data(),
                                   SPIF_UPDATEINIFILE | SPIF_SENDWININICHANGE);
         }
     }
 
-    bool Take(Job &job) {
+    bool Dequeue(Job &job) {
         EnterCriticalSection(&section_);
-        std::swap(job, ordered_);
-        at_work_ = is_ordered_;
-        is_ordered_ = false;
-        const bool taken = at_work_;
+        std::swap(job, queued_job_);
+        running_ = has_job_;
+        has_job_ = false;
+        const bool taken = running_;
         LeaveCriticalSection(&section_);
         return taken;
     }
 
     CRITICAL_SECTION section_;
     win32::Unique_Kernel_Handle thread_; ///< the last one, which may have ended
-    Job ordered_;
-    std::string seen_; ///< touched by the thread while it works, and after that by who waited for it
-    bool is_ordered_ = false;
-    bool at_work_ = false;
+    Job queued_job_;
+    std::string monitors_; ///< touched by the thread while it works, and after that by who waited for it
+    bool has_job_ = false;
+    bool running_ = false;
 };
 
-Wallpaper_Hanger &The_Hanger() {
+Wallpaper_Worker &The_Worker() {
     // Never destroyed: the thread may outlive the program's last line.
-    static Wallpaper_Hanger &hanger = *new Wallpaper_Hanger;
-    return hanger;
+    static Wallpaper_Worker &worker = *new Wallpaper_Worker;
+    return worker;
 }
 
 } // namespace
 
 void Set_Wallpaper(const std::string &path, const std::string &monitors) {
-    The_Hanger().Order({win32::To_Wide(path), monitors});
+    The_Worker().Enqueue({win32::To_Wide(path), monitors});
 }
 
 std::string Wallpaper_Of_Monitors() {
-    return The_Hanger().Look();
+    return The_Worker().Query_Monitors();
 }
 
-std::string Lasting_Wallpaper(const std::string &path) {
-    return win32::From_Wide(win32::Lasting_Picture(win32::To_Wide(path)));
+std::string Persistent_Wallpaper(const std::string &path) {
+    return win32::From_Wide(win32::Persistent_Picture(win32::To_Wide(path)));
 }
 
-bool Finish_Wallpaper() {
-    return The_Hanger().Finish();
+bool Wait_For_Wallpaper() {
+    return The_Worker().Wait();
 }
 
 } // namespace platform

@@ -138,7 +138,7 @@ TEST_F(Lifecycle, what_happens_under_an_alert_holds_after_it) {
 TEST_F(Lifecycle, ends_when_it_is_asked_to_and_when_the_session_is_over) {
     Start();
     bool unsaved = true;
-    form.Ask_Unsaved = [&unsaved] { return !unsaved; };
+    form.Offer_To_Save = [&unsaved] { return !unsaved; };
     for (const Broadcast say :
          {Broadcast::Close_Request, Broadcast::Close_Request, Broadcast::Session_Over}) {
         Desktop().loop_ended = false;

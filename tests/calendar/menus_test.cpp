@@ -58,7 +58,7 @@ TEST_F(Menus, of_a_day) {
     Press_Key(form, 89);
     EXPECT_EQ(form.Which_Month_Lbl.Caption(), "December - 2007");
     for (const bool may_end : {false, true}) {
-        form.Ask_Unsaved = [may_end] { return may_end; };
+        form.Offer_To_Save = [may_end] { return may_end; };
         Choose(1, 4);
         EXPECT_EQ(Desktop().loop_ended, may_end);
     }

@@ -66,7 +66,7 @@ protected:
     ~Dialog_Contract() override { platform::Destroy_Mirror(model_); }
 
     void Follow(const Input_Event &event) {
-        if (event.kind == Input_Kind::Moved)
+        if (event.kind == Input_Kind::Window_Moved)
             moved_to_ = event.point;
         (event.kind == Input_Kind::Dots_Changed ? laid_out_at_ : heard_at_) = platform::Dots_Per_Inch();
         if (event.control < 0 || platform::Box_Is_Open())
@@ -75,16 +75,16 @@ protected:
         if (event.kind == Input_Kind::Clicked)
             control.checked = event.checked;
         (control.kind == Control_Kind::Slider ? control.value : control.selected) = event.selected;
-        heard_ += event_names[static_cast<int>(event.kind)] + (" " + std::to_string(event.control)) + " ";
-        heard_ += event.kind == Input_Kind::Text_Changed ? event.text
-                  : event.kind == Input_Kind::Clicked    ? (event.checked ? "on" : "off")
-                  : event.kind == Input_Kind::Key_Down   ? std::to_string(event.key)
-                  : event.kind <= Input_Kind::Mouse_Move ? std::to_string(event.point.x)
-                                                         : std::to_string(event.selected);
-        heard_ += "; ";
+        log_ += event_names[static_cast<int>(event.kind)] + (" " + std::to_string(event.control)) + " ";
+        log_ += event.kind == Input_Kind::Text_Changed ? event.text
+                : event.kind == Input_Kind::Clicked    ? (event.checked ? "on" : "off")
+                : event.kind == Input_Kind::Key_Down   ? std::to_string(event.key)
+                : event.kind <= Input_Kind::Mouse_Move ? std::to_string(event.point.x)
+                                                       : std::to_string(event.selected);
+        log_ += "; ";
     }
 
-    std::string Heard() { return std::exchange(heard_, {}); }
+    std::string Take_Log() { return std::exchange(log_, {}); }
     HWND Native(int index) const { return GetDlgItem(window_, 100 + index); }
     HWND Typed_Text() const { return GetWindow(Native(Typed), GW_CHILD); }
     void Change(int index, Aspect aspect) {
@@ -117,7 +117,7 @@ protected:
     Control_State controls_[Last];
     platform::Form_Model model_;
     HWND window_ = nullptr;
-    std::string heard_;
+    std::string log_;
     Point moved_to_;
     int laid_out_at_ = 0, heard_at_ = 0;
 };
@@ -157,9 +157,9 @@ TEST_F(Dialog_Contract, The_Form_Hears_What_The_User_Does) {
         {[this] { controls_[Picture].access.default_action = "Pick", Type(Picture, VK_RETURN); },
          "key 11 13; "},
     };
-    for (const auto &[act, heard] : cases) {
+    for (const auto &[act, expected] : cases) {
         act();
-        EXPECT_EQ(Heard(), heard);
+        EXPECT_EQ(Take_Log(), expected);
     }
     SetWindowPos(window_, nullptr, 45, 67, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
     EXPECT_EQ(std::to_string(moved_to_.x) + std::to_string(moved_to_.y), twips(45) + twips(67));
@@ -186,7 +186,7 @@ TEST_F(Dialog_Contract, Its_Own_Changes_Show_And_Are_Not_Told) {
     win32::Check_Scale(true);
     EXPECT_EQ(GetObjectType(reinterpret_cast<HGDIOBJ>(Send(List, WM_GETFONT))), DWORD{OBJ_FONT});
     EXPECT_TRUE(Send(List, WM_GETFONT) == Send(Check, WM_GETFONT) && Send(List, WM_GETFONT) != font);
-    EXPECT_EQ(Heard(), "");
+    EXPECT_EQ(Take_Log(), "");
     model_.enabled = false; // and a text that it does not take is put back
     platform::Form_Changed(model_, Aspect::Enabled);
     SendMessageW(Typed_Text(), WM_CHAR, 'x', 0);
@@ -211,9 +211,9 @@ TEST_F(Dialog_Contract, On_A_Screen_Of_Another_Scale_It_Follows_That_And_Nothing
         LOGFONTW font = {};
         GetObjectW(reinterpret_cast<HGDIOBJ>(Send(List, WM_GETFONT)), sizeof font, &font);
         EXPECT_EQ(font.lfHeight, -Scale_Nearest(controls_[List].font.tenth_points, now, 720));
-        Heard(), Send(Picture, WM_LBUTTONDOWN, MK_LBUTTON, 40), Send(Picture, WM_LBUTTONUP, 0, 40);
+        Take_Log(), Send(Picture, WM_LBUTTONDOWN, MK_LBUTTON, 40), Send(Picture, WM_LBUTTONUP, 0, 40);
         const std::string at = " 11 " + std::to_string(Pixels_To_Twips(40, now)) + "; ";
-        EXPECT_EQ(Heard(), "down" + at + "up" + at);
+        EXPECT_EQ(Take_Log(), "down" + at + "up" + at);
         EXPECT_EQ(heard_at_, calendar_dots) << "the form's own code";
     }
 }
@@ -250,7 +250,7 @@ TEST_F(Dialog_Contract, Beside_A_Message_Box_Nothing_Changes) {
     Press_Tab(1);
     Send(Picture, WM_LBUTTONDOWN, MK_LBUTTON, 0);
     Type(List, VK_DELETE);
-    EXPECT_EQ(Heard(), "");
+    EXPECT_EQ(Take_Log(), "");
     EXPECT_TRUE(Send(Opt_1, BM_GETCHECK) == BST_CHECKED && Send(Opt_2, BM_GETCHECK) == BST_UNCHECKED);
     EXPECT_TRUE(Send(Check, BM_GETCHECK) == BST_UNCHECKED && Send(Tabs, TCM_GETCURSEL) == -1);
 }

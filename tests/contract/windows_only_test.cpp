@@ -78,7 +78,7 @@ TEST_F(Windows_Only, A_Wallpaper_That_The_System_Writes_Over_Is_Copied) {
              {"Sunset.jpg", "Sunset.jpg"}}) {
         if (!name.ends_with('2'))
             platform::Replace_File(Scratch(name), "the picture " + name);
-        EXPECT_EQ(platform::Lasting_Wallpaper(Scratch(name)), Scratch(lasting));
+        EXPECT_EQ(platform::Persistent_Wallpaper(Scratch(name)), Scratch(lasting));
         if (lasting != name) {
             EXPECT_EQ(platform::Read_File(Scratch(lasting)), "the picture " + name);
         }

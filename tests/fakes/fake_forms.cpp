@@ -248,9 +248,9 @@ int Track_Popup_Menu(const Form_Model &, const std::vector<Menu_Item> &items, co
     }
     std::string texts;
     for (const Menu_Item &item : items)
-        texts += (texts.empty() ? ""
-                  : item.apart  ? "|-|"
-                                : "|") +
+        texts += (texts.empty()           ? ""
+                  : item.separator_before ? "|-|"
+                                          : "|") +
                  (item.enabled ? item.text : "(" + item.text + ")");
     auto &expected = Desktop().expected_menus;
     const Expected_Menu menu = expected.empty() ? Expected_Menu{"none"} : expected.front();

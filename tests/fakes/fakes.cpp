@@ -189,10 +189,10 @@ bool File_Exists(const std::string &path) {
 }
 
 bool Folder_Exists(const std::string &path) {
-    return Fakes().folders.contains(path) || !Names_In_Folder(path, Listed::Files).empty();
+    return Fakes().folders.contains(path) || !Names_In_Folder(path, Entry_Kind::Files).empty();
 }
 
-std::vector<std::string> Names_In_Folder(const std::string &folder, Listed listed) {
+std::vector<std::string> Names_In_Folder(const std::string &folder, Entry_Kind kind) {
     std::set<std::string, Name_Less> names;
     const auto add = [&](const std::string &path, bool is_folder) {
         const std::string begin = folder + "\\", own = path.substr(0, begin.size());
@@ -200,7 +200,7 @@ std::vector<std::string> Names_In_Folder(const std::string &folder, Listed liste
             return;
         const std::size_t separator = path.find('\\', begin.size());
         is_folder = is_folder || separator != std::string::npos;
-        if (is_folder == (listed == Listed::Folders))
+        if (is_folder == (kind == Entry_Kind::Folders))
             names.insert(path.substr(begin.size(), separator - begin.size()));
     };
     for (const auto &[path, bytes] : Fakes().files)
@@ -247,11 +247,11 @@ std::string Wallpaper_Of_Monitors() {
     return Fakes().monitors;
 }
 
-std::string Lasting_Wallpaper(const std::string &path) {
+std::string Persistent_Wallpaper(const std::string &path) {
     return path.ends_with("TranscodedWallpaper") ? path + ", copied" : path;
 }
 
-bool Finish_Wallpaper() {
+bool Wait_For_Wallpaper() {
     Fakes().wallpaper_ordered = false;
     return true;
 }

@@ -148,7 +148,7 @@ TEST_F(Settings_Window, shows_the_example_balloon_while_the_left_button_is_held)
         }
     Label &example = dialog->Tooltips.TipExample_Lbl;
     const int at = form.Balloon.Window.Left();
-    Input(*dialog, {.kind = Input_Kind::Moved, .point = {dialog->Left() - 900, dialog->Top()}});
+    Input(*dialog, {.kind = Input_Kind::Window_Moved, .point = {dialog->Left() - 900, dialog->Top()}});
     Press(*dialog, example);
     EXPECT_EQ(form.Balloon.Window.Left(), at - 900) << "it goes with a dialog that the user moves";
     EXPECT_EQ(form.Balloon.Window.Title_Lbl.Caption(), "5/3/2002");

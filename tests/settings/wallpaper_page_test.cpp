@@ -62,8 +62,8 @@ TEST_F(Themes_Page, shows_what_the_selected_pack_says) {
             Use_Themes(use);
             const bool usable = use && march[0] != 'x'; // by the calendar
             EXPECT_EQ(Choices_Enabled(), use);
-            EXPECT_EQ(Page().Look().style.has_value(), usable) << march;
-            EXPECT_EQ(Page().Look().position.has_value(), usable && march[0] == '1') << march;
+            EXPECT_EQ(Page().Current_Look().style.has_value(), usable) << march;
+            EXPECT_EQ(Page().Current_Look().position.has_value(), usable && march[0] == '1') << march;
         }
     }
     Use_Themes(false);
@@ -93,7 +93,7 @@ TEST_F(Themes_Page, refuses_packs_that_are_not_whole_and_themes_without_packs) {
     Choose(*dialog, Page().Packs_Cbo, 1);
     Desktop().Advance(50);
     EXPECT_EQ(Page().Packs_Cbo.Text(), "Default");
-    EXPECT_TRUE(Page().Preview_Sli.Value() == 3 && Page().Look().picture.width == 3);
+    EXPECT_TRUE(Page().Preview_Sli.Value() == 3 && Page().Current_Look().picture.width == 3);
     Fakes().files.clear();
     Open();
     Fakes().Expect_Box("No Themes Available!");
@@ -136,13 +136,13 @@ TEST_F(Themes_Page, loads_only_the_picture_that_is_seen_and_tells_of_a_bad_one_i
         Slide(5);
     }
     EXPECT_EQ(in_the_frame(), "The wallpaper of May cannot be shown. Default\\5.jpg cannot be loaded");
-    EXPECT_EQ(Page().Look().picture.width, 3) << "the other page shows this month, here and below";
-    EXPECT_EQ(Page().Look().position, 3);
+    EXPECT_EQ(Page().Current_Look().picture.width, 3) << "the other page shows this month, here and below";
+    EXPECT_EQ(Page().Current_Look().position, 3);
     Choose(*dialog, Page().Preview_Sli, 6);
     EXPECT_TRUE(Page().Loading_Lbl.Visible());
     Desktop().Advance(50);
     EXPECT_TRUE(!Page().Loading_Lbl.Visible() && in_the_frame().empty());
-    EXPECT_EQ(Page().Look().picture.width, 3);
+    EXPECT_EQ(Page().Current_Look().picture.width, 3);
     EXPECT_EQ(Fakes().loads, 4) << "March, June, May, which fails, and June";
 }
 
@@ -218,8 +218,9 @@ TEST_F(Themes_Page, a_preview_leaves_all_as_it_was) {
             Fakes().wallpapers.push_back("the preview's");
         }
         for (int start = 0; start < 2; ++start, Fakes().monitors = "must not be asked for")
-            Wallpaper_Preview::Mend(); // as the next start does; nothing is left over where nobody killed it
-        if (end == pack_gone)          // which can be put back as little as what the user was told of
+            Wallpaper_Preview::Recover(); // as the next start does; nothing is left over where nobody killed
+                                          // it
+        if (end == pack_gone)             // which can be put back as little as what the user was told of
             EXPECT_EQ(Cur_Settings.Use_Themes, 0);
         else
             EXPECT_EQ(state(), before);

@@ -27,7 +27,7 @@ int main(int count, char **arguments) {
     Progress progress;
     if (std::string_view(arguments[1]) == "export") {
         Fakes().files[Event_Store::Data_File()] = bytes;
-        std::vector<Sort_Entry> entries;
+        std::vector<Event> entries;
         Load_Entries(entries, Sort_Order::Ascending_Date, Today());
         const std::string exported = ICalendar_Bytes(entries, progress);
         std::fwrite(exported.data(), 1, exported.size(), stdout);

@@ -27,15 +27,14 @@ protected:
         return Lines("BEGIN:VCALENDAR|VERSION:2.0|" + lines + "END:VCALENDAR|");
     }
     static std::string Event(const std::string &lines) { return "BEGIN:VEVENT|" + lines + "END:VEVENT|"; }
-    static std::string Imported(int imported, int there, int passed, int not_understood = 0) {
+    static std::string Imported(int imported, int there, int passed, int unsupported = 0) {
         const std::string number = std::to_string(imported);
         return "Successfully imported " + number +
                " events from the iCalendar file...\r\n\r\nC:\\in.ics\r\n\r\n" + "Imported: " + number +
                ", already there: " + std::to_string(there) + ", passed over: " + std::to_string(passed) +
-               (not_understood == 0
-                    ? ""
-                    : "\r\nOn their first day only, since their repetition is not understood: " +
-                          std::to_string(not_understood));
+               (unsupported == 0 ? ""
+                                 : "\r\nOn their first day only, since their repetition is not understood: " +
+                                       std::to_string(unsupported));
     }
     /// The records without quotes, in file order, with "|" between them.
     static std::string Records() {
@@ -52,7 +51,7 @@ TEST_F(Calendar_Files, give_their_events_to_the_days) {
     const struct {
         const char *name;
         std::string lines, records;
-        int imported = 1, passed = 0, not_understood = 0;
+        int imported = 1, passed = 0, unsupported = 0;
     } rows[] = {
         {"a text, folded inside a character, with escapes and quotes",
          Event(day + "summary;LANGUAGE=de;X-A=\"a:b;c\":Caf\xC3| \xA9\\, \\\"x\\\" 1\\;2| \t\\\\ a\\nb "
@@ -115,12 +114,12 @@ TEST_F(Calendar_Files, give_their_events_to_the_days) {
     for (const auto &row : rows) {
         Data_File() = "";
         // The second of two equal events, and the same file again, change nothing.
-        const int there = row.not_understood > 0 ? 1 : 0;
+        const int there = row.unsupported > 0 ? 1 : 0;
         Import_Bytes("\xEF\xBB\xBF" + Calendar(row.lines),
-                     Imported(row.imported, there, row.passed, row.not_understood));
+                     Imported(row.imported, there, row.passed, row.unsupported));
         EXPECT_EQ(Records(), row.records) << row.name;
         Backup() = "of before";
-        Import_Bytes(Calendar(row.lines), Imported(0, row.imported + there, row.passed, row.not_understood));
+        Import_Bytes(Calendar(row.lines), Imported(0, row.imported + there, row.passed, row.unsupported));
         EXPECT_EQ(Records() + Backup(), row.records + "of before") << row.name;
     }
 }
