@@ -23,7 +23,7 @@ void Warn_Of_Temporary_Folder() {
         platform::Message_Box("Vellatro was started from a temporary folder, as happens inside an archive. "
                               "Events that you enter will be lost when that folder is deleted.\r\n\r\n"
                               "Copy all of the program's files into a folder of your own and start it there.",
-                              "Vellatro", platform::Box_Icon::Exclamation);
+                              platform::Box_Icon::Exclamation);
 }
 
 /// Runs the calendar and its dialogs until all of them are closed.

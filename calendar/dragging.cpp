@@ -29,8 +29,8 @@ void Main_Frm::Save_Manual_Place(const std::optional<Point> &from) {
     // Only a move in both directions asks; a push along one edge is taken for a passing one.
     if (!from || manual.x == from->x || manual.y == from->y || Stays_Where_Dropped())
         return;
-    if (platform::Message_Box(manual_question, "Vellatro", platform::Box_Icon::Question,
-                              platform::Box_Buttons::Yes_No) != platform::Box_Answer::Yes)
+    if (platform::Message_Box(manual_question, platform::Box_Icon::Question, platform::Box_Buttons::Yes_No) !=
+        platform::Box_Answer::Yes)
         return;
     const Settings before = Cur_Settings;
     Change_Setting(&Settings::Alignment, Manual_Position);

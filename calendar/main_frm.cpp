@@ -114,7 +114,7 @@ bool Main_Frm::Check_For_Multiple() {
         return true;
     // The user may have been quicker than the shell, and did not start this process then.
     if (platform::Restart_Count() == 0)
-        platform::Message_Box("The program is already running!", "Vellatro", platform::Box_Icon::Information);
+        platform::Message_Box("The program is already running!", platform::Box_Icon::Information);
     return false;
 }
 
@@ -124,7 +124,7 @@ bool Main_Frm::Form_Load() {
     try {
         Load_Settings();
     } catch (const Setting_Error &error) {
-        platform::Message_Box(error.what(), "Vellatro", platform::Box_Icon::Stop);
+        platform::Message_Box(error.what(), platform::Box_Icon::Stop);
         return false;
     }
     // A pack that is damaged, its month's picture above all, is told; it is no reason to show no calendar.

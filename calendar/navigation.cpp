@@ -63,7 +63,7 @@ void Main_Frm::Change_Style(int step) {
     // No and Cancel both leave all as it is: while the theme's style rules, there is no other to step to.
     const bool theme_rules = Cur_Settings.Use_Theme_Style == 1;
     if (theme_rules &&
-        platform::Message_Box(style_question, "Vellatro", platform::Box_Icon::Question,
+        platform::Message_Box(style_question, platform::Box_Icon::Question,
                               platform::Box_Buttons::Yes_No_Cancel) != platform::Box_Answer::Yes)
         return;
     // From what is seen, which may be the theme's until its tick goes. All numbers but 0 are the same style.
@@ -82,6 +82,6 @@ void Main_Frm::Show_Today_Event() {
     // The user knows already that the file cannot be read: there may well be an event.
     if (message.incomplete && message.text.empty())
         return;
-    platform::Message_Box(Today_Text(today, message.text.empty() ? "No event." : message.text), "Vellatro",
+    platform::Message_Box(Today_Text(today, message.text.empty() ? "No event." : message.text),
                           platform::Box_Icon::Information);
 }

@@ -90,7 +90,7 @@ void Main_Frm::Show_Alert(const Date &today, std::string_view text) {
     // alert once more, and at midnight the next day gets one of its own.
     Alert_Done = true;
     Show_Pending_Texts();
-    platform::Message_Box(Today_Text(today, text), "Vellatro", platform::Box_Icon::Information);
+    platform::Message_Box(Today_Text(today, text), platform::Box_Icon::Information);
 }
 
 std::string Today_Text(const Date &today, std::string_view text) {

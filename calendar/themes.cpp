@@ -23,9 +23,7 @@ std::string Main_Frm::Get_Paper_Details(std::int16_t month, const std::string &p
     const std::variant<std::string, Pack_Fault> details = Find_Paper_Details(month, pack);
     if (const auto *const text = std::get_if<std::string>(&details))
         return *text;
-    const auto tell = [](const std::string &text) {
-        platform::Message_Box(text, "Vellatro", platform::Box_Icon::Stop);
-    };
+    const auto tell = [](const std::string &text) { platform::Message_Box(text, platform::Box_Icon::Stop); };
     if (*std::get_if<Pack_Fault>(&details) == Pack_Fault::Unreadable) {
         tell("Error loading in Settings file...\r\n\r\n" + Pack_File(pack, "settings.ini"));
         return Theme_Error;

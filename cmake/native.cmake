@@ -1,6 +1,7 @@
 # Unit tests, benchmarks and fuzz targets on the building machine, with fakes in the place of the operating system.
 add_library(vellatro_portable STATIC ${portable_sources})
 target_link_libraries(vellatro_portable PUBLIC vellatro_options)
+Unite_Folders(vellatro_portable)
 Precompile(vellatro_portable toolkit/form.h)
 file(GLOB fake_sources CONFIGURE_DEPENDS tests/fakes/*.cpp)
 add_library(vellatro_fakes STATIC ${fake_sources})

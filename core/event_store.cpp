@@ -14,7 +14,7 @@
 namespace {
 
 void Show_Loading_Error() {
-    platform::Message_Box("Error loading in data file.", "Vellatro", platform::Box_Icon::Stop);
+    platform::Message_Box("Error loading in data file.", platform::Box_Icon::Stop);
 }
 
 /// Reads the whole data file; false when there is none. What bears its name and is no file, such as a folder,
@@ -84,7 +84,7 @@ bool Event_Store::Undo() {
             platform::Message_Box(
                 Joined({"The data file was changed by something else since. This was not undone:\r\n\r\n",
                         name}),
-                "Vellatro", platform::Box_Icon::Exclamation);
+                platform::Box_Icon::Exclamation);
             return false;
         }
     } catch (const std::exception &) {
@@ -151,7 +151,7 @@ bool Event_Store::Rewrite_File(const std::string &added) {
 }
 
 bool Event_Store::Show_Save_Error() {
-    platform::Message_Box("Error saving data file.", "Vellatro", platform::Box_Icon::Stop);
+    platform::Message_Box("Error saving data file.", platform::Box_Icon::Stop);
     return false;
 }
 

@@ -77,8 +77,8 @@ bool Edit_Frm::Confirm_Leave() {
     {
         const Scoped_Value busy(busy_, true);
         answer = platform::Message_Box(Joined({"Save changes for the ", Date_Lbl.Caption(), "?"}),
-                                       "Desktop Wallpaper", platform::Box_Icon::Question,
-                                       platform::Box_Buttons::Yes_No_Cancel);
+                                       platform::Box_Icon::Question, platform::Box_Buttons::Yes_No_Cancel,
+                                       "Desktop Wallpaper");
     }
     if (answer == Box_Answer::No || (answer == Box_Answer::Yes && Apply_Btn_Click()))
         return true;
@@ -116,7 +116,7 @@ bool Edit_Frm::Apply_Btn_Click() {
     const Scoped_Value busy(busy_, true);
     if (!Check_Quotes()) {
         platform::Message_Box("Make sure you haven't used any quotation marks (\") in your entry.",
-                              "Vellatro", platform::Box_Icon::Exclamation);
+                              platform::Box_Icon::Exclamation);
         return false;
     }
     const std::string text = Message_Txt.Text();

@@ -14,7 +14,7 @@ constexpr int left_width = 2400; ///< of the column with the swatches
 constexpr int swatch_row = 19 * 15;
 constexpr int swatch_height = 17 * 15;
 constexpr int swatch_width = 36 * 15;
-constexpr int group_bottom = 7 * 15;
+constexpr int group_margin = 7 * 15;
 constexpr int value_label_width = 41 * 15;
 constexpr int gradient_width = 16 * 15;
 constexpr int value_rows = 3;
@@ -39,12 +39,12 @@ void Colours_Page::Lay_Out_Swatches(int first, int last, int top) {
 }
 
 void Colours_Page::Lay_Out_Left() {
-    constexpr int boxes_height = group_top + 4 * swatch_row + group_bottom;
+    constexpr int boxes_height = group_top + 4 * swatch_row + group_margin;
     Boxes_Fra.Move({0, 0, left_width, boxes_height});
     Lay_Out_Swatches(0, 3, group_top);
 
     constexpr int options_height = 2 * check_height + small_gap;
-    constexpr int menu_height = group_top + options_height + 2 * swatch_row + group_bottom;
+    constexpr int menu_height = group_top + options_height + 2 * swatch_row + group_margin;
     Menu_Fra.Move({0, boxes_height + group_gap, left_width, menu_height});
     constexpr int option_width = left_width - margin - small_gap;
     Col_Sys_Opt.Move({margin, group_top, option_width, check_height});
@@ -91,7 +91,7 @@ void Colours_Page::Lay_Out_Preview() {
     const Box_Layout thin(0);
     const Box_Layout square(1);
     const int height = Pixels_To_Twips(square.Box(0).height);
-    Preview_Fra.Move({0, top, page_width, group_top + height + 2 * backdrop + group_bottom});
+    Preview_Fra.Move({0, top, page_width, group_top + height + 2 * backdrop + group_margin});
 
     // Title, today's box and a thin one stand as in the calendar, and the square one at the right edge.
     const Rect origin = thin.Previous_Arrow();

@@ -170,7 +170,7 @@ void Events_Page::Events_Lst_DblClick() {
     auto line = static_cast<std::size_t>(Events_Lst.Selected());
     const std::string asked = Events_Lst.Items()[line];
     const platform::Box_Answer answer =
-        platform::Message_Box("Do you really want to remove the event..\r\n\r\n" + asked, "Vellatro",
+        platform::Message_Box("Do you really want to remove the event..\r\n\r\n" + asked,
                               platform::Box_Icon::Question, platform::Box_Buttons::Yes_No_Cancel);
     // The events may have been listed anew under the question.
     const std::vector<std::string> &lines = Events_Lst.Items();
@@ -199,8 +199,7 @@ bool Events_Page::Remove_Event(std::size_t line) {
                        (showing_imported_ ? Unmerge(events.Temp_Lst, rest, line)
                                           : Remove_Record(events.Temp_Lst, rest[line]));
     if (!there)
-        platform::Message_Box("This event is no longer in the data file.", "Vellatro",
-                              platform::Box_Icon::Exclamation);
+        platform::Message_Box("This event is no longer in the data file.", platform::Box_Icon::Exclamation);
     else if (!events.Write_ALL())
         return false;
     if (showing_imported_) {

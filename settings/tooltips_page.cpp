@@ -15,8 +15,8 @@ constexpr int balloons = 2;
 constexpr const char *example = "This is an example.";
 
 // From the dialog's corner to the page's, and over the window's frame and title.
-constexpr int page_left = 315;
-constexpr int page_top = 1050;
+constexpr int example_left = 315;
+constexpr int example_top = 1050;
 
 struct Kind {
     const char *caption, *trigger, *tooltip, *notes;
@@ -84,9 +84,10 @@ void Tooltips_Page::Tips_Opt_Click(int index) {
 
 void Tooltips_Page::Example_Tooltip() {
     // The tail points to the lower edge of the example, in its middle.
-    const Point place{
-        dialog_.Left() + page_left + Preview_Fra.Left() + TipExample_Lbl.Left() + TipExample_Lbl.Width() / 2,
-        dialog_.Top() + page_top + Preview_Fra.Top() + TipExample_Lbl.Top() + TipExample_Lbl.Height()};
+    const Point place{dialog_.Left() + example_left + Preview_Fra.Left() + TipExample_Lbl.Left() +
+                          TipExample_Lbl.Width() / 2,
+                      dialog_.Top() + example_top + Preview_Fra.Top() + TipExample_Lbl.Top() +
+                          TipExample_Lbl.Height()};
     balloon_.Hold(place, [this] { balloon_.Show(Today(), example); });
 }
 

@@ -174,7 +174,7 @@ void Wallpaper_Page::Check_Vaild() {
         complete = platform::File_Exists(Picture_File(pack, month));
     if (complete)
         return;
-    platform::Message_Box("Error Loading Theme.", "Vellatro", platform::Box_Icon::Stop);
+    platform::Message_Box("Error Loading Theme.", platform::Box_Icon::Stop);
     // None, where the pack of the settings is not there: the refused one must not stay selected.
     if (!Same_Pack(pack, Cur_Settings.Pack_Name))
         Packs_Cbo.Select(-1);
@@ -338,7 +338,7 @@ void Wallpaper_Page::Update_Style_Page() {
 void Wallpaper_Page::Theme_Use_Chk_Click() {
     End_Preview();
     if (Theme_Use_Chk.Checked() && Packs_Cbo.Items().empty()) {
-        platform::Message_Box("No Themes Available!", "Vellatro", platform::Box_Icon::Exclamation);
+        platform::Message_Box("No Themes Available!", platform::Box_Icon::Exclamation);
         Theme_Use_Chk.Set_Checked(false);
     }
     if (!Packs_Cbo.Items().empty() && Packs_Cbo.Selected() == -1) {

@@ -23,7 +23,7 @@ std::string Failure_Text() {
 }
 
 void Show_Error(const std::string &text) {
-    platform::Message_Box(text, "Vellatro", platform::Box_Icon::Stop);
+    platform::Message_Box(text, platform::Box_Icon::Stop);
 }
 
 } // namespace

@@ -106,8 +106,7 @@ bool Check_CSV_Headings(std::string_view line, CSV_Columns &columns) {
     for (const char *const word : {"DESCRIPTION", "START DATE", "SUBJECT"}) {
         if (headings.find(word) != std::string::npos)
             continue;
-        platform::Message_Box("Invalid CSV file or missing required headings.", "Vellatro",
-                              platform::Box_Icon::Stop);
+        platform::Message_Box("Invalid CSV file or missing required headings.", platform::Box_Icon::Stop);
         return false;
     }
     std::erase(headings, '"');

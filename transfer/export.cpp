@@ -31,10 +31,6 @@ constexpr std::array<Kind_Row, 5> kinds{
      {"Export Events as iCalendar File", "iCalendar File (*.ics)|*.ics", ".ics",
       " events to the iCalendar file..."}}};
 
-void Show_Message(std::string_view text, platform::Box_Icon icon) {
-    platform::Message_Box(text, "Vellatro", icon);
-}
-
 /// Asks for the file's name, until it is one that the user wants. Empty: cancelled.
 std::string Ask_Name(const Kind_Row &kind, OpenSaveDialog &dialog) {
     for (;;) {
@@ -49,12 +45,12 @@ std::string Ask_Name(const Kind_Row &kind, OpenSaveDialog &dialog) {
             name += kind.extension;
         // The copy would do no harm, but it would be none either.
         if (To_Upper(name) == To_Upper(Event_Store::Data_File())) {
-            Show_Message("You can't export to the data file you're currently using!",
-                         platform::Box_Icon::Exclamation);
+            platform::Message_Box("You can't export to the data file you're currently using!",
+                                  platform::Box_Icon::Exclamation);
             continue;
         }
         if (!platform::File_Exists(name) ||
-            platform::Message_Box("Overwrite existing file?", "Vellatro", platform::Box_Icon::Question,
+            platform::Message_Box("Overwrite existing file?", platform::Box_Icon::Question,
                                   platform::Box_Buttons::Yes_No) == platform::Box_Answer::Yes)
             return name;
     }
@@ -95,8 +91,9 @@ bool Make_Content(Export_Kind kind, Callback_Ref<Settings()> shown, Progress &pr
     }
     if (kind == Export_Kind::Data_File) {
         if (!platform::File_Exists(Event_Store::Data_File())) {
-            Show_Message("Can't find data file! This could be because you havn't created any events yet?",
-                         platform::Box_Icon::Exclamation);
+            platform::Message_Box(
+                "Can't find data file! This could be because you havn't created any events yet?",
+                platform::Box_Icon::Exclamation);
             return false;
         }
         return true;
@@ -104,7 +101,7 @@ bool Make_Content(Export_Kind kind, Callback_Ref<Settings()> shown, Progress &pr
     std::vector<Event> entries;
     // Half of the events must not look like all of them.
     if (Load_Entries(entries, Sort_Order::Ascending_Date, Today()) == Read_Result::Incomplete) {
-        Show_Message("Error loading in data file.", platform::Box_Icon::Stop);
+        platform::Message_Box("Error loading in data file.", platform::Box_Icon::Stop);
         return false;
     }
     bytes = kind == Export_Kind::CSV         ? CSV_Bytes(entries, progress)
@@ -146,5 +143,5 @@ void Export_File(Export_Kind kind, OpenSaveDialog &dialog, Callback_Ref<Settings
     else
         platform::Replace_File(name, bytes);
     progress.End();
-    Show_Message(Joined({message, "\r\n", name}), platform::Box_Icon::Information);
+    platform::Message_Box(Joined({message, "\r\n", name}), platform::Box_Icon::Information);
 }

@@ -19,11 +19,6 @@
 
 namespace {
 
-platform::Box_Answer Show_Message(std::string_view text, platform::Box_Icon icon,
-                                  platform::Box_Buttons buttons = platform::Box_Buttons::Ok) {
-    return platform::Message_Box(text, "Vellatro", icon, buttons);
-}
-
 /// Copies the data file to data.bak. Returns whether there is one.
 bool Backup_Data() {
     if (!platform::File_Exists(Event_Store::Data_File()))
@@ -93,10 +88,10 @@ bool Importer::Ask_File(const char *title, const char *filter, bool not_own_file
         if (dialog_.FileName.empty())
             return false;
         if (!platform::File_Exists(dialog_.FileName))
-            Show_Message("File doesn't exist!", platform::Box_Icon::Exclamation);
+            platform::Message_Box("File doesn't exist!", platform::Box_Icon::Exclamation);
         else if (not_own_file && To_Upper(dialog_.FileName) == To_Upper(Event_Store::Data_File()))
-            Show_Message("You can't import the data file your currently using!",
-                         platform::Box_Icon::Exclamation);
+            platform::Message_Box("You can't import the data file your currently using!",
+                                  platform::Box_Icon::Exclamation);
         else
             return true;
     }
@@ -125,9 +120,9 @@ void Importer::Import_CSV() {
         Show_Staged_Events(std::move(staged));
         Import_Progress.End();
         calendar_.Redraw();
-        Show_Message(Joined({"Successfully imported ", std::to_string(count),
-                             " events from the CSV file...\r\n\r\n", dialog_.FileName}),
-                     platform::Box_Icon::Information);
+        platform::Message_Box(Joined({"Successfully imported ", std::to_string(count),
+                                      " events from the CSV file...\r\n\r\n", dialog_.FileName}),
+                              platform::Box_Icon::Information);
     } catch (const std::exception &) {
         try {
             // A copy that could not be made may be an older one, which is not to come back.
@@ -143,7 +138,7 @@ void Importer::Import_CSV() {
             Show_Staged_Events(std::move(staged));
         }
         Import_Progress.End();
-        Show_Message("Error when importing from CSV file.", platform::Box_Icon::Exclamation);
+        platform::Message_Box("Error when importing from CSV file.", platform::Box_Icon::Exclamation);
     }
 }
 
@@ -195,7 +190,7 @@ void Importer::Write_Merged(const std::vector<Event> &staged) const {
         const auto event =
             std::find_if(staged.begin(), staged.end(), [&](const Event &each) { return each.key == key; });
         if (event != staged.end())
-            Show_Message(
+            platform::Message_Box(
                 Joined(
                     {"The event of ",
                      platform::Short_Date(event->date.year, event->date.month, event->date.day),
@@ -218,7 +213,8 @@ void Importer::Import_Config() {
         calendar_.Follow(before);
     } catch (const std::exception &) {
         Import_Progress.End();
-        Show_Message("Error when importing configuration from file.", platform::Box_Icon::Exclamation);
+        platform::Message_Box("Error when importing configuration from file.",
+                              platform::Box_Icon::Exclamation);
         if (Cur_Settings == before)
             return;
         // What came before the error stays. The calendar and the dialog follow it; else the next OK would put
@@ -230,7 +226,7 @@ void Importer::Import_Config() {
         return;
     }
     Import_Progress.End();
-    Show_Message("Loaded configuration file successfully.", platform::Box_Icon::Information);
+    platform::Message_Box("Loaded configuration file successfully.", platform::Box_Icon::Information);
     On_Configuration_Changed();
 }
 
@@ -248,8 +244,8 @@ bool Importer::Confirm_Replace() const {
     const std::string question = Joined({warning, "Replace current file 'calendar.dat' modified on ",
                                          modified(Event_Store::Data_File()), "\r\n\r\nwith new file '",
                                          dialog_.FileTitle, "' modified on ", modified(dialog_.FileName)});
-    return Show_Message(question, platform::Box_Icon::Exclamation, platform::Box_Buttons::Yes_No_Cancel) ==
-           platform::Box_Answer::Yes;
+    return platform::Message_Box(question, platform::Box_Icon::Exclamation,
+                                 platform::Box_Buttons::Yes_No_Cancel) == platform::Box_Answer::Yes;
 }
 
 void Importer::Import_Data_File() {
@@ -265,18 +261,18 @@ void Importer::Import_Data_File() {
         }
         calendar_.Redraw();
         // After No and Cancel, too.
-        Show_Message("Successfully imported data file from...\r\n\r\n" + dialog_.FileName,
-                     platform::Box_Icon::Information);
+        platform::Message_Box("Successfully imported data file from...\r\n\r\n" + dialog_.FileName,
+                              platform::Box_Icon::Information);
     } catch (const std::exception &) {
-        Show_Message("Error when importing data file.", platform::Box_Icon::Exclamation);
+        platform::Message_Box("Error when importing data file.", platform::Box_Icon::Exclamation);
     }
 }
 
 void Importer::Import_ICalendar() {
     const auto fail = [this](std::string_view reason) {
         Import_Progress.End();
-        Show_Message(Joined({"Error when importing from iCalendar file.", reason}),
-                     platform::Box_Icon::Exclamation);
+        platform::Message_Box(Joined({"Error when importing from iCalendar file.", reason}),
+                              platform::Box_Icon::Exclamation);
     };
     Join_Counts counts;
     try {
@@ -300,7 +296,7 @@ void Importer::Import_ICalendar() {
     if (counts.unsupported > 0)
         message += "\r\nOn their first day only, since their repetition is not understood: " +
                    number(counts.unsupported);
-    Show_Message(message, platform::Box_Icon::Information);
+    platform::Message_Box(message, platform::Box_Icon::Information);
 }
 
 /// Folds the events of a calendar file in as a whole: the data file is written once, at the end, and neither

@@ -90,7 +90,7 @@ Box_Answer Answer_Of(int id, Box_Buttons buttons) {
 
 } // namespace
 
-Box_Answer Message_Box(std::string_view text, std::string_view title, Box_Icon icon, Box_Buttons buttons) {
+Box_Answer Message_Box(std::string_view text, Box_Icon icon, Box_Buttons buttons, std::string_view title) {
     if (win32::Boxes_Suppressed)
         return Answer_Of(0, buttons);
     const std::wstring wide_text = Displayable_Text(text, Longest_Text);

@@ -241,8 +241,8 @@ TEST_F(Windows_Only, Message_Boxes_Show_Their_Text_And_Answer) {
         SetActiveWindow(c.pressed == IDNO ? bystander : dialog);
         Box_Visit visit{L"Box " + std::to_wstring(&c - cases), c.pressed, bystander};
         const win32::Unique_Kernel_Handle thread(CreateThread(nullptr, 0, Visit, &visit, 0, nullptr));
-        EXPECT_EQ(platform::Message_Box(c.text, win32::From_Wide(visit.title), platform::Box_Icon::Question,
-                                        c.buttons),
+        EXPECT_EQ(platform::Message_Box(c.text, platform::Box_Icon::Question, c.buttons,
+                                        win32::From_Wide(visit.title)),
                   c.answer);
         WaitForSingleObject(thread.get(), INFINITE);
         EXPECT_TRUE(visit.text == c.shown) << win32::From_Wide(visit.text);

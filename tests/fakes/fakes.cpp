@@ -329,7 +329,7 @@ void Registry_Write_String(Registry_Root root, std::string_view key, std::string
         Fakes().registry[Path(key, name)] = text;
 }
 
-Box_Answer Message_Box(std::string_view text, std::string_view title, Box_Icon icon, Box_Buttons buttons) {
+Box_Answer Message_Box(std::string_view text, Box_Icon icon, Box_Buttons buttons, std::string_view title) {
     Fake_System &system = Fakes();
     const Scoped_Value open(system.open_boxes, system.open_boxes + 1);
     system.boxes.push_back({std::string(text), std::string(title), icon, buttons});

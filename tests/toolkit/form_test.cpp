@@ -166,7 +166,7 @@ TEST_F(Form_Test, nothing_is_done_beside_a_message_box_and_timers_go_on) {
         Desktop().Advance(10);
     };
     Fakes().Expect_Box("Wait", platform::Box_Answer::Ok, act);
-    platform::Message_Box("Wait", "", platform::Box_Icon::None);
+    platform::Message_Box("Wait", platform::Box_Icon::None);
     EXPECT_EQ(form.Taken(), "focus; tick; ");
     act();
     EXPECT_EQ(form.Taken(), "High down 50; High up 50; clicked; key; focus; close; tick; ");
