@@ -1,5 +1,5 @@
-// Calling back: the two holders of lambdas, which need neither memory nor a clean-up. They take the place of
-// std::function, whose code for the copying and the end of each lambda is most of what it costs.
+// Two holders for lambdas that neither allocate memory nor need destruction. They replace std::function,
+// whose code to copy and destroy each lambda makes up most of its size.
 #pragma once
 
 #include <concepts>
@@ -10,8 +10,8 @@
 template <typename Signature>
 class Callback;
 
-/// Keeps a lambda that holds no more than three pointers or plain values, mostly the `this` of its form.
-/// Empty or null it does nothing and must not be called.
+/// Holds a copy of a lambda whose captures take at most three pointers, usually the `this` of a form. A
+/// default-constructed or null callback holds nothing and must not be called.
 template <typename Result, typename... Params>
 class Callback<Result(Params...)> {
 public:
@@ -39,8 +39,8 @@ private:
 template <typename Signature>
 class Callback_Ref;
 
-/// Refers to a lambda of any size that the caller keeps: for parameters that are called before the procedure
-/// returns.
+/// Refers to a lambda of any size. The caller keeps the lambda, so use this only for parameters that are
+/// called before the function returns.
 template <typename Result, typename... Params>
 class Callback_Ref<Result(Params...)> {
 public:

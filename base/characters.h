@@ -1,5 +1,5 @@
-// The characters of UTF-8 texts: which bytes are valid, and which code points belong to the one before them.
-// Nothing here asks the system.
+// The characters of UTF-8 texts: which bytes are valid, and which code points combine with the one before.
+// Nothing here calls the system.
 #pragma once
 
 #include <algorithm>
@@ -9,17 +9,17 @@
 #include <string>
 #include <string_view>
 
-/// What stands for bytes that are no character.
+/// Marks bytes that are not a valid character.
 constexpr std::uint32_t No_Character = 0xFFFFFFFF;
 
-/// The code point that ends at a place: where it begins, and its value.
+/// A code point and the index of its first byte.
 struct Code_Step {
     std::size_t begin;
     std::uint32_t code;
 };
 
-/// Marks, vowel signs, joiners and variation selectors of the first 65536 code points, in order. Ranges go on
-/// over code points that have no meaning.
+/// The combining marks, vowel signs, joiners and variation selectors below U+10000, in ascending order.
+/// Ranges may include unassigned code points.
 struct Code_Range {
     std::uint16_t first;
     std::uint16_t last;
@@ -59,7 +59,7 @@ inline constexpr Code_Range Combining_Ranges[] = {
     {0xABE3, 0xABEA}, {0xABEC, 0xABED}, {0xFB1E, 0xFB1E}, {0xFE00, 0xFE0F}, {0xFE20, 0xFE2F},
     {0xFF9E, 0xFF9F}};
 
-/// Whether one of the ranges, which are in order, has the code point.
+/// Returns whether a code point lies in one of the ranges, which must be in ascending order.
 template <std::size_t Count>
 bool In_Ranges(const Code_Range (&ranges)[Count], std::uint32_t code) {
     const Code_Range *range =
@@ -68,7 +68,7 @@ bool In_Ranges(const Code_Range (&ranges)[Count], std::uint32_t code) {
     return range != std::end(ranges) && range->first <= code;
 }
 
-/// Whether the code point belongs to the one before it, whatever that is.
+/// Returns whether a code point always combines with the one before it.
 inline bool Extends_Previous(std::uint32_t code) {
     if (code > 0xFFFF) {
         const bool skin_tone = code >= 0x1F3FB && code <= 0x1F3FF;
@@ -78,12 +78,13 @@ inline bool Extends_Previous(std::uint32_t code) {
     return In_Ranges(Combining_Ranges, code);
 }
 
-/// Two letters of this kind make a flag.
+/// Returns whether a code point is a regional indicator. Two of them form a flag.
 inline bool Is_Flag_Letter(std::uint32_t code) {
     return code >= 0x1F1E6 && code <= 0x1F1FF;
 }
 
-/// The code of the `length` bytes from `begin`, or No_Character when they are not one well-formed character.
+/// Returns the code point of the `length` bytes from `begin`, or No_Character if they are not exactly one
+/// well-formed character.
 inline std::uint32_t Decode_Utf8(std::string_view text, std::size_t begin, std::size_t length) {
     static constexpr unsigned marks[] = {0, 0, 0xC0, 0xE0, 0xF0};
     static constexpr unsigned masks[] = {0, 0x80, 0xE0, 0xF0, 0xF8};
@@ -102,19 +103,20 @@ inline std::uint32_t Decode_Utf8(std::string_view text, std::size_t begin, std::
     return code < smallest[length] || code > 0x10FFFF || surrogate ? No_Character : code;
 }
 
-/// The number of bytes of a well-formed character that begins with this one.
+/// Returns the number of bytes of a well-formed character that begins with `first`.
 inline std::size_t Length_Utf8(char first) {
     const unsigned lead = static_cast<unsigned char>(first);
     return lead < 0x80 ? 1 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
 }
 
-/// The code point that begins at byte `begin`, or No_Character.
+/// Returns the code point that begins at byte `begin`, or No_Character.
 inline std::uint32_t Code_At(std::string_view text, std::size_t begin) {
     const std::size_t length = Length_Utf8(text[begin]);
     return text.size() - begin < length ? No_Character : Decode_Utf8(text, begin, length);
 }
 
-/// The code point that ends before byte `end` of a UTF-8 text; a byte that belongs to none is one by itself.
+/// Returns the code point that ends before byte `end`. A byte that is not part of a valid character is
+/// returned alone, as No_Character.
 inline Code_Step Step_Back_Utf8(std::string_view text, std::size_t end) {
     std::size_t begin = end - 1;
     while (begin > 0 && end - begin < 4 && (static_cast<unsigned char>(text[begin]) & 0xC0U) == 0x80U)
@@ -123,13 +125,13 @@ inline Code_Step Step_Back_Utf8(std::string_view text, std::size_t end) {
     return code == No_Character ? Code_Step{end - 1, code} : Code_Step{begin, code};
 }
 
-/// Returns whether all bytes are well-formed UTF-8: nothing longer than it need be, no half of a surrogate
-/// pair, nothing above U+10FFFF.
+/// Returns whether the text is well-formed UTF-8: without overlong forms, surrogates or code points above
+/// U+10FFFF.
 inline bool Is_Utf8(std::string_view text) {
     constexpr std::uint64_t high_bits = 0x8080808080808080U;
     constexpr std::size_t block = 64;
     for (std::size_t at = 0; at < text.size();) {
-        // Most texts are ASCII for the most part: a block at a time.
+        // Most bytes are ASCII, so check a block at a time.
         std::uint64_t bits = high_bits;
         if (text.size() - at >= block) {
             bits = 0;
@@ -151,7 +153,8 @@ inline bool Is_Utf8(std::string_view text) {
     return true;
 }
 
-/// Appends a code point. One that is no character, as half of a surrogate pair, becomes U+FFFD.
+/// Appends a code point as UTF-8. A value that is not a character, such as half of a surrogate pair, becomes
+/// U+FFFD.
 inline void Append_Utf8(std::string &text, std::uint32_t code) {
     if (code > 0x10FFFF || (code >= 0xD800 && code <= 0xDFFF))
         code = 0xFFFD;
@@ -162,16 +165,16 @@ inline void Append_Utf8(std::string &text, std::uint32_t code) {
         text += static_cast<char>(0x80U | ((code >> (left - 6)) & 0x3FU));
 }
 
-/// Returns where the character that ends just before byte `end` of `text` begins. `end` is 1 to text.size().
-/// Bytes that are no valid character count as one character each. Marks that combine with the character
-/// before them, parts of a joined picture and the two letters of a flag are one character with it.
+/// Returns the index of the first byte of the character that ends before byte `end`, which is 1 to
+/// text.size(). A character includes its combining marks, all parts of a joined emoji, and both letters of a
+/// flag. An invalid byte counts as one character.
 inline std::size_t Previous_Character(std::string_view text, std::size_t end) {
     constexpr std::uint32_t joiner = 0x200D;
     Code_Step step = Step_Back_Utf8(text, end);
     while (step.begin > 0) {
         const Code_Step before = Step_Back_Utf8(text, step.begin);
         if (Is_Flag_Letter(step.code) && Is_Flag_Letter(before.code)) {
-            // Flags are paired from the first letter of a run.
+            // Regional indicators pair up from the start of their run.
             std::size_t letters_before = 1;
             for (Code_Step more = before; more.begin > 0; ++letters_before) {
                 more = Step_Back_Utf8(text, more.begin);

@@ -1,10 +1,10 @@
-// Colour values as the settings store keeps them.
+// Colour values in the form that the settings store holds.
 #pragma once
 
 #include <cstdint>
 
-/// A Windows colour value 0x00BBGGRR; with the top bit set, 0x80000000 + n, it names system colour n and
-/// follows the user's choice of Windows colours.
+/// A Windows colour value 0x00BBGGRR. A value with the top bit set, 0x80000000 + n, is system colour n and
+/// follows the user's Windows colours.
 using Colour = std::int32_t;
 
 constexpr Colour Rgb(int red, int green, int blue) {

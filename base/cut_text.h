@@ -1,4 +1,4 @@
-// Cutting texts, narrow (UTF-8) or wide: where one may end, and what is no part of it.
+// Shortening and trimming texts, narrow (UTF-8) or wide.
 #pragma once
 
 #include "base/characters.h"
@@ -7,14 +7,14 @@
 #include <string>
 #include <string_view>
 
-/// Stands for text that is left out.
+/// Stands for omitted text.
 inline constexpr std::string_view Ellipsis = "...";
 
-/// UTF-8's, as some programs write it before the text of a file.
+/// The UTF-8 byte order mark, which some programs write at the start of a file.
 inline constexpr std::string_view Byte_Order_Mark = "\xEF\xBB\xBF";
 
-/// Returns the length of the longest beginning of `text` that has at most `limit` units and does not end
-/// inside a code point. It is not 0 for a limit of 4 or more.
+/// Returns the length of the longest prefix of `text` that has at most `limit` units and does not end inside
+/// a code point. The result is not 0 if `limit` is 4 or more and the text is not empty.
 template <typename Text>
 std::size_t Whole_Code_Points(const Text &text, std::size_t limit) {
     if (text.size() <= limit)
@@ -27,10 +27,10 @@ std::size_t Whole_Code_Points(const Text &text, std::size_t limit) {
     return limit;
 }
 
-/// Returns the length of the longest beginning of `text` that has at most `limit` bytes and does not end
-/// inside a character as the user sees it (Previous_Character).
+/// Returns the length of the longest prefix of `text` that has at most `limit` bytes and does not end inside
+/// a character as the user sees it (Previous_Character).
 inline std::size_t Whole_Characters(std::string_view text, std::size_t limit) {
-    // From behind the limit: whether it lies inside a character cannot be told from there.
+    // Start after the limit and step back: only the bytes after the limit tell whether it splits a character.
     constexpr std::size_t run_up = 64;
     std::size_t end = std::min(text.size(), limit + run_up);
     while (end > limit)
@@ -38,13 +38,14 @@ inline std::size_t Whole_Characters(std::string_view text, std::size_t limit) {
     return end;
 }
 
-/// Returns a value as a message can show it: of a long one whole characters, and the ellipsis.
+/// Returns a value in a length that suits a message: at most 60 bytes of whole characters, then an ellipsis
+/// if more follows.
 inline std::string Shorten(std::string_view text) {
     const std::size_t end = Whole_Characters(text, 60);
     return std::string(text.substr(0, end)).append(end < text.size() ? Ellipsis : "");
 }
 
-/// Returns the part of `text` between the blanks at its ends.
+/// Returns `text` without the blanks at its ends.
 constexpr std::string_view Trim(std::string_view text, std::string_view blanks = " \t\r\n") {
     const std::size_t begin = std::min(text.find_first_not_of(blanks), text.size());
     return text.substr(begin, text.find_last_not_of(blanks) + 1 - begin);
@@ -54,7 +55,7 @@ constexpr std::string_view Without_Byte_Order_Mark(std::string_view text) {
     return text.substr(text.starts_with(Byte_Order_Mark) ? Byte_Order_Mark.size() : 0);
 }
 
-/// Returns `text` with a blank, or another unit, for each line break: CR, LF or both.
+/// Returns `text` with each line break (CR, LF or CR LF) replaced by a blank or by `instead`.
 template <typename Unit>
 std::basic_string<Unit> Without_Line_Breaks(std::basic_string<Unit> text, Unit instead = ' ') {
     std::size_t kept = 0;

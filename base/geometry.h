@@ -1,5 +1,5 @@
-// Points and rectangles as the platform procedures and the toolkit pass them. The unit is said where they are
-// used: twips on forms and in settings, pixels on the screen.
+// Points, sizes and rectangles. The unit depends on the use: twips on forms and in settings, pixels on the
+// screen.
 #pragma once
 
 struct Point {

@@ -1,12 +1,12 @@
-// Texts put together from several parts.
+// Concatenation of several texts.
 #pragma once
 
 #include <initializer_list>
 #include <string>
 #include <string_view>
 
-/// The parts one behind the other. A chain of "+" makes a string, and the code that takes it down again, at
-/// each of its steps.
+/// Returns the concatenated parts. A chain of "+" would create a string, and the code to destroy it, at each
+/// step.
 inline std::string Joined(std::initializer_list<std::string_view> parts) {
     std::string text;
     for (const std::string_view part : parts)

@@ -1,5 +1,5 @@
-// Walking over the segments of a JPEG file: is it whole, and how large is its picture? Nothing is decoded
-// here.
+// A walk over the segments of a JPEG file that checks whether the file is complete and finds the picture's
+// size. Nothing is decoded here.
 #pragma once
 
 #include "base/geometry.h"
@@ -9,8 +9,8 @@
 #include <optional>
 #include <string_view>
 
-/// The size in pixels that the file's only frame header tells. Nothing when the bytes are no JPEG file, break
-/// off before its end marker, or tell no size or two.
+/// Returns the size in pixels from the file's frame header. Returns nullopt if the bytes are not a JPEG file,
+/// end before the end marker, or hold no frame header, more than one, or one without a size.
 inline std::optional<Size> Jpeg_Size(std::string_view bytes) {
     const auto byte = [bytes](std::size_t at) { return static_cast<std::uint8_t>(bytes[at]); };
     const auto pair = [&byte](std::size_t at) { return byte(at) * 256 + byte(at + 1); };
@@ -19,7 +19,7 @@ inline std::optional<Size> Jpeg_Size(std::string_view bytes) {
         return std::nullopt;
     std::optional<Size> size;
     for (std::size_t at = 2;;) {
-        // A marker is a code other than 0 after one 0xFF or several.
+        // A marker is one or more bytes 0xFF, followed by a code other than 0.
         const std::size_t code_at = bytes.find_first_not_of('\xFF', at);
         if (code_at == at || code_at == std::string_view::npos)
             return std::nullopt;
@@ -34,7 +34,7 @@ inline std::optional<Size> Jpeg_Size(std::string_view bytes) {
         const auto length = static_cast<std::size_t>(pair(at));
         if (length < 2 || length > bytes.size() - at)
             return std::nullopt;
-        // Of this row of codes three are tables.
+        // 0xC0 to 0xCF are frame headers, except for these three.
         if (code >= 0xC0 && code <= 0xCF && code != 0xC4 && code != 0xC8 && code != 0xCC) {
             if (size || length < 8 || pair(at + 3) == 0 || pair(at + 5) == 0)
                 return std::nullopt;
@@ -43,7 +43,7 @@ inline std::optional<Size> Jpeg_Size(std::string_view bytes) {
         at += length;
         if (code != 0xDA)
             continue;
-        // A scan follows, up to the next marker that is no part of it.
+        // The data of a scan follows. Continue at the next marker that is not part of it.
         for (at = bytes.find('\xFF', at);; at = bytes.find('\xFF', at + 2)) {
             if (at == std::string_view::npos || bytes.size() - at < 2)
                 return std::nullopt;

@@ -1,5 +1,5 @@
-// Letter case of ASCII, in which names of files, keywords and headings are compared. Other letters are left
-// as they are, whatever the regional settings say.
+// Letter case of ASCII letters, for comparing file names, keywords and headings. Other letters stay unchanged
+// under all regional settings.
 #pragma once
 
 #include <string>

@@ -1,15 +1,15 @@
-// Where a line may end in texts whose words no blanks part: Chinese, Japanese and Korean ones. Measuring and
-// breaking are not here.
+// Line breaking rules for texts without blanks between words: Chinese, Japanese and Korean.
 #pragma once
 
 #include "base/characters.h"
 
-/// The characters of those texts among the first 65536 code points, with their marks.
+/// The characters of these scripts below U+10000, including their punctuation.
 inline constexpr Code_Range Cjk_Ranges[] = {{0x1100, 0x115F}, {0x2E80, 0xA4CF}, {0xA960, 0xA97F},
                                             {0xAC00, 0xD7FF}, {0xF900, 0xFAFF}, {0xFE30, 0xFE6F},
                                             {0xFF00, 0xFFEF}};
 
-/// What no line begins with: closing marks, small kana, signs that lengthen or repeat.
+/// Characters that must not begin a line: closing punctuation, small kana, prolonged sound and iteration
+/// marks.
 inline constexpr Code_Range No_Line_Start[] = {
     {0x0021, 0x0022}, {0x0025, 0x0025}, {0x0027, 0x0027}, {0x0029, 0x0029}, {0x002C, 0x002F},
     {0x003A, 0x003B}, {0x003F, 0x003F}, {0x005D, 0x005D}, {0x007D, 0x007D}, {0x00A0, 0x00A0},
@@ -28,7 +28,7 @@ inline constexpr Code_Range No_Line_Start[] = {
     {0xFF3D, 0xFF3D}, {0xFF5D, 0xFF5D}, {0xFF60, 0xFF61}, {0xFF63, 0xFF65}, {0xFF67, 0xFF70},
     {0xFF9E, 0xFF9F}};
 
-/// What no line ends with: opening marks, signs of a currency.
+/// Characters that must not end a line: opening punctuation and currency signs.
 inline constexpr Code_Range No_Line_End[] = {
     {0x0022, 0x0022}, {0x0024, 0x0024}, {0x0027, 0x0028}, {0x005B, 0x005B}, {0x007B, 0x007B},
     {0x00A0, 0x00A0}, {0x00A3, 0x00A3}, {0x00A5, 0x00A5}, {0x00AB, 0x00AB}, {0x2018, 0x2018},
@@ -44,12 +44,12 @@ inline bool Is_Cjk(std::uint32_t code) {
     return (code >= rare_first && code <= rare_last) || In_Ranges(Cjk_Ranges, code);
 }
 
-/// Whether a line of a UTF-8 text may end before byte `at`, which is neither its first nor behind its last:
-/// before a blank, and beside a character of those texts.
+/// Returns whether a line of a UTF-8 text may break before byte `at`, which lies inside the text. It may
+/// break before a blank, and next to a character of these scripts unless one of the lists above forbids it.
 inline bool Line_May_End(std::string_view text, std::size_t at) {
     if (text[at] == ' ')
         return true;
-    // Nearly all texts are settled here.
+    // Two ASCII bytes: the answer for nearly all texts.
     if (static_cast<unsigned char>(text[at]) < 0x80 && static_cast<unsigned char>(text[at - 1]) < 0x80)
         return false;
     const std::uint32_t after = Code_At(text, at);

@@ -1,5 +1,4 @@
-// Making pictures smaller by taking means: which pixels of a picture a pixel of its copy stands for, and
-// their colour. Where the copy goes is not here.
+// Scaling a picture down by averaging: the source pixels of each target pixel, and their mean colour.
 #pragma once
 
 #include "base/picture.h"
@@ -8,13 +7,13 @@
 #include <cstddef>
 #include <cstdint>
 
-/// The pixels from `begin` to before `end` of a row or column of a picture.
+/// The pixels from `begin` up to but excluding `end` in a row or column of a picture.
 struct Span {
     int begin;
     int end;
 };
 
-/// Those that pixel `i` of `count` stands for, where the picture has `length`: at least one.
+/// Returns the source pixels of target pixel `i` if `length` pixels are scaled to `count`: at least one.
 inline Span Source_Span(int i, int count, int length) {
     const auto at = [count, length](int pixel) {
         return static_cast<int>(static_cast<std::int64_t>(pixel) * length / count);
@@ -22,7 +21,7 @@ inline Span Source_Span(int i, int count, int length) {
     return {at(i), std::max(at(i) + 1, at(i + 1))};
 }
 
-/// 0x00RRGGBB: the mean colour of a part of the picture.
+/// Returns the mean colour of a part of the picture as 0x00RRGGBB.
 inline std::uint32_t Mean_Colour(const Picture &picture, Span columns, Span rows) {
     std::uint64_t blue = 0;
     std::uint64_t green = 0;

@@ -1,9 +1,9 @@
-// A value for the length of a scope.
+// A temporary value for a variable, limited to a scope.
 #pragma once
 
 #include <utility>
 
-/// Puts `value` into `place`, and what was there before back at the end of the scope.
+/// Sets `place` to `value` and restores the previous value at the end of the scope.
 template <typename Value>
 class Scoped_Value {
 public:

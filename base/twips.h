@@ -1,4 +1,4 @@
-// The arithmetic between twips and pixels: 1440 twips are one inch. The dots per inch are the caller's.
+// Conversion between twips and pixels. 1440 twips are one inch; the caller supplies the dots per inch.
 #pragma once
 
 #include <algorithm>
@@ -6,8 +6,8 @@
 
 constexpr int Twips_Per_Inch = 1440;
 
-/// `value` * `factor` / `divisor` to the nearest whole number; `factor` and `divisor` are positive. A half
-/// goes up, on both sides of zero, so that equal distances stay equal wherever they begin.
+/// Returns `value` * `factor` / `divisor`, rounded to the nearest integer; `factor` and `divisor` are
+/// positive. Halves round up on both sides of zero, so that equal distances stay equal wherever they begin.
 inline int Scale_Nearest(int value, int factor, int divisor) {
     const std::int64_t twice = 2 * static_cast<std::int64_t>(divisor);
     const std::int64_t doubled = 2 * static_cast<std::int64_t>(value) * factor + divisor;
@@ -15,18 +15,18 @@ inline int Scale_Nearest(int value, int factor, int divisor) {
     return static_cast<int>(std::clamp<std::int64_t>(quotient, INT32_MIN, INT32_MAX));
 }
 
-/// The same rounded down.
+/// Returns the same quotient, rounded down.
 inline int Scale_Down(int value, int factor, int divisor) {
     const std::int64_t product = static_cast<std::int64_t>(value) * factor;
     return static_cast<int>(product / divisor - (product % divisor < 0 ? 1 : 0));
 }
 
-/// The same rounded up.
+/// Returns the same quotient, rounded up.
 inline int Scale_Up(int value, int factor, int divisor) {
     return -Scale_Down(-value, factor, divisor);
 }
 
-/// To the nearest whole pixel and twip, at `dots` per inch.
+/// Convert to the nearest pixel and the nearest twip, at `dots` per inch.
 inline int Twips_To_Pixels(int twips, int dots) {
     return Scale_Nearest(twips, dots, Twips_Per_Inch);
 }

@@ -1,7 +1,7 @@
-// Filling a month from the data file, beside the least that reading the same bytes can cost: a count of their
-// line ends by memchr. Files are those of the fakes, so that no disk blurs the figures; each side takes its
-// own copy of the bytes from there, as it would from a disk. The calendar window is the program's own; only
-// the measuring of text widths is the fakes', which is quicker than the system's.
+// Times filling a month from the data file. The comparison is a memchr count of the line endings in the same
+// bytes, the least that reading can cost. The files are the fakes', so that no disk distorts the figures, and
+// each side copies the bytes from there, as from a disk. The calendar window is the program's own; only text
+// widths come from the fakes, which measure faster than the system.
 #include "calendar/main_frm.h"
 #include "core/date.h"
 #include "core/event_store.h"
@@ -16,7 +16,7 @@ namespace {
 
 constexpr Date shown{2002, 3, 1};
 
-/// Puts `count` events of 100 years into the data file, every third an every-year one.
+/// Writes `count` events from 100 years to the data file, every third of them yearly.
 void Make_File(std::int64_t count) {
     Reset_Fakes();
     std::string bytes;
@@ -66,7 +66,7 @@ void Count_Line_Ends(benchmark::State &state) {
     state.SetItemsProcessed(state.iterations() * state.range(0));
 }
 
-/// What a save costs besides the disk: load all, change the last day's record, rewrite all.
+/// Times a save without the disk: loads all records, changes the last day's record and rewrites them all.
 void Save_One_Day(benchmark::State &state) {
     Make_File(state.range(0));
     Event_Store store;

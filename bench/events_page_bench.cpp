@@ -1,5 +1,5 @@
-// Listing and sorting all events for the overview, and counting them. Files and short dates are those of the
-// fakes; the list box is not filled.
+// Times listing, sorting and counting all events for the overview. Files and short dates come from the fakes.
+// The list box is not filled.
 #include "core/event_store.h"
 #include "settings/event_overview.h"
 #include "settings/event_statistics.h"
@@ -11,7 +11,7 @@ namespace {
 
 constexpr Date today{2002, 3, 5};
 
-/// Puts `count` events of 100 years into the data file, every third a yearly one, with the days mixed.
+/// Writes `count` events from 100 years to the data file, in mixed order, every third of them yearly.
 void Make_File(std::int64_t count) {
     Reset_Fakes();
     std::string &bytes = Fakes().files[Event_Store::Data_File()];

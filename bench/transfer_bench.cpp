@@ -1,5 +1,5 @@
-// Exporting and importing many events, by the real procedures from file to file; the files are those of the
-// fakes.
+// Times the export and import of many events with the real procedures, from file to file. The files are the
+// fakes'.
 #include "core/event_store.h"
 #include "tests/fakes/fake_forms.h"
 #include "transfer/export.h"
@@ -9,7 +9,7 @@
 
 namespace {
 
-/// A file of events of 60 years, many of them on the same days.
+/// Returns a CSV file with events from 60 years, many of them on the same days.
 std::string CSV_File(std::int64_t count) {
     std::string bytes = "\"Subject\",\"Start Date\",\"Description\"\r\n";
     for (std::int64_t i = 0; i < count; ++i) {
@@ -21,7 +21,8 @@ std::string CSV_File(std::int64_t count) {
     return bytes;
 }
 
-/// A file of as many events, on the same days, with what a web calendar writes about each.
+/// Returns an iCalendar file with the same number of events on the same days, each with the properties that a
+/// web calendar writes.
 std::string ICalendar_File(std::int64_t count) {
     const auto two = [](std::int64_t number) { return std::to_string(100 + number).substr(1); };
     std::string bytes = "BEGIN:VCALENDAR\r\nVERSION:2.0\r\n";
@@ -36,7 +37,8 @@ std::string ICalendar_File(std::int64_t count) {
     return bytes + "END:VCALENDAR\r\n";
 }
 
-/// Imports a file again and again into no events, and expects it to be told as `good`.
+/// Imports a file into an empty calendar in each iteration. The message must show success, or failure if
+/// `good` is false.
 void Import_Events(benchmark::State &state, const std::string &bytes, const char *title,
                    void (Importer::*import)(), bool good = true) {
     Reset_Desktop();
@@ -52,13 +54,13 @@ void Import_Events(benchmark::State &state, const std::string &bytes, const char
     for (auto _ : state) {
         Reset_Fakes();
         Fakes().any_box = true;
-        form.Events.Temp_Lst.clear(); // without a data file they would stay
+        form.Events.Temp_Lst.clear(); // an import without a data file would keep them
         Fakes().files["C:\\in"] = bytes;
         Fakes().Expect_Dialog(title, "C:\\in");
         (importer.*import)();
     }
     if (Fakes().boxes.size() != 1 || (Fakes().boxes[0].icon == platform::Box_Icon::Information) != good)
-        state.SkipWithError("it went another way");
+        state.SkipWithError("the import had another result");
     state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(bytes.size()));
 }
 
@@ -73,7 +75,7 @@ void Import_Many(benchmark::State &state) {
     Import_Events(state, CSV_File(state.range(0)), csv_title, &Importer::Import_CSV);
 }
 
-/// Never a line that ends in a quote: all are joined, and then refused.
+/// No line ends with a quote: the import joins all lines and then fails.
 void Import_Unclosed(benchmark::State &state) {
     std::string bytes = "\"Subject\",\"Start Date\",\"Description\"\r\n";
     for (std::int64_t i = 0; i < state.range(0); ++i)

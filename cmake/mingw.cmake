@@ -1,4 +1,5 @@
-# The MinGW-w64 cross compiler of `triple`, in its variant with Windows' own threads: it brings no thread library.
+# The MinGW-w64 cross compiler for `triple`. The win32 variant uses Windows' own threads, so no thread library is
+# needed.
 set(CMAKE_SYSTEM_NAME Windows)
 string(REGEX REPLACE "-.*" "" CMAKE_SYSTEM_PROCESSOR ${triple})
 set(CMAKE_C_COMPILER ${triple}-gcc-win32)

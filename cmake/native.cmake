@@ -1,4 +1,4 @@
-# Unit tests, benchmarks and fuzz targets on the building machine, with fakes in the place of the operating system.
+# Unit tests, benchmarks and fuzz targets on the build machine. Fakes replace the operating system.
 add_library(vellatro_portable STATIC ${portable_sources})
 target_link_libraries(vellatro_portable PUBLIC vellatro_options)
 Unite_Folders(vellatro_portable)
@@ -6,7 +6,7 @@ Precompile(vellatro_portable toolkit/form.h)
 file(GLOB fake_sources CONFIGURE_DEPENDS tests/fakes/*.cpp)
 add_library(vellatro_fakes STATIC ${fake_sources})
 target_link_libraries(vellatro_fakes PUBLIC vellatro_portable)
-# The program calls the fakes, and the fakes call back into the program.
+# The program calls the fakes, and the fakes call the program.
 target_link_libraries(vellatro_portable INTERFACE vellatro_fakes)
 
 if(VELLATRO_BENCH)
@@ -15,7 +15,7 @@ if(VELLATRO_BENCH)
     add_executable(vellatro_bench ${bench_sources})
     target_link_libraries(vellatro_bench PRIVATE vellatro_portable benchmark::benchmark_main)
 elseif(VELLATRO_FUZZ)
-    # One program a file.
+    # Each file is a program.
     file(GLOB fuzz_sources CONFIGURE_DEPENDS fuzz/*.cpp)
     target_compile_options(vellatro_options INTERFACE -fsanitize=fuzzer-no-link)
     foreach(source ${fuzz_sources})

@@ -1,7 +1,7 @@
-# The program and, for the desktop tests, the programs that drive it.
+# The program, and the programs that drive it for the desktop tests.
 enable_language(RC)
 
-# How the product is compiled: the program, and the platform's procedures, which the contract tests share.
+# The compiler options of the product: the program and the platform code, which the contract tests share.
 add_library(vellatro_product_options INTERFACE)
 target_link_libraries(vellatro_product_options INTERFACE vellatro_options)
 target_include_directories(vellatro_product_options INTERFACE ${CMAKE_SOURCE_DIR}/win32)
@@ -10,14 +10,14 @@ target_compile_definitions(vellatro_product_options INTERFACE _WIN32_WINNT=0x060
 set(product_flags -Oz -flto -fstack-protector-strong)
 target_compile_options(vellatro_product_options INTERFACE
     $<$<COMPILE_LANGUAGE:CXX>:${product_flags} -ffunction-sections -fdata-sections -fno-rtti>)
-# One partition: with several GCC 12 breaks off while it links.
+# A single partition, because GCC 12 crashes while linking several.
 target_link_options(vellatro_product_options INTERFACE ${product_flags} -flto-partition=none -static -Wl,--gc-sections)
 target_link_libraries(vellatro_product_options INTERFACE
     comctl32 comdlg32 gdi32 user32 advapi32 shell32 ole32 oleaut32 oleacc uuid)
 
 file(GLOB win32_sources CONFIGURE_DEPENDS win32/*.cpp)
 add_library(vellatro_win32 OBJECT ${win32_sources})
-# The one with symbols names the function of an address in a report of a crash.
+# The unstripped program translates the addresses of a crash report into function names.
 add_executable(vellatro WIN32 ${portable_sources} app/main.cpp app/cxx_runtime.cpp win32/vellatro.rc
     $<TARGET_OBJECTS:vellatro_win32>)
 add_executable(vellatro_unstripped WIN32 EXCLUDE_FROM_ALL $<TARGET_OBJECTS:vellatro> $<TARGET_OBJECTS:vellatro_win32>)
@@ -30,12 +30,12 @@ foreach(program vellatro vellatro_unstripped)
     target_link_options(${program} PRIVATE -Wl,--disable-auto-import -Wl,--nxcompat -Wl,--dynamicbase -Wl,--tsaware
         -Wl,--no-insert-timestamp)
     if(CMAKE_SIZEOF_VOID_P EQUAL 4)
-        # Windows 2000; the linker's own choice is Windows NT 4.0.
+        # Windows 2000; the linker's default is Windows NT 4.0.
         target_link_options(${program} PRIVATE -Wl,--subsystem,windows:5.0)
     endif()
 endforeach()
 target_link_options(vellatro PRIVATE -s)
-# What a user with a calendar that is not seen is asked to run. It is no part of the package.
+# Users run it to report a calendar that is not visible. It is not in the package.
 add_executable(shell_tree tools/shell_tree.cpp)
 target_compile_definitions(shell_tree PRIVATE _WIN32_WINNT=0x0601 WINVER=0x0601 NOMINMAX)
 target_link_libraries(shell_tree PRIVATE vellatro_options user32)

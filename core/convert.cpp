@@ -1,4 +1,3 @@
-// Conversions of stored texts. The process's regional settings have no say in them.
 #include "core/convert.h"
 
 #include "base/cut_text.h"
@@ -15,7 +14,7 @@ namespace {
 template <class Integer>
 bool Read_Integer(std::string_view text, Integer &value) {
     std::string_view digits = Trim(text, " \t");
-    // from_chars knows no plus sign; after one there must be no other sign.
+    // from_chars does not accept a plus sign. No second sign may follow the plus.
     if (digits.size() > 1 && digits[0] == '+' && digits[1] != '-')
         digits.remove_prefix(1);
     const char *end = digits.data() + digits.size();
@@ -34,7 +33,7 @@ Integer To_Integer(std::string_view text) {
     return value;
 }
 
-/// Digits, at most one point among them, and a sign before them. A number of any size will do.
+/// Returns whether the text is digits with at most one decimal point and an optional sign, of any length.
 bool Is_Number(std::string_view text) {
     if (!text.empty() && (text[0] == '+' || text[0] == '-'))
         text.remove_prefix(1);
@@ -76,7 +75,7 @@ std::string Flag_Text(bool flag) {
 std::int16_t Fit_Int16(std::int64_t value) {
     using Limits = std::numeric_limits<std::int16_t>;
     if (value < Limits::min() || value > Limits::max())
-        throw Conversion_Error(std::to_string(value) + " is no whole number from -32768 to 32767");
+        throw Conversion_Error(std::to_string(value) + " is not a whole number from -32768 to 32767");
     return static_cast<std::int16_t>(value);
 }
 

@@ -1,4 +1,5 @@
-// Conversion of stored texts to the program's types and back. What does not fit is an error, never a wrap.
+// Conversions between stored texts and the program's types. Regional settings have no effect. A value that
+// does not fit is an error; it never wraps.
 #pragma once
 
 #include "base/error.h"
@@ -8,33 +9,33 @@
 #include <string>
 #include <string_view>
 
-/// A text is no value of the wanted type. what() says what was expected.
+/// Thrown if a text is not a value of the expected type. what() names the expected form.
 class Conversion_Error : public Error {
 public:
     using Error::Error;
 };
 
-/// Decimal text, with a sign and blanks around it allowed, as a 16-bit or 32-bit integer. Throws
-/// Conversion_Error.
+/// Returns a decimal text as a 16-bit or 32-bit integer. The text may have a sign, and blanks around it.
+/// Throws Conversion_Error for any other text and for a number out of range.
 std::int16_t To_Int16(std::string_view text);
 std::int32_t To_Int32(std::string_view text);
 
-/// The same, or nothing.
+/// Returns the text as To_Int16 does, or nullopt if it does not convert.
 std::optional<std::int16_t> Int16_Of(std::string_view text);
 
-/// The words True and False in any letter case, or a number, of which 0 alone is false. Throws
-/// Conversion_Error.
+/// Returns a flag from True or False in any letter case, or from a number: 0 is false, any other is true.
+/// Blanks around the text are allowed. Throws Conversion_Error for any other text.
 bool To_Flag(std::string_view text);
 
-/// "True" or "False".
+/// Returns "True" or "False".
 std::string Flag_Text(bool flag);
 
-/// Narrows to 16 bits. Throws Conversion_Error when the value does not fit.
+/// Returns the value as a 16-bit integer. Throws Conversion_Error if it does not fit.
 std::int16_t Fit_Int16(std::int64_t value);
 
-/// Returns the 16-bit integer that is nearest to a value.
+/// Returns the 16-bit integer nearest to the value.
 std::int16_t Nearest_Int16(int value);
 
-/// Returns `text` where it is UTF-8. Where it is not, returns what it is in the system's ANSI code page, as a
-/// view into `room`.
+/// Returns `text` unchanged if it is UTF-8. Otherwise converts it from the system's ANSI code page into
+/// `room` and returns a view of `room`.
 std::string_view As_Utf8(std::string_view text, std::string &room);

@@ -1,4 +1,3 @@
-// Calendar arithmetic on the standard library's calendar types, and the reading and making of date keys.
 #include "core/date.h"
 
 #include "base/joined.h"
@@ -16,8 +15,8 @@ std::chrono::year_month_day Calendar_Day(const Date &date) {
            std::chrono::day(static_cast<unsigned>(date.day));
 }
 
-/// Reads one to four digits and the `separator` behind them, the form in which the program writes its keys.
-/// Leaves `at` behind the separator; false when the text is something else.
+/// Reads one to four digits and the `separator` after them, the form in which the program writes its keys.
+/// '\0' stands for the end of the text. Moves `at` past the separator. Returns false for any other text.
 bool Parse_Number(const char *&at, const char *end, char separator, std::int16_t &number) {
     int value = 0;
     const char *digit = at;
@@ -33,7 +32,7 @@ bool Parse_Number(const char *&at, const char *end, char separator, std::int16_t
     return true;
 }
 
-/// Day, month and year.
+/// Returns day, month and year, separated by `separator`.
 std::string Join_Date(std::string_view separator, const Date &date) {
     return Joined({std::to_string(date.day), separator, std::to_string(date.month), separator,
                    std::to_string(date.year)});
@@ -75,7 +74,7 @@ std::string Date_Key(const Date &date) {
 }
 
 std::string Every_Year_Key(const std::string &key) {
-    // The four last characters of a key are its year; a year before 1000 has fewer.
+    // The year is cut at its slash, because a year before 1000 has fewer than four digits.
     return key.substr(0, key.rfind('/') + 1) + std::to_string(every_year);
 }
 

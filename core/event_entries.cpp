@@ -1,4 +1,3 @@
-// Taking records apart, the walk over the data file, and sorting.
 #include "core/event_entries.h"
 
 #include "base/joined.h"
@@ -82,7 +81,8 @@ Read_Result Load_Entries(std::vector<Event> &entries, Sort_Order order, const Da
 
 bool Remove_Record(std::vector<std::string> &records, const Event &event) {
     const std::string record = Joined({event.key, "=", event.text});
-    // Of records that are alike the place tells which one; the file may have changed since.
+    // `place` tells equal records apart. The file may have changed since `place` was read, so fall back to
+    // the first equal record.
     auto at = records.end();
     if (event.place < records.size() && records[event.place] == record)
         at = records.begin() + static_cast<std::ptrdiff_t>(event.place);

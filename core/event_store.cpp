@@ -1,4 +1,3 @@
-// The procedures over calendar.dat, and the one place each where a failure is told to the user.
 #include "core/event_store.h"
 
 #include "base/joined.h"
@@ -17,8 +16,8 @@ void Show_Loading_Error() {
     platform::Message_Box("Error loading in data file.", platform::Box_Icon::Stop);
 }
 
-/// Reads the whole data file; false when there is none. What bears its name and is no file, such as a folder,
-/// is not "none": reading it fails. Throws platform::File_Error.
+/// Reads the whole data file into `bytes`. Returns false if there is none. Throws platform::File_Error, also
+/// if a folder has the file's name.
 bool Read_Data_File(std::string &bytes) {
     const std::string path = Event_Store::Data_File();
     if (!platform::Path_Exists(path))
@@ -27,9 +26,9 @@ bool Read_Data_File(std::string &bytes) {
     return true;
 }
 
-/// Calls `take` with each item of the data file that is a record, parted. A line without "=", as of a note or
-/// an empty one, is none and hides no other. Returns whether the file held none of those. Throws
-/// platform::File_Error, Sequential_Error and what `take` throws.
+/// Calls `take` with each record of the data file. Skips items without "=", such as notes and empty lines,
+/// and returns false if there were any. Throws platform::File_Error, Sequential_Error and everything that
+/// `take` throws.
 bool For_Each_Record(Callback_Ref<void(std::string_view item, const Event_Record &parts)> take) {
     std::string bytes;
     if (!Read_Data_File(bytes))
@@ -82,15 +81,15 @@ bool Event_Store::Undo() {
     try {
         if (!Changes.Undo()) {
             platform::Message_Box(
-                Joined({"The data file was changed by something else since. This was not undone:\r\n\r\n",
-                        name}),
+                Joined({"The data file has changed since then, so this was not undone:\r\n\r\n", name}),
                 platform::Box_Icon::Exclamation);
             return false;
         }
     } catch (const std::exception &) {
         return Show_Save_Error();
     }
-    // Where there is no file again, Load_File leaves this alone, and the next save must not bring it back.
+    // If the file is gone now, Load_File keeps Temp_Lst as it is, and the next save would write the events
+    // again.
     Temp_Lst.clear();
     return true;
 }
@@ -130,7 +129,7 @@ bool Event_Store::Check_For_Pre(const std::string &key, const std::string &text,
 
 void Event_Store::Write_Records(const std::string &added) const {
     if (load_failed_)
-        throw platform::File_Error("what else the file holds is not known");
+        throw platform::File_Error("the rest of the file is unknown");
     std::string bytes = Format_Records(Temp_Lst);
     if (!added.empty())
         Append_Item(bytes, added);
@@ -178,7 +177,7 @@ Stored_Message Event_Store::Get_Message(const std::string &key) {
             message.text = parts.text;
         });
     } catch (const std::exception &) {
-        // What was found so far is kept: an editor that showed nothing would invite to save nothing.
+        // Keep the text found so far: saving an empty editor would delete the event.
         message.incomplete = true;
     }
     if (!sound)
@@ -192,7 +191,7 @@ bool Event_Store::Load_Dates(Callback_Ref<void(std::string_view record)> enter, 
     try {
         sound = For_Each_Record([&](std::string_view item, const Event_Record &) { enter(item); });
         complete = true;
-    } catch (const std::exception &) { // told below
+    } catch (const std::exception &) { // the message follows below
     }
     if (entered)
         entered();

@@ -1,5 +1,4 @@
-// The events and their one file, calendar.dat in the program's folder. What a day box shows of them is not
-// here.
+// The events and their only file, calendar.dat in the program's folder.
 #pragma once
 
 #include "base/callback.h"
@@ -10,85 +9,86 @@
 #include <string_view>
 #include <vector>
 
-/// An event record parted at its first "=".
+/// An event record, split at its first "=".
 struct Event_Record {
     std::string_view key;
     std::string_view text;
 };
 
-/// Parts a record; false when it has no "=".
+/// Splits a record at its first "=". Returns false if it has none.
 bool Parse_Record(std::string_view record, Event_Record &parts);
 
-/// The name of a change to the event of a day: Clear 5 March.
+/// Returns the name of a change to a day's event, such as "Clear 5 March".
 std::string Change_Name(std::string_view what, const Date &day);
 
-/// What Get_Message found for a day.
+/// The event that Get_Message found for a day.
 struct Stored_Message {
     std::string text;
-    bool every_year = false; ///< one of the day's records is an every-year one
-    bool incomplete = false; ///< the file could not be read to its end, which the user has been told
+    bool every_year = false; ///< at least one of the day's records is yearly
+    bool incomplete = false; ///< the file could not be read to its end; the user has seen a message
 };
 
-/// Reads and rewrites the event file, always whole. Each procedure that touches the file shows one fixed
-/// sentence when that fails, and leaves; but for Write_Data_File none throws for it. A message box lets
-/// timers go on, so all of them may be entered again while one is shown.
+/// Reads and rewrites the event file, always as a whole. If an access to the file fails, a procedure shows
+/// one fixed message and returns; only Write_Data_File throws instead. Timers run on while a message box is
+/// open, so any of these procedures may be entered again meanwhile.
 class Event_Store {
 public:
-    /// All records of the file in file order, as of the last Load_File.
+    /// All items of the file in file order, as of the last Load_File and the changes since.
     std::vector<std::string> Temp_Lst;
 
-    /// The path of calendar.dat.
+    /// Returns the path of calendar.dat.
     static std::string Data_File();
 
-    /// What the user has changed in the file since the program's start. Whoever changes it for the user has a
-    /// Change of this alive meanwhile.
+    /// The user's changes to the file since the program started. Code that changes the file for the user
+    /// keeps an Undo_Log::Change of this log alive meanwhile.
     Undo_Log Changes{Data_File()};
 
-    /// Takes the newest of the changes back. Returns whether the file is another one now; a file that
-    /// something else has changed since is not, which the user is told, and a failure shows "Error saving
-    /// data file.".
+    /// Undoes the newest change. Returns whether the file was changed. If another program has changed the
+    /// file since, tells the user and leaves the file alone. A failure shows "Error saving data file.".
     bool Undo();
 
-    /// Fills Temp_Lst from the file, with the lines that are no records; without a file it stays as it is.
-    /// Returns false when the file could not be read to its end, which shows "Error loading in data file.".
+    /// Fills Temp_Lst from the file, including lines that are not records. If there is no file, Temp_Lst
+    /// stays as it is. If the file cannot be read to its end, shows "Error loading in data file." and returns
+    /// false.
     bool Load_File();
 
-    /// Stores `text` as the event of the day `key`, an exact key: replaces, removes or adds the record, then
-    /// saves. The first record of the day counts, be it exact or every-year. An empty text removes it, and
-    /// where there is none leaves the file untouched. Returns false when the file does not hold `text` now,
-    /// which the user has been told.
+    /// Stores `text` as the event of the day with the exact key `key`, then saves. Replaces the first record
+    /// of that day, exact or yearly, or adds one. An empty text removes that record; if there is none, the
+    /// file stays untouched. Returns false, after a message, if the file could not be saved.
     bool Check_For_Pre(const std::string &key, const std::string &text, bool each_year);
 
-    /// Rewrites the file from Temp_Lst. Throws platform::File_Error, Sequential_Error for a record that
-    /// cannot be written, and the former after a failed Load_File, too: a rewrite would lose what was not
-    /// read. The file is as it was then.
+    /// Rewrites the file from Temp_Lst. Throws platform::File_Error if the write fails, or if the last
+    /// Load_File failed, since a rewrite would lose the unread rest. Throws Sequential_Error for a record
+    /// that cannot be written. After a throw the file is unchanged.
     void Write_Data_File();
 
-    /// The same, but a failure shows "Error saving data file." and returns false.
+    /// Rewrites the file as Write_Data_File does. A failure shows "Error saving data file." and returns
+    /// false.
     bool Write_ALL();
 
-    /// Rewrites the file from Temp_Lst with one record more, which does not enter Temp_Lst. Does nothing when
-    /// `text` is empty. Returns false when that failed, or the last Load_File did.
+    /// Rewrites the file from Temp_Lst with one more record, which is not added to Temp_Lst. Does nothing if
+    /// `text` is empty. Returns false if the write or the last Load_File failed.
     bool Write_New_Line(const std::string &key, const std::string &text, bool each_year);
 
-    /// Shows "Error saving data file." for a save that must not be tried. Returns false.
+    /// Shows "Error saving data file." and returns false, also for a save that must not be attempted.
     static bool Show_Save_Error();
 
-    /// The event of the day `key`: of several records the last one in the file. Without a file there is none.
-    /// A failure shows the message of Load_File; what was found before it is returned. Lines without "=" show
-    /// it, too, but once, and the records behind them count.
+    /// Returns the event of the day `key`: the text of its last record in the file. If reading fails, shows
+    /// the message of Load_File and returns the text found before the failure. Lines without "=" also cause
+    /// the message, once, but the records after them count.
     Stored_Message Get_Message(const std::string &key);
 
-    /// Calls `enter` for each record in file order; the view it is given lasts for the call. An exception of
-    /// it ends the reading with the message of Load_File, which lines without "=" show, too. `entered` is
-    /// called after the last record, before that message. Returns whether all records were entered.
+    /// Calls `enter` for each record in file order; the view is valid during the call. If reading fails or
+    /// `enter` throws, the reading ends and the message of Load_File follows. Lines without "=" also cause
+    /// the message. Calls `entered` after the last record, before any message. Returns whether all records
+    /// were entered.
     bool Load_Dates(Callback_Ref<void(std::string_view record)> enter, Callback<void()> entered = nullptr);
 
 private:
     /// Writes Temp_Lst and, unless it is empty, the record `added`. Throws as Write_Data_File does.
     void Write_Records(const std::string &added) const;
-    /// The same with a message for a failure.
+    /// Does the same, but shows a message and returns false on failure.
     bool Rewrite_File(const std::string &added);
 
-    bool load_failed_ = false; ///< the last Load_File failed: a rewrite would lose what it did not read
+    bool load_failed_ = false; ///< the last Load_File failed, so a rewrite would lose the unread rest
 };

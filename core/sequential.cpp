@@ -1,5 +1,5 @@
-// One pass over the bytes of a sequential file. Items are views into them: nothing is copied but what has to
-// be converted, no item is too long.
+// Items are views into the bytes of the file. Only those that need conversion are copied. An item may have
+// any length.
 #include "core/sequential.h"
 
 #include "base/cut_text.h"
@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr char end_mark = '\x1A'; ///< of sequential input, since before files knew their own length
+constexpr char end_mark = '\x1A'; ///< ends a text file, as it did before file systems stored exact lengths
 
 bool Is_Blank(char c) {
     return c == ' ' || c == '\t';
@@ -29,7 +29,7 @@ const char *Skip_Blanks(const char *at, const char *end) {
     return at;
 }
 
-/// Steps over one comma or line end, where `at` stands at one.
+/// Returns the position after the comma or line ending at `at`, or `at` if it is at neither.
 const char *Skip_Separator(const char *at, const char *end) {
     if (at == end || !Is_Separator(*at))
         return at;
@@ -37,8 +37,8 @@ const char *Skip_Separator(const char *at, const char *end) {
     return at + (pair ? 2 : 1);
 }
 
-/// Whether an item without quotes around it reads back as it is: nothing in it may end it early, be trimmed,
-/// or open a quoted item.
+/// Returns whether an item reads back unchanged without quotes around it: nothing in it ends it early, is
+/// trimmed, or opens a quoted item.
 bool Reads_Back_Plain(std::string_view item) {
     if (item.empty() || item.front() == '"' || Is_Blank(item.front()) || Is_Blank(item.back()))
         return false;
@@ -57,7 +57,8 @@ Sequential_Reader::Sequential_Reader(std::string_view bytes) {
     all_utf8_ = Is_Utf8(bytes);
 }
 
-/// Blanks and line ends before the end of the file are no items. Each run of them is looked over once.
+/// Returns whether no item is left. Skips blanks and line endings at the end of the file, which are not
+/// items; looks at each run of them only once.
 bool Sequential_Reader::At_End() {
     if (at_ != end_ && Is_Line_End(*at_) && at_ >= scanned_to_) {
         scanned_to_ = at_;
@@ -75,7 +76,7 @@ std::string_view Sequential_Reader::Read_Quoted() {
     if (quote == nullptr)
         throw Sequential_Error("a quoted item has no closing quote");
     const char *close = static_cast<const char *>(quote);
-    // Where something else follows the closing quote, the next item begins right there.
+    // If something other than a separator follows the closing quote, the next item begins right there.
     at_ = Skip_Blanks(close + 1, end_);
     return {begin, static_cast<std::size_t>(close - begin)};
 }
@@ -110,8 +111,9 @@ void Append_Item(std::string &bytes, std::string_view item) {
         bytes += item;
         bytes += '"';
     } else if (Reads_Back_Plain(item)) {
-        // A hand-written item with a quote inside. A blank, which counts for nothing, keeps one that begins
-        // like a byte-order mark from losing it at the start of a file.
+        // A hand-written item with a quote inside. If it begins with the bytes of a byte order mark, a blank
+        // before it, which readers skip, keeps those bytes from being taken for a mark at the start of a
+        // file.
         if (item.starts_with(Byte_Order_Mark))
             bytes += ' ';
         bytes += item;

@@ -1,5 +1,4 @@
-// Reading a text file item by item with the comma-and-quote rules of sequential input, and writing such
-// items.
+// Reading and writing text files item by item, by the comma and quote rules of sequential files.
 #pragma once
 
 #include "base/error.h"
@@ -7,25 +6,24 @@
 #include <string>
 #include <string_view>
 
-/// A quoted item has no closing quote, an item cannot be written, or the bytes are not text: UTF-16, or with
-/// a NUL outside of quotes.
+/// Thrown if a quoted item has no closing quote, if an item cannot be written, or if the bytes are not plain
+/// text: UTF-16, or a NUL outside quotes.
 class Sequential_Error : public Error {
 public:
     using Error::Error;
 };
 
-/// Walks over the bytes of a file once. An item ends at a comma or a line end (CR LF, LF or CR); blanks
-/// around it are no part of it. An item that begins with a quote goes to its closing quote exactly as
-/// written, line ends and NULs included. The byte 0x1A outside of quotes is the end of the file, whatever
-/// stands behind it. A byte-order mark of UTF-8 at the very start, and blanks and empty lines at the end, are
-/// skipped; any other empty line is an empty item. Items are given as UTF-8: one that is none is taken as
-/// text of the system's ANSI code page. The bytes must outlive the reader.
+/// Reads the items of a file in one pass. An item ends at a comma or a line ending (CR LF, LF or CR); blanks
+/// around it are not part of it. A quoted item extends to its closing quote, unchanged, including line
+/// endings and NULs. The byte 0x1A outside quotes ends the file. A UTF-8 byte order mark at the start, and
+/// blanks and empty lines at the end, are skipped; any other empty line is an empty item. Items are UTF-8; an
+/// item in another encoding is converted from the system's ANSI code page. The bytes must outlive the reader.
 class Sequential_Reader {
 public:
-    /// Throws Sequential_Error for bytes with a byte-order mark of UTF-16.
+    /// Throws Sequential_Error for bytes with a UTF-16 byte order mark.
     explicit Sequential_Reader(std::string_view bytes);
 
-    /// The next item in `item`, as a view that is good until the next call; false at the end. Throws
+    /// Sets `item` to the next item, valid until the next call. Returns false at the end. Throws
     /// Sequential_Error.
     bool Next(std::string_view &item);
 
@@ -36,13 +34,13 @@ private:
 
     const char *at_;
     const char *end_;
-    const char *scanned_to_; ///< no line end before this one is among the last bytes of the file
-    bool all_utf8_;          ///< no item needs a look
+    const char *scanned_to_; ///< At_End has examined the line endings before this position
+    bool all_utf8_;          ///< no item needs conversion
     std::string converted_;  ///< the last item that was not UTF-8
 };
 
-/// Appends one item to `bytes` so that it reads back the same: in quotes, followed by CR LF. An item that
-/// holds a quote, as only a hand-written one does, stays without quotes around it. Throws Sequential_Error,
-/// with `bytes` unchanged, for one that would read back differently so: it holds a quote and also begins with
-/// one, holds a comma or line break, or has blanks at its ends. No reader gives such items.
+/// Appends one item to `bytes` in quotes, followed by CR LF. An item that contains a quote is written without
+/// quotes around it; only hand-written items contain one. Throws Sequential_Error, leaving `bytes` unchanged,
+/// if such an item would read back differently: it begins with a quote, contains a comma, line break, NUL or
+/// 0x1A, or has blanks at its ends. The reader never returns such items.
 void Append_Item(std::string &bytes, std::string_view item);

@@ -1,5 +1,3 @@
-// The table of the settings, and what it drives: reading the store, writing one key of it, and the text forms
-// of the values.
 #include "core/settings.h"
 
 #include "base/cut_text.h"
@@ -45,7 +43,7 @@ constexpr Setting_Row rows[] = {
     {general, "Settings Tab", &Settings::Settings_Tab, nullptr, 0},
 };
 
-/// Before the key that holds a malformed value.
+/// Follows the description of a malformed value; the registry key follows the text.
 constexpr const char *advice =
     ".\r\n\r\nVellatro ends now. Correct or delete the value in the registry, under "
     "HKEY_CURRENT_USER\\";
@@ -131,7 +129,7 @@ void Save_Setting(Setting_Member member) {
 }
 
 void Store_Setting_Text(const Setting_Row &row, std::string_view text) {
-    // Converted first: a stored text that is no value would keep the program from starting.
+    // Convert before storing: the program would not start with a malformed value in the store.
     Set_From_Text(Cur_Settings, row, text);
     platform::Write_User_Value(Store_Key(row), row.key, std::string(text));
 }
@@ -149,6 +147,6 @@ void Change_Setting(std::int16_t Settings::*member, std::int16_t value) {
 void Store_Setting(Setting_Member member) {
     try {
         Save_Setting(member);
-    } catch (const platform::Registry_Error &) { // the user has what he chose, but not for the next start
+    } catch (const platform::Registry_Error &) { // the choice holds until the program ends
     }
 }

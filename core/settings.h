@@ -1,5 +1,5 @@
-// The user's settings: one member per key of the settings store, and the one table that drives their
-// reading, their writing and their names in a configuration file.
+// The user's settings, one member per value in the settings store, and the table that maps each member to its
+// names in the store and in a configuration file.
 #pragma once
 
 #include "base/colour.h"
@@ -40,59 +40,61 @@ struct Settings {
     friend bool operator==(const Settings &, const Settings &) = default;
 };
 
-/// The program-wide settings, which every window reads directly.
+/// The program-wide settings. Every window reads them directly.
 extern Settings Cur_Settings;
 
 using Setting_Member = std::variant<std::int16_t Settings::*, std::int32_t Settings::*, bool Settings::*,
                                     std::string Settings::*>;
 
-/// One row of the table: where a setting is stored, which member it is, how and where it stands in a
-/// configuration file.
+/// One row of the table: where a setting is stored, its member, and its key and line in a configuration file.
 struct Setting_Row {
     const char *section;
     const char *key;
     Setting_Member member;
-    const char *configuration_key; ///< null: it has no line there
-    int configuration_line;        ///< counted from 1
+    const char *configuration_key; ///< null: not in configuration files
+    int configuration_line;        ///< from 1
 };
 
-/// The rows in reading order.
+/// Returns the rows in the order of reading.
 std::span<const Setting_Row> Setting_Rows();
 
-/// The row of a member. Throws Error where the table has none.
+/// Returns the row of a member. Throws Error if the table has none.
 const Setting_Row &Row(Setting_Member member);
 
-/// Returns whether the two hold different values of a setting.
+/// Returns whether `a` and `b` hold different values of a setting.
 bool Differ(const Settings &a, const Settings &b, Setting_Member member);
 
 void Copy_Setting(const Settings &from, Settings &to, Setting_Member member);
 
-/// A stored value is not of its key's type. what() names section, key, value and what was expected.
+/// Thrown if a stored value is not of its setting's type. what() names section, key, value and the expected
+/// form.
 class Setting_Error : public Error {
 public:
     using Error::Error;
 };
 
-/// Reads all keys into Cur_Settings, absent ones with their defaults. Writes nothing. Throws Setting_Error at
+/// Reads all keys into Cur_Settings; missing keys get their defaults. Writes nothing. Throws Setting_Error at
 /// the first value that does not convert.
 void Load_Settings();
 
-/// The member of a row as the text that is stored for it.
+/// Returns the text that is stored for the member of a row.
 std::string Setting_Text(const Settings &settings, const Setting_Row &row);
 
-/// Converts `text`, puts it into the member of a row of Cur_Settings and stores it, unchanged, under its
-/// key. Throws Conversion_Error, and platform::Registry_Error when the member has its value already.
+/// Converts `text`, assigns it to the row's member of Cur_Settings and stores the text as it is. Throws
+/// Conversion_Error; throws platform::Registry_Error if the store refuses, and the member has changed by
+/// then.
 void Store_Setting_Text(const Setting_Row &row, std::string_view text);
 
-/// Converts `text` and puts it into the member of a row. Throws Conversion_Error.
+/// Converts `text` and assigns it to the member of a row. Throws Conversion_Error.
 void Set_From_Text(Settings &settings, const Setting_Row &row, std::string_view text);
 
-/// Changes a member of Cur_Settings and stores it. Throws platform::Registry_Error, and then the member is as
-/// it was.
+/// Changes a member of Cur_Settings and stores it. Throws platform::Registry_Error if the store refuses; the
+/// member keeps its old value then.
 void Change_Setting(std::int16_t Settings::*member, std::int16_t value);
 
-/// Stores the present value of a member of Cur_Settings. Throws platform::Registry_Error.
+/// Stores the current value of a member of Cur_Settings. Throws platform::Registry_Error.
 void Save_Setting(Setting_Member member);
 
-/// The same, but a store that refuses is no error: the value holds until the program's end.
+/// Stores the current value of a member of Cur_Settings. Ignores a store that refuses: the value holds until
+/// the program ends.
 void Store_Setting(Setting_Member member);

@@ -1,4 +1,3 @@
-// The calendar's title in its five forms, and the pattern formatter.
 #include "core/title.h"
 
 #include "base/cut_text.h"
@@ -20,14 +19,14 @@ enum class Field : std::uint8_t { Literal, Hour, Month_Or_Minute, Second, Half_D
 
 struct Token {
     Field field;
-    std::size_t length;    ///< letters, as far as they make a difference
+    std::size_t length;    ///< number of letters, up to the longest form of the field
     std::string_view text; ///< as typed
 };
 
 using Characters = std::vector<std::string_view>;
 
-/// The whole characters of the pattern, of a long one those that lie in its first bytes. A letter with a mark
-/// upon it is none of the pattern's.
+/// Returns the characters of the pattern as the user sees them, within its first `longest_pattern` bytes. A
+/// letter with a combining mark is therefore not a pattern letter.
 Characters Split(std::string_view pattern) {
     std::size_t end = Whole_Characters(pattern, longest_pattern);
     Characters characters;
@@ -40,7 +39,7 @@ Characters Split(std::string_view pattern) {
     return characters;
 }
 
-/// Whether the word, in capitals, stands at `at` in any letter case.
+/// Returns whether `word`, which is in capitals, begins at `at` in any letter case.
 bool Stands_At(const Characters &characters, std::size_t at, std::string_view word) {
     if (characters.size() - at < word.size())
         return false;
@@ -72,7 +71,7 @@ Field Field_Of(std::string_view character) {
     }
 }
 
-/// Reads one run of a field's letter, or one literal character, at `at` and steps over it.
+/// Reads a run of one field's letter, or one literal character, and moves `at` past it.
 Token Read_Token(const Characters &characters, std::size_t &at) {
     const std::string_view character = characters[at];
     const Field field = Field_Of(character);
@@ -112,8 +111,8 @@ std::vector<Token> Read_Pattern(const Characters &characters) {
     return tokens;
 }
 
-/// "m" is a minute directly after an hour or directly before seconds. Text in between does not part them, nor
-/// does the half of the day, which belongs to its hour.
+/// Returns whether the "m" at `at` means minutes: the field before it is an hour, or the field after it is
+/// seconds. Literal text and AM/PM fields in between do not matter.
 bool Is_Minute(const std::vector<Token> &tokens, std::size_t at) {
     const auto parts = [](const Token &token) {
         return token.field != Field::Literal && token.field != Field::Half_Day;
@@ -208,7 +207,7 @@ std::string Bar_Date_Text(bool show_time, const std::string &time_format, const 
     std::string title = Title_Of_Today(show_time, time_format, date_format, now);
     const auto &formats = Bar_Date_Formats();
     if (std::find(formats.begin(), formats.end(), date_format) == formats.end()) {
-        // The variable first: with it repaired, a store that refuses is asked once and not at every title.
+        // Set the variable first: a store that refuses is then tried once, not at every title.
         Cur_Settings.Bar_Date_Format = weekday_form;
         Store_Setting(&Settings::Bar_Date_Format);
     }

@@ -1,4 +1,3 @@
-// Remembering changes by the range in which the file before and the file after differ.
 #include "core/undo.h"
 
 #include "base/joined.h"
@@ -18,7 +17,7 @@ Undo_Log::Change::Change(Undo_Log &log, std::string name) : log_(log), name_(std
     try {
         before_ = log_.Read();
         has_before_ = true;
-    } catch (const std::exception &) { // this change will not be remembered
+    } catch (const std::exception &) { // this change cannot be undone
     }
     log_.changing_ = has_before_;
 }
@@ -29,7 +28,7 @@ Undo_Log::Change::~Change() {
     log_.changing_ = false;
     try {
         log_.Add(std::move(name_), before_, log_.Read());
-    } catch (const std::exception &) { // the change stands, without a way back
+    } catch (const std::exception &) { // the change stands and cannot be undone
     }
 }
 

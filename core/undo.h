@@ -1,5 +1,4 @@
-// The way back from changes of one file: the newest of them, as what each has changed. Who makes them, and
-// what is in the file, is not here.
+// An undo log for one file of any content.
 #pragma once
 
 #include <cstddef>
@@ -8,20 +7,20 @@
 #include <string>
 #include <string_view>
 
-/// Remembers of each change the bytes that went and where they stood, never the whole file, unless all of it
-/// changed. The oldest change is forgotten for one too many.
+/// Remembers for each change only the bytes it replaced and their position. Keeps the last `most_steps`
+/// changes.
 class Undo_Log {
-    using File_Bytes = std::optional<std::string>; ///< nothing: there is no file
+    using File_Bytes = std::optional<std::string>; ///< nullopt: there is no file
 
 public:
     static constexpr std::size_t most_steps = 20;
 
-    /// For the file `path`, which may not be there.
+    /// Creates the log of the file `path`, which need not exist.
     explicit Undo_Log(std::string path);
 
-    /// Watches the file for its own lifetime: whatever is written meanwhile, also in several writes, is one
-    /// change, and none where the file is the same in the end. A change inside another one belongs to that.
-    /// One that cannot be remembered, because the file cannot be read or for want of memory, has no way back.
+    /// Records one change: the difference that its lifetime makes to the file, in any number of writes. If
+    /// the file is the same at the end, nothing is recorded. A change inside another one is part of the outer
+    /// one. If the file cannot be read or memory runs out, the change cannot be undone.
     class Change {
     public:
         Change(Undo_Log &log, std::string name);
@@ -32,28 +31,28 @@ public:
     private:
         Undo_Log &log_;
         std::string name_;
-        bool has_before_ = false; ///< before_ is the file
+        bool has_before_ = false; ///< before_ holds the file
         File_Bytes before_;
     };
 
-    /// The name of the change that Undo takes back; empty when there is none, and during a change.
+    /// Returns the name of the change that Undo would revert; empty if there is none, and during a change.
     std::string_view Name() const;
 
-    /// Makes the file what it was before the newest change, which is forgotten then; where there was no file,
-    /// there is none again. False when the file is not what that change left, and of course when Name() is
-    /// empty: then nothing happens. Throws platform::File_Error, and then nothing has happened either.
+    /// Restores the file to its state before the newest change and forgets that change. If there was no file,
+    /// deletes it. Returns false, leaving the file alone, if Name() is empty or the file is not as that
+    /// change left it. Throws platform::File_Error; the file is unchanged then.
     bool Undo();
 
 private:
     struct Step {
         std::string name;
-        std::string removed;         ///< what stood where the files differ
-        std::size_t head = 0;        ///< bytes before that, the same in both
-        std::size_t tail = 0;        ///< bytes behind it, likewise
+        std::string removed;         ///< bytes before the change where the files differ
+        std::size_t head = 0;        ///< number of equal bytes before those
+        std::size_t tail = 0;        ///< number of equal bytes after those
         std::size_t size = 0;        ///< of the file after the change
-        std::size_t hash = 0;        ///< of its bytes
-        bool existed_before = false; ///< the file, before the change
-        bool existed_after = true;   ///< and after it
+        std::size_t hash = 0;        ///< of the file's bytes after the change
+        bool existed_before = false; ///< the file existed before the change
+        bool existed_after = true;   ///< the file existed after the change
     };
 
     File_Bytes Read() const;

@@ -1,4 +1,3 @@
-// State of the controls, and the calls that tell the form's mirror what of it changed.
 #include "toolkit/control.h"
 
 #include "base/cut_text.h"
@@ -29,7 +28,7 @@ Control::~Control() {
 void Control::Notify_Mirror(Aspect aspect) {
     if (!form_.created_)
         return;
-    // A painted form draws its labels from their state: of one that is not seen there is nothing to redraw.
+    // A painted form draws its labels from their state, so nothing needs a redraw if the label is hidden.
     const bool drawn = aspect == Aspect::Caption || aspect == Aspect::Look;
     if (drawn && !state_.visible && form_.model_.kind != platform::Form_Kind::Dialog)
         return;
@@ -73,14 +72,14 @@ void Button::Handle_Event(const platform::Input_Event &event) {
 }
 
 void Check_Box::Handle_Event(const platform::Input_Event &event) {
-    // The native control shows the new state already, so the mirror is not told.
+    // The native control already shows the new state, so the mirror needs no call.
     if (event.kind == platform::Input_Kind::Clicked)
         state_.checked = event.checked;
     Control::Handle_Event(event);
 }
 
 void Text_Box::Set_Text(std::string text) {
-    // A copy, because the handler may end the form and this text box with it.
+    // Copy the handler, because it may destroy the form and this text box with it.
     const auto handler = On_Change;
     if (Store(state_.caption, Without_Line_Breaks(std::move(text)), Aspect::Caption) && handler)
         handler();

@@ -1,5 +1,5 @@
-// The controls of forms: plain objects that hold their own state and tell the form's mirror when it changes.
-// What a user does with a control arrives at its form (toolkit/form.h), which calls the events here.
+// The controls of forms: plain objects that hold their own state and report its changes to the form's mirror.
+// User actions arrive at the form (toolkit/form.h), which raises the events here.
 #pragma once
 
 #include "platform/forms.h"
@@ -12,23 +12,23 @@
 class Form;
 class Frame;
 
-/// Where a control is made: on a form, or in a frame on one.
+/// The place where a control is created: a form, or a frame on a form.
 struct Container {
     Container(Form &on) : form(on) {}
     Container(const Frame &in);
     Form &form;
-    int frame = -1; ///< its index; -1: none
+    int frame = -1; ///< index of the frame; -1: none
 };
 
-/// A place, a look and events. Positions and sizes are twips on the form, or on the frame that holds it. What
-/// the program itself changes raises no event, except the change of a text box.
+/// A control: bounds, appearance and events. Bounds are in twips, relative to the form or to the containing
+/// frame. Changes by the program raise no events, except for the text of a text box.
 class Control {
 public:
-    /// Comes behind all controls that its form has, also in the order of the Tab key.
+    /// Adds the control after all others of its form, also in tab order.
     Control(Container in, platform::Control_Kind kind, const char *name, const char *caption = "");
     Control(const Control &) = delete;
     Control &operator=(const Control &) = delete;
-    /// Takes the form's native window down: it must not outlive the controls that it mirrors.
+    /// Closes the form's native window, which must not outlive the controls it mirrors.
     virtual ~Control();
 
     const platform::Control_State &State() const { return state_; }
@@ -54,12 +54,12 @@ public:
     void Set_Fore_Colour(Colour colour) { Store(state_.fore_colour, colour, Aspect::Look); }
     Colour Back_Colour() const { return state_.back_colour; }
     void Set_Back_Colour(Colour colour) { Store(state_.back_colour, colour, Aspect::Look); }
-    /// -1 takes the frame away.
+    /// Sets the colour of the frame; -1 removes the frame.
     void Set_Frame_Colour(Colour colour) { Store(state_.frame_colour, colour, Aspect::Look); }
-    /// The mark of the keyboard focus.
+    /// Shows or hides the mark of the keyboard focus.
     void Set_Marked(bool marked) { Store(state_.marked, marked, Aspect::Look); }
-    /// A hairline inside the edges, for a box that stands on a picture of any colour. A frame and a mark
-    /// cover it.
+    /// Shows or hides a hairline inside the edges, which sets the box off against a picture of any colour. A
+    /// frame or a focus mark covers it.
     void Set_Hairline(bool hairline) { Store(state_.hairline, hairline, Aspect::Look); }
     const platform::Font &Font() const { return state_.font; }
     void Set_Font(const platform::Font &font) { Store(state_.font, font, Aspect::Look); }
@@ -70,26 +70,28 @@ public:
     const platform::Access_State &Access() const { return state_.access; }
     void Set_Access(platform::Access_State access);
 
-    // Events. The point is relative to the control's top left corner.
-    /// A button of any kind pressed, a painted control clicked with the left button. The second click of a
-    /// double click is one too, where there is no On_Double_Click.
+    // Events. Points are relative to the control's top left corner.
+    /// A button of any kind was pressed, or a painted control was clicked with the left button. If
+    /// On_Double_Click is empty, the second click of a double click counts as well.
     Handler<> On_Click;
     Handler<platform::Mouse_Button, Point> On_Mouse_Down;
     Handler<platform::Mouse_Button, Point> On_Mouse_Up;
     Handler<platform::Mouse_Button, Point> On_Mouse_Move;
     Handler<> On_Double_Click;
     Handler<> On_Default_Action;
-    /// A key while a control of a dialog has the keyboard.
+    /// A key was pressed while this control of a dialog had the focus. If empty, the form's On_Key_Down is
+    /// called.
     Handler<const platform::Input_Event &> On_Key_Down;
 
-    /// Takes what a native control tells of; the point where the kinds of controls differ. The handler may
-    /// end the form: it comes last.
+    /// Handles an event of the native control; each kind of control overrides this. The handler may destroy
+    /// the form, so it is called last.
     virtual void Handle_Event(const platform::Input_Event &event);
 
 protected:
     using Aspect = platform::Aspect;
 
-    /// Stores `value` in `field` and tells the mirror, if that is a change. Returns whether it was.
+    /// Assigns `value` to `field` and reports the change to the mirror. Does nothing if the two are equal.
+    /// Returns whether the field changed.
     template <typename Field, typename Value>
     bool Store(Field &field, Value &&value, Aspect aspect) {
         if (field == value)
@@ -105,7 +107,7 @@ protected:
     Form &form_;
 };
 
-/// What all kinds have in common: a container, a name and a caption make one.
+/// Defines the constructor that all kinds of controls share.
 template <platform::Control_Kind Kind, typename Base = Control>
 class Control_Of_Kind : public Base {
 public:
@@ -113,22 +115,22 @@ public:
         : Base(in, Kind, name, caption) {}
 };
 
-/// A text, or in a painted form a box of colour with a text.
+/// A text; in a painted form, a coloured box with a text.
 class Label : public Control_Of_Kind<platform::Control_Kind::Label> {
 public:
     using Control_Of_Kind::Control_Of_Kind;
-    /// In a dialog: draws itself as a painted form draws its labels, and takes the mouse.
+    /// Makes a label in a dialog draw itself as in a painted form and receive mouse events.
     void Set_Painted();
 };
 
-/// A push button. `On_Click` comes from the mouse, the keyboard, the access key, and Enter or Esc where it
-/// stands for them.
+/// A push button. The mouse, the keyboard, its access key, Enter for a default button and Esc for a cancel
+/// button raise `On_Click`.
 class Button : public Control_Of_Kind<platform::Control_Kind::Button> {
 public:
     using Control_Of_Kind::Control_Of_Kind;
     void Set_Default(bool is_default) { Store(state_.is_default, is_default, Aspect::Look); }
     void Set_Cancel(bool is_cancel) { Store(state_.is_cancel, is_cancel, Aspect::Look); }
-    /// Esc, where it stands for the button. Empty: `On_Click` comes then, too.
+    /// Esc was pressed, if this is the cancel button. If empty, Esc raises `On_Click`.
     Handler<> On_Escape;
 
 private:
@@ -145,16 +147,16 @@ private:
     void Handle_Event(const platform::Input_Event &event) override;
 };
 
-/// A text box that holds no line break: a pasted one becomes a blank.
+/// A text box without line breaks: a pasted line break becomes a blank.
 class Text_Box : public Control_Of_Kind<platform::Control_Kind::Text_Box> {
 public:
     using Control_Of_Kind::Control_Of_Kind;
     const std::string &Text() const { return state_.caption; }
     void Set_Text(std::string text);
-    /// One line in place of several wrapped ones, to be read and copied only. Before there is a native
-    /// window.
+    /// Makes the box a read-only single line instead of several wrapped ones. Call it before the native
+    /// window is created.
     void Set_Display_Only();
-    /// Every change of the text, by the user or by Set_Text.
+    /// The text changed, by the user or by Set_Text.
     Handler<> On_Change;
 
 private:

@@ -1,4 +1,3 @@
-// What control arrays of all kinds and lengths share.
 #include "toolkit/control_array.h"
 
 #include "base/error.h"

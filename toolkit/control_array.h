@@ -1,4 +1,4 @@
-// Controls of one kind that share a name and are told apart by an index: Box_Lbl(0), Box_Lbl(1) ...
+// Controls of one kind that share a name and are distinguished by an index: Box_Lbl(0), Box_Lbl(1) ...
 #pragma once
 
 #include "toolkit/control.h"
@@ -9,19 +9,19 @@
 #include <string>
 #include <string_view>
 
-/// The name of one control of an array.
+/// Returns the name of one control of an array.
 std::string Element_Name(std::string_view array, int index);
 
-/// Throws the Error for an index that an array does not have.
+/// Throws Error for an index outside the array of `first`.
 [[noreturn]] void Throw_No_Element(const Control &first, int index);
 
-/// `Count` controls, registered with their form in index order.
+/// An array of `Count` controls, registered with their form in index order.
 template <typename Control_Type, std::size_t Count>
 class Control_Array {
     using Storage = std::array<std::unique_ptr<Control_Type>, Count>;
 
 public:
-    /// Walks over the controls themselves.
+    /// Iterates over the controls, not over their pointers.
     class Iterator {
     public:
         explicit Iterator(typename Storage::const_iterator at) : at_(at) {}
@@ -40,8 +40,8 @@ public:
         for (int index = 0; index < static_cast<int>(Count); ++index)
             Add(in, name, index);
     }
-    /// With an array of labels, made by the default constructor, that it fills: each label comes directly
-    /// before the control that it names, which is where assistive technology looks for a name.
+    /// Also fills `labels`, a default-constructed array of labels. Each label directly precedes the control
+    /// that it names, where assistive technology looks for a name.
     Control_Array(Container in, std::string_view name, Control_Array<Label, Count> &labels,
                   std::string_view labels_name) {
         for (int index = 0; index < static_cast<int>(Count); ++index) {
@@ -51,7 +51,7 @@ public:
     }
     Control_Array() = default;
 
-    /// Throws Error for an index outside 0 to Count - 1.
+    /// Returns the control at `index`. Throws Error for an index outside 0 to Count - 1.
     Control_Type &operator[](int index) const {
         if (index < 0 || index >= static_cast<int>(Count))
             Throw_No_Element(*controls_.front(), index);

@@ -1,4 +1,3 @@
-// Forms: their state, the life of their native window, and the way of user actions to the controls.
 #include "toolkit/form.h"
 
 #include "platform/message_box.h"
@@ -24,7 +23,7 @@ Form::Form(Form_Kind kind, const char *name) {
         try {
             Paint(canvas, clip);
         } catch (...) {
-            // A message box would ask for the same painting again; the next change paints anew.
+            // A message box would cause this painting again. The next change repaints the form.
         }
     };
 }
@@ -55,7 +54,8 @@ void Form::Notify_Mirror(Aspect aspect) {
 }
 
 Point Form::Corner() const {
-    // The form's own twips where they are the window's pixels, lest a place drifts by being looked at.
+    // Return the form's own twips if they match the window's pixels, because conversion back and forth would
+    // let the position drift.
     const std::optional<Point> pixels = created_ ? platform::Window_Corner(model_) : std::nullopt;
     const Point put = Requested_Position();
     if (!pixels || *pixels == Point{Twips_To_Pixels(put.x), Twips_To_Pixels(put.y)})
@@ -108,7 +108,7 @@ void Form::Create() {
 }
 
 void Form::Show() {
-    // A clipped window appears in its final shape.
+    // A clipped window must appear in its final shape.
     if (!created_)
         Make_Window(!clip_ && shape_.empty());
     if (!std::exchange(model_.visible, true))
@@ -140,7 +140,7 @@ void Form::Set_Pointer(platform::Pointer_Shape shape) {
 }
 
 void Form::Set_Focus(const Control &control) {
-    // Told even when equal: the user moves the focus between native controls without the form's doing.
+    // Always report the focus: the user moves it between native controls without telling the form.
     model_.focused = control.State().index;
     Notify_Mirror(Aspect::Focus);
 }
@@ -189,7 +189,8 @@ bool Form::Blocked(const Input_Event &event) {
     case Input_Kind::Close:
         return beside_box;
     case Input_Kind::Text_Changed:
-        // Beside a box it comes from a program, and stands in the native control already.
+        // While a message box is open, another program made the change, and the native control already holds
+        // it.
         return modal_ != nullptr;
     case Input_Kind::Mouse_Down:
     case Input_Kind::Double_Click:
@@ -268,7 +269,7 @@ void Form::Press(Control *control, const Input_Event &event, Point point) {
     }
     if (!Takes_Input(control))
         return;
-    // A double click is the left button's; with the others the second press is one like the first.
+    // Only the left button has double clicks; a second press of another button counts as a press.
     const bool is_double = event.kind == Input_Kind::Double_Click && event.button == Mouse_Button::Left;
     double_clicked_ = is_double && control->On_Double_Click;
     if (is_double)
@@ -277,8 +278,8 @@ void Form::Press(Control *control, const Input_Event &event, Point point) {
 }
 
 void Form::Handle_Mouse(const Input_Event &event) {
-    // A press of the same button, or a move without one, shows that its release went elsewhere: into a menu
-    // or a message box.
+    // A press of the same button, or a move without a button, shows that the release went elsewhere, such as
+    // to a menu or a message box.
     const bool pressed = event.kind == Input_Kind::Mouse_Down || event.kind == Input_Kind::Double_Click;
     const bool loose = event.kind == Input_Kind::Mouse_Move && event.button == Mouse_Button::None;
     if (loose || (pressed && event.button == captured_by_))
@@ -294,7 +295,7 @@ void Form::Handle_Mouse(const Input_Event &event) {
         return Press(control, event, point);
 
     const bool released = event.kind == Input_Kind::Mouse_Up;
-    // A release without its press belongs to something that was open over the form.
+    // A release without a press belongs to a window that was open over the form.
     if (released && captured_ == nullptr)
         return;
     if (released && event.button == captured_by_)

@@ -1,5 +1,4 @@
-// A form: a window with its controls, whose native window only mirrors it. Every user action enters through
-// Input.
+// A form: a window with its controls, mirrored by a native window. All user actions enter through Input.
 #pragma once
 
 #include "platform/forms.h"
@@ -9,8 +8,8 @@
 #include <string>
 #include <vector>
 
-/// Base of all windows of the program. A form's controls are its direct members, registered in the order in
-/// which they are declared, which is the paint and tab order.
+/// Base class of all windows of the program. The controls of a form are its direct members. Their declaration
+/// order is their paint and tab order.
 class Form {
 public:
     Form(platform::Form_Kind kind, const char *name);
@@ -20,70 +19,70 @@ public:
 
     const platform::Form_Model &Model() const { return model_; }
 
-    // Place on the screen, also where others have moved the window, and size, in twips.
+    // Position on the screen, current even if another program moved the window, and size, all in twips.
     int Left() const { return Corner().x; }
     int Top() const { return Corner().y; }
     int Width() const { return model_.bounds.width; }
     int Height() const { return model_.bounds.height; }
     void Move(int left, int top);
-    /// Returns where the form itself put its window last.
+    /// Returns the position that the form itself set last.
     Point Requested_Position() const { return {model_.bounds.left, model_.bounds.top}; }
-    /// Brings a window that others have moved back there. One that does not come is left where it is until it
-    /// is moved again.
+    /// Moves the window back to Requested_Position after others have moved it. If the window does not move,
+    /// it is left alone until others move it again.
     void Restore_Position();
     void Resize(int width, int height);
 
     bool Visible() const { return model_.visible; }
-    /// Makes the native window, hidden, for who has to prepare it before it appears.
+    /// Creates the native window hidden, to be prepared before it appears.
     void Create();
-    /// Makes the native window, if there is none.
+    /// Shows the form and creates its native window if there is none.
     void Show();
-    /// Takes the native window down; the form's state stays.
+    /// Destroys the native window. The form's state stays.
     void Close();
     void Set_Title(std::string_view title);
-    /// For assistive technology, which asks when it comes to the form.
+    /// Sets the description that assistive technology reads when it reaches the form.
     void Set_Description(std::string_view description) { model_.description = description; }
     Colour Back_Colour() const { return model_.back_colour; }
     void Set_Back_Colour(Colour colour);
-    /// Paints the whole window anew: what it shows changed without a change of its state.
+    /// Repaints the whole window, for a change that is not part of its state.
     void Repaint() { Notify_Mirror(platform::Aspect::Look); }
     void Set_Pointer(platform::Pointer_Shape shape);
     void Set_Focus(const Control &control);
-    /// Lets another form, which is modal to this one, take all that the user does here: pressing a mouse
-    /// button or a key brings it to the front instead. Null ends that.
+    /// Lets a modal form block this one: a mouse button or key pressed here brings the modal form to the
+    /// front instead. Null ends the block.
     void Set_Blocked_By(Form *modal);
-    /// Shows the form, or the one that blocks it, in front of the other windows and gives it the keyboard.
+    /// Shows the form, or the one that blocks it, in front of other windows and gives it the focus.
     void Bring_To_Front();
-    /// All controls in paint and tab order.
+    /// Returns all controls in paint and tab order.
     const std::vector<Control *> &Controls() const { return controls_; }
-    /// Clips the window to these rectangles (twips on the form); also a window that is made later.
+    /// Clips the window to these rectangles (twips on the form), also a window that is created later.
     void Clip(std::vector<Rect> rects);
 
     /// Clips the window to a polygon (twips on the form) instead.
     void Shape(std::vector<Point> corners);
 
-    /// The door of all user actions and messages to the form: hit-testing, capture and the rules of visible
-    /// and enabled are here, and that nothing is done beside an open message box. An exception of a handler
-    /// is told to the user in a message box and goes no further.
+    /// Handles a user action or message: hit testing, mouse capture, and the checks for visible and enabled
+    /// controls. Ignores user input while a message box is open. Shows an exception of a handler in a message
+    /// box and does not rethrow it.
     virtual void Input(const platform::Input_Event &event);
 
-    /// The top-most visible control at the point, null where there is none.
+    /// Returns the topmost visible control at the point, or null.
     Control *Control_At(Point point);
 
     // Events of the form itself.
     Handler<const platform::Input_Event &> On_Key_Down;
     Handler<const platform::Input_Event &> On_Key_Up;
-    /// The user asks the window to close.
+    /// The user asked the window to close. If empty, the form closes.
     Handler<> On_Close;
-    /// The native window is gone.
+    /// The native window was destroyed.
     Handler<> On_Window_Lost;
-    Handler<bool> On_Focus_Changed; ///< whether it has the focus now
-    /// The release of the pressed mouse button will not come.
+    Handler<bool> On_Focus_Changed; ///< the argument tells whether the form has the focus now
+    /// The release of the pressed mouse button will not arrive.
     Handler<> On_Capture_Lost;
     Handler<> On_Dots_Changed;
 
 protected:
-    /// Paints what of a painted form lies in `clip` (twips on the form).
+    /// Paints the part of a painted form in `clip` (twips on the form).
     virtual void Paint(platform::Canvas &canvas, const Rect &clip) const;
 
 private:
@@ -103,13 +102,13 @@ private:
 
     platform::Form_Model model_;
     std::vector<Control *> controls_;
-    Control *captured_ = nullptr; ///< takes the mouse from button down to up
+    Control *captured_ = nullptr; ///< receives the mouse events from button down to up
     platform::Mouse_Button captured_by_ = platform::Mouse_Button::None;
     bool double_clicked_ =
-        false; ///< the last press was the second one of a double click that is taken as such
-    std::optional<std::vector<Rect>> clip_; ///< nothing: not clipped
+        false; ///< the last press was the second of a double click, and On_Double_Click handled it
+    std::optional<std::vector<Rect>> clip_; ///< nullopt: not clipped
     std::vector<Point> shape_;              ///< empty: no polygon
-    bool created_ = false;                  ///< there is a native window
-    std::optional<Point> stuck_at_;         ///< where the last Restore_Position left the window
-    Form *modal_ = nullptr;                 ///< takes what the user does here
+    bool created_ = false;                  ///< the native window exists
+    std::optional<Point> stuck_at_;         ///< the position after a failed Restore_Position
+    Form *modal_ = nullptr;                 ///< the modal form that blocks this one
 };

@@ -1,4 +1,3 @@
-// Turns exceptions into message boxes.
 #include "toolkit/guard.h"
 
 #include "platform/message_box.h"
@@ -8,7 +7,7 @@
 
 namespace {
 
-/// The sentence for the exception that is being handled.
+/// Returns the message for the current exception.
 std::string Failure_Text() {
     try {
         throw;
@@ -35,7 +34,7 @@ void Run_Guarded(Callback_Ref<void()> action) noexcept {
         try {
             Show_Error(Failure_Text());
         } catch (...) {
-            // Not even the message can be shown; the program goes on all the same.
+            // Even the message failed; the program continues without it.
         }
     }
 }
@@ -49,7 +48,7 @@ void Repeated_Guard::Run(Callback_Ref<void()> action) noexcept {
             const std::string text = Failure_Text();
             if (text == last_failure_)
                 return;
-            // Remembered first: the action may run again while the box is open.
+            // Remember the text first: the action may run again while the box is open.
             last_failure_ = text;
             Show_Error(text);
         } catch (...) {

@@ -1,4 +1,4 @@
-// What runs when an event is raised, and the raising.
+// Event handlers, and the call that raises an event.
 #pragma once
 
 #include "base/callback.h"
@@ -8,8 +8,8 @@
 template <typename... Params>
 using Handler = Callback<void(Params...)>;
 
-/// Calls an event's handler, if it has one. The handler may end the form that holds it, so it is a copy that
-/// runs, and the callers touch nothing of the form afterwards.
+/// Calls a copy of the event's handler, if there is one, because the handler may destroy the form that holds
+/// it. The caller must not touch the form afterwards.
 template <typename... Params>
 void Fire(const Handler<Params...> &event, std::type_identity_t<Params>... args) {
     if (const auto handler = event)

@@ -1,4 +1,4 @@
-// Virtual key codes that the painted forms know by name.
+// The virtual key codes that the program uses by name.
 #pragma once
 
 #include "base/geometry.h"
@@ -29,7 +29,7 @@ enum Key : int {
     Key_F12 = 123,
 };
 
-/// Returns the direction of an arrow key, right and down being positive; no step for another key.
+/// Returns the direction of an arrow key, with right and down positive, or {0, 0} for another key.
 constexpr Point Arrow_Step(int key) {
     return {(key == Key_Right) - (key == Key_Left), (key == Key_Down) - (key == Key_Up)};
 }

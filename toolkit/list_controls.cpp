@@ -1,4 +1,3 @@
-// State and events of the controls of larger dialogs.
 #include "toolkit/list_controls.h"
 
 #include "toolkit/form.h"
@@ -50,7 +49,8 @@ void Item_Control::Select(int index) {
         index = -1;
     if (state_.kind == Control_Kind::Combo_Box)
         state_.caption = index == -1 ? std::string{} : state_.items[static_cast<std::size_t>(index)];
-    // A combo box that shows a typed text has no item selected either, but selecting none empties it.
+    // An editable combo box with a typed text also has no selected item, but selecting none must still clear
+    // the text.
     if (std::exchange(state_.selected, index) != index || state_.editable)
         Notify_Mirror(Aspect::Selected);
 }

@@ -1,5 +1,5 @@
 // The controls of larger dialogs: option buttons, lists, tabs, sliders, frames, pictures and progress bars.
-// The simple ones are in control.h.
+// control.h has the simple ones.
 #pragma once
 
 #include "platform/pictures.h"
@@ -9,20 +9,19 @@
 #include <string_view>
 #include <vector>
 
-/// Holds other controls, which are made in it: they move, hide and are disabled with it. With a caption it is
-/// drawn as a box around them.
+/// A container of other controls, which are moved, hidden and disabled with it. If it has a caption, it is
+/// drawn as a group box.
 class Frame : public Control_Of_Kind<platform::Control_Kind::Frame> {
 public:
     using Control_Of_Kind::Control_Of_Kind;
 };
 
-/// One of several choices: of all the option buttons in one frame (or on the form itself) at most one is
-/// checked.
+/// One of several choices: at most one option button is checked in each frame, or on the form itself.
 class Option_Button : public Control_Of_Kind<platform::Control_Kind::Option_Button> {
 public:
     using Control_Of_Kind::Control_Of_Kind;
     bool Checked() const { return state_.checked; }
-    /// Checking one unchecks the others.
+    /// Checks or unchecks the button. Checking it unchecks the others.
     void Set_Checked(bool checked);
 
 private:
@@ -30,15 +29,15 @@ private:
     void Uncheck_Others();
 };
 
-/// What combo boxes, list boxes and tab strips have in common: items, of which one can be selected.
+/// The common base of combo boxes, list boxes and tab strips: items, one of which may be selected.
 class Item_Control : public Control {
 public:
     const std::vector<std::string> &Items() const { return state_.items; }
-    /// Replaces all items; none is selected then.
+    /// Replaces all items and selects none.
     void Set_Items(std::vector<std::string> items);
-    /// Index of the selected item, -1: none.
+    /// Returns the index of the selected item, or -1.
     int Selected() const { return state_.selected; }
-    /// Selects an item; -1, or an index beyond them, selects none.
+    /// Selects an item. -1 or an index out of range selects none.
     void Select(int index);
 
 protected:
@@ -46,24 +45,24 @@ protected:
     void Handle_Event(const platform::Input_Event &event) override;
 };
 
-/// A drop-down list whose text is the selected item's, or an editable one, whose text can be any.
+/// A drop-down list. Its text is that of the selected item, or any text if the list is editable.
 class Combo_Box : public Control_Of_Kind<platform::Control_Kind::Combo_Box, Item_Control> {
 public:
     using Control_Of_Kind::Control_Of_Kind;
-    /// Any text can be typed. To be called before there is a native window.
+    /// Allows any text to be typed. Call it before the native window is created.
     void Set_Editable();
     const std::string &Text() const { return state_.caption; }
-    /// Selects the item that has this text. Where there is none, an editable combo box shows the text with no
-    /// item selected, and another one stays as it is.
+    /// Selects the item with this text. If there is none, an editable combo box shows the text and selects no
+    /// item; any other stays as it is.
     void Set_Text(const std::string &text);
-    /// The user typed. Choosing an item is On_Click.
+    /// The user typed a text. Choosing an item raises On_Click.
     Handler<> On_Change;
 
 private:
     void Handle_Event(const platform::Input_Event &event) override;
 };
 
-/// A list with one column. `On_Click` comes with every selection by the user, by mouse or keyboard.
+/// A list with one column. Each selection by the user, with mouse or keyboard, raises `On_Click`.
 class List_Box : public Control_Of_Kind<platform::Control_Kind::List_Box, Item_Control> {
 public:
     using Control_Of_Kind::Control_Of_Kind;
@@ -73,43 +72,43 @@ private:
     void Handle_Event(const platform::Input_Event &event) override;
 };
 
-/// Tabs above pages that the form shows and hides by itself. `On_Click` comes with every change by the user.
+/// Tabs above pages, which the form itself shows and hides. Each change by the user raises `On_Click`.
 class Tab_Strip : public Control_Of_Kind<platform::Control_Kind::Tab_Strip, Item_Control> {
 public:
     using Control_Of_Kind::Control_Of_Kind;
 };
 
-/// A slider over whole numbers, with a mark for each.
+/// A slider for whole numbers, with a tick mark for each.
 class Slider : public Control {
 public:
     Slider(Container in, const char *name, int minimum, int maximum);
     int Value() const { return state_.value; }
-    /// Takes the nearest value within the range.
+    /// Sets the value, limited to the range.
     void Set_Value(int value);
-    /// The text that floats beside the thumb while it is moved.
+    /// Sets the text that floats beside the thumb during a move.
     void Set_Text(std::string_view text) { Set_Caption(text); }
-    Handler<> On_Change; ///< the user left it at another value
-    Handler<> On_Scroll; ///< the user is moving it
+    Handler<> On_Change; ///< the user finished a move at a new value
+    Handler<> On_Scroll; ///< the user is moving the thumb
 
 private:
     void Handle_Event(const platform::Input_Event &event) override;
 };
 
-/// A box that paints itself: its background, its picture if it has one, fitted in whole and centred, and what
-/// On_Paint adds.
+/// A box that paints itself: its background, its picture fitted and centred, and then the result of On_Paint.
 class Picture_Box : public Control {
 public:
     Picture_Box(Container in, const char *name);
-    /// A picture with the width 0 is none.
+    /// Sets the picture; one of width 0 removes it.
     void Set_Picture(Picture picture);
-    /// Makes the keyboard reach it: it gets On_Key_Down, and the space bar clicks it. So does Enter, where
-    /// there is a default action and no other On_Key_Down. Before there is a native window.
+    /// Adds the box to the tab order: it gets On_Key_Down, and the space bar clicks it. Enter clicks it, too,
+    /// if it has a default action and On_Key_Down is not replaced. Call it before the native window is
+    /// created.
     void Set_Tab_Stop();
-    /// Gives it the pointer of a link.
+    /// Gives the box the mouse pointer of a link.
     void Set_Link() { state_.link = true; }
-    /// Paints it anew: what On_Paint draws has changed.
+    /// Repaints the box after a change in the output of On_Paint.
     void Repaint() { Notify_Mirror(platform::Aspect::Look); }
-    /// Paints on the background and the picture, in twips from the top left corner of the box.
+    /// Paints on top of the background and the picture, in twips from the top left corner of the box.
     Handler<platform::Canvas &> On_Paint;
 
 private:
@@ -118,10 +117,10 @@ private:
     Picture picture_;
 };
 
-/// How far a long piece of work has come.
+/// The progress of a long piece of work.
 class Progress_Bar : public Control_Of_Kind<platform::Control_Kind::Progress_Bar> {
 public:
     using Control_Of_Kind::Control_Of_Kind;
-    /// Per cent, 0 to 100.
+    /// Sets the progress in per cent, 0 to 100.
     void Set_Value(int value);
 };

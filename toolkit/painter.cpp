@@ -1,4 +1,3 @@
-// Painting of a form from the state of its controls.
 #include "toolkit/painter.h"
 
 #include "base/reading_direction.h"
@@ -14,14 +13,14 @@ using platform::Control_State;
 
 namespace {
 
-constexpr int frame_thickness = 30;    // twips: two pixels at 96 dots per inch
-constexpr int hairline_thickness = 12; // one pixel, two from 180 dots per inch on
+constexpr int frame_thickness = 30;    // twips; two pixels at 96 dots per inch
+constexpr int hairline_thickness = 12; // twips; one pixel, or two from 180 dots per inch on
 
-/// The part of the caption's colour in a hairline, in hundredths. On a white box with black numbers the line
-/// has a contrast of 2.1:1, whatever lies around the box.
+/// The share of the caption's colour in a hairline, in per cent. The hairline of a white box with black
+/// numbers gets a contrast of 2.1:1, whatever surrounds the box.
 constexpr int hairline_share = 30;
 
-/// The colour of the hairline in a box.
+/// Returns the colour of a box's hairline.
 Colour Hairline_Colour(const Control_State &control) {
     const auto back = static_cast<std::uint32_t>(platform::Resolve_Colour(control.back_colour));
     const auto fore = static_cast<std::uint32_t>(platform::Resolve_Colour(control.fore_colour));
@@ -34,7 +33,7 @@ Colour Hairline_Colour(const Control_State &control) {
     return static_cast<Colour>(mixed);
 }
 
-/// The letter i on a disc of the control's colour that fills the box.
+/// Paints a white letter i on a disc that fills the box, in the control's fore colour.
 void Paint_Information(Canvas &canvas, const Control_State &control) {
     const Rect &box = control.bounds;
     const int radius = std::min(box.width, box.height) / 2;
@@ -48,7 +47,7 @@ void Paint_Information(Canvas &canvas, const Control_State &control) {
                         centre_y + static_cast<int>(std::lround(radius * std::sin(angle)))});
     }
     platform::Fill_Polygon(canvas, disc, control.fore_colour);
-    // In eighths of the radius: the dot and the stem.
+    // The dot and the stem, in eighths of the radius.
     const auto fill = [&](int left, int top, int right, int bottom) {
         const int x0 = centre_x + left * radius / 8;
         const int x1 = centre_x + right * radius / 8;
@@ -64,7 +63,7 @@ void Paint_Glyph(Canvas &canvas, const Control_State &control) {
     if (control.glyph == platform::Glyph::Information)
         return Paint_Information(canvas, control);
     const Rect &box = control.bounds;
-    // A triangle as high as two fifths of the box, and half as wide as high, around the box's centre.
+    // A triangle in the centre of the box: two fifths of the box high, and half as wide as high.
     const int half_height = std::min(box.width, box.height) / 5;
     const int half_width = half_height / 2;
     const int centre_x = box.left + box.width / 2;
@@ -81,7 +80,7 @@ void Paint_Caption(Canvas &canvas, const Control_State &control, const Rect &cli
     const std::string_view caption = control.caption;
     if (caption.empty())
         return;
-    // One for all lines: they are a text and not its parts.
+    // All lines have one direction, because they are one text.
     const bool right_to_left = Is_Right_To_Left(caption);
     const bool turned = right_to_left && control.align == platform::Text_Align::Left;
     const platform::Text_Align align = turned ? platform::Text_Align::Right : control.align;
@@ -113,8 +112,8 @@ void Paint_Control(const Control_State &control, Canvas &canvas, const Rect &cli
         platform::Frame_Rect(canvas, control.bounds, control.frame_colour, frame_thickness);
     else if (control.hairline)
         platform::Frame_Rect(canvas, control.bounds, Hairline_Colour(control), hairline_thickness);
-    // In place of a frame, since there is no room inside of it, and in the colour of the caption, which
-    // stands out.
+    // The mark replaces a frame, as there is no room for both. Its colour is the caption's, which contrasts
+    // with the box.
     if (control.marked)
         platform::Frame_Rect(canvas, control.bounds, control.fore_colour, frame_thickness);
     if (control.glyph != platform::Glyph::None)
@@ -142,10 +141,10 @@ void Paint_Itself(const Control_State &control, Canvas &canvas, const Rect &clip
         Control_State here = control;
         here.bounds.left = 0;
         here.bounds.top = 0;
-        // Of a transparent one the mirror has drawn the dialog's background.
+        // The mirror has already drawn the dialog's background for a transparent control.
         Paint_Control(here, canvas, clip);
         more(canvas);
     } catch (...) {
-        // A message box would ask for the same painting again; the next change paints anew.
+        // A message box would cause this painting again. The next change repaints the control.
     }
 }

@@ -1,15 +1,15 @@
-// Paints a form of the kind Painted: its background, then its visible labels in control order.
+// Painting of painted forms and of controls that paint themselves.
 #pragma once
 
 #include "platform/forms.h"
 
-/// Paints the visible controls of the form that lie in `clip` (twips on the form), and no background.
+/// Paints the visible controls of the form in `clip` (twips on the form), without a background.
 void Paint_Controls(const platform::Form_Model &model, platform::Canvas &canvas, const Rect &clip);
 
-/// Paints what of the form lies in `clip` (twips on the form).
+/// Paints the form's background and its visible controls, in control order, in `clip` (twips on the form).
 void Paint_Form(const platform::Form_Model &model, platform::Canvas &canvas, const Rect &clip);
 
-/// Paints a control of a dialog that paints itself: as a painted form paints it, and what `more` adds.
+/// Paints a self-painting control of a dialog as in a painted form, then calls `more`.
 void Paint_Itself(
     const platform::Control_State &control, platform::Canvas &canvas, const Rect &clip,
     Callback_Ref<void(platform::Canvas &)> more = [](platform::Canvas &) {}) noexcept;

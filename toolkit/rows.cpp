@@ -1,4 +1,3 @@
-// The usual sizes of controls, and their places in rows.
 #include "toolkit/rows.h"
 
 #include "toolkit/form.h"

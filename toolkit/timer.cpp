@@ -1,4 +1,3 @@
-// The switch of a timer and the trap around its ticks.
 #include "toolkit/timer.h"
 
 #include <utility>
@@ -9,7 +8,7 @@ void Timer::Set_Enabled(bool enabled) {
     if (enabled) {
         guard_ = std::make_shared<Repeated_Guard>();
         id_ = platform::Start_Timer(interval_, [this] {
-            // Copies, because the handler may switch the timer off or end its owner.
+            // Copy both, because the handler may disable the timer or destroy its owner.
             const auto guard = guard_;
             const auto handler = On_Timer;
             if (handler)

@@ -1,4 +1,4 @@
-// A timer with an interval and a switch.
+// A timer with an interval that can be enabled and disabled.
 #pragma once
 
 #include "platform/message_loop.h"
@@ -7,8 +7,8 @@
 
 #include <memory>
 
-/// Calls On_Timer from the message loop every `interval` milliseconds while it is enabled. Switching it off
-/// and on begins the interval anew. A failure that comes with every tick is told to the user once.
+/// Calls On_Timer from the message loop every `interval` milliseconds while enabled. Enabling it restarts the
+/// interval. Shows a failure that repeats with every tick only once.
 class Timer {
 public:
     explicit Timer(unsigned interval_ms) : interval_(interval_ms) {}
@@ -24,5 +24,5 @@ public:
 private:
     unsigned interval_;
     platform::Timer_Id id_ = 0;
-    std::shared_ptr<Repeated_Guard> guard_; ///< from one switching on to the next
+    std::shared_ptr<Repeated_Guard> guard_; ///< new each time the timer is enabled
 };

@@ -1,4 +1,3 @@
-// Conversion between twips and the screen's pixels.
 #include "toolkit/units.h"
 
 #include "base/twips.h"

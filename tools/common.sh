@@ -1,11 +1,11 @@
-# shellcheck shell=bash disable=SC2034 # its variables are used where it is sourced
-# What every script of the project needs: the project's folder, messages, and an orderly end.
-# Sourced, never run. It installs, builds and starts nothing itself.
+# shellcheck shell=bash disable=SC2034 # the scripts that source it use its variables
+# The common base of all scripts: the project's folder, messages, and an orderly exit. Source it, do not run it. It
+# installs, builds and starts nothing.
 #
-#   PROJECT                 the project's folder, absolute; CACHE the folder that outlives a run
-#   Say TEXT / Fail TEXT [CODE]   a line on standard error; Fail then ends the script (default code 1)
-#   At_Exit COMMAND...      run at the script's end, last given first, whatever ends it
-#   Wait_For SECONDS COMMAND...   polls until COMMAND succeeds; 1 after the deadline
+#   PROJECT                 the project's folder, absolute; CACHE the folder for files that outlast a run
+#   Say TEXT / Fail TEXT [CODE]   prints a line on standard error; Fail then exits with CODE (default 1)
+#   At_Exit COMMAND...      runs the command when the script exits for any reason, last registered first
+#   Wait_For SECONDS COMMAND...   repeats COMMAND until it succeeds; returns 1 after the deadline
 
 PROJECT=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd -P)
 if [ "$(id -u)" = 0 ]; then
@@ -26,7 +26,7 @@ Fail() {
 
 At_Exit() { exit_commands+=("$(printf '%q ' "$@")"); }
 
-# A subshell inherits the trap's text in some versions of bash: only the script itself cleans up.
+# Some versions of bash pass the trap on to subshells, so check that this is the script itself.
 Run_Exit_Commands() {
   local code=$? i
   [ "$BASHPID" = "$shell_of_exit" ] || return "$code"

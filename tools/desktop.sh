@@ -1,21 +1,21 @@
 # shellcheck shell=bash disable=SC2119,SC2120 # the area may be left out
-# A Wine desktop with the stand-in for the shell, and what drives the program on it. Sourcing it brings the other
-# parts along and changes into the project's folder. Every program that is started later in the prefix opens in it.
+# A Wine desktop with the shell stand-in, and the means to drive the program on it. Sources the other parts and changes
+# to the project's folder. All programs started later in the prefix appear on this desktop.
 #
-#   Desktop_Prepare FOLDER      installs what is missing, empties FOLDER (in build) for what a script leaves, chooses
-#                               the Wine; BINARIES is where the build for it lies. Times are UTC, as the drivers set them.
+#   Desktop_Prepare FOLDER      installs missing packages, empties FOLDER (in build) for a script's results, chooses
+#                               the Wine; sets BINARIES to its build folder, and the time zone to UTC, as in the drivers
 #   Desktop_Build LOG [TARGET...]   builds the Windows programs, all of them or the targets
-#   Desktop_Open FOLDER [TARGET...]   all of it: prepares, builds, starts a display, a prefix and the stand-in
+#   Desktop_Open FOLDER [TARGET...]   prepares and builds, then starts a display, a prefix and the stand-in
 #   Desktop_Drive FOLDER SECONDS DRIVER [ARGUMENT...]   runs a test or benchmark that drives the built program,
-#                               in FOLDER, with a clock that the driver can move; gives its exit code
-#   Desktop_Start STANDIN.exe [DPI [NAME [WxH [OPTION...]]]]   96 dots per inch, "vellatro", 1024x768. A desktop named
-#                       "shell" has a task bar. The options are the stand-in's; "none" as STANDIN leaves it out.
-#                       What the stand-in writes is in DESKTOP_OUT.
-#   Desktop_Shot FILE.png [WxH+X+Y]      a picture of the desktop, or of a part of it
-#   Desktop_Settled [WxH+X+Y]            succeeds when nothing changes there for half a second
-#   Desktop_Wait_For_Calendar SECONDS JOB   until the calendar is on the desktop (stand-in with --adopt) and painted;
-#                       fails after SECONDS, or when JOB, the calendar's WINE_JOB, has ended
-#   Desktop_End                          ends it and everything else in the prefix
+#                               in FOLDER, with a clock that the driver can set; returns its exit code
+#   Desktop_Start STANDIN.exe [DPI [NAME [WxH [OPTION...]]]]   starts the desktop and the stand-in. Defaults: 96,
+#                       "vellatro", 1024x768. A desktop named "shell" has a task bar. OPTIONs go to the stand-in;
+#                       "none" starts no stand-in. DESKTOP_OUT is the file with the stand-in's output.
+#   Desktop_Shot FILE.png [WxH+X+Y]      takes a picture of the desktop, or of a part of it
+#   Desktop_Settled [WxH+X+Y]            succeeds if nothing changes there for half a second
+#   Desktop_Wait_For_Calendar SECONDS JOB   waits until the calendar is on the desktop (stand-in with --adopt) and
+#                       painted; fails after SECONDS, or if JOB, the calendar's WINE_JOB, exits
+#   Desktop_End                          ends the desktop and everything else in the prefix
 
 # shellcheck source=/dev/null
 . "${BASH_SOURCE[0]%/*}/packages.sh"
@@ -26,7 +26,7 @@ done
 
 desktop_name=
 desktop_standin_job=
-desktop_bare= # the fingerprint of the desktop before anything was started in it
+desktop_bare= # fingerprint of the desktop before any program started
 
 Desktop_Prepare() {
   export TZ=UTC
@@ -45,7 +45,7 @@ Desktop_Build() {
   if ! { cmake --preset "$WINE_PRESET" && cmake --build --preset "$WINE_PRESET" ${1:+--target "$@"}; } \
     >"$log" 2>&1 </dev/null; then
     tail -n 40 "$log" >&2
-    Fail "The build has failed; all of it is in $log"
+    Fail "The build failed; see $log"
   fi
 }
 
@@ -62,7 +62,7 @@ Desktop_Drive() {
   shift 3
   [ "$WINE_PRESET" = win64 ] || bits=-m32
   gcc -O2 ${bits:+"$bits"} -ffreestanding -fno-builtin -fno-stack-protector -nostdlib -shared -fPIC \
-    -o "$folder/time_shim.so" tests/desktop/time_shim.c || Fail "The time shim cannot be compiled"
+    -o "$folder/time_shim.so" tests/desktop/time_shim.c || Fail "Cannot compile the time shim"
   mkdir -p "$folder/tests"
   printf '%-20s\n' 0 >"$folder/clock"
   Wine_Run "$seconds" LD_PRELOAD="$folder/time_shim.so" VT_CLOCK="$folder/clock" \
@@ -76,7 +76,7 @@ Desktop_Start() {
   shift $(($# < 4 ? $# : 4))
   DESKTOP_OUT=$WINEPREFIX/standin.log
   : >"$DESKTOP_OUT"
-  # The registry as well: programs that are started without naming the desktop take it from there.
+  # Also in the registry, because programs that are started without a desktop name read it there.
   DISPLAY='' Wine_Registry <<REG
 [HKEY_CURRENT_USER\\Control Panel\\Desktop]
 "LogPixels"=dword:$(printf %08x "$dpi")
@@ -88,16 +88,16 @@ Desktop_Start() {
 "$desktop_name"="$size"
 REG
   Wine_Start 86400 explorer.exe "/desktop=$desktop_name,$size"
-  Wait_For 30 Desktop_Has_Window || Fail "Wine's desktop does not appear"
+  Wait_For 30 Desktop_Has_Window || Fail "Wine's desktop did not appear"
   [ "$standin" != none ] || return 0
   WINE_OUT=$DESKTOP_OUT Wine_Start 86400 "$standin" "$@"
   desktop_standin_job=$WINE_JOB
-  Wait_For 30 Desktop_Has_Standin || Fail "The stand-in for the shell does not appear"
-  Wait_For 30 Desktop_Settled || Fail "The stand-in for the shell does not come to rest"
+  Wait_For 30 Desktop_Has_Standin || Fail "The shell stand-in did not appear"
+  Wait_For 30 Desktop_Settled || Fail "The shell stand-in did not settle"
   desktop_bare=$(Desktop_Print)
 }
 
-# Wine's desktop is one window of the display; its windows without a parent are windows of the display, too.
+# Wine's desktop is a window of the display, and so is each top-level window on it.
 Desktop_Window() {
   timeout 5 xdotool search --onlyvisible --name "^$desktop_name - Wine [Dd]esktop\$" 2>/dev/null | head -n 1 || true
 }
@@ -105,7 +105,7 @@ Desktop_Window() {
 Desktop_Has_Window() { [ -n "$(Desktop_Window)" ]; }
 
 Desktop_Has_Standin() {
-  kill -0 "$desktop_standin_job" 2>/dev/null || Fail "The stand-in for the shell has ended"
+  kill -0 "$desktop_standin_job" 2>/dev/null || Fail "The shell stand-in has exited"
   timeout 5 xdotool search --onlyvisible --name '^Program Manager$' >/dev/null 2>&1
 }
 
@@ -120,7 +120,7 @@ Desktop_Settled() {
   [ "$before" = "$(Desktop_Print "${1:-}")" ]
 }
 
-# The calendar tells of today's event before it appears; nobody else is there to say OK.
+# The calendar shows today's event in a message box before it appears, so press OK.
 Desktop_Answer_Boxes() {
   if timeout 5 xdotool search --onlyvisible --name '^Vellatro$' >/dev/null 2>&1; then
     timeout 5 xdotool key Return 2>/dev/null || true

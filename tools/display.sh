@@ -1,18 +1,18 @@
 # shellcheck shell=bash
-# The X display that Wine draws on: a virtual one of the script's own, or the user's; and pictures of it.
-# Sourced after common.sh. It knows nothing of Wine.
+# The X display that Wine draws on, a virtual one or the user's, and pictures of it. Source it after common.sh. It knows
+# nothing of Wine.
 #
-#   Display_Usable              succeeds when DISPLAY names a display that answers
-#   Display_Start [WxHxDEPTH]   a virtual display on a free number, exported as DISPLAY, gone at the script's end
-#   Display_Shot FILE.png [WxH+X+Y [WINDOW]]   the pixels of the display or of a window of it, whole or a part
-#   Display_Print [WxH+X+Y [WINDOW]]           a fingerprint of the same pixels, to see whether they have changed
+#   Display_Usable              succeeds if DISPLAY names a display that answers
+#   Display_Start [WxHxDEPTH]   starts a virtual display on a free number, exports DISPLAY, ends it at the script's exit
+#   Display_Shot FILE.png [WxH+X+Y [WINDOW]]   saves the pixels of the display or of a window, whole or in part
+#   Display_Print [WxH+X+Y [WINDOW]]           prints a fingerprint of the same pixels, to detect changes
 
 Display_Usable() { [ -n "${DISPLAY:-}" ] && timeout 5 xdpyinfo >/dev/null 2>&1; }
 
 Display_Start() {
   local number_file
   number_file=$(mktemp)
-  # The server follows the script into the grave even when that is killed without a chance to clean up.
+  # The server must end with the script, even if the script is killed without a chance to clean up.
   setpriv --pdeathsig TERM Xvfb -displayfd 3 -screen 0 "${1:-1280x1024x24}" -nolisten tcp -noreset \
     3>"$number_file" >/dev/null 2>&1 &
   At_Exit Display_End $!

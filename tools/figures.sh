@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
-# Measures the program under Wine beside a bare window program of the same toolchain and beside accessories that
-# Wine brings: size, time until the first picture, memory, objects, processor time while nothing happens. All of
-# them run in turn on one desktop with the stand-in for the shell. Takes six minutes; installs what is missing.
-# Usage: tools/figures.sh [ROUNDS [IDLE_SECONDS]], 15 starts and 60 s each without them.
+# Measures the program under Wine: size, time until the first picture, memory, objects, and processor time at rest. For
+# comparison it measures a bare window program of the same toolchain and accessories that come with Wine. All of them
+# run in turn on one desktop with the shell stand-in. Takes six minutes and installs missing packages. Usage:
+# tools/figures.sh [ROUNDS [IDLE_SECONDS]]; the defaults are 15 starts and 60 s each.
 set -euo pipefail
 rounds=${1:-15}
 idle=${2:-60}
@@ -12,10 +12,10 @@ idle=${2:-60}
 out=$PROJECT/build/figures
 folder=$out/Vellatro
 
-# What the process has had of the processors, all threads of it, in microseconds.
+# Prints the processor time of a process, with all its threads, in microseconds.
 Processor_Time() { cat /proc/"$1"/task/*/schedstat | awk '{ sum += $1 } END { printf "%d\n", sum / 1000 }'; }
 
-# The memory that no other process shares, in KB.
+# Prints the memory that a process shares with no other, in KB.
 Private_Memory() { awk '/^Private_(Clean|Dirty):/ { sum += $2 } END { print sum }' "/proc/$1/smaps_rollup"; }
 
 Server_Pid() {
@@ -25,13 +25,13 @@ Server_Pid() {
 
 Held() { grep -q "^holds" "$WINE_OUT"; }
 
-# Hold PROGRAM CLASS: the figures of the program at rest.
+# Hold PROGRAM CLASS: prints the figures of the program at rest.
 Hold() {
   local process server private before_process before_server
   local WINE_OUT=$out/$2.log
   : >"$WINE_OUT"
   Wine_Start $((idle + 60)) "$measure" hold $((idle + 20)) "$1" "$2"
-  Wait_For 40 Held || Fail "$2 does not appear: $(cat "$WINE_OUT")"
+  Wait_For 40 Held || Fail "$2 did not appear: $(cat "$WINE_OUT")"
   process=$(Wine_Pids "${1##*\\}")
   server=$(Server_Pid)
   private=$(Private_Memory "$process")
@@ -45,7 +45,7 @@ Hold() {
 }
 
 Desktop_Open "$out" vellatro shell_standin bare_window program_figures
-xdotool mousemove 1279 1023 # a resting mouse would call up a tooltip
+xdotool mousemove 1279 1023 # a resting mouse would open a tooltip
 measure=$BINARIES/bench/desktop/program_figures.exe
 mkdir -p "$folder"
 cp "$BINARIES/vellatro.exe" "$folder/"
@@ -65,7 +65,7 @@ programs=("$(Wine_Path "$BINARIES/bench/desktop/bare_window.exe")" Bare_Window
 
 date -u '+%F %R UTC'
 printf 'commit %s%s\n' "$(git rev-parse --short HEAD)" "$(git diff --quiet HEAD || echo ', with changes')"
-printf 'processors %s, load %s at the beginning\n' "$(nproc)" "$(cut -d' ' -f1-3 /proc/loadavg)"
+printf 'processors %s, load %s at the start\n' "$(nproc)" "$(cut -d' ' -f1-3 /proc/loadavg)"
 stat -c 'size of %n: %s bytes' "$folder/vellatro.exe" "$BINARIES/bench/desktop/bare_window.exe" | sed "s,$PROJECT/,,"
 WINE_OUT=$out/starts.log
 Wine_Run $((rounds * 30 + 120)) "$measure" starts "$rounds" "${programs[@]}" || Fail "$(cat "$WINE_OUT")"

@@ -1,26 +1,26 @@
 #!/usr/bin/env bash
-# fuzz.sh [SECONDS]: gives each reader of files and texts, and the whole program, made-up input for SECONDS (60),
-# beginning with fuzz/corpus, and fails at the first that breaks off; what it was given then is in build/fuzz-found.
-# Installs what is missing.
+# fuzz.sh [SECONDS]: runs each fuzz target, one for each reader of files and texts and one for the whole program, for
+# SECONDS (60) on generated input, starting from fuzz/corpus. Stops at the first failure and keeps its input in
+# build/fuzz-found. Installs missing packages.
 set -euo pipefail
 # shellcheck source=/dev/null
 . "$(dirname "${BASH_SOURCE[0]}")/packages.sh"
 seconds=${1:-60}
-[[ $seconds =~ ^[1-9][0-9]*$ ]] || Fail "fuzz.sh [SECONDS]" 2
+[[ $seconds =~ ^[1-9][0-9]*$ ]] || Fail "Usage: tools/fuzz.sh [SECONDS]" 2
 Packages_Need build
 found=$PROJECT/build/fuzz-found
 mkdir -p "$found"
 log=$found/build.log
 { cmake --preset fuzz && cmake --build --preset fuzz; } >"$log" 2>&1 </dev/null ||
-  Fail "The build has failed; all of it is in $log"
+  Fail "The build failed; see $log"
 for source in fuzz/*.cpp; do
   name=$(basename "$source" .cpp)
   log=$found/$name.log
   seeds=()
   [ ! -d "fuzz/corpus/$name" ] || seeds=("fuzz/corpus/$name")
-  new=$(mktemp -d "$found/$name.XXXXXX") # what is found to lead elsewhere is not kept
+  new=$(mktemp -d "$found/$name.XXXXXX") # new inputs that reach more code are not kept
   At_Exit rm -rf "$new"
   "build/fuzz/fuzz_$name" -max_total_time="$seconds" -artifact_prefix="$found/$name-" "$new" "${seeds[@]}" >"$log" 2>&1 ||
-    Fail "$name breaks off: $(grep -m 1 -E 'ERROR|runtime error' "$log"); see $log"
+    Fail "$name failed: $(grep -m 1 -E 'ERROR|runtime error' "$log"); see $log"
   Say "$name: $(sed -nE 's/^Done ([0-9]+) runs.*/\1 inputs/p' "$log")"
 done

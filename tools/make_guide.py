@@ -1,11 +1,11 @@
 #!/usr/bin/env python3
-"""Turns the guide into a page that every browser opens.
+"""Converts the guide to an HTML page for any browser.
 
     make_guide.py GUIDE.md FOLDER    writes FOLDER/Guide.html and copies the guide's pictures to FOLDER/docs
 
-It knows what the guide uses: headings, paragraphs, lists, tables, quotes, indented code, pictures on a line of their
-own; bold text, code and links to headings within the text. Anything else stops it with the number of the line, so that
-no mark shows up as text. It needs nothing but Python's standard library.
+It supports the Markdown that the guide uses: headings, paragraphs, lists, tables, quotes, indented code and pictures on
+a line of their own; bold text, code and links to headings within a line. Anything else is an error with its line
+number, so that no mark appears as text. It needs only Python's standard library.
 """
 import html
 import os
@@ -59,14 +59,14 @@ PAGE = """<!DOCTYPE html>
 """
 
 INLINE = re.compile(r'`([^`]+)`|\*\*([^*`\[]+)\*\*|\[([^\]*`]+)\]\(#([a-z0-9-]+)\)')
-# What another Markdown reader takes for a mark, outside of the constructs above.
+# Marks of other Markdown readers that are not part of the constructs above.
 STRAY = re.compile(r'[*_`\[\]<~]|\\[^A-Za-z0-9\s]|&\w+;|https?:')
 UNKNOWN_BLOCK = re.compile(r'#{4,}|#+[^# ]|```|~~~|[-*_]{3,}$|[=-]+$|[*+] |\d+\) | {1,3}\S|\t|<|\[[^\]]*\]:')
 PICTURE = re.compile(r'!\[([^\]]+)\]\(([a-z0-9-]+\.png)\)')
 
 
 class Guide:
-    """One conversion. `at` is the index of the line that is read next."""
+    """One conversion. `at` is the index of the next line."""
 
     def __init__(self, path):
         self.path, self.at, self.out = path, 0, []
@@ -81,7 +81,7 @@ class Guide:
         return self.lines[self.at] if self.at < len(self.lines) else ''
 
     def take(self, mark):
-        """The text of the following lines that begin with `mark`, without it."""
+        """Returns the next lines that begin with `mark`, without the mark."""
         found = []
         while self.line().startswith(mark):
             found.append(self.line()[len(mark):].lstrip(' ') if mark == '>' else self.line()[len(mark):])
@@ -129,7 +129,7 @@ class Guide:
             self.fail('text beside a picture')
 
     def list(self, kind, mark):
-        """Items whose further lines are indented as far as the first one's text."""
+        """Converts a list. Further lines of an item must be indented as far as its text."""
         self.out.append(f'<{kind}>')
         while match := re.match(mark, self.line()):
             start, text = self.at, [self.line()[match.end():]]
@@ -205,7 +205,7 @@ class Guide:
         levels = [level for level, _, _ in self.headings]
         if levels[:1] != [1] or levels.count(1) != 1 or levels.count(2) < 2:
             self.fail('a guide needs one title and two chapters', 0)
-        # The contents stand behind the first chapter, which is all that a newcomer needs.
+        # The contents follow the first chapter, which is all that a new user needs.
         chapters = [i for i, line in enumerate(self.out) if line.startswith('<h2')]
         contents = [f'<li><a href="#{name}">{text}</a></li>' for level, name, text in self.headings if level == 2]
         self.out[chapters[1]:chapters[1]] = ['<ul class="contents">', *contents[1:], '</ul>']

@@ -3,9 +3,9 @@
 
     make_icon.py ICON.ico [FOLDER]    writes the icon, and with FOLDER each size as FOLDER/SIZE.png to look at
 
-Only 256 pixels are PNG: Windows 2000 and XP read none, and ask for no icon so large.
-Every size is drawn for itself on its own pixel grid, from rectangles with round corners; corners and the rings
-are smoothed by samples within each pixel. Needs nothing but Python's standard library.
+Only the 256 pixel size is PNG: Windows 2000 and XP cannot read PNG icons, but never load that size.
+Each size is drawn on its own pixel grid, from rectangles with round corners, smoothed by several samples in each
+pixel. The script needs only Python's standard library.
 """
 import os
 import struct
@@ -14,8 +14,8 @@ import zlib
 
 SIZES = (16, 20, 24, 32, 48, 256)
 AS_PNG = (256,)
-# Set by hand in the small sizes, so that the grid stands in the middle: cell and gap in pixels. An even gap gives four
-# columns an even width, as the page has.
+# Cell and gap in pixels, set by hand for the small sizes so that the grid is centred. An even gap gives four columns an
+# even width, like the page's.
 GRIDS = {16: (2, 2), 20: (2, 2), 24: (2, 2), 32: (3, 2)}
 SAMPLES = 8  # per pixel and direction
 
@@ -26,7 +26,7 @@ DAY = (150, 146, 200)
 
 
 def inside(shape, x, y):
-    """True when the point lies in the round-cornered rectangle (left, top, right, bottom, radius)."""
+    """Returns whether the point lies in the round-cornered rectangle (left, top, right, bottom, radius)."""
     left, top, right, bottom, radius = shape
     if not (left <= x < right and top <= y < bottom):
         return False
@@ -36,7 +36,7 @@ def inside(shape, x, y):
 
 
 def layers(size):
-    """The drawing at this size, from the back: pairs of a shape and a colour. Edges are whole pixels."""
+    """Yields the shapes at this size with their colours, from back to front. Edges are whole pixels."""
     unit = size / 16
     line = max(1, round(unit * 0.75))  # thickness of the frame
     left, right = round(unit), size - round(unit)
@@ -45,7 +45,7 @@ def layers(size):
     radius = unit * 1.6
     yield (left, top, right, bottom, radius), DEEP_BLUE
     yield (left + line, head, right - line, bottom - line, max(radius - line, 0)), WHITE
-    # The upper corners of the page are square: the head lies on it.
+    # The upper corners of the page are square, because they touch the head.
     yield (left + line, head, right - line, head + round(radius) + 1, 0), WHITE
 
     ring = max(2, round(unit * 1.3))
@@ -54,7 +54,7 @@ def layers(size):
         yield (x - line, 0, x + ring + line, head - round(unit * 1.4) + line, ring), DEEP_BLUE
         yield (x, round(unit * 0.5), x + ring, head - round(unit * 1.4), ring / 2), VIOLET
 
-    # Days: as many squares as stay readable; today is the light one.
+    # Days: as many squares as stay distinct; today is the light one.
     width, height = right - left - 2 * line, bottom - line - head
     columns, rows, today = (3, 2, (1, 0)) if size == 16 else (4, 3, (2, 1))
     if size in GRIDS:
@@ -76,7 +76,7 @@ def layers(size):
 
 
 def draw(size):
-    """Rows of pixels (red, green, blue, alpha)."""
+    """Returns rows of pixels (red, green, blue, alpha)."""
     pixels = [[(0.0, 0.0, 0.0, 0.0)] * size for _ in range(size)]
     for shape, colour in layers(size):
         left, top, right, bottom, radius = shape
@@ -94,7 +94,7 @@ def draw(size):
 
 
 def coverage(shape, x, y):
-    """The part of the pixel that the shape covers, 0 to 1."""
+    """Returns the share of the pixel that the shape covers, 0 to 1."""
     left, top, right, bottom, radius = shape
     if left + radius <= x and x + 1 <= right - radius and top <= y and y + 1 <= bottom:
         return 1
@@ -114,8 +114,11 @@ def png(pixels):
 
 
 def bitmap(pixels):
-    """The icon form of a bitmap: bottom row first, then a mask for systems that know no alpha. They show what the mask
-    hides inverted unless it is black, so they get the smoothed edge as a solid one."""
+    """Returns a bitmap in icon form: the rows from the bottom up, then a mask for systems without alpha.
+
+    Such systems invert a masked pixel unless its colour is black. So the mask hides only fully transparent pixels,
+    which are black, and the smoothed edge becomes solid.
+    """
     size = len(pixels)
     header = struct.pack('<IiiHHIIiiII', 40, size, 2 * size, 1, 32, 0, 0, 0, 0, 0, 0)
     colours = b''.join(struct.pack('BBBB', b, g, r, a) for row in reversed(pixels) for r, g, b, a in row)
@@ -128,7 +131,7 @@ def bitmap(pixels):
 
 
 def icon(pictures):
-    """An icon file of (size, bytes) pairs."""
+    """Returns an icon file with the given (size, bytes) pairs."""
     directory = struct.pack('<HHH', 0, 1, len(pictures))
     offset = len(directory) + 16 * len(pictures)
     for size, data in pictures:

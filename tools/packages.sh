@@ -1,21 +1,20 @@
 # shellcheck shell=bash disable=SC2034 # the lists are used by name
-# Installs the Debian packages that building and the Wine tests need, and only those that are missing.
-# Sourcing it brings common.sh along and changes into the project's folder. Which Wine is used, and how it gets there,
-# is wine.sh's matter.
+# Installs the Debian packages that the build and the Wine tests need, if they are missing. Sources common.sh and
+# changes to the project's folder. wine.sh chooses and installs the Wine.
 #
-#   Packages_Need build     compilers, CMake, test and benchmark libraries, formatter and checker, another reader of
+#   Packages_Need build     compilers, CMake, test and benchmark libraries, formatter, checker, and another reader of
 #                           calendar files
 #   Packages_Need desktop   Wine, a virtual display, its tools, fonts
-#   Packages_Need root      what makes a Debian of another architecture or release in a folder
-#   Apt_Allowed             succeeds when this user may install packages
-#   Apt_Install PACKAGE...  installs, trying again after refreshing the lists
+#   Packages_Need root      the tool that installs a Debian of another architecture or release in a folder
+#   Apt_Allowed             succeeds if this user may install packages
+#   Apt_Install PACKAGE...  installs, and retries after refreshing the package lists
 
 # shellcheck source=/dev/null
 . "${BASH_SOURCE[0]%/*}/common.sh"
 cd "$PROJECT" || exit
 
-# A line is the file or command that shows that a package is there, and the package. The existence of one
-# file is cheaper to ask than the package database, so that a run with everything in place costs nothing.
+# Each line has a file or command that proves a package is installed, and the package. Checking one file is faster than
+# asking the package database, so a run with nothing missing loses no time.
 build_packages='
 cmake                                cmake
 ninja                                ninja-build
@@ -53,7 +52,7 @@ Apt_Allowed() {
   command -v apt-get >/dev/null && { [ "$(id -u)" = 0 ] || sudo -n true 2>/dev/null; }
 }
 
-# The lock of another installation is waited for; the log is shown only when something went wrong.
+# Waits for the lock of another installation. The caller shows the log only after a failure.
 Apt() {
   As_Root env DEBIAN_FRONTEND=noninteractive timeout -k 10 900 \
     apt-get -qq -y -o DPkg::Lock::Timeout=300 -o Acquire::Retries=3 "$@" </dev/null

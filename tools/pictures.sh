@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# pictures.sh: makes all pictures of the guide anew, in docs/, from the running program. Under Wine on a display of
-# its own; a minute. Installs what is missing. Look at them before you commit them.
+# pictures.sh: retakes all pictures of the guide in docs/ from the running program, under Wine on a virtual display, in
+# a minute. Installs missing packages. Look at the pictures before you commit them.
 set -euo pipefail
 # shellcheck source=/dev/null
 . "$(dirname "${BASH_SOURCE[0]}")/desktop.sh"
@@ -10,11 +10,11 @@ Desktop_Prepare "$out"
 Desktop_Build "$out/build.log" vellatro shell_standin pictures
 Display_Start 1280x1024x24
 Wine_Prefix "$out/prefix"
-Desktop_Start "$BINARIES/tests/desktop/shell_standin.exe" 96 vellatro 1280x720 --adopt # as wide as the pack's pictures
+Desktop_Start "$BINARIES/tests/desktop/shell_standin.exe" 96 vellatro 1280x720 --adopt # the pack's aspect ratio
 WINE_OUT=$out/pictures.log
 VT_PACK=$(Wine_Path packs/Default)
 export VT_PACK
-Desktop_Drive "$out" 300 pictures || Fail "The program could not be posed; see $WINE_OUT"
+Desktop_Drive "$out" 300 pictures || Fail "Taking the pictures failed; see $WINE_OUT"
 
 while read -r name part; do
   convert "$out/tests/$name.bmp" -crop "$part" +repage "$out/$name.png"

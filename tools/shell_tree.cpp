@@ -1,5 +1,6 @@
-// Prints the windows of the desktop, front to back: the tree under "Progman" and that under every top-level
-// "WorkerW", with what decides whether a window among them is seen. For reports about a calendar that is not:
+// Prints the windows of the desktop from front to back: the trees under "Progman" and under each top-level
+// "WorkerW", with all that decides whether a window is visible. For reports about a calendar that is not
+// visible:
 //
 //     shell_tree >tree.txt
 #include <windows.h>
@@ -19,7 +20,7 @@ std::string Utf8(const wchar_t *text) {
     return bytes.c_str();
 }
 
-/// The file name of a running program; empty when it has ended meanwhile.
+/// Returns the file name of a running program, or an empty text if it has ended.
 std::string Program_Of(DWORD process) {
     const HANDLE list = CreateToolhelp32Snapshot(TH32CS_SNAPPROCESS, 0);
     PROCESSENTRY32W entry{};
@@ -35,7 +36,7 @@ std::string Program_Of(DWORD process) {
 void Print_Tree(HWND window, int depth) {
     wchar_t class_name[257] = {};
     GetClassNameW(window, class_name, 256);
-    // The system keeps it: nothing is asked of a program that hangs.
+    // The system stores this text, so a hung program cannot block the call.
     wchar_t title[81] = {};
     InternalGetWindowText(window, title, 80);
     RECT place{};
@@ -50,7 +51,7 @@ void Print_Tree(HWND window, int depth) {
         static_cast<unsigned long>(GetWindowLongW(window, GWL_EXSTYLE)), place.left, place.top, place.right,
         place.bottom, IsWindowVisible(window) ? "visible" : "hidden", IsIconic(window) ? ", minimized" : "",
         IsHungAppWindow(window) ? ", hung" : "", Program_Of(process).c_str(), process, thread);
-    // Windows that change places meanwhile could make a ring.
+    // Windows that change places during the walk could form a cycle.
     static int left = 5000;
     for (HWND child = GetWindow(window, GW_CHILD); child != nullptr && left > 0 && depth < 50;
          child = GetWindow(child, GW_HWNDNEXT), --left)
@@ -61,7 +62,7 @@ void Print_Tree(HWND window, int depth) {
 
 int main() {
     SetProcessDPIAware();
-    std::printf("screens (%d,%d) %dx%d, the first one %dx%d, shell's window %08lX\n",
+    std::printf("screens (%d,%d) %dx%d, primary screen %dx%d, shell window %08lX\n",
                 GetSystemMetrics(SM_XVIRTUALSCREEN), GetSystemMetrics(SM_YVIRTUALSCREEN),
                 GetSystemMetrics(SM_CXVIRTUALSCREEN), GetSystemMetrics(SM_CYVIRTUALSCREEN),
                 GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN),

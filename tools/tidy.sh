@@ -1,19 +1,19 @@
 #!/usr/bin/env bash
-# Looks for faults with clang-tidy, by the settings of .clang-tidy, in the program, the native benchmarks and the fuzz
-# targets; the tests and the painter of the wallpapers are left out. Most of its time goes into the headers of the
-# language and of Windows, so it is given the sources of a folder as one, which takes far less; those whose
-# names collide make a further one. The flags are those of the presets host and win32, as far as clang knows them;
-# for win32 it is shown MinGW's headers. Builds nothing. Usage: tools/tidy.sh [FOLDER_OR_SOURCE...], all without.
+# Checks the program, the native benchmarks and the fuzz targets with clang-tidy, by the settings of .clang-tidy; not
+# the tests and the painter of the wallpapers. The headers of the language and of Windows take most of the time, so all
+# sources of a folder are checked as one file; those whose names collide go into a further file. The flags are those of
+# the presets host and win32, as far as clang knows them, and for win32 also MinGW's headers. Builds nothing. Usage:
+# tools/tidy.sh [FOLDER_OR_SOURCE...], without arguments all.
 set -euo pipefail
 # shellcheck source=/dev/null
 . "$(dirname "${BASH_SOURCE[0]}")/packages.sh"
 Packages_Need build
 mkdir -p build
-out=$(mktemp -d build/tidy.XXXXXX) # inside of the project, where .clang-tidy is found
+out=$(mktemp -d build/tidy.XXXXXX) # inside the project, where .clang-tidy is found
 At_Exit rm -rf "$out"
 
-# Flags PRESET TARGET: what all sources of the target are compiled with. The sanitizers are not the analyser's matter,
-# and .clang-tidy says what is an error; a precompiled header of GCC's is not for clang.
+# Flags PRESET TARGET: prints the compile flags of the target's sources, without flags for sanitizers, for errors, which
+# .clang-tidy defines, and for GCC's precompiled header, which clang cannot read.
 Flags() {
   cmake --preset "$1" >/dev/null
   grep -m 1 "CMakeFiles/$2\\.dir/" "build/$1/compile_commands.json" |
@@ -22,25 +22,25 @@ Flags() {
 }
 host=$(Flags host vellatro_portable)
 win32="--target=i686-w64-mingw32 -nostdinc++ $(Flags win32 vellatro)"
-# MinGW's folders of the language's and of the system's headers; those of the compiler itself are clang's own.
+# MinGW's folders for the headers of the language and of the system. The compiler's own headers are clang's.
 while read -r folder; do
   case $folder in
     */c++* | */i686-w64-mingw32/include) win32+=" -isystem $(realpath "$folder")" ;;
   esac
 done < <(i686-w64-mingw32-g++-win32 -E -x c++ -v /dev/null 2>&1 | grep '^ /')
 
-# Sources in one file shadow each other's names, which the build looks after, too. With more nodes than these for a
-# procedure the analyser takes five times as long, and found nothing else in core/ and settings/.
+# In a combined file the sources shadow each other's names; the build checks shadowing. With more nodes per procedure
+# the analyser takes five times as long, and it found nothing else in core/ and settings/.
 less='-Wno-shadow -Xclang -analyzer-config -Xclang max-nodes=20000'
 
-# Write_Whole FILE SOURCE...
+# Write_Whole FILE SOURCE...: writes the sources into one file.
 Write_Whole() {
   local source whole=$1
   shift
   for source; do printf '#line 1 "%s"\n' "$source" && cat "$source"; done >"$whole"
 }
 
-# Name_Sources WHOLE: clang-tidy's output, with the places in the sources instead of those in the whole of them.
+# Name_Sources WHOLE: replaces the positions in the combined file by those in the sources, in clang-tidy's output.
 Name_Sources() {
   awk -v whole="$1" '
     FNR == NR { if (/^#line 1 "/) { split($0, word, "\""); source = word[2]; before = FNR }
@@ -51,14 +51,14 @@ Name_Sources() {
     { print }' "$1" -
 }
 
-# Tidy FOLDER_OR_SOURCE. What a source declares must not meet the same name of another one: the sources that the
-# compiler complains about are kept for the next round, until it does no more or one is left, which is checked
-# whatever is wrong.
+# Tidy FOLDER_OR_SOURCE: checks a folder. A source must not declare a name that another one in the same file declares.
+# So the sources with compile errors wait for the next round, until there are no errors or one source is left, which is
+# checked in any case.
 Tidy() {
   local place=$1 flags=$host checks='' round=0 code=0 sources=("$1") found kept whole
   [ ! -d "$place" ] || sources=("$place"/*.cpp)
   case $place in win32* | app | tests/desktop | bench/desktop) flags=$win32 ;; esac
-  case $place in bench*) checks=-clang-analyzer-deadcode.DeadStores ;; esac # the counter of each loop
+  case $place in bench*) checks=-clang-analyzer-deadcode.DeadStores ;; esac # the loop counters
   while [ ${#sources[@]} -gt 0 ]; do
     round=$((round + 1))
     whole=$out/${place//[\/.]/-}-$round.cpp

@@ -1,30 +1,30 @@
 # shellcheck shell=bash
-# Gives the scripts a Wine. Sourced after common.sh and packages.sh; call the procedures from the script
+# Provides a Wine for the scripts. Source it after common.sh and packages.sh, and call its functions from the script
 # itself, not from a subshell. Nothing that they start outlives the script.
 #
-#   Wine_Setup                  chooses and installs: WINE_KIND (package32, root32, wine10, wine64), WINE_PRESET (win32,
-#                               win64). VELLATRO_WINE in the environment forces a kind.
-#   Wine_Prefix DIR [keep]      a fresh prefix in DIR (in /tmp or in the project), used by all calls that follow;
-#                               "keep" takes the one that is there, with what programs have written into it
-#   Wine_Run SECONDS [NAME=VALUE...] EXE [ARGUMENT...]    waits; gives the exit code, 124 after SECONDS
-#   Wine_Start SECONDS [NAME=VALUE...] EXE [ARGUMENT...]  does not wait; WINE_JOB is what "wait" takes
-#       Both take EXE as Wine's own ("regedit") or as a path, run it in the current folder, give the variables to
-#       this program alone (LD_PRELOAD), and append its output to WINE_OUT (output.log in the prefix).
-#   Wine_Registry <FILE         imports the lines of a .reg file, without the header
-#   Wine_Path FILE              how Windows programs name FILE: Z:\...
-#   Wine_Pids NAME.exe          the process ids, as the host counts them, of that program in this prefix
-#   Wine_End                    ends whatever runs in the prefix; the script's end does it too
+#   Wine_Setup                  chooses and installs a Wine: sets WINE_KIND (package32, root32, wine10, wine64) and
+#                               WINE_PRESET (win32, win64). VELLATRO_WINE in the environment forces a kind.
+#   Wine_Prefix DIR [keep]      creates a fresh prefix in DIR (in /tmp or in the project) for all calls that follow;
+#                               "keep" keeps an existing one with the files that programs have written to it
+#   Wine_Run SECONDS [NAME=VALUE...] EXE [ARGUMENT...]    waits; returns the exit code, 124 after SECONDS
+#   Wine_Start SECONDS [NAME=VALUE...] EXE [ARGUMENT...]  does not wait; sets WINE_JOB for "wait"
+#       Both take EXE as one of Wine's own ("regedit") or as a path, run it in the current folder, set the variables
+#       for this program only (LD_PRELOAD), and append its output to WINE_OUT (default: output.log in the prefix).
+#   Wine_Registry <FILE         imports the lines of a .reg file, without its header
+#   Wine_Path FILE              prints the path of FILE for Windows programs: Z:\...
+#   Wine_Pids NAME.exe          prints the host's process ids of that program in this prefix
+#   Wine_End                    ends all programs in the prefix, as the script's exit does
 #
-# The kinds, in the order of preference, since the product is a 32-bit program:
+# The kinds, in order of preference, because the product is a 32-bit program:
 #   package32  Debian's wine32 through the foreign architecture i386
-#   root32     a private i386 Debian under CACHE, entered in namespaces of its own, so that neither mounts nor
-#              processes are left on the host; used where apt cannot install wine32, and only as root
+#   root32     a private i386 Debian in CACHE, entered in its own namespaces, so that neither mounts nor processes are
+#              left on the host; only if apt cannot install wine32, and only as root
 #   wine64     the 64-bit Wine and the 64-bit build
-# And one that is never chosen, only forced:
-#   wine10     like root32, with the Wine of the next Debian, to see the product and the tests on another one
+# And one that must be forced:
+#   wine10     like root32, with the Wine of the next Debian release, to run the product and its tests on another one
 
 wine_root=$CACHE/i386
-wine_release=bookworm # Debian's, in the root
+wine_release=bookworm # the Debian release in the root
 wine_bed=
 
 Wine_Setup() {
@@ -35,8 +35,8 @@ Wine_Setup() {
   fi
   case $WINE_KIND in
     '') Wine_Choose ;;
-    package32) Wine_Has_Package32 || Wine_Install_Package32 || Fail "wine32 cannot be installed" ;;
-    root32 | wine10) Wine_Has_Root32 || Wine_Install_Root32 || Fail "The i386 root cannot be made" ;;
+    package32) Wine_Has_Package32 || Wine_Install_Package32 || Fail "Cannot install wine32" ;;
+    root32 | wine10) Wine_Has_Root32 || Wine_Install_Root32 || Fail "Cannot create the i386 root" ;;
     wine64) ;;
     *) Fail "VELLATRO_WINE must be package32, root32, wine10 or wine64" 2 ;;
   esac
@@ -72,8 +72,8 @@ Wine_May_Root32() { [ "$(id -u)" = 0 ] && unshare --mount --pid --fork true 2>/d
 
 Wine_Has_Root32() { Wine_May_Root32 && [ -e "$wine_root.complete" ] && [ -x "$wine_root/usr/lib/wine/wine" ]; }
 
-# Simulates first: on some days the i386 lists are out of step with the amd64 ones. Then the architecture is
-# taken out again, because with it every later apt-get update would fail. A refusal is remembered for a day.
+# Simulates the installation first: at times the i386 lists do not match the amd64 ones. Then removes the architecture
+# again, because every later apt-get update would fail with it. Does not retry for a day.
 Wine_Install_Package32() {
   local refused=$CACHE/wine32.refused plan added=
   Apt_Allowed || return 1
@@ -91,30 +91,30 @@ Wine_Install_Package32() {
   fi
   [ -z "$added" ] || Wine_Drop_I386
   mkdir -p "$CACHE" && touch "$refused"
-  Say "wine32 cannot be installed here today"
+  Say "Cannot install wine32 here. The next attempt is in a day at the earliest"
   return 1
 }
 
-# Also called at the script's end, when somebody has interrupted the attempt.
+# Also called at the script's exit, in case someone interrupts the attempt.
 Wine_Drop_I386() {
   if Wine_Has_Package32 || ! dpkg --print-foreign-architectures | grep -qx i386; then return 0; fi
   As_Root dpkg --remove-architecture i386 2>/dev/null || return 0
   Apt update >/dev/null 2>&1 || Say "apt-get update fails: the package lists may be out of date"
 }
 
-# A root without its mark is the rest of an interrupted attempt and is begun anew.
+# A root without the file .complete is left from an interrupted attempt and is created again.
 Wine_Install_Root32() {
   local mirror log
   Wine_May_Root32 && (Packages_Need root) || return 1
-  Say "Making an i386 Debian with Wine in $wine_root (once; about a minute)"
+  Say "Creating an i386 Debian with Wine in $wine_root (once; about a minute)"
   rm -f "$wine_root.complete"
   rm -rf --one-file-system "$wine_root"
   mkdir -p "$CACHE"
   log=$wine_root.log
-  # shellcheck disable=SC2016 # a name of apt's, not of the shell
+  # shellcheck disable=SC2016 # apt expands the name, not the shell
   mirror=$(apt-get indextargets --format '$(SITE)' 'Codename: bookworm' 'Component: main' \
     'Created-By: Packages' 2>/dev/null | head -n 1 || true)
-  # In namespaces of its own, so that an interrupted attempt leaves neither mounts nor processes.
+  # In its own namespaces, so that an interrupted attempt leaves neither mounts nor processes.
   setpriv --pdeathsig KILL unshare --mount --pid --fork --kill-child=KILL --mount-proc timeout -k 10 1200 \
     debootstrap --arch=i386 --variant=minbase --include=wine32,wine "$wine_release" "$wine_root" ${mirror:+"$mirror"} \
     </dev/null >"$log" 2>&1 &
@@ -126,12 +126,12 @@ Wine_Install_Root32() {
   touch "$wine_root.complete"
 }
 
-# One keeper process holds the namespaces: Wine's server and programs find each other in them, and the
-# keeper's end, or this script's, is the end of all of them. bash is the keeper because it reaps orphans.
+# A keeper process holds the namespaces, in which Wine's server and programs find each other. When the keeper or this
+# script ends, all of them end. The keeper is bash, because it reaps orphans.
 Wine_Enter_Root32() {
   local ready
   ready=$(mktemp /tmp/vellatro-bed.XXXXXX)
-  # The key to the user's display lies in a folder that the root does not show.
+  # The root does not show the folder with the key to the user's display, so copy the key.
   XAUTHORITY=${XAUTHORITY:-$HOME/.Xauthority}
   if [ -r "$XAUTHORITY" ]; then
     cp "$XAUTHORITY" "$ready.key"
@@ -151,7 +151,7 @@ Wine_Enter_Root32() {
       exec chroot "$root" /bin/bash -c "echo ready >$ready; while sleep 1000; do :; done"
     ' keeper "$wine_root" "$PROJECT" "$ready" </dev/null >"$ready.log" 2>&1 &
   At_Exit Wine_Leave_Root32 $! "$ready"
-  Wait_For 20 test -s "$ready" || Fail "The i386 root cannot be entered: $(cat "$ready.log")"
+  Wait_For 20 test -s "$ready" || Fail "Cannot enter the i386 root: $(cat "$ready.log")"
   wine_bed=$(pgrep -P $!)
   rm -f "$ready" "$ready.log"
 }
@@ -163,7 +163,8 @@ Wine_Leave_Root32() {
   wine_bed=
 }
 
-# A command where Wine is: on the host, or in the i386 root. Folders that the root does not show become "/".
+# Runs a command where Wine is: on the host, or in the i386 root. There "/" replaces a folder that the root does not
+# show.
 Wine_Inside() {
   local folder
   if [ -z "$wine_bed" ]; then
@@ -190,7 +191,7 @@ Wine_Start() {
   WINE_JOB=$!
 }
 
-# Waiting for a background job, so that a signal to the script is heeded at once.
+# Runs in the background and waits, so that a signal to the script takes effect at once.
 Wine_Run() {
   Wine_Start "$@"
   wait "$WINE_JOB"
@@ -206,7 +207,7 @@ Wine_Registry() {
   local file
   file=$(mktemp /tmp/vellatro-reg.XXXXXX)
   { printf 'Windows Registry Editor Version 5.00\n\n' && cat; } >"$file"
-  Wine_Run 60 regedit /S "$(Wine_Path "$file")" || Fail "The registry of $WINEPREFIX cannot be changed"
+  Wine_Run 60 regedit /S "$(Wine_Path "$file")" || Fail "Cannot change the registry of $WINEPREFIX"
   rm -f "$file"
 }
 
@@ -217,7 +218,8 @@ Wine_Pids() {
   done
 }
 
-# Copying a prefix takes a fifth of the time of making one, so one is kept per Wine and registry text.
+# Copies a prefix template, which takes a fifth of the time of creating a prefix. There is one template for each Wine
+# and registry text.
 Wine_Prefix() {
   local template
   template=$CACHE/prefix-$WINE_KIND-$({ Wine_Registry_Of_Prefix && Wine_Inside stat -c %Y /usr/share/wine/wine.inf; } |
@@ -225,7 +227,7 @@ Wine_Prefix() {
   [ -d "$template" ] || Wine_Make_Template "$template"
   if [ "${2:-}" != keep ] || [ "$(cat "$1/template" 2>/dev/null)" != "$template" ]; then
     if [ -e "$1" ]; then
-      [ -e "$1/system.reg" ] || [ -z "$(ls -A "$1")" ] || Fail "$1 is in the way of a Wine prefix"
+      [ -e "$1/system.reg" ] || [ -z "$(ls -A "$1")" ] || Fail "$1 exists and is not a Wine prefix"
       rm -rf "$1"
     fi
     mkdir -p "$(dirname "$1")"
@@ -235,22 +237,21 @@ Wine_Prefix() {
   WINEPREFIX=$(realpath "$1")
   export WINEPREFIX
   At_Exit Wine_End_Of "$WINEPREFIX"
-  # A server that stays for a while makes the programs' starts equal, and none of them becomes its parent.
-  Wine_Inside timeout -k 5 30 wineserver -p60 </dev/null >/dev/null 2>&1 || Fail "Wine's server does not start"
+  # Start the server now and keep it: all programs start alike then, and none becomes the server's parent.
+  Wine_Inside timeout -k 5 30 wineserver -p60 </dev/null >/dev/null 2>&1 || Fail "Wine's server did not start"
 }
 
-# Links to the user's own folders are replaced by folders: no test may touch them. Wine's own fonts (the
-# glyphs of title bars and menus) lie outside of the i386 root, so every prefix gets them; but not its Tahoma,
-# whose bold is no bolder.
+# Replaces the links to the user's own folders by folders, which tests may change. Adds Wine's fonts, which have the
+# glyphs of title bars and menus and are outside the i386 root; but not its Tahoma, whose bold is not bolder.
 Wine_Make_Template() {
   local link
-  Say "Making a Wine prefix (once)"
+  Say "Creating a Wine prefix (once)"
   WINEPREFIX=$(mktemp -d /tmp/vellatro-prefix.XXXXXX)
   export WINEPREFIX
   At_Exit rm -rf "$WINEPREFIX"
-  DISPLAY='' Wine_Run 120 wineboot -i || Fail "Wine cannot make a prefix: $(tail "$WINEPREFIX/output.log")"
+  DISPLAY='' Wine_Run 120 wineboot -i || Fail "Wine cannot create a prefix: $(tail "$WINEPREFIX/output.log")"
   DISPLAY='' Wine_Registry < <(Wine_Registry_Of_Prefix)
-  Wine_Inside timeout -k 5 30 wineserver -w || Fail "Wine does not finish its prefix"
+  Wine_Inside timeout -k 5 30 wineserver -w || Fail "Wine did not finish its prefix"
   cp /usr/share/wine/fonts/{marlett,symbol,webdings,wingding,system,fixedsys}.ttf "$WINEPREFIX/drive_c/windows/Fonts/"
   while read -r link; do
     rm "$link"
@@ -260,14 +261,13 @@ Wine_Make_Template() {
   mkdir -p "$CACHE"
   find "$CACHE" -maxdepth 1 -name "prefix-$WINE_KIND-*" ! -name '*.*' -exec rm -rf {} +
   cp -a "$WINEPREFIX" "$1.$$"
-  # Another script may have made the same one in the meantime.
+  # Another script may have made the same template meanwhile.
   mv -T "$1.$$" "$1" 2>/dev/null || rm -rf "$1.$$"
   rm -rf "$WINEPREFIX"
 }
 
-# Smooth fonts and glyphs of all scripts, as Windows has them; no dialog after a crash; no sound.
-# The shell's stand-in leaves its clipping to the X server, or it paints over the calendar that another
-# process has put into it.
+# Smooth fonts and glyphs of all scripts, as on Windows; no dialog after a crash; no sound. The X server clips the
+# windows of the shell stand-in, which would otherwise paint over the calendar that another process has put into it.
 Wine_Registry_Of_Prefix() {
   local font
   cat <<'REG'
@@ -303,7 +303,7 @@ REG
   done
 }
 
-# A list of texts is written in the bytes of a .reg file that is not UTF-16.
+# In a .reg file that is not UTF-16, a REG_MULTI_SZ value is a list of bytes.
 Wine_Font_Link() {
   local bytes
   bytes=$(printf '%s\0\0' "$2" | od -An -v -tx1 | tr -d '\n' | tr ' ' ,)

@@ -1,4 +1,3 @@
-// Configuration files, driven by the table of the settings.
 #include "transfer/configuration.h"
 
 #include "core/convert.h"
@@ -9,7 +8,7 @@
 
 namespace {
 
-/// The value in a line. Of a check box that is 1 or 0, also where the store holds a word.
+/// Returns the value of a setting in its line. A flag is 1 or 0 here, although the store holds a word.
 std::string Value_Text(const Settings &settings, const Setting_Row &row) {
     if (const auto *const flag = std::get_if<bool Settings::*>(&row.member))
         return settings.**flag ? "1" : "0";

@@ -1,4 +1,4 @@
-// The configuration file: its lines from settings, and settings from its items. No dialogs, no messages.
+// The configuration file: writing settings to it and reading them from it, without dialogs or messages.
 #pragma once
 
 #include "core/settings.h"
@@ -6,15 +6,15 @@
 #include <string>
 #include <string_view>
 
-/// The bytes of a configuration file that holds `settings`. Throws Sequential_Error for a text that such a
-/// file cannot hold.
+/// Returns the bytes of a configuration file that holds `settings`. Throws Sequential_Error if the file
+/// format cannot hold one of the texts.
 std::string Configuration_Bytes(const Settings &settings);
 
-/// Takes one item "key=value" over into the running settings and the store. An unknown key is passed over.
-/// Throws Conversion_Error for an item without "=" and a value of another type than the setting's, and
-/// platform::Registry_Error.
+/// Copies one item "key=value" into the running settings and the store. Ignores an unknown key. Throws
+/// Conversion_Error if the item has no "=" or its value is not of the setting's type, and
+/// platform::Registry_Error if the store refuses.
 void Import_Config_Line(std::string_view item);
 
-/// Takes all items of a configuration file over, up to the first that cannot be taken. Throws as
-/// Import_Config_Line does, and Sequential_Error.
+/// Copies all items of a configuration file into the running settings and the store, and stops at the first
+/// error. Throws as Import_Config_Line does, and Sequential_Error.
 void Import_Configuration(std::string_view bytes);

@@ -1,4 +1,4 @@
-// The rules of the program's files of comma separated values. One pass each, whatever the lengths.
+// Every function here makes one pass over its text, whatever its length.
 #include "transfer/csv.h"
 
 #include "base/cut_text.h"
@@ -11,7 +11,7 @@
 
 namespace {
 
-/// Returns where the first 0x1A outside of quotes is; npos: nowhere.
+/// Returns the index of the first 0x1A outside quotes, or npos.
 std::size_t End_Mark(std::string_view bytes) {
     bool quoted = false;
     std::size_t mark = bytes.find('\x1A');
@@ -24,7 +24,7 @@ std::size_t End_Mark(std::string_view bytes) {
     return mark;
 }
 
-/// The record without pairs of quotes, and with a comma behind its last field.
+/// Returns the record without its doubled quotes and with a comma after the last field.
 std::string Prepare_Record(std::string_view record) {
     std::string text;
     text.reserve(record.size() + 1);
@@ -44,8 +44,7 @@ std::size_t Next_Comma(std::string_view text, std::size_t from) {
     return comma;
 }
 
-/// The text of a field without its quotes. A field that holds commas is put together of its parts with "|" in
-/// their places, which all become commas: so does a "|" of its own.
+/// Returns the text of a field without its quotes. "|" stands for a comma inside a field and becomes one.
 std::string Field_Text(std::string_view field) {
     std::string text;
     text.reserve(field.size());
@@ -64,7 +63,7 @@ Date To_Date(const std::string &text) {
 }
 
 std::string Event_Text(const std::string &subject, const std::string &description) {
-    // What the export writes as the subject of each event.
+    // The export writes "Vellatro" as the subject of every event.
     const bool has_subject = !subject.empty() && subject != "Vellatro";
     return (has_subject ? subject : std::string()) + (has_subject && !description.empty() ? " - " : "") +
            description;
@@ -84,7 +83,7 @@ std::string_view CSV_Lines::Next_Line() {
     const std::string_view line = bytes_.substr(at_, end - at_);
     const bool pair = bytes_.substr(end).starts_with("\r\n");
     at_ = std::min(end + (pair ? 2 : 1), bytes_.size());
-    // As a whole: in some code pages a byte like that of "|" is the second half of a character.
+    // Convert the line as a whole: in some code pages the second byte of a character equals "|".
     return all_utf8_ ? line : As_Utf8(line, converted_);
 }
 
@@ -134,7 +133,7 @@ bool Read_CSV_Line(std::string_view record, const CSV_Columns &columns, CSV_Even
     for (std::size_t begin = 0; begin < text.size();) {
         std::size_t comma = Next_Comma(text, begin);
         while (text[begin] != '"') {
-            // Not in quotes: counted, but not read.
+            // An unquoted field counts as a column, but its text is ignored.
             begin = comma + 1;
             comma = Next_Comma(text, begin);
             column = Fit_Int16(column + 1);

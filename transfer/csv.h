@@ -1,6 +1,5 @@
-// Reading events from a file of comma separated values: lines, headings and fields. The form is that of the
-// program's own export, read by its own rules, which are not those of other programs in every point. Nothing
-// is stored here.
+// Reading events from comma separated values: lines, headings and fields. The format is that of the program's
+// own export, whose rules differ in places from those of other programs. Nothing is stored here.
 #pragma once
 
 #include "base/error.h"
@@ -10,54 +9,54 @@
 #include <string>
 #include <string_view>
 
-/// A record is cut short: lines are missing, or a field.
+/// Thrown if a record is incomplete: a line or a field is missing.
 class CSV_Error : public Error {
 public:
     using Error::Error;
 };
 
-/// The columns of the headings that count, from 0. A heading that is only part of a longer one leaves its
-/// column where an earlier file had it.
+/// The indexes of the columns in use, from 0. If a heading occurs only as part of a longer one, its column
+/// stays as in the previous file.
 struct CSV_Columns {
     std::int16_t Start_Date_Col = 0;
     std::int16_t Description_Col = 0;
     std::int16_t Subject_Col = 0;
 };
 
-/// Walks over the lines of a file once, each ended by CR LF, CR or LF, and gives them as UTF-8: one that is
-/// none is taken as text of the system's ANSI code page. A byte-order mark of UTF-8 at the very start is
-/// skipped. The byte 0x1A outside of quotes is the end of the file; in quotes it is text, as the export
-/// writes it. The bytes must outlive it.
+/// Reads the lines of a file in one pass. CR LF, CR or LF ends a line. Lines are returned as UTF-8; a line in
+/// another encoding is converted from the system's ANSI code page. A UTF-8 byte order mark at the start is
+/// skipped. The byte 0x1A outside quotes ends the file; inside quotes it is text, as the export writes it.
+/// The bytes must outlive the object.
 class CSV_Lines {
 public:
     explicit CSV_Lines(std::string_view bytes);
 
     bool At_End() const { return at_ == bytes_.size(); }
     std::size_t Position() const { return at_; }
-    /// The view is good until the next call. Throws CSV_Error at the end.
+    /// Returns the next line, valid until the next call. Throws CSV_Error at the end.
     std::string_view Next_Line();
-    /// Lines up to one that ends in a quote, joined by blanks. The view is good until the next call. Throws
-    /// CSV_Error when the file ends before that.
+    /// Returns the lines up to one that ends with a quote, joined by blanks, valid until the next call.
+    /// Throws CSV_Error if the file ends before such a line.
     std::string_view Next_Record();
 
 private:
     std::string_view bytes_;
     std::size_t at_ = 0;
-    bool all_utf8_; ///< no line needs a look
+    bool all_utf8_; ///< no line needs conversion
     std::string converted_, joined_;
 };
 
-/// Finds the columns in a heading line, in any letter case. False when one of the three words is nowhere in
-/// the line, which the user has been told then. Throws Conversion_Error for more than 32,767 columns.
+/// Finds the columns in a heading line, in any letter case. If one of the three words is missing, shows a
+/// message and returns false. Throws Conversion_Error for more than 32,767 columns.
 bool Check_CSV_Headings(std::string_view line, CSV_Columns &columns);
 
-/// What counts of one record.
+/// The date and text of one record.
 struct CSV_Event {
-    Date date{1899, 12, 30}; ///< day 0, where the record has none
+    Date date{1899, 12, 30}; ///< day 0 if the record has no date
     std::string text;        ///< subject and description
 };
 
-/// Reads a record into `event`; false when it has neither subject nor description. Only fields in quotes are
-/// read. Throws CSV_Error when its last field is not in quotes, and Conversion_Error for a start date that is
-/// none and for more than 32,767 fields.
+/// Reads the quoted fields of a record into `event`. Returns false if it has neither subject nor description.
+/// Throws CSV_Error if the last field is not in quotes, and Conversion_Error for an invalid start date or
+/// more than 32,767 fields.
 bool Read_CSV_Line(std::string_view record, const CSV_Columns &columns, CSV_Event &event);

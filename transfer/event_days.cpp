@@ -1,5 +1,5 @@
-// Clocks are made one here. A local time counts as it stands, whatever its zone; one of Coordinated Universal
-// Time is shown by the user's clock, but is repeated and compared by its own.
+// This file converts between clocks. A local time counts as written, whatever its zone. A UTC time is shown
+// by the user's clock, but repeats and compares in UTC.
 #include "transfer/event_days.h"
 
 #include "base/joined.h"
@@ -10,11 +10,11 @@
 
 namespace {
 
-constexpr std::int64_t most_days = 366;          ///< of an event
-constexpr std::size_t most_repeated_days = 1000; ///< of one that is repeated
+constexpr std::int64_t most_days = 366;          ///< of one event
+constexpr std::size_t most_repeated_days = 1000; ///< of one repeating event
 constexpr std::int64_t half_a_day = seconds_a_day / 2;
 
-/// The seconds by the user's clock at those of Coordinated Universal Time.
+/// Returns the user's local time, in seconds, at a UTC time.
 std::int64_t Local_Seconds(std::int64_t utc) {
     const Date date = Date_Of(Day_Of(utc));
     const auto second = static_cast<int>(Second_Of_Day(utc));
@@ -26,7 +26,7 @@ std::int64_t Local_Seconds(std::int64_t utc) {
     return Day_Number(day) * seconds_a_day + seconds;
 }
 
-/// Moments to be searched: by kind, a date, a local time or another, and those of a kind by time.
+/// Moments, sorted for searching: first dates, then local times, then UTC times, each group by time.
 using Moments = std::vector<Moment>;
 
 std::pair<int, std::int64_t> Sort_Key(const Moment &moment) {
@@ -37,13 +37,13 @@ bool Earlier(const Moment &a, const Moment &b) {
     return Sort_Key(a) < Sort_Key(b);
 }
 
-/// Whether there is one of the kind of `least`, from its time up to `most`.
+/// Returns whether `sorted` has a moment of the same kind as `least`, from its time up to `most`.
 bool Has(const Moments &sorted, const Moment &least, std::int64_t most) {
     const auto found = std::lower_bound(sorted.begin(), sorted.end(), least, Earlier);
     return found != sorted.end() && !Earlier({most, least.timed, least.utc}, *found);
 }
 
-/// Works the days of the events out, one event after the other.
+/// Finds the days of the events, one event after another.
 class Day_Finder {
 public:
     Day_Finder(const Calendar_File &file, const Date &today);
@@ -52,7 +52,7 @@ public:
 private:
     struct Replacements {
         Moments moments;
-        bool of_repeated = false; ///< the event whose days they replace is in the file
+        bool of_repeated = false; ///< the file also has the repeating event that they belong to
     };
 
     std::int64_t Ahead(std::int64_t utc) const;
@@ -68,17 +68,17 @@ private:
     std::int32_t window_begin_, window_end_;
     std::unordered_map<std::string, Replacements> replacements_; ///< by UID
 
-    // Of the event that is being worked on:
+    // These members belong to the current event.
     const Calendar_Event *event_ = nullptr;
     const Replacements *own_replacements_ = nullptr;
     std::uint32_t index_ = 0;
     Moment start_;
-    std::int64_t length_ = 0; ///< seconds
+    std::int64_t length_ = 0; ///< in seconds
     Moments removed_;
-    std::vector<std::int64_t> repetitions_; ///< seconds by the clock of the start
+    std::vector<std::int64_t> repetitions_; ///< in seconds, by the clock of the start
     bool yearly_ = false;
-    std::size_t day_count_ = 0; ///< days
-    std::int32_t last_day_ = 0; ///< the last of them
+    std::size_t day_count_ = 0; ///< number of days added
+    std::int32_t last_day_ = 0; ///< the last day added
 };
 
 bool Repeats(const Calendar_Event &event) {
@@ -101,8 +101,8 @@ Day_Finder::Day_Finder(const Calendar_File &file, const Date &today) : file_(fil
             found->second.of_repeated = found->second.of_repeated || (!event.replaces && Repeats(event));
 }
 
-/// Seconds that the clock of the start is ahead of Coordinated Universal Time. A zone of which the file does
-/// not tell is taken for the user's.
+/// Returns the seconds by which the clock of the start is ahead of UTC. A zone that the file does not define
+/// counts as the user's.
 std::int64_t Day_Finder::Ahead(std::int64_t utc) const {
     const auto zone = file_.zones.find(event_->zone);
     return zone != file_.zones.end() ? zone->second : Local_Seconds(utc) - utc;
@@ -120,15 +120,17 @@ std::int64_t Day_Finder::Length() const {
     return std::clamp(length, start_.timed ? 0 : seconds_a_day, most_days * seconds_a_day);
 }
 
-/// The seconds of another moment of the event. A date is meant at the time of the start.
+/// Returns another moment of the event in seconds by the clock of the start. A date gets the start's time of
+/// day. A local time stays as it is, also if the start is in UTC.
 std::int64_t Day_Finder::In_Clock_Of_Start(const Moment &moment) const {
     if (!moment.timed || !start_.timed)
         return Day_Of(moment.seconds) * seconds_a_day + Second_Of_Day(start_.seconds);
     return moment.utc && !start_.utc ? moment.seconds + Ahead(moment.seconds) : moment.seconds;
 }
 
-/// Whether a repetition is one of the moments. A date means all of its day. Of another clock than the start's
-/// the nearest one is meant: when their zones change the clock is not known here.
+/// Returns whether a repetition is one of the moments. A date stands for its whole day. A moment by another
+/// clock than the start's matches the nearest repetition, because the clock changes of its zone are unknown
+/// here.
 bool Day_Finder::Is_In(const Moments &moments, std::int64_t moment) const {
     if (moments.empty())
         return false;
@@ -147,7 +149,7 @@ bool Day_Finder::Is_Removed(std::int64_t moment) const {
            (own_replacements_ != nullptr && Is_In(own_replacements_->moments, moment));
 }
 
-/// False: there is a rule that is not understood.
+/// Collects the repetitions of the event. Returns false if one of its rules is not supported.
 bool Day_Finder::Find_Repetitions() {
     repetitions_.clear();
     if (event_->unsupported)
@@ -175,8 +177,8 @@ bool Day_Finder::Find_Repetitions() {
     return true;
 }
 
-/// Adds the days from `first` to `last` that a repetition touches. An end at midnight does not touch the day
-/// that begins then.
+/// Adds the days from `first` to `last` on which a repetition falls. A repetition that ends at midnight does
+/// not include the day that begins then.
 void Day_Finder::Add_Days(std::int64_t begin, std::int32_t first, std::int32_t last, bool every_year_again,
                           Event_Days &result) {
     const std::int64_t local_begin = start_.utc ? Local_Seconds(begin) : begin;
@@ -219,7 +221,7 @@ void Day_Finder::Find(std::uint32_t index, Event_Days &result) {
     const bool understood = repeats && Find_Repetitions();
     if (repeats && !understood)
         ++result.unsupported;
-    if (yearly_) // also one that has begun before all years, as one for whom no year is known
+    if (yearly_) // may begin before the calendar's first year, such as a birthday without a known year
         Add_Days(start_.seconds, -all, all, true, result);
     else if (replaces)
         Add_Days(start_.seconds, window_begin_, window_end_, false, result);

@@ -1,4 +1,4 @@
-// On which days of the program's calendar the events of a calendar file fall, and at which times.
+// The days and times of the program's calendar on which the events of a calendar file fall.
 #pragma once
 
 #include "transfer/icalendar.h"
@@ -7,25 +7,25 @@
 #include <string>
 #include <vector>
 
-/// An event on one of its days. Of an event of several days each has the time at which it begins, so that all
-/// of its days read the same.
+/// An event on one of its days. All days of one event carry the time at which it begins, so that they read
+/// the same.
 struct Event_Day {
-    std::uint32_t event = 0;  ///< its index in the file
-    std::int16_t minute = -1; ///< of the day; -1: it is one of whole days
-    Date date;                ///< of an event of every year with `every_year`
+    std::uint32_t event = 0;  ///< index in the file
+    std::int16_t minute = -1; ///< of the day; -1: an all-day event
+    Date date;                ///< a yearly event has the year `every_year`
 };
 
-/// The days of a file's events, those of an event together.
+/// The days of a file's events. The days of each event are adjacent.
 struct Event_Days {
     std::vector<Event_Day> days;
-    std::size_t unsupported = 0; ///< events that are on their first day only, because of their rule
+    std::size_t unsupported = 0; ///< events on their first day only, because their rule is not supported
 };
 
-/// Finds the days of all events. An event that is not repeated has its own days, one of every year all years,
-/// and any other repetition its days from the first of the month before `today` to the end of the year after,
-/// at most 1,000. An event is on at most 366 days. One without a start or a text, a cancelled one, and one
-/// beyond the years of the calendar, is on none.
+/// Finds the days of all events. A single event has its own days, and a plain yearly event recurs in every
+/// year. Any other repetition counts from the first of the month before `today` to the end of the next year,
+/// for at most 1,000 days. A single occurrence lasts at most 366 days. An event has no days if it is
+/// cancelled, has no start or no text, or lies outside the calendar's years.
 Event_Days Find_Event_Days(const Calendar_File &file, const Date &today, Progress &progress);
 
-/// The text of an event on a day: the time before its own.
+/// Returns the text of an event on a day, preceded by its time if it has one.
 std::string Text_On(const Event_Day &day, const Calendar_Event &event);

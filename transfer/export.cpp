@@ -1,4 +1,3 @@
-// Exporting to a file that the user names.
 #include "transfer/export.h"
 
 #include "base/joined.h"
@@ -18,7 +17,7 @@ struct Kind_Row {
     const char *title;
     const char *filter;
     const char *extension;
-    const char *to; ///< the target in the closing message; of events behind their number
+    const char *to; ///< ends the closing message; for events, their number precedes it
 };
 
 constexpr std::array<Kind_Row, 5> kinds{
@@ -31,7 +30,8 @@ constexpr std::array<Kind_Row, 5> kinds{
      {"Export Events as iCalendar File", "iCalendar File (*.ics)|*.ics", ".ics",
       " events to the iCalendar file..."}}};
 
-/// Asks for the file's name, until it is one that the user wants. Empty: cancelled.
+/// Asks for the file's name until it is valid and the user agrees to overwrite an existing file. Returns an
+/// empty name if the user cancels.
 std::string Ask_Name(const Kind_Row &kind, OpenSaveDialog &dialog) {
     for (;;) {
         dialog.FileName.clear();
@@ -43,7 +43,7 @@ std::string Ask_Name(const Kind_Row &kind, OpenSaveDialog &dialog) {
             return name;
         if (!To_Upper(name).ends_with(To_Upper(kind.extension)))
             name += kind.extension;
-        // The copy would do no harm, but it would be none either.
+        // Copying the file onto itself would be harmless, but it would not be an export.
         if (To_Upper(name) == To_Upper(Event_Store::Data_File())) {
             platform::Message_Box("You can't export to the data file you're currently using!",
                                   platform::Box_Icon::Exclamation);
@@ -56,8 +56,8 @@ std::string Ask_Name(const Kind_Row &kind, OpenSaveDialog &dialog) {
     }
 }
 
-/// A field in quotes. Quotes in it, which only a hand-written record has, are doubled, as other programs
-/// read them; the import drops them.
+/// Appends a field in quotes. Doubles quotes inside it, as other programs expect; only a hand-written record
+/// contains any, and the import drops them.
 void Append_Field(std::string &bytes, std::string_view text, const char *after) {
     bytes += '"';
     for (const char character : text)
@@ -79,8 +79,8 @@ std::string Text_Bytes(const std::vector<Event> &entries, Progress &progress) {
     return bytes;
 }
 
-/// The bytes of a file that is not a copy, and the closing message without the file's name. False when there
-/// is nothing to export, which the user has been told.
+/// Sets `bytes` to the content of the file, except for a copy of the data file, and `message` to the closing
+/// message without the file's name. If there is nothing to export, shows a message and returns false.
 bool Make_Content(Export_Kind kind, Callback_Ref<Settings()> shown, Progress &progress, std::string &bytes,
                   std::string &message) {
     const std::string to = kinds[static_cast<std::size_t>(kind)].to;
@@ -99,7 +99,7 @@ bool Make_Content(Export_Kind kind, Callback_Ref<Settings()> shown, Progress &pr
         return true;
     }
     std::vector<Event> entries;
-    // Half of the events must not look like all of them.
+    // An incomplete list of events must not pass for a complete one.
     if (Load_Entries(entries, Sort_Order::Ascending_Date, Today()) == Read_Result::Incomplete) {
         platform::Message_Box("Error loading in data file.", platform::Box_Icon::Stop);
         return false;

@@ -1,5 +1,5 @@
-// Exporting: the events, the configuration and the data file into files that the user names. The formats are
-// made here (that of the configuration in configuration.h) and read in csv.h.
+// Exporting the events, the configuration and the data file to files that the user names. configuration.h and
+// icalendar.h define two of the formats.
 #pragma once
 
 #include "base/callback.h"
@@ -13,11 +13,11 @@
 
 enum class Export_Kind { Data_File, Configuration, Text, CSV, ICalendar };
 
-/// The bytes of a file with these events, in their order.
+/// Returns the bytes of a CSV file with these events, in their order.
 std::string CSV_Bytes(const std::vector<Event> &entries, Progress &progress);
 
-/// Asks for a name and writes the file, with all messages to the user. The target is replaced by a whole new
-/// file only. Throws platform::File_Error when that fails, and Sequential_Error for a configuration that no
-/// file can hold; the target is as it was then. `shown` gives the configuration that the dialog shows.
+/// Asks for a name and writes the file, with all messages to the user. `shown` returns the configuration that
+/// the dialog shows. The target is either replaced completely or left unchanged. Throws platform::File_Error,
+/// and Sequential_Error for a configuration that a file cannot hold.
 void Export_File(Export_Kind kind, OpenSaveDialog &dialog, Callback_Ref<Settings()> shown,
                  Progress &progress);

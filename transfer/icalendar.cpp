@@ -1,5 +1,3 @@
-// The reader goes through the lines once, with the names of the components that are open. Each part of an
-// event has its rule here once.
 #include "transfer/icalendar.h"
 
 #include "base/cut_text.h"
@@ -18,7 +16,7 @@ bool Same_Word(std::string_view text, std::string_view capitals) {
                       [](char letter, char capital) { return To_Upper(letter) == capital; });
 }
 
-/// Where the first of the characters stands outside of quotes; at the end: nowhere.
+/// Returns the index of the first of `characters` outside quotes, or the text's length.
 std::size_t Find_Unquoted(std::string_view text, std::string_view characters) {
     bool quoted = false;
     for (std::size_t i = 0; i < text.size(); ++i) {
@@ -30,7 +28,8 @@ std::size_t Find_Unquoted(std::string_view text, std::string_view characters) {
     return text.size();
 }
 
-/// As the data file can hold it and a day show it: in one line, and with apostrophes for double quotes.
+/// Returns the text in the form that the data file can hold: in one line, and with double quotes and control
+/// characters replaced by apostrophes and blanks.
 std::string In_One_Line(std::string_view text) {
     std::string line = Without_Line_Breaks(std::string(text));
     for (char &c : line)
@@ -38,15 +37,15 @@ std::string In_One_Line(std::string_view text) {
     return line;
 }
 
-/// The properties of an event of which its text is made, as they are written.
+/// The properties that make up the text of an event, as written in the file.
 struct Text_Parts {
     std::string summary;
     std::string description;
     std::string location;
 };
 
-/// Its summary, else the first line of its description, and its location. Empty: it has neither of the first
-/// two, so there is nothing that says what it is.
+/// Returns the event's summary, or else the first line of its description, followed by its location. Returns
+/// an empty text if the event has neither summary nor description: a location alone does not name it.
 std::string Event_Text(const Text_Parts &parts) {
     const std::string summary = Unescape(parts.summary);
     std::string_view name = Trim(summary);
@@ -62,7 +61,7 @@ std::string Event_Text(const Text_Parts &parts) {
     return In_One_Line(Joined({name, place.empty() ? "" : ", ", place}));
 }
 
-/// Adds the moments of a list. Of a period, which is written with a slash, the begin counts.
+/// Adds the moments of a list. A period, which contains a slash, counts with its beginning.
 void Read_Moments(std::string_view list, std::vector<Moment> &moments) {
     while (!list.empty()) {
         const std::size_t end = std::min(list.find(','), list.size());
@@ -73,7 +72,7 @@ void Read_Moments(std::string_view list, std::vector<Moment> &moments) {
     }
 }
 
-/// Keeps the first of several properties that are to be there once.
+/// Sets `text` to `value` if it is still empty, so that the first of several equal properties counts.
 void Set_If_Empty(std::string &text, std::string_view value) {
     if (text.empty())
         text = value;
@@ -111,7 +110,7 @@ void Read_Property(const Content_Line &line, Calendar_Event &event, Text_Parts &
     }
 }
 
-/// Reads an offset such as +0100 or -123045 in seconds.
+/// Returns an offset such as +0100 or -123045 in seconds.
 std::int64_t Offset(std::string_view text) {
     std::int64_t digits = 0;
     for (const char c : text.substr(0, 7))
@@ -123,7 +122,7 @@ std::int64_t Offset(std::string_view text) {
     return text.starts_with('-') ? -seconds : seconds;
 }
 
-/// The components that are open, and what has been read of the innermost.
+/// Collects the events and zones of a file from its lines, and checks that each component is closed.
 class Calendar_Reader {
 public:
     void Read_Line(const Content_Line &line) {
@@ -138,9 +137,9 @@ public:
     }
     Calendar_File Finish() {
         if (!any_calendar_)
-            throw ICalendar_Error("The file is no iCalendar file.");
+            throw ICalendar_Error("The file is not an iCalendar file.");
         if (!open_.empty())
-            throw ICalendar_Error("The file is cut short: the end of " + open_.back() + " is missing.");
+            throw ICalendar_Error("The file is incomplete: the end of " + open_.back() + " is missing.");
         return std::move(file_);
     }
 
@@ -160,7 +159,7 @@ private:
     }
     void End(const std::string &name) {
         if (open_.empty() || open_.back() != name)
-            throw ICalendar_Error("The file is damaged: " + name + " ends where it has not begun.");
+            throw ICalendar_Error("The file is damaged: " + name + " ends without a beginning.");
         if (Is_Inside("VEVENT") && open_.size() == 2) {
             event_.text = Event_Text(parts_);
             file_.events.push_back(std::move(event_));
@@ -189,9 +188,9 @@ private:
     bool any_calendar_ = false;
 };
 
-// What follows writes.
+// The functions from here on write files.
 
-/// Appends a line in pieces of at most 75 octets, between characters.
+/// Appends a line, folded between characters into pieces of at most 75 bytes.
 void Append_Line(std::string &bytes, std::string_view line) {
     constexpr std::size_t longest = 75;
     std::size_t room = longest;
@@ -223,8 +222,8 @@ std::string Date_Digits(const Date &date) {
     return Joined({Digits(date.year, 4), Digits(date.month, 2), Digits(date.day, 2)});
 }
 
-/// A number that is the same each time for the same record, and another one for another. It is that of
-/// Fowler, Noll and Vo.
+/// Returns the 64-bit FNV-1a hash of a record in hexadecimal digits. Each export gives the same record the
+/// same number.
 std::string Record_Id(std::string_view record) {
     std::uint64_t hash = 0xCBF29CE484222325;
     for (const char c : record)
@@ -235,8 +234,8 @@ std::string Record_Id(std::string_view record) {
     return digits;
 }
 
-/// The day on which an event begins. A yearly one of 29 February begins in the last year that had one: others
-/// show it in those years then, as the month does here.
+/// Returns the day on which an event begins. A yearly event on 29 February begins in the latest leap year, so
+/// that other calendars show it in leap years only, as the month view here does.
 Date First_Day(const Event &entry) {
     if (!entry.yearly || !entry.key.starts_with("29/2/"))
         return entry.date;
@@ -267,7 +266,7 @@ void Append_Event(std::string &bytes, const Event &entry, std::string_view stamp
 
 } // namespace
 
-/// The next line of the file, with what follows it.
+/// Returns the next line without its line ending, and skips empty lines after it.
 std::string_view Content_Lines::Next_Physical() {
     if (line_feed_ < at_)
         line_feed_ = std::min(bytes_.find('\n', at_), bytes_.size());
@@ -298,7 +297,7 @@ bool Content_Lines::Next(Content_Line &line) {
         const std::string_view text = Next_Unfolded();
         const std::size_t name_end = std::min(text.find_first_of(";:"), text.size());
         std::size_t colon = name_end + Find_Unquoted(text.substr(name_end), ":");
-        if (colon == text.size()) // a quote is not closed
+        if (colon == text.size()) // an unclosed quote
             colon = text.find(':', name_end);
         if (colon == std::string_view::npos)
             continue;

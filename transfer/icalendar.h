@@ -1,6 +1,5 @@
-// Files of calendar events as most calendars exchange them (RFC 5545): their lines, properties and components
-// are read and written here. On which days an event falls is in event_days.h, what a rule means in
-// recurrence.h. Nothing is stored here.
+// Reading and writing the calendar file format of RFC 5545: its lines, properties and components.
+// event_days.h finds the days of an event, and recurrence.h expands its rules. Nothing is stored here.
 #pragma once
 
 #include "base/error.h"
@@ -16,28 +15,30 @@
 #include <unordered_map>
 #include <vector>
 
-/// The bytes are no calendar, or one that is cut short. what() says which, in words for the user.
+/// Thrown if the bytes are not a calendar, or if the calendar is incomplete or damaged. what() is a text for
+/// the user.
 class ICalendar_Error : public Error {
 public:
     using Error::Error;
 };
 
-/// One property: NAME;PARAMETER=value:VALUE. The views last until the next line is read.
+/// One property, NAME;PARAMETER=value:VALUE. The views are valid until the next line is read.
 struct Content_Line {
     std::string_view name;
-    std::string_view parameters; ///< as they are written, without the semicolon before the first
-    std::string_view value;      ///< as it is written, with its escapes
+    std::string_view parameters; ///< as written, without the semicolon before the first
+    std::string_view value;      ///< as written, with its escapes
 };
 
-/// Walks over the lines of a file once, each ended by CR LF, CR or LF. A line that begins with a blank or a
-/// tab goes on with the one before it, in the middle of a character if need be. Byte-order marks of UTF-8 at
-/// the beginnings of lines and lines that are no properties are passed over. The bytes must outlive it.
+/// Reads the property lines of a file in one pass. CR LF, CR or LF ends a line. A line that begins with a
+/// blank or a tab continues the line before it, possibly in the middle of a character. Lines that are not
+/// properties are skipped, and so is a UTF-8 byte order mark at the start of any line. The bytes must outlive
+/// the object.
 class Content_Lines {
 public:
     explicit Content_Lines(std::string_view bytes)
         : bytes_(bytes), line_feed_(std::min(bytes.find('\n'), bytes.size())) {}
 
-    /// False at the end.
+    /// Reads the next property. Returns false at the end.
     bool Next(Content_Line &line);
     std::size_t Position() const { return at_; }
 
@@ -47,44 +48,43 @@ private:
 
     std::string_view bytes_;
     std::size_t at_ = 0;
-    std::size_t line_feed_; ///< the first one that is not before at_
+    std::size_t line_feed_; ///< the first line feed at or after at_
     std::string joined_;
 };
 
-/// The value of a parameter, without the quotes around it; empty: it is not there.
+/// Returns the value of a parameter without its quotes, or an empty view if it is missing.
 std::string_view Parameter(const Content_Line &line, std::string_view name);
 
-/// A text without its escapes: \n is a line end, and \, \; \\ are the characters themselves. So is \", which
-/// some write although they need not.
+/// Returns a text with its escapes resolved: \n is a line break, and \, \; \\ are the characters themselves.
+/// So is \", which some programs write needlessly.
 std::string Unescape(std::string_view value);
 
 /// One VEVENT.
 struct Calendar_Event {
     std::string uid;
-    std::string text; ///< that the calendar is to show, without a time; empty: it has no name
+    std::string text; ///< to be shown in the calendar, without a time; empty: the event has no name
     std::optional<Moment> start;
     std::optional<Moment> end;
     std::optional<std::int64_t> duration;
-    std::optional<Moment> replaces; ///< the moment at which it takes the place of a repetition
-    std::string zone;               ///< of its start, as the file names it
+    std::optional<Moment> replaces; ///< the repetition that this event replaces
+    std::string zone;               ///< of `start`, as named in the file
     std::vector<std::string> rules;
-    std::vector<Moment> added;   ///< days beside those of the rules
-    std::vector<Moment> removed; ///< days on which it is not repeated
+    std::vector<Moment> added;   ///< in addition to those of the rules
+    std::vector<Moment> removed; ///< excluded from the repetitions
     bool cancelled = false;
-    bool unsupported = false; ///< it repeats in a way that is not known here
+    bool unsupported = false; ///< has a kind of rule that is not supported
 };
 
-/// What counts of a file.
+/// The contents of a calendar file.
 struct Calendar_File {
-    std::vector<Calendar_Event> events; ///< in their order
-    /// Seconds that the clocks of a zone are ahead of Coordinated Universal Time, in summer where that is
-    /// more.
+    std::vector<Calendar_Event> events; ///< in file order
+    /// The offset of each zone from UTC in seconds: its largest, which is that of summer time if it has one.
     std::unordered_map<std::string, std::int64_t> zones;
 };
 
-/// Reads a file of one or more calendars. Throws ICalendar_Error when there is none in it, or when a
-/// component has no end.
+/// Reads a file of one or more calendars. Throws ICalendar_Error if the file contains no calendar, or if the
+/// beginnings and ends of its components do not match.
 Calendar_File Read_ICalendar(std::string_view bytes, Progress &progress);
 
-/// The bytes of a file with these events, in their order, each on whole days.
+/// Returns the bytes of a calendar file with these events as all-day events, in their order.
 std::string ICalendar_Bytes(const std::vector<Event> &entries, Progress &progress);

@@ -1,4 +1,5 @@
-// Each day's records and texts are found by their keys, so that the number of events does not matter.
+// Hash maps find each day's records and texts, so that the time grows only linearly with the number of
+// events.
 #include "transfer/icalendar_merging.h"
 
 #include "base/joined.h"
@@ -12,9 +13,9 @@
 
 namespace {
 
-/// The texts that a text was joined from, one after the other, each with single blanks between its words: any
-/// "+" between blanks may have joined two. So a text is the same wherever it stands in a record, and however
-/// another program has stored its blanks, line ends and quotes.
+/// Splits a text into the texts it was joined from, at each "+" between blanks. Each piece has single blanks
+/// between its words and apostrophes for double quotes, so that a text compares equal wherever it is in a
+/// record, and however another program has stored its blanks, line breaks and quotes.
 class Pieces {
 public:
     explicit Pieces(std::string_view text) : rest_(text) {}
@@ -54,17 +55,17 @@ bool Is_Yearly(std::string_view key) {
     return key.ends_with("/9999");
 }
 
-/// Day and month of a key, with the separators behind them.
+/// Returns the day and month of a key, including the slash after each.
 std::string Day_And_Month(std::string_view key) {
     return std::string(key.substr(0, key.rfind('/') + 1));
 }
 
-/// The texts that stand on days. A text that was joined from others stands there when all of them do.
+/// The texts known for each day. A joined text counts as known if all its pieces are.
 class Day_Texts {
 public:
-    /// False: it stands on the day already.
+    /// Adds a text. Returns false if the day has it already.
     bool Add(std::string_view key, std::string_view text) { return Add(key, {}, text); }
-    /// What stands on the day of every year stands on that of each.
+    /// Adds a text to a date. A text of the same day in every year counts as known.
     bool Add(const Date &date, std::string_view text) { return Add(Date_Key(date), Yearly_Key(date), text); }
     void Reserve(std::size_t texts) { known_texts_.reserve(texts); }
 
@@ -79,16 +80,16 @@ private:
         return any_new;
     }
 
-    std::unordered_set<std::string> known_texts_; ///< as records of one piece
+    std::unordered_set<std::string> known_texts_; ///< one record "key=piece" for each piece
     bool any_yearly_ = false;
 };
 
-/// What the records of every year took, by day and month.
+/// The texts that were merged into yearly records, by day and month.
 using Taken_Texts = std::unordered_map<std::string, std::vector<std::pair<Date, std::string>>>;
 
-/// Of a day's records the last one is shown. So a record of one day gets what the record of every year took
-/// for it, and a new one of every year, from `first_new` on, goes before all where it would hide such a
-/// record.
+/// A day shows only its last record. So each record of a single date also gets the texts that were merged
+/// into a yearly record for that date, and new yearly records, those from `first_new` on, move to the front
+/// if they would hide such a record.
 void Uncover_Days(std::vector<std::string> &records, std::size_t first_new, const Taken_Texts &taken) {
     std::unordered_set<std::string> of_both_kinds;
     Event_Record parts;

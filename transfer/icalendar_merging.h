@@ -1,5 +1,5 @@
-// The events of a calendar file folded into the records of the data file, in memory. How a single event joins
-// a record is in merging.h.
+// Merging the events of a calendar file into the records of the data file, in memory. merging.h merges a
+// single event.
 #pragma once
 
 #include "transfer/event_days.h"
@@ -8,14 +8,13 @@
 #include <string>
 #include <vector>
 
-/// What has become of the events of a calendar file.
+/// The events of a calendar file, counted by their outcome.
 struct Join_Counts {
     std::size_t imported = 0;
     std::size_t already_there = 0; ///< on all of their days
-    std::size_t skipped = 0;       ///< they have no days
-    std::size_t unsupported = 0;   ///< of the first two, those whose repetition is not known here
+    std::size_t skipped = 0;       ///< without any days
+    std::size_t unsupported = 0;   ///< on their first day only, because their repetition is not supported
 };
 
-/// Folds the events of a calendar file into the records, on each of their days on which their texts do not
-/// stand yet.
+/// Merges each event of a calendar file into the records of those of its days that do not have its text yet.
 Join_Counts Join_Events(const Calendar_File &file, const Event_Days &days, std::vector<std::string> &records);

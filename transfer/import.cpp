@@ -1,4 +1,3 @@
-// The imports and their messages.
 #include "transfer/import.h"
 
 #include "base/joined.h"
@@ -19,7 +18,7 @@
 
 namespace {
 
-/// Copies the data file to data.bak. Returns whether there is one.
+/// Copies the data file to data.bak. Returns whether there is a data file.
 bool Backup_Data() {
     if (!platform::File_Exists(Event_Store::Data_File()))
         return false;
@@ -27,14 +26,14 @@ bool Backup_Data() {
     return true;
 }
 
-/// Keeps the data file for the length of an import, and longer when that went well.
+/// Backs up the data file and the records for an import. After a successful import data.bak remains.
 class Backup {
 public:
     explicit Backup(std::vector<std::string> &records)
         : records_(records), before_(records), file_was_there_(Backup_Data()) {}
-    /// Makes the records what they were, and the data file, if the import `may_have_written` it; the copy
-    /// goes. Where there was no file, there is none again; a copy that an earlier import has left does not
-    /// come back then, but stays: it may be all that the user has.
+    /// Restores the records, and also the data file if the import `may_have_written` it, and deletes the
+    /// copy. If there was no data file, there is none again; a copy from an earlier import is neither
+    /// restored nor deleted then, because it may be all that the user has.
     void Restore(bool may_have_written) const {
         records_ = before_;
         if (!file_was_there_) {
@@ -53,8 +52,8 @@ private:
     bool file_was_there_;
 };
 
-/// The key of the first record that cannot be written: a hand-written one that holds a quote, and that was
-/// joined by a text with a comma in it.
+/// Returns the key of the first record that cannot be written: a hand-written record with a quote that a text
+/// with a comma has joined. Returns an empty key if there is none.
 std::string First_Unwritable(const std::vector<std::string> &records) {
     Event_Record parts;
     std::string bytes;
@@ -78,7 +77,7 @@ std::string Importer::Backup_File() {
     return platform::Program_Folder() + "\\data.bak";
 }
 
-/// Asks for a file that is there, and into dialog_.FileName. False when the user cancels.
+/// Asks for an existing file and sets dialog_.FileName. Returns false if the user cancels.
 bool Importer::Ask_File(const char *title, const char *filter, bool not_own_file) {
     for (;;) {
         dialog_.FileName.clear();
@@ -99,7 +98,7 @@ bool Importer::Ask_File(const char *title, const char *filter, bool not_own_file
 
 void Importer::Import_CSV() {
     std::optional<Backup> backup;
-    std::optional<Undo_Log::Change> change; // to its end or to the restored file
+    std::optional<Undo_Log::Change> change; // lasts until the import ends or the file is restored
     std::vector<Event> staged;
     enum { Asking, Reading, Merging, Listed } stage = Asking;
     try {
@@ -110,7 +109,7 @@ void Importer::Import_CSV() {
         stage = Reading;
         change.emplace(calendar_.Events.Changes, "Import");
         Read_Events(platform::Read_File(dialog_.FileName), staged);
-        // Anew: a session that was about to end may have had a text stored since.
+        // Back up again: a session that was about to end may have stored unsaved text since.
         backup.emplace(calendar_.Events.Temp_Lst);
         stage = Merging;
         Merge_Imported(staged);
@@ -125,16 +124,16 @@ void Importer::Import_CSV() {
                               platform::Box_Icon::Information);
     } catch (const std::exception &) {
         try {
-            // A copy that could not be made may be an older one, which is not to come back.
+            // If the copy failed, data.bak may be from an earlier import and must not be restored.
             if (backup)
                 backup->Restore(stage >= Merging);
-        } catch (const std::exception &) { // the copy stays, for whoever looks
+        } catch (const std::exception &) { // data.bak stays for the user
         }
         change.reset();
         if (stage == Reading || stage == Merging) {
-            // The events before the error, beside the counts of the restored file.
+            // List the events before the error, although the counts are those of the restored file.
             for (Event &event : staged)
-                event.key.clear(); // none is in the file
+                event.key.clear(); // marks the event as not in the file
             Show_Staged_Events(std::move(staged));
         }
         Import_Progress.End();
@@ -142,9 +141,9 @@ void Importer::Import_CSV() {
     }
 }
 
-/// Stages the events of a file, nine tenths of the work. The date is kept beside the text and not read back
-/// out of the line that the list shows: a short form with two digits of the year, or one that the system does
-/// not read, would change the day. Where the form can be read back the result is the same.
+/// Stages the events of a file; this is nine tenths of the work. Keeps each date beside its text instead of
+/// reading it back from the list's line: a short date format with a two-digit year, or one that the system
+/// cannot read, would change the day. For other formats the result is the same.
 void Importer::Read_Events(const std::string &bytes, std::vector<Event> &staged) {
     CSV_Lines lines(bytes);
     if (!Check_CSV_Headings(lines.Next_Line(), columns_))
@@ -157,11 +156,10 @@ void Importer::Read_Events(const std::string &bytes, std::vector<Event> &staged)
     }
 }
 
-/// Merges in memory. The data file is to hold each event as soon as it is merged; it is written only where
-/// somebody else could look: at the end, and before the windows are painted meanwhile. At each moment it is
-/// what it is after some number of events, so that nobody can tell the difference, also when the program is
-/// killed. While windows are painted a session that ends may have unsaved text stored; so the file is read
-/// again afterwards.
+/// Merges in memory. Each event should be in the data file as soon as it is merged, but the file is written
+/// only when someone could notice: at the end, and before windows are painted. It always holds the result of
+/// some number of events, even if the program is killed. While windows are painted, a session that ends may
+/// store unsaved text, so the file is loaded again afterwards.
 void Importer::Merge_Imported(std::vector<Event> &staged) {
     std::size_t i = 0;
     do {
@@ -181,7 +179,8 @@ void Importer::Merge_Imported(std::vector<Event> &staged) {
     } while (i < staged.size());
 }
 
-/// Throws as Write_Data_File does, and tells which day's record cannot be written.
+/// Writes the merged records. Throws as Write_Data_File does, and first tells the user which day's record
+/// cannot be written.
 void Importer::Write_Merged(const std::vector<Event> &staged) const {
     try {
         calendar_.Events.Write_Data_File();
@@ -217,8 +216,8 @@ void Importer::Import_Config() {
                               platform::Box_Icon::Exclamation);
         if (Cur_Settings == before)
             return;
-        // What came before the error stays. The calendar and the dialog follow it; else the next OK would put
-        // the old settings back.
+        // The settings before the error stay. The calendar and the dialog must follow them, or the next OK
+        // would restore the old settings.
         if (!imported)
             Run_Guarded([this] { calendar_.Get_Wallpaper_Stuff(Cur_Settings.Pack_Name); });
         Run_Guarded([&] { calendar_.Follow(before); });
@@ -230,7 +229,7 @@ void Importer::Import_Config() {
     On_Configuration_Changed();
 }
 
-/// Whether the user agrees to lose the data file that is there.
+/// Returns whether the user agrees to lose the existing data file.
 bool Importer::Confirm_Replace() const {
     if (!platform::File_Exists(Event_Store::Data_File()))
         return true;
@@ -260,7 +259,7 @@ void Importer::Import_Data_File() {
             On_Data_File_Replaced();
         }
         calendar_.Redraw();
-        // After No and Cancel, too.
+        // The message also follows No and Cancel.
         platform::Message_Box("Successfully imported data file from...\r\n\r\n" + dialog_.FileName,
                               platform::Box_Icon::Information);
     } catch (const std::exception &) {
@@ -292,17 +291,16 @@ void Importer::Import_ICalendar() {
     std::string message = Joined(
         {"Successfully imported ", number(counts.imported), " events from the iCalendar file...\r\n\r\n",
          dialog_.FileName, "\r\n\r\nImported: ", number(counts.imported),
-         ", already there: ", number(counts.already_there), ", passed over: ", number(counts.skipped)});
+         ", already there: ", number(counts.already_there), ", skipped: ", number(counts.skipped)});
     if (counts.unsupported > 0)
-        message += "\r\nOn their first day only, since their repetition is not understood: " +
+        message += "\r\nOnly on their first day, because their repetition is not supported: " +
                    number(counts.unsupported);
     platform::Message_Box(message, platform::Box_Icon::Information);
 }
 
-/// Folds the events of a calendar file in as a whole: the data file is written once, at the end, and neither
-/// it nor the copy where nothing is new. A write that fails leaves the file as it was, so that the copy is
-/// not needed to restore it. No window is painted between reading and writing, so that nothing else can be
-/// stored meanwhile.
+/// Merges the events of a calendar file as a whole. The data file is written once, at the end, and neither it
+/// nor data.bak is written if no event is new. A failed write leaves the file unchanged, so no restore is
+/// needed. No window is painted between loading and writing, so nothing else can be stored in between.
 Join_Counts Importer::Join_Calendar(const std::string &bytes) {
     const Calendar_File file = Read_ICalendar(bytes, Import_Progress);
     const Event_Days days = Find_Event_Days(file, Today(), Import_Progress);
@@ -311,7 +309,7 @@ Join_Counts Importer::Join_Calendar(const std::string &bytes) {
     std::vector<std::string> before = records;
     try {
         if (!platform::File_Exists(Event_Store::Data_File()))
-            records.clear(); // those of a file that somebody has deleted are not there already
+            records.clear(); // the records belong to a file that someone has deleted
         const Join_Counts counts = Join_Events(file, days, records);
         if (counts.imported > 0) {
             Backup_Data();

@@ -1,6 +1,5 @@
-// Importing: events, a configuration and whole data files out of files that the user chooses. How a file of
-// events is read is in csv.h and how its events join the others in merging.h, a configuration in
-// configuration.h.
+// Importing events, a configuration or a whole data file from files that the user chooses. csv.h and
+// icalendar.h read events, merging.h and icalendar_merging.h merge them, and configuration.h reads settings.
 #pragma once
 
 #include "base/callback.h"
@@ -14,10 +13,10 @@
 #include <string>
 #include <vector>
 
-/// The imports, with all messages to the user. None throws for its file.
+/// The imports, with all messages to the user. They report file errors instead of throwing them.
 class Importer {
 public:
-    /// Both must outlive it. The files are asked for in `dialog`.
+    /// Both arguments must outlive the object. `dialog` asks for the files.
     Importer(Main_Frm &calendar, OpenSaveDialog &dialog);
 
     void Import_CSV();
@@ -25,18 +24,18 @@ public:
     void Import_Data_File();
     void Import_ICalendar();
 
-    // All to be filled.
+    // The owner must set all of these.
 
     Progress Import_Progress;
-    /// The list of events is to show these instead of what it shows.
+    /// Shows these events in the list of events in place of its contents.
     Callback<void(std::vector<Event>)> Show_Staged_Events;
-    /// The list of events and their counts are to be those of the data file, which is another one now.
+    /// Reloads the list of events and their counts, because the data file was replaced.
     Callback<void()> On_Data_File_Replaced;
-    /// The pointer over the dialog is to be the hourglass until the work's end.
+    /// Shows the hourglass over the dialog until the work ends.
     Callback<void()> Show_Hourglass;
-    /// The settings are not what the dialog shows any more: it is to be closed.
+    /// Closes the dialog, because it no longer shows the current settings.
     Callback<void()> On_Configuration_Changed;
-    /// The same, but only a part was imported: the dialog is to stay, and to show the settings.
+    /// Shows the current settings in the dialog, which stays open: only a part of them was imported.
     Callback<void()> On_Configuration_Partly_Changed;
 
     static std::string Backup_File();
@@ -51,5 +50,5 @@ private:
 
     Main_Frm &calendar_;
     OpenSaveDialog &dialog_;
-    CSV_Columns columns_; ///< of the last file, too
+    CSV_Columns columns_; ///< keeps its values from the previous file
 };

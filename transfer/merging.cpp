@@ -1,4 +1,3 @@
-// Joining events to records, and parting them.
 #include "transfer/merging.h"
 
 #include "base/joined.h"
@@ -10,7 +9,8 @@
 
 namespace {
 
-/// Takes the event's text out of `record`, with one of the joints beside it. False when it is not there.
+/// Removes the event's text and an adjacent joint from `record`. Returns false if the text is not at its
+/// place.
 bool Part_From(std::string &record, const Event &event) {
     std::size_t begin = event.key.size() + 1 + event.place;
     std::size_t length = event.text.size();
@@ -34,7 +34,7 @@ bool Part_From(std::string &record, const Event &event) {
 } // namespace
 
 Record_Merger::Record_Merger(std::vector<std::string> &records) : records_(records) {
-    // A record without "=", which only another hand can have written, is one of no day.
+    // A record without "=", which only a hand-edited file has, belongs to no day.
     for (std::size_t i = 0; i < records.size(); ++i)
         if (Event_Record parts; Parse_Record(records[i], parts))
             first_.emplace(parts.key, i);
@@ -69,7 +69,7 @@ bool Unmerge(std::vector<std::string> &records, std::vector<Event> &staged, std:
     });
     if (event.key.empty() || record == records.end() || !Part_From(*record, event))
         return false;
-    // The texts behind it move up.
+    // The texts after it move forward.
     for (Event &other : staged)
         if (other.key == event.key && other.place > event.place)
             other.place -= event.text.size() + text_separator.size();

@@ -1,5 +1,4 @@
-// How imported events join those that are stored, and how one of them is taken out again. How they are read
-// is in csv.h.
+// Merging imported events into the stored records, and removing one of them again.
 #pragma once
 
 #include "core/event_entries.h"
@@ -9,23 +8,23 @@
 #include <unordered_map>
 #include <vector>
 
-/// Stands between the texts of a record that several events have joined.
+/// Separates the texts of events that share a record.
 inline constexpr std::string_view text_separator = " + ";
 
-/// Where a text is that was merged.
+/// The position of a merged text.
 struct Merged_Text {
     std::string key;       ///< of its record
-    std::size_t place = 0; ///< in the record's text
+    std::size_t place = 0; ///< offset in the record's text
 };
 
-/// Folds events into the records as they are stored: an event joins the first record of its day, be that one
-/// an exact or an every-year one, and otherwise becomes the last record. Knows each day's first record, so
-/// that no event costs a search.
+/// Merges events into the stored records. An event joins the first record of its day, exact or yearly, or
+/// becomes a new last record. The merger remembers the first record of each day, so that no event needs a
+/// search.
 class Record_Merger {
 public:
-    /// `records` must outlive the merger, and nobody else may change it.
+    /// `records` must outlive the merger, and nothing else may change it meanwhile.
     explicit Record_Merger(std::vector<std::string> &records);
-    /// Stores the text on the day, and returns where it is now.
+    /// Stores the text on the day. Returns its position.
     Merged_Text Merge(const Date &date, std::string_view text);
 
 private:
@@ -33,7 +32,7 @@ private:
     std::unordered_map<std::string, std::size_t> first_; ///< key to index
 };
 
-/// Takes the event of a line of `staged`, which were merged in this order, out of both lists: out of its
-/// record the text that joined it, and the whole record when it holds nothing else. False when the records do
-/// not hold it any more; then only the line goes.
+/// Removes event number `line` of `staged`, which holds merged events in the order of their merging. Also
+/// removes its text from its record, or the whole record if nothing else is in it. Returns false if the text
+/// is no longer in the records; then only the line is removed.
 bool Unmerge(std::vector<std::string> &records, std::vector<Event> &staged, std::size_t line);

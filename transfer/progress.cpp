@@ -1,4 +1,3 @@
-// When a long piece of work tells how far it has come.
 #include "transfer/progress.h"
 
 #include "platform/clock.h"
@@ -7,7 +6,7 @@ namespace {
 
 constexpr unsigned first_wait = 1000;
 constexpr unsigned next_wait = 500;
-constexpr unsigned steps_a_look = 64; ///< the clock is slower than a step
+constexpr unsigned steps_a_look = 64; ///< reading the clock takes longer than a step
 
 } // namespace
 
@@ -26,7 +25,7 @@ void Progress::Show(std::size_t done, std::size_t total) {
         On_Show(total == 0
                     ? 100
                     : static_cast<int>(100.0 * static_cast<double>(done) / static_cast<double>(total)));
-    // Counted from now: what was done to show it takes time, too.
+    // Count from now, because showing the progress takes time, too.
     wait_ = platform::Milliseconds() - start_time_ + next_wait;
 }
 

@@ -1,32 +1,31 @@
-// When a long piece of work tells how far it has come. What it looks like is the business of who fills the
-// slots.
+// The timing of progress reports for a long piece of work. The callbacks display them.
 #pragma once
 
 #include "base/callback.h"
 
 #include <cstddef>
 
-/// Nothing is told in the first second, afterwards something twice a second.
+/// Reports progress first after one second, then twice a second.
 class Progress {
 public:
-    Callback<void(int percent)> On_Show; ///< may let windows be painted, but nothing else happen
-    Callback<void()> On_End;             ///< after On_Show: nothing more is to be told
+    Callback<void(int percent)> On_Show; ///< may paint windows, but must not handle other events
+    Callback<void()> On_End;             ///< called when the work ends
 
     void Begin();
-    /// Whether it is time to tell. To be asked after every small step.
+    /// Returns whether a report is due. Call it after every small step.
     bool Due();
-    /// Tells that `done` of `total` steps are done.
+    /// Reports that `done` of `total` steps are complete.
     void Show(std::size_t done, std::size_t total);
-    /// The same after a small step, when it is time to tell.
+    /// Reports as Show does, but only if a report is due. Call it after every small step.
     void Step(std::size_t done, std::size_t total) {
         if (Due())
             Show(done, total);
     }
-    /// The work is done, or given up; may be called without any.
+    /// Reports the end of the work, after success or failure. Previous reports are not required.
     void End();
 
 private:
     unsigned start_time_ = 0;
-    unsigned wait_ = 0; ///< milliseconds after start_time_ until the next telling
+    unsigned wait_ = 0; ///< milliseconds from start_time_ to the next report
     unsigned steps_ = 0;
 };

@@ -1,5 +1,5 @@
-// A rule is a test of single days: each of its periods, a day, a week, a month or a year, is walked through,
-// and the days that pass the test are its set.
+// A rule is a test of single days. Each of its periods (day, week, month or year) is searched for the days
+// that pass.
 #include "transfer/recurrence.h"
 
 #include "base/letters.h"
@@ -10,10 +10,12 @@
 
 namespace {
 
-constexpr std::int64_t longest_count = 36'600; ///< days for which a count is followed: a hundred years
-constexpr std::size_t longest_list = 1000;     ///< of numbers; there are no more that differ
+constexpr std::int64_t longest_count = 36'600; ///< the most days over which a count is followed: a hundred
+                                               ///< years
+constexpr std::size_t longest_list = 1000;     ///< no list has more distinct numbers
 
-/// Reads the whole text as a number from `least` to `most`. A plus sign may stand before it.
+/// Reads the whole text as a number from `least` to `most`, with an optional plus sign. Returns false for any
+/// other text.
 template <typename Integer>
 bool Read_Number(std::string_view text, Integer least, Integer most, Integer &number) {
     if (text.starts_with('+'))
@@ -23,7 +25,8 @@ bool Read_Number(std::string_view text, Integer least, Integer most, Integer &nu
            number <= most && !text.empty();
 }
 
-/// Takes what stands before the next `separator` from the beginning of `text`.
+/// Removes the text up to and including the next `separator` from the beginning of `text`. Returns that text
+/// without the separator.
 std::string_view Next_Field(std::string_view &text, char separator) {
     const std::size_t end = std::min(text.find(separator), text.size());
     const std::string_view part = text.substr(0, end);
@@ -36,19 +39,19 @@ int Read_Weekday(std::string_view name) {
     return static_cast<int>(std::find(std::begin(names), std::end(names), name) - names);
 }
 
-/// Two digits of a text that may be too short for them; -1: they are none.
+/// Returns the number of the two digits at index `at`, or -1 if the text has none there.
 int Two_Digits(std::string_view text, std::size_t at) {
     int number = -1;
     return at + 2 <= text.size() && text[at] != '+' && Read_Number(text.substr(at, 2), 0, 99, number) ? number
                                                                                                       : -1;
 }
 
-/// The numbers that a list of a rule may hold.
+/// The range of numbers in one list of a rule.
 struct List_Row {
     std::string_view name;
     int least;
     int most;
-    bool from_end; ///< the negative ones, too
+    bool from_end; ///< also allows the negative numbers
 };
 
 constexpr List_Row list_rows[Recurrence::List_Count] = {
@@ -109,7 +112,7 @@ bool Read_Part(std::string_view name, std::string_view value, Recurrence &rule) 
     return name == "RSCALE" && value == "GREGORIAN";
 }
 
-/// Gives the rule the limits that it takes from its start, where it has none of its own.
+/// Adds the limits that a rule takes from its start if it has none of its own.
 void Add_Implied_Limits(Recurrence &rule, const Moment &start) {
     const Date date = Date_Of(Day_Of(start.seconds));
     std::vector<int> &months = rule.numbers[Recurrence::Months];
@@ -125,7 +128,7 @@ void Add_Implied_Limits(Recurrence &rule, const Moment &start) {
         months.push_back(date.month);
 }
 
-/// Whether the lists of hours and the like only say again when it starts.
+/// Returns whether the lists of hours, minutes and seconds hold nothing but the time of the start.
 bool At_Time_Of_Start(const Recurrence &rule, const Moment &start) {
     const auto second = static_cast<int>(Second_Of_Day(start.seconds));
     const int own[] = {second / 3600, second / 60 % 60, second % 60};
@@ -137,15 +140,15 @@ bool At_Time_Of_Start(const Recurrence &rule, const Moment &start) {
     return true;
 }
 
-/// Whether a list is empty or has the number that counts from 1, or the one that counts from the end of
-/// `all`.
+/// Returns whether a list is empty or contains `number`, counted from 1, or its negative form, counted from
+/// the end of `all`.
 bool Allows(const std::vector<int> &numbers, int number, int all) {
     return numbers.empty() || std::any_of(numbers.begin(), numbers.end(), [=](int each) {
                return each == number || each == number - all - 1;
            });
 }
 
-/// The day on which week 1 of a year begins: the first week with four days of the year.
+/// Returns the first day of week 1 of a year: the first week with at least four days in the year.
 std::int32_t First_Week(std::int16_t year, int week_start) {
     const Date fourth{year, 1, 4};
     return Day_Number(fourth) - (Weekday(fourth) - week_start + 7) % 7;
@@ -168,8 +171,8 @@ bool Allows_Week(const Recurrence &rule, std::int32_t day, std::int16_t year) {
     return Allows(numbers, (day - begin) / 7 + 1, (end - begin) / 7);
 }
 
-/// Whether a day is one of the weekdays. Their ordinals count in the month or, of a yearly rule without
-/// months, in the year; elsewhere they mean nothing.
+/// Returns whether a date is one of the rule's weekdays. Their ordinals count within the month, or within the
+/// year for a yearly rule without months. They have no effect in weekly and daily rules.
 bool Allows_Weekday(const Recurrence &rule, const Date &date, int year_day, int year_length) {
     if (rule.weekdays.empty())
         return true;
@@ -197,7 +200,7 @@ bool Allows_Day(const Recurrence &rule, std::int32_t day) {
            Allows_Weekday(rule, date, day - new_year + 1, length) && Allows_Week(rule, day, date.year);
 }
 
-/// The periods of a rule, counted from the one in which it starts.
+/// The periods of a rule, numbered from that of its start.
 class Periods {
 public:
     Periods(const Recurrence &rule, std::int32_t start)
@@ -205,8 +208,8 @@ public:
           first_(rule.frequency == Recurrence::Weekly ? start - (Weekday(start_) - rule.week_start + 7) % 7
                                                       : start) {}
 
-    /// The number of the last period of the rule that begins on the day, which is not before the start, or
-    /// before it.
+    /// Returns the number of the last period of the rule that begins on or before `day`, which must not be
+    /// before the start.
     std::int64_t At(std::int32_t day) const {
         const Date date = Date_Of(day);
         if (frequency_ == Recurrence::Yearly)
@@ -215,7 +218,8 @@ public:
             return ((date.year - start_.year) * 12 + date.month - start_.month) / interval_;
         return (day - first_) / (interval_ * (frequency_ == Recurrence::Weekly ? 7 : 1));
     }
-    /// The first day of a period, and the day behind its last. False: it is behind all dates.
+    /// Sets `begin` to the first day of a period and `end` to the day after its last. Returns false if the
+    /// period is after the last possible date.
     bool Find(std::int64_t number, std::int32_t &begin, std::int32_t &end) const {
         if (frequency_ <= Recurrence::Weekly) {
             const std::int64_t length = frequency_ == Recurrence::Weekly ? 7 : 1;
@@ -244,7 +248,7 @@ private:
     std::int32_t first_;
 };
 
-/// The days of a period that the rule allows, at their positions only.
+/// Sets `set` to the days of a period that the rule allows, limited to its set positions.
 void Find_Set(const Recurrence &rule, std::int32_t begin, std::int32_t end, std::vector<std::int32_t> &set) {
     set.clear();
     for (std::int32_t day = begin; day < end; ++day)
@@ -286,7 +290,7 @@ std::optional<Moment> Read_Moment(std::string_view text) {
     const int hour = Two_Digits(time, 0), minute = Two_Digits(time, 2);
     const int second = time.size() == 4 ? 0 : Two_Digits(time, 4);
     const bool end_of_day = hour == 24 && minute == 0 && second == 0;
-    // A leap second is taken for the one before it.
+    // A leap second counts as the second before it.
     if (!moment.timed || time.size() > 6 || hour < 0 || (hour > 23 && !end_of_day) || minute < 0 ||
         minute > 59 || second < 0 || second > 60)
         return std::nullopt;
@@ -332,7 +336,7 @@ std::optional<Recurrence> Read_Recurrence(std::string_view text, const Moment &s
     bool has_frequency = false;
     for (std::string_view rest = capitals; !rest.empty();) {
         std::string_view value = Next_Field(rest, ';');
-        if (value.empty()) // a semicolon at the end
+        if (value.empty()) // after a final semicolon
             continue;
         const std::string_view name = Next_Field(value, '=');
         has_frequency = has_frequency || name == "FREQ";
@@ -362,7 +366,7 @@ bool Expand_Recurrence(const Recurrence &rule, const Moment &start, std::int32_t
     if (rule.count && std::int64_t{first} - start_day > longest_count)
         return false;
     std::int64_t end_moment = INT64_MAX;
-    if (rule.until) // a date is meant with its whole day
+    if (rule.until) // a date includes its whole day
         end_moment = rule.until->timed && start.timed ? rule.until->seconds
                                                       : (Day_Of(rule.until->seconds) + 1) * seconds_a_day - 1;
     const Periods periods(rule, start_day);

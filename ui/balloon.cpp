@@ -1,4 +1,3 @@
-// The balloon's contents and painting.
 #include "ui/balloon.h"
 
 #include "platform/screen.h"
@@ -31,14 +30,14 @@ void Prepare(Label &label, const platform::Font &font) {
     label.Set_Access(std::move(access));
 }
 
-/// Breaks the text into no more lines than that. Sets `width`, the balloon's, to what they need, where there
-/// is room for less than all of the text in it.
+/// Breaks the text into at most `most_lines` lines. Widens `width`, the balloon's, up to `widest` if the text
+/// does not fit, and then narrows it to what the lines need, but not below its initial value.
 std::vector<std::string> Lines_Of(std::string_view text, int &width, int widest, std::size_t most_lines) {
     const int narrowest = width;
     const auto wrapped = [&](std::size_t most) {
         return Wrap_Text(text, text_font, width - 2 * margin, most);
     };
-    // One line too many tells that there is more.
+    // One line too many shows that the text does not fit.
     while (width < widest && wrapped(most_lines + 1).size() > most_lines)
         width = std::min(width + width / 2, widest);
     std::vector<std::string> lines = wrapped(most_lines);
@@ -99,13 +98,13 @@ void frmBalloon::SetBalloon(const std::string &title, std::string_view text, std
 }
 
 void frmBalloon::Paint(platform::Canvas &canvas, const Rect &clip) const {
-    // The border's colour lies below all of it: the window's edge goes by whole pixels, and of those on the
-    // outline only a part is inside.
+    // Fill everything with the border's colour first: the window's edge follows whole pixels, and pixels on
+    // the outline are only partly inside it.
     platform::Fill_Rect(canvas, clip, border_colour);
     const std::vector<Point> outline = Balloon_Outline(place_);
     platform::Fill_Polygon(canvas, outline, back_colour);
-    // The border: a strip along each side of the outline, of one thickness also along a slanted tail. It
-    // reaches a pixel to the outside.
+    // The border is a strip along each side of the outline, equally thick along a slanted tail. It extends
+    // one pixel to the outside.
     const int pixel = Pixels_To_Twips(1);
     const double inside = 1.4 * pixel;
     for (std::size_t i = 0; i < outline.size(); ++i) {

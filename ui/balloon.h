@@ -1,5 +1,5 @@
-// The balloon that shows a day's event while the mouse button is held. When it comes and goes is the
-// calendar's affair.
+// The balloon that shows a day's event while the mouse button is held. The calendar decides when it appears
+// and disappears.
 #pragma once
 
 #include "toolkit/form.h"
@@ -12,17 +12,15 @@ class frmBalloon : public Form {
 public:
     frmBalloon();
 
-    /// Prepares the balloon beside the point `at` (twips on the screen); Show shows it, above all windows and
-    /// without the keyboard. `icon` is "i" for information; any other code shows none. `font` asks for a
-    /// face: there is one face in the program, the system's for messages, which is Tahoma where the system's
-    /// own texts are in it and what has taken its place elsewhere; so every request gets that one. `width`
-    /// and `height` are the window's with its tail, in twips; a text that needs more height gets it, up to
-    /// the height of the work area. One that needs still more makes the balloon wider, up to the width of the
-    /// work area, and ends with "..." there.
+    /// Prepares the balloon next to the point `at` (twips on the screen). Show then shows it above all
+    /// windows without taking the focus. Only the icon "i", for information, is shown. `font` has no effect:
+    /// all text uses the system's message font, which is Tahoma on older systems. `width` and `height` are
+    /// those of the window including its tail, in twips. A longer text makes the balloon higher, up to the
+    /// height of the work area, then wider, up to the width of the work area, and finally ends with "...".
     void SetBalloon(const std::string &title, std::string_view text, std::string_view icon,
                     std::string_view font, int width, int height, Point at);
 
-    /// Takes the balloon down. Does nothing when there is none.
+    /// Closes the balloon. Does nothing if it is closed.
     void HideBalloon() { Close(); }
 
     Label Icon_Lbl{*this, "Icon_Lbl"};
@@ -32,5 +30,5 @@ public:
 private:
     void Paint(platform::Canvas &canvas, const Rect &clip) const override;
 
-    Balloon_Place place_; ///< on the form
+    Balloon_Place place_; ///< relative to the form
 };

@@ -1,4 +1,3 @@
-// The balloon's place and outline.
 #include "ui/balloon_shape.h"
 
 #include <algorithm>
@@ -10,7 +9,7 @@ namespace {
 constexpr int radius = 150;
 constexpr int tail_half_width = 120;
 
-// What the arrow of the mouse covers to the right of its point and below.
+// The extent of the mouse arrow to the right of its tip and below it.
 constexpr int arrow_width = 180;
 constexpr int arrow_height = 300;
 
@@ -25,7 +24,7 @@ Point Tip_Of(Balloon_Side side, Point pointer) {
     }
 }
 
-/// The room for a body on a side, between its tail and the work area's edge.
+/// Returns the room for a body on a side, between the tail and the edge of the work area.
 int Room_On_Side(Balloon_Side side, Point pointer, const Rect &work) {
     const Point tip = Tip_Of(side, pointer);
     switch (side) {
@@ -41,7 +40,8 @@ int Room_On_Side(Balloon_Side side, Point pointer, const Rect &work) {
     return tip.x - tail_length - work.left;
 }
 
-/// Moves a length into a range; one that is too long begins where the range begins.
+/// Returns `begin`, moved so that the length lies in the range. A length that is too long begins at the
+/// range's beginning.
 int Shift_Into_Range(int begin, int length, int range_begin, int range_end) {
     return std::max(range_begin, std::min(begin, range_end - length));
 }
@@ -50,7 +50,7 @@ bool Is_Vertical(Balloon_Side side) {
     return side == Balloon_Side::Above || side == Balloon_Side::Below;
 }
 
-/// A quarter of a circle, clockwise; quarter 0 begins on the right.
+/// Adds a quarter of a circle, clockwise. Quarter 0 begins on the right.
 void Add_Arc(std::vector<Point> &outline, Point centre, int quarter) {
     constexpr int steps = 6;
     for (int i = 0; i <= steps; ++i) {
@@ -73,7 +73,7 @@ Balloon_Place Place_Balloon(Point pointer, const Rect &work, Size size) {
             place.side = side;
     }
     place.tip = Tip_Of(place.side, pointer);
-    // The tail comes out of the first quarter of a side, as far as the screen's edges let it.
+    // The tail starts in the first quarter of a side, as far as the edges of the work area allow.
     Point corner{place.tip.x - size.width / 4, place.tip.y - size.height / 4};
     if (place.side == Balloon_Side::Above)
         corner.y = place.tip.y - tail_length - size.height;
@@ -98,7 +98,7 @@ Rect Window_Of(const Balloon_Place &place) {
 std::vector<Point> Balloon_Outline(const Balloon_Place &place) {
     const Rect &body = place.body;
     const Point tip = place.tip;
-    // The tail's foot stays clear of the round corners.
+    // Keep the foot of the tail off the round corners.
     constexpr int clear = radius + tail_half_width;
     const int foot_x =
         std::clamp(tip.x, body.left + clear, std::max(body.Right() - clear, body.left + clear));
@@ -106,7 +106,7 @@ std::vector<Point> Balloon_Outline(const Balloon_Place &place) {
     constexpr int half = tail_half_width;
     std::vector<Point> outline;
     const auto add = [&](Point a, Point b, Point c) {
-        // Inside of the body the tail would cover the text.
+        // A tail inside the body would cover the text.
         if (!body.Contains(tip))
             outline.insert(outline.end(), {a, b, c});
     };

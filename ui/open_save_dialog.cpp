@@ -1,4 +1,3 @@
-// The file dialog control over platform/file_dialog.h.
 #include "ui/open_save_dialog.h"
 
 #include "core/convert.h"

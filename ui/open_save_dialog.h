@@ -1,4 +1,4 @@
-// The file dialog control: the system's dialogs for opening and saving behind a few properties.
+// The file dialog control: the system's open and save dialogs behind a few properties.
 #pragma once
 
 #include "base/error.h"
@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-/// The user cancelled a file dialog whose caller wanted that to be an error.
+/// Thrown if the user cancels a file dialog whose CancelError is set.
 class Dialog_Cancelled : public Error {
 public:
     Dialog_Cancelled();
@@ -19,29 +19,30 @@ public:
 
 class OpenSaveDialog {
 public:
-    /// The form that the dialogs belong to; null: none.
+    /// `owner` is the form that owns the dialogs; null: none.
     explicit OpenSaveDialog(const platform::Form_Model *owner) : owner_(owner) {}
 
     std::string DialogTitle;
     bool CancelError = false;
-    std::string Filter;           ///< description and pattern in turn, parted by "|"
-    std::string InitDir;          ///< folder in which a dialog opens
-    std::int16_t FilterIndex = 0; ///< of the selected pair of Filter, counted from 1
-    std::string DefaultExt;       ///< kept only: no dialog gets it
-    /// The chosen path, or with the bit of several files the raw answer. What it holds before is no
-    /// suggestion: the dialogs open with an empty name.
+    std::string Filter;           ///< pairs of description and pattern, separated by "|"
+    std::string InitDir;          ///< the initial folder
+    std::int16_t FilterIndex = 0; ///< selected pair of Filter, from 1
+    std::string DefaultExt;       ///< stored only; the dialogs do not use it
+    /// The chosen path; with the flag for several files, the system's unparsed answer. The dialogs always
+    /// open with an empty name.
     std::string FileName;
-    std::string FileTitle;          ///< the chosen file's name without its folder
-    std::int16_t MaxFileSize = 260; ///< most characters of FileTitle, with the one that ends it
-    std::int32_t Flags = 0;         ///< the system's option bits, as given and as they come back
+    std::string FileTitle;          ///< name of the chosen file without its folder
+    std::int16_t MaxFileSize = 260; ///< capacity of FileTitle in characters, with its terminator
+    std::int32_t Flags = 0;         ///< the system's option bits, before and after a dialog
 
-    /// Show a dialog and put the choice into FileName, FileTitle, FilterIndex and Flags. When the user
-    /// cancels, these stay, and with CancelError they throw Dialog_Cancelled.
+    /// Show a dialog and store the choice in FileName, FileTitle, FilterIndex and Flags. If the user cancels,
+    /// these stay as they are; throw Dialog_Cancelled then if CancelError is set.
     void ShowOpen();
     void ShowSave();
 
-    /// Parts FileName into its folder and the names in it. Where FileName holds several names a `folder` that
-    /// is not empty already stays as it is; `count` is how many names there are.
+    /// Splits FileName into its folder and file names. If FileName holds several names, appends them to
+    /// `names`, adds their number to `count`, and sets `folder` only if it is empty. Throws Conversion_Error
+    /// if `count` does not fit.
     void ParseMultiFileName(std::string &folder, std::vector<std::string> &names, std::int16_t &count) const;
 
 private:
@@ -50,6 +51,6 @@ private:
     const platform::Form_Model *owner_;
 };
 
-/// A filter as the system wants it: each piece between the "|" ended by a NUL, and one more NUL at the end.
-/// An empty filter stays empty.
+/// Returns a filter in the system's form: each part between "|" ends with a NUL, and one more NUL follows. An
+/// empty filter stays empty.
 std::string System_Filter(std::string_view filter);

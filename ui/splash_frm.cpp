@@ -1,4 +1,3 @@
-// The splash window's look, place and life.
 #include "ui/splash_frm.h"
 
 #include "base/joined.h"
@@ -11,7 +10,7 @@ constexpr Colour deep_blue = Rgb(31, 8, 128);
 constexpr Colour violet = Rgb(192, 192, 255);
 constexpr Colour white = Rgb(255, 255, 255);
 
-// Twips. Multiples of 60, four pixels at 96 dots per inch, are whole pixels at 120, 144 and 192 as well.
+// In twips. Multiples of 60, four pixels at 96 dots per inch, are also whole pixels at 120, 144 and 192.
 constexpr int splash_width = 4800;
 constexpr int splash_height = 1440;
 constexpr Rect ring_place{480, 180, 120, 120};
@@ -20,7 +19,7 @@ constexpr Rect leaf_head{300, 240, 960, 300};
 constexpr Rect leaf_page{300, 540, 960, 660};
 constexpr Rect name_place{1500, 180, 3180, 720};
 constexpr Rect line_place{1500, 900, 3180, 300};
-// With the first steps, which are two lines, both in the middle again.
+// The places of the name and the line when the line holds the two first steps; both are centred again.
 constexpr Rect high_name_place{1500, 60, 3180, 720};
 constexpr Rect lines_place{1500, 750, 3180, 510};
 
@@ -76,7 +75,7 @@ void Splash_Frm::Show_Over(const Rect &calendar, int box_36_top, bool new_here) 
     const Date today = Today();
     Weekday_Lbl.Set_Caption(platform::Short_Weekday_Name(Weekday(today)));
     Day_Lbl.Set_Caption(std::to_string(today.day));
-    // Not its middle: below the middle of the boxes by the splash's own height.
+    // Centre the splash horizontally, one splash height below the middle of the day boxes.
     Move(calendar.left + (calendar.width - Width()) / 2, calendar.top + box_36_top / 2 + Height());
     Start_Timer.Set_Enabled(true);
     Show();

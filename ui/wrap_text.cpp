@@ -1,4 +1,4 @@
-// Breaking a text into lines: each takes the longest beginning of the rest that fits.
+// Line breaking: each line takes as much of the remaining text as fits.
 #include "ui/wrap_text.h"
 
 #include "base/cut_text.h"
@@ -8,10 +8,10 @@
 
 namespace {
 
-/// No screen shows more than this.
+/// No screen shows more bytes than this.
 constexpr std::size_t longest_text = std::size_t{16} * 1024;
 
-/// No line holds more bytes than this, so that a long word is not measured again and again in full.
+/// The maximum bytes in a line, so that a long word is not measured in full again and again.
 constexpr std::size_t longest_line = 512;
 
 class Line_Breaker {
@@ -20,7 +20,7 @@ public:
 
     bool Fits(std::string_view line) const { return platform::Text_Width(line, font_) <= width_; }
 
-    /// Length of the longest beginning that fits, in whole characters.
+    /// Returns the length of the longest prefix that fits, in whole characters.
     std::size_t Fitting_Length(std::string_view word) const {
         std::size_t least = 0;
         for (std::size_t most = std::min(word.size(), longest_line); least < most;) {
@@ -33,7 +33,7 @@ public:
         return Whole_Characters(word, least);
     }
 
-    /// The next place behind `from` where a line may end; behind the longest line, if there is none.
+    /// Returns the next position after `from` where a line may end, or a position past the longest line.
     static std::size_t Next_End(std::string_view text, std::size_t from) {
         std::size_t at = from + 1;
         while (at <= longest_line && (at >= text.size() || !Line_May_End(text, at)))
@@ -41,8 +41,9 @@ public:
         return at;
     }
 
-    /// Where a line of `rest`, which has no line breaks, ends: where a line may, or inside the first word. At
-    /// least one character is in it, be it wider than the line.
+    /// Returns the end of the first line of `rest`, which has no line breaks: a position where a line may
+    /// end, or one inside the first word. A line has at least one character, even if the character is too
+    /// wide.
     std::size_t Line_End(std::string_view rest) const {
         if (rest.size() <= longest_line && Fits(rest))
             return rest.size();
@@ -59,7 +60,7 @@ public:
         return end;
     }
 
-    /// Puts the sign for left-out text behind as much of the line as fits with it.
+    /// Shortens the line until the ellipsis fits, and appends it.
     void Cut(std::string &line) const {
         while (!line.empty() && !Fits(line + std::string(Ellipsis)))
             line.resize(Previous_Character(line, line.size()));
@@ -71,7 +72,8 @@ private:
     int width_;
 };
 
-/// The text with "\n" for its line breaks and blanks for other control characters; none of them at its end.
+/// Returns the text with "\n" for each line break, with blanks for other control characters, and without
+/// blanks and line breaks at its end.
 std::string With_Plain_Breaks(std::string_view text) {
     std::string plain = Without_Line_Breaks(std::string(text), '\n');
     const auto control = [](char c) { return static_cast<unsigned char>(c) < ' ' && c != '\n'; };

@@ -1,4 +1,4 @@
-// Breaking a text into lines of a given width. What a day box shows of a text is not here.
+// Breaking a text into lines of a given width.
 #pragma once
 
 #include "platform/drawing.h"
@@ -7,14 +7,14 @@
 #include <string_view>
 #include <vector>
 
-/// Takes lines off the beginning of `rest`, at most `max_lines` of them, as Wrap_Text breaks them; each ends
-/// at a "\n" or where no more fits into `width` twips.
+/// Removes at most `max_lines` lines from the beginning of `rest` and returns them. A line ends at "\n", or
+/// where no more fits into `width` twips by the rules of Wrap_Text.
 std::vector<std::string> Extract_Lines(std::string_view &rest, const platform::Font &font, int width,
                                        std::size_t max_lines);
 
-/// The lines of `text`, broken at blanks, between characters of texts that have none, and inside a word that
-/// is wider than a line. `width` is in twips. Line breaks of the text stay; other control characters are
-/// blanks. Of more than `max_lines` lines (1 or more) the last one ends with "..."; so does a text beyond 16
-/// KB, which is not laid out any further.
+/// Returns the lines of `text`, broken at blanks, between characters of scripts without blanks, and inside a
+/// word wider than a line. `width` is in twips. Line breaks stay; other control characters become blanks. If
+/// there are more than `max_lines` lines (1 or more), the last one ends with "...". So does a text longer
+/// than 16 KB, of which the rest is not laid out.
 std::vector<std::string> Wrap_Text(std::string_view text, const platform::Font &font, int width,
                                    std::size_t max_lines);

@@ -1,5 +1,5 @@
-// The least that a window program can be: one window with one painted text. The figures of the calendar are
-// held against it; it is not part of the product and measures nothing itself.
+// The smallest window program: one window with one painted text. The calendar's figures are compared with it.
+// It is not part of the product and measures nothing itself.
 
 #include <windows.h>
 
@@ -28,7 +28,7 @@ int main() {
     WNDCLASSW description{};
     description.lpfnWndProc = Handle_Message;
     description.hInstance = GetModuleHandleW(nullptr);
-    description.hCursor = LoadCursorW(nullptr, MAKEINTRESOURCEW(32512)); // the arrow
+    description.hCursor = LoadCursorW(nullptr, MAKEINTRESOURCEW(32512)); // IDC_ARROW
     description.hbrBackground = GetSysColorBrush(COLOR_WINDOW);
     description.lpszClassName = L"Bare_Window";
     RegisterClassW(&description);

@@ -1,6 +1,6 @@
-// How soon the settings dialog is there and painted after it was chosen in the menu, on each of its pages,
-// and how soon another page is after its tab was chosen; beside an empty dialog of the same size, which this
-// program opens itself. It measures and tells; it fails for nothing but a dialog that does not come.
+// Times the settings dialog: from its menu item until each page is painted, and from one tab to another. For
+// comparison it times an empty dialog of the same size, which this program opens itself. Only a dialog that
+// does not appear is a failure.
 #include "tests/desktop/driver.h"
 
 #include <windows.h>
@@ -23,14 +23,14 @@ double Median(std::vector<double> times) {
 
 void Paint(HWND dialog) {
     RedrawWindow(dialog, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
-    SendMessageW(dialog, WM_NULL, 0, 0); // if it has begun to paint by itself, this waits for the end
+    SendMessageW(dialog, WM_NULL, 0, 0); // waits for painting that the dialog has begun by itself
 }
 
 INT_PTR CALLBACK Do_The_Usual(HWND, UINT, WPARAM, LPARAM) {
     return FALSE;
 }
 
-/// Milliseconds until an empty dialog with a client area of that size is painted.
+/// Returns the milliseconds until an empty dialog with the given client area is painted.
 double Open_Empty(const RECT &client) {
     const double begin = Milliseconds_Now();
     struct {
@@ -54,7 +54,8 @@ protected:
         const HWND dialog = FindWindowA("Vellatro_Settings_Frm", nullptr);
         return dialog && IsWindowVisible(dialog) ? dialog : nullptr;
     }
-    /// Milliseconds from the choice in the menu until the dialog is painted; less than 0 when no menu came.
+    /// Returns the milliseconds from the choice in the menu until the dialog is painted, or a negative number
+    /// if no menu appears.
     static double Open(const Program &program) {
         const HWND calendar = program.Calendar();
         if (!program.Open_Menu(Middle(program.Items(ROLE_SYSTEM_CELL).at(0).place)))
@@ -81,7 +82,7 @@ TEST_F(Dialogs, Open_And_Turn) {
     RECT client{};
     for (int round = 0; round < rounds; ++round) {
         for (int page = 0; page < pages; ++page) {
-            const double opened = Open(program); // on the page that was left last
+            const double opened = Open(program); // opens at the last page shown
             ASSERT_TRUE(opened > 0 && Dialog());
             const HWND tabs = FindWindowExA(Dialog(), nullptr, "SysTabControl32", nullptr);
             const auto shown = SendMessageA(tabs, TCM_GETCURSEL, 0, 0);

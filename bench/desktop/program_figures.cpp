@@ -1,10 +1,11 @@
-// Starts programs in turn and measures how soon their first window is painted; or starts one, counts its
-// objects and holds it, so that a script can read its memory and processor time from the host meanwhile.
+// Starts programs in turn and times each start until the first window is painted. Or starts one program,
+// counts its objects and keeps it running while a script reads its memory and processor time from the host.
 //
 //   program_figures starts ROUNDS PROGRAM CLASS [PROGRAM CLASS...]
 //   program_figures hold SECONDS PROGRAM CLASS
 //
-// PROGRAM is a Windows path, CLASS the class of its first window. What is not found in time ends with code 1.
+// PROGRAM is a Windows path, CLASS the class of its first window. The exit code is 1 if a window does not
+// appear in time.
 #include "tests/desktop/driver.h"
 
 #include <windows.h>
@@ -16,7 +17,7 @@
 namespace {
 
 constexpr DWORD patience = 20'000; // milliseconds
-constexpr DWORD settling = 6'000;  // the splash window has gone by then
+constexpr DWORD settling = 6'000;  // milliseconds, until the splash window has closed
 
 struct Subject {
     std::wstring path;
@@ -30,7 +31,8 @@ struct Subject {
     std::wstring Folder() const { return path.substr(0, path.find_last_of(L'\\')); }
 };
 
-/// Looks where a calendar can be, too, with few questions: they keep the Wine server from its work.
+/// Returns the visible window of a class, also from inside the desktop, where the calendar may be. Makes few
+/// calls, because each costs the Wine server time.
 HWND Visible_Window(const std::string &window_class) {
     HWND window = FindWindowA(window_class.c_str(), nullptr);
     if (!window)
@@ -43,7 +45,7 @@ bool Owes_Painting(HWND window) {
     return GetUpdateRect(window, nullptr, FALSE) || (child && GetUpdateRect(child, nullptr, FALSE));
 }
 
-/// Nothing is left to be painted, and the painting has come to its end: the program takes messages again.
+/// Returns whether the window is completely painted and the program handles messages again.
 bool Is_Painted(const std::string &window_class) {
     const HWND window = Visible_Window(window_class);
     DWORD_PTR answer = 0;
@@ -52,7 +54,7 @@ bool Is_Painted(const std::string &window_class) {
            !Owes_Painting(window);
 }
 
-/// False when the window is not painted in time.
+/// Returns false if the window is not painted in time.
 bool Wait_For_Picture(const std::string &window_class) {
     const double begin = Milliseconds_Now();
     while (!Is_Painted(window_class)) {
@@ -66,23 +68,24 @@ bool Wait_For_Picture(const std::string &window_class) {
 bool Measure_Start(Subject &subject) {
     if (!Wait_Until([&] { return !Visible_Window(subject.window_class); }))
         return false;
-    Sleep(500); // what the program before it has left behind is tidied up
+    Sleep(500); // lets the system clean up after the previous program
     const double begin = Milliseconds_Now();
     const Program program(subject.path, subject.Folder());
     if (!Wait_For_Picture(subject.window_class))
         return false;
     subject.times.push_back(Milliseconds_Now() - begin);
-    Sleep(500); // what it does right after its picture belongs to no other
+    Sleep(500); // keeps the work after the first picture out of the next start
     return true;
 }
 
-/// The value below which so many quarters of the values lie.
+/// Returns the given quartile of the values; quarter 0 is the minimum.
 double Quartile(std::vector<double> values, std::size_t quarter) {
     std::sort(values.begin(), values.end());
     return values[(values.size() - 1) * quarter / 4];
 }
 
-/// Each beside the first, which has started under the same load a moment before it.
+/// Prints the times of each program, also relative to the first program, which started just before under the
+/// same load.
 void Tell_Starts(const std::vector<Subject> &subjects) {
     for (const Subject &subject : subjects) {
         std::vector<double> ratios = subject.times;
@@ -98,7 +101,7 @@ void Tell_Starts(const std::vector<Subject> &subjects) {
 }
 
 bool Measure_Starts(int rounds, std::vector<Subject> subjects) {
-    // The first round warms up and does not count.
+    // The first round warms up the caches and does not count.
     for (int round = -1; round < rounds; ++round)
         for (Subject &subject : subjects) {
             if (!Measure_Start(subject)) {

@@ -1,5 +1,5 @@
-// What a step to the next month costs in the running program, with ten thousand events in the file, beside a
-// mere repaint of the window. It measures and tells; it passes or fails for nothing but steps that go wrong.
+// Times a step to the next month in the running program with ten thousand events in the file. For comparison
+// it times a mere repaint of the window. Only steps that go wrong are failures.
 #include "tests/desktop/driver.h"
 
 #include <windows.h>
@@ -14,7 +14,7 @@ constexpr int steps = 100;
 
 class Steps : public Desktop_Test {
 protected:
-    /// The median of what `act` costs, in milliseconds.
+    /// Returns the median time of `act` in milliseconds.
     template <typename Act>
     static double Median(const Act &act) {
         std::vector<double> times;
@@ -46,8 +46,8 @@ TEST_F(Steps, Next_Month) {
     POINT point = Middle(arrow);
     ScreenToClient(calendar, &point);
     const LPARAM place = MAKELPARAM(point.x, point.y);
-    // Sent and not posted, so that each returns when the program has done with it. If it has begun to paint
-    // by itself, RDW_UPDATENOW returns at once, but not the last message.
+    // Send the messages instead of posting them, so that each call returns after the program has handled it.
+    // If the program has begun to paint by itself, RDW_UPDATENOW returns at once, but the last message waits.
     const auto ask = [&] { SendMessageW(calendar, WM_NULL, 0, 0); };
     const auto step = [&] {
         SendMessageW(calendar, WM_LBUTTONDOWN, MK_LBUTTON, place);
@@ -65,7 +65,7 @@ TEST_F(Steps, Next_Month) {
     std::printf(
         "medians of %d, %d events: painted step %.2f ms, repaint alone %.2f ms, a message's way %.2f ms\n",
         steps, events, step_time, repaint_time, ask_time);
-    // 101 months after May 2027.
+    // May 2027 plus 101 months.
     EXPECT_TRUE(Becomes(std::string("October - 2035"), [&] { return program.Title(); }));
 }
 

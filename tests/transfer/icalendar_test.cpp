@@ -31,10 +31,11 @@ protected:
         const std::string number = std::to_string(imported);
         return "Successfully imported " + number +
                " events from the iCalendar file...\r\n\r\nC:\\in.ics\r\n\r\n" + "Imported: " + number +
-               ", already there: " + std::to_string(there) + ", passed over: " + std::to_string(passed) +
-               (unsupported == 0 ? ""
-                                 : "\r\nOn their first day only, since their repetition is not understood: " +
-                                       std::to_string(unsupported));
+               ", already there: " + std::to_string(there) + ", skipped: " + std::to_string(passed) +
+               (unsupported == 0
+                    ? ""
+                    : "\r\nOnly on their first day, because their repetition is not supported: " +
+                          std::to_string(unsupported));
     }
     /// The records without quotes, in file order, with "|" between them.
     static std::string Records() {
@@ -155,12 +156,12 @@ TEST_F(Calendar_Files, change_nothing_when_they_are_none) {
                       failed = "Error when importing from iCalendar file.";
     const std::string before = Lines("\"5/3/2002=Old\"|");
     const std::pair<std::string, std::string> rows[] = {
-        {"", "The file is no iCalendar file."},
-        {"<html>a: b</html>", "The file is no iCalendar file."},
-        {Lines(event), "The file is no iCalendar file."},
+        {"", "The file is not an iCalendar file."},
+        {"<html>a: b</html>", "The file is not an iCalendar file."},
+        {Lines(event), "The file is not an iCalendar file."},
         {Calendar(event) + Lines("BEGIN:VCALENDAR|" + event),
-         "The file is cut short: the end of VCALENDAR is missing."},
-        {Calendar("BEGIN:VEVENT|SUMMARY:x|"), "The file is damaged: VCALENDAR ends where it has not begun."},
+         "The file is incomplete: the end of VCALENDAR is missing."},
+        {Calendar("BEGIN:VEVENT|SUMMARY:x|"), "The file is damaged: VCALENDAR ends without a beginning."},
         {Calendar(event), "C:\\Vellatro\\calendar.dat cannot be written"},
     };
     Data_File() = before;

@@ -88,7 +88,7 @@ TEST_F(Undoing, takes_every_kind_of_change_back) {
     Undo_Key();
     EXPECT_EQ(Data_File(), foreign);
     EXPECT_EQ(Fakes().boxes.back().text,
-              "The data file was changed by something else since. This was not undone:\r\n\r\nEdit 4 March");
+              "The data file has changed since then, so this was not undone:\r\n\r\nEdit 4 March");
     Data_File() = first;
     Undo_Key();
     EXPECT_FALSE(Fakes().files.contains("C:\\Vellatro\\calendar.dat"));

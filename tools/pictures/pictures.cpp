@@ -1,7 +1,6 @@
-// Poses the running program for the pictures of the guide, on a stand-in for the shell that hangs up
-// wallpapers
-// (--adopt). Saves the whole screen each time, and prints "picture NAME WIDTHxHEIGHT+X+Y": the part to show.
-// The pack is copied from the folder VT_PACK of the environment.
+// Poses the running program for the guide's pictures. Needs a shell stand-in that shows wallpapers (--adopt).
+// Each time, saves the whole screen and prints "picture NAME WIDTHxHEIGHT+X+Y" with the part to show. The
+// environment variable VT_PACK names the folder of the theme pack.
 #include "tests/desktop/driver.h"
 
 #include <windows.h>
@@ -58,7 +57,7 @@ protected:
         return place;
     }
     static RECT Screen() { return {0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)}; }
-    /// With that much of what is around it, as far as the screen goes.
+    /// Returns the part, widened by `margin` on each side and limited to the screen.
     static RECT Around(const RECT &part, LONG margin) {
         const RECT wider{part.left - margin, part.top - margin, part.right + margin, part.bottom + margin};
         RECT seen{};
@@ -74,7 +73,7 @@ protected:
             const RECT around = Around(menu, 2);
             return PtInRect(&around, Middle(place)) != FALSE;
         };
-        for (int i = 0; i < 5 && !at_the_mouse(); ++i) { // Wine is late with the mouse, now and then
+        for (int i = 0; i < 5 && !at_the_mouse(); ++i) { // at times Wine moves the mouse late
             if (menu.right > 0)
                 program.Choose({VK_ESCAPE});
             Send_Mouse(Middle(place), 0);
@@ -93,7 +92,7 @@ protected:
         const HWND tabs = FindWindowExA(dialog, nullptr, "SysTabControl32", nullptr);
         for (const auto &[page, name] : pages) {
             SendMessageA(tabs, TCM_SETCURFOCUS, static_cast<WPARAM>(page), 0);
-            Sleep(500); // until a picture begins to load
+            Sleep(500); // until the picture has begun to load
             const HWND loading = FindWindowExA(dialog, nullptr, nullptr, "Loading...");
             ASSERT_TRUE(Wait_Until([&] { return !IsWindowVisible(loading); }, 20000));
             Take("settings-" + name, Place(dialog));
@@ -149,7 +148,7 @@ TEST_F(Pictures, Settings) {
                 {7, "about"}});
 }
 
-// The last one: it leaves the pack's picture on the desktop.
+// This must be the last test: it leaves the pack's picture on the desktop.
 TEST_F(Pictures, Theme) {
     Set_Setting("Settings", "Use Themes", "1");
     {

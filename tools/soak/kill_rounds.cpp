@@ -1,6 +1,6 @@
-// Kills the program at random moments while it imports many events and while it saves one, and looks at what
-// is left of the data file. Each repetition is a round; the first one measures a whole import and kills
-// nothing in it.
+// Kills the program at random moments, once during the import of many events and once during a save, and
+// checks what is left of the data file. Each repetition is a round. The first round times a whole import and
+// kills only the save.
 #include "tests/desktop/transfer.h"
 
 #include <windows.h>
@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr int events = 300'000; // fewer are imported before the file is written a second time
+constexpr int events = 300'000; // fewer would be imported before the file is written a second time
 constexpr const char *import_title = "Import Events from CSV File";
 
 std::mt19937 Dice(GetTickCount());
@@ -21,8 +21,8 @@ DWORD Random(DWORD from, DWORD to) {
 
 class Kill : public Transfer {
 protected:
-    /// A table of events on different days from 1601 on, none on the day of the yearly event or in this year;
-    /// and the records that they become.
+    /// Creates a table of events on different days from 1601 on, and the records that they become. Leaves out
+    /// the day of the yearly event and the current year.
     static void Make_Events(std::string &table, std::string &records) {
         table = "\"Subject\",\"Start Date\",\"Description\"\r\n";
         SYSTEMTIME day{1601, 1, 0, 1, 0, 0, 0, 0};
@@ -42,15 +42,16 @@ protected:
             records.append("\"").append(date).append(month).append(year).append("=" + text);
         }
     }
-    /// Whether there is a new data file that has not taken the old one's place.
-    bool Has_Rest() const {
+    /// Returns whether a new data file exists that has not replaced the old one.
+    bool Has_Unfinished_File() const {
         return GetFileAttributesA((folder_ + "calendar.dat.vellatro-new").c_str()) != INVALID_FILE_ATTRIBUTES;
     }
-    /// Kills the program after so many milliseconds; or, so that writing is met more often, that long after
-    /// it begins, but not later than `longest`. Gives the milliseconds that have passed.
+    /// Kills the program after `moment` milliseconds. If `in_write`, counts them from the beginning of a
+    /// write, so that more kills hit one, but waits for a write at most `longest` milliseconds. Returns the
+    /// milliseconds that have passed.
     DWORD Kill_After(DWORD moment, bool in_write, DWORD longest) {
         const DWORD begin = GetTickCount();
-        while (in_write && !Has_Rest() && GetTickCount() - begin < longest)
+        while (in_write && !Has_Unfinished_File() && GetTickCount() - begin < longest)
             Sleep(1);
         Sleep(moment);
         const DWORD passed = GetTickCount() - begin;
@@ -61,7 +62,7 @@ protected:
         program_ = &Start_Calendar();
         EXPECT_EQ(program_->Named("Wednesday 12th May 2027, today").value, "Before");
     }
-    /// Writes on a day in the editor; the save begins with the return.
+    /// Writes a text on a day in the editor, and posts the click that saves it.
     void Begin_Save() const {
         program_->Double_Click("Saturday 8th May 2027");
         HWND editor = nullptr;
@@ -97,26 +98,26 @@ TEST_F(Kill, Round) {
     }
     const std::string imported = Data();
     const bool whole = imported.size() >= before.size() && imported.ends_with("\r\n");
-    EXPECT_TRUE(whole && all.starts_with(imported)) << "the file is no state of the import";
-    const bool left = Has_Rest();
+    EXPECT_TRUE(whole && all.starts_with(imported)) << "the file is not a state of the import";
+    const bool left = Has_Unfinished_File();
 
     Start_Again();
     Begin_Save();
     const bool in_write = Random(0, 1) != 0;
     const DWORD wait = Kill_After(Random(0, in_write ? 10 : 150), in_write, 2000);
     const std::string after = Data();
-    EXPECT_TRUE(after == imported || after == imported + saved) << "the file is no state of the save";
-    const bool left_by_save = Has_Rest();
+    EXPECT_TRUE(after == imported || after == imported + saved) << "the file is not a state of the save";
+    const bool left_by_save = Has_Unfinished_File();
 
     Start_Again();
     if (after == imported)
         Begin_Save();
     EXPECT_TRUE(Wait_Until([&] { return Data() == imported + saved; }));
-    EXPECT_TRUE(!Has_Rest() || after != imported) << "a save leaves a rest";
+    EXPECT_TRUE(!Has_Unfinished_File() || after != imported) << "a save leaves an unfinished file";
     std::printf("import killed after %lu of %lu ms, %u of %u bytes%s; save killed after %lu ms, %s%s\n",
                 moment, Whole_Import, static_cast<unsigned>(imported.size()),
-                static_cast<unsigned>(all.size()), left ? " and a rest" : "", wait,
-                after == imported ? "not done" : "done", left_by_save ? " and a rest" : "");
+                static_cast<unsigned>(all.size()), left ? " and an unfinished file" : "", wait,
+                after == imported ? "not done" : "done", left_by_save ? " and an unfinished file" : "");
     std::fflush(stdout);
     DeleteFileW(Path_Of(L"calendar.dat.vellatro-new").c_str());
 }

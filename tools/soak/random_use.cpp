@@ -1,7 +1,6 @@
-// Random clicks, keys and picks on the running program for the VT_MINUTES of the environment, by the seed
-// VT_SEED or a new one: the calendar, its menus, editor and settings, files, jumps of the clock and of the
-// screen's size. It neither breaks off nor hangs nor holds ever more objects of the system, and its file
-// stays one that it reads.
+// Uses the running program at random for VT_MINUTES minutes, with the seed VT_SEED or a new one: the
+// calendar, its menus, editor and settings, files, jumps of the clock and changes of the screen size. The
+// program must not crash, hang or leak objects, and must still be able to read its file.
 #include "tests/contract/small_jpeg.h"
 #include "tests/desktop/driver.h"
 
@@ -20,7 +19,7 @@
 
 namespace {
 
-/// In KB; -1: not to be had.
+/// Returns the program's private memory in KB, or -1 if it is unknown.
 long Private_Memory(const Program &program) {
     const std::string rollup = program.Host_File(L"\\smaps_rollup");
     long sum = 0;
@@ -43,22 +42,22 @@ protected:
     HWND Settings() const { return program_->Window("Vellatro_Settings_Frm"); }
     HWND Menu() const { return program_->Window("#32768"); }
 
-    /// Whatever came before has reached the program.
+    /// Waits until the program has handled all earlier messages.
     void Sync() const {
         DWORD_PTR answer = 0;
         const HWND calendar = program_->Calendar();
         EXPECT_TRUE(SendMessageTimeoutW(calendar, WM_NULL, 0, 0, SMTO_NORMAL, 30000, &answer) ||
                     !IsWindow(calendar))
-            << "it hangs";
+            << "the program hangs";
     }
 
-    /// For the keyboard may be anywhere.
+    /// Posts a key to the calendar, wherever the keyboard focus is.
     void Post(WPARAM key) const {
         PostMessageW(program_->Calendar(), WM_KEYDOWN, key, 1);
         PostMessageW(program_->Calendar(), WM_KEYUP, key, static_cast<LPARAM>(0xC0000001));
     }
 
-    /// Not the last items of a menu, for one of them ends the program.
+    /// Chooses one of the first items of a menu. The last ones include the one that ends the program.
     void Use_Menu() {
         if (!Wait_Until([this] { return Menu() != nullptr; }, 2000))
             return;
@@ -66,7 +65,7 @@ protected:
         for (int down = Upto(3); down > 0; --down)
             Send_Key(VK_DOWN);
         Send_Key(VK_RETURN);
-        if (!Wait_Until([this] { return !Menu(); }, 500)) // with no item chosen
+        if (!Wait_Until([this] { return !Menu(); }, 500)) // no item was chosen
             program_->Choose({VK_ESCAPE});
     }
 
@@ -83,10 +82,10 @@ protected:
         }
         ++did_["boxes"];
         WORD button = One_Of({IDYES, IDNO, IDCANCEL});
-        if (!GetDlgItem(box, button)) // of the buttons that there are, the one with the least consequences
+        if (!GetDlgItem(box, button)) // the least consequential of the existing buttons
             button = GetDlgItem(box, IDOK) ? IDOK : IDNO;
-        PostMessageW(box, WM_COMMAND, button, 0); // a key that was pressed before may be quicker
-        // A jump of the clock may bring another one over it, which must go first.
+        PostMessageW(box, WM_COMMAND, button, 0); // posted: an earlier key press may close the box first
+        // A jump of the clock may open another box on top, which must be answered first.
         EXPECT_TRUE(Wait_Until([&] { return !IsWindow(box) || program_->Box_Window() != box; }));
     }
 
@@ -103,7 +102,7 @@ protected:
         if (items.empty())
             return Post(VK_F12);
         RECT place = items[static_cast<std::size_t>(Upto(static_cast<int>(items.size())))].place;
-        (Upto(2) == 0 ? place.left : place.right) = Middle(place).x; // months, or years
+        (Upto(2) == 0 ? place.left : place.right) = Middle(place).x; // the months or the years
         if (!program_->Open_Menu(Middle(place)))
             return;
         if (!settings)
@@ -113,7 +112,8 @@ protected:
         Wait_Until([this] { return !Menu(); }, 500);
     }
 
-    /// Something on the page that is shown. Posted, since a box or a file dialog may come of it.
+    /// Uses a control on the visible settings page. Posts the messages, because a message box or file dialog
+    /// may open.
     void Use_Settings() {
         ++did_["settings"];
         if (Upto(12) == 0)
@@ -121,7 +121,7 @@ protected:
         std::vector<HWND> parts;
         for (HWND part = GetWindow(Settings(), GW_CHILD); part; part = GetWindow(part, GW_HWNDNEXT)) {
             const std::string text = Text_Of(part);
-            // Off the screen the calendar could not be used any more; and there is no web.
+            // A manual position could put the calendar off the screen, and there is no web here.
             if (IsWindowVisible(part) && IsWindowEnabled(part) && text.find("anual") == std::string::npos &&
                 !text.starts_with("https:"))
                 parts.push_back(part);
@@ -153,7 +153,7 @@ protected:
         post(WM_CHAR, One_Of({'d', 'm', 'y', ' ', '7'}), 1);
     }
 
-    /// Jumps of the clock, also to the ends of what the calendar shows, and another size of the screen.
+    /// Sets the clock, also beyond the calendar's years, or changes the screen size.
     void Use_Surroundings() {
         ++did_["jumps"];
         if (Upto(3) > 0)
@@ -180,7 +180,7 @@ protected:
         if (WindowFromPoint(point) != program_->Calendar())
             return;
         const int kind = Upto(8);
-        if (kind == 0) // not by the mouse, whose release over the menu may end the program
+        if (kind == 0) // not with the mouse: releasing it over the menu may end the program
             return Open_Menu(title);
         Send_Mouse(point, MOUSEEVENTF_LEFTDOWN);
         if (kind == 1 && Wait_Until([this] { return program_->Window("Vellatro_Balloon") != nullptr; }, 500))
@@ -188,7 +188,7 @@ protected:
         Send_Mouse(point, MOUSEEVENTF_LEFTUP);
         if (kind < 5)
             return;
-        Send_Mouse(point, MOUSEEVENTF_LEFTDOWN); // the second of a double click
+        Send_Mouse(point, MOUSEEVENTF_LEFTDOWN); // the second click of a double click
         Send_Mouse(point, MOUSEEVENTF_LEFTUP);
     }
 
@@ -199,7 +199,8 @@ protected:
                                  VK_F12,  VK_LEFT,   VK_RIGHT,  VK_UP, VK_DOWN, VK_PRIOR, VK_NEXT,
                                  VK_HOME, VK_RETURN, VK_DELETE, 'M',   'Y',     VK_APPS});
         const bool menu = key == 'M' || key == 'Y' || key == VK_APPS;
-        if (menu) // an item under the mouse would be the first, and the one after it may end the program
+        // Opened under the mouse, the menu would select its first item, and the next one may end the program.
+        if (menu)
             Send_Mouse({GetSystemMetrics(SM_CXSCREEN) - 2, 2}, 0);
         Send_Key(key);
         if (menu)
@@ -245,7 +246,7 @@ protected:
                 return false;
             },
             20000))
-            << "something stays open";
+            << "a window stays open";
     }
 
     std::mt19937 random_;
@@ -273,7 +274,7 @@ TEST_F(Random_Use, Goes_On) {
     int starts = 0, told = 0;
     while (minute() < end) {
         if (starts == 0 || program_->Exit_Code(0)) {
-            ASSERT_TRUE(starts == 0 || program_->Exit_Code(0) == 0U) << "the program has broken off";
+            ASSERT_TRUE(starts == 0 || program_->Exit_Code(0) == 0U) << "the program has crashed";
             std::printf("minute %d: start %d\n", minute(), ++starts);
             program_ = &Start();
             ASSERT_TRUE(Wait_Until([this] { return program_->Calendar() || program_->Box_Window(); }, 30000));
@@ -303,7 +304,7 @@ TEST_F(Random_Use, Goes_On) {
     Set_Setting("Settings", "Show Alerts", "0");
     Set_Screen(1024);
     ASSERT_TRUE(Wait_Until([] { return Picture().pixels == Bare_Screen->pixels; }));
-    Start_Calendar(); // with no box, which would tell of a damaged file
+    Start_Calendar(); // fails if a box reports a damaged file
 }
 
 } // namespace

@@ -3,7 +3,7 @@
 
 namespace {
 
-/// Mist that lies in front of what is drawn so far, thickest along the line `y0`.
+/// Draws mist over the picture so far, thickest along the line `y0`.
 void Mist(Canvas &canvas, float y0, float deep, Colour colour, float strength, std::uint32_t seed) {
     const Coarse<float> wisps(4, [&](float x, float y) {
         return Fractal(x / 520 + 0.3f * Noise(x / 200, y / 80, seed + 3), y / 110, seed, 5, 0.55f);
@@ -16,7 +16,7 @@ void Mist(Canvas &canvas, float y0, float deep, Colour colour, float strength, s
         y0 - 3 * deep, y0 + 3 * deep);
 }
 
-/// A leaf with a stalk, as it falls.
+/// A falling leaf with its stalk.
 void Leaf(Canvas &canvas, Random &random, float x, float y, float size, Colour colour, float soft) {
     const float angle = random.Between(0, 2 * pi);
     for (const float turn : {-1.15f, -0.6f, 0.6f, 1.15f, 0.0f})
@@ -35,7 +35,7 @@ void Bird(Canvas &canvas, float x, float y, float size, float flap, Colour colou
                   0.9f, 0.3f);
 }
 
-/// Leaves and boughs of a bare tree; `length` shrinks from fork to fork.
+/// Draws a bough of a bare tree and its forks; `length` shrinks from fork to fork.
 void Bough(Canvas &canvas, Random &random, float x, float y, float angle, float length, float width,
            Colour colour) {
     const float bend = angle + random.Between(-0.3f, 0.3f);
@@ -146,7 +146,7 @@ void September(Canvas &canvas) {
         Bird(canvas, 1010 + 27 * static_cast<float>(i) + random.Between(-12, 12),
              270 + random.Between(-40, 40), random.Between(7, 12), random.Between(-0.2f, 0.5f),
              Rgb(0x6a5a4c));
-    canvas.Mirror(); // the empty sky comes to the right, where the calendar stands
+    canvas.Mirror(); // moves the empty sky to the right, under the calendar
     canvas.Bloom(0.8f, 50, 0.3f);
     Shade_Icons(canvas, 0.4f);
     Vignette(canvas, 0.2f);

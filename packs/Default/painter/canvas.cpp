@@ -1,10 +1,9 @@
-// The canvas's shapes, bloom and output.
 #include "canvas.h"
 
 namespace {
 
-/// What a screen needs for a linear value, 0 to 255. Up to the knee nothing changes, light above it comes
-/// ever closer to white.
+/// Returns the screen value, 0 to 255, of a linear value. Up to the knee the light is unchanged; above it the
+/// light approaches white.
 float Screen_Value(float linear) {
     constexpr float knee = 0.7f;
     const float over = linear - knee;
@@ -13,8 +12,7 @@ float Screen_Value(float linear) {
     return 255 * (v <= 0.0031308f ? 12.92f * v : 1.055f * std::pow(v, 1 / 2.4f) - 0.055f);
 }
 
-/// One pass of a running mean along one direction: `count` values, `stride` apart, over 2 * reach + 1 of
-/// them.
+/// Replaces `count` values, `stride` apart, by their running mean over 2 * reach + 1 values.
 void Blur_Line(Colour *values, std::size_t stride, int count, int reach, std::vector<Colour> &copy) {
     copy.resize(static_cast<std::size_t>(count));
     for (int i = 0; i < count; ++i)
@@ -160,7 +158,7 @@ bool Canvas::Write(const char *path, float grain) const {
     for (int y = 0; y < height; ++y) {
         line.clear();
         for (int x = 0; x < width; ++x) {
-            // Toned before the mean of the samples, or bright edges would lose their smoothness.
+            // Tone before averaging the samples, or bright edges would lose their smoothness.
             float sum[3] = {0, 0, 0};
             for (int i = 0; i < scale_ * scale_; ++i) {
                 const Colour &c = pixels_[static_cast<std::size_t>(y * scale_ + i / scale_) *

@@ -1,6 +1,6 @@
-// The canvas: a picture of floating-point light with soft-edged shapes, blur and bloom, and its way into a
-// PPM file. What the shapes show is scenery.h's. All lengths and coordinates are units from the top left,
-// 1920 by 1080 to a picture; a unit is larger than a pixel of the finished picture.
+// The canvas: a picture of floating-point light, with soft-edged shapes, blur and bloom, that is written to a
+// PPM file. All lengths and coordinates are units from the top left. A picture is 1920 by 1080 units, so a
+// unit is larger than a pixel of the finished picture.
 #pragma once
 
 #include "light.h"
@@ -12,10 +12,11 @@ constexpr int finished_width = 2560, finished_height = 1440; ///< in pixels
 
 class Canvas {
 public:
-    /// `scale` canvas pixels to a pixel of the finished picture, in both directions; from 1.
+    /// `scale` is the number of canvas pixels for each pixel of the finished picture, in both directions; at
+    /// least 1.
     explicit Canvas(int scale);
 
-    /// Calls paint(x, y, colour) for every pixel between the two lines; the procedure changes the colour.
+    /// Calls paint(x, y, colour) for every pixel between the two lines, which may change the colour.
     template <class Paint>
     void Each(Paint paint, float top = 0, float bottom = picture_height) {
         for (int row = Row(top); row < Row(bottom); ++row)
@@ -23,7 +24,7 @@ public:
                 paint(Middle(column), Middle(row), Pixel(column, row));
     }
 
-    /// Fills what lies below the line y = ridge(x) with shade(x, y, y - ridge(x)).
+    /// Fills the area below the line y = ridge(x) with shade(x, y, y - ridge(x)).
     template <class Ridge, class Shade>
     void Below(Ridge ridge, Shade shade, float bottom = picture_height) {
         std::vector<float> line(static_cast<std::size_t>(columns_));
@@ -41,7 +42,7 @@ public:
             }
     }
 
-    /// Blends colour(x, y) with the weight cover(x, y) into the box.
+    /// Blends colour(x, y) into the box with the weight cover(x, y).
     template <class Cover, class Shade>
     void Shape(float left, float top, float right, float bottom, Cover cover, Shade shade) {
         for (int row = Row(top); row < Row(bottom + 1); ++row)
@@ -54,38 +55,39 @@ public:
             }
     }
 
-    /// The weight of a pixel that lies `inside` units within an edge blurred over `soft` units.
+    /// Returns the weight of a pixel `inside` units within an edge that is blurred over `soft` units.
     float Edge(float inside, float soft = 0) const { return Unit(inside / (1 / fine_ + soft) + 0.5f); }
 
-    /// A round-ended line that changes its width.
+    /// Draws a round-ended line of changing width.
     void Stroke(float x0, float y0, float width0, float x1, float y1, float width1, Colour colour,
                 float strength = 1, float soft = 0);
-    /// A curved line from (x0, y0) to (x2, y2), pulled towards (x1, y1).
+    /// Draws a curve from (x0, y0) to (x2, y2), pulled towards (x1, y1).
     void Curve(float x0, float y0, float x1, float y1, float x2, float y2, float width0, float width2,
                Colour colour, float strength = 1, float soft = 0);
     void Disc(float x, float y, float radius, Colour colour, float strength = 1, float soft = 0);
-    /// A petal or leaf that grows from (x, y) towards `angle`, with the colour going from root to tip.
+    /// Draws a petal or leaf that grows from (x, y) towards `angle`. Its colour changes from `root` to `tip`.
     void Petal(float x, float y, float angle, float length, float width, Colour root, Colour tip,
                float strength = 1, float soft = 0);
-    /// Light added around a point, falling to almost nothing at three radii.
+    /// Adds light around a point. It falls to almost nothing at three radii.
     void Glow(float x, float y, float radius, Colour light);
 
-    /// The colour at a place, between pixels; places outside give the nearest edge.
+    /// Returns the colour at a point, interpolated between pixels. A point outside gets the colour of the
+    /// nearest edge.
     Colour At(float x, float y) const;
 
     /// Swaps left and right.
     void Mirror();
 
-    /// Lets what is brighter than `threshold` shine over its surroundings.
+    /// Makes areas brighter than `threshold` shine over their surroundings.
     void Bloom(float threshold, float radius, float strength);
 
-    /// Tones bright light down, adds grain against banding, and writes the picture; false when the file
+    /// Tones bright light down, adds grain against banding, and writes the picture. Returns false if the file
     /// cannot be written.
     bool Write(const char *path, float grain) const;
 
 private:
     float Middle(int index) const { return (static_cast<float>(index) + 0.5f) / fine_; }
-    // The first row or column whose middle does not lie before the place.
+    // Return the first row or column whose middle is not before the position.
     int Row(float y) const { return std::clamp(static_cast<int>(std::ceil(y * fine_ - 0.5f)), 0, rows_); }
     int Column(float x) const {
         return std::clamp(static_cast<int>(std::ceil(x * fine_ - 0.5f)), 0, columns_);
@@ -96,12 +98,11 @@ private:
     }
 
     int scale_, columns_, rows_;
-    float fine_; ///< canvas pixels to a unit
+    float fine_; ///< canvas pixels per unit
     std::vector<Colour> pixels_;
 };
 
-/// Values of a slow procedure f(x, y) worked out every `step` units; asked between them, it answers
-/// smoothly.
+/// The values of a slow function f(x, y), computed every `step` units and interpolated between them.
 template <class Value>
 class Coarse {
 public:

@@ -1,5 +1,5 @@
-// What every painter needs: colours in linear light, gradients, noise and a random source with fixed results.
-// Nothing here knows of a canvas. Lengths are units of a canvas.
+// The tools of every picture: colours in linear light, gradients, noise, and random numbers with fixed
+// results. Lengths are in units of a canvas.
 #pragma once
 
 #include <algorithm>
@@ -7,8 +7,8 @@
 #include <cstdint>
 #include <vector>
 
-/// Red, green and blue in linear light, 0 to 1 for what a screen can show; light may go above and is toned
-/// down later.
+/// Red, green and blue in linear light. A screen shows 0 to 1; brighter light is toned down when the picture
+/// is written.
 struct Colour {
     float r = 0, g = 0, b = 0;
 };
@@ -34,17 +34,17 @@ constexpr float Mix(float a, float b, float t) {
 constexpr float Unit(float x) {
     return x < 0 ? 0.0f : x > 1 ? 1.0f : x;
 }
-/// 0 below `from`, 1 above `to`, with soft ends between; `from` may be the greater one.
+/// Returns 0 below `from` and 1 above `to`, with a soft transition. `from` may be the greater one.
 constexpr float Ramp(float from, float to, float x) {
     const float t = Unit((x - from) / (to - from));
     return t * t * (3 - 2 * t);
 }
-/// A bell of height 1 around 0.
+/// Returns a bell curve of height 1 around 0.
 inline float Bell(float x) {
     return std::exp(-x * x);
 }
 
-/// The colour that a screen shows for 0xRRGGBB.
+/// Returns the colour that a screen shows for 0xRRGGBB.
 inline Colour Rgb(unsigned hex) {
     const auto linear = [](unsigned byte) {
         const float v = static_cast<float>(byte & 255) / 255;
@@ -53,8 +53,7 @@ inline Colour Rgb(unsigned hex) {
     return {linear(hex >> 16), linear(hex >> 8), linear(hex)};
 }
 
-/// Colours along a line. They are mixed near the way the eye steps through them, which linear light does not
-/// do.
+/// Colours along a line. They are mixed in steps that look even to the eye, unlike in linear light.
 class Gradient {
 public:
     struct Stop {
@@ -90,24 +89,24 @@ constexpr std::uint32_t Scramble(std::uint32_t x) {
     return x ^ (x >> 16);
 }
 
-/// The same numbers on every machine, which the standard distributions do not promise.
+/// A random source with the same numbers on every machine, which the standard distributions do not guarantee.
 class Random {
 public:
     explicit Random(std::uint32_t seed) : state_{Scramble(seed + 0x9e3779b9u)} {}
-    /// From 0 up to 1.
+    /// Returns a number from 0 up to, but not including, 1.
     float Next() {
         state_ += 0x9e3779b9u;
         return static_cast<float>(Scramble(state_) >> 8) / 16777216.0f;
     }
     float Between(float low, float high) { return Mix(low, high, Next()); }
-    /// Around 0, most of them within -1 to 1.
+    /// Returns a number around 0, mostly within -1 to 1.
     float Bell_Shaped() { return (Next() + Next() + Next() + Next() - 2) * 1.2f; }
 
 private:
     std::uint32_t state_;
 };
 
-/// Smooth noise, about -1 to 1, with features about one unit wide.
+/// Returns smooth noise, about -1 to 1, with features about one unit wide.
 inline float Noise(float x, float y, std::uint32_t seed) {
     const float fx = std::floor(x), fy = std::floor(y);
     const auto ix = static_cast<std::int32_t>(fx), iy = static_cast<std::int32_t>(fy);
@@ -123,21 +122,21 @@ inline float Noise(float x, float y, std::uint32_t seed) {
     return 1.5f * Mix(Mix(corner(0, 0), corner(1, 0), u), Mix(corner(0, 1), corner(1, 1), u), v);
 }
 
-/// Noise of many sizes, each half as wide as the one before and `gain` as strong.
+/// Returns noise of several octaves, each half as wide as the one before and `gain` times as strong.
 inline float Fractal(float x, float y, std::uint32_t seed, int octaves, float gain = 0.5f) {
     float sum = 0, strength = 1, total = 0;
     for (int i = 0; i < octaves; ++i) {
         sum += strength * Noise(x, y, seed + static_cast<std::uint32_t>(i) * 101);
         total += strength;
         strength *= gain;
-        const float turned = 1.6f * x - 1.2f * y; // turned, so that the grids of two sizes never line up
+        const float turned = 1.6f * x - 1.2f * y; // rotated, so that the grids of two octaves never line up
         y = 1.2f * x + 1.6f * y;
         x = turned;
     }
     return sum / total;
 }
 
-/// As Fractal, but with sharp crests, 0 to 1.
+/// Returns noise like Fractal's, but from 0 to 1 and with sharp crests.
 inline float Crests(float x, float y, std::uint32_t seed, int octaves, float gain = 0.5f) {
     float sum = 0, strength = 1, total = 0;
     for (int i = 0; i < octaves; ++i) {

@@ -1,5 +1,5 @@
 // Paints one month's picture of the theme pack: paint MONTH SCALE OUT.ppm. SCALE 2 is the finished quality, 1
-// a quick look.
+// a quick preview.
 #include "scenery.h"
 
 #include <cstdlib>

@@ -1,12 +1,12 @@
 #!/usr/bin/env bash
-# Paints the pack's pictures anew: make.sh [FOLDER [MONTH...]]. See README.md in this folder.
+# Repaints the pack's pictures: make.sh [FOLDER [MONTH...]]. See README.md in this folder.
 set -euo pipefail
 folder=$(realpath -m "${1:-$(dirname "$0")/..}")
 cd "$(dirname "$0")"
 shift || true
 [ $# -gt 0 ] || set -- {1..12}
 work=../../../build/packs
-largest=560000 # bytes a picture, so that the program's archive stays under 8 MB
+largest=560000 # bytes per picture, so that the program's archive stays under 8 MB
 
 mkdir -p "$work" "$folder"
 "${CXX:-g++}" -std=c++20 -O2 -ffp-contract=off -Wall -Wextra -Wshadow -Wconversion -Wold-style-cast -Werror \

@@ -1,4 +1,3 @@
-// Ridges, water, trees, snow, clouds and grass.
 #include "scenery.h"
 
 float Ridge::operator()(float x) const {
@@ -31,12 +30,12 @@ void Conifer(Canvas &canvas, Random &random, float x, float foot, float height, 
     const int tiers = std::clamp(static_cast<int>(height / 7), 7, 44), around = height > 90   ? 11
                                                                                 : height > 30 ? 5
                                                                                               : 2;
-    // From below upwards: the tips of upper branches hang before the lower ones.
+    // Upwards from below: the tips of upper branches hang in front of lower branches.
     for (int i = tiers * around - 1; i >= 0; --i) {
         const float t = (static_cast<float>(i) + random.Next()) / static_cast<float>(tiers * around);
         const float y = top + height * (0.015f + 0.86f * t), trunk = Mix(x + lean, x, t);
         const float spread = half * std::pow(t, 0.85f) * Ramp(1.25f, 0.85f, t) * random.Between(0.6f, 1.08f);
-        // Branches point all around the trunk: those towards the eye look short and hang over the others.
+        // Branches point in all directions. Those towards the eye look short and hang over the others.
         const float turn = around == 2 ? (i % 2 ? 0.5f : -0.5f) : random.Between(-0.58f, 0.58f);
         const float out = spread * std::sin(turn * pi), front = std::max(std::cos(turn * pi), 0.0f);
         const float drop = spread * (random.Between(0.28f, 0.5f) + 0.5f * front);
@@ -121,13 +120,12 @@ void Water(Canvas &canvas, const Water_Look &look) {
     canvas.Each(
         [&](float x, float y, Colour &pixel) {
             const float v = y - look.horizon, near = v + 5;
-            // Waves look smaller and flatter the farther away they are; the logarithm keeps their
-            // proportions.
+            // Waves look smaller and flatter with distance; the logarithm keeps their proportions.
             const float u = (x - picture_width / 2) / near, w = std::log(near) * 9;
             const float slope = 0.6f * Fractal(u * 1.6f, w * 1.5f, look.seed, 4, 0.62f) +
                                 0.4f * Fractal(u * 5, w * 4.3f, look.seed + 31, 3, 0.6f);
             const float swing = look.waves * (5 + near * 0.75f);
-            // Facets too small to see smear what they mirror upright.
+            // Facets too small to see smear the reflection vertically.
             constexpr int facets = 5;
             Colour mirrored;
             for (int i = 0; i < facets; ++i) {
@@ -171,7 +169,7 @@ void Blade(Canvas &canvas, Random &random, float x, float foot, float height, Co
 }
 
 void Shade_Icons(Canvas &canvas, float strength) {
-    constexpr Colour taken{1.05f, 0.98f, 0.8f}; // blue stays longest, as in a sky without the sun
+    constexpr Colour taken{1.05f, 0.98f, 0.8f}; // removes the least blue, as in a sky without the sun
     canvas.Each([&](float x, float y, Colour &pixel) {
         pixel = pixel * (Colour{1, 1, 1} + taken * (-strength * Ramp(860, 100, x) * Ramp(1000, 500, y)));
     });

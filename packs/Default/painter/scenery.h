@@ -1,40 +1,41 @@
-// What more than one month shows: ridges, water, trees, stars, snow, clouds and grass. Everything is drawn
-// from back to front, so what is called later stands nearer.
+// The scenery that several months share: ridges, water, trees, stars, snow, clouds and grass. Pictures are
+// painted from back to front, so later calls are nearer.
 #pragma once
 
 #include "canvas.h"
 
 /// The upper edge of a hill or a mountain range.
 struct Ridge {
-    float base;   ///< the line around which it goes up and down
-    float height; ///< how far
+    float base;   ///< the height around which the edge rises and falls
+    float height; ///< how far it rises and falls
     float width;  ///< of its largest forms
     std::uint32_t seed;
     float sharp = 0; ///< 0 rolling hills, 1 rock
     int octaves = 5;
-    float tilt = 0; ///< how far it falls from the left end to the right one
+    float tilt = 0; ///< fall from the left end to the right end
     float operator()(float x) const;
 };
 
-/// Fills the sky, or all, with a gradient from the top to `bottom`.
+/// Fills the canvas from the top to `bottom` with a gradient.
 void Sky(Canvas &canvas, const Gradient &colours, float bottom = picture_height);
 
-/// A ridge in haze: `crest` at its edge, turning into `foot` over `fade` units; `texture` 0 to 1 mottles it.
+/// Draws a ridge in haze: `crest` at its edge, changing to `foot` over `fade` units. `texture`, 0 to 1,
+/// mottles it.
 void Hill(Canvas &canvas, const Ridge &ridge, Colour crest, Colour foot, float fade, float texture = 0.15f);
 
 struct Conifer_Look {
     Colour needles;
-    Colour lit; ///< on the upper side of the branches: snow or light
+    Colour lit; ///< on top of the branches: snow or light
     float lit_strength = 0;
     float soft = 0;
 };
 void Conifer(Canvas &canvas, Random &random, float x, float foot, float height, const Conifer_Look &look);
 
-/// Conifers along a ridge, about `spacing` apart, their feet up to `depth` below it.
+/// Draws conifers along a ridge, about `spacing` apart, with their feet up to `depth` below it.
 void Conifers(Canvas &canvas, Random &random, const Ridge &ridge, float left, float right, float spacing,
               float low, float high, float depth, const Conifer_Look &look);
 
-/// A round tree of dabs of paint, lit from the side of `light_x` (-1 left, 1 right).
+/// Draws a round tree of dabs of paint, lit from the side `light_x` (-1 left, 1 right).
 void Leafy_Tree(Canvas &canvas, Random &random, float x, float foot, float height, Colour shade, Colour lit,
                 float light_x, float soft = 0);
 
@@ -42,14 +43,14 @@ struct Water_Look {
     float horizon;
     float bottom = picture_height;
     float waves = 1;        ///< 0 a mirror, 1 a breeze
-    Colour deep;            ///< looked into from above
-    float clearness = 0.5f; ///< share of `deep` at the lower edge; far away there is none
+    Colour deep;            ///< the colour seen from above
+    float clearness = 0.5f; ///< share of `deep` at the lower edge; it falls to zero with distance
     std::uint32_t seed = 1;
 };
-/// Water that mirrors what is drawn above its horizon.
+/// Draws water that mirrors the picture above its horizon.
 void Water(Canvas &canvas, const Water_Look &look);
 
-/// `weight(x, y)` from 0 to 1 says where stars are and how many.
+/// Draws stars. `weight(x, y)`, 0 to 1, sets where they are and how many.
 template <class Weight>
 void Stars(Canvas &canvas, Random &random, int count, Weight weight, float brightest = 1) {
     for (int i = 0; i < count; ++i) {
@@ -64,7 +65,7 @@ void Stars(Canvas &canvas, Random &random, int count, Weight weight, float brigh
     }
 }
 
-/// Falling snow: flakes from fine to blurred and near.
+/// Draws falling snow, with flakes from fine to near and blurred.
 void Snowfall(Canvas &canvas, Random &random, int count, Colour colour, float largest, float strength);
 
 struct Cloud {
@@ -74,20 +75,20 @@ struct Cloud {
 constexpr Cloud Mix(Cloud a, Cloud b, float t) {
     return {a.cover + (b.cover - a.cover) * t, a.light + (b.light - a.light) * t};
 }
-/// Clouds at a place of a noise plane; `wanted` -1 to 1 opens or closes the cover, the light comes from
-/// (light_x, light_y).
+/// Returns the cloud at a point of a noise plane. `wanted`, -1 to 1, opens or closes the cover; the light
+/// comes from (light_x, light_y).
 Cloud Cloud_At(float x, float y, std::uint32_t seed, float wanted, float light_x, float light_y,
                float thick = 1);
 
-/// A blade of grass.
+/// Draws a blade of grass.
 void Blade(Canvas &canvas, Random &random, float x, float foot, float height, Colour root, Colour tip,
            float soft = 0);
 
 /// Darkens the corners a little.
 void Vignette(Canvas &canvas, float strength);
 
-/// Darkens the upper left, where the names of the desktop's icons must be legible in white: by the share
-/// `strength` at the left edge, by nothing from the middle.
+/// Darkens the upper left, so that the white names of the desktop's icons are legible: by the share
+/// `strength` at the left edge, falling to nothing at the middle.
 void Shade_Icons(Canvas &canvas, float strength);
 
 /// The twelve pictures.

@@ -11,7 +11,7 @@ struct Birch_Look {
     float soft;
 };
 
-/// A twig that forks twice, its ends with red-brown buds.
+/// A twig that forks twice, with red-brown buds at its ends.
 void Twig(Canvas &canvas, Random &random, float x, float y, float angle, float length, float width,
           Colour colour, float soft) {
     const float bend = angle + random.Between(-0.35f, 0.35f);
@@ -108,7 +108,7 @@ void March(Canvas &canvas) {
     const Colour fog = Rgb(0xd5dcd6);
     Sky(canvas, {{0, 0xbccbd2}, {0.35f, 0xd9ddd4}, {0.62f, 0xf0e4c9}, {0.72f, 0xd9d4bd}, {1, 0x8f927c}});
     canvas.Glow(700, 470, 330, Colour{0.52f, 0.42f, 0.22f});
-    // Far trunks, paler the farther.
+    // Trunks in the distance, paler the farther away.
     for (int layer = 0; layer < 4; ++layer) {
         const auto k = static_cast<float>(layer);
         for (int i = 0; i < 46 - 9 * layer; ++i) {
@@ -188,7 +188,7 @@ void March(Canvas &canvas) {
 void April(Canvas &canvas) {
     Random random(404);
     Sky(canvas, {{0, 0x5f86ab}, {0.5f, 0x93b4c8}, {0.85f, 0xd0dcd8}, {1, 0xe9e6d4}}, 690);
-    // A bank of rain clouds has drawn past: white towers at its edge, slate within, veils of rain below.
+    // A passing bank of rain clouds: white towers at its edge, slate within, veils of rain below.
     const auto puffs = [](float x, float y) { return 1 - Crests(x / 430 + 3, y / 300, 413, 7, 0.52f); };
     const Coarse<Cloud> bank(2, [&](float x, float y) {
         const float puff = puffs(x, y), inside = (x - 330 - 0.55f * y) / 620 + 1.25f * (puff - 0.62f) -
@@ -211,7 +211,7 @@ void April(Canvas &canvas) {
     const Ridge far{606, 60, 760, 421, 0, 5, -40}, next{650, 50, 640, 422, 0, 5, 50};
     Hill(canvas, far, Rgb(0x5d7784), Rgb(0x8ba39a), 70, 0.1f);
     Hill(canvas, next, Rgb(0x567650), Rgb(0x86a074), 60, 0.2f);
-    // The bow, brightest before the dark cloud, with the sky inside it a little lighter.
+    // The rainbow, brightest before the dark cloud. The sky inside it is a little lighter.
     const Gradient spectrum{{0, 0x5a2d9c},     {0.2f, 0x3557d8},  {0.4f, 0x2fb56a},
                             {0.58f, 0xd9dc3a}, {0.75f, 0xf09a2c}, {1, 0xd8382c}};
     canvas.Each(
@@ -237,7 +237,7 @@ void April(Canvas &canvas) {
             const float sun = Ramp(
                 -0.2f, 0.2f, Fractal((x - 200) / 800, y / 190, 440, 3) - 0.2f * Ramp(700, 1700, x) + 0.1f);
             const float texture = Fractal(x / (16 + 5 * k), (y * 2) / (9 + 3 * k), 441, 5, 0.65f);
-            // The nearest hill is a meadow; the others are parted into fields by hedges.
+            // The nearest hill is a meadow; hedges divide the others into fields.
             Colour grass = Mix(Rgb(0x94bb50), Rgb(0x4a8038), 1 - std::exp(-depth / 110));
             if (i < 3) {
                 const float u = (x + depth * (1.4f - k)) / (210 + 80 * k) +
@@ -343,7 +343,7 @@ void May(Canvas &canvas) {
         else
             Daisy(canvas, random, x, head, size * 0.6f, 0x2a3fae, 0x6f86ee, 0x3a2a80, soft);
     }
-    // Flowers right before the eye, a little too near to be sharp, and pollen in the light.
+    // Flowers directly before the eye, a little too near to be sharp, and pollen in the light.
     for (const auto &[x, y, size] : std::initializer_list<std::array<float, 3>>{
              {205, 900, 52}, {60, 845, 66}, {1700, 905, 50}, {1850, 820, 70}}) {
         canvas.Curve(x - 14, 1120, x + 22, 1000, x, y, 6, 4, Rgb(0x4b7a2c), 1, 3);
@@ -356,7 +356,7 @@ void May(Canvas &canvas) {
     }
     canvas.Bloom(0.75f, 50, 0.3f);
     canvas.Glow(330, 330, 420, Colour{0.10f, 0.08f, 0.03f});
-    canvas.Mirror(); // the sun comes to the right, away from the desktop's icons
+    canvas.Mirror(); // moves the sun to the right, away from the desktop's icons
     Shade_Icons(canvas, 0.45f);
     Vignette(canvas, 0.15f);
 }

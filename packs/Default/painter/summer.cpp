@@ -3,14 +3,13 @@
 
 namespace {
 
-/// How far a place of June's picture lies out at sea; below 0 is sand.
+/// Returns how far a point of June's picture is out at sea; below 0 is sand.
 float Out_At_Sea(float x, float y) {
     return (1330 - x) * 0.60f + (930 - y) * 0.80f + 70 * Fractal(x / 640, y / 640, 611, 3) +
            16 * Fractal(x / 120, y / 120, 612, 4);
 }
 
-/// The foam of a wave that has come as far as `front`: a sharp edge towards the land and lace towards the
-/// sea.
+/// Returns the foam of a wave that has reached `front`: a sharp edge towards the land, lace towards the sea.
 float Foam(float x, float y, float out, float front, float wide) {
     const float swing = 26 * Fractal(x / 260, y / 260, static_cast<unsigned>(front) + 620, 4);
     const float behind = out - front - swing;
@@ -200,7 +199,7 @@ void July(Canvas &canvas) {
             pixel = pixel + Colour{1.9f, 0.95f, 0.36f} * (spark * 0.8f);
         },
         horizon);
-    canvas.Mirror(); // the calm water comes to the right, where the calendar stands
+    canvas.Mirror(); // moves the calm water to the right, under the calendar
     canvas.Bloom(0.8f, 44, 0.4f);
     Vignette(canvas, 0.25f);
 }
@@ -245,7 +244,7 @@ void August(Canvas &canvas) {
     // A lone oak on the near hill.
     const Ridge near{905, 50, 1100, 829};
     Hill(canvas, near, Rgb(0x0a1424), Rgb(0x1c2430), 90, 0.1f);
-    Random oak(8); // of its own, so that it keeps its shape
+    Random oak(8); // of its own, so that the oak keeps its shape
     Leafy_Tree(canvas, oak, 300, near(300) + 8, 320, Rgb(0x060c18), Rgb(0x1d2c42), 0.8f);
     // Wheat: stalks with ears, touched by the light of the horizon.
     for (int i = 0; i < 4200; ++i) {

@@ -198,7 +198,7 @@ void February(Canvas &canvas) {
         near, [](float, float, float) { return Rgb(0x07131f); }, horizon);
     Conifers(canvas, random, near, -10, 1930, 7, 8, 38, 12, {Rgb(0x07131f), {}, 0});
     Water(canvas, {horizon, picture_height, 0.02f, Rgb(0x123149), 0.45f, 68});
-    // Behind nothing but air, and too faint for the ice to mirror.
+    // Drawn after the reflection, because the ice does not mirror such faint light. They cover only sky.
     Stars(canvas, random, 1900, [](float, float y) { return y < 540 ? Ramp(horizon, 200, y) * 0.9f : 0; });
     // The ice: drifted snow with a dull sheen.
     canvas.Each(
