@@ -1,12 +1,11 @@
-// Replacements of C++ runtime functions. The linker prefers these to the library's, whose terminate handler
-// decodes names for a console and whose logic errors hold their text in an older string class, 120 KB
-// together.
+// Replaces functions of the C++ runtime library; the linker prefers these. The library's terminate handler
+// demangles names for a console, and its logic errors use the older string class: together 120 KB.
 #include "base/error.h"
 
 #include <cstdlib>
 #include <new>
 
-// The library prescribes these names and parameters.
+// The library defines these names and parameters.
 // NOLINTBEGIN(cert-dcl50-cpp,cert-dcl58-cpp,readability-redundant-declaration)
 namespace __gnu_cxx {
 
@@ -17,7 +16,7 @@ void __verbose_terminate_handler() {
 
 } // namespace __gnu_cxx
 
-// Thrown by std::string and std::vector.
+// std::string and std::vector call these to throw.
 namespace std {
 
 void __throw_length_error(const char *what) {
@@ -32,7 +31,7 @@ void __throw_out_of_range(const char *what) {
     throw Error(what);
 }
 
-/// The text stays as it is written, without the numbers.
+/// Throws the format string unformatted.
 void __throw_out_of_range_fmt(const char *what, ...) {
     throw Error(what);
 }

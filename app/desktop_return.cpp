@@ -1,4 +1,3 @@
-// Waits for the next shell's desktop.
 #include "app/desktop_return.h"
 
 #include "platform/message_loop.h"
@@ -8,7 +7,7 @@ using platform::Broadcast;
 
 namespace {
 
-/// Whether there is a desktop with an icon list that answers.
+/// Returns whether there is a desktop whose icon list answers.
 bool Desktop_Is_There() {
     constexpr unsigned patience = 100; // milliseconds
     const platform::Shell_Window desktop = platform::Find_Desktop_Window();
@@ -22,8 +21,8 @@ bool Desktop_Is_There() {
 Desktop_Return::Desktop_Return() {
     timer_.On_Timer = [this] { Poll(); };
     platform::Listen_To_Broadcasts([this](Broadcast broadcast) {
-        // A desktop that has stood for some seconds will do, too: not every shell tells of its start, and one
-        // that takes a single window down does not start at all.
+        // Without this broadcast Look waits for a desktop that has stood for some seconds: not every shell
+        // announces its start, and a shell that only recreates a window does not start at all.
         if (broadcast == Broadcast::Shell_Started)
             hits_needed_ = 1;
         else if (broadcast == Broadcast::Session_Over || broadcast == Broadcast::Close_Request)
@@ -38,7 +37,8 @@ Desktop_Return::~Desktop_Return() {
 
 bool Desktop_Return::Wait() {
     timer_.Set_Enabled(true);
-    // The end of the calendar may have asked the loop to end once more than it ran.
+    // The calendar may have called End_Message_Loop once more than the loop ran, so the first run may return
+    // early.
     while (timer_.Enabled())
         platform::Run_Message_Loop();
     return desktop_found_;

@@ -1,4 +1,4 @@
-// The way back after the shell has taken the calendar's window with it.
+// The wait for a new desktop after the shell has destroyed the calendar's window.
 #pragma once
 
 #include "toolkit/timer.h"
@@ -11,17 +11,17 @@ public:
     Desktop_Return &operator=(const Desktop_Return &) = delete;
     ~Desktop_Return();
 
-    /// Runs the message loop. Returns whether a desktop has come within two minutes; not when the session
-    /// ends or somebody asks the program to close.
+    /// Runs the message loop. Returns whether a desktop has come within two minutes. Returns false early if
+    /// the session ends or the program gets a close request.
     bool Wait();
 
 private:
     void Poll();
     void End();
 
-    Timer timer_{1000}; ///< off: the wait is over
+    Timer timer_{1000}; ///< stopped: the wait is over
     int polls_left_ = 120;
-    int hits_needed_ = 5; ///< that find a desktop, one after another
+    int hits_needed_ = 5; ///< successful looks in a row before the desktop counts as ready
     int hits_ = 0;
     bool desktop_found_ = false;
 };

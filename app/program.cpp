@@ -1,4 +1,4 @@
-// Wires the windows to each other and keeps the program alive.
+// Connects the windows with each other and keeps the program running.
 #include "app/program.h"
 
 #include "app/desktop_return.h"
@@ -16,8 +16,9 @@ namespace {
 
 enum class Calendar_End { Not_Started, Wanted, Lost_With_Shell };
 
-/// Tells a user who has opened the program inside an archive what that means. Once a start by the user: what
-/// was told cannot be kept, since the next folder is another one.
+/// Warns a user who has started the program inside an archive. Repeats the warning at each start by the user:
+/// it cannot be remembered, because the next temporary folder is a different one. A restart by the program
+/// itself does not warn.
 void Warn_Of_Temporary_Folder() {
     if (platform::Restart_Count() == 0 && platform::Started_From_Temporary_Folder())
         platform::Message_Box("Vellatro was started from a temporary folder, as happens inside an archive. "
@@ -40,9 +41,9 @@ Calendar_End Run_Calendar() {
     Warn_Of_Temporary_Folder();
     platform::Run_Message_Loop();
     main_frm->Close_Settings();
-    // When the desktop is lost nobody has been asked yet, or the loop has ended under an open question.
-    // Who answers Cancel, or whose text is refused, gets the editor back; it alone keeps the program
-    // then.
+    // If the desktop was lost, or the loop ended while a question was open, nobody has asked about unsaved
+    // text yet. If the user answers Cancel, or the text is refused, the editor stays open and alone keeps the
+    // program running.
     edit_frm->On_Unload = [] { platform::End_Message_Loop(); };
     while (!edit_frm->Offer_To_Save() && edit_frm->Visible())
         platform::Run_Message_Loop();
@@ -50,8 +51,8 @@ Calendar_End Run_Calendar() {
     return main_frm->Lost_With_Shell() ? Calendar_End::Lost_With_Shell : Calendar_End::Wanted;
 }
 
-/// The place in the row of restarts of the process that follows this one, which ran for `lived` milliseconds;
-/// 0: there is none. A shell that takes every calendar down at once must not be given new ones for ever.
+/// Returns the restart count of the successor of this process, which ran for `lived` milliseconds; 0: there
+/// is no successor. Limits the restarts, because a shell may destroy each new calendar at once.
 int Next_Restart(unsigned lived) {
     constexpr unsigned short_life = 60000;
     constexpr int most_restarts = 3;
@@ -71,7 +72,7 @@ int Run_Program() {
         end = Run_Calendar();
         if (end == Calendar_End::Lost_With_Shell)
             restart = Next_Restart(platform::Milliseconds() - begin);
-        // From now on the user's own start is no second one.
+        // From here on, the user may start the program again without being refused.
         platform::Release_Single_Instance();
         if (restart > 0 && !Desktop_Return().Wait())
             restart = 0;
@@ -94,7 +95,7 @@ void Connect_Settings(Main_Frm &calendar, std::unique_ptr<Settings_Frm> &setting
     calendar.Open_Settings = [&calendar, &settings] {
         if (settings && settings->Visible())
             return settings->Bring_To_Front();
-        // A former dialog whose last event still waits for something must not go from under it.
+        // A former dialog must not be destroyed while one of its events is still running.
         if (settings && settings->Busy())
             return;
         settings = std::make_unique<Settings_Frm>(calendar);

@@ -1,4 +1,3 @@
-// The measures and looks of the two box styles.
 #include "calendar/box_layout.h"
 
 #include "toolkit/units.h"
@@ -7,26 +6,25 @@
 
 namespace {
 
-// Lengths in pixels at 96 dots per inch.
+// In pixels at 96 DPI.
 constexpr int gap_length = 3;
 constexpr int title_height = 26;
 constexpr int header_height = 20;
-constexpr int text_inset = 5;    ///< between a box's sides and its text
-constexpr int number_inset = 2;  ///< less than that: the number's caption begins with a blank
-constexpr int title_padding = 6; ///< above and below the line of title and headers, together
-constexpr int text_below = 2;    ///< between the text's line and the lower edge
+constexpr int text_inset = 5;    ///< from a box's sides to its text
+constexpr int number_inset = 2;  ///< less than text_inset: the number's caption begins with a space
+constexpr int title_padding = 6; ///< above and below the title's line, in total; the headers have half of it
+constexpr int text_below = 2;    ///< from the text's line to the box's lower edge
 
 struct Style_Lengths {
     int box_width;
-    int box_height; ///< more where the fonts need it for the lines
-    int lines;      ///< of text that surely fit below the number
+    int box_height; ///< minimum: larger fonts make the box higher
+    int lines;      ///< lines of text that always fit below the number
 };
 
-// "Thin Box" and "Square Box".
 constexpr Style_Lengths thin_box{96, 34, 1};
 constexpr Style_Lengths square_box{96, 76, 4};
 
-/// Least difference in brightness, of 255, between today's box and its frame.
+/// Minimum difference in brightness between today's box and its frame, of 255.
 constexpr int frame_contrast = 90;
 
 struct Channels {
@@ -41,7 +39,7 @@ struct Channels {
     }
 };
 
-/// Whole pixels, at least one, for a length in pixels at 96 dots per inch.
+/// Returns a length given in pixels at 96 DPI as screen pixels, at least one.
 int Pixels(int at_96) {
     constexpr int twips_at_96 = 15;
     return std::max(Twips_To_Pixels(at_96 * twips_at_96), 1);
@@ -83,7 +81,7 @@ Rect Box_Layout::Text(int index) const {
     const Rect box = Box(index);
     const int inset = Pixels(text_inset);
     const int bottom = box.Bottom() - Pixels(text_below);
-    // One line stands at the lower edge; several begin below the number.
+    // A single line is at the lower edge. Several lines begin below the number.
     const int top = one_line_ ? bottom - Line_Pixels(text_font) : box.top + number_bottom_;
     return {box.left + inset, top, box.width - 2 * inset, bottom - top};
 }
@@ -122,7 +120,7 @@ Colour Strong_Shade(Colour colour) {
     const Channels base{static_cast<int>(value & 0xFFU), static_cast<int>((value >> 8U) & 0xFFU),
                         static_cast<int>((value >> 16U) & 0xFFU)};
     const int brightness = base.Brightness();
-    // The same hue with twice the colour in it, then darker, or lighter on a dark box, until it stands out.
+    // Doubles the saturation of the hue. Then darkens it, or lightens it on a dark box, until it stands out.
     const int top = std::max({base.red, base.green, base.blue});
     Channels shade = base.Each([top](int channel) { return std::max(top - 2 * (top - channel), 0); });
     if (brightness >= frame_contrast + 10) {

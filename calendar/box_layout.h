@@ -1,6 +1,5 @@
-// The measures of the two box styles: where boxes, headers and title are on the calendar, in pixels, and the
-// look that the styles give to labels. Who else shows boxes as the calendar does takes both from here; the
-// fitting of event texts is not here.
+// The measures of the two box styles: the places of boxes, headers and title on the calendar, in pixels, and
+// the look of their labels. All windows that show boxes use both. box_styles.cpp fits the event texts.
 #pragma once
 
 #include "platform/drawing.h"
@@ -8,10 +7,11 @@
 
 #include <cstdint>
 
-/// Background behind the title where the desktop draws its labels without one.
+/// Background behind the title if the desktop draws its labels without one.
 constexpr Colour dark_grey = 4934475;
 
-/// Rectangles are whole pixels on the calendar, so that all columns are equally wide at any dots per inch.
+/// The layout of one box style. Rectangles are whole pixels on the calendar, so all columns are equally wide
+/// at any DPI.
 class Box_Layout {
 public:
     static constexpr int columns = 7;
@@ -21,8 +21,8 @@ public:
     static constexpr platform::Font number_font{90, false};
     static constexpr platform::Font text_font{80, false};
 
-    /// 0 is "Thin Box", every other number "Square Box". Measured with the screen's fonts and dots per inch
-    /// of now.
+    /// 0 is "Thin Box", every other number "Square Box". Measures with the current fonts and DPI of the
+    /// screen.
     explicit Box_Layout(std::int16_t style);
 
     Rect Previous_Arrow() const { return {0, 0, title_, title_}; }
@@ -30,9 +30,9 @@ public:
     Rect Next_Arrow() const { return {Full_Width() - title_, 0, title_, title_}; }
     Rect Header(int column) const;
     Rect Box(int index) const;
-    /// The place of the event text in a box.
+    /// Returns the rectangle of the event text in a box.
     Rect Text(int index) const;
-    /// Of the whole calendar.
+    /// Returns the size of the whole calendar.
     Size Full_Size() const { return {Full_Width(), Box(columns * rows - 1).Bottom()}; }
     int Gap() const { return gap_; }
 
@@ -42,23 +42,23 @@ private:
     bool one_line_;
     int gap_;
     Size box_;
-    int title_;  ///< height of the title, also the width of its arrows
+    int title_;  ///< height of the title; also the width of its arrows
     int header_; ///< height of the weekday headers
     int number_bottom_;
 };
 
-/// Height of a line of text in whole pixels, at least one.
+/// Returns the height of a line of text in whole pixels, at least one.
 int Line_Pixels(const platform::Font &font);
 
-// The looks, without place, colours and caption.
+// Each sets the look of a label, but not its place, colours or caption.
 void Style_Heading(Label &label, const platform::Font &font);
-/// Leaves the caption bold that is so.
+/// A bold caption stays bold.
 void Style_Number(Label &label);
 void Style_Text(Label &label);
-/// Gives a box the look of today's.
+/// Gives a label the look of today's box.
 void Style_Today(Label &label, Colour colour);
-/// Takes it away; the background stays.
+/// Removes the look of today's box, except for the background.
 void Clear_Today_Style(Label &label);
 
-/// A colour that stands out from `colour` and is of its hue.
+/// Returns a colour of the same hue that stands out from `colour`.
 Colour Strong_Shade(Colour colour);

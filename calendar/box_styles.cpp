@@ -1,5 +1,5 @@
-// The two box styles on the calendar, and the fitting of event texts into the boxes. The measures of the
-// styles are in box_layout.h.
+// Applies the two box styles to the calendar and fits event texts into the boxes. box_layout.h has the
+// measures.
 #include "base/cut_text.h"
 #include "calendar/box_layout.h"
 #include "calendar/month_grid.h"
@@ -11,15 +11,15 @@
 
 namespace {
 
-/// No box shows more of a text than this, in bytes, so that a text of any length costs the same.
+/// The most bytes of a text that a box shows. Bounds the work for a text of any length.
 constexpr std::size_t longest_shown = 1024;
 
 void Place(Label &label, const Rect &pixels) {
     label.Move(Pixels_To_Twips(pixels));
 }
 
-/// The beginning of an event text as the boxes show it: runs of blanks, tabs, line breaks and other control
-/// characters are one blank each, and there are none at its ends. `more` is set when text is left over.
+/// Returns the beginning of an event text as the boxes show it. Each run of spaces, tabs, line breaks and
+/// other control characters becomes one space; none remain at the ends. Sets `more` if text is left over.
 std::string Collapse_Blanks(std::string_view text, bool &more) {
     std::string shown;
     bool blank = false;
@@ -49,8 +49,8 @@ bool Fits(const Label &label, std::string_view text) {
     return platform::Text_Width(text, Box_Layout::text_font) < label.Width();
 }
 
-/// A beginning of `text` that is too wide for the label by a few characters at most, or all of it. It only
-/// spares Get_Line steps.
+/// Returns all of `text`, or a beginning that is wider than the label but whose first half fits. Only saves
+/// steps of Get_Line.
 std::string_view Measurable_Prefix(const Label &label, std::string_view text) {
     while (text.size() > 1) {
         const std::size_t half = Whole_Characters(text, text.size() / 2);
@@ -92,7 +92,7 @@ void Month_Grid::DDD_Style(std::int16_t style) {
         Place(Box_Caption_Lbl[i], layout.Text(i));
         Style_Text(Box_Caption_Lbl[i]);
     }
-    // The measuring label is as wide as a line that is followed by "...".
+    // The measuring label is as wide as a line before "...".
     const int room = Box_Caption_Lbl[0].Width() - platform::Text_Width(Ellipsis, Box_Layout::text_font);
     DotDotDot_Lbl.Set_Font(Box_Layout::text_font);
     DotDotDot_Lbl.Move({0, 0, std::max(room, 0), Box_Caption_Lbl[0].Height()});
@@ -107,7 +107,7 @@ void Month_Grid::Get_Line(const Label &label) {
 }
 
 void Month_Grid::DotDotDot(Label &label, std::string_view text) {
-    // Every box of a new month begins so: nothing is to be measured.
+    // A shortcut: every box of a new month begins empty.
     if (text.empty())
         return label.Set_Caption({});
     bool more = false;
@@ -115,8 +115,7 @@ void Month_Grid::DotDotDot(Label &label, std::string_view text) {
     std::string_view rest = all;
     const int lines = std::max(Twips_To_Pixels(label.Bounds()).height / Line_Pixels(label.Font()), 1);
     std::string shown;
-    // All lines but the last one, in which "..." may have to stand. Where not one character fits there are
-    // none.
+    // Takes all lines but the last, which may need "...". Takes none if not even one character fits.
     if (more || !Fits(label, rest)) {
         const std::vector<std::string> taken =
             Extract_Lines(rest, DotDotDot_Lbl.Font(), label.Width() - 1, static_cast<std::size_t>(lines - 1));

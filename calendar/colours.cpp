@@ -1,5 +1,5 @@
-// The colours of boxes, today's box, numbers, texts, title and headers: the user's, or those of Windows where
-// high contrast is on, which leaves the settings alone.
+// The colours of boxes, today's box, numbers, texts, title and headers: those of the user, or those of
+// Windows if high contrast is on. High contrast does not change the settings.
 #include "calendar/box_layout.h"
 #include "calendar/month_grid.h"
 #include "core/settings.h"
@@ -7,7 +7,7 @@
 
 namespace {
 
-// System colours, which high contrast gives values that stand out from each other.
+// System colours. High contrast makes them stand out from each other.
 constexpr Colour window = System_Colour(5);
 constexpr Colour window_text = System_Colour(8);
 constexpr Colour highlight = System_Colour(13);
@@ -28,7 +28,7 @@ void Month_Grid::Colour_Boxes() {
     for (int i = 0; i < box_count; ++i) {
         Box_Lbl[i].Set_Back_Colour(high_contrast_ ? window : Cur_Settings.Col_Normal);
         Clear_Today_Style(Box_Lbl[i]);
-        // The desktop between the boxes may have their colour.
+        // The desktop between the boxes may have the boxes' colour.
         if (high_contrast_)
             Box_Lbl[i].Set_Frame_Colour(shadow);
     }
@@ -49,7 +49,7 @@ void Month_Grid::Colour_Today(int index) {
     Style_Today(box, high_contrast_ ? highlight : Cur_Settings.Col_Today);
     if (!high_contrast_)
         return;
-    // No frame but that of the keyboard's mark, which has the colour of the number.
+    // Hides today's frame. Only the keyboard's mark shows as a frame, in the colour of the number.
     box.Set_Frame_Colour(highlight);
     box.Set_Fore_Colour(highlight_text);
     Box_Caption_Lbl[index].Set_Fore_Colour(highlight_text);
@@ -70,7 +70,7 @@ void Month_Grid::Colour_Menus() {
     } else if (Cur_Settings.Menu_Col_Sorce != 0) {
         Set_Back_Colour(Cur_Settings.Col_Back);
     } else if (Icon_BackColour != -1) {
-        // Assigned twice, here and below; the second time changes nothing.
+        // The second assignment, here and below, changes nothing.
         Set_Back_Colour(Icon_BackColour);
         Set_Back_Colour(Icon_BackColour);
         text = Icon_TextColour;

@@ -1,6 +1,6 @@
-// Compact mode: only the title is left of the calendar. The user goes in and out by double clicks on the
-// title; with the setting "Auto Compact" a minute without activity goes in, and the mouse over the title
-// comes out of that again.
+// Compact mode, which shows only the title. The user enters and leaves it by a double click on the title.
+// With the setting "Auto Compact", a minute without activity enters it, and moving the mouse over the title
+// leaves it again.
 #include "calendar/main_frm.h"
 #include "core/settings.h"
 
@@ -15,7 +15,7 @@ void Main_Frm::Which_Month_Lbl_DblClick() {
 
 void Main_Frm::Compact() {
     Hide_Balloon();
-    // The timer's tick in compact mode would be taken for a double click and expand.
+    // Compact mode needs no countdown.
     Compact_Timer.Set_Enabled(false);
     for (int i = 0; i < box_count; ++i) {
         Box_Lbl[i].Set_Visible(false);
@@ -45,10 +45,10 @@ void Main_Frm::Expand() {
     Set_Colours();
     Mark_Today();
     Compacted = false;
-    // The month, the week or the fonts may have changed under an alert, when no month was to be drawn.
+    // Load_Dates may have shown an alert. A change of month, week or fonts during the alert was not drawn.
     if (layout_outdated_)
         Redraw();
-    // Going in has stopped the countdown, and nobody may move the mouse after a double click.
+    // Compact() stopped the countdown, and after a double click the mouse may not move.
     Restart_Countdown();
 }
 
@@ -56,7 +56,7 @@ void Main_Frm::Compact_Timer_Timer() {
     Compact_Timer.Set_Enabled(false);
     const bool busy =
         (Editor_Visible && Editor_Visible()) || (Settings_Visible && Settings_Visible()) || Balloon_Showing();
-    // The setting may have gone while the minute ran: an import stores what it read before it fails.
+    // An import that fails may have turned Auto_Compact off without stopping the timer.
     if (busy || Compacted || Cur_Settings.Auto_Compact != 1)
         return;
     Timer_Compacted = true;

@@ -1,4 +1,3 @@
-// The mark's way from box to box.
 #include "calendar/day_mark.h"
 
 void Day_Mark::Move_To(Label *box, const Date &date, const Label &title) {
@@ -9,7 +8,7 @@ void Day_Mark::Move_To(Label *box, const Date &date, const Label &title) {
         box->Set_Marked(active_ && has_focus_);
     if (!active_)
         return;
-    // Told to assistive technology only when it is another day.
+    // Announces the day to assistive technology only if it is a different day.
     std::optional<Date> focused;
     if (box != nullptr)
         focused = date;

@@ -1,5 +1,5 @@
-// The keyboard's mark on one day box. It is seen once the keyboard has been used for it, and while the window
-// has the focus.
+// The keyboard's mark on one day box. The mark is visible once the user has moved it by keyboard, while the
+// window has the focus.
 #pragma once
 
 #include "core/date.h"
@@ -13,13 +13,13 @@ class Day_Mark {
 public:
     explicit Day_Mark(Form &form) : form_(form) {}
 
-    /// Of the shown month; 0: none yet.
+    /// The marked day of the shown month; 0: none yet.
     std::int16_t Day() const { return day_; }
     void Set_Day(std::int16_t day) { day_ = day; }
-    /// The keyboard goes over the days from now on; false when it did already.
+    /// Makes the mark visible from now on. Returns false if it already was.
     bool Activate() { return !std::exchange(active_, true); }
     void Set_Focus(bool has_focus) { has_focus_ = has_focus; }
-    /// Moves the mark to the box of a day. Without a box nothing is marked, and `title` has the focus.
+    /// Moves the mark to the box of a day. If `box` is null, marks nothing and gives `title` the focus.
     void Move_To(Label *box, const Date &date, const Label &title);
 
 private:
@@ -28,5 +28,5 @@ private:
     bool active_ = false;
     bool has_focus_ = false;
     Label *box_ = nullptr;
-    std::optional<Date> announced_; ///< the day that was announced as having the focus
+    std::optional<Date> announced_; ///< the day last announced as having the focus
 };

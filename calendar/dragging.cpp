@@ -1,4 +1,4 @@
-// Keeping the place to which the user moved the calendar (form_drag.h).
+// Stores the place to which the user moved the calendar (form_drag.h).
 #include "calendar/main_frm.h"
 #include "core/convert.h"
 #include "core/settings.h"
@@ -12,7 +12,7 @@ constexpr const char *manual_question =
     "changed the program will revert back to the set position. Do you want to change the positioning mode to "
     "manual positioning?";
 
-/// Whether the next placement would leave the calendar where it was dropped.
+/// Returns whether the next placement leaves the calendar where the user dropped it.
 bool Stays_Where_Dropped() {
     return Cur_Settings.Alignment == Manual_Position && Cur_Settings.Use_Theme_Pos != 1;
 }
@@ -21,12 +21,12 @@ bool Stays_Where_Dropped() {
 
 void Main_Frm::Save_Manual_Place(const std::optional<Point> &from) {
     if (place_.Is_Displaced())
-        return; // a click on the title moves nothing, and the kept place's monitor may come back
+        return; // not dragged: the window only waits here for the monitor of its place
     const Point manual{Left(), Top()};
     place_.Set_Manual(manual);
     Change_Setting(&Settings::Manual_PosX, Nearest_Int16(manual.x));
     Change_Setting(&Settings::Manual_PosY, Nearest_Int16(manual.y));
-    // Only a move in both directions asks; a push along one edge is taken for a passing one.
+    // Asks only after a move in both directions: a move along one axis counts as temporary.
     if (!from || manual.x == from->x || manual.y == from->y || Stays_Where_Dropped())
         return;
     if (platform::Message_Box(manual_question, platform::Box_Icon::Question, platform::Box_Buttons::Yes_No) !=

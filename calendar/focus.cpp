@@ -1,5 +1,5 @@
-// The keys: those that act on the month, and the keyboard's way over the days, where the arrow keys move the
-// mark (day_mark.h), and the other keys act on it.
+// The keyboard: the keys that act on the month, and those that move the mark over the days (day_mark.h) or
+// act on the marked day.
 #include "calendar/main_frm.h"
 #include "toolkit/keys.h"
 
@@ -7,7 +7,7 @@
 #include <utility>
 
 void Main_Frm::Form_KeyDown(const platform::Input_Event &event) {
-    // Keys come only to a window that has the focus.
+    // Only a window that has the focus gets keys.
     mark_.Set_Focus(true);
     stray_key_ = false;
     if (event.alt)
@@ -26,8 +26,8 @@ void Main_Frm::Form_KeyDown(const platform::Input_Event &event) {
     }
     const bool menu = event.key == Key_Menu || (event.key == Key_F10 && event.shift);
     if (menu || event.key == Key_Return || event.key == Key_Delete) {
-        // These act when they come up, if they went down here: the key that closes a message box, or is held
-        // too long, does nothing to the days.
+        // These keys act on release, and only if they were pressed here. A key that closes a message box, or
+        // that repeats, does nothing to the days.
         if (!event.repeated)
             pending_key_ = event.key;
     } else if (Handle_Day_Key(event.key)) {
@@ -39,7 +39,7 @@ void Main_Frm::Form_KeyUp(const platform::Input_Event &event) {
     if (!event.control_key)
         drag_.End_Nudge();
     const bool pending = std::exchange(pending_key_, 0) == event.key;
-    // Alt+F4 closes a window, this one or another; its F4 is no step to the next month.
+    // Alt+F4 closes this window or another one. Its F4 must not go to the next month.
     if (event.alt || std::exchange(stray_key_, false))
         return;
     Handle_Function_Key(event.key);
@@ -96,7 +96,7 @@ bool Main_Frm::Handle_Day_Key(int key) {
     }
 }
 
-/// The menu of the months or of the years, where the keyboard opens it.
+/// Opens the menu of the months or of the years below the title, for the keyboard.
 void Main_Frm::Popup_Below_Title(bool months) {
     const Point below{Which_Month_Lbl.Left() + Which_Month_Lbl.Width() / 2,
                       Which_Month_Lbl.Top() + Which_Month_Lbl.Height()};
@@ -113,7 +113,7 @@ void Main_Frm::Act_On_Marked_Day(int key) {
             Popup_Below_Title(false);
         return;
     }
-    // On a mark that was not seen before, only the menu opens: it is seen where, and harms nobody.
+    // If the mark was not visible before, only the menu opens: it shows its day and does no harm.
     const bool seen_before = !Show_Mark();
     const int box = Marked_Box();
     if (menu) {
@@ -127,7 +127,7 @@ void Main_Frm::Act_On_Marked_Day(int key) {
     }
 }
 
-/// Makes the mark seen; false when it was already.
+/// Makes the mark visible. Returns false if it already was.
 bool Main_Frm::Show_Mark() {
     if (!mark_.Activate())
         return false;
@@ -140,7 +140,7 @@ bool Main_Frm::Show_Mark() {
 }
 
 void Main_Frm::Move_Mark(int days) {
-    // The first key shows where the mark is before any key moves it.
+    // The first key only shows the mark. Later keys move it.
     if (Compacted || Show_Mark())
         return;
     const int length = DaysInMonth({Cur_Year, Cur_Month, 1});
@@ -173,7 +173,7 @@ void Main_Frm::Update_Focus(bool has_focus) {
 void Main_Frm::Update_Mark() {
     if (mark_.Day() == 0)
         return;
-    // In a shorter month it is on the last day.
+    // A shorter month has the mark on its last day.
     const std::int32_t length = DaysInMonth({Cur_Year, Cur_Month, 1});
     mark_.Set_Day(static_cast<std::int16_t>(std::min<std::int32_t>(mark_.Day(), length)));
     const int box = Marked_Box();

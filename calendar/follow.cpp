@@ -1,12 +1,12 @@
-// What changed settings, or another month of a theme pack, mean for the calendar window.
+// Updates the calendar window after its settings or the month of its theme pack have changed.
 #include "calendar/main_frm.h"
 
 void Main_Frm::Follow(const Settings &before, bool where_dropped) {
     const auto changed = [&](auto... members) {
         return ((before.*members != Shown_Settings->*members) || ...);
     };
-    // The window may get another size. One that stands at its set position keeps to it, so that it neither
-    // runs off the screen nor floats.
+    // The window's size may change. A window at its set position is placed again, so that it neither runs off
+    // the screen nor leaves its edge.
     const bool stays = where_dropped && (Compacted || !place_.Is_In_Position());
     const bool refit = style_ != Effective_Style();
     Which_Style(Effective_Style());
@@ -15,7 +15,8 @@ void Main_Frm::Follow(const Settings &before, bool where_dropped) {
     TransparentForm();
     if (!stays)
         Position_Form(Effective_Position());
-    // The boxes have room for other texts, or other tooltips. It may tell of today's event.
+    // The boxes fit other amounts of text, or have other tooltips. Load_Dates may alert the user of today's
+    // event.
     if (refit || changed(&Settings::Tooltips, &Settings::Show_Alerts))
         Load_Dates();
     if (changed(&Settings::Col_Today, &Settings::Col_Normal, &Settings::Col_Fore, &Settings::Col_Num,

@@ -1,4 +1,3 @@
-// Drags and steps, where the settings allow them.
 #include "calendar/form_drag.h"
 
 #include "core/settings.h"
@@ -12,7 +11,7 @@ using platform::Mouse_Button;
 
 namespace {
 
-constexpr int big_step = 10; ///< pixels by which a key moves the calendar
+constexpr int big_step = 10; ///< pixels by which an arrow key moves the calendar
 
 bool May_Drag() {
     return Cur_Settings.Alignment == Manual_Position || Cur_Settings.Allow_Dragging != 0;
@@ -29,7 +28,7 @@ void Form_Drag::Begin(Mouse_Button button, Point mouse) {
 
 void Form_Drag::Continue(Mouse_Button held, Point mouse) {
     if (held != Mouse_Button::Left)
-        return End(); // the release went elsewhere: into a message box that came in between
+        return End(); // another window got the release, such as a message box
     if (drag_ && May_Drag())
         form_.Move(form_.Left() - (drag_->mouse.x - mouse.x), form_.Top() - (drag_->mouse.y - mouse.y));
 }
@@ -42,7 +41,7 @@ void Form_Drag::Drop(Mouse_Button button) {
         End();
     if (button == Mouse_Button::Right || !May_Drag())
         return;
-    // A store that refuses is told once, and not with every click on the title.
+    // The guard reports a failing store once, instead of at each click on the title.
     guard_.Run([&] { keep_(from); });
 }
 

@@ -1,5 +1,5 @@
-// Moving the calendar by hand: the drag by the title, and steps by the arrow keys. Keeping the place that
-// comes of it is not here.
+// Moves the calendar by hand: by a drag of its title, or in steps by the arrow keys. The owner stores the new
+// place.
 #pragma once
 
 #include "base/geometry.h"
@@ -10,25 +10,26 @@
 
 class Form_Drag {
 public:
-    /// `keep` gets, after a move, where the form was before; nothing after a click that moved nothing.
+    /// Called after a drag, a click or a series of steps. `from` is the form's place before; nothing if no
+    /// drag was running.
     using Keep = Callback<void(const std::optional<Point> &from)>;
     Form_Drag(Form &form, const Keep &keep) : form_(form), keep_(keep) {}
 
     bool Dragging() const { return drag_.has_value(); }
-    // The mouse on the title, at a point in it.
+    // The mouse over the title. `mouse` is a point in the title.
     void Begin(platform::Mouse_Button button, Point mouse);
     void Continue(platform::Mouse_Button held, Point mouse);
     void Drop(platform::Mouse_Button button);
     void End();
 
-    /// Moves the form by one arrow key, `fine` by a pixel; false where it may not be moved or the key is
-    /// none. The keys' last place is kept with End_Nudge.
+    /// Moves the form one step in the direction of an arrow key; a `fine` step is one pixel. Returns false if
+    /// the form may not be moved or the key is not an arrow. End_Nudge stores the place.
     bool Nudge(int key, bool fine);
     void End_Nudge();
 
 private:
-    /// Where the mouse was in the title, and the form on the screen. Wider than the 16 bits that a place is
-    /// kept in, so that a calendar beyond them can be dragged back.
+    /// Where the drag began: the mouse in the title, and the form on the screen, in twips. Wider than the 16
+    /// bits that the settings store, so that the user can drag back a calendar from beyond them.
     struct Drag {
         Point mouse;
         Point form;
@@ -38,5 +39,5 @@ private:
     Keep keep_;
     Repeated_Guard guard_;
     std::optional<Drag> drag_;
-    std::optional<Point> nudged_from_; ///< where the arrow keys took it up
+    std::optional<Point> nudged_from_; ///< the form's place before the first step
 };

@@ -1,4 +1,3 @@
-// The wait before a held balloon, and the balloon's coming and going.
 #include "calendar/held_balloon.h"
 
 #include "platform/clock.h"
@@ -35,7 +34,7 @@ void Held_Balloon::Hold(Point at, Callback<void()> show) {
     show_ = show;
     at_ = at;
     ++press_count_;
-    // A second press during the wait: the wait begins anew for it, in the call that is waiting already.
+    // A second press during the wait: the waiting call starts its wait again.
     if (waiting_)
         return;
     waiting_ = true;

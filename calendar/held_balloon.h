@@ -1,6 +1,5 @@
-// The balloon that a held mouse button brings and its release takes away: the waiting for it, the one that
-// is shown, and the watch for a release that nobody tells. Of what stands in it and where, the rest is the
-// caller's.
+// The balloon that appears while a mouse button is held: the wait before it, the balloon, and the poll for a
+// missed release. The caller decides what it shows and where.
 #pragma once
 
 #include "base/callback.h"
@@ -16,26 +15,26 @@ public:
 
     bool Showing() const { return Window.Visible(); }
     bool Mouse_Released() const { return released_; }
-    /// Calls `show` when the button, which went down now, is still held after a while. `at`, in twips on the
-    /// screen, is where the balloon will point to, wherever the mouse has gone meanwhile. Does nothing when
-    /// there is a balloon already. A press during the wait begins it anew for its own `show`.
+    /// Calls `show` if the button, which has just been pressed, is still held after a while. The balloon will
+    /// point to `at` (twips on the screen), wherever the mouse has moved. Does nothing if a balloon is up. A
+    /// press during the wait restarts it, with the `show` and `at` of that press.
     void Hold(Point at, Callback<void()> show);
-    /// Waits while the window's messages are processed. Ends early at midnight and at the program's end.
+    /// Waits and dispatches messages. Ends early at midnight and when the program ends.
     void TimeOut(int milliseconds);
-    /// Shows an event of a day beside the place of the last Hold.
+    /// Shows a day's event at the point of the last Hold.
     void Show(const Date &date, std::string_view message);
-    /// The button is not held any more: the balloon goes, or does not come.
+    /// The button was released: removes the balloon, or cancels the wait for it.
     void Hide();
-    /// Ends this and every later wait: the program ends.
+    /// Ends this and every later wait, because the program ends.
     void End() { ended_ = true; }
 
     frmBalloon Window;
-    /// Runs only while the balloon is there, which goes when the button was released where nobody told.
+    /// Polls while the balloon is up, because the button may be released outside our windows.
     Timer Timer2{1000};
 
 private:
-    Callback<void()> show_;    ///< of the last press
-    Point at_;                 ///< likewise
+    Callback<void()> show_;    ///< from the last press
+    Point at_;                 ///< from the last press
     unsigned press_count_ = 0; ///< counts the presses
     bool released_ = true;
     bool waiting_ = false;

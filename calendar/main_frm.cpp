@@ -1,4 +1,4 @@
-// The calendar window's start-up, its timer and the system's broadcasts.
+// The calendar window's start, its date timer and the system's broadcasts.
 #include "calendar/main_frm.h"
 
 #include "base/joined.h"
@@ -15,7 +15,7 @@ using platform::Mouse_Button;
 
 namespace {
 
-/// All that the month shows of the regional settings, and the measures of its fonts.
+/// Returns everything that the month shows of the regional settings, and measures of its font.
 std::string Regional_Look() {
     std::string look = std::to_string(platform::First_Weekday());
     for (int month = 1; month <= 12; ++month)
@@ -69,10 +69,9 @@ void Main_Frm::Wire_Events() {
         Mark_Today();
     };
     Which_Month_Lbl.On_Default_Action = [this] { Which_Month_Lbl_DblClick(); };
-    // Nothing is asked here: the window inside the shell's goes down in the middle of the shell's own end,
-    // which waits for it.
+    // Shows no message: the shell destroys this window while the shell itself ends, and waits for it.
     On_Window_Lost = [this] {
-        // No release comes any more, and a calendar that is dragged does not follow the shell.
+        // No mouse release will come. Ends the drag, because a dragged calendar does not follow the shell.
         Hide_Balloon();
         drag_.End();
         Update_Focus(false);
@@ -112,7 +111,8 @@ void Main_Frm::Wire_Box(Label &label, int index) {
 bool Main_Frm::Check_For_Multiple() {
     if (platform::Claim_Single_Instance("Vellatro"))
         return true;
-    // The user may have been quicker than the shell, and did not start this process then.
+    // A successor process, which the user did not start, ends silently: the user may have started the program
+    // first.
     if (platform::Restart_Count() == 0)
         platform::Message_Box("The program is already running!", platform::Box_Icon::Information);
     return false;
@@ -127,19 +127,19 @@ bool Main_Frm::Form_Load() {
         platform::Message_Box(error.what(), platform::Box_Icon::Stop);
         return false;
     }
-    // A pack that is damaged, its month's picture above all, is told; it is no reason to show no calendar.
+    // Run_Guarded reports a damaged pack, above all an unreadable picture. The calendar appears anyway.
     Run_Guarded([this] { Get_Wallpaper_Stuff(Cur_Settings.Pack_Name); });
     Which_Style(Effective_Style());
     const Date today = Select_Current_Month();
     Setup_Boxes(Cur_Month, Cur_Year);
     Set_Repos();
-    // Heard from here on, with the day's stamp: an alert may stay open for hours.
+    // Both must be set before Load_Dates, because an alert may stay open for hours.
     date_stamp_ = Date_Stamp(today);
     Subscribe_To_Broadcasts();
     Load_Dates();
     Update_Title();
     Set_Day_Headers();
-    // Not seen before it is where it belongs and has its colours.
+    // The window stays hidden until it has its place and colours.
     Create();
     No_ShowDesktop_and_IconColours();
     Set_Colours();
@@ -159,7 +159,7 @@ Date Main_Frm::Select_Current_Month() {
 
 void Main_Frm::Dectect_Date_Timer_Timer() {
     RePosition();
-    // A preview has a title and a wallpaper of its own.
+    // A preview has its own title and wallpaper.
     if (Shown_Settings != &Cur_Settings)
         return;
     Update_Title();
@@ -171,7 +171,8 @@ void Main_Frm::Dectect_Date_Timer_Timer() {
     Select_Current_Month();
     Update_Title();
     Set_Day_Headers();
-    // Before anything is told: this timer goes on while a message is open, and once a day is enough.
+    // Must come before any message box: this timer ticks while a message box is open, and must act only once
+    // a day.
     date_stamp_ = stamp;
     Run_Guarded([this] { Get_Wallpaper_Stuff(Cur_Settings.Pack_Name); });
     Which_Style(Effective_Style());
@@ -208,7 +209,7 @@ bool Main_Frm::Handle_Broadcast(Broadcast broadcast) {
         RePosition();
         break;
     case Broadcast::Colours_Changed:
-        // System colours are looked up while painting; only the frame of today's box is worked out before.
+        // System colours are resolved while painting. Only the frame of today's box is computed beforehand.
         Apply_Contrast();
         Mark_Today();
         Repaint();
@@ -226,7 +227,7 @@ bool Main_Frm::Handle_Broadcast(Broadcast broadcast) {
     case Broadcast::Session_Over:
         end_reason_ = End_Reason::Wanted;
         Balloon.End();
-        // The process may go at once: the dialog keeps its tab now.
+        // The process may end at any moment. The dialog stores its tab when it closes.
         if (Close_Settings)
             Close_Settings();
         platform::Wait_For_Wallpaper();
@@ -260,7 +261,6 @@ void Main_Frm::Handle_Desktop_Lost() {
 }
 
 void Main_Frm::Resume_Auto_Compact() {
-    // Nothing counts down towards a state that is reached already.
     if (Cur_Settings.Auto_Compact == 1 && !Compacted)
         Compact_Timer.Set_Enabled(true);
 }
@@ -275,5 +275,5 @@ void Main_Frm::Renew_Layout() {
     Which_Style(Effective_Style());
     Redraw();
     if (Compacted)
-        TransparentForm(); // the title has another size
+        TransparentForm(); // the title's size has changed
 }

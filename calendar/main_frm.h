@@ -1,7 +1,7 @@
-// The calendar window: what the user, the time and the system do to the month (month_grid.h). Its procedures
-// are in files by topic: start-up and the date watch are in main_frm.cpp, the keys in focus.cpp, the others
-// as they are called. What has a state of its own is a part: the keyboard's mark, the drag, the balloon; and
-// in desktop/ place and attachment.
+// The calendar window: reacts to the user, the time and the system, and shows the month (month_grid.h).
+// main_frm.cpp has its start and the date timer, focus.cpp the keyboard, and the other files are named for
+// their topic. The mark, the drag, the balloon, the place and the attachment to the desktop are objects of
+// their own.
 #pragma once
 
 #include "base/callback.h"
@@ -29,88 +29,90 @@ public:
     Main_Frm();
     ~Main_Frm() override;
 
-    /// Starts the program up; false when it has to end at once, which the user has been told then.
+    /// Starts the program. Returns false if the program has to end at once, after a message to the user.
     bool Form_Load();
 
-    bool Alert_Done = false;       ///< no further alert today
-    bool Timer_Compacted = false;  ///< by the timer once: the mouse over the title expands it, and ends this
+    bool Alert_Done = false; ///< no further alert today
+    /// The timer entered compact mode. The next mouse move over the title leaves it and clears this flag.
+    bool Timer_Compacted = false;
     std::int16_t Tooltip_Box = -1; ///< the day box of the last balloon
     Event_Store Events;
 
-    // The event editor, of which the calendar knows no more than this. Whoever owns both windows fills it;
-    // empty, there is no editor.
-    Callback<void(int index)> Open_Editor; ///< for a day box
-    Callback<bool()> Offer_To_Save;        ///< offers unsaved text for saving; false: the user wants to stay
-    Callback<void()> Save_Without_Asking;  ///< saves unsaved text, as far as it can be saved
+    // The calendar reaches the event editor only through these. The owner of both windows sets them; empty:
+    // no editor.
+    Callback<void(int index)> Open_Editor; ///< opens the editor for a day box
+    Callback<bool()> Offer_To_Save;        ///< offers to save unsaved text; false: the user cancels
+    Callback<void()> Save_Without_Asking;  ///< saves unsaved text if possible
     Callback<bool()> Editor_Visible;
-    Callback<void(Form *modal)> Block_Editor; ///< as Set_Blocked_By does with the calendar
+    Callback<void(Form *modal)> Block_Editor; ///< calls Set_Blocked_By of the editor
 
-    // The settings dialog, likewise.
+    // The calendar reaches the settings dialog only through these.
     Callback<void()> Open_Settings;
-    Callback<void()> Close_Settings; ///< at the end, whatever is in it
+    Callback<void()> Close_Settings; ///< closes it at the end, whatever it shows
     Callback<bool()> Settings_Visible;
-    Callback<void()> On_Event_Saved; ///< the data file is another one now
+    Callback<void()> On_Event_Saved; ///< the data file has changed
 
-    /// Whether the program may end now; asks for unsaved text first.
+    /// Returns whether the program may end now. Asks about unsaved text first.
     bool Confirm_End() const;
-    /// Whether the window went down with the shell's, before anybody wanted the program to end.
+    /// Returns whether the shell destroyed the window before anything asked the program to end.
     bool Lost_With_Shell() const { return end_reason_ == End_Reason::Lost; }
 
-    /// Of which the window has its style, its position and what it takes of a theme: Cur_Settings, but for
-    /// the length of a preview. Must not be null.
+    /// The settings that give the window its style, its position and its theme: Cur_Settings, except during a
+    /// preview. Must not be null.
     const Settings *Shown_Settings = &Cur_Settings;
 
-    /// Makes the window show all that the settings say, after they were `before`, or after a pack told
-    /// others: style, title, shape, position, texts and colours. With `where_dropped` a window that was
-    /// dragged away from its position, or is only its title, stays where it is.
+    /// Updates style, title, shape, position, texts and colours after the settings were `before`, or after a
+    /// pack gave other values. If `where_dropped` is set, a window that was dragged from its position, or is
+    /// compact, stays where it is.
     void Follow(const Settings &before, bool where_dropped = false);
 
-    /// Lays the month out: numbers, hidden boxes, the window's place and shape.
+    /// Lays out the month: the numbers, the hidden boxes, and the window's place and shape.
     void Setup_Boxes(std::int16_t month, std::int16_t year);
-    /// Puts the events of the shown month into their boxes and alerts the user of today's.
+    /// Puts the events of the shown month into their boxes and alerts the user of today's event.
     void Load_Dates();
-    /// Takes one record in: into its box, if it belongs to the shown month, and as an alert, if it is
-    /// today's. Throws Conversion_Error or another std::exception for a malformed one.
+    /// Takes one record into its box if it belongs to the shown month, and alerts the user if it is today's.
+    /// Throws Conversion_Error or another std::exception if the record is malformed.
     void Enter_Date(std::string_view record, const Date &today);
-    /// Shows the text that was saved for a day in its box, if that is one of the shown month. Where the same
-    /// month of another year is shown, a yearly event comes or goes with it.
+    /// Shows the saved text of a day in its box, if the shown month has that day. If the month of another
+    /// year is shown, adds or removes a yearly event there.
     void Show_Saved_Event(const Date &date, std::string_view text);
-    /// Makes today's month the shown one, without drawing it. Gives today.
+    /// Makes today's month the shown month, without drawing it. Returns today.
     Date Select_Current_Month();
-    /// All of the display, after the shown month changed.
+    /// Draws everything again after the shown month has changed.
     void Redraw();
 
-    /// Moves the window to a position code (desktop/position.h); a number that is none leaves it.
+    /// Moves the window to a position code (desktop/position.h). An invalid code leaves the window where it
+    /// is.
     void Position_Form(std::int16_t code);
     /// Remembers the work area's height.
     void Set_Repos() { place_.Update_Work_Area_Height(); }
-    /// Follows the shell's icons to where they are now. Places the window anew when the work area's height is
-    /// another one; puts it back when something else has moved it.
+    /// Follows the shell's icon view. Moves the window to its position again if the work area's height has
+    /// changed; puts it back if something else has moved it.
     void RePosition();
-    /// Puts the window into the shell's desktop and takes the colours of its icon labels over; also shows the
-    /// splash window. What of the shell is missing is left out in silence.
+    /// Puts the window into the shell's desktop, takes over the colours of the icon labels and shows the
+    /// splash window. Silently skips what the shell lacks.
     void No_ShowDesktop_and_IconColours();
     void Set_Icon_Colours(platform::Shell_Window list, Colour background, Colour text);
 
-    // Themes. The two steps throw what goes wrong with the month's picture (themes/theme_pack.h), and
-    // Conversion_Error for a number in the pack that is none.
+    // Themes. The two steps throw the errors of the month's picture (themes/theme_pack.h), and
+    // Conversion_Error if the pack has a bad number.
 
-    /// Where themes are in use: hangs today's picture of the pack up, and takes its box style and position
-    /// over as far as the settings want them.
+    /// If themes are in use: sets the pack's wallpaper for today's month, and takes the pack's box style and
+    /// position if the settings want them.
     void Get_Wallpaper_Stuff(const std::string &pack);
-    /// The same for any month, whether themes are in use or not.
+    /// Does what Get_Wallpaper_Stuff does, for any month and even if themes are not in use.
     void Preview_Wallpaper_Stuff(const std::string &pack, std::int16_t month);
-    /// The value text of a month, or Theme_Error, which the user has been told then; a missing pack ends the
-    /// use of themes and takes the wallpaper down.
+    /// Returns the value text of a month, or Theme_Error after a message to the user. A missing pack turns
+    /// themes off and removes the wallpaper.
     static std::string Get_Paper_Details(std::int16_t month, const std::string &pack);
-    /// What the pack told last; nothing before that.
+    /// The values of the last pack, if it had any.
     std::optional<std::int16_t> Theme_BoxStyle;
     std::optional<std::int16_t> Theme_Pos;
-    // Those in use.
+    // The style and position in use.
     std::int16_t Effective_Style() const;
     std::int16_t Effective_Position() const;
 
-    // What the user and the time do.
+    // Actions of the user and the timer.
     void Next_Month();
     void Previous_Month();
     void Step_Year(int years);
@@ -119,26 +121,27 @@ public:
     void Form_KeyDown(const platform::Input_Event &event);
     void Form_KeyUp(const platform::Input_Event &event);
     void Dectect_Date_Timer_Timer();
-    /// Steps to another box style; where a theme's style rules, the user is asked to turn that off first.
+    /// Steps to another box style. If a theme sets the style, first asks the user to turn that off.
     void Change_Style(int step);
-    /// Ends the program, unless unsaved text keeps the user.
+    /// Ends the program, unless the user cancels because of unsaved text.
     void End_Program();
 
-    // Popup menus. With `at`, in twips on the form, they open there instead of at the mouse.
+    // Popup menus. They open at `at` (twips on the form), or at the mouse if `at` is null.
     void Popup_Menu(int index, const Point *at = nullptr);
     void Popup_Months(const Point *at = nullptr);
-    /// The years around the shown one that the calendar can show; in compact mode only "Expand".
+    /// Offers the years around the shown one, limited to first_year to last_year. In compact mode offers only
+    /// "Expand".
     void Popup_Years(const Point *at = nullptr);
     /// Deletes the event of a day box.
     void Clear_Box(int index);
-    /// Takes the newest change of the events back.
+    /// Undoes the newest change of the events.
     void Undo();
 
     // Compact mode.
-    /// Goes into compact mode, or out of it.
+    /// Enters or leaves compact mode.
     void Which_Month_Lbl_DblClick();
     void Compact_Timer_Timer();
-    /// Begins the countdown to compact mode anew: the user does something with the calendar.
+    /// Restarts the countdown to compact mode, because the user is active.
     void Restart_Countdown();
 
     // The balloon.
@@ -146,7 +149,7 @@ public:
     void TimeOut(float seconds);
     void Balloon_Tooltip(int index, std::string_view message);
     void Hide_Balloon() { Balloon.Hide(); }
-    /// Lets compact mode come again after a dialog is closed.
+    /// Allows compact mode again after a dialog has closed.
     void Resume_Auto_Compact();
 
     Timer Dectect_Date_Timer{1000};
@@ -190,17 +193,16 @@ private:
     End_Reason end_reason_ = End_Reason::None;
     std::string date_stamp_;
     std::string regional_look_;
-    /// Texts that are read and not in their boxes yet.
+    /// Texts that have been read but are not in their boxes yet.
     std::array<std::optional<std::string>, box_count> pending_texts_;
-    unsigned load_generation_ =
-        0; ///< counts the fillings: one that begins inside another puts an end to that
-    bool load_incomplete_ = false; ///< the last filling: events of the month may not be in their boxes
+    unsigned load_generation_ = 0; ///< counts the calls of Load_Dates: a nested call supersedes the outer one
+    bool load_incomplete_ = false; ///< the last Load_Dates failed: boxes may lack events of the month
     Form_Place place_{*this};
     Form_Drag drag_{*this, [this](const std::optional<Point> &from) { Save_Manual_Place(from); }};
     Day_Mark mark_{*this};
-    int pending_key_ = 0;    ///< went down here and acts when it comes up
-    bool stray_key_ = false; ///< a key that comes up now went down in another window
+    int pending_key_ = 0;    ///< pressed in this window, acts when it is released
+    bool stray_key_ = false; ///< the next key released here may have been pressed in another window
 };
 
-/// The text that tells of today's event.
+/// Returns the text that announces today's event.
 std::string Today_Text(const Date &today, std::string_view text);

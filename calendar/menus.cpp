@@ -1,5 +1,5 @@
-// The popup menus of a day, of the months and of the years. Assistive technology reaches the calendar while a
-// menu is open, so what was shown when it opened may not be shown any more when an item is chosen.
+// The popup menus of a day, of the months and of the years. Assistive technology can operate the calendar
+// while a menu is open, so the user may choose an item for a day or a month that is no longer shown.
 #include "calendar/main_frm.h"
 #include "platform/menu.h"
 
@@ -31,7 +31,7 @@ void Main_Frm::Popup_Menu(int index, const Point *at) {
     if (!change.empty())
         items.push_back({undo_item, "Undo: " + change, Menu_Image::Undo, true, true});
     const int chosen = platform::Track_Popup_Menu(Model(), items, at);
-    // Another day may be in the box by now, which nobody meant. In compact mode it is still the same day.
+    // Clear and Edit do nothing if another day is in the box by now. Compact mode does not change the day.
     const bool same_day = Date_Of_Box(index) == date;
     if (chosen == clear_item && same_day)
         Clear_Box(index);
@@ -46,9 +46,9 @@ void Main_Frm::Popup_Menu(int index, const Point *at) {
 }
 
 void Main_Frm::Clear_Box(int index) {
-    // A key of its own: an open editor keeps the day that it edits.
+    // Leaves the day of an open editor alone.
     const Date date = Date_Of_Box(index);
-    // A box that is empty because the reading broke off is no event that the user means.
+    // After a failed Load_Dates, an empty box may hide an event that the user has not seen.
     if (load_incomplete_ && Box_Lbl[index].Access().value.empty())
         return;
     const Undo_Log::Change change(Events.Changes, Change_Name("Clear", date));
@@ -59,10 +59,10 @@ void Main_Frm::Clear_Box(int index) {
 }
 
 void Main_Frm::Undo() {
-    // Compact mode shows no event, and lays the month out when it ends.
+    // Compact mode shows no events; leaving it fills the boxes.
     if (!Events.Undo() || Compacted)
         return;
-    // The texts alone: a calendar that was dragged away stays there.
+    // Refills only the texts, because a redraw would move a dragged calendar back.
     for (int i = 0; i < box_count; ++i)
         Fill_Box(i, {});
     Load_Dates();
@@ -86,7 +86,7 @@ void Main_Frm::Popup_Months(const Point *at) {
     if (chosen == 0)
         return;
     Cur_Month = static_cast<std::int16_t>(chosen);
-    Cur_Year = year; // also when the year has changed under the menu
+    Cur_Year = year; // the year may have changed while the menu was open
     Redraw();
 }
 
@@ -112,7 +112,7 @@ void Main_Frm::Popup_Years(const Point *at) {
     if (chosen == years_around + 1) {
         Select_Current_Month();
     } else {
-        Cur_Month = month; // also when the month has changed under the menu
+        Cur_Month = month; // the month may have changed while the menu was open
         Cur_Year = static_cast<std::int16_t>(middle + chosen - 1 - years_around);
     }
     Redraw();

@@ -1,5 +1,5 @@
-// The month in the day boxes: numbers, hidden boxes, today, the texts in them, and what assistive technology
-// is told of the boxes.
+// The month in the day boxes: numbers, hidden boxes, today, texts, and the boxes' descriptions for assistive
+// technology.
 #include "calendar/month_grid.h"
 
 #include "base/joined.h"
@@ -49,7 +49,7 @@ void Month_Grid::Reset_Boxes() {
     for (int i = 0; i < box_count; ++i) {
         Box_Lbl[i].Set_Visible(true);
         Box_Caption_Lbl[i].Set_Visible(true);
-        // In high contrast the texts that are there until Set_Colours comes may be white.
+        // In high contrast, texts may be white until Set_Colours runs.
         if (!high_contrast_)
             Box_Lbl[i].Set_Back_Colour(white);
         Box_Lbl[i].Set_Caption({});
@@ -82,7 +82,7 @@ void Month_Grid::Hide_Misc_Boxes() {
 }
 
 void Month_Grid::Mark_Today() {
-    // The boxes are those of another month until compact mode ends.
+    // The boxes show another month until compact mode ends.
     if (layout_outdated_)
         return;
     const Date today = Today();

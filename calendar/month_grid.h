@@ -1,6 +1,6 @@
-// The month as it is seen: the day boxes under a row of weekday headers and a title, their sizes, texts and
-// colours. Events, the user's steps and the window's place are main_frm.h. Text fitting is in box_styles.cpp,
-// the rest in month_grid.cpp and colours.cpp.
+// The month as the user sees it: day boxes under a row of weekday headers and a title, with sizes, texts and
+// colours. main_frm.h has the events, the user's actions and the window's place. box_styles.cpp fits the
+// texts, colours.cpp has the colours, month_grid.cpp the rest.
 #pragma once
 
 #include "core/date.h"
@@ -13,7 +13,7 @@
 
 class Month_Grid : public Form {
 public:
-    static constexpr int box_count = 37; ///< 6 places for the worst first weekday and 31 days
+    static constexpr int box_count = 37; ///< 6 unused boxes at most before day 1, and 31 days
     static constexpr int days_a_week = 7;
 
     Month_Grid();
@@ -21,32 +21,32 @@ public:
     // The shown month.
     std::int16_t Cur_Month = 0;
     std::int16_t Cur_Year = 0;
-    bool Compacted = false; ///< only the title is left
+    bool Compacted = false; ///< only the title is shown
 
-    // Colours of the desktop's icon labels; a background of -1 is none.
+    // Colours of the desktop's icon labels. A background of -1 means none.
     Colour Icon_BackColour = 0;
     Colour Icon_TextColour = 0;
 
-    /// Index of the box that holds day 1 of a month, 0 to 6.
+    /// Returns the index of the box of day 1 of a month, 0 to 6.
     static std::int16_t Start_Box(std::int16_t month, std::int16_t year);
-    /// The day that box `index` of the shown month stands for.
+    /// Returns the day of box `index` in the shown month. A box outside the month gives a day below 1 or
+    /// beyond the month's end.
     Date Date_Of_Box(int index) const;
     void Set_Day_Headers();
     void Reset_Boxes();
     void Hide_Misc_Boxes();
-    /// Gives today's box its colour, if its month is shown.
+    /// Gives today's box its colours if the shown month is today's.
     void Mark_Today();
     void Clear_Tooltips();
     void Update_Title();
     /// Clips the window to its visible controls.
     void TransparentForm();
 
-    /// Gives all boxes, headers and the title their sizes and places: 0 is "Thin Box", every other number
-    /// "Square Box".
+    /// Places and sizes all boxes, headers and the title. 0 is "Thin Box", every other number "Square Box".
     void Which_Style(std::int16_t style);
-    /// Gives the event texts their place in the boxes of a style, and measures the room before a "...".
+    /// Places the event texts in the boxes of a style, and measures the room before a "...".
     void DDD_Style(std::int16_t style);
-    /// Puts as much of `text` into the label as fits, broken at words; "..." stands for the rest.
+    /// Puts as much of `text` into the label as fits, wrapped at words. "..." replaces the rest.
     void DotDotDot(Label &label, std::string_view text);
     /// Drops characters from the end of DotDotDot_Lbl's caption until it is narrower than `label`.
     void Get_Line(const Label &label);
@@ -56,7 +56,7 @@ public:
     void Colour_Nums();
     void Colour_Texts();
     void Colour_Menus();
-    /// Gives today's box, which is the one with this index, its colours.
+    /// Gives box `index` the colours of today's box.
     void Colour_Today(int index);
 
     Label Prev_Month_Lbl{*this, "Prev_Month_Lbl"};
@@ -65,24 +65,23 @@ public:
     Control_Array<Label, days_a_week> Day_Lbl{*this, "Day_Lbl"};
     Control_Array<Label, box_count> Box_Lbl{*this, "Box_Lbl"};
     Control_Array<Label, box_count> Box_Caption_Lbl{*this, "Box_Caption_Lbl"};
-    Label DotDotDot_Lbl{*this, "DotDotDot_Lbl"}; ///< never seen: texts are measured in it
+    Label DotDotDot_Lbl{*this, "DotDotDot_Lbl"}; ///< never visible: measures texts
 
 protected:
-    /// Shows the text of a day in its box, its tooltip and to assistive technology; an empty one: no event.
+    /// Shows the text of a day in its box, in its tooltip and to assistive technology. An empty text means no
+    /// event.
     void Fill_Box(int index, std::string_view text);
-    /// Gives the boxes of a month their numbers, from its first day on, and their names for assistive
-    /// technology.
+    /// Numbers the boxes of a month from the first day on, and names them for assistive technology.
     void Number_Boxes(Date date);
     void Describe_Heading();
     void Apply_Contrast();
 
-    bool layout_outdated_ =
-        false; ///< what was laid out is not what the month shows now: it changed in compact mode
-    std::int16_t style_ = 0; ///< of the last Which_Style
+    bool layout_outdated_ = false; ///< compact mode: the hidden boxes are out of date
+    std::int16_t style_ = 0;       ///< from the last Which_Style
 
 private:
-    bool high_contrast_ = false; ///< the shown colours are those of high contrast
+    bool high_contrast_ = false; ///< the window shows the high contrast colours
 };
 
-/// A day as the user reads it: Tuesday 5th March 2002.
+/// Returns a date as the user reads it: Tuesday 5th March 2002.
 std::string Full_Date(const Date &date);

@@ -1,4 +1,4 @@
-// Steps from month to month and from style to style, and the event of today.
+// Steps through the months and the box styles, and shows today's event.
 #include "calendar/main_frm.h"
 #include "core/settings.h"
 #include "platform/message_box.h"
@@ -43,7 +43,7 @@ void Main_Frm::Step_Year(int years) {
 
 void Main_Frm::Redraw() {
     Update_Title();
-    // In compact mode no box may appear; leaving it lays the month out afresh.
+    // In compact mode no box may appear. Leaving it lays out the month.
     layout_outdated_ = Compacted;
     if (Compacted)
         return;
@@ -60,13 +60,13 @@ void Main_Frm::Edit_Box(int index) {
 }
 
 void Main_Frm::Change_Style(int step) {
-    // No and Cancel both leave all as it is: while the theme's style rules, there is no other to step to.
+    // No and Cancel both change nothing: while the theme sets the style, no step is possible.
     const bool theme_rules = Cur_Settings.Use_Theme_Style == 1;
     if (theme_rules &&
         platform::Message_Box(style_question, platform::Box_Icon::Question,
                               platform::Box_Buttons::Yes_No_Cancel) != platform::Box_Answer::Yes)
         return;
-    // From what is seen, which may be the theme's until its tick goes. All numbers but 0 are the same style.
+    // Steps from the visible style, which may be the theme's. All numbers but 0 mean the same style.
     const int style = ((Effective_Style() == 0 ? 0 : 1) + step + style_count) % style_count;
     const Settings before = Cur_Settings;
     if (theme_rules)
@@ -79,7 +79,7 @@ void Main_Frm::Change_Style(int step) {
 void Main_Frm::Show_Today_Event() {
     const Date today = Today();
     const Stored_Message message = Events.Get_Message(Date_Key(today));
-    // The user knows already that the file cannot be read: there may well be an event.
+    // The user knows that the file cannot be read. Today may have an event, so do not show "No event.".
     if (message.incomplete && message.text.empty())
         return;
     platform::Message_Box(Today_Text(today, message.text.empty() ? "No event." : message.text),

@@ -1,4 +1,4 @@
-// The calendar's place on the screen and inside the shell's desktop.
+// The calendar's position on the screen and inside the shell's desktop.
 #include "calendar/main_frm.h"
 #include "core/settings.h"
 

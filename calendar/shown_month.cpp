@@ -1,4 +1,4 @@
-// The shown month: its layout, the way of its events into the boxes, and the alert.
+// The layout of the shown month, the loading of its events into the boxes, and the alert.
 #include "base/joined.h"
 #include "calendar/main_frm.h"
 #include "core/convert.h"
@@ -38,7 +38,8 @@ void Main_Frm::Load_Dates() {
     Describe_First_Steps();
 }
 
-/// Tells assistive technology how to begin, as the splash window does, as long as there is no data file.
+/// Describes the first steps to assistive technology, as the splash window shows them, while there is no data
+/// file.
 void Main_Frm::Describe_First_Steps() {
     const bool new_here = !platform::Path_Exists(Event_Store::Data_File());
     Set_Description(new_here ? Joined({First_Steps[0], " ", First_Steps[1]}) : std::string());
@@ -59,12 +60,13 @@ void Main_Frm::Enter_Date(std::string_view record, const Date &today) {
         throw Conversion_Error("a record without \"=\"");
     const Date date = Parse_Date_Key(parts.key);
     if ((date.year == every_year || date.year == Cur_Year) && date.month == Cur_Month) {
-        // Fitting a text into its box takes longer than reading a hundred records, and of several texts of a
-        // day only the last one stays.
+        // Only stores the text: fitting it into its box takes longer than reading a hundred records, and only
+        // the last text of a day stays.
         const int index = Start_Box(Cur_Month, Cur_Year) + date.day - 1;
         pending_texts_.at(static_cast<std::size_t>(index)) = parts.text;
     }
-    // A day that the date watch has not seen yet gets its alert from there, and not two.
+    // If the date timer has not noticed the new day yet, the timer will alert. Alerting here as well would
+    // show two alerts.
     if (Cur_Settings.Show_Alerts == 1 && !Alert_Done && date.day == today.day && date.month == today.month &&
         (date.year == today.year || date.year == every_year) && Date_Stamp(today) == date_stamp_)
         Show_Alert(today, parts.text);
@@ -79,15 +81,15 @@ void Main_Frm::Show_Saved_Event(const Date &date, std::string_view text) {
     const int index = Start_Box(Cur_Month, Cur_Year) + date.day - 1;
     if (date.year == Cur_Year)
         return Fill_Box(index, text);
-    // In another year the day has another event, or the same one when it is or was a yearly one.
+    // In another year the day may have a different event, or the same one if it is or was a yearly event.
     const Stored_Message message = Events.Get_Message(Date_Key({Cur_Year, date.month, date.day}));
     if (!message.incomplete)
         Fill_Box(index, message.text);
 }
 
 void Main_Frm::Show_Alert(const Date &today, std::string_view text) {
-    // Done before the user has answered: the month may be drawn again meanwhile, which must not show the
-    // alert once more, and at midnight the next day gets one of its own.
+    // Must come before the message box: a redraw during it must not alert again, and midnight resets the flag
+    // for the next day's alert.
     Alert_Done = true;
     Show_Pending_Texts();
     platform::Message_Box(Today_Text(today, text), platform::Box_Icon::Information);

@@ -1,4 +1,4 @@
-// What a theme pack gives the calendar: the wallpaper of the month, the box style and the position.
+// Applies a theme pack to the calendar: the wallpaper of the month, the box style and the position.
 #include "base/cut_text.h"
 #include "base/joined.h"
 #include "calendar/main_frm.h"
@@ -15,7 +15,7 @@
 
 namespace {
 
-constexpr std::int16_t stretched = 2; ///< display mode
+constexpr std::int16_t stretched = 2; ///< a display mode
 
 } // namespace
 
@@ -29,7 +29,7 @@ std::string Main_Frm::Get_Paper_Details(std::int16_t month, const std::string &p
         return Theme_Error;
     }
     tell(Joined({"Missing Theme ", pack, ". Themes will now be disabled."}));
-    // A store that takes no change lets it be told again, but not before the next start.
+    // If the store refuses, the message comes again, but not before the next start.
     Cur_Settings.Use_Themes = 0;
     Store_Setting(&Settings::Use_Themes);
     Set_Word_Wallpaper("", "");
@@ -45,8 +45,8 @@ void Main_Frm::Preview_Wallpaper_Stuff(const std::string &pack, std::int16_t mon
     const std::string details = Get_Paper_Details(month, pack);
     if (details == Theme_Error)
         return;
-    // What this month does not have is the user's own, and not that of the month or pack before. A bad number
-    // keeps nothing else of the pack away, and is told last.
+    // A missing or bad number leaves the user's own choice, not that of the previous month or pack. Reports
+    // the first one after everything else is applied.
     std::string fault;
     const auto number = [&](const std::string &text, const char *what,
                             const char *meanwhile = "Your own is used.") -> std::optional<std::int16_t> {
@@ -67,19 +67,19 @@ void Main_Frm::Preview_Wallpaper_Stuff(const std::string &pack, std::int16_t mon
         Theme_BoxStyle = number(Get_Paper_BoxStyle(details), "box style");
     if (shown.Use_Theme_Pos == 1)
         Theme_Pos = number(Get_Paper_Pos(details), "position");
-    // It would leave the calendar where the month or the pack before has put it.
+    // An invalid code would leave the calendar where the previous month or pack put it.
     if (Theme_Pos && !Is_Position(*Theme_Pos))
         Theme_Pos.reset();
     std::string path;
     try {
         path = Get_Paper_Path(month, pack);
-    } catch (const Error &error) { // it names the file
+    } catch (const Error &error) { // the error names the file
         throw Error(Joined(
             {Picture_Error_Text(month), "\r\n\r\n", error.what(), "\r\n\r\nThe desktop stays as it is."}));
     }
     if (path == Theme_Error)
         return;
-    // As every number that is no mode, a bad one is stretched.
+    // A bad number means stretched, as every number that is not a display mode does.
     const std::optional<std::int16_t> mode =
         shown.Use_Other_Display_Mode
             ? shown.Other_Display_Mode
@@ -89,7 +89,7 @@ void Main_Frm::Preview_Wallpaper_Stuff(const std::string &pack, std::int16_t mon
         throw Conversion_Error(fault);
 }
 
-// As long as no pack has told its own, the user's choice is the nearest.
+// Until a pack has set a value, these return the user's own choice.
 
 std::int16_t Main_Frm::Effective_Style() const {
     const Settings &shown = *Shown_Settings;

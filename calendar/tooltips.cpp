@@ -1,4 +1,4 @@
-// The balloon with a day's event.
+// The balloon with the event of a day.
 #include "calendar/main_frm.h"
 #include "core/settings.h"
 
@@ -22,7 +22,7 @@ void Main_Frm::Box_Mouse_Down(Mouse_Button button, int index, Point at) {
 void Main_Frm::Show_Box_Balloon(int index) {
     Tooltip_Box = static_cast<std::int16_t>(index);
     const Stored_Message message = Events.Get_Message(Date_Key(Date_Of_Box(index)));
-    // Reading may have told the user of a failure, in a box that took the mouse.
+    // Get_Message may have shown a message box, which takes the mouse and so counts as a release.
     if (!Balloon.Mouse_Released() && !message.text.empty())
         Balloon_Tooltip(index, message.text);
 }

@@ -1,10 +1,10 @@
-// The steps from the desktop window to the list of icons and inside. The shell's windows:
+// The shell's windows, in the order in which the form finds them:
 //
 //     the desktop window                Find_Desktop_Window
 //     the view's holder                 Holder_Of: the desktop window, or one that covers it
 //     +-- our form                      above the icons, once it is inside
-//     +-- the view of the desktop       Find_Shell_View
-//         +-- the list of icons         Find_Icon_List; tells the colours of its labels
+//     +-- the icon view                 Find_Shell_View
+//         +-- the list of icons         Find_Icon_List; gives the colours of its labels
 #include "desktop/attachment.h"
 
 #include "base/scoped_value.h"
@@ -14,12 +14,13 @@
 
 namespace {
 
-// For the shell's answer, in milliseconds: nobody waits long for a calendar to appear, and later it must not
-// feel slow.
+// Limits for the shell's answers, in milliseconds: long at the start, when the user waits for the calendar
+// anyway; short later, when a wait would make the calendar feel slow.
 constexpr unsigned first_patience = 1000;
 constexpr unsigned later_patience = 100;
 
-/// For a shell that is still to make its view, in milliseconds: at log-on it starts along with the calendar.
+/// How long a shell may take to make its view, in milliseconds. At log-on the shell starts along with the
+/// calendar.
 constexpr unsigned longest_start = 120'000;
 
 } // namespace
@@ -37,7 +38,7 @@ void Desktop_Attachment::Await_Shell() {
 }
 
 void Desktop_Attachment::Follow() {
-    // Questions to the shell may let news in that lead here.
+    // A question to the shell lets messages in, which may call Follow again.
     if ((!waiting_ && holder_ == 0) || attaching_)
         return;
     const platform::Shell_Window desktop = platform::Find_Desktop_Window();
@@ -56,19 +57,20 @@ void Desktop_Attachment::Follow() {
 }
 
 bool Desktop_Attachment::Handle_Window_Lost() {
-    // The desktop takes what is in it down before it is gone itself.
+    // If the holder is the desktop itself, the desktop is about to go as well: it destroys its children
+    // first.
     window_lost_ = waiting_ = std::exchange(holder_, 0) != std::exchange(desktop_, 0);
     wait_start_ = platform::Milliseconds();
     return window_lost_;
 }
 
-/// Returns whether a shell may be still to make its windows.
+/// Returns whether the shell may still be making its windows.
 bool Desktop_Attachment::Is_Early() const {
     return platform::Milliseconds() - wait_start_ < longest_start;
 }
 
-/// Looks for the view, with `patience` milliseconds for each of the shell's answers. Returns whether the form
-/// has gone into another window.
+/// Looks for the view; each answer of the shell may take `patience` milliseconds. Returns whether the form
+/// has moved into another window.
 bool Desktop_Attachment::Try_Attach(platform::Shell_Window desktop, unsigned patience) {
     const Scoped_Value looking(attaching_, true);
     const platform::Shell_Window view = platform::Find_Shell_View(desktop);
@@ -82,8 +84,8 @@ bool Desktop_Attachment::Try_Attach(platform::Shell_Window desktop, unsigned pat
         platform::Keep_Over_View(form_.Model(), view);
         return false;
     }
-    // Where there is no answer, the shell is hung or busy with its own start, and a window that moves now may
-    // hang with it. Until it answers the form stays where it is, and keeps the colours it has.
+    // Without an answer the shell is hung or busy with its own start, and moving the form now might hang the
+    // calendar with it. Until the shell answers, the form keeps its place and colours.
     const auto colours = platform::Icon_Label_Colours(list, patience);
     if (!colours)
         return false;

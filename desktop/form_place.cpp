@@ -1,4 +1,3 @@
-// Placing a form, and bringing it back.
 #include "desktop/form_place.h"
 
 #include "core/convert.h"
@@ -23,7 +22,7 @@ void Form_Place::Move_To(std::int16_t code, int lowest_box_bottom, Point kept) {
 }
 
 void Form_Place::Restore_Position() {
-    if (form_.Requested_Position() != shown_) // by the user
+    if (form_.Requested_Position() != shown_) // the user has moved the form
         home_ = shown_ = form_.Requested_Position();
     const Point seen = Visible_Place();
     if (seen == shown_)
@@ -32,7 +31,7 @@ void Form_Place::Restore_Position() {
     form_.Move(seen.x, seen.y);
 }
 
-/// Returns the form's place, or the one nearest to it that is seen.
+/// Returns the form's place, or the nearest one that a monitor shows.
 Point Form_Place::Visible_Place() const {
     const Rect home{home_.x, home_.y, form_.Width(), form_.Height()};
     return Place_In_Sight(home, Pixels_To_Twips(platform::Work_Area_Of(Twips_To_Pixels(home))));

@@ -1,4 +1,3 @@
-// The arithmetic of the positions.
 #include "desktop/position.h"
 
 #include "core/convert.h"
@@ -10,17 +9,17 @@
 
 namespace {
 
-constexpr std::int64_t bottom_margin = 75; // twips: five pixels at 96 dots per inch
+constexpr std::int64_t bottom_margin = 75; // twips: five pixels at 96 DPI
 constexpr int whole = 100;
 
 int Fit_Int32(std::int64_t value) {
     if (value < std::numeric_limits<std::int32_t>::min() || value > std::numeric_limits<std::int32_t>::max())
-        throw Conversion_Error("The place of the calendar on the screen does not fit a 32-bit number.");
+        throw Conversion_Error("The position of the calendar does not fit into a 32-bit number.");
     return static_cast<int>(value);
 }
 
-/// One coordinate, where the calendar takes `taken` of the work area's `length`. The fraction is dropped,
-/// also of a window larger than the work area.
+/// Returns one coordinate of a calendar that takes `taken` of the work area's `length`. Drops the fraction,
+/// even if the calendar is larger than the work area.
 int Coordinate(std::int64_t begin, std::int64_t length, std::int64_t taken, int hundredths) {
     const std::int64_t free = Fit_Int32(length - taken);
     return Fit_Int32(begin + free * hundredths / whole);
@@ -35,7 +34,7 @@ std::optional<Point> Position_Of(std::int16_t code, const Placement &placement) 
         return placement.manual;
     const Position &position = Positions[code];
     const Rect &work = placement.work_area;
-    // The window's own lower edge lies below the last week of most months, where nothing is seen of it.
+    // At the bottom, the lowest row of boxes counts: the window's own lower edge is below it in most months.
     const std::int64_t height =
         position.above == whole ? bottom_margin + placement.lowest_box_bottom : placement.form.height;
     return Point{Coordinate(work.left, work.width, placement.form.width, position.left),
@@ -45,7 +44,7 @@ std::optional<Point> Position_Of(std::int16_t code, const Placement &placement) 
 Point Place_In_Sight(const Rect &place, const Rect &work_area) {
     if (work_area.Intersects(place))
         return {place.left, place.top};
-    // Of a window larger than the work area the beginning counts.
+    // If the window is larger than the work area, its left and top edges stay visible.
     return {std::max(work_area.left, std::min(place.left, work_area.Right() - place.width)),
             std::max(work_area.top, std::min(place.top, work_area.Bottom() - place.height))};
 }

@@ -1,4 +1,3 @@
-// The region of a form's visible controls.
 #include "desktop/region.h"
 
 #include <utility>

@@ -1,4 +1,4 @@
-// The part of a form that is seen on the desktop.
+// The visible region of a form on the desktop.
 #pragma once
 
 #include "toolkit/form.h"

@@ -1,4 +1,3 @@
-// The display modes as the system keeps them.
 #include "desktop/wallpaper.h"
 
 #include "platform/registry.h"
@@ -9,13 +8,13 @@
 
 namespace {
 
-/// Where the system keeps the current user's wallpaper and its display mode.
+/// The system's key for the current user's wallpaper and its display mode.
 constexpr const char *Desktop_Key = "Control Panel\\Desktop";
-/// Where the program keeps it as long as it shows others.
+/// The program's key for the user's wallpaper while a preview shows others.
 constexpr const char *kept_key = "Software\\Vellatro\\Preview";
 constexpr const char *unknown = "UNKNOWN";
 
-/// The names of the system's values, which those of the store bear, too.
+/// The system's values. The program's key uses the same names.
 constexpr std::pair<const char *, std::string User_Wallpaper::*> values[] = {
     {"TileWallpaper", &User_Wallpaper::tiled},
     {"WallpaperStyle", &User_Wallpaper::style},
@@ -41,7 +40,7 @@ void Set_Display_Mode_Wallpaper(const std::string &path, std::int16_t display_mo
         }
         Set_Word_Wallpaper(path, word);
     } catch (const std::exception &) {
-        // A wallpaper that does not change is seen; it is not worth a message.
+        // The user sees that the wallpaper does not change: no message is needed.
     }
 }
 
@@ -68,7 +67,7 @@ User_Wallpaper Find_User_Wallpaper() {
 
 void Restore_User_Wallpaper(const User_Wallpaper &wallpaper) {
     for (const auto &[name, member] : values)
-        // What was not there before is written as what the system takes it for.
+        // A value that was missing before gets the system's default.
         if (member != &User_Wallpaper::path)
             platform::Registry_Write_String(platform::Find_Registry_Root("HKCU"), Desktop_Key, name,
                                             wallpaper.*member == unknown ? "0" : wallpaper.*member);
@@ -80,10 +79,10 @@ void Save_User_Wallpaper(const User_Wallpaper &wallpaper, const std::string &pac
         for (const auto &[name, member] : values)
             platform::Write_User_Value(kept_key, name, wallpaper.*member);
         platform::Write_User_Value(kept_key, "Monitors", wallpaper.monitors);
-        // Last: before it, what is kept is not whole.
+        // The pack comes last: it marks the kept wallpaper as complete.
         platform::Write_User_Value(kept_key, "Pack", pack);
     } catch (const std::exception &) {
-        // It is there all the same, unless the program is ended by force.
+        // The preview still restores the wallpaper, unless the program is killed.
     }
 }
 

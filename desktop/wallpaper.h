@@ -1,4 +1,5 @@
-// Hanging up a wallpaper: the system's values for its display mode, then the picture itself.
+// Sets the wallpaper: first the system's values for its display mode, then the picture. Also keeps the user's
+// own wallpaper while the program shows others.
 #pragma once
 
 #include <cstdint>
@@ -6,29 +7,29 @@
 #include <string_view>
 #include <utility>
 
-/// Hangs the bitmap at `path` up in a display mode: 0 centred, 1 tiled, 2 stretched, as is every other
-/// number. Errors are silent.
+/// Makes the bitmap at `path` the wallpaper, in a display mode: 0 centred, 1 tiled, 2 and every other number
+/// stretched. Failures are silent.
 void Set_Display_Mode_Wallpaper(const std::string &path, std::int16_t display_mode) noexcept;
 
-/// The same by the mode's word: "CENTER", "TILED", "STRETCH", as which every other word counts. An empty
-/// path takes the wallpaper away.
+/// Makes the bitmap at `path` the wallpaper, in the mode "CENTER", "TILED" or "STRETCH"; every other word
+/// means "STRETCH". An empty path removes the wallpaper.
 void Set_Word_Wallpaper(const std::string &path, std::string_view mode_word);
 
-/// A user's own wallpaper.
+/// The wallpaper that the user has chosen in the system.
 struct User_Wallpaper {
-    std::string path, style, tiled; ///< the system's values; "UNKNOWN": there is none
+    std::string path, style, tiled; ///< the system's values; "UNKNOWN": missing
     std::string monitors;           ///< the text of platform::Wallpaper_Of_Monitors
 };
 
-/// Returns what hangs now, with the path of a copy where the system is going to write over the file.
+/// Returns the current wallpaper. If the system is going to overwrite its file, `path` is that of a copy.
 User_Wallpaper Find_User_Wallpaper();
 
-/// Hangs it up again.
+/// Restores this wallpaper.
 void Restore_User_Wallpaper(const User_Wallpaper &wallpaper);
 
-/// Keeps it in the store for a next start, together with the name of the pack that hangs meanwhile, or, with
-/// an empty name, keeps nothing any more. A store that refuses keeps nothing.
+/// Stores the wallpaper for the next start, with the name of the pack that is shown instead. An empty name
+/// discards the stored one. Failures are silent.
 void Save_User_Wallpaper(const User_Wallpaper &wallpaper, const std::string &pack) noexcept;
 
-/// Returns what is kept; an empty name of a pack: nothing.
+/// Returns the stored wallpaper and the pack; an empty pack name means that nothing is stored.
 std::pair<User_Wallpaper, std::string> Load_User_Wallpaper();

@@ -1,4 +1,3 @@
-// What the event editor does, and where its controls are.
 #include "editor/edit_frm.h"
 
 #include "base/joined.h"
@@ -16,7 +15,7 @@ using platform::Box_Answer;
 namespace {
 
 constexpr int text_width = 370 * 15;
-constexpr int text_room = 200; ///< characters that are seen at once, also wide ones
+constexpr int text_room = 200; ///< characters visible at once, even the widest
 constexpr int text_frame = 8 * 15;
 constexpr int scroll_bar = 17 * 15;
 constexpr int title_bar = 40 * 15; ///< with the frame, estimated
@@ -39,13 +38,13 @@ Edit_Frm::Edit_Frm(Main_Frm &calendar) : Form(platform::Form_Kind::Dialog, "Edit
 
 void Edit_Frm::Edit_Box(int index) {
     const Date day = calendar_.Date_Of_Box(index);
-    // While a question of the editor is open its answer goes first.
+    // An open question of the editor must be answered first.
     if (busy_ || day.day < 1 || day.day > DaysInMonth({day.year, day.month, 1}))
         return;
     if (!Confirm_Leave())
         return;
     day_ = day;
-    // Only a new window starts afresh: an open one keeps the tick of its former day.
+    // An editor that is already open keeps its tick for the next day.
     if (!Visible())
         Every_Year_Chk.Set_Checked(false);
     Fill();
@@ -69,7 +68,7 @@ void Edit_Frm::Fill() {
     Message_Txt.Set_Text(message.text);
 }
 
-/// False: the editor stays on its day, by the user's will or because the text was refused.
+/// Returns false if the editor stays on its day: the user cancelled, or the text was refused.
 bool Edit_Frm::Confirm_Leave() {
     if (!Visible() || !Apply_Btn.Enabled())
         return true;
@@ -91,7 +90,7 @@ bool Edit_Frm::Offer_To_Save() {
         return false;
     if (!Confirm_Leave())
         return false;
-    // Dropped text must not be offered once more, should something else keep the program from ending.
+    // Unloads, so that the dropped text is not offered again if something else keeps the program from ending.
     if (Visible() && Apply_Btn.Enabled())
         Form_Unload();
     return true;
@@ -102,7 +101,7 @@ void Edit_Frm::Save_Without_Asking() {
         Apply_Btn_Click();
 }
 
-/// The user goes on in the open editor.
+/// Returns the user to the open editor.
 void Edit_Frm::Return_To_Editor() {
     Bring_To_Front();
     Set_Focus(Message_Txt);
@@ -131,12 +130,13 @@ bool Edit_Frm::Apply_Btn_Click() {
     return true;
 }
 
-/// Stores the text for the day. False when that failed, which the user has been told.
+/// Stores the text for the day. Returns false if that failed, after a message to the user.
 bool Edit_Frm::Save(const std::string &text) {
     Event_Store &events = calendar_.Events;
     const Undo_Log::Change change(events.Changes, Change_Name("Edit", day_));
     events.Load_File();
-    // What the day had may not be here: it would go unseen, also when the file can be read by now.
+    // Fill could not read the whole file, so the day may have an event that the user has not seen. Saving
+    // would replace it, even if the file can be read by now.
     return load_incomplete_ ? Event_Store::Show_Save_Error()
                             : events.Check_For_Pre(Date_Key(day_), text, Every_Year_Chk.Checked());
 }
@@ -187,7 +187,8 @@ void Edit_Frm::Lay_Out() {
     Resize(2 * margin + text_width, rows.Top() + button_height + margin);
 }
 
-/// Below the box, or above it where there is no room below. The platform keeps the window on the screen.
+/// Places the editor below the box, or above it if it fits only there. The platform keeps the window on the
+/// screen.
 void Edit_Frm::Place_Near(const Control &box) {
     const Rect area =
         platform::Work_Area_Around({Twips_To_Pixels(calendar_.Left() + box.Left() + box.Width() / 2),

@@ -1,4 +1,3 @@
-// The page "About": its drawing, its link, and where its controls are.
 #include "settings/about_page.h"
 
 #include "platform/screen.h"
@@ -8,15 +7,15 @@ using namespace layout;
 
 namespace {
 
-/// The author's page, as long as it has no address of its own: a name that is reserved for examples.
+/// A placeholder for the address of the author's page: a name that is reserved for examples.
 constexpr const char *web_page = "https://vellatro.example/";
 
-/// Readable on light and on dark backgrounds, which the system's own colour of links is not everywhere.
+/// Readable on light and on dark backgrounds, unlike the link colour of some systems.
 constexpr Colour link_colour = Rgb(0x00, 0x66, 0xCC);
 constexpr Colour contrast_link = System_Colour(26);
 constexpr platform::Font name_font{200, true};
 constexpr int logo_width = 48 * 15;
-constexpr int link_margin = 3 * 15; ///< for the mark of the keyboard
+constexpr int link_margin = 3 * 15; ///< room for the keyboard's mark
 
 } // namespace
 
@@ -29,7 +28,7 @@ About_Page::About_Page(Frame &frame) : Page(frame) {
     for (Label *label : {&Name_Lbl, &Version_Lbl, &Designed_Lbl})
         label->Set_Align(platform::Text_Align::Centre, false);
     Link_Lbl.Set_Caption(web_page);
-    Link_Lbl.Set_Visible(false); // it would lead nowhere
+    Link_Lbl.Set_Visible(false); // the address is a placeholder
     Link_Lbl.Set_Fore_Colour(platform::High_Contrast() ? contrast_link : link_colour);
     Link_Lbl.Set_Transparent(true);
     Link_Lbl.Set_Align(platform::Text_Align::Centre, false);
@@ -46,7 +45,7 @@ About_Page::About_Page(Frame &frame) : Page(frame) {
                             Link_Lbl.Fore_Colour());
     };
     Link_Lbl.On_Click = [] { gotoweb(); };
-    Link_Lbl.On_Double_Click = [] {}; // once is enough
+    Link_Lbl.On_Double_Click = [] {}; // the first click has opened the page
     Link_Lbl.On_Default_Action = [] { gotoweb(); };
     Lay_Out();
 }
@@ -62,7 +61,7 @@ void About_Page::Lay_Out() {
     rows.Add(Name_Lbl);
     rows.Add(Version_Lbl, 2 * margin);
     rows.Add(Designed_Lbl, margin);
-    // Hardly wider than its text: beside it nothing is clicked.
+    // Little wider than its text: a click beside the text does nothing.
     const int width = platform::Text_Width(web_page, Link_Lbl.Font()) + 2 * link_margin;
     Link_Lbl.Move({(page_width - width) / 2, rows.Top(), width, Designed_Lbl.Height() + small_gap});
 }

@@ -1,4 +1,4 @@
-// The page "About" of the settings dialog: what the program is called, and the way to its page in the web.
+// The "About" page of the settings dialog: the program's name and version, and the link to its web page.
 #pragma once
 
 #include "settings/page.h"
@@ -8,12 +8,12 @@ public:
     explicit About_Page(Frame &frame);
     void Lay_Out() override;
 
-    /// Opens the author's page in the user's browser. A failure is not told.
+    /// Opens the author's page in the user's browser. Failures are silent.
     static void gotoweb();
 
     Picture_Box Logo_Pic{frame_, "Logo_Pic"};
     Label Name_Lbl{frame_, "Name_Lbl", "Vellatro"};
     Label Version_Lbl{frame_, "Version_Lbl", "v0.3b"};
     Label Designed_Lbl{frame_, "Designed_Lbl", "Designed for Win 98 and 2k."};
-    Picture_Box Link_Lbl{frame_, "Link_Lbl"}; ///< a text that can be clicked, also by the keyboard
+    Picture_Box Link_Lbl{frame_, "Link_Lbl"}; ///< a text that works as a link, also by keyboard
 };

@@ -1,4 +1,4 @@
-// Where the controls of the page "Colours" are.
+// Places the controls of the "Colours" page.
 #include "calendar/box_layout.h"
 #include "settings/colours_page.h"
 #include "settings/palette.h"
@@ -10,7 +10,7 @@ using namespace layout;
 
 namespace {
 
-constexpr int left_width = 2400; ///< of the column with the swatches
+constexpr int left_width = 2400; ///< width of the column with the swatches
 constexpr int swatch_row = 19 * 15;
 constexpr int swatch_height = 17 * 15;
 constexpr int swatch_width = 36 * 15;
@@ -18,7 +18,7 @@ constexpr int group_margin = 7 * 15;
 constexpr int value_label_width = 41 * 15;
 constexpr int gradient_width = 16 * 15;
 constexpr int value_rows = 3;
-constexpr int around_text = 8; ///< pixels of a field above and below its text together
+constexpr int around_text = 8; ///< pixels between a field's edges and its text, above and below together
 
 } // namespace
 
@@ -59,13 +59,14 @@ void Colours_Page::Lay_Out_Palette() {
     const int height = Default_Cols_Btn.Bounds().Bottom();
     Palette_Fra.Move({left, 0, width, height});
 
-    // The palette has what the values leave.
+    // The palette gets the height that the values leave.
     constexpr int values_height = (value_rows + 1) * (row_height + small_gap);
     const int values_top = height - margin + small_gap - values_height;
     Rows values{margin, values_top, width - 2 * margin};
     for (int i = 0; i < value_rows; ++i) {
         values.Add_Pair(txCol_Lbl[i], value_label_width, txCol[i], small_gap);
-        // A field draws its text some pixels below its top, whatever the dots per inch.
+        // At any DPI, a field draws its text a fixed number of pixels below its top. Fits the field to its
+        // text.
         Rect place = txCol[i].Bounds();
         const int text_height = platform::Line_Height(txCol[i].Font()) + Pixels_To_Twips(around_text);
         const int spare = std::max(0, place.height - text_height);
@@ -93,7 +94,7 @@ void Colours_Page::Lay_Out_Preview() {
     const int height = Pixels_To_Twips(square.Box(0).height);
     Preview_Fra.Move({0, top, page_width, group_top + height + 2 * backdrop + group_margin});
 
-    // Title, today's box and a thin one stand as in the calendar, and the square one at the right edge.
+    // The title, today's box and a thin box are placed as in the calendar, the square box at the right edge.
     const Rect origin = thin.Previous_Arrow();
     const int first_left = margin + backdrop;
     const int first_top = group_top + backdrop;

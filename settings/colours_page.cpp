@@ -1,5 +1,5 @@
-// The page "Colours": its swatches, the picking of a colour, and the preview. Where its controls are is in
-// colours_layout.cpp.
+// The behaviour of the "Colours" page: its swatches, the picking of a colour, and the preview.
+// colours_layout.cpp places its controls.
 #include "settings/colours_page.h"
 
 #include "base/twips.h"
@@ -22,8 +22,8 @@ using platform::Mouse_Button;
 
 namespace {
 
-constexpr int first_menu_swatch = 4; ///< Back and Fore: those of the title and the headers
-constexpr int big_step = 10;         ///< pixels of the cross-hair with the Shift key
+constexpr int first_menu_swatch = 4; ///< Back and Fore: the colours of the title and the headers
+constexpr int big_step = 10;         ///< pixels by which an arrow key with Shift moves the cross-hair
 
 struct Rgb_Parts {
     int red;
@@ -37,7 +37,8 @@ Rgb_Parts Parts_Of(Colour colour) {
     return {colour - blue * 65536 - green * 256, green, blue};
 }
 
-/// One part of the web-style text. Uneven on purpose: one digit is filled up with a zero, one letter is not.
+/// Returns one channel of the web text. Uneven on purpose: a zero pads a single digit, but not a single
+/// letter.
 std::string Web_Part(int part) {
     constexpr const char *digits = "0123456789ABCDEF";
     if (part >= 16)
@@ -50,14 +51,14 @@ std::string Web_Text(Colour colour) {
     return "#" + Web_Part(parts.red) + Web_Part(parts.green) + Web_Part(parts.blue);
 }
 
-/// The three parts as numbers, with a text before each.
+/// Returns the three channels as numbers, each after its text.
 std::string Parts_Text(Colour colour, const char *red, const char *green, const char *blue) {
     const Rgb_Parts parts = Parts_Of(colour);
     return red + std::to_string(parts.red) + green + std::to_string(parts.green) + blue +
            std::to_string(parts.blue);
 }
 
-/// As it is read aloud.
+/// Returns the colour in words for assistive technology.
 std::string Spoken_Colour(Colour colour) {
     return Parts_Text(platform::Resolve_Colour(colour), "red ", ", green ", ", blue ");
 }
@@ -110,7 +111,7 @@ void Colours_Page::Wire_Palette() {
     Pal.On_Paint = [this](platform::Canvas &canvas) { Paint_Palette(canvas); };
     Gradient_Pic.On_Paint = [this](platform::Canvas &canvas) { Paint_Gradient(canvas); };
     Pal.On_Mouse_Move = [this](Mouse_Button held, Point at) { Pal_MouseMove(held, at); };
-    // A press can come without a move before it.
+    // A press may come without a move before it.
     Pal.On_Mouse_Down = [this](Mouse_Button, Point at) {
         Move_Cross(Pixel_At(at));
         ShowGradient(Cross_Colour());
@@ -119,7 +120,7 @@ void Colours_Page::Wire_Palette() {
         Move_Cross(Pixel_At(at));
         ShowColors(Cross_Colour());
     };
-    // From the mouse, which has taken the cross-hair along, or from the keyboard.
+    // A click of the mouse, which has moved the cross-hair, or of the keyboard.
     Pal.On_Click = [this] {
         ShowColors(Cross_Colour());
         Pal_Click();
@@ -191,7 +192,7 @@ void Colours_Page::ShowColors(Colour colour) {
     txCol[0].Set_Text(std::to_string(colour));
     txCol[1].Set_Text(Web_Text(colour));
     txCol[2].Set_Text(Parts_Text(colour, "", ",", ","));
-    // A colour with two names keeps the one that was chosen.
+    // If a colour has two names, the chosen one stays selected.
     const auto names = Named_Colours();
     const int chosen = Names_Cbo.Selected();
     if (chosen == -1 || names[static_cast<std::size_t>(chosen)].Colour() != colour)
@@ -205,7 +206,7 @@ void Colours_Page::ShowGradient(Colour colour) {
     Gradient_Pic.Repaint();
 }
 
-/// Of the palette's own pixels, however large those of the dialog's screen are now.
+/// Returns the pixel of palette_ at a point of the control (twips), at any DPI of the screen.
 Point Colours_Page::Pixel_At(Point at) const {
     return {Scale_Nearest(at.x, palette_.width, std::max(Pal.Width(), 1)),
             Scale_Nearest(at.y, palette_.height, std::max(Pal.Height(), 1))};
@@ -228,8 +229,8 @@ void Colours_Page::Pal_MouseMove(Mouse_Button held, Point at) {
         Move_Cross(Pixel_At(at));
         ShowGradient(Cross_Colour());
     }
-    // Not again for the moves that come up then: while the mouse moves fast there would be no end. What is
-    // done may end the page, too, so nothing of it is used afterwards.
+    // Does not nest: fast mouse moves would process messages without end. A message may destroy the page, so
+    // nothing of the page is used afterwards.
     const std::shared_ptr<bool> pending = pending_;
     if (std::exchange(*pending, true))
         return;
@@ -252,12 +253,12 @@ void Colours_Page::Pal_Click() {
     const std::string &shown = txCol[0].Text();
     Colour colour = 0;
     if (std::from_chars(shown.data(), shown.data() + shown.size(), colour).ec != std::errc{})
-        return; // nothing has been shown yet
+        return; // no colour has been shown yet
     Set_Swatch(selector_, colour);
     Recolour_Preview();
 }
 
-/// A name gives its colour to the selected swatch, as a click on the palette does.
+/// Gives the chosen name's colour to the selected swatch, as a click on the palette does.
 void Colours_Page::Names_Cbo_Click() {
     ShowColors(Named_Colours()[static_cast<std::size_t>(Names_Cbo.Selected())].Colour());
     Pal_Click();
@@ -278,7 +279,7 @@ void Colours_Page::Enable_Menu_Swatches(bool enabled) {
         swatches_[i].picture->Set_Enabled(enabled);
         swatches_[i].picture->Repaint();
     }
-    // The palette writes to no swatch that cannot be selected.
+    // The palette must not change a disabled swatch.
     if (!enabled && selector_ >= first_menu_swatch)
         Select(0);
     Recolour_Preview();
@@ -312,7 +313,7 @@ void Colours_Page::Recolour_Preview() {
     Preview_Style1_Lbl.Set_Back_Colour(normal);
     for (Label *box : {&Preview_Today_Lbl, &Preview_Style0_Lbl, &Preview_Style1_Lbl})
         box->Set_Fore_Colour(num);
-    // The texts lie over their boxes as windows of their own, which nothing shines through.
+    // Each text is a window of its own over its box, and cannot be transparent.
     Preview_Caption_Today_Lbl.Set_Back_Colour(today);
     Preview_Caption0_Lbl.Set_Back_Colour(normal);
     Preview_Caption1_Lbl.Set_Back_Colour(normal);
@@ -328,7 +329,7 @@ void Colours_Page::Recolour_Preview() {
 void Colours_Page::Paint_Swatch(int index, platform::Canvas &canvas) {
     const Picture_Box &picture = *swatches_[static_cast<std::size_t>(index)].picture;
     const Rect all{0, 0, picture.Width(), picture.Height()};
-    // Half of a colour that is not in use is covered.
+    // Covers half of a colour that is not in use.
     if (!picture.Enabled())
         platform::Fill_Polygon(canvas, {{all.width, 0}, {all.width, all.height}, {0, all.height}},
                                face_colour);
@@ -339,7 +340,7 @@ void Colours_Page::Paint_Swatch(int index, platform::Canvas &canvas) {
 
 void Colours_Page::Paint_Palette(platform::Canvas &canvas) {
     platform::Draw_Picture(canvas, palette_, {0, 0, Pal.Width(), Pal.Height()});
-    // The cross-hair: a dark frame around a light one, which leaves the pixel itself to be seen.
+    // The cross-hair is a dark frame around a light one. The picked pixel stays visible inside.
     int reach = 4;
     for (const Colour colour : {Rgb(0, 0, 0), Rgb(255, 255, 255)}) {
         const Rect frame{cross_.x - reach, cross_.y - reach, 2 * reach + 1, 2 * reach + 1};
@@ -349,7 +350,7 @@ void Colours_Page::Paint_Palette(platform::Canvas &canvas) {
 }
 
 void Colours_Page::Paint_Gradient(platform::Canvas &canvas) {
-    // From white above, as the palette is.
+    // White is at the top, as in the palette.
     const int last = std::max(Twips_To_Pixels(Gradient_Pic.Height()) - 1, 1);
     const int width = Twips_To_Pixels(Gradient_Pic.Width());
     for (int y = 0; y <= last; ++y)

@@ -1,5 +1,5 @@
-// The page "Colours" of the settings dialog: the calendar's six colours, a palette to pick them from, and a
-// preview. What it holds goes into the settings elsewhere (saving.cpp).
+// The "Colours" page of the settings dialog: the calendar's six colours, a palette to pick them from, and a
+// preview. saving.cpp stores the choices.
 #pragma once
 
 #include "platform/pictures.h"
@@ -19,13 +19,13 @@ public:
     void Write_To(Settings &settings) const override;
     void Lay_Out() override;
 
-    /// Takes the mark from all six labels.
+    /// Shows all six labels in regular weight.
     void Reset_Labels();
-    /// Shows a colour as numbers and in the list of names. Of a system colour the colour that it is now is
-    /// shown; the swatch that holds it keeps holding the system colour.
+    /// Shows a colour as numbers and by its name. Shows a system colour by its current value; the swatch
+    /// keeps the system colour.
     void ShowColors(Colour colour);
-    /// Shows the strip from black over the colour to white beside the palette. The colour counts as shown,
-    /// so that the one under the mouse is the one that its release picks.
+    /// Shows a strip beside the palette, from black over the colour to white. Also shows the colour as
+    /// ShowColors does, so that a release of the mouse picks the colour under it.
     void ShowGradient(Colour colour);
     void Pal_MouseMove(platform::Mouse_Button held, Point at);
     /// Gives the colour shown last to the selected swatch.
@@ -54,11 +54,11 @@ public:
     Frame Palette_Fra{frame_, "Palette_Fra", "Palette"};
     Picture_Box Pal{Palette_Fra, "Pal"};
     Picture_Box Gradient_Pic{Palette_Fra,
-                             "Gradient_Pic"}; ///< seen while a mouse button is held over the palette
+                             "Gradient_Pic"}; ///< visible while a mouse button is held over the palette
     Control_Array<Label, 3> txCol_Lbl;
     Control_Array<Text_Box, 3> txCol{Palette_Fra, "txCol", txCol_Lbl, "txCol_Lbl"};
     Label Names_Lbl{Palette_Fra, "Names_Lbl", "&Name:"};
-    Combo_Box Names_Cbo{Palette_Fra, "Names_Cbo"}; ///< the colours that have a name
+    Combo_Box Names_Cbo{Palette_Fra, "Names_Cbo"}; ///< the colours that have names
     Frame Preview_Fra{frame_, "Preview_Fra", "Preview"};
     Picture_Box Preview_Back_Pic{Preview_Fra, "Preview_Back_Pic"}; ///< the desktop behind the calendar
     Label Preview_Prev_Lbl{Preview_Fra, "Preview_Prev_Lbl"};
@@ -71,7 +71,7 @@ public:
     Label Preview_Caption1_Lbl{Preview_Fra, "Preview_Caption1_Lbl", "Event"};
 
 private:
-    /// One colour: its controls and its setting.
+    /// One of the calendar's colours: the label and the picture that show it, and its setting.
     struct Swatch {
         Label *label;
         Picture_Box *picture;
@@ -100,12 +100,12 @@ private:
     void Lay_Out_Preview();
 
     Main_Frm &calendar_;
-    std::array<Swatch, colour_count> swatches_; ///< in the order of the selector
-    std::int16_t selector_ = 0;                 ///< index of the swatch that takes what is picked
+    /// Indexed by selector_.
+    std::array<Swatch, colour_count> swatches_;
+    std::int16_t selector_ = 0; ///< index of the swatch that gets the picked colour
     Picture palette_;
-    Point cross_; ///< pixels on the palette: what the keyboard picks
+    Point cross_; ///< the pixel of the palette that the keyboard picks
     Colour gradient_ = 0;
-    /// Messages are being processed within a move of the mouse. Not a plain member: the page may be gone when
-    /// they are.
+    /// Set while a mouse move processes messages. Shared, because the page may be destroyed meanwhile.
     std::shared_ptr<bool> pending_ = std::make_shared<bool>(false);
 };

@@ -1,4 +1,3 @@
-// The wording of the overview's lines.
 #include "settings/event_overview.h"
 
 #include "base/cut_text.h"

@@ -1,14 +1,14 @@
-// The overview of all events: the line that shows one. The list box that holds the lines is in events_page.h,
-// the reading and sorting in core/event_entries.h.
+// The lines of the overview of all events. events_page.h has the list box, core/event_entries.h reads and
+// sorts the events.
 #pragma once
 
 #include "core/event_entries.h"
 
 #include <string>
 
-/// The line of an event: its date in the user's short form, the separator and the text, in which every line
-/// end or other control character is a blank.
+/// Returns the line of an event: its date in the user's short form, the separator and the text. Line endings
+/// and other control characters become spaces.
 std::string Overview_Line(const Event &entry);
 
-/// "12 days" from today to the event, with a "-" for a past one.
+/// Returns the days from today to the event: "12 days", or "-12 days" for a past event.
 std::string Countdown_Text(const Event &entry, const Date &today);

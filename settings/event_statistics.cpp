@@ -1,4 +1,3 @@
-// Counting events.
 #include "settings/event_statistics.h"
 
 #include <limits>

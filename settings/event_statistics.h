@@ -1,4 +1,4 @@
-// The counts of events on the Events page. The labels that show them are in events_page.h.
+// The counts of events on the "Events" page. events_page.h has the labels that show them.
 #pragma once
 
 #include "core/date.h"
@@ -7,9 +7,9 @@
 #include <array>
 #include <cstdint>
 
-/// How many events there are. A counter that is full stays at its greatest value.
+/// The counts of events. A counter stops at its maximum.
 struct Event_Statistics {
-    std::int16_t total = 0; ///< this and the next three count no yearly events
+    std::int16_t total = 0; ///< this counter and the next three leave out yearly events
     std::int16_t this_year = 0;
     std::int16_t future = 0; ///< later than today
     std::int16_t past = 0;
@@ -17,5 +17,5 @@ struct Event_Statistics {
     friend bool operator==(const Event_Statistics &, const Event_Statistics &) = default;
 };
 
-/// Counts one event in.
+/// Adds one event to the counts.
 void Workout_Stats(Event_Statistics &statistics, const Event_Entry &entry, const Date &today);

@@ -1,4 +1,4 @@
-// What the Events page does, and where its controls are.
+// The behaviour and the layout of the "Events" page.
 #include "settings/events_page.h"
 
 #include "platform/files.h"
@@ -14,13 +14,13 @@ using namespace layout;
 
 namespace {
 
-/// A list or counts that are not whole must not look so. There is no message box for it: every choice on the
-/// page reads the file, and each would bring another one.
+/// Shows in the frame's title whether its list or counts are incomplete. A message box would appear for every
+/// choice on the page, because each choice reads the file.
 void Title_Frame(Frame &frame, Read_Result result) {
     frame.Set_Caption(result == Read_Result::Incomplete ? "Error loading in data file." : "Events");
 }
 
-/// Places a label in one of several columns, by its number.
+/// Places a label in a grid of `columns` columns.
 void Place(Label &label, int index, int columns) {
     const int line = platform::Line_Height(label.Font());
     const int width = inner_width / columns;
@@ -76,7 +76,7 @@ Read_Result Events_Page::Load_Dates() {
 }
 
 void Events_Page::Write_Labels() {
-    // As seen from the events: today is before the future ones.
+    // Seen from the events: today is before the future ones.
     Total_All_Lbl.Set_Caption("Total Events: " + std::to_string(statistics_.total));
     Total_Year_Lbl.Set_Caption("Events This Year: " + std::to_string(statistics_.this_year));
     Before_Lbl.Set_Caption("No. Before Today: " + std::to_string(statistics_.future));
@@ -152,8 +152,7 @@ void Events_Page::Sort_List(Read_Result result) {
 }
 
 void Events_Page::Events_Lst_Click() {
-    // The line's own record knows its date: no short form has to be read back, which may hold blanks and only
-    // two digits of the year.
+    // Uses the date of the line's entry. The date in the line's text may have spaces and a two-digit year.
     const int index = Events_Lst.Selected();
     Countdown_Lbl.Set_Caption(
         index == -1 ? std::string() : Countdown_Text(Dates_Lst[static_cast<std::size_t>(index)], Today()));
@@ -172,29 +171,29 @@ void Events_Page::Events_Lst_DblClick() {
     const platform::Box_Answer answer =
         platform::Message_Box("Do you really want to remove the event..\r\n\r\n" + asked,
                               platform::Box_Icon::Question, platform::Box_Buttons::Yes_No_Cancel);
-    // The events may have been listed anew under the question.
+    // The list may have been filled again while the question was open.
     const std::vector<std::string> &lines = Events_Lst.Items();
     if (line >= lines.size() || lines[line] != asked)
         line = static_cast<std::size_t>(std::ranges::find(lines, asked) - lines.begin());
     if (answer != platform::Box_Answer::Yes || line == lines.size() || !Remove_Event(line))
         return;
-    // The line that is in its place now is the selected one, for who goes on by keyboard.
+    // Selects the next line, for a user who continues by keyboard.
     Events_Lst.Select(std::min(static_cast<int>(line), static_cast<int>(lines.size()) - 1));
     Events_Lst_Click();
-    // A compact calendar shows no event; it lays its month out anew when it expands.
+    // A compact calendar shows no events. It lays out its month when it expands.
     if (!calendar_.Compacted)
         calendar_.Redraw();
 }
 
-/// Removes the event of the line, and that one alone, from the data file and the line from the list. False:
-/// it is still in both, which the user has been told.
+/// Removes the line and its event from the list and from the data file, and no other event. Returns false if
+/// both still have it, after a message to the user.
 bool Events_Page::Remove_Event(std::size_t line) {
     Event_Store &events = calendar_.Events;
     const Undo_Log::Change change(events.Changes, Change_Name("Remove", Dates_Lst[line].date));
     if (!events.Load_File())
         return false;
     std::vector<Event> rest = Dates_Lst;
-    // Without a file Temp_Lst is not what is stored.
+    // Without a file, Temp_Lst is out of date.
     const bool there = platform::File_Exists(Event_Store::Data_File()) &&
                        (showing_imported_ ? Unmerge(events.Temp_Lst, rest, line)
                                           : Remove_Record(events.Temp_Lst, rest[line]));
@@ -223,7 +222,7 @@ void Events_Page::Lay_Out() {
     Rows rows = Group_Rows();
     rows.Add_Pair(Sort_Lbl, Usual_Width(Sort_Lbl), Sort_Cbo);
     rows.Add(Events_Lst_Lbl, small_gap);
-    const int below = Sort_Lbl.Height() + margin; // the countdown
+    const int below = Sort_Lbl.Height() + margin; // room for the countdown
     rows.Add(Events_Lst, gap, Overview_Fra.Height() - rows.Top() - gap - below);
     rows.Add_Pair(Countdown_Name_Lbl, Usual_Width(Countdown_Name_Lbl), Countdown_Lbl, margin);
 

@@ -1,6 +1,6 @@
-// The "Events" page of the settings dialog: the overview of all events, of which any can be removed, and
-// their statistics. How events are read and sorted is in core/event_entries.h, how they are counted and
-// worded in event_statistics.h and event_overview.h.
+// The "Events" page of the settings dialog: an overview of all events, from which the user can remove events,
+// and their statistics. core/event_entries.h reads and sorts the events, event_statistics.h counts them,
+// event_overview.h words their lines.
 #pragma once
 
 #include "settings/event_overview.h"
@@ -15,21 +15,20 @@ public:
     Events_Page(Frame &frame, Main_Frm &calendar);
     void Lay_Out() override;
 
-    // What the opening dialog does, in this order.
+    // The dialog calls these three, in this order, when it opens.
     void Write_Month_Titles();
-    /// Counts the events. Without a data file the labels stay as they are.
+    /// Counts the events. Without a data file, the labels stay as they are.
     void Get_Stats();
-    /// Shows the overview by ascending dates, whatever was chosen before.
+    /// Shows the overview by ascending date, whatever was chosen before.
     void Open_Overview();
 
-    /// Lists and counts the events of the data file anew.
+    /// Lists and counts the events of the data file again.
     void Reload();
 
-    /// The same after a change from elsewhere, which leaves the list of imported events.
+    /// Does what Reload does, for a change outside the page, but keeps a list of imported events.
     void Refresh_From_File();
 
-    /// Lists these events, in their order, instead of what is listed. The next choice on the page lists the
-    /// data file's again.
+    /// Lists these events in their order. The next choice on the page lists the data file again.
     void Show_Imported(std::vector<Event> staged);
 
     void Overview_Opt_Click();
@@ -39,7 +38,7 @@ public:
     /// Offers to remove the selected event.
     void Events_Lst_DblClick();
 
-    /// The events in the order of the lines of Events_Lst.
+    /// The events, in the order of the lines in Events_Lst.
     std::vector<Event> Dates_Lst;
 
     Option_Button Overview_Opt{frame_, "Overview_Opt", "Events &Overview"};
@@ -48,7 +47,7 @@ public:
     Frame Overview_Fra{frame_, "Overview_Fra", "Events"};
     Label Sort_Lbl{Overview_Fra, "Sort_Lbl", "Sort &by:"};
     Combo_Box Sort_Cbo{Overview_Fra, "Sort_Cbo"};
-    Label Events_Lst_Lbl{Overview_Fra, "Events_Lst_Lbl"}; ///< names the list
+    Label Events_Lst_Lbl{Overview_Fra, "Events_Lst_Lbl"}; ///< labels the list
     List_Box Events_Lst{Overview_Fra, "Events_Lst"};
     Label Countdown_Name_Lbl{Overview_Fra, "Countdown_Name_Lbl", "Countdown:"};
     Label Countdown_Lbl{Overview_Fra, "Countdown_Lbl"};
@@ -76,5 +75,5 @@ private:
 
     Main_Frm &calendar_;
     Event_Statistics statistics_;
-    bool showing_imported_ = false; ///< the list shows what was imported, and not the data file
+    bool showing_imported_ = false; ///< the list shows imported events instead of the data file
 };

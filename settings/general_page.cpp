@@ -1,4 +1,3 @@
-// The page "Settings": its preview of the title, and where its controls are.
 #include "settings/general_page.h"
 
 #include "core/title.h"
@@ -45,12 +44,12 @@ void General_Page::Get_Startup_Value() {
     Startup_Chk.Set_Checked(entry != platform::Registry_Value(std::string(absent)));
     Startup_Lbl.Set_Caption(
         platform::Registry_Writable("HKLM", "Software\\Microsoft\\Windows\\CurrentVersion\\Run")
-            ? "For all users; needs an administrator's rights."
-            : "For all users; you lack the administrator's rights it needs.");
+            ? "For all users; needs administrator rights."
+            : "For all users; needs administrator rights, which you lack.");
 }
 
 void General_Page::Show_Preview() {
-    // As the calendar draws its title.
+    // Uses the colours of the calendar's title.
     Bar_Preview_Lbl.Set_Back_Colour(calendar_.Back_Colour());
     Bar_Preview_Lbl.Set_Fore_Colour(calendar_.Which_Month_Lbl.Fore_Colour());
     Bar_Preview_Lbl.Set_Caption(

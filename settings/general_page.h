@@ -1,4 +1,4 @@
-// The page "Settings" of the settings dialog: what the calendar's title shows, and the general settings.
+// The "Settings" page of the settings dialog: the contents of the calendar's title, and general settings.
 #pragma once
 
 #include "settings/page.h"
@@ -10,17 +10,17 @@ public:
     void Show(const Settings &settings) override;
     void Lay_Out() override;
 
-    /// Ticks the start-up box where the system has a start-up entry, also an empty one: unticking leaves such
-    /// a one behind, so that the box is ticked again at the next opening.
+    /// Ticks the start-up box if the system has a start-up entry, even an empty one. Unticking the box leaves
+    /// an empty entry, so the box is ticked again at the next opening.
     void Get_Startup_Value();
-    /// Shows the title as it would be now.
+    /// Shows the calendar's title as it would look now.
     void Show_Preview();
-    /// Whether the page can be seen: only then the preview goes with the time.
+    /// Makes the preview follow the time, or stops that. The dialog sets `watched` while the page is visible.
     void Set_Page_Visible(bool watched);
 
     Frame Title_Bar_Fra{frame_, "Title_Bar_Fra", "Title Bar"};
     Check_Box Bar_Time_Chk{Title_Bar_Fra, "Bar_Time_Chk", "&Time:"};
-    Label Bar_Time_Lbl{Title_Bar_Fra, "Bar_Time_Lbl", "Time:"}; ///< never seen: names the combo box
+    Label Bar_Time_Lbl{Title_Bar_Fra, "Bar_Time_Lbl", "Time:"}; ///< never visible: names the combo box
     Combo_Box Bar_Time_Cbo{Title_Bar_Fra, "Bar_Time_Cbo"};
     Label Bar_Date_Lbl{Title_Bar_Fra, "Bar_Date_Lbl", "&Date:"};
     Combo_Box Bar_Date_Cbo{Title_Bar_Fra, "Bar_Date_Cbo"};

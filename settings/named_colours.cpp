@@ -1,4 +1,3 @@
-// The table of the colours that have a name on web pages.
 #include "settings/named_colours.h"
 
 #include <algorithm>

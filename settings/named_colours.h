@@ -1,4 +1,4 @@
-// The colours that have a name on web pages.
+// The colours that have a name in web pages.
 #pragma once
 
 #include "base/colour.h"
@@ -12,8 +12,8 @@ struct Named_Colour {
     ::Colour Colour() const { return Rgb(web_value >> 16, (web_value >> 8) & 0xFF, web_value & 0xFF); }
 };
 
-/// All of them in the order of their names. Some colours have two.
+/// Returns the colours in the order of their names. Some colours have two names.
 std::span<const Named_Colour> Named_Colours();
 
-/// Index of the first name of a colour, -1: it has none.
+/// Returns the index of the first name of a colour, or -1 if it has none.
 int Index_Of_Colour(Colour colour);

@@ -1,4 +1,3 @@
-// The procedures that the pages share.
 #include "settings/page.h"
 
 #include "calendar/box_layout.h"

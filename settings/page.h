@@ -1,5 +1,5 @@
-// What the pages of the settings dialog have in common: their includes, their colours, the examples of boxes
-// on them, and how they show settings and take what is chosen.
+// The base of the pages of the settings dialog, with the includes, colours, example boxes and procedures that
+// they share.
 #pragma once
 
 #include "calendar/main_frm.h"
@@ -15,39 +15,39 @@ namespace layout {
 
 constexpr int page_width = 5280;
 constexpr int page_height = 5400;
-constexpr int group_gap = 5 * 15;                    ///< between group boxes, which have room at their tops
-constexpr int inner_width = page_width - 2 * margin; ///< of a group box as wide as the page
+constexpr int group_gap = 5 * 15; ///< between group boxes, which have room of their own at the top
+constexpr int inner_width = page_width - 2 * margin; ///< for a group box as wide as the page
 
-constexpr int backdrop = 6 * 15; ///< of desktop around boxes of the calendar
+constexpr int backdrop = 6 * 15; ///< margin of desktop around example boxes
 
 } // namespace layout
 
-// The system's colours. Boxes of the calendar are shown on that of the desktop.
+// The system's colours. Example boxes lie on the colour of the desktop.
 constexpr Colour desktop_colour = System_Colour(1);
 constexpr Colour face_colour = System_Colour(15);
 constexpr Colour shadow_colour = System_Colour(16);
 constexpr Colour grey_text_colour = System_Colour(17);
 constexpr Colour text_colour = System_Colour(18);
 
-/// A page: its controls are made in its frame, in the order of the Tab key.
+/// A page of the dialog. Its controls are created in its frame, in tab order.
 class Page {
 public:
     Page(const Page &) = delete;
     Page &operator=(const Page &) = delete;
 
-    /// Shows the settings.
+    /// Shows the settings in the controls.
     virtual void Show(const Settings &settings);
-    /// Puts what is chosen into the settings. What is no choice leaves its setting as it is.
+    /// Puts the choices into the settings. A combo box without a selection leaves its setting unchanged.
     virtual void Write_To(Settings &settings) const;
-    /// Places the controls, also after a change of the dots per inch.
+    /// Places the controls, also after a change of the DPI.
     virtual void Lay_Out() = 0;
 
 protected:
     explicit Page(Frame &frame) : frame_(frame), dialog_(frame.Owner()) {}
     ~Page() = default;
 
-    /// A control that holds a setting as it stands: a check box a flag, an editable combo box a text, another
-    /// one a number.
+    /// A control that holds one setting directly: a check box a flag, an editable combo box a text, any other
+    /// combo box a number.
     struct Choice {
         Control *control;
         Setting_Member setting;
@@ -58,7 +58,7 @@ protected:
     Form &dialog_;
 };
 
-/// Rows over the whole width of a page, and of a group box on it.
+/// Return rows as wide as a page, and as a group box on a page.
 inline Rows Page_Rows() {
     return {0, 0, layout::page_width};
 }
@@ -66,12 +66,12 @@ inline Rows Group_Rows() {
     return {layout::margin, layout::group_top, layout::inner_width};
 }
 
-/// Gives a control without a caption the name that is read aloud.
+/// Gives a control without a caption a name for assistive technology.
 void Set_Access_Name(Control &control, const char *name);
 
-/// A rectangle of the calendar's layout in twips, moved as `from` (pixels) must be for its left top corner to
-/// be at `left` and `top` (twips).
+/// Returns a rectangle of the calendar's layout (pixels) in twips, moved so that the top left corner of
+/// `from` (pixels) comes to `left` and `top` (twips).
 Rect Translate_Rect(Rect pixels, const Rect &from, int left, int top);
 
-/// Gives a box and the text in it their look, and their places with the box at `left` and `top`.
+/// Sets the look of a box and of its text, and places them with the box at `left` and `top` (twips).
 void Place_Example(const Box_Layout &style, Label &number, Label &text, int left, int top);

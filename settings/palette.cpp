@@ -1,4 +1,3 @@
-// The colours of the palette and of the gradient through one of them.
 #include "settings/palette.h"
 
 #include <algorithm>
@@ -9,15 +8,16 @@
 namespace {
 
 constexpr int full = 255;
-constexpr int grey_part = 12; ///< the column of greys is one of so many parts of the palette's width
+constexpr int grey_part = 12; ///< the column of greys is one twelfth of the palette's width
 
-/// One channel on the way from black (0) over `pure` (255) to white (510).
+/// Returns one channel of a shade. `brightness` runs from 0 for black over 255 for `pure` to 510 for white.
 int Shade(int pure, int brightness) {
     return brightness <= full ? pure * brightness / full
                               : full - (full - pure) * (2 * full - brightness) / full;
 }
 
-/// One channel of a pure hue, 0 to 6 * 255 once around; red, green and blue are two sixths apart.
+/// Returns one channel of a pure hue. A full turn of `hue` is 6 * 255. `offset` selects the channel: red,
+/// green and blue are two sixths of a turn apart.
 int Hue_Channel(int hue, int offset) {
     const int turned = (hue + offset) % (6 * full);
     const int from_peak = std::abs(turned - 3 * full);

@@ -1,5 +1,5 @@
-// What the settings dialog saves: its pages' choices go into the settings, the store and the calendar. A
-// choice that is what the setting holds already is not written, but for those that are always.
+// Saves the choices of the pages into the settings, the store and the calendar. Unchanged choices are not
+// written, except for the keys that always are.
 #include "core/settings.h"
 #include "platform/files.h"
 #include "platform/registry.h"
@@ -10,7 +10,7 @@ namespace {
 
 enum class When { Always, Changed };
 
-/// Takes what is shown over and stores it. Returns whether it did.
+/// Copies a shown setting into Cur_Settings and stores it. Returns whether it did.
 bool Save(const Settings &shown, Setting_Member member, When when = When::Changed) {
     if (when == When::Changed && !Differ(shown, Cur_Settings, member))
         return false;
@@ -34,7 +34,8 @@ void Settings_Frm::Save_Colours(const Settings &shown) {
         if (!Save(shown, row.member))
             continue;
         (calendar_.*row.redraw)();
-        // Colouring the boxes takes today's mark away, and in high contrast so do the texts.
+        // Colour_Boxes removes today's look. In high contrast, Colour_Nums and Colour_Texts remove today's
+        // colours.
         calendar_.Mark_Today();
     }
     if (!Save(shown, &Settings::Menu_Col_Sorce))
@@ -52,11 +53,11 @@ void Settings_Frm::Save_General_Settings(const Settings &shown) {
         calendar_.Compact_Timer.Set_Enabled(Cur_Settings.Auto_Compact == 1);
     const Settings before = Cur_Settings;
     const bool other_tooltips = Save(shown, &Settings::Tooltips);
-    // Emptied and not deleted where the box is not ticked.
+    // An unticked box empties the value, but does not delete it.
     const std::string program = platform::Program_Folder() + "\\" + platform::Program_Name() + ".exe";
     platform::Registry_Write("HKLM", "Software\\Microsoft\\Windows\\CurrentVersion\\Run", "Vellatro", 'S',
                              General.Startup_Chk.Checked() ? program : std::string());
-    // Last, because it may tell of an event.
+    // Comes last, because it may alert the user of an event.
     if (other_tooltips)
         calendar_.Follow(before, true);
 }
@@ -72,11 +73,11 @@ void Settings_Frm::Save_Theme(const Settings &shown) {
         Save(shown, member);
     Save(shown, &Settings::Pack_Name);
     Save(shown, &Settings::Style, When::Always);
-    // A pack that cannot be read is told, and keeps nothing else from being saved. Whoever gives themes up
-    // keeps the last wallpaper: there is no telling which one was there before.
+    // Run_Guarded reports an unreadable pack; the rest is still saved. Turning themes off keeps the last
+    // wallpaper, because the one before the themes is unknown.
     if (Cur_Settings.Use_Themes == 1)
         Run_Guarded([this] { calendar_.Get_Wallpaper_Stuff(Cur_Settings.Pack_Name); });
-    // A missing pack has ended the use of themes.
+    // A missing pack has turned themes off.
     if (Cur_Settings.Use_Themes == 0 && Wallpaper.Theme_Use_Chk.Checked())
         Wallpaper.Get_Themes();
     if (Cur_Settings.Use_Themes != 1 || Cur_Settings.Use_Theme_Pos != 1)

@@ -1,4 +1,3 @@
-// The drawing of the screen's miniature, and the calendar's place on it.
 #include "settings/screen_miniature.h"
 
 #include "calendar/box_layout.h"
@@ -17,7 +16,7 @@ using platform::Canvas;
 
 namespace {
 
-constexpr int fifth_row = 28; ///< its first box, and that of the sixth: the lowest row of the month
+constexpr int fifth_row = 28; ///< index of its first box; the lowest row of a month is this row or the sixth
 constexpr int sixth_row = 35;
 
 } // namespace
@@ -66,7 +65,7 @@ Rect Screen_Miniature::Scaled_Rect(const Rect &pixels, Size size) const {
 
 Point Screen_Miniature::Mark(std::int16_t place, Size size) const {
     const Rect work = Scaled_Rect(work_area_, size);
-    // The outer ones stand as far from the edges as half of the way to the middle ones.
+    // The outer marks are half as far from the edge as from the middle marks.
     const auto along = [](int length, int hundredths) { return length * (hundredths + 25) / 150; };
     return {work.left + along(work.width, Positions[place].left),
             work.top + along(work.height, Positions[place].above)};
@@ -101,7 +100,7 @@ void Screen_Miniature::Paint(Canvas &canvas, const Picture &wallpaper, Size size
     platform::Frame_Rect(canvas, all, shadow_colour, one_pixel);
 }
 
-/// What is not work area, at whichever edge.
+/// Draws the parts of the screen outside the work area, at any edge.
 void Screen_Miniature::Paint_Task_Bar(Canvas &canvas, Size size) const {
     const Rect work = Scaled_Rect(work_area_, size);
     for (const Rect &bar :
@@ -122,11 +121,11 @@ void Screen_Miniature::Paint_Calendar(Canvas &canvas, Size size) const {
         pixels.top += calendar_.top;
         return Scaled_Rect(pixels, size);
     };
-    // Title and headers are one bar, as the gap between them is less than a pixel.
+    // The title and the headers are one bar: the gap between them is less than a pixel.
     const Rect headers = layout.Header(0);
     platform::Fill_Rect(canvas, place({0, 0, layout.Full_Size().width, headers.Bottom()}),
                         main_frm_->Back_Colour());
-    // The gaps between boxes would be seen in some places and not in others: a line of its own parts them.
+    // At this scale some gaps between boxes would vanish. Each box gets a line of its own instead.
     for (int i = first_box_; i <= last_box_; ++i) {
         Rect box = layout.Box(i);
         box.width += layout.Gap();

@@ -1,5 +1,5 @@
-// A picture of the whole screen with the calendar on it, drawn small: where on the screen the calendar will
-// be. The choosing of a position is not here.
+// A small picture of the whole screen, with the calendar where it will be. The style page lets the user
+// choose the position.
 #pragma once
 
 #include "base/geometry.h"
@@ -10,28 +10,28 @@
 
 class Main_Frm;
 
-/// What the miniature shows. Rectangles of the screen are pixels on it, those of the miniature twips.
+/// The contents of the miniature. Rectangles on the screen are in pixels, those on the miniature in twips.
 class Screen_Miniature {
 public:
-    /// The screen, the work area and the month of now.
+    /// Takes the current screen, work area and month.
     explicit Screen_Miniature(const Main_Frm &calendar);
 
-    /// The largest size within `room` (twips) that has the screen's proportion.
+    /// Returns the largest size within `room` (twips) that has the screen's proportions.
     Size Fit(Size room) const;
 
-    /// Puts the calendar where it would be with a style and a position code. A number that is no code leaves
-    /// it where it is.
+    /// Places the calendar for a style and a position code. An invalid code leaves the calendar where it is
+    /// on the screen.
     void Place_Calendar(std::int16_t style, std::int16_t position);
 
-    /// The middle of the mark for a place (desktop/position.h), on a miniature of `size`.
+    /// Returns the middle of the mark for a place (desktop/position.h) on a miniature of `size`.
     Point Mark(std::int16_t place, Size size) const;
 
-    /// The code of the place with the mark nearest to a point; with a `step`, of those only that lie in its
-    /// direction. -1: there is none.
+    /// Returns the code of the place whose mark is nearest to a point, or -1 if there is none. With a `step`,
+    /// considers only marks in that direction.
     std::int16_t Nearest_Place(Point to, Size size, Point step = {}) const;
 
-    /// Draws the screen with `wallpaper` stretched over it (none: the desktop's colour), the task bar and the
-    /// calendar into a miniature of `size`.
+    /// Draws a miniature of `size`: `wallpaper` stretched over the screen, or the desktop's colour if it is
+    /// empty, with the task bar and the calendar.
     void Paint(platform::Canvas &canvas, const Picture &wallpaper, Size size) const;
 
 private:
@@ -44,7 +44,7 @@ private:
     Rect work_area_;
     int first_box_; ///< index of the box with day 1
     int last_box_;
-    int today_ = -1; ///< index of today's box, -1: it is in another month
+    int today_ = -1; ///< index of today's box; -1: not in this month
     std::int16_t style_ = 0;
     Rect calendar_;
 };

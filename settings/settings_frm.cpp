@@ -1,4 +1,4 @@
-// The settings dialog from its opening to its end, its tabs and its buttons.
+// The settings dialog: its opening, its tabs, its buttons and its closing.
 #include "settings/settings_frm.h"
 
 #include "base/scoped_value.h"
@@ -15,10 +15,10 @@ namespace {
 
 constexpr int dialog_width = 5730;
 constexpr Rect tabs{105, 75, 5520, 6195};
-constexpr int below_tabs = 420; ///< for the buttons
+constexpr int below_tabs = 420; ///< room for the buttons
 constexpr int page_left = 225;
 constexpr int page_top = 765;
-constexpr int window_frame = 8 * 15; ///< left and right of the dialog, estimated
+constexpr int window_frame = 8 * 15; ///< on each side of the dialog, estimated
 
 } // namespace
 
@@ -37,7 +37,7 @@ Settings_Frm::Settings_Frm(Main_Frm &calendar)
     Ok_Btn.On_Click = [this] { Ok_Btn_Click(); };
     Cancel_Btn.On_Click = [this] { Cancel_Btn_Click(); };
     Cancel_Btn.On_Escape = [this] {
-        // The page promises that Esc ends its preview.
+        // The wallpaper page promises that Esc ends its preview.
         if (!Wallpaper.End_Preview())
             Cancel_Btn_Click();
     };
@@ -51,7 +51,7 @@ Settings_Frm::Settings_Frm(Main_Frm &calendar)
     Transfer.Import.On_Configuration_Partly_Changed = [this] { Load_Pages(); };
     On_Close = [this] { Form_Unload(); };
     On_Window_Lost = [this] { Form_Unload(); };
-    // The pages measure their texts, which are a little wider or narrower then.
+    // The DPI changes the widths of the pages' texts a little.
     On_Dots_Changed = [this] {
         for (Page *page : pages_)
             page->Lay_Out();
@@ -83,7 +83,7 @@ void Settings_Frm::Open() {
 }
 
 void Settings_Frm::Load_Pages() {
-    // What cannot be shown of one page is told, and keeps nobody from the others.
+    // A step that fails is reported and does not stop the others.
     const std::initializer_list<Handler<>> steps = {
         [this] { Events.Write_Month_Titles(); },
         [this] { Load_Settings(); },
@@ -105,7 +105,8 @@ void Settings_Frm::Load_Pages() {
         Run_Guarded(step);
 }
 
-/// An event that changed elsewhere would leave the list and the counts of the pages stale.
+/// Blocks the calendar and the editor, or unblocks them if `modal` is null. An event that changes there would
+/// leave the list and the counts of the pages out of date.
 void Settings_Frm::Block_Others(Form *modal) {
     calendar_.Set_Blocked_By(modal);
     if (calendar_.Block_Editor)
@@ -123,7 +124,7 @@ void Settings_Frm::Position_Frames() {
 }
 
 void Settings_Frm::Select_Stored_Tab() {
-    // A number that is no tab, which only another hand can have stored, opens the first one.
+    // An invalid number, which only another program can have stored, selects the first tab.
     const int tab = Cur_Settings.Settings_Tab;
     TabStrip1.Select(tab >= 1 && tab <= page_count ? tab - 1 : 0);
     TabStrip1_Click();
@@ -139,7 +140,7 @@ void Settings_Frm::None_Vis() {
 }
 
 void Settings_Frm::TabStrip1_Click() {
-    // It shows the page's choices, and its page is about to go.
+    // The preview shows the choices of the wallpaper page, which is about to disappear.
     Wallpaper.End_Preview();
     None_Vis();
     const int page = Which_Tab() - 1;
@@ -159,7 +160,7 @@ void Settings_Frm::Cancel_Btn_Click() {
 }
 
 void Settings_Frm::Apply_Btn_Click() {
-    // It would put back what the theme told before.
+    // At its end, a running preview would restore the theme's values from before this change.
     Wallpaper.End_Preview();
     const Settings shown = Shown_Configuration();
     for (const auto save :
@@ -167,7 +168,7 @@ void Settings_Frm::Apply_Btn_Click() {
           &Settings_Frm::Save_Theme, &Settings_Frm::Save_Bar_Settings})
         Run_Guarded([&] { (this->*save)(shown); });
     calendar_.Restart_Countdown();
-    // Its examples have the calendar's colours.
+    // The examples use the calendar's colours.
     Style.Style_Preview();
 }
 
@@ -184,8 +185,8 @@ void Settings_Frm::Form_Unload() {
     calendar_.Resume_Auto_Compact();
 }
 
-/// To the right of the calendar, or to its left where there is more room. The platform keeps the window on
-/// the screen.
+/// Places the dialog to the right of the calendar, or to its left if there is more room. The platform keeps
+/// the window on the screen.
 void Settings_Frm::Place_Beside_Calendar() {
     const Rect area = Pixels_To_Twips(platform::Work_Area_Around(
         {Twips_To_Pixels(calendar_.Left() + calendar_.Width() / 2), Twips_To_Pixels(calendar_.Top())}));

@@ -1,5 +1,5 @@
-// The settings dialog: its tabs and buttons, its opening and its end, and the saving of what its pages hold
-// (saving.cpp). What is on the pages is in files of their own.
+// The settings dialog: its tabs and buttons, its opening and closing, and the saving of its choices
+// (saving.cpp). Each page has files of its own.
 #pragma once
 
 #include "calendar/main_frm.h"
@@ -21,10 +21,11 @@
 #include <string>
 #include <string_view>
 
-/// Modal to the calendar and to the editor. An object serves one opening, so that nothing of a former one can
-/// survive in it; after its end it must stay until its last event has returned (Busy).
+/// Blocks the calendar and the editor while it is open. An object serves one opening, so that no state of a
+/// former opening survives. After it has closed, the object must live until its last event has returned
+/// (Busy).
 class Settings_Frm : public Form {
-    Main_Frm &calendar_; // which the pages take
+    Main_Frm &calendar_; // declared first: the pages need it
 
 public:
     static constexpr int page_count = 8;
@@ -45,13 +46,14 @@ public:
 
     /// Fills all pages from the settings and opens the dialog.
     void Form_Load();
-    /// Keeps the tab, takes the dialog down and lets the calendar go on. Does nothing when that is done.
+    /// Stores the selected tab, closes the dialog and unblocks the calendar. Does nothing if the dialog is
+    /// closed.
     void Form_Unload();
-    /// Its opening or an event of it has not returned yet.
+    /// Returns whether the opening or an event of the dialog is still running.
     bool Busy() const { return events_ > 0; }
     void Input(const platform::Input_Event &event) override;
 
-    /// Number of the selected tab, counted from 1.
+    /// Returns the number of the selected tab, from 1.
     std::int16_t Which_Tab() const;
     void None_Vis();
     void TabStrip1_Click();
@@ -59,15 +61,15 @@ public:
     void Cancel_Btn_Click();
     void Apply_Btn_Click();
 
-    // Each carries a part of what the pages show into the settings, the store and the calendar. A store that
-    // refuses is not told: the setting holds until the program's end all the same.
+    // Each stores some of the shown choices and updates the calendar. A store that refuses is not reported:
+    // the setting holds until the program ends.
     void Save_Colours(const Settings &shown);
     void Save_General_Settings(const Settings &shown);
     void Save_Other_DM(const Settings &shown);
     void Save_Theme(const Settings &shown);
     void Save_Bar_Settings(const Settings &shown);
 
-    /// The settings as the pages show them, changes that are not applied yet included.
+    /// Returns the settings as the pages show them, with changes that are not applied yet.
     Settings Shown_Configuration() const;
 
     Tab_Strip TabStrip1{*this, "TabStrip1"};
@@ -95,6 +97,6 @@ private:
 
     const std::array<Page *, page_count> pages_{&Events,   &Colours,   &General,  &Style,
                                                 &Tooltips, &Wallpaper, &Transfer, &About};
-    int events_ = 0; ///< that have not returned yet
+    int events_ = 0; ///< events that have not returned yet
     bool open_ = false;
 };

@@ -1,4 +1,4 @@
-// The page "Style & Position": its choices, and where its controls are.
+// The behaviour and the layout of the "Style & Position" page.
 #include "settings/style_page.h"
 
 #include "calendar/box_layout.h"
@@ -16,7 +16,7 @@ using platform::Mouse_Button;
 namespace {
 
 constexpr int group_bottom = 8 * 15;
-constexpr int options_width = 118 * 15; ///< column left of the miniature
+constexpr int options_width = 118 * 15; ///< width of the column left of the miniature
 constexpr int hint_lines = 4;
 constexpr int manual_lines = 5;
 constexpr int marker_size = 7 * 15;
@@ -166,7 +166,7 @@ void Style_Page::Paint_Miniature(platform::Canvas &canvas) {
     for (std::int16_t place = 0; Is_Position(place); ++place) {
         const bool marked = place == Shown_Position();
         if (!Is_Place(place) || (theme_.rules_position && !marked))
-            continue; // not to be chosen now
+            continue; // cannot be chosen now
         const Point middle = miniature.Mark(place, size);
         const int side = marked ? marker_size + 4 * one_pixel : marker_size;
         const Rect marker{Snap(middle.x - side / 2), Snap(middle.y - side / 2), side, side};

@@ -1,5 +1,5 @@
-// The page "Style & Position" of the settings dialog: the box style by examples, and the calendar's position
-// on a miniature of the screen. What it holds goes into the settings elsewhere (saving.cpp).
+// The "Style & Position" page of the settings dialog: examples of the box styles, and a miniature of the
+// screen for the calendar's position. saving.cpp stores the choices.
 #pragma once
 
 #include "platform/pictures.h"
@@ -9,54 +9,54 @@
 #include <cstdint>
 #include <optional>
 
-/// What a theme pack decides this month in place of the page.
+/// The parts of the calendar's look that a theme pack decides this month instead of the page.
 struct Theme_Look {
-    bool rules_style = false; ///< also where the pack has no style for the month
+    bool rules_style = false; ///< true even if the pack has no style for the month
     bool rules_position = false;
     std::optional<std::int16_t> style;
     std::optional<std::int16_t> position;
-    Picture picture; ///< the wallpaper; none: the desktop's own colour is shown
+    Picture picture; ///< the wallpaper; empty: the desktop's own colour
 };
 
 class Style_Page final : public Page {
 public:
-    static constexpr const char *theme_hint = "The theme chooses these. See the page Wallpaper.";
+    static constexpr const char *theme_hint = "The theme sets this. See the Wallpaper page.";
 
     Style_Page(Frame &frame, Main_Frm &calendar);
-    /// A position that is no code is shown as the first one.
+    /// Shows an invalid position code as the first position.
     void Show(const Settings &settings) override;
     void Write_To(Settings &settings) const override;
     void Lay_Out() override;
 
-    /// Shows what a theme pack decides, and locks the choices that it rules.
+    /// Shows the look of a theme pack, and disables the choices that the pack decides.
     void Set_Theme(const Theme_Look &look);
-    /// The code of the chosen place.
+    /// Returns the code of the chosen place.
     std::int16_t Get_Set_Position() const { return set_position_; }
 
-    // These keep the previews true to the choices.
+    // These update the previews after a choice.
     void Style_Preview();
     void Preview_Position();
-    /// Names the chosen place, which Preview_Position marks on the miniature.
+    /// Shows the name of the chosen place. Preview_Position marks it on the miniature.
     void Position_Boxes();
 
     Frame Style_Fra{frame_, "Style_Fra", "Box Style"};
     Option_Button Style1_Opt{Style_Fra, "Style1_Opt", Box_Style_Name(0)}; ///< 0 in the settings
     Option_Button Style2_Opt{Style_Fra, "Style2_Opt", Box_Style_Name(1)}; ///< 1 in the settings
-    // The desktop behind the examples; a click on any part of one counts as one on its option.
+    // The desktop behind the examples. A click on any part of an example chooses its option.
     Picture_Box Backdrop1_Pic{Style_Fra, "Backdrop1_Pic"};
     Picture_Box Backdrop2_Pic{Style_Fra, "Backdrop2_Pic"};
-    Label Example1_Lbl{Style_Fra, "Example1_Lbl", " 12"};   ///< a box with its number in style 1
-    Label Example2_Lbl{Style_Fra, "Example2_Lbl", "Event"}; ///< the text in it
-    Label Example3_Lbl{Style_Fra, "Example3_Lbl", " 12"};   ///< the same in style 2
+    Label Example1_Lbl{Style_Fra, "Example1_Lbl", " 12"};   ///< a box with its number in style 0
+    Label Example2_Lbl{Style_Fra, "Example2_Lbl", "Event"}; ///< the text in that box
+    Label Example3_Lbl{Style_Fra, "Example3_Lbl", " 12"};   ///< a box with its number in style 1
     Label Example4_Lbl{Style_Fra, "Example4_Lbl", "Event"};
-    Label Style_Theme_Lbl{Style_Fra, "Style_Theme_Lbl", theme_hint}; ///< says why the styles are locked
+    Label Style_Theme_Lbl{Style_Fra, "Style_Theme_Lbl", theme_hint}; ///< says why the styles are disabled
     Frame Position_Fra{frame_, "Position_Fra", "Position"};
     Option_Button Pos_Set_Opt{Position_Fra, "Pos_Set_Opt", "&Set position"};
-    Label Pos_Hint_Lbl{Position_Fra, "Pos_Hint_Lbl"}; ///< says how a place is chosen, or why none can be
+    Label Pos_Hint_Lbl{Position_Fra, "Pos_Hint_Lbl"}; ///< how to choose a place, or theme_hint
     Option_Button Pos_Manual_Opt{Position_Fra, "Pos_Manual_Opt", "&Manual position"};
     Label Manual_Lbl{Position_Fra, "Manual_Lbl"};                 ///< the coordinates of the manual position
     Picture_Box Pos_Preview_Img{Position_Fra, "Pos_Preview_Img"}; ///< the miniature
-    Label Position_Lbl{Position_Fra, "Position_Lbl"};             ///< name of the position that it shows
+    Label Position_Lbl{Position_Fra, "Position_Lbl"};             ///< name of the position on the miniature
 
 private:
     void Wire_Examples();

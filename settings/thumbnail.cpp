@@ -1,4 +1,3 @@
-// The size and the pixels of a picture's small copy.
 #include "settings/thumbnail.h"
 
 #include "base/mean_colour.h"

@@ -1,4 +1,4 @@
-// The page "Tooltips": its texts, its examples, and where its controls are.
+// The behaviour and the layout of the "Tooltips" page.
 #include "settings/tooltips_page.h"
 
 #include "calendar/box_layout.h"
@@ -14,7 +14,7 @@ namespace {
 constexpr int balloons = 2;
 constexpr const char *example = "This is an example.";
 
-// From the dialog's corner to the page's, and over the window's frame and title.
+// The page's offset from the window's corner, with the window's frame and title bar.
 constexpr int example_left = 315;
 constexpr int example_top = 1050;
 
@@ -83,7 +83,7 @@ void Tooltips_Page::Tips_Opt_Click(int index) {
 }
 
 void Tooltips_Page::Example_Tooltip() {
-    // The tail points to the lower edge of the example, in its middle.
+    // The balloon's tail points to the middle of the example's lower edge.
     const Point place{dialog_.Left() + example_left + Preview_Fra.Left() + TipExample_Lbl.Left() +
                           TipExample_Lbl.Width() / 2,
                       dialog_.Top() + example_top + Preview_Fra.Top() + TipExample_Lbl.Top() +

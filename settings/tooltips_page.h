@@ -1,5 +1,4 @@
-// The page "Tooltips" of the settings dialog: the choice between the kinds of tooltips, with examples of
-// them.
+// The "Tooltips" page of the settings dialog: the choice between the kinds of tooltips, with examples.
 #pragma once
 
 #include "settings/page.h"
@@ -8,14 +7,15 @@
 class Tooltips_Page final : public Page {
 public:
     Tooltips_Page(Frame &frame, Held_Balloon &balloon);
-    /// Selects the kind: 0 none, 1 standard, 2 balloons. Another number is the standard kind.
+    /// Selects the kind: 0 none, 1 standard, 2 balloons. Any other number selects the standard kind.
     void Show(const Settings &settings) override;
     void Write_To(Settings &settings) const override;
     void Lay_Out() override;
 
     /// Shows today's box among the examples as the calendar draws it now.
     void Style_Examples();
-    /// The button is not held any more, by whatever way: an example balloon goes, or does not come.
+    /// The mouse button was released or the capture lost: removes an example balloon, or cancels the wait for
+    /// it.
     void Release() { balloon_.Hide(); }
 
     Control_Array<Option_Button, 3> Tips_Opt{frame_, "Tips_Opt"};

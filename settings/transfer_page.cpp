@@ -1,4 +1,4 @@
-// The page "Import\Export": its buttons, its sign of progress, and where its controls are.
+// The captions, the progress display and the layout of the "Import\Export" page.
 #include "settings/transfer_page.h"
 
 #include "platform/message_loop.h"
@@ -17,13 +17,13 @@ struct Button_Text {
 constexpr Button_Text export_texts[] = {
     {"&Data File...", "A copy of the data file calendar.dat with all events."},
     {"&Configuration...", "The settings as this dialog shows them."},
-    {"Te&xt File...", "All events by date, one on each line, to read or to print."},
+    {"Te&xt File...", "All events by date, one on each line, to read or print."},
     {"CS&V File...", "All events as a table, for other calendars and for spreadsheets."}};
 
 constexpr Button_Text import_texts[] = {
-    {"Da&ta File...", "Replaces all events by those of another data file."},
+    {"Da&ta File...", "Replaces all events with those of another data file."},
     {"Confi&guration...", "Loads all settings from a file and closes this dialog."},
-    {"CSV Fi&le...", "Adds the events of a table to those that are there."}};
+    {"CSV Fi&le...", "Adds the events of a table to your events."}};
 
 constexpr int wide_button = 115 * 15;
 constexpr int bar_height = 16 * 15;
@@ -99,7 +99,7 @@ void Transfer_Page::Lay_Out() {
     const int height = std::max(explanation_lines * line, button_height);
     const auto add = [height, line](Rows &rows, Button &button, Label &label) {
         rows.Add_Pair(button, wide_button, label, small_gap, height);
-        // Where one line is enough, it stands in the middle of the button.
+        // If the text fits on one line, centres it beside the button.
         if (Rect place = label.Bounds(); platform::Text_Width(label.Caption(), label.Font()) <= place.width) {
             place.top += (height - line) / 2;
             place.height = line;

@@ -1,4 +1,4 @@
-// The page "Import\Export" of the settings dialog. What its buttons do is in transfer/.
+// The "Import\Export" page of the settings dialog. transfer/ does the work of its buttons.
 #pragma once
 
 #include "base/callback.h"
@@ -12,8 +12,8 @@ public:
     Transfer_Page(Frame &frame, Main_Frm &calendar);
     void Lay_Out() override;
 
-    /// The configuration that the dialog shows, changes that are not applied yet included. The dialog fills
-    /// it, and the slots of `Import`.
+    /// Returns the configuration that the dialog shows, with changes that are not applied yet. The dialog
+    /// sets this, and the callbacks of `Import`.
     Callback<Settings()> Shown_Configuration;
 
     void Export_Btn_Click(int index); ///< a number of Export_Kind
@@ -24,14 +24,14 @@ public:
     Control_Array<Label, 4> Export_Lbl{Export_Fra, "Export_Lbl"};
     Button Export_ICalendar_Btn{Export_Fra, "Export_ICalendar_Btn", "&iCalendar..."};
     Label Export_ICalendar_Lbl{Export_Fra, "Export_ICalendar_Lbl",
-                               "All events, for calendars on the web and in phones."};
+                               "All events, for calendars on the web and on phones."};
     Frame Import_Fra{frame_, "Import_Fra", "Import"};
     Control_Array<Button, 3> Import_Btn{Import_Fra, "Import_Btn"};
     Control_Array<Label, 3> Import_Lbl{Import_Fra, "Import_Lbl"};
     Button Import_ICalendar_Btn{Import_Fra, "Import_ICalendar_Btn", "iCal&endar..."};
     Label Import_ICalendar_Lbl{Import_Fra, "Import_ICalendar_Lbl",
-                               "Adds the events of another calendar to those that are there."};
-    Label Progress_Lbl{frame_, "Progress_Lbl", "Progress:"}; ///< names the bar
+                               "Adds the events of another calendar to your events."};
+    Label Progress_Lbl{frame_, "Progress_Lbl", "Progress:"}; ///< labels the bar
     Progress_Bar Progress_Bar1{frame_, "Progress_Bar1"};
     OpenSaveDialog Dialog1{&dialog_.Model()};
     Importer Import;

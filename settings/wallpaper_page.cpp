@@ -1,4 +1,4 @@
-// What the wallpaper page does, and where its controls are.
+// The behaviour and the layout of the "Wallpaper" page.
 #include "settings/wallpaper_page.h"
 
 #include "base/joined.h"
@@ -23,7 +23,7 @@
 namespace {
 
 constexpr int months_a_year = 12;
-/// The picture is as wide as a screen of these proportions.
+/// The picture has the proportions of a wide screen, 16 to 9.
 constexpr int picture_height = 108 * 15;
 constexpr int picture_width = 192 * 15;
 constexpr int slider_height = 30 * 15;
@@ -32,7 +32,7 @@ std::string Picture_File(const std::string &pack, int month) {
     return Pack_File(pack, std::to_string(month) + ".jpg");
 }
 
-/// A number's name, with a blank before it; only that for a text that is no number.
+/// Returns a space and the number's name, or only the space if the text is not a number.
 std::string Display_Name(const char *(*name)(std::int16_t), const std::string &number) {
     return std::string(" ") + name(Int16_Of(number).value_or(-1));
 }
@@ -69,7 +69,7 @@ void Wallpaper_Page::Wire_Events() {
     Preview_Btn.On_Click = [this] { Preview_Btn_Click(); };
     preview_.On_End = [this](bool pack_failed) { Preview_Ended(pack_failed); };
     Load_Timer.On_Timer = [this] { Load_Pictures(); };
-    // A picture that nobody could see was not loaded: a dialog that opens on another page is there sooner.
+    // Loads the picture only once it is visible, so that the dialog opens faster on another page.
     Theme_Preview_Img.On_Paint = [this](platform::Canvas &canvas) {
         Paint_Failure(canvas);
         if (shown_.pending)
@@ -115,7 +115,7 @@ void Wallpaper_Page::Show(const Settings &settings) {
 
 void Wallpaper_Page::Write_To(Settings &settings) const {
     Page::Write_To(settings);
-    // None is selected where the pack of the settings is missing: it may come back.
+    // The pack of the settings stays if nothing is selected: the pack may be missing only for now.
     if (!Packs_Cbo.Text().empty())
         settings.Pack_Name = Packs_Cbo.Text();
 }
@@ -137,7 +137,7 @@ void Wallpaper_Page::Get_Wallpaper() {
     Preview_Sli_Change();
 }
 
-/// Leaves what is selected where that pack is not there.
+/// Selects the pack of the settings. Keeps the selection if that pack is missing.
 void Wallpaper_Page::Select_Stored_Pack() {
     for (const std::string &pack : Packs_Cbo.Items())
         if (Same_Pack(pack, Cur_Settings.Pack_Name))
@@ -160,7 +160,7 @@ void Wallpaper_Page::Clear_Details() {
 }
 
 void Wallpaper_Page::Packs_Cbo_Click() {
-    Forget_Pictures(); // they are loaded anew, also if they were these
+    Forget_Pictures(); // they load again, even for the same pack
     Clear_Details();
     Check_Vaild();
     Preview_Sli.Set_Value(Today().month);
@@ -175,7 +175,7 @@ void Wallpaper_Page::Check_Vaild() {
     if (complete)
         return;
     platform::Message_Box("Error Loading Theme.", platform::Box_Icon::Stop);
-    // None, where the pack of the settings is not there: the refused one must not stay selected.
+    // The refused pack must not stay selected, even if the pack of the settings is missing.
     if (!Same_Pack(pack, Cur_Settings.Pack_Name))
         Packs_Cbo.Select(-1);
     Select_Stored_Pack();
@@ -199,7 +199,7 @@ void Wallpaper_Page::Preview_Sli_Change() {
         Clear_Details();
         return Update_Style_Page();
     }
-    // Once for all three: a pack that was deleted meanwhile is told once.
+    // Reads the details once for all three labels, so that a deleted pack is reported once.
     details_ = Main_Frm::Get_Paper_Details(Month(), pack);
     const std::int16_t today = Today().month;
     todays_details_ =
@@ -226,12 +226,12 @@ void Wallpaper_Page::Get_Theme_Pos() {
     Theme_Pos_Lbl.Set_Caption("Position:" + Display_Name(name, Get_Paper_Pos(details_)));
 }
 
-/// After the user was told that the pack cannot be read. Its entry goes, if it is not there any more.
+/// Updates the page after a message that the pack cannot be read. A deleted pack leaves the list.
 void Wallpaper_Page::Drop_Pack(const std::string &pack) {
     Get_Papers();
     if (!Same_Pack(pack, Cur_Settings.Pack_Name))
         Select_Stored_Pack();
-    // A missing pack has ended the use of themes.
+    // A missing pack has turned themes off.
     if (Cur_Settings.Use_Themes == 0)
         Theme_Use_Chk.Set_Checked(false);
     Enable_Choices(Theme_Use_Chk.Checked());
@@ -280,7 +280,7 @@ void Wallpaper_Page::Paint_Failure(platform::Canvas &canvas) const {
     }
 }
 
-/// The picture is none if it cannot be loaded.
+/// Loads a pending picture. If that fails, leaves the picture empty and sets `failure`.
 void Wallpaper_Page::Load(Month_Picture &wanted) const {
     wanted.pending = false;
     for (const Month_Picture *other : {&shown_, &todays_}) {
@@ -294,7 +294,7 @@ void Wallpaper_Page::Load(Month_Picture &wanted) const {
         wanted.picture = Thumbnail(platform::Load_Picture(wanted.path), box.width, box.height);
     } catch (const platform::Picture_Error &error) {
         wanted.picture = {};
-        // The frame is small, and the packs all lie in the program's folder.
+        // The frame is small, and all packs are in the program's folder, so the reason omits that folder.
         std::string reason = error.what();
         if (const std::string folder = platform::Program_Folder() + "\\"; reason.starts_with(folder))
             reason.erase(0, folder.size());
@@ -307,14 +307,14 @@ void Wallpaper_Page::Load_Pictures() {
     const bool seen = dialog_.Visible() && platform::Is_Shown(dialog_.Model(), Theme_Preview_Img.State());
     if (shown_.pending && seen)
         Load(shown_);
-    // A failure is told where the picture would be seen in full.
+    // A failure is not reported here: this page reports it if it shows that month.
     if (todays_.pending && Theme_Use_Chk.Checked())
         Load(todays_);
     Show_Picture();
 }
 
-// Both boxes are ticked in the settings of a first run. While no theme is in use nothing replaces the user's
-// own style and position, so their choice is free.
+// On a first run both theme boxes are ticked. While themes are off they decide nothing, so the user can
+// choose style and position.
 Theme_Look Wallpaper_Page::Current_Look() const {
     Theme_Look look;
     if (!Theme_Use_Chk.Checked())
@@ -347,7 +347,7 @@ void Wallpaper_Page::Theme_Use_Chk_Click() {
     }
     Enable_Choices(Theme_Use_Chk.Checked());
     Preview_Sli_Change();
-    // The miniature screen may need a picture that has not been loaded yet.
+    // The miniature screen may need a picture that is not loaded yet.
     Load_Timer.Set_Enabled(shown_.pending || todays_.pending);
 }
 

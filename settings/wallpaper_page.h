@@ -1,5 +1,5 @@
-// The "Wallpaper" page of the settings dialog: the choice of a theme pack, its pictures, and what the
-// calendar takes from it. The preview on the desktop is in wallpaper_preview.h, the saving in saving.cpp.
+// The "Wallpaper" page of the settings dialog: the choice of a theme pack, its pictures, and the parts of it
+// that the calendar uses. wallpaper_preview.h shows it on the desktop, saving.cpp stores the choices.
 #pragma once
 
 #include "calendar/main_frm.h"
@@ -14,35 +14,35 @@
 
 class Wallpaper_Page final : public Page {
 public:
-    /// All must outlive the page.
+    /// The calendar and the style page must outlive the page.
     Wallpaper_Page(Frame &frame, Main_Frm &calendar, Style_Page &style_page);
     void Show(const Settings &settings) override;
     void Write_To(Settings &settings) const override;
     void Lay_Out() override;
 
-    // What Show does, in this order.
+    // Show calls these three, in this order.
 
-    /// Lists the packs that are there now.
+    /// Lists the packs that exist now.
     void Get_Papers();
-    /// Sets the boxes of the themes from the settings, and enables what belongs to them.
+    /// Sets the theme box from the settings, and enables the controls that depend on it.
     void Get_Themes();
-    /// Selects the pack of the settings, none if it is not there, and shows its picture of this month.
+    /// Selects the pack of the settings, or none if it is missing, and shows its picture for this month.
     void Get_Wallpaper();
 
-    /// Ends a running preview and puts all back. Returns whether one was running.
+    /// Ends a running preview and restores everything. Returns whether a preview was running.
     bool End_Preview();
-    /// What the selected pack makes of the calendar this month, as far as it is to be used.
+    /// Returns the calendar's look with the selected pack this month, as far as the choices use it.
     Theme_Look Current_Look() const;
 
     void Packs_Cbo_Click();
-    /// Refuses a selected pack in which a file is missing: the user is told, and the pack of the settings is
-    /// selected instead.
+    /// Refuses a selected pack if one of its files is missing: shows a message and selects the pack of the
+    /// settings.
     void Check_Vaild();
     void Preview_Sli_Change();
     void Preview_Sli_Scroll();
-    /// Has the picture of the slider's month loaded as soon as the page can be seen, and that of today's
-    /// month as soon as the miniature screen of the other page needs it. Of one that is to be seen here and
-    /// cannot be loaded its frame says so, and why.
+    /// Requests two pictures: that of the slider's month, for when this page is visible, and that of today's
+    /// month, for when the miniature screen of the style page needs it. If the first one cannot be loaded,
+    /// its frame shows the reason.
     void Get_Theme_Picture();
     void Get_Theme_Display();
     void Get_Theme_Style();
@@ -63,7 +63,7 @@ public:
     Label Theme_Pos_Lbl{frame_, "Theme_Pos_Lbl"};
     Label Loading_Lbl{frame_, "Loading_Lbl", "Loading..."};
     Button Preview_Btn{frame_, "Preview_Btn", "Pre&view all months"};
-    Label Month_Lbl{frame_, "Month_Lbl"}; ///< names the slider
+    Label Month_Lbl{frame_, "Month_Lbl"}; ///< labels the slider
     Slider Preview_Sli{frame_, "Preview_Sli", 1, 12};
     Frame Theme_Fra{frame_, "Theme_Fra", "From the theme"};
     Check_Box Theme_Style_Chk{Theme_Fra, "Theme_Style_Chk", "Use Theme &Style"};
@@ -71,7 +71,7 @@ public:
     Check_Box Other_Display_Chk{Theme_Fra, "Other_Display_Chk", "Use an&other display mode"};
     Label Display_Lbl{Theme_Fra, "Display_Lbl", "&Display mode:"};
     Combo_Box Display_Cbo{Theme_Fra, "Display_Cbo"};
-    Label Preview_Lbl{frame_, "Preview_Lbl", "Preview running: Esc ends it."};
+    Label Preview_Lbl{frame_, "Preview_Lbl", "Preview running: press Esc to end it."};
 
 private:
     void Wire_Events();
@@ -79,12 +79,12 @@ private:
     void Enable_Choices(bool enabled);
     void Show_Month_Name();
     void Clear_Details();
-    /// A month's picture of a pack, no larger than needed, which is loaded when somebody can see it.
+    /// A pack's picture of a month, reduced to the needed size. Loaded only when needed.
     struct Month_Picture {
-        std::string path; ///< empty: there is none
+        std::string path; ///< empty: no picture
         bool pending = false;
         Picture picture;
-        std::string failure; ///< why there is no picture
+        std::string failure; ///< the reason if the picture could not be loaded
     };
     void Forget_Pictures();
     void Show_Picture();
@@ -98,9 +98,9 @@ private:
 
     Style_Page &style_page_;
     std::string details_;        ///< the value text of the selected pack and month
-    std::string todays_details_; ///< that of today's month
+    std::string todays_details_; ///< the value text of today's month
     Month_Picture shown_;
     Month_Picture todays_;
-    Timer Load_Timer{1}; ///< once: after what is on the screen has been painted
+    Timer Load_Timer{1}; ///< fires once, after the screen has been painted
     Wallpaper_Preview preview_;
 };

@@ -1,4 +1,3 @@
-// The steps of the preview, and putting everything back.
 #include "settings/wallpaper_preview.h"
 
 #include "base/letters.h"
@@ -13,8 +12,8 @@
 namespace {
 
 constexpr std::int16_t last_month = 12;
-/// Deletes the bitmaps that the preview left in the pack, but for the wallpaper `path`, which is made anew if
-/// it is one of them, in whichever letter case it is named.
+/// Deletes the bitmaps that the preview left in the pack. If the wallpaper `path` is one of them, in any
+/// letter case, makes it again.
 void Delete_Other_Bitmaps(const std::string &path, const std::string &pack) {
     Delete_Old_Bmps(pack);
     for (std::int16_t month = 1; month <= last_month; ++month)
@@ -23,7 +22,7 @@ void Delete_Other_Bitmaps(const std::string &path, const std::string &pack) {
 }
 
 void Restore_Desktop(User_Wallpaper wallpaper, const std::string &pack) {
-    // None, if its bitmap went in the preview and cannot be made again.
+    // The path stays empty if the preview deleted the bitmap and it cannot be made again.
     Run_Guarded([&] {
         const std::string path = std::exchange(wallpaper.path, std::string());
         Delete_Other_Bitmaps(path, pack);
@@ -57,11 +56,11 @@ void Wallpaper_Preview::Begin(const std::string &pack, const Settings &choices) 
 }
 
 void Wallpaper_Preview::Show_Month() {
-    // Off, so that no month follows while a message of this one is open.
+    // No other month may follow while a message of this one is open.
     Month_Timer.Set_Enabled(false);
     try {
         calendar_.Which_Month_Lbl.Set_Caption("Preview Mode - " + platform::Month_Name(month_));
-        // Asked for here first: a pack that is gone is told once, and not for every month.
+        // Checks the pack here first, so that a missing pack is reported once and not for every month.
         pack_failed_ = Main_Frm::Get_Paper_Details(month_, pack_) == Theme_Error;
         if (pack_failed_)
             return End();
@@ -71,7 +70,7 @@ void Wallpaper_Preview::Show_Month() {
         End();
         throw;
     }
-    // A message lets the program be ended.
+    // A message box lets the user end the preview or the program.
     if (Running())
         Month_Timer.Set_Enabled(true);
 }
@@ -91,7 +90,7 @@ void Wallpaper_Preview::End() noexcept {
     calendar_.Shown_Settings = &Cur_Settings;
     calendar_.Theme_BoxStyle = before.theme_style;
     calendar_.Theme_Pos = before.theme_position;
-    // Each by itself: what fails is told, and keeps nothing else from being put back.
+    // Guards each step by itself: a failure is reported and does not stop the other steps.
     Run_Guarded([&] { Restore_Desktop(before.wallpaper, pack_); });
     Run_Guarded([&] {
         if (Cur_Settings.Use_Themes == 1)
@@ -99,7 +98,8 @@ void Wallpaper_Preview::End() noexcept {
     });
     Run_Guarded([&] { calendar_.Follow(Cur_Settings); });
     Run_Guarded([&] { calendar_.Which_Month_Lbl.Set_Caption(before.caption); });
-    // The program may be about to end, and the next preview looks up what hangs now.
+    // Waits until the wallpaper is set, and only then discards the stored copy. The program may be about to
+    // end, and the next preview reads the current wallpaper.
     if (platform::Wait_For_Wallpaper())
         Save_User_Wallpaper({}, {});
     Run_Guarded([&] { Fire(On_End, bool{pack_failed_}); });

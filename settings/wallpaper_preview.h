@@ -1,5 +1,4 @@
-// The preview of a theme pack: all its months, one after another, on the desktop itself. The page's controls
-// are not here.
+// The preview of a theme pack, which shows all its months on the desktop. wallpaper_page.h has its controls.
 #pragma once
 
 #include "calendar/main_frm.h"
@@ -11,33 +10,33 @@
 #include <optional>
 #include <string>
 
-/// Shows each month for 3 seconds and then puts back what was there before. Between the months the program
-/// goes on as usual.
+/// Shows each month for 3 seconds, then restores what was there before. The program goes on as usual between
+/// the months.
 class Wallpaper_Preview {
 public:
     /// `calendar` must outlive the preview.
     explicit Wallpaper_Preview(Main_Frm &calendar);
     Wallpaper_Preview(const Wallpaper_Preview &) = delete;
     Wallpaper_Preview &operator=(const Wallpaper_Preview &) = delete;
-    /// Ends it.
+    /// Ends a running preview.
     ~Wallpaper_Preview();
 
     bool Running() const { return before_.has_value(); }
-    /// Begins with January. Of `choices` the style, the alignment and what they say about themes are taken
-    /// for the length of the preview. Throws what the first month's picture does, and then it has ended.
+    /// Begins with January. Until the preview ends, the calendar uses the style, the position and the theme
+    /// options of `choices`. Throws the errors of the first month's picture; the preview has then ended.
     void Begin(const std::string &pack, const Settings &choices);
-    /// Puts the settings, the wallpaper and the calendar back at once. Does nothing when none is running.
+    /// Restores the settings, the wallpaper and the calendar at once. Does nothing if no preview is running.
     void End() noexcept;
 
-    /// Puts the wallpaper back that a preview has left behind which was ended by force, unless themes are in
-    /// use.
+    /// Restores the wallpaper from before a preview that was killed, unless themes are in use.
     static void Recover();
 
-    /// It has ended, and all is put back; `pack_failed`: because the pack could not be read.
+    /// Called when the preview has ended and everything is restored. `pack_failed`: the pack could not be
+    /// read.
     Handler<bool> On_End;
 
 private:
-    /// What the preview changes.
+    /// The values that the preview changes.
     struct Before {
         std::string caption;
         std::optional<std::int16_t> theme_style;
@@ -48,10 +47,10 @@ private:
     void Next_Month();
 
     Main_Frm &calendar_;
-    Settings choices_; ///< that the calendar shows meanwhile
+    Settings choices_; ///< the settings that the calendar shows meanwhile
     std::string pack_;
     std::int16_t month_ = 0;
     bool pack_failed_ = false;
-    std::optional<Before> before_; ///< nothing: not running
+    std::optional<Before> before_; ///< empty: not running
     Timer Month_Timer{3000};
 };

@@ -1,4 +1,4 @@
-// A Windows bitmap file: two headers, then the rows from the bottom up, each filled up to four bytes.
+// The format: two headers, then the rows from bottom to top, each padded to a multiple of four bytes.
 #include "themes/bitmap.h"
 
 #include <cstddef>

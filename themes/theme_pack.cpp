@@ -1,4 +1,3 @@
-// The lookups in a theme pack, and its bitmaps.
 #include "themes/theme_pack.h"
 
 #include "base/joined.h"
@@ -16,14 +15,14 @@
 namespace {
 
 constexpr const char *settings_file = "settings.ini";
-constexpr std::string_view bitmap_ending = ".bmp";
+constexpr std::string_view bitmap_extension = ".bmp";
 
-/// Whether the system takes the name for a device, in every folder and with any ending.
+/// Returns whether Windows treats the name as a device, which it does in every folder and with any extension.
 bool Is_Device(std::string_view name) {
     std::string base = To_Upper(name.substr(0, name.find('.')));
     base.erase(base.find_last_not_of(' ') + 1);
     if (base.starts_with("COM") || base.starts_with("LPT")) {
-        // Small raised digits count too.
+        // Superscript digits count as well.
         constexpr std::array<std::string_view, 13> numbers{
             "0", "1", "2", "3", "4", "5", "6", "7", "8", "9", "\xC2\xB9", "\xC2\xB2", "\xC2\xB3"};
         return std::find(numbers.begin(), numbers.end(), std::string_view(base).substr(3)) != numbers.end();
@@ -90,7 +89,7 @@ std::variant<std::string, Pack_Fault> Find_Paper_Details(std::int16_t month, con
         if (platform::File_Exists(path))
             return Month_Details(platform::Read_File(path), month);
     } catch (const platform::File_Error &) {
-        // To the user a file that cannot be read is as good as missing.
+        // An unreadable file is the same fault as a missing one.
     } catch (const Sequential_Error &) {
     }
     return Pack_Fault::Unreadable;
@@ -115,7 +114,7 @@ std::string Get_Paper_Path(std::int16_t month, const std::string &pack) {
     if (!Is_Pack_Name(pack))
         return Theme_Error;
     const std::string number = std::to_string(month);
-    std::string path = Pack_File(pack, number + std::string(bitmap_ending));
+    std::string path = Pack_File(pack, number + std::string(bitmap_extension));
     if (platform::File_Exists(path))
         return path;
     Delete_Old_Bmps(pack);
@@ -132,12 +131,12 @@ void Delete_Old_Bmps(const std::string &pack) {
         return;
     for (const std::string &name :
          platform::Names_In_Folder(Pack_Folder(pack), platform::Entry_Kind::Files)) {
-        if (!name.ends_with(bitmap_ending))
+        if (!name.ends_with(bitmap_extension))
             continue;
         try {
             platform::Delete_File(Pack_File(pack, name));
         } catch (const platform::File_Error &) {
-            // One that another program holds goes the next time.
+            // Another program holds the file. A later call deletes it.
         }
     }
 }

@@ -1,6 +1,6 @@
-// Theme packs: folders beside the program with a picture for each month, and a file settings.ini that gives
-// the box style, the position and the display mode that go with it. Looking them up, and making the bitmap
-// that a wallpaper needs. Hanging it up is not here.
+// Theme packs: folders beside the program, each with one picture per month and a settings.ini that gives the
+// box style, the position and the display mode for each month. This file looks them up and makes the bitmap
+// that a wallpaper needs. It does not set the wallpaper.
 #pragma once
 
 #include <cstdint>
@@ -9,44 +9,46 @@
 #include <variant>
 #include <vector>
 
-/// The text that stands for a value when a lookup has failed.
+/// The text that replaces a value if its lookup fails.
 inline constexpr const char *Theme_Error = "ERROR";
 
-/// Whether a text can be a pack's name: the plain name of a folder, which leads nowhere else.
+/// Returns whether a text can be a pack's name: the plain name of a folder, which cannot lead to another
+/// place.
 bool Is_Pack_Name(std::string_view name);
 
-/// Whether two names are the same pack's: folders are found in any letter case.
+/// Returns whether two names mean the same pack. Folder names ignore case.
 bool Same_Pack(std::string_view a, std::string_view b);
 
-/// The names of the folders beside the program that hold a settings.ini, in the order of the alphabet.
+/// Returns the names of the folders beside the program that hold a settings.ini, in alphabetical order.
 std::vector<std::string> Find_Packs();
 
-/// The full path of a file of a pack.
+/// Returns the full path of a file in a pack.
 std::string Pack_File(const std::string &pack, const std::string &name);
 
-/// The value text of a month ("2-4-1") in a settings.ini with these bytes; of several the last, empty for
-/// none. Throws Sequential_Error.
+/// Returns the value text of a month ("2-4-1") from the bytes of a settings.ini: the last one if there are
+/// several, empty if there is none. Throws Sequential_Error.
 std::string Month_Details(std::string_view bytes, std::int16_t month);
 
-/// Why a pack has no value texts: it is not there, or its settings.ini is not or cannot be read.
+/// Why a pack has no value texts: its folder is missing, or its settings.ini is missing or cannot be read.
 enum class Pack_Fault { Missing, Unreadable };
 
-/// The value text of a month in a pack, empty for none, or why it cannot be told.
+/// Returns the value text of a month in a pack, empty if there is none, or the fault.
 std::variant<std::string, Pack_Fault> Find_Paper_Details(std::int16_t month, const std::string &pack);
 
-/// The parts of a value text: before its first "-", between the first and the second, and after the second.
-/// A part that is not there is empty.
+/// Return the parts of a value text: before its first "-", between the first and the second "-", and after
+/// the second. A missing part is empty.
 std::string Get_Paper_BoxStyle(std::string_view details);
 std::string Get_Paper_Pos(std::string_view details);
 std::string Get_Paper_DisplayMode(std::string_view details);
 
-/// The path of a month's bitmap, which is made from its picture if it is not there, in the place of the
-/// bitmaps of other months. Theme_Error for a name that is no pack's. Throws platform::Picture_Error or
-/// platform::File_Error when the picture cannot be loaded or the bitmap not be saved.
+/// Returns the path of a month's bitmap. If the bitmap is missing, deletes the pack's other bitmaps and makes
+/// it from the month's picture. Returns Theme_Error if `pack` is not a pack name. Throws
+/// platform::Picture_Error if the picture cannot be loaded, platform::File_Error if the bitmap cannot be
+/// saved.
 std::string Get_Paper_Path(std::int16_t month, const std::string &pack);
 
-/// Says that a month's picture cannot be shown, for a reason that is told behind it.
+/// Returns the sentence that a month's wallpaper cannot be shown. The caller appends the reason.
 std::string Picture_Error_Text(std::int16_t month);
 
-/// Deletes the bitmaps of a pack. What cannot be deleted stays.
+/// Deletes the bitmaps of a pack. Skips those that cannot be deleted.
 void Delete_Old_Bmps(const std::string &pack);
