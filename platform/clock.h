@@ -3,7 +3,7 @@
 
 namespace platform {
 
-/// A local date and time of day. The month and day count from 1, the weekday from Sunday = 0.
+/// A local date and time of day. Months and days count from 1.
 struct Date_Time {
     int year = 0;
     int month = 0;
@@ -14,17 +14,18 @@ struct Date_Time {
     int millisecond = 0;
 };
 
-/// The local time now.
+/// Returns the current local time.
 Date_Time Now();
 
-/// The same in Coordinated Universal Time.
+/// Returns the current time in Coordinated Universal Time (UTC).
 Date_Time Now_In_Utc();
 
-/// The time in the user's zone, by the zone's rules for that day, at a time of Coordinated Universal Time.
-/// The time itself where the system does not know.
+/// Converts a UTC time to the user's time zone, by the rules of the zone on that day. Returns `utc` unchanged
+/// if the system cannot convert it.
 Date_Time Local_Time(const Date_Time &utc);
 
-/// Milliseconds since some moment, which only tell how much time passes. They begin anew after 49 days.
+/// Returns a count of milliseconds that only serves to measure elapsed time. It starts again at 0 after 49
+/// days.
 unsigned Milliseconds();
 
 } // namespace platform

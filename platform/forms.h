@@ -1,6 +1,6 @@
-// What a native window mirrors: the state of a form and of its controls as plain values, the calls that tell
-// the mirror of a change, and the events through which user actions come back. The toolkit owns the state; a
-// mirror only reads it.
+// The interface to native windows: the state of a form and its controls as plain values, the calls that tell
+// a mirror (the native window) of a change, and the events that report user actions. The toolkit owns the
+// state; a mirror only reads it.
 #pragma once
 
 #include "base/callback.h"
@@ -16,14 +16,14 @@
 
 namespace platform {
 
-/// A label or a picture box with `painted` draws itself; all else in a dialog is a native control.
+/// In a dialog, a label or picture box with `painted` paints itself. All other controls there are native.
 enum class Control_Kind : std::uint8_t {
     Label,
     Button,
     Check_Box,
-    Text_Box, ///< without line breaks; several wrapped lines, unless `single_line`
+    Text_Box, ///< no line breaks; wraps its text into several lines, unless `single_line`
     Option_Button,
-    Combo_Box, ///< a drop-down list, or with `editable` a text box with one
+    Combo_Box, ///< a drop-down list; with `editable`, a text box with a list
     List_Box,
     Tab_Strip,
     Slider,
@@ -32,80 +32,82 @@ enum class Control_Kind : std::uint8_t {
     Progress_Bar,
 };
 
-/// What a control is to assistive technology.
+/// The role of a control for assistive technology.
 enum class Access_Role : std::uint8_t { None, Text, Title, Button, Header, Cell, Choice, Link };
 
-/// How a control presents itself to assistive technology. In a painted form one with the role None is not
-/// presented; in a dialog it is a text or a picture. Native controls have a role; of those only the name
-/// counts, and of those with a text of their own not even that: a label directly before them names them.
+/// The description of a control for assistive technology. With the role None, a control of a painted form is
+/// not presented, and a painted control of a dialog is a text or a picture. Native controls have a role
+/// already, so only their name counts. The name does not count for native controls with a text of their own:
+/// the label directly before them names them.
 struct Access_State {
     Access_Role role = Access_Role::None;
-    bool current = false; ///< the marked one of its kind: today, the chosen one
+    bool current = false; ///< the marked one of its kind, such as today or the chosen one
     std::string name;
     std::string value;
-    std::string default_action; ///< empty when it has none
+    std::string default_action; ///< empty: no action
     friend bool operator==(const Access_State &, const Access_State &) = default;
 };
 
-/// Small drawn signs that a label can show instead of its caption.
+/// A small sign that a label can show instead of its caption.
 enum class Glyph : std::uint8_t { None, Arrow_Left, Arrow_Right, Information };
 
-/// All that can be seen of one control. Positions are twips on the form, or on the frame that holds it.
+/// The visible state of one control. Positions are twips on the form, or on the frame that holds the control.
 struct Control_State {
     Control_Kind kind = Control_Kind::Label;
     int index = 0;      ///< place in the form's control order
-    int container = -1; ///< index of the frame that holds it, which comes before it; -1: the form
+    int container = -1; ///< index of the frame that holds the control and comes before it; -1: the form
     std::string name;
     Rect bounds;
     bool visible = true;
     bool enabled = true;
-    std::string
-        caption; ///< lines are parted by "\n"; in a text box the text; "&" marks the access key in dialogs
+    /// The caption, or the text of a text box. "\n" separates lines, and "&" marks the access key in dialogs.
+    std::string caption;
     std::string tooltip;
     Font font;
     Colour fore_colour = System_Colour(18);
     Colour back_colour = System_Colour(15);
-    bool transparent = false; ///< draws no background of its own
+    bool transparent = false; ///< without a background of its own
     Colour frame_colour = -1; ///< -1: no frame
-    bool marked = false;      ///< bears the mark of the keyboard focus
-    bool hairline = false;    ///< has a hairline inside its edges where no frame is
+    bool marked = false;      ///< shows the mark of the keyboard focus
+    bool hairline = false;    ///< shows a hairline inside its edges if it has no frame
     Text_Align align = Text_Align::Left;
-    bool middle = false; ///< caption centred between top and bottom
-    int padding = 0;     ///< twips between the caption and the left, right and, unless `middle`, top edge
+    bool middle = false; ///< centres the caption vertically
+    int padding = 0;     ///< twips between the caption and the left, right and, unless `middle`, the top edge
     Glyph glyph = Glyph::None;
-    bool checked = false;    ///< check boxes and option buttons
-    bool is_default = false; ///< the button that Enter presses
-    bool is_cancel = false;  ///< the button that Esc presses
+    bool checked = false;    ///< of check boxes and option buttons
+    bool is_default = false; ///< Enter presses this button
+    bool is_cancel = false;  ///< Esc presses this button
 
-    std::vector<std::string> items; ///< of combo and list boxes and tab strips
-    int selected = -1;              ///< the chosen one of `items`, -1: none
-    int minimum = 0;                ///< sliders and progress bars
+    std::vector<std::string> items; ///< of combo boxes, list boxes and tab strips
+    int selected = -1;              ///< index of the chosen item, -1: none
+    int minimum = 0;                ///< of sliders and progress bars
     int maximum = 100;
     int value = 0;
-    bool editable = false;    ///< combo boxes: any text can be typed
-    bool single_line = false; ///< text boxes
-    bool read_only = false;   ///< text boxes
+    bool editable = false;    ///< of combo boxes: the user can type any text
+    bool single_line = false; ///< of text boxes
+    bool read_only = false;   ///< of text boxes
 
-    bool painted = false;  ///< in a dialog: draws itself with `paint`, and tells of the mouse
-    bool tab_stop = false; ///< a painted control that takes the keyboard and tells of keys; of Enter only
-                           ///< where it has a default action, else that presses the default button
-    bool link = false;     ///< a painted control with the hand pointer
-    /// Paints a painted control of a dialog, in twips from its own top left corner. Never throws. The mirror
-    /// adds the dotted rectangle of the keyboard focus.
+    bool painted = false; ///< in a dialog: paints itself with `paint`, and sends mouse events
+    /// A painted control that takes the keyboard focus and sends key events. Without a default action, Enter
+    /// presses the default button instead.
+    bool tab_stop = false;
+    bool link = false; ///< a painted control with the hand pointer
+    /// Paints a painted control of a dialog, in twips from its top left corner. Never throws. The mirror adds
+    /// the dotted focus rectangle.
     Callback<void(Canvas &canvas, const Rect &clip)> paint;
 
     Access_State access;
 };
 
 enum class Form_Kind : std::uint8_t {
-    Painted, ///< borderless, painted by the form itself, no task bar button
-    /// A painted form that appears above all windows and never takes the keyboard. It has no owner: the
-    /// calendar may be inside a window of the shell's process, which an owned window would be tied to.
+    Painted, ///< borderless, painted by the form itself, without a task bar button
+    /// A painted form above all windows that never takes the keyboard. It has no owner, because the calendar
+    /// may be inside a window of the shell's process, and an owned window would depend on that one.
     Floating,
     Dialog, ///< a native dialog: title bar, close box, native controls
 };
 
-/// Pointer shapes over a form.
+/// The pointer shapes of a form.
 enum class Pointer_Shape : std::uint8_t { Arrow, Move, Hourglass };
 
 enum class Mouse_Button : std::uint8_t { None, Left, Right, Middle };
@@ -114,36 +116,40 @@ enum class Input_Kind : std::uint8_t {
     Mouse_Down,
     Mouse_Up,
     Mouse_Move,
-    Double_Click, ///< instead of the second Mouse_Down
+    Double_Click, ///< replaces the second Mouse_Down
     Key_Down,
     Key_Up,
-    Clicked,        ///< a button, check box or option button was pressed (`checked` is its new state), or the
-                    ///< space bar on a painted control; `key` is Esc where that stood for the button
-    Text_Changed,   ///< the user changed a native text box or the text of a combo box to `text`
-    Selected,       ///< the user chose item `selected` of a combo box, list box or tab strip (of one that was
-                    ///< chosen already, too), or let a slider go at that value
-    Scrolled,       ///< the user is moving a slider, which is at the value `selected`
+    /// A press of a button, check box or option button (`checked`: its new state), or the space bar on a
+    /// painted control. `key` is Esc if Esc pressed the button.
+    Clicked,
+    Text_Changed, ///< the user changed the text of a text box or combo box to `text`
+    /// The user chose the item `selected` of a combo box, list box or tab strip, perhaps the same as before,
+    /// or released a slider at the value `selected`.
+    Selected,
+    Scrolled,       ///< the user is moving a slider, now at the value `selected`
     Item_Activated, ///< a double click on the chosen item of a list box
-    Default_Action, ///< assistive technology asks for the control's default action
-    Close,          ///< the close box or Alt+F4
-    Window_Lost,    ///< the native window is gone, by whatever hand
-    Focus_Changed,  ///< the form got (`checked`) or lost the keyboard
-    Capture_Lost,   ///< the mouse went elsewhere while a button was held: its release will not come
-    Dots_Changed,   ///< the screen's dots per inch changed
-    Window_Moved,   ///< the window of a dialog is at `point` on the screen now
+    Default_Action, ///< assistive technology requests the control's default action
+    Close,          ///< the close box, Alt+F4, or Esc in a dialog without a cancel button
+    Window_Lost,    ///< the native window is gone, for whatever reason
+    Focus_Changed,  ///< the form got (`checked`) or lost the keyboard focus
+    /// The mouse was captured elsewhere while a button was held, so its release will not arrive.
+    Capture_Lost,
+    Dots_Changed, ///< the screen's dots per inch changed
+    Window_Moved, ///< the window of a dialog moved to `point` on the screen
 };
 
-/// One user action. Fields that do not belong to the kind stay at their defaults.
+/// One user action. Fields without a meaning for the kind keep their defaults.
 struct Input_Event {
     Input_Kind kind;
-    /// Index of the control of a dialog that the event is about, with keys the focused one; in painted forms
-    /// the control that assistive technology means.
+    /// Index of the control of a dialog; for keys, the focused one. In painted forms, the control that
+    /// assistive technology addresses.
     int control = -1;
-    Point point{}; ///< mouse, twips on the form; where `control` names one, on that; of Window_Moved on the
-                   ///< screen
-    Mouse_Button button = Mouse_Button::None; ///< the button that changed; in a move the one that is held
+    /// Mouse position in twips on the form, or on the painted control `control`; for Window_Moved, the place
+    /// on the screen in twips.
+    Point point{};
+    Mouse_Button button = Mouse_Button::None; ///< the button that changed; for Mouse_Move the held one
     int key = 0;                              ///< virtual key code
-    bool repeated = false;                    ///< a Key_Down of a key that was down before
+    bool repeated = false;                    ///< a Key_Down of a key that is held
     bool shift = false;
     bool control_key = false;
     bool alt = false;
@@ -152,26 +158,26 @@ struct Input_Event {
     std::string text{};
 };
 
-/// The state of a form. `input` and `paint` are filled by the toolkit and never throw.
+/// The state of a form. The toolkit sets `input` and `paint`. Neither throws.
 struct Form_Model {
     Form_Kind kind = Form_Kind::Dialog;
-    std::string name; ///< the native window's class is "Vellatro_" and this name
+    std::string name; ///< the native window's class is "Vellatro_" plus this name
     std::string title;
-    std::string description; ///< what assistive technology tells of it beside the title
-    Rect bounds;             ///< on the screen, twips; of a dialog the client area's size counts
+    std::string description; ///< additional description for assistive technology
+    Rect bounds;             ///< in twips on the screen; for a dialog, the size of its client area
     bool visible = false;
-    bool enabled = true; ///< without this the window of a dialog takes no mouse and no keys
+    bool enabled = true; ///< if false, the window of a dialog takes no mouse and keyboard input
     Colour back_colour = System_Colour(15);
     Pointer_Shape pointer = Pointer_Shape::Arrow;
     std::vector<Control_State *> controls; ///< in paint and tab order
     int focused = -1;                      ///< index of the control with the keyboard focus, -1: none
 
     Callback<void(const Input_Event &)> input;
-    /// Paints all that lies in `clip` (twips).
+    /// Paints everything in `clip` (twips).
     Callback<void(Canvas &canvas, const Rect &clip)> paint;
 };
 
-/// What of a form or control is no longer what the mirror shows.
+/// The part of a form or control that has changed since the mirror showed it.
 enum class Aspect : std::uint8_t {
     Bounds,
     Visible,
@@ -181,13 +187,13 @@ enum class Aspect : std::uint8_t {
     Look,
     Access,
     Checked,
-    Items,    ///< `items`, and with them `selected`; the range of sliders and progress bars
+    Items,    ///< `items` and `selected`, or the range of a slider or progress bar
     Selected, ///< `selected` or `value`
     Pointer,
     Focus
 };
 
-/// The control's place on the form: its frames' places are added.
+/// Returns the control's place on the form: its bounds plus the places of its frames.
 inline Rect Place_On_Form(const Form_Model &model, const Control_State &control) {
     Rect place = control.bounds;
     for (int frame = control.container; frame != -1;) {
@@ -199,47 +205,45 @@ inline Rect Place_On_Form(const Form_Model &model, const Control_State &control)
     return place;
 }
 
-/// Whether the control and all its frames are visible.
+/// Returns whether the control and all its frames are visible.
 inline bool Is_Shown(const Form_Model &model, const Control_State &control) {
     return control.visible && (control.container == -1 ||
                                Is_Shown(model, *model.controls[static_cast<std::size_t>(control.container)]));
 }
 
-/// Whether the control and all its frames are enabled.
+/// Returns whether the control and all its frames are enabled.
 inline bool Is_Usable(const Form_Model &model, const Control_State &control) {
     return control.enabled &&
            (control.container == -1 ||
             Is_Usable(model, *model.controls[static_cast<std::size_t>(control.container)]));
 }
 
-/// Makes the native window of a form, hidden or visible as the model says, with all its controls.
-/// Throws Error with the system's reason when it cannot be made, and then there is none.
+/// Creates the native window of a form with all its controls, hidden or visible as the model says. Throws
+/// Error with the system's reason, and leaves no window, if that fails.
 void Create_Mirror(const Form_Model &model);
 
-/// Takes the native window down. Does nothing when there is none.
+/// Destroys the native window. Does nothing if there is none.
 void Destroy_Mirror(const Form_Model &model);
 
-/// Tells the mirror that the form's own state changed. Does nothing without a native window.
+/// Tells the mirror that the form itself changed. Does nothing without a native window.
 void Form_Changed(const Form_Model &model, Aspect aspect);
 
-/// Tells the mirror that a control's state changed, which for the place, Visible and Enabled of a frame
-/// concerns all that it holds; `before` is the control's rectangle before a change of
-/// Bounds.
+/// Tells the mirror that a control changed. A change of a frame's Bounds, Visible or Enabled also concerns
+/// the controls in it. `before` is the control's rectangle before a change of Bounds.
 void Control_Changed(const Form_Model &model, const Control_State &control, Aspect aspect,
                      const Rect &before);
 
-/// Clips the form's window to these rectangles (twips on the form). Equal rectangles change nothing.
+/// Clips the form's window to these rectangles (twips on the form). Does nothing if they have not changed.
 void Clip_Window(const Form_Model &model, const std::vector<Rect> &rects);
 
 /// Clips the form's window to a polygon (twips on the form).
 void Shape_Window(const Form_Model &model, const std::vector<Point> &corners);
 
-/// Returns where the left top corner of the form's window is on the screen, in pixels, also when another
-/// program has moved the window or the one that it is in. Nothing without a native window or while it is
-/// minimised.
+/// Returns the position of the window's top left corner on the screen, in pixels, even if another program has
+/// moved the window or its parent. Returns nothing without a native window or while it is minimised.
 std::optional<Point> Window_Corner(const Form_Model &model);
 
-/// Shows the form in front of the other windows and gives it the keyboard.
+/// Brings the form to the front and gives it the keyboard focus.
 void Bring_To_Front(const Form_Model &model);
 
 } // namespace platform

@@ -1,11 +1,11 @@
-// Where the system looks for libraries.
+// The search path for libraries.
 #pragma once
 
 namespace platform {
 
-/// Takes libraries from the system's own folder alone from now on, and none of such a name beside the
-/// program. Does nothing on systems that cannot do so; win32/system_library.h names every library with its
-/// path anyway.
+/// Makes the system load libraries only from its own folder from now on, never from the program's folder.
+/// Does nothing on systems without this feature; win32/system_library.h loads every library by its full path
+/// anyway.
 void Load_From_System_Only();
 
 } // namespace platform

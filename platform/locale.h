@@ -1,5 +1,5 @@
-// What the user's regional settings say about names and dates. All dates are Gregorian, whichever calendar
-// the user has there.
+// Names and dates in the user's regional settings. All dates are Gregorian, whichever calendar the user has
+// chosen.
 #pragma once
 
 #include "platform/clock.h"
@@ -10,25 +10,25 @@
 
 namespace platform {
 
-/// Full name of month 1 to 12.
+/// Returns the full name of a month, 1 to 12.
 std::string Month_Name(int month);
 
-/// Full and abbreviated name of a weekday, Sunday = 0 to Saturday = 6.
+/// Returns the full or the abbreviated name of a weekday, Sunday = 0 to Saturday = 6.
 std::string Weekday_Name(int weekday);
 std::string Short_Weekday_Name(int weekday);
 
-/// The weekday on which the user's week begins, Sunday = 0 to Saturday = 6.
+/// Returns the first day of the user's week, Sunday = 0 to Saturday = 6.
 int First_Weekday();
 
-/// A date of the years 100 to 9999 in the user's short date form, which Read_Date takes for the same day if
-/// its year is whole.
+/// Returns a date of the years 100 to 9999 in the user's short date form. Read_Date reads it as the same day
+/// if it shows the year in full.
 std::string Short_Date(int year, int month, int day);
 
-/// A date and time of day in the user's short date form and time form.
+/// Returns a date and time of day in the user's short date form and time form.
 std::string Date_Time_Text(const Date_Time &time);
 
-/// The date that a user means by `text`, in the order of day and month of the regional settings. A time of
-/// day in it is passed over. Nothing for a text that is no date of the years 100 to 9999.
+/// Returns the date in `text`, read in the regional settings' order of day and month. Ignores a time of day.
+/// Returns nothing if the text is not a date of the years 100 to 9999.
 std::optional<Date_Time> Read_Date(std::string_view text);
 
 } // namespace platform

@@ -8,20 +8,19 @@
 
 namespace platform {
 
-/// The small pictures that menu items can bear; drawn by the platform at the size the screen wants.
+/// The small pictures of menu items. The platform draws them in the size that the screen needs.
 enum class Menu_Image : std::uint8_t { None, Clear, Edit, Settings, Exit, Undo };
 
 struct Menu_Item {
     int id = 0; ///< 1 or more
     std::string text;
     Menu_Image image = Menu_Image::None;
-    bool enabled = true;           ///< else greyed, and not to be chosen
-    bool separator_before = false; ///< a line stands between it and the item before
+    bool enabled = true;           ///< false: greyed out, and cannot be chosen
+    bool separator_before = false; ///< a line separates it from the item before
 };
 
-/// Shows the items as a popup menu centred on the mouse and returns the id of the chosen one, 0 when it was
-/// dismissed. `owner` is the form that the menu belongs to. With `at`, in twips on the owner, the menu opens
-/// there instead.
+/// Shows the items as a popup menu centred on the mouse, or on `at` (twips on the owner). `owner` is the form
+/// that owns the menu. Returns the id of the chosen item, or 0 if the user dismissed the menu.
 int Track_Popup_Menu(const Form_Model &owner, const std::vector<Menu_Item> &items, const Point *at = nullptr);
 
 } // namespace platform

@@ -1,5 +1,4 @@
-// Pictures as pixels: reading one from a file, and drawing one. Writing them is the business of who keeps
-// them.
+// Pictures as pixels: reading them from files and drawing them. Nothing here writes a picture.
 #pragma once
 
 #include "base/error.h"
@@ -20,14 +19,15 @@ public:
     using Error::Error;
 };
 
-/// The largest picture that is read, in pixels: as large as any screen that a wallpaper can fill.
+/// The largest picture that can be read, in pixels: as large as any screen that a wallpaper can fill.
 constexpr std::int64_t most_picture_pixels = 64LL * 1024 * 1024;
 
-/// Reads a JPEG picture. Throws Picture_Error when there is none, it is damaged, or larger than
-/// most_picture_pixels; the size is known before memory is taken for the pixels.
+/// Reads a JPEG picture. Throws Picture_Error if the file cannot be read, is not a JPEG picture, is damaged
+/// or has more than most_picture_pixels, and if out of memory. The size is checked before memory for the
+/// pixels is allocated.
 Picture Load_Picture(const std::string &path);
 
-/// Draws the picture scaled to `rect` (twips), smoothly.
+/// Draws the picture, smoothly scaled to `rect` (twips).
 void Draw_Picture(Canvas &canvas, const Picture &picture, const Rect &rect);
 
 } // namespace platform

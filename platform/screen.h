@@ -1,28 +1,29 @@
-// The screen: its dots per inch, its size, the work area and the mouse.
+// The screen: its dots per inch, its size, its work area and the mouse.
 #pragma once
 
 #include "base/geometry.h"
 
 namespace platform {
 
-/// Dots per inch of the screen that shows the calendar, 96 at normal size.
+/// Returns the dots per inch, 96 at normal size: those of the dialog's screen while a dialog's window handles
+/// a message, else those of the screen that shows the calendar.
 int Dots_Per_Inch();
 
-/// The size of the primary monitor in pixels. Its left top corner is (0, 0).
+/// Returns the size of the primary monitor in pixels. Its top left corner is (0, 0).
 Size Screen_Size();
 
-/// The work area of the primary monitor in pixels: the screen less the task bar.
+/// Returns the work area of the primary monitor in pixels: the screen without the task bar.
 Rect Work_Area();
 
-/// The work area of the monitor that `point` (screen pixels) is on, or is nearest to, in pixels.
+/// Returns the work area, in pixels, of the monitor at or nearest to `point` (screen pixels).
 Rect Work_Area_Around(Point point);
-/// The same for the monitor that most of `place` is on.
+/// Returns the same for the monitor that shows most of `place` (screen pixels).
 Rect Work_Area_Of(const Rect &place);
 
-/// Whether the user has Windows show everything in high contrast.
+/// Returns whether the user has turned on high contrast.
 bool High_Contrast();
 
-/// Whether any mouse button is held now, over whichever window.
+/// Returns whether any mouse button is held now, over any window.
 bool Mouse_Button_Held();
 
 } // namespace platform

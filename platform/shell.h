@@ -1,5 +1,5 @@
-// The shell: finding its windows of the desktop, the colours of their icon labels, putting a form's window
-// into them, and the way to the user's browser.
+// The shell: its desktop windows, the colours of the icon labels, attaching a form to the desktop, and
+// opening web pages.
 #pragma once
 
 #include "base/colour.h"
@@ -10,40 +10,40 @@
 
 namespace platform {
 
-/// A window of the shell; 0: none. It belongs to another process and may be gone at any moment.
+/// A window of the shell, 0: none. It belongs to another process and may vanish at any moment.
 using Shell_Window = std::uintptr_t;
 
-/// The shell's desktop window, 0 under another shell.
+/// Returns the shell's desktop window, 0 under another shell.
 Shell_Window Find_Desktop_Window();
 
-/// The view of files and folders: in the desktop window, or in a window that the shell lays over that one.
+/// Returns the view of files and folders, which is in the desktop window or in a window that covers it.
 Shell_Window Find_Shell_View(Shell_Window desktop);
-/// The window that the view is in, 0 when it is gone.
+/// Returns the window that holds the view, 0 if it is gone.
 Shell_Window Holder_Of(Shell_Window view);
-/// The list of icons in the view.
+/// Returns the list of icons in the view.
 Shell_Window Find_Icon_List(Shell_Window view);
 
-/// How the icon list draws its labels.
+/// The colours of the icon list's labels.
 struct Label_Colours {
     Colour background; ///< -1: none
     Colour text;
     friend bool operator==(const Label_Colours &, const Label_Colours &) = default;
 };
 
-/// Asks the icon list. Nothing when the shell does not answer a question within `patience` milliseconds,
-/// which it is not given when the system holds it for hung.
+/// Asks the icon list for its colours. Returns nothing if the shell does not answer each question within
+/// `patience` milliseconds. Does not wait if the system considers the shell hung.
 std::optional<Label_Colours> Icon_Label_Colours(Shell_Window list, unsigned patience);
 
-/// Makes the form's window a child of the view's holder, above its other children, at its place on the
-/// screen; then looks the dots per inch up again. Returns whether it is inside: not when the holder has gone
-/// in the meantime, which leaves the form's window where it was, and not without a native window.
+/// Makes the form's window a child of the view's holder, above its other children, at the form's place on the
+/// screen. Then looks up the dots per inch again. Returns whether the window is inside. Returns false without
+/// a native window, and if the holder has gone, which leaves the window where it was.
 bool Attach_To_Desktop(const Form_Model &model, Shell_Window holder);
 
-/// Keeps a form that is inside the view's holder to be seen: above the view, and with a surface of its own as
-/// long as the system shows no other children of the holder.
+/// Keeps a form in the view's holder visible: above the view, and with a surface of its own while the system
+/// shows only such children of the holder.
 void Keep_Over_View(const Form_Model &model, Shell_Window view);
 
-/// Opens a page of the web in the user's browser. A failure is silent.
+/// Opens a web page in the user's browser. Failures are silent.
 void Open_Web_Page(const char *address);
 
 } // namespace platform

@@ -1,4 +1,4 @@
-// The border between the program's texts, which are UTF-8, and those of older files.
+// Conversion of texts in older files to the program's UTF-8.
 #pragma once
 
 #include <string>
@@ -6,8 +6,8 @@
 
 namespace platform {
 
-/// Returns as UTF-8 what `bytes` are in the system's ANSI code page. That is the page of the system's locale,
-/// in which older programs wrote, whatever the user's formats or the process's page are.
+/// Converts bytes in the system's ANSI code page to UTF-8. Older programs wrote in that page. It belongs to
+/// the system's locale, not to the user's formats or the process.
 std::string Ansi_To_Utf8(std::string_view bytes);
 
 } // namespace platform

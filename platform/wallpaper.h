@@ -1,25 +1,26 @@
-// The picture behind the desktop.
+// The wallpaper of the desktop.
 #pragma once
 
 #include <string>
 
 namespace platform {
 
-/// Makes the Windows bitmap at `path` the wallpaper, for now and for the user's next sessions; empty: none.
-/// Rather hangs up what `monitors`, a text from Wallpaper_Of_Monitors, tells of, as far as all of that can be
-/// hung up. Returns at once; of several calls that follow each other quickly the last one counts. Failures
-/// are silent.
+/// Sets the Windows bitmap at `path` as the wallpaper, now and for the user's next sessions; empty: no
+/// wallpaper. If `monitors`, a text from Wallpaper_Of_Monitors, can be restored completely, sets that
+/// instead. Returns at once. Of several calls in quick succession only the last one counts. Failures are
+/// silent.
 void Set_Wallpaper(const std::string &path, const std::string &monitors = {});
 
-/// What hangs on each monitor now, or the slide show. Empty where the system knows of nothing but one path,
-/// or does not answer within five seconds.
+/// Returns the wallpaper of each monitor, or the slide show, as a text for Set_Wallpaper. Returns an empty
+/// text if the system knows only one path or does not answer within five seconds.
 std::string Wallpaper_Of_Monitors();
 
-/// The path itself, or that of a copy, if it is a file that the system writes over with the next wallpaper.
+/// Returns `path`, or the path of a copy if the system overwrites that file with the next wallpaper.
 std::string Persistent_Wallpaper(const std::string &path);
 
-/// Waits until the last wallpaper hangs and the registry names it, so that the program may end or look there.
-/// Gives up after five seconds and returns false: a hung window of another program can hold it for so long.
+/// Waits until the last wallpaper is set and the registry names it, so that the program may end or read it
+/// there. Gives up after five seconds and returns false, because a hung window of another program can block
+/// the change.
 bool Wait_For_Wallpaper();
 
 } // namespace platform

@@ -1,6 +1,6 @@
-// The accessible object of painted forms, and of painted controls of dialogs. It knows its window only by
-// handle and asks for the form at each call, because assistive technology may keep it longer than the form
-// lives.
+// The accessible object of painted forms, and of painted controls in dialogs. It keeps only the handle of its
+// window and looks up the form on each call, because assistive technology may keep the object longer than the
+// form lives.
 #include "win32/accessible.h"
 
 #include "platform/message_box.h"
@@ -15,7 +15,7 @@
 #include <new>
 #include <optional>
 
-// The system's interfaces have no virtual destructor: nobody deletes through them.
+// The system's interfaces have no virtual destructor, and no code deletes objects through them.
 #pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
 
 namespace win32 {
@@ -27,11 +27,11 @@ using platform::Access_State;
 using platform::Control_State;
 using platform::Form_Model;
 
-/// IAccessible's own identifier: the import library would bind oleacc to the start of the program for it.
+/// IID_IAccessible, written out because its import library would load oleacc when the program starts.
 constexpr GUID accessible_interface = {
     0x618736E0, 0x3C3D, 0x11CF, {0x81, 0x0C, 0x00, 0xAA, 0x00, 0x38, 0x9B, 0x71}};
 
-/// What a child number of a call stands for: a control, or the form itself.
+/// The target of a child number: a control, or the form itself.
 struct Target {
     const Form_Model *form = nullptr;
     const Control_State *control = nullptr;
@@ -45,7 +45,7 @@ BSTR New_String(const std::string &text) {
     return allocate == nullptr ? nullptr : allocate(wide.data(), static_cast<UINT>(wide.size()));
 }
 
-/// Hands a text out; an empty one is none.
+/// Stores a copy of the text in `out`. Returns S_FALSE for an empty text.
 HRESULT Set_Result(const std::string &text, BSTR *out) {
     if (text.empty())
         return S_FALSE;
@@ -53,7 +53,7 @@ HRESULT Set_Result(const std::string &text, BSTR *out) {
     return *out == nullptr ? E_OUTOFMEMORY : S_OK;
 }
 
-/// Hands a number out, if there is one.
+/// Stores the number in `out`. Returns S_FALSE if there is none.
 HRESULT Set_Result(std::optional<long> number, VARIANT *out) {
     if (!number)
         return S_FALSE;
@@ -75,7 +75,7 @@ long Role_Of(Access_Role role) {
     case Access_Role::Link:
         return ROLE_SYSTEM_LINK;
     default:
-        // Also a title: screen readers take a title bar for the window's own.
+        // Titles too: screen readers take the title bar role for the window's own title bar.
         return ROLE_SYSTEM_STATICTEXT;
     }
 }
@@ -84,7 +84,7 @@ long State_Of(const Form_Model &form, const Control_State &control, bool window_
     if (!Is_Presented(control))
         return STATE_SYSTEM_INVISIBLE;
     long state = control.enabled && !platform::Box_Is_Open() ? 0 : STATE_SYSTEM_UNAVAILABLE;
-    // The keyboard reaches every day.
+    // The keyboard reaches every day, so each one is focusable.
     if (control.access.role == Access_Role::Cell)
         state |= STATE_SYSTEM_FOCUSABLE | STATE_SYSTEM_SELECTABLE;
     if (control.access.current)
@@ -96,7 +96,7 @@ long State_Of(const Form_Model &form, const Control_State &control, bool window_
     return state;
 }
 
-/// The state of a painted control of a dialog, which has a window of its own.
+/// Returns the state of a painted control in a dialog, which has a window of its own.
 long State_Of(HWND window, const Control_State &control) {
     const bool usable = IsWindowEnabled(window) && !platform::Box_Is_Open();
     long state = (IsWindowVisible(window) ? 0L : STATE_SYSTEM_INVISIBLE) |
@@ -108,11 +108,11 @@ long State_Of(HWND window, const Control_State &control) {
     return control.access.current ? state | STATE_SYSTEM_CHECKED : state;
 }
 
-/// The client object of a form, and its own list of children: a client's proxy keeps the one that it has got
-/// first for all of its life, so the children are those of each call.
+/// The client object of a form, and the enumerator of its children. A client's proxy keeps the first
+/// enumerator that it gets for its whole life, so the enumerator looks up the children on each call.
 class Accessible_Form final : public IAccessible, public IEnumVARIANT {
 public:
-    /// Of the form's window, or of that of one control.
+    /// `window` is the form's window, or that of the control with the index `only`.
     explicit Accessible_Form(HWND window, int only) : window_(window), only_(only) {}
     Accessible_Form(const Accessible_Form &) = delete;
     Accessible_Form &operator=(const Accessible_Form &) = delete;
@@ -121,7 +121,7 @@ public:
     ULONG STDMETHODCALLTYPE AddRef() override { return ++owners_; }
     ULONG STDMETHODCALLTYPE Release() override;
 
-    // Nobody calls by name: oleacc brings the type library along.
+    // Clients do not call by name, because oleacc provides the type library.
     HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT *) override { return E_NOTIMPL; }
     HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo **) override { return E_NOTIMPL; }
     HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR *, UINT, LCID, DISPID *) override {
@@ -189,7 +189,7 @@ private:
     Target Find(const VARIANT &child) const;
     std::optional<long> Nearest(const Form_Model &form, long start, long step) const;
 
-    /// Hands out the text that `pick` has for a child.
+    /// Stores the text that `pick` returns for a child.
     template <typename Pick>
     HRESULT Return_Text(const VARIANT &child, BSTR *out, const Pick &pick) const {
         if (out == nullptr)
@@ -203,7 +203,7 @@ private:
         }
     }
 
-    /// Hands out one text of a child's control. The form itself has none.
+    /// Stores one text of a child's control. The form itself has none.
     HRESULT Return_Text(const VARIANT &child, BSTR *out, std::string Access_State::*text) const {
         return Return_Text(child, out, [text](const Target &target) {
             return target.control == nullptr ? std::string() : target.control->access.*text;
@@ -213,7 +213,7 @@ private:
         return Return_Text(child, out, [](const Target &) { return std::string(); });
     }
 
-    /// Hands out the number that `pick` has for a child.
+    /// Stores the number that `pick` returns for a child.
     template <typename Pick>
     HRESULT Return_Number(const VARIANT &child, VARIANT *out, const Pick &pick) const {
         if (out == nullptr)
@@ -223,7 +223,7 @@ private:
         return FAILED(target.error) ? target.error : Set_Result(pick(target), out);
     }
 
-    /// Hands out the child, if any, that `pick` finds in the form.
+    /// Stores the number of the child that `pick` finds in the form, if any.
     template <typename Pick>
     HRESULT Return_Child(VARIANT *out, const Pick &pick) const {
         if (out == nullptr)
@@ -235,8 +235,8 @@ private:
 
     ULONG owners_ = 1;
     HWND window_;
-    int only_; ///< index of the control whose window it is, which has no children; -1: the form's
-    long last_ = CHILDID_SELF; ///< the last child that the enumeration has passed
+    int only_; ///< index of the control that owns the window and has no children; -1: the form owns it
+    long last_ = CHILDID_SELF; ///< the last child that the enumeration passed
 };
 
 HRESULT Accessible_Form::QueryInterface(REFIID id, void **object) {
@@ -274,7 +274,7 @@ Target Accessible_Form::Find(const VARIANT &child) const {
     return {form, control, S_OK};
 }
 
-/// Returns the number of the presented child that is nearest to the number `start`, up (1) or down (-1).
+/// Returns the presented child nearest to the number `start`, upwards (step 1) or downwards (step -1).
 std::optional<long> Accessible_Form::Nearest(const Form_Model &form, long start, long step) const {
     for (long number = start + step; number > 0 && number <= Last_Child(form); number += step) {
         if (Is_Presented(*form.controls[static_cast<std::size_t>(number - 1)]))
@@ -351,7 +351,7 @@ HRESULT Accessible_Form::get_accChild(VARIANT child, IDispatch **object) {
     if (object == nullptr)
         return E_POINTER;
     *object = nullptr;
-    // The children are simple: they are asked for through this object.
+    // The children are simple elements: callers reach them through this object.
     const HRESULT error = Find(child).error;
     return FAILED(error) ? error : S_FALSE;
 }
@@ -439,7 +439,7 @@ HRESULT Accessible_Form::accHitTest(long x, long y, VARIANT *child) {
         GetClientRect(window_, &all);
         if (!PtInRect(&all, point))
             return std::nullopt;
-        // The top-most first.
+        // The topmost controls come last in the form's order.
         for (auto control = form.controls.rbegin(); control != form.controls.rend(); ++control) {
             const RECT place = To_Pixels((*control)->bounds);
             if (only_ < 0 && Is_Presented(**control) && PtInRect(&place, point))
@@ -457,7 +457,7 @@ HRESULT Accessible_Form::accDoDefaultAction(VARIANT child) {
         return DISP_E_MEMBERNOTFOUND;
     if (platform::Box_Is_Open())
         return E_FAIL;
-    // Later, because the action may show a dialog, and the caller would wait for its end.
+    // Posted, because the action may show a dialog, and the caller would wait until it closes.
     const auto index = static_cast<WPARAM>(target.control->index);
     return PostMessageW(window_, Default_Action_Message, index, 0) ? S_OK : E_FAIL;
 }
@@ -465,7 +465,7 @@ HRESULT Accessible_Form::accDoDefaultAction(VARIANT child) {
 } // namespace
 
 LRESULT Answer_Get_Object(HWND window, WPARAM wparam, LPARAM lparam, int only) {
-    // Only the low half of the identifier is sure to arrive.
+    // Only the low half of the identifier is reliable.
     if (static_cast<LONG>(lparam) != OBJID_CLIENT)
         return DefWindowProcW(window, WM_GETOBJECT, wparam, lparam);
     static const auto result_of_object =
@@ -473,7 +473,8 @@ LRESULT Answer_Get_Object(HWND window, WPARAM wparam, LPARAM lparam, int only) {
     static const auto initialise = Look_Up<HRESULT WINAPI(void *)>(L"ole32.dll", "CoInitialize");
     if (result_of_object == nullptr || initialise == nullptr)
         return 0;
-    // Once, and for the thread's whole life: the objects are called through the message loop.
+    // Initialised once for the thread's whole life, because clients call the objects through the message
+    // loop.
     static const HRESULT initialised = initialise(nullptr);
     if (FAILED(initialised))
         return 0;

@@ -1,5 +1,5 @@
-// Painted forms for assistive technology: the presented controls of a form as the simple children of its
-// client object. Native dialogs are presented by the system, but for the controls that paint themselves.
+// Presents painted forms to assistive technology: each presented control is a simple child of the form's
+// client object. The system presents native dialogs itself, except for their painted controls.
 #pragma once
 
 #include "platform/forms.h"
@@ -10,25 +10,25 @@
 
 namespace win32 {
 
-/// The answer to WM_GETOBJECT of a painted form's window, or of that of a dialog's painted control, which is
-/// the one with the index `only` then.
+/// Answers WM_GETOBJECT for the window of a painted form. For the window of a dialog's painted control,
+/// `only` is the index of that control.
 LRESULT Answer_Get_Object(HWND window, WPARAM wparam, LPARAM lparam, int only = -1);
 
-/// Announces that the name, the value or the state of a dialog's painted control has changed.
+/// Announces changes of the name, the value and the state of a dialog's painted control.
 void Announce_Change(HWND window);
 
-/// Announces the control with the focus to those that listen.
+/// Announces the focused control of a painted form. Does nothing if the window does not have the focus.
 void Announce_Focus(HWND window, const platform::Form_Model &model);
 
-/// What has been announced of a form's controls.
+/// Remembers the announced state of a form's controls, and announces changes.
 class Announcements {
 public:
-    /// Announces what of the controls has appeared, gone, or another name or value since the call before.
-    /// The first call announces nothing.
+    /// Announces each control that has appeared, disappeared or got another name or value since the last
+    /// call. The first call announces nothing.
     void Update(HWND window, const platform::Form_Model &model);
 
 private:
-    /// Of the texts a fingerprint is enough to see a change.
+    /// The announced state of one control. A hash of each text is enough to notice a change.
     struct Announced_State {
         bool presented;
         std::size_t name;
@@ -37,15 +37,16 @@ private:
     std::vector<Announced_State> announced_;
 };
 
-/// A control's number among the children: its place in the control order, from 1. It never changes.
+/// Returns the control's child number: its place in the control order, counted from 1. The number never
+/// changes.
 inline long Child_Number(const platform::Control_State &control) {
     return control.index + 1;
 }
 
-/// Whether the control is presented at all, and whether it can be seen now.
+/// Returns whether the control has a role and is visible.
 bool Is_Presented(const platform::Control_State &control);
 
-/// Its name to assistive technology: without one of its own it is named by its caption.
+/// Returns the control's accessible name, or its caption if it has no name of its own.
 const std::string &Access_Name(const platform::Control_State &control);
 
 } // namespace win32

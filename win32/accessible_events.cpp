@@ -1,4 +1,4 @@
-// Announcing changes of painted forms to assistive technology.
+// Announcements to assistive technology.
 #include "win32/accessible.h"
 #include "win32/system_library.h"
 
@@ -10,7 +10,7 @@ namespace win32 {
 namespace {
 
 void Announce(DWORD event, HWND window, long child) {
-    // Systems that cannot say whether somebody listens are told everything.
+    // Systems that cannot tell whether a client listens get every event.
     static const auto is_heard = Look_Up<BOOL WINAPI(DWORD)>(L"user32.dll", "IsWinEventHookInstalled");
     if (is_heard == nullptr || is_heard(event))
         NotifyWinEvent(event, window, OBJID_CLIENT, child);

@@ -1,4 +1,3 @@
-// The broadcasts of the system.
 #include "win32/broadcasts.h"
 
 #include "base/scoped_value.h"
@@ -19,10 +18,10 @@ namespace {
 Callback<bool(platform::Broadcast)> broadcast_listener;
 HWND broadcasts = nullptr;
 
-/// What the system told while the mouse was taken, each thing once.
+/// The broadcasts that arrived while the mouse was taken, each once.
 std::vector<std::pair<UINT, WPARAM>> deferred_broadcasts;
 
-/// The listener's answer.
+/// Tells the listener. Returns its answer, or true without a listener.
 bool Notify_Listener(platform::Broadcast broadcast) noexcept {
     const auto now = broadcast_listener;
     return !now || now(broadcast);
@@ -33,10 +32,11 @@ bool Concerns_Fonts(WPARAM setting) {
            setting == SPI_SETFONTSMOOTHINGTYPE;
 }
 
-/// Does what one of the system's broadcasts means to the program.
+/// Handles one of the system's broadcasts.
 void Process_Broadcast(UINT message, WPARAM wparam) {
     if (message == WM_SETTINGCHANGE && Concerns_Fonts(wparam)) {
-        // Fonts are no other setting besides: of them all forms hear, which then lay themselves out once.
+        // No other setting changed, so the listener is not told: Check_Scale makes all forms lay themselves
+        // out once.
         win32::Check_Scale(true);
     } else if (message == WM_SETTINGCHANGE) {
         win32::Check_Scale(false);
@@ -51,7 +51,7 @@ void Process_Broadcast(UINT message, WPARAM wparam) {
     }
 }
 
-/// Returns whether a message was one of those that mean something to the program.
+/// Handles a message that concerns the program. Returns whether `message` is one.
 bool Process_Message(UINT message, WPARAM wparam) {
     switch (message) {
     case WM_TIMER:
@@ -66,7 +66,7 @@ bool Process_Message(UINT message, WPARAM wparam) {
             Process_Broadcast(message, wparam);
         else if (const std::pair told(message, wparam);
                  std::ranges::find(deferred_broadcasts, told) == deferred_broadcasts.end())
-            deferred_broadcasts.push_back(told); // until the next tick
+            deferred_broadcasts.push_back(told); // handled at the next tick
         return true;
     default:
         return false;
@@ -80,20 +80,21 @@ void CALLBACK On_Front_Changed(HWINEVENTHOOK, DWORD, HWND, LONG, LONG, DWORD, DW
         Notify_Listener(platform::Broadcast::Front_Changed);
 }
 
-/// The message by which a shell tells that it has its task bar.
+/// Returns the message that a shell broadcasts once its task bar exists.
 UINT Shell_Started_Message() {
     static const UINT message = RegisterWindowMessageW(L"TaskbarCreated");
     return message;
 }
 
-/// Answers the two messages of the session's end.
+/// Answers WM_QUERYENDSESSION and WM_ENDSESSION.
 LRESULT End_Session(UINT message, WPARAM wparam, LPARAM lparam) {
     const bool ends = message == WM_QUERYENDSESSION || wparam != FALSE;
     const bool forced = ends && (static_cast<ULONG_PTR>(lparam) & ENDSESSION_CRITICAL) != 0;
     win32::Boxes_Suppressed = forced;
     if (forced)
         Notify_Listener(platform::Broadcast::Session_Forced);
-    // The end itself, WM_ENDSESSION, leaves no time for a question: whoever agrees has to be done here.
+    // WM_ENDSESSION leaves no time for a question, so a listener that agrees here must have finished its
+    // work.
     if (message == WM_QUERYENDSESSION)
         return forced || Notify_Listener(platform::Broadcast::Session_Ends) ? TRUE : FALSE;
     if (ends)
@@ -112,14 +113,14 @@ LRESULT CALLBACK Broadcast_Procedure(HWND window, UINT message, WPARAM wparam, L
             return 0;
         }
         if (message == WM_CLOSE) {
-            // Not the window's end: the timers and the broadcasts live in it.
+            // The window itself stays, because it receives the timers and the broadcasts.
             Notify_Listener(platform::Broadcast::Close_Request);
             return 0;
         }
         if (Process_Message(message, wparam))
             return 0;
     } catch (...) {
-        // Only want of memory comes here. The system's code above cannot pass an exception on.
+        // Only an out-of-memory exception arrives here. It must not pass through the system's code above.
         return message == WM_QUERYENDSESSION ? TRUE : 0;
     }
     return DefWindowProcW(window, message, wparam, lparam);
@@ -134,7 +135,7 @@ HWND Broadcast_Window() {
         return broadcasts;
     constexpr wchar_t class_name[] = L"Vellatro_Broadcasts";
     Register_Class(class_name, Broadcast_Procedure, 0);
-    // Top-level, for others hear no broadcasts.
+    // Top-level, because other windows receive no broadcasts.
     broadcasts = CreateWindowExW(WS_EX_TOOLWINDOW, class_name, L"Vellatro", WS_POPUP, 0, 0, 0, 0, nullptr,
                                  nullptr, GetModuleHandleW(nullptr), nullptr);
     return broadcasts;

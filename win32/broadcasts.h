@@ -1,21 +1,23 @@
-// The hidden window that the system's broadcasts and the timers come to, and what holds both back.
+// The hidden window that receives the system's broadcasts and the timers, and the check that holds both back
+// while the mouse is taken.
 #pragma once
 
 #include "win32/handles.h"
 
 namespace win32 {
 
-/// Returns the hidden window, made at its first use.
+/// Returns the hidden window. Creates it on first use.
 HWND Broadcast_Window();
 
-/// Returns whether an open menu, or a window that is being moved, has the mouse. What comes by itself waits
-/// then: a message box that it shows would get no click.
+/// Returns whether a menu is open or the user is moving a window. Timers and broadcasts wait meanwhile,
+/// because the user could not click a message box that they show.
 bool Mouse_Is_Taken();
 
-/// Does what the broadcasts mean that came while the mouse was taken.
+/// Handles the broadcasts that arrived while the mouse was taken.
 void Process_Deferred_Broadcasts();
 
-/// Calls what the timer is to call.
+/// Runs the callback of timer `id`. First looks for lost windows, handles the waiting broadcasts and checks
+/// the scale. While the mouse is taken, only looks for lost windows.
 void Tick(UINT_PTR id);
 
 } // namespace win32

@@ -1,4 +1,4 @@
-// Drawing on the buffer of a painted form, pictures too; measuring text, system colours.
+// Drawing on a canvas (pictures included), measuring text, and system colours.
 #include "win32/canvas.h"
 
 #include "base/cut_text.h"
@@ -15,7 +15,7 @@ namespace platform {
 
 namespace {
 
-/// The longest text that one drawing call takes.
+/// The longest text for one drawing call, in UTF-16 units.
 constexpr std::size_t longest_call = 8192;
 
 COLORREF To_Colorref(Colour colour) {
@@ -23,7 +23,7 @@ COLORREF To_Colorref(Colour colour) {
 }
 
 void Fill_Pixels(HDC dc, const RECT &rect, COLORREF colour) {
-    // An opaque empty text fills a rectangle without the making of a brush.
+    // An opaque empty text fills a rectangle without a brush.
     const COLORREF before = SetBkColor(dc, colour);
     ExtTextOutW(dc, 0, 0, ETO_OPAQUE, &rect, nullptr, 0, nullptr);
     SetBkColor(dc, before);
@@ -69,7 +69,7 @@ const win32::Pixel_Buffer &Canvas::Pixels() const {
 }
 
 void Canvas::Copy_To(HDC target) const {
-    // What the system draws has no opacity, and would not be seen on a surface of the window's own.
+    // The system draws with zero alpha, which is invisible on a window with a surface of its own.
     const win32::Pixel_Buffer &all = Pixels();
     std::for_each(all.pixels, all.pixels + std::ptrdiff_t{all.width} * all.height,
                   [](std::uint32_t &pixel) { pixel |= 0xFF000000U; });
@@ -136,7 +136,7 @@ void Draw_Text(Canvas &canvas, std::string_view text, const Rect &rect, const Fo
         align == Text_Align::Left ? 0 : static_cast<int>(pixels.right - pixels.left) - Pixel_Width(dc, part);
     int x = static_cast<int>(pixels.left);
     if (right_to_left && (align == Text_Align::Right || room < 0)) {
-        // From the edge, since letters that are joined are not as wide as they are measured one by one.
+        // Aligned at the right edge, because joined letters are not as wide as the sum of the single letters.
         SetTextAlign(dc, TA_RIGHT);
         x = static_cast<int>(pixels.right);
     } else {
@@ -157,7 +157,7 @@ void Draw_Picture(Canvas &canvas, const Picture &picture, const Rect &rect) {
 
 int Text_Width(std::string_view text, const Font &font) {
     const std::wstring wide = win32::To_Wide(text);
-    // Up, so that a text fits where its width in twips does.
+    // Rounded up, so that a text fits into its width in twips.
     return Scale_Up(Pixel_Width(win32::Measuring_Dc(font), wide), 1440, Dots_Per_Inch());
 }
 

@@ -1,13 +1,13 @@
-// The buffer that a painted form paints into: a bitmap of its invalid part, put on the window in one go.
+// The buffer for painting a window: a bitmap of the invalid area, copied to the window in one operation.
 #pragma once
 
 #include "platform/drawing.h"
 #include "win32/handles.h"
 #include "win32/smooth_polygon.h"
 
-/// Window pixels are the drawing coordinates; the bitmap begins at `area`'s top left corner.
+/// Drawing coordinates are window pixels. The bitmap starts at the top left corner of `area`.
 struct platform::Canvas {
-    /// Makes a bitmap for `area`, in pixels on the window. Ok() tells whether that succeeded.
+    /// Creates a bitmap for `area`, in window pixels. Ok() returns whether that succeeded.
     explicit Canvas(const RECT &area);
     ~Canvas();
     Canvas(const Canvas &) = delete;
@@ -16,9 +16,9 @@ struct platform::Canvas {
     bool Ok() const { return pixels_.pixels != nullptr; }
     HDC Dc() const { return dc_.get(); }
     const RECT &Area() const { return area_; }
-    /// The bitmap's pixels, with all earlier drawing done.
+    /// Returns the bitmap's pixels, with all earlier drawing completed.
     const win32::Pixel_Buffer &Pixels() const;
-    /// Copies the bitmap to its place on `target`.
+    /// Makes all pixels opaque and copies the bitmap to its place on `target`.
     void Copy_To(HDC target) const;
 
 private:
@@ -32,14 +32,15 @@ private:
 
 namespace win32 {
 
-/// A bitmap of 32-bit pixels, top row first, and where its pixels lie. Null when there is no memory for it.
+/// Creates a bitmap of 32-bit pixels, top row first, and points `pixels` at them. Returns null if out of
+/// memory.
 Unique_Bitmap Make_Pixel_Bitmap(int width, int height, Pixel_Buffer &pixels);
 
-/// 0x00RRGGBB of a platform colour.
+/// Returns a platform colour as 0x00RRGGBB.
 std::uint32_t Pixel_Colour(Colour colour);
 
-/// Paints a window by `paint(HDC, const RECT &area)` as WM_PAINT, WM_PRINTCLIENT or WM_ERASEBKGND asks; to
-/// the last it does nothing, for all of the area is painted. Returns the answer to the message.
+/// Handles WM_PAINT and WM_PRINTCLIENT by calling `paint(HDC, const RECT &area)`. WM_ERASEBKGND does nothing,
+/// because `paint` covers the whole area. Returns the result of the message.
 template <typename Paint>
 LRESULT Paint_Window(HWND window, UINT message, WPARAM wparam, const Paint &paint) {
     if (message == WM_ERASEBKGND)

@@ -1,4 +1,3 @@
-// The wall clock: platform/clock.h over Win32.
 #include "platform/clock.h"
 
 #include "win32/handles.h"
@@ -30,7 +29,7 @@ Date_Time Local_Time(const Date_Time &utc) {
     const auto word = [](int number) { return static_cast<WORD>(number); };
     const SYSTEMTIME time{word(utc.year), word(utc.month),  word(0),          word(utc.day),
                           word(utc.hour), word(utc.minute), word(utc.second), word(utc.millisecond)};
-    // A zone's rules have changed with the years, which older systems do not know.
+    // Time zone rules have changed over the years. Older systems know only the current rules.
     using Zone_Of_Year = BOOL WINAPI(USHORT, void *, TIME_ZONE_INFORMATION *);
     static auto *const zone_of_year =
         win32::Look_Up<Zone_Of_Year>(L"kernel32.dll", "GetTimeZoneInformationForYear");

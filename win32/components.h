@@ -1,4 +1,4 @@
-// The system's component objects: an owner of one, and the right to use them on a thread.
+// COM helpers: an owner of an interface pointer, and COM initialisation for a scope.
 #pragma once
 
 #include "win32/handles.h"
@@ -16,7 +16,7 @@ struct Releaser {
 template <typename Interface>
 using Unique_Interface = std::unique_ptr<Interface, Releaser>;
 
-/// Lets the calling thread use component objects for the length of a scope. None may outlive it.
+/// Initialises COM on the calling thread for a scope. No COM object may outlive it.
 class Component_Session {
 public:
     Component_Session() {

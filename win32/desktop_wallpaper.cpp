@@ -1,7 +1,8 @@
-// The desktop's pictures as the shell keeps them. The text that tells of them has a line for each thing: the
-// position, then the slide show's options, its pace and what it shows, or each monitor with its picture.
+// The desktop's wallpapers as the shell keeps them. The text that describes them has one line per item: first
+// the position, then either the slide show's options, its interval and its folder or pictures, or each
+// monitor with its picture.
 
-// The headers declare the interface for programs of Windows 8 only.
+// The headers declare the interface only for Windows 8 and newer.
 #undef _WIN32_WINNT
 #undef WINVER
 #define _WIN32_WINNT 0x0602
@@ -35,7 +36,7 @@ struct Task_Freer {
 using Task_Text = std::unique_ptr<wchar_t, Task_Freer>;
 using Id_List = std::unique_ptr<ITEMIDLIST, Task_Freer>;
 
-/// Null before Windows 8.
+/// Returns null before Windows 8.
 Unique_Interface<IDesktopWallpaper> Desktop_Wallpaper() {
     auto *const create = Look_Up<HRESULT WINAPI(REFCLSID, IUnknown *, DWORD, REFIID, void **)>(
         L"ole32.dll", "CoCreateInstance");
@@ -52,7 +53,7 @@ int Number(std::string_view text) {
     return number;
 }
 
-/// Adds the folder or the pictures of the slide show.
+/// Adds the slide show's options, interval, and folder or pictures. Returns whether that succeeded.
 bool Add_Slides(IDesktopWallpaper &wallpaper, std::string &lines) {
     DESKTOP_SLIDESHOW_OPTIONS options{};
     UINT tick = 0;
@@ -78,7 +79,7 @@ bool Add_Slides(IDesktopWallpaper &wallpaper, std::string &lines) {
     return true;
 }
 
-/// Adds the picture of each monitor that is there.
+/// Adds the picture of each connected monitor. Returns false if that fails or a monitor has no picture.
 bool Add_Pictures(IDesktopWallpaper &wallpaper, std::string &lines) {
     UINT count = 0;
     if (FAILED(wallpaper.GetMonitorDevicePathCount(&count)))
@@ -90,7 +91,7 @@ bool Add_Pictures(IDesktopWallpaper &wallpaper, std::string &lines) {
         const Task_Text monitor(text);
         RECT place{};
         if (wallpaper.GetMonitorRECT(monitor.get(), &place) != S_OK)
-            continue; // one that was there once
+            continue; // a monitor that is no longer connected
         if (FAILED(wallpaper.GetWallpaper(monitor.get(), &text)))
             return false;
         const Task_Text picture(text);
@@ -168,8 +169,9 @@ bool Set_Monitor_Wallpapers(const std::string &monitors) {
 }
 
 std::wstring Persistent_Picture(const std::wstring &path) {
-    // C:\Users\NAME\AppData\Roaming\Microsoft\Windows\Themes\TranscodedWallpaper, there with an ending in
-    // Windows 7 and with a number for a monitor, or ...\Themes\CachedFiles\CachedImage_1920_1080_POS4.jpg
+    // Windows overwrites C:\Users\NAME\AppData\Roaming\Microsoft\Windows\Themes\TranscodedWallpaper, which
+    // has an extension in Windows 7 and a number for a monitor, and
+    // ...\Themes\CachedFiles\CachedImage_1920_1080_POS4.jpg.
     const std::size_t cut = path.rfind(L'\\');
     if (cut == std::wstring::npos)
         return path;

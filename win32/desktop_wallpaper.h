@@ -1,19 +1,21 @@
-// What Windows 8 and newer know of the desktop's pictures beyond the one path in the registry: a picture for
-// each monitor, a slide show, and how they lie. All may be called on any thread.
+// Wallpapers on Windows 8 and newer: a picture for each monitor or a slide show, and their position. The
+// registry holds only one path. All functions may be called on any thread.
 #pragma once
 
 #include <string>
 
 namespace win32 {
 
-/// What hangs on the monitors now, as a text for Set_Monitor_Wallpapers. Empty where the system does not
-/// tell, or where a monitor has no picture.
+/// Returns the wallpapers of the monitors, or the slide show, as a text for Set_Monitor_Wallpapers. Returns
+/// an empty text if the system cannot provide them or a monitor has no picture.
 std::string Get_Monitor_Wallpapers();
 
-/// Hangs that up again. Returns false if something of it cannot be hung up any more.
+/// Sets the wallpapers that Get_Monitor_Wallpapers returned. Stops and returns false at the first one that
+/// cannot be set.
 bool Set_Monitor_Wallpapers(const std::string &monitors);
 
-/// The path itself, or that of a copy, if it is a file that the system writes over with the next wallpaper.
+/// Returns `path`, or the path of a copy if the system overwrites that file with the next wallpaper. Returns
+/// `path` if the copy fails.
 std::wstring Persistent_Picture(const std::wstring &path);
 
 } // namespace win32

@@ -1,5 +1,5 @@
-// The native controls of dialogs show the state of the form's controls. Their making is in dialog_make.cpp,
-// what the user does with them in dialog_events.cpp.
+// The state of the form's controls, shown by native controls. dialog_make.cpp creates the native controls,
+// and dialog_events.cpp handles the user's actions.
 #include "base/scoped_value.h"
 #include "win32/accessible.h"
 #include "win32/dialog_edit.h"
@@ -26,8 +26,8 @@ bool Has_Items(const Control_State &control) {
            control.kind == Control_Kind::Tab_Strip;
 }
 
-/// What the window has for its text. That of a painted control, or with a name for it, is only for assistive
-/// technology.
+/// Returns the text of the native window. The text of a painted control, or of one with an accessible name,
+/// only serves assistive technology.
 std::wstring Native_Caption(const Control_State &control) {
     if (control.painted || !control.access.name.empty())
         return To_Wide(Access_Name(control));
@@ -80,7 +80,7 @@ void Dialog_Window::Look_Changed(const Control_State &control) {
 void Dialog_Window::Set_Font(const Control_State &control) {
     const Native &native = natives_[static_cast<std::size_t>(control.index)];
     SendMessageW(native.window, WM_SETFONT, reinterpret_cast<WPARAM>(Find_Font(control.font)), TRUE);
-    // While the controls are made there are no items yet.
+    // Controls that are being created have no items yet.
     if (Has_Items(control) && !updating_)
         Fit_Widest_Item(native.window, control);
 }
@@ -101,7 +101,7 @@ void Dialog_Window::Set_Caption(const Control_State &control) {
     if (!shows_text && control.access.name.empty())
         return;
     const std::wstring text = Native_Caption(control);
-    // An equal text is not written again: it would take the caret to the beginning.
+    // Writing an equal text again would move the caret to the beginning.
     if (Window_Text(window) == text)
         return;
     const Scoped_Value updating(updating_, true);
@@ -118,7 +118,7 @@ void Dialog_Window::Place_Control(const Control_State &control) {
     int width = place.right - place.left;
     int height = place.bottom - place.top;
     if (control.painted) {
-        // It paints from its own corner.
+        // A painted control paints from its own corner, so its size in pixels must not depend on its place.
         width = To_Pixels(bounds.width);
         height = To_Pixels(bounds.height);
     }
@@ -137,7 +137,7 @@ void Dialog_Window::Place_Children(const Control_State &changed, const Rect &bef
             Raise_Over_Painted(changed);
         return;
     }
-    // The inside of a frame is not the frame's own to paint.
+    // A frame does not paint its inside, so the dialog repaints the frame's old and new area.
     Rect place = platform::Place_On_Form(*Model(), changed);
     Redraw(place);
     place.left += before.left - changed.bounds.left;
@@ -147,7 +147,7 @@ void Dialog_Window::Place_Children(const Control_State &changed, const Rect &bef
     Redraw(place);
 }
 
-/// Has a part of the dialog painted anew, all at once when the program waits again.
+/// Invalidates a part of the dialog with its controls, to be painted later in one go.
 void Dialog_Window::Redraw(const Rect &place) {
     const RECT pixels = To_Pixels(place);
     RedrawWindow(window_, &pixels, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
@@ -177,8 +177,8 @@ void Dialog_Window::Show_Check(const Control_State &control) {
         Set_Group_Stop(control.container);
 }
 
-/// The Tab key reaches the checked option button of a frame, or the first one when none is: the keyboard
-/// checks where it arrives.
+/// Lets the Tab key reach the checked option button of a frame, or the first one if none is checked. The
+/// other buttons are skipped, because an option button becomes checked when it gets the focus.
 void Dialog_Window::Set_Group_Stop(int container) {
     const Control_State *stop = nullptr;
     for (const Control_State *control : Model()->controls) {
@@ -225,20 +225,20 @@ void Dialog_Window::Show_Choice(const Control_State &control) {
     }
 }
 
-/// The keyboard leaves what cannot take it any more: a control that is hidden or disabled would keep it, and
-/// swallow it.
+/// Moves the focus away from a control that was hidden or disabled, because such a control would keep the
+/// focus and swallow all keys.
 void Dialog_Window::Release_Focus(const Control_State &changed) {
     HWND focus = GetFocus();
     if (focus == nullptr || !IsChild(window_, focus))
         return;
-    // The text box inside a combo box has the keyboard for that.
+    // In a combo box, the inner text box has the focus.
     while (GetParent(focus) != window_)
         focus = GetParent(focus);
     const Control_State *control = Control_Of(focus);
     if (control == nullptr || !Contains(changed, *control))
         return;
     const Control_State *tabs = Tab_Strip();
-    // With its page the keyboard goes to the tabs.
+    // If a page is hidden or disabled, its focus moves to the tabs.
     if (changed.kind == Control_Kind::Frame && tabs != nullptr &&
         IsWindowEnabled(Control_Window(tabs->index)))
         SendMessageW(window_, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(Control_Window(tabs->index)), TRUE);
@@ -273,7 +273,7 @@ void Dialog_Window::Update_Children(const Control_State &changed) {
     }
     if (moves != nullptr)
         EndDeferWindowPos(moves);
-    // Together with what another page shows meanwhile.
+    // Repainted later, together with the page that is shown instead.
     if (shown_or_hidden)
         Redraw(platform::Place_On_Form(*Model(), changed));
 }
@@ -287,7 +287,7 @@ void Dialog_Window::Update_Tooltips() {
 }
 
 void Dialog_Window::Control_Changed(const Control_State &control, Aspect aspect, const Rect &before) {
-    // These concern what a frame holds too, even when it has no window itself.
+    // These aspects also concern the controls inside a frame, even if the frame has no window.
     if (aspect == Aspect::Bounds)
         return Place_Children(control, before);
     if (aspect == Aspect::Visible || aspect == Aspect::Enabled)

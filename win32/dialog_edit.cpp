@@ -1,4 +1,4 @@
-// The ways of the native text box, by a window procedure before the system's own.
+// The behaviour of text boxes, added by a window procedure in front of the system's own.
 #include "win32/dialog_edit.h"
 
 #include "base/cut_text.h"
@@ -10,7 +10,7 @@ namespace win32 {
 
 namespace {
 
-/// The clipboard for the length of a scope.
+/// Keeps the clipboard open for a scope.
 class Clipboard {
 public:
     explicit Clipboard(HWND window) : open_(OpenClipboard(window) != FALSE) {}
@@ -36,7 +36,7 @@ private:
     bool open_;
 };
 
-/// The selected characters, from the first one to behind the last one.
+/// The selected characters, from the first to one past the last.
 struct Selection {
     DWORD begin = 0;
     DWORD end = 0;
@@ -49,7 +49,7 @@ Selection Selection_Of(HWND edit) {
     return selection;
 }
 
-/// How many more characters fit in the place of the selection.
+/// Returns how many characters fit in place of the selection.
 std::size_t Remaining_Length(HWND edit) {
     const auto [begin, end] = Selection_Of(edit);
     const auto limit = static_cast<std::size_t>(SendMessageW(edit, EM_GETLIMITTEXT, 0, 0));
@@ -57,9 +57,8 @@ std::size_t Remaining_Length(HWND edit) {
     return limit > kept ? limit - kept : 0;
 }
 
-/// Puts `text` into the place of the selection. The system breaks a text into lines in a time that grows with
-/// the square of its length, so a long one goes to the end of what is there by pieces. Of those only the last
-/// can be undone.
+/// Replaces the selection with `text`. The time that the system needs to break a text into lines grows with
+/// the square of its length, so a long text is appended in pieces. Only the last piece can be undone.
 void Replace_Selection(HWND edit, std::wstring_view text, bool can_undo) {
     const auto length = static_cast<DWORD>(GetWindowTextLengthW(edit));
     const std::size_t most = Selection_Of(edit).end == length ? 2048 : text.size();
@@ -98,10 +97,11 @@ void Delete_Word(HWND edit) {
         SendMessageW(edit, EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(L""));
 }
 
-/// Does what differs with the keys. Returns whether that was all.
+/// Handles the keys that differ from the system's edit control. Returns whether the message needs no further
+/// handling.
 bool Handle_Key(HWND edit, UINT message, WPARAM wparam) {
-    constexpr WPARAM select_all = 1;     // what Ctrl+A types
-    constexpr WPARAM delete_word = 0x7F; // what Ctrl+Backspace types
+    constexpr WPARAM select_all = 1;     // the character of Ctrl+A
+    constexpr WPARAM delete_word = 0x7F; // the character of Ctrl+Backspace
     if (message == WM_KEYDOWN) {
         const bool is_it = wparam == VK_BACK && GetKeyState(VK_CONTROL) < 0 && GetKeyState(VK_MENU) >= 0;
         if (is_it && !Has_Style(edit, ES_READONLY))
@@ -110,25 +110,26 @@ bool Handle_Key(HWND edit, UINT message, WPARAM wparam) {
     }
     if (wparam == select_all)
         SendMessageW(edit, EM_SETSEL, 0, -1);
-    // Enter closes the list of a combo box by this.
+    // A single-line box must not swallow Enter, because Enter closes the list of a combo box.
     const bool breaks_line = wparam == L'\r' || wparam == L'\n';
     return wparam == select_all || wparam == delete_word || (breaks_line && Has_Style(edit, ES_MULTILINE));
 }
 
-/// Does what differs from the system's edit control. Returns whether that was all.
+/// Handles the messages that differ from the system's edit control. Returns whether the message needs no
+/// further handling.
 bool Handle(HWND edit, UINT message, WPARAM wparam, LRESULT &result) {
     if (message == WM_KEYDOWN || message == WM_CHAR)
         return Handle_Key(edit, message, wparam);
-    // A combo box has its own ways with the rest.
+    // Single-line boxes, such as those in combo boxes, leave the rest to the system.
     if (!Has_Style(edit, ES_MULTILINE))
         return false;
     switch (message) {
     case WM_GETDLGCODE:
-        // Not all keys, as a control of several lines asks for: Enter, Esc and Tab are the dialog's.
+        // A multi-line control would ask for all keys, but Enter, Esc and Tab belong to the dialog.
         result = DLGC_WANTCHARS | DLGC_WANTARROWS | DLGC_HASSETSEL;
         return true;
     case WM_PASTE:
-        // What puts the text in asks nobody whether it may.
+        // EM_REPLACESEL ignores the read-only style.
         if (!Has_Style(edit, ES_READONLY))
             Paste(edit);
         return true;
@@ -143,7 +144,7 @@ LRESULT CALLBACK Procedure(HWND edit, UINT message, WPARAM wparam, LPARAM lparam
         if (Handle(edit, message, wparam, result))
             return result;
     } catch (...) {
-        // Want of memory for a pasted text: nothing is pasted.
+        // Out of memory: nothing is pasted.
         MessageBeep(MB_OK);
         return 0;
     }

@@ -1,4 +1,4 @@
-// The native text boxes of dialogs, those in combo boxes too. They hold no line break.
+// The native text boxes of dialogs, including those of combo boxes. They hold no line breaks.
 #pragma once
 
 #include "win32/handles.h"
@@ -7,18 +7,17 @@
 
 namespace win32 {
 
-/// Gives a native edit control the ways of a text box: Ctrl+Backspace deletes a word, Ctrl+A selects all; and
-/// one of several lines leaves Enter, Esc and Tab to the dialog, and takes a blank for each line break of a
-/// pasted text.
+/// Gives a native edit control the behaviour of a text box: Ctrl+Backspace deletes a word, Ctrl+A selects
+/// all. A multi-line control also leaves Enter, Esc and Tab to the dialog, and pastes line breaks as spaces.
 void Make_Text_Box(HWND edit);
 
-/// Gives an edit control another text, with the caret before it.
+/// Sets the text of an edit control and puts the caret at its beginning.
 void Set_Box_Text(HWND edit, const std::wstring &text);
 
-/// `text` with a blank for each line break and each zero.
+/// Returns `text` with a space for each line break and each NUL.
 std::wstring Without_Breaks(std::wstring text);
 
-/// The whole text of a window.
+/// Returns the whole text of a window.
 std::wstring Window_Text(HWND window);
 
 } // namespace win32

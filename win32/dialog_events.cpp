@@ -1,4 +1,4 @@
-// What the user does with the native controls of dialogs, told to the form.
+// The user's actions on native controls, sent to the form.
 #include "win32/dialog_edit.h"
 #include "win32/dialog_lists.h"
 #include "win32/dialog_window.h"
@@ -14,7 +14,7 @@ using platform::Control_Kind;
 using platform::Input_Event;
 using platform::Input_Kind;
 
-/// Where the form did not follow the native control, that one goes back.
+/// Sends an event. If the form did not accept the new state, resets the native control.
 void Dialog_Window::Send_Event(const Control_State &control, Input_Event event) {
     if (updating_)
         return;
@@ -24,7 +24,7 @@ void Dialog_Window::Send_Event(const Control_State &control, Input_Event event) 
     if (Model() == nullptr)
         return;
     Show_Choice(control);
-    // An option button has unchecked its neighbours, too.
+    // An option button has also unchecked its neighbours.
     for (const Control_State *other : Model()->controls) {
         if (control.kind == Control_Kind::Option_Button && other->kind == control.kind &&
             other->container == control.container)
@@ -82,7 +82,7 @@ void Dialog_Window::Click(const Control_State &control, int key) {
     Input_Event event = Event_Of(Input_Kind::Clicked);
     event.key = key;
     event.checked = SendMessageW(Control_Window(control.index), BM_GETCHECK, 0, 0) == BST_CHECKED;
-    // An option that is not checked tells of a click also when the keyboard reaches it.
+    // An unchecked option button also reports a click when it gets the keyboard focus.
     if (control.kind == Control_Kind::Option_Button && !event.checked)
         return;
     Send_Event(control, std::move(event));
@@ -95,7 +95,7 @@ void Dialog_Window::Text_Edited(const Control_State &control) {
     event.text = From_Wide(Without_Breaks(Window_Text(Control_Window(control.index))));
     event.control = control.index;
     Send(event);
-    // A disabled form did not take what another program has put in.
+    // A disabled form ignores text that another program puts in, so the old text is restored.
     if (Model() != nullptr && !Model()->enabled)
         Set_Caption(control);
 }
@@ -126,8 +126,8 @@ void Dialog_Window::Combo_Command(const Control_State &control, int code) {
     }
 }
 
-/// A list that is closed without a choice goes back to what it was, or takes up a text that begins like the
-/// typed one, and says neither.
+/// Handles the closing of a list. A list that closes without a choice reverts to its old item, or adopts an
+/// item that begins with the typed text, and reports neither.
 void Dialog_Window::Combo_Closed(const Control_State &control) {
     const HWND combo = Control_Window(control.index);
     const int item = Selected_Item(combo, control);
@@ -191,7 +191,7 @@ bool Dialog_Window::Preprocess_Message(const MSG &message) {
     if (control == nullptr || control->kind != Control_Kind::List_Box || event.key == VK_TAB ||
         event.key == VK_ESCAPE)
         return false;
-    // Of a chosen item Enter asks for that, and not for the default button.
+    // Enter on a chosen item acts on the item, not on the default button.
     const bool of_item = event.key == VK_RETURN && control->selected >= 0;
     Input_Event told = event;
     told.control = control->index;

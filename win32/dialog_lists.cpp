@@ -1,4 +1,3 @@
-// Items of the native lists, and the room that they need.
 #include "win32/dialog_lists.h"
 
 #include "win32/fonts.h"
@@ -19,9 +18,9 @@ using platform::Control_State;
 namespace {
 
 constexpr int most_items_shown = 12;
-constexpr int around_text = 2 * 15; ///< of the field of a combo box, above and below its text together
+constexpr int around_text = 2 * 15; ///< total space above and below the text of a combo box, in twips
 
-/// Measures many texts of one font: those of ASCII alone by a table of its characters' widths.
+/// Measures many texts in one font. Adds up a table of character widths for pure ASCII texts.
 class Text_Measure {
 public:
     explicit Text_Measure(const platform::Font &font) : dc_(Measuring_Dc(font)) {
@@ -42,7 +41,7 @@ public:
 private:
     int Extent(const std::wstring &text) const {
         SIZE size = {};
-        // No list shows more.
+        // No list shows more characters.
         const std::size_t length = std::min<std::size_t>(text.size(), 8192);
         GetTextExtentPoint32W(dc_, text.data(), static_cast<int>(length), &size);
         return static_cast<int>(size.cx);
@@ -57,7 +56,7 @@ int Widest_Item(const Control_State &control) {
     int widest = 0;
     for (const std::string &item : control.items)
         widest = std::max(widest, measure.Width(To_Wide(item)));
-    // Beyond this the system's coordinates end.
+    // The system's coordinates end just beyond this.
     return std::min(widest, 30000);
 }
 
@@ -113,7 +112,7 @@ void Fit_Widest_Item(HWND window, const Control_State &control) {
     } else if (control.kind == Control_Kind::Combo_Box) {
         const int bar = GetSystemMetrics(SM_CXVSCROLL);
         const int room = GetSystemMetrics(SM_CXSCREEN);
-        // The system takes the combo box's own width when that is larger.
+        // The system takes the combo box's own width if that is larger.
         const int width = std::min(Widest_Item(control) + margin + bar, room);
         SendMessageW(window, CB_SETDROPPEDWIDTH, static_cast<WPARAM>(width), 0);
     }
@@ -126,13 +125,13 @@ void Set_Combo_Heights(HWND combo, int pixels, const Control_State &control) {
     const auto field_height = static_cast<int>(SendMessageW(combo, CB_GETITEMHEIGHT, field, 0));
     const int around = static_cast<int>(now.bottom - now.top) - field_height;
     const int needed = To_Pixels(platform::Line_Height(control.font));
-    // No higher than its text, which some systems draw at its top: it stands in the middle of its place
-    // instead.
+    // The field is no higher than its text needs, because some systems draw the text at the top. Instead, the
+    // combo box is centred in its place.
     const int wanted = std::clamp(pixels - around, needed, needed + To_Pixels(around_text));
     if (around > 0 && wanted != field_height)
         SendMessageW(combo, CB_SETITEMHEIGHT, field, wanted);
-    // The height that a combo box is given is the one with the open list.
-    // Newer systems show as many items as they are told here, and thirty otherwise.
+    // The height of a combo box includes its open list. Newer systems instead show as many items as
+    // CB_SETMINVISIBLE says, by default thirty.
     SendMessageW(combo, CB_SETMINVISIBLE, most_items_shown, 0);
     const int shown = std::clamp(static_cast<int>(control.items.size()), 1, most_items_shown);
     const auto item_height = static_cast<int>(SendMessageW(combo, CB_GETITEMHEIGHT, 0, 0));

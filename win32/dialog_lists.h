@@ -1,4 +1,4 @@
-// Filling the native lists: combo boxes, list boxes and tab strips.
+// The items of the native lists: combo boxes, list boxes and tab strips.
 #pragma once
 
 #include "platform/forms.h"
@@ -6,21 +6,21 @@
 
 namespace win32 {
 
-/// Puts the control's items into its native window. What a list box showed first stays where it is.
+/// Fills the native window with the control's items. A list box keeps its first visible item.
 void Fill_List(HWND window, const platform::Control_State &control);
 
-/// Makes room for the widest item: a list box can be scrolled that far, a combo box opens a list that wide.
-/// After a change of the items, the font or the dots per inch.
+/// Makes room for the widest item: sets how far a list box scrolls, or how wide a combo box opens its list.
+/// Call it after a change of the items, the font or the dots per inch.
 void Fit_Widest_Item(HWND window, const platform::Control_State &control);
 
-/// Puts a combo box into the middle of its place, which is `pixels` high, with a list that shows all its
-/// items, or twelve.
+/// Centres a combo box vertically in its place, which is `pixels` high. Its open list shows all items, at
+/// most twelve.
 void Set_Combo_Heights(HWND combo, int pixels, const platform::Control_State &control);
 
-/// Selects an item, -1: none. Nothing is told of it.
+/// Selects an item, -1: none. Sends no event.
 void Select_Item(HWND window, const platform::Control_State &control, int item);
 
-/// The selected item, -1: none.
+/// Returns the selected item, -1: none.
 int Selected_Item(HWND window, const platform::Control_State &control);
 
 } // namespace win32

@@ -1,4 +1,4 @@
-// The making of the native controls of dialogs: their classes, styles and order.
+// The creation of the native controls of dialogs: their classes, styles and order.
 #include "base/scoped_value.h"
 #include "win32/dialog_edit.h"
 #include "win32/dialog_template.h"
@@ -19,12 +19,12 @@ namespace {
 
 DWORD Label_Style(const Control_State &control) {
     constexpr DWORD aligned[] = {SS_LEFT, SS_CENTER, SS_RIGHT};
-    // With SS_NOTIFY it sees the mouse, as its tooltip wants.
+    // SS_NOTIFY makes the label receive the mouse, as its tooltip requires.
     return aligned[static_cast<int>(control.align)] | SS_NOTIFY | (control.middle ? SS_CENTERIMAGE : 0U) |
            (control.frame_colour != -1 ? WS_BORDER : 0U);
 }
 
-/// A text box of more than two lines has a scroll bar.
+/// Returns the style of a text box. A box higher than three lines gets a scroll bar.
 DWORD Text_Box_Style(const Control_State &control) {
     const bool tall = control.bounds.height > 3 * platform::Line_Height(control.font);
     const DWORD lines = control.single_line ? DWORD{ES_AUTOHSCROLL}
@@ -110,13 +110,14 @@ void Dialog_Window::Create() {
     Update_Tooltips();
     Update_Bounds();
     EnableWindow(window_, Model()->enabled);
-    // Its screen need not have the calendar's scale, in which it is made.
+    // The dialog is created in the calendar's scale, but its screen may have another one.
     if (dots_ == 0 && Dots_Of(window_) != 0 && Dots_Of(window_) != platform::Dots_Per_Inch())
         Handle_Scale_Message(Dots_Of(window_), nullptr);
 }
 
-/// What a hidden frame holds is made when the frame is shown for the first time: a dialog of many pages opens
-/// with the controls of one. Returns whether there was anything to make.
+/// Creates the controls that have no window yet. The controls in a hidden frame are created when the frame is
+/// first shown, so that a dialog with many pages opens with the controls of one. Returns whether any were
+/// created.
 bool Dialog_Window::Make_Missing_Controls() {
     int last_made = -1;
     const Scoped_Value updating(updating_, true);
@@ -129,13 +130,13 @@ bool Dialog_Window::Make_Missing_Controls() {
     }
     if (last_made == -1)
         return false;
-    // The Tab key takes the windows from the top to the bottom: those that come after a page made later lie
-    // under it.
+    // The Tab key visits the windows from top to bottom, so controls that follow a page created later must
+    // lie under it.
     for (const Control_State *control : Model()->controls)
         if (control->index > last_made && control->container == -1)
             Put_Lowest(*control);
-    // Under all others, which lie on its page. In the circle of the Tab key its place is the same there as
-    // before the first one.
+    // The tab strip lies at the bottom, because the other controls are on its page. The Tab order is
+    // circular, so this place also comes just before the first control.
     if (const Control_State *tabs = Tab_Strip())
         Put_Lowest(*tabs);
     return true;
@@ -159,9 +160,10 @@ HWND Dialog_Window::Make_Native(const Control_State &control) {
                                           GetModuleHandleW(nullptr), nullptr));
 }
 
-/// Hidden when the dialog can be seen. Returns false for a control that needs no window.
+/// Creates a control, hidden if the dialog is already visible. Returns false for a control that needs no
+/// window.
 bool Dialog_Window::Make_Control(const Control_State &control) {
-    // Without a caption there is nothing to be seen of a frame.
+    // A frame without a caption is invisible.
     if (control.kind == Control_Kind::Frame && control.caption.empty())
         return false;
     Native &native = natives_[static_cast<std::size_t>(control.index)];
@@ -170,7 +172,7 @@ bool Dialog_Window::Make_Control(const Control_State &control) {
     const DWORD more = Group_Style(control) | (control.painted && control.tab_stop ? WS_TABSTOP : 0U) |
                        (platform::Is_Shown(*Model(), control) && !IsWindowVisible(window_) ? WS_VISIBLE : 0U);
     SetWindowLongW(native.window, GWL_STYLE, style | static_cast<LONG>(more));
-    // Not by the style alone: a combo box tells its text box of it.
+    // The WS_DISABLED style alone is not enough: a combo box must also disable its text box.
     EnableWindow(native.window, platform::Is_Usable(*Model(), control));
     if (control.kind == Control_Kind::Text_Box) {
         Make_Text_Box(native.window);
@@ -192,7 +194,8 @@ bool Dialog_Window::Make_Control(const Control_State &control) {
     return true;
 }
 
-/// The option buttons of one frame are one group, which the arrow keys walk; whatever else is one by itself.
+/// Returns WS_GROUP for a control that begins a group. The option buttons of a frame and any controls between
+/// them form one group, which the arrow keys walk. Every other control is a group of its own.
 DWORD Dialog_Window::Group_Style(const Control_State &control) const {
     bool before = false;
     bool after = control.kind == Control_Kind::Option_Button;
@@ -205,13 +208,14 @@ DWORD Dialog_Window::Group_Style(const Control_State &control) const {
     return before && after ? 0U : WS_GROUP;
 }
 
-/// Windows that were made first lie above the later ones; what is painted over in a form lies below.
+/// Raises a control above the painted controls that precede and overlap it. The system puts new windows below
+/// earlier ones, but in a form later controls cover earlier painted ones.
 void Dialog_Window::Raise_Over_Painted(const Control_State &control) {
     const auto covers = [&control](const Control_State *other) {
         return other != nullptr && other->painted && other->index < control.index &&
                other->container == control.container && other->bounds.Intersects(control.bounds);
     };
-    // Nearly always there is none, and the system need not be asked for all its windows.
+    // Usually there is no such control, and the windows need not be enumerated.
     if (std::ranges::none_of(Model()->controls, covers))
         return;
     HWND above = nullptr;

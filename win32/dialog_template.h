@@ -1,4 +1,4 @@
-// Making the bare native dialog windows, before their controls.
+// Native dialog windows without their controls.
 #pragma once
 
 #include "win32/handles.h"
@@ -7,8 +7,8 @@
 
 namespace win32 {
 
-/// Makes a hidden dialog window without controls, of a class of its own; null when the system refuses.
-/// `procedure` ends in DefDlgProcW, which keeps the focus and the default button as users know it.
+/// Creates a hidden dialog window without controls, with a window class of its own. Returns null on failure.
+/// `procedure` must end in DefDlgProcW, which handles the focus and the default button.
 HWND Make_Dialog(const std::wstring &class_name, WNDPROC procedure);
 
 } // namespace win32

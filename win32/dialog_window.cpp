@@ -1,5 +1,5 @@
-// Dialogs: their window, its place and its messages. The single controls are in
-// dialog_make.cpp, dialog_controls.cpp and dialog_events.cpp.
+// The window of a dialog: its place and its messages. Its controls are in dialog_make.cpp,
+// dialog_controls.cpp and dialog_events.cpp.
 #include "win32/dialog_window.h"
 
 #include "base/scoped_value.h"
@@ -20,14 +20,14 @@ using platform::Input_Kind;
 
 namespace {
 
-/// `place` moved so that it lies wholly in the work area of its nearest monitor.
+/// Returns `place`, moved so that it lies wholly in the work area of its nearest monitor.
 RECT On_Screen(RECT place) {
     MONITORINFO monitor = {};
     monitor.cbSize = sizeof monitor;
     if (!GetMonitorInfoW(MonitorFromRect(&place, MONITOR_DEFAULTTONEAREST), &monitor))
         return place;
     const RECT &area = monitor.rcWork;
-    // The top left corner counts where the window is larger than the area.
+    // If the window is larger than the area, its top left corner stays visible.
     const LONG left = std::max(area.left, std::min(place.left, area.right - (place.right - place.left)));
     const LONG top = std::max(area.top, std::min(place.top, area.bottom - (place.bottom - place.top)));
     OffsetRect(&place, left - place.left, top - place.top);
@@ -46,12 +46,13 @@ LRESULT Dialog_Window::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
         Handle_Command(LOWORD(wparam), HIWORD(wparam));
         return 0;
     case WM_SETCURSOR:
-        // All that a disabled window hears of a press; beside a message box the system shows that one.
+        // A disabled window learns of a press only through this message. If a message box is open, the system
+        // itself draws attention to that.
         if (!Model()->enabled && HIWORD(lparam) == WM_LBUTTONDOWN && !platform::Box_Is_Open()) {
             Send(Input_Kind::Mouse_Down);
             return TRUE;
         }
-        // The controls ask here before they take their own.
+        // Controls ask the dialog before they set their own pointer.
         if (Model()->pointer != platform::Pointer_Shape::Hourglass || LOWORD(lparam) != HTCLIENT)
             break;
         SetCursor(Load_Pointer(System_Pointer::Hourglass));
@@ -60,7 +61,7 @@ LRESULT Dialog_Window::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
         Send(Input_Kind::Close);
         return 0;
     case WM_ACTIVATE: {
-        // The system's part first: it gives the keyboard back to the control that had it.
+        // The system comes first, because it returns the focus to the control that had it.
         const LRESULT result = DefDlgProcW(window_, message, wparam, lparam);
         Input_Event event{};
         event.kind = Input_Kind::Focus_Changed;
@@ -131,16 +132,16 @@ void Dialog_Window::Update_Bounds() {
                        static_cast<DWORD>(GetWindowLongW(window_, GWL_EXSTYLE)));
     RECT now = {};
     GetWindowRect(window_, &now);
-    // A window that the user has moved stays there until the form itself moves.
+    // A window that the user has moved stays there until the form sets another place.
     const POINT corner = moved ? Corner_On_Screen() : POINT{now.left, now.top};
     RECT place = {corner.x, corner.y, corner.x + outer.right - outer.left,
                   corner.y + outer.bottom - outer.top};
-    // Under the user's hand it stays where that has it.
+    // A window that the user is moving stays where the mouse has it.
     if (!Mouse_Is_Taken())
         place = On_Screen(place);
     SetWindowPos(window_, nullptr, place.left, place.top, place.right - place.left, place.bottom - place.top,
                  SWP_NOZORDER | SWP_NOACTIVATE);
-    // The frame may be larger than told, where its screen has a scale of its own.
+    // The frame may be larger than AdjustWindowRectEx calculates, if its screen has a scale of its own.
     RECT client = {};
     GetClientRect(window_, &client);
     const LONG wider = To_Pixels(bounds.width) - client.right;
@@ -153,15 +154,17 @@ void Dialog_Window::Update_Bounds() {
     Send_Window_Moved();
 }
 
-/// Where the form wants it: places are in the calendar's scale, whatever that of the dialog is.
+/// Returns the form's place in screen pixels. Places are in the calendar's scale, whatever the dialog's own
+/// is.
 POINT Dialog_Window::Corner_On_Screen() const {
     const Scoped_Value scale(Dialog_Dots, 0);
     return {To_Pixels(Model()->bounds.left), To_Pixels(Model()->bounds.top)};
 }
 
-/// Follows the scale of the screen that the window has moved to. `place` is where the system wants it there.
+/// Adopts the scale of the screen that the window has moved to. `place` is where the system wants the window
+/// there, null if unknown.
 void Dialog_Window::Handle_Scale_Message(int dots, const RECT *place) {
-    // Any program can send the message.
+    // Any program can send the message, so check the range.
     constexpr int least = 48, most = 960;
     if (dots < least || dots > most)
         return;
@@ -169,11 +172,11 @@ void Dialog_Window::Handle_Scale_Message(int dots, const RECT *place) {
     if (place != nullptr)
         SetWindowPos(window_, nullptr, place->left, place->top, place->right - place->left,
                      place->bottom - place->top, SWP_NOZORDER | SWP_NOACTIVATE);
-    // Later, for it may come in the midst of the window's making or placing.
+    // Posted, because the message may arrive while the window is being created or placed.
     PostMessageW(window_, Check_Dots_Message, 0, 0);
 }
 
-/// Tells the form where the window is, as the user or the screen's edge has it.
+/// Tells the form where the window is, after the user or the screen's edge has moved it.
 void Dialog_Window::Send_Window_Moved() {
     RECT now = {};
     if (!is_placed_ || IsIconic(window_) || !GetWindowRect(window_, &now))
@@ -209,7 +212,7 @@ void Dialog_Window::Focus() {
         control = GetNextDlgTabItem(window_, nullptr, FALSE);
     if (control != nullptr && GetFocus() != control)
         SendMessageW(window_, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(control), TRUE);
-    // Behind the text and not over all of it, where the first key typed would wipe it out.
+    // Puts the caret behind the text. If the whole text were selected, the first key would erase it.
     const int index = Model()->focused;
     if (index < 0 || control != Control_Window(index))
         return;
@@ -221,7 +224,7 @@ void Dialog_Window::Focus() {
 }
 
 void Dialog_Window::Scale_Changed() {
-    // The former fonts go when no control has them any more.
+    // The former fonts live until no control uses them.
     const std::vector<Shared_Font> before = std::move(fonts_);
     fonts_.clear();
     for (const Control_State *control : Model()->controls) {

@@ -24,16 +24,16 @@ public:
 private:
     using Control_State = platform::Control_State;
 
-    /// The native side of one control. A frame without a caption has no window, nor has yet what a frame
-    /// holds that was never shown.
+    /// The native side of one control. A frame without a caption has no window. The controls in a frame have
+    /// none until the frame is first shown.
     struct Native {
         HWND window = nullptr;
-        Unique_Brush brush; ///< of a background colour of its own
+        Unique_Brush brush; ///< the control's own background colour
         std::unique_ptr<Painted_Child> painted;
-        int settled_value = 0; ///< of a slider: its value when it was at rest last
+        int settled_value = 0; ///< a slider's value when it last came to rest
     };
 
-    /// A native font that all controls with this font share.
+    /// A native font, shared by all controls that use it.
     struct Shared_Font {
         platform::Font font;
         Unique_Font native;
@@ -43,7 +43,7 @@ private:
     LRESULT Handle(UINT message, WPARAM wparam, LPARAM lparam) override;
     void Window_Gone() override;
 
-    // The making of the controls (dialog_make.cpp).
+    // Creating the controls (dialog_make.cpp).
     bool Make_Missing_Controls();
     bool Make_Control(const Control_State &control);
     void Put_Lowest(const Control_State &control);
@@ -51,7 +51,7 @@ private:
     DWORD Group_Style(const Control_State &control) const;
     void Raise_Over_Painted(const Control_State &control);
 
-    // Their state (dialog_controls.cpp).
+    // Updating the controls (dialog_controls.cpp).
     void Look_Changed(const Control_State &control);
     void Set_Font(const Control_State &control);
     HFONT Find_Font(const platform::Font &font);
@@ -68,7 +68,7 @@ private:
     void Update_Tooltips();
     bool Contains(const Control_State &holder, const Control_State &control) const;
 
-    // What the user does with them (dialog_events.cpp).
+    // Handling the user's actions (dialog_events.cpp).
     void Handle_Command(int id, int code);
     void Cancel();
     void Send_Event(const Control_State &control, platform::Input_Kind kind, int selected = -1);
@@ -82,7 +82,7 @@ private:
     bool Handle_Notify(NMHDR &notice);
     bool Turn_Page(int step);
 
-    // The background of the tab page, which is not always the dialog's (dialog_background.cpp).
+    // The background of the tab page, which may differ from the dialog's (dialog_background.cpp).
     void Find_Page_Colour();
     RECT Page_Of(const Control_State &tab_strip) const;
     bool On_Page(const Control_State &control) const;
@@ -99,7 +99,7 @@ private:
     void Own_Aspect_Changed(platform::Aspect aspect) override;
     void Focus();
     HWND Control_Window(int index) const;
-    /// The control whose native window this is, null for others.
+    /// Returns the control with this native window, null for other windows.
     const Control_State *Control_Of(HWND window) const;
     const Control_State *Tab_Strip() const;
 
@@ -109,12 +109,13 @@ private:
     Slider_Tip slider_tip_;
     COLORREF page_colour_ = 0;
     Unique_Brush page_brush_;
-    Point placed_; ///< where the form knows the window to be
+    Point placed_; ///< the place last reported to the form, in twips on the screen
     bool is_placed_ = false;
-    bool updating_ = false; ///< the program changes a control, which is no user's doing
+    bool updating_ = false; ///< the program is changing a control, so its notifications are not user actions
 };
 
-/// Native identifiers of the controls: this and the index. The lower ones have meanings to the system.
+/// The native identifier of a control is this plus its index. Some lower identifiers mean something to the
+/// system.
 constexpr int First_Control_Id = 100;
 
 } // namespace win32

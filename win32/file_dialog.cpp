@@ -1,4 +1,4 @@
-// File dialogs: platform/file_dialog.h over the common dialogs.
+// File dialogs, shown by the system's common dialogs.
 #include "platform/file_dialog.h"
 
 #include "win32/mirror.h"
@@ -12,8 +12,8 @@ namespace platform {
 
 namespace {
 
-/// Puts the current folder back at the end of a scope: the dialogs change it to where the user has looked,
-/// and a current folder is one that nobody can remove.
+/// Restores the current folder at the end of a scope. The dialogs change it to the folder that the user has
+/// opened, and nobody can remove a current folder.
 class Current_Folder_Guard {
 public:
     Current_Folder_Guard() {
@@ -49,7 +49,7 @@ bool Show_File_Dialog(File_Dialog &dialog) {
     std::wstring file(dialog.file_room, L'\0');
     std::wstring file_title(dialog.title_room, L'\0');
     OPENFILENAMEW record = {};
-    // The size that every Windows takes.
+    // Every Windows version accepts this size.
     record.lStructSize = OPENFILENAME_SIZE_VERSION_400W;
     record.hwndOwner = dialog.owner == nullptr ? nullptr : win32::Window_Of_Form(*dialog.owner);
     record.hInstance = GetModuleHandleW(nullptr);
@@ -65,7 +65,7 @@ bool Show_File_Dialog(File_Dialog &dialog) {
 
     const Current_Folder_Guard kept;
     const win32::Modal_Scope modal(record.hwndOwner);
-    // Most days need no file dialog; its library and those that come with it would make every start slower.
+    // Loaded on demand: most days need no file dialog, and loading its libraries would slow down every start.
     const auto show = win32::Look_Up<decltype(GetOpenFileNameW)>(
         L"comdlg32.dll", dialog.saves ? "GetSaveFileNameW" : "GetOpenFileNameW");
     if (show == nullptr || !show(&record))

@@ -1,7 +1,7 @@
-// Whole files: platform/files.h over Win32. A file is replaced through a neighbour that bears its name and
-// ".vellatro-new"; one that a killed run left behind is thrown away by the next replacement. Renaming is what
-// the system does whole or not at all. ReplaceFile, which would keep the access list, is not: between its two
-// steps there is no file of the name.
+// Whole files. A file is replaced through a new file beside it with ".vellatro-new" after its name. If a
+// killed run leaves one behind, the next replacement deletes it. The system renames a file completely or not
+// at all. ReplaceFile would keep the access list, but it is not atomic: between its two steps no file has the
+// name.
 #include "platform/files.h"
 
 #include "base/joined.h"
@@ -21,11 +21,11 @@ namespace {
 constexpr const char *New_File_Ending = ".vellatro-new";
 constexpr DWORD Share_All = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
 
-/// What a 32-bit process can surely hold twice; longer files are refused.
+/// Longer files are refused: a 32-bit process can surely hold this many bytes twice.
 constexpr DWORD Longest_File = 0x20000000;
 constexpr std::size_t Bytes_Per_Write = 0x100000;
 
-/// Virus scanners and indexers hold a file for a moment after each change: so long is the renaming tried.
+/// Virus scanners and indexers hold a file for a moment after each change, so renaming is tried for a while.
 constexpr int Rename_Tries = 10;
 constexpr DWORD Milliseconds_Between_Tries = 30;
 
@@ -33,7 +33,7 @@ constexpr DWORD Milliseconds_Between_Tries = 30;
     throw File_Error(Joined({path, ": ", win32::System_Error_Text(code)}));
 }
 
-/// Keeps the system from asking the user for a missing disk; the call fails instead.
+/// Keeps the system from asking the user for a missing disk. The call fails instead.
 class Quiet_Errors {
 public:
     Quiet_Errors() : before_(SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX)) {}
@@ -45,7 +45,7 @@ private:
     UINT before_;
 };
 
-/// Takes the attributes of whatever bears the name. Gives an error code.
+/// Gets the attributes of the file or folder at `path`. Returns an error code.
 DWORD Query_Attributes(const std::string &path, DWORD &attributes) {
     const std::wstring wide = win32::Path_For_Call(path);
     if (wide.empty())
@@ -55,7 +55,7 @@ DWORD Query_Attributes(const std::string &path, DWORD &attributes) {
     return attributes == INVALID_FILE_ATTRIBUTES ? GetLastError() : DWORD{NO_ERROR};
 }
 
-/// Makes the string `size` bytes long; false when there is no memory for it.
+/// Makes the string `size` bytes long. Returns false if out of memory.
 bool Resize(std::string &bytes, std::size_t size) {
     try {
         bytes.resize(size);
@@ -65,14 +65,15 @@ bool Resize(std::string &bytes, std::size_t size) {
     }
 }
 
-/// Reads to the end of the file, wherever that is by then: others may write meanwhile. Gives an error code.
+/// Reads up to the end of the file, even if another program lengthens the file meanwhile. Returns an error
+/// code.
 DWORD Read_To_End(HANDLE file, std::string &bytes) {
     DWORD high = 0;
     const DWORD low = GetFileSize(file, &high);
     if (low == INVALID_FILE_SIZE && GetLastError() != NO_ERROR)
         return GetLastError();
     std::size_t filled = 0;
-    std::size_t room = low + std::size_t{1}; // one more, so that the end is met without growing
+    std::size_t room = low + std::size_t{1}; // one more, so that the end is found without growing
     for (;;) {
         if (high != 0 || low > Longest_File || room > Longest_File || !Resize(bytes, room))
             return ERROR_NOT_ENOUGH_MEMORY;
@@ -89,7 +90,7 @@ DWORD Read_To_End(HANDLE file, std::string &bytes) {
     }
 }
 
-/// Writes all bytes and sees them onto the disk. Gives an error code.
+/// Writes all bytes and flushes them to the disk. Returns an error code.
 DWORD Write_All(HANDLE file, std::string_view bytes) {
     while (!bytes.empty()) {
         const auto part = static_cast<DWORD>(std::min(bytes.size(), Bytes_Per_Write));
@@ -102,18 +103,18 @@ DWORD Write_All(HANDLE file, std::string_view bytes) {
     }
     if (FlushFileBuffers(file))
         return NO_ERROR;
-    // Some shared folders cannot be told to flush; that is no reason to save nothing.
+    // Some shared folders cannot flush. The file is saved nevertheless.
     const DWORD code = GetLastError();
     return code == ERROR_INVALID_FUNCTION || code == ERROR_NOT_SUPPORTED ? DWORD{NO_ERROR} : code;
 }
 
-/// Opens a file for asking about it, which also goes while another program has it for itself.
+/// Opens a file only to query it. That works even if another program has opened the file exclusively.
 win32::Unique_File Open_For_Query(const std::wstring &path) {
     return win32::Own_File(CreateFileW(path.c_str(), 0, Share_All, nullptr, OPEN_EXISTING, 0, nullptr));
 }
 
-/// The file's path behind all symbolic links; empty where the system cannot tell, as before Windows Vista,
-/// which has no such links, or when there is no file.
+/// Returns the file's path with all symbolic links resolved. Returns an empty path if there is no file or the
+/// system cannot tell, as before Windows Vista, which has no such links.
 std::wstring Resolve_Links(const std::wstring &path) {
     using Final_Path = DWORD WINAPI(HANDLE, LPWSTR, DWORD, DWORD);
     auto *const final_path = win32::Look_Up<Final_Path>(L"kernel32.dll", "GetFinalPathNameByHandleW");
@@ -122,7 +123,7 @@ std::wstring Resolve_Links(const std::wstring &path) {
         return {};
     std::wstring found(MAX_PATH, L'\0');
     DWORD length = final_path(file.get(), found.data(), MAX_PATH, 0);
-    if (length > MAX_PATH) { // with the zero at its end
+    if (length > MAX_PATH) { // including the NUL
         found.resize(length);
         length = final_path(file.get(), found.data(), length, 0);
     }
@@ -130,8 +131,8 @@ std::wstring Resolve_Links(const std::wstring &path) {
     return found;
 }
 
-/// Gives a new file the access list of another one. Where there are no such lists it keeps what its folder
-/// gives.
+/// Copies the access list of one file to another. If the file system has no such lists, the new file keeps
+/// what its folder gives.
 void Copy_Access_List(const std::wstring &from, const std::wstring &to) {
     DWORD size = 0;
     GetFileSecurityW(from.c_str(), DACL_SECURITY_INFORMATION, nullptr, 0, &size);
@@ -139,14 +140,14 @@ void Copy_Access_List(const std::wstring &from, const std::wstring &to) {
     auto *const list = reinterpret_cast<SECURITY_DESCRIPTOR_RELATIVE *>(space.data());
     if (size < sizeof *list || !GetFileSecurityW(from.c_str(), DACL_SECURITY_INFORMATION, list, size, &size))
         return;
-    // What the list has from the folder goes on following that.
+    // Inherited entries must go on following the folder.
     if ((list->Control & SE_DACL_AUTO_INHERITED) != 0)
         list->Control |= SE_DACL_AUTO_INHERIT_REQ;
     SetFileSecurityW(to.c_str(), DACL_SECURITY_INFORMATION, list);
 }
 
-/// Makes the file anew with these bytes and attributes, and with the access list of the file `old`, if there
-/// is one. Gives an error code.
+/// Creates the file with these bytes and attributes, the access list of the file `old`, if that exists, and
+/// the last write time `written`, unless that is null. Returns an error code.
 DWORD Write_New_File(const std::wstring &path, std::string_view bytes, DWORD attributes,
                      const std::wstring &old, const FILETIME *written) {
     const win32::Unique_File file = win32::Own_File(
@@ -155,13 +156,13 @@ DWORD Write_New_File(const std::wstring &path, std::string_view bytes, DWORD att
         return GetLastError();
     Copy_Access_List(old, path);
     const DWORD code = Write_All(file.get(), bytes);
-    // A disk that does not keep the time is no reason to keep no copy.
+    // A disk that cannot store the time still gets the copy.
     if (code == NO_ERROR && written != nullptr)
         SetFileTime(file.get(), nullptr, nullptr, written);
     return code;
 }
 
-/// Gives the file the name `to`, in whose place nothing else stays. Gives an error code.
+/// Renames the file to `to`, replacing a file of that name. Returns an error code.
 DWORD Rename_Over(const std::wstring &from, const std::wstring &to) {
     for (int tries = 1;; ++tries) {
         if (MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH))
@@ -175,12 +176,12 @@ DWORD Rename_Over(const std::wstring &from, const std::wstring &to) {
 }
 
 void Remove_File(const std::wstring &path) {
-    // A copy that kept a write protection could never be thrown away.
+    // A copy that stayed write-protected could never be deleted.
     SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_NORMAL);
     DeleteFileW(path.c_str());
 }
 
-/// Replaces the file; `written` is the time that it counts as written, null: now. Throws File_Error.
+/// Replaces the file. `written` becomes its last write time, null: now. Throws File_Error.
 void Replace(const std::string &path, std::string_view bytes, const FILETIME *written) {
     std::wstring wide = win32::Path_For_Call(path);
     std::wstring new_file = win32::Path_For_Call(path + New_File_Ending);
@@ -196,7 +197,7 @@ void Replace(const std::string &path, std::string_view bytes, const FILETIME *wr
         attributes = 0;
     if ((attributes & (FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY)) != 0)
         Throw(path, ERROR_ACCESS_DENIED);
-    // A hidden file stays hidden, an encrypted one encrypted.
+    // A hidden file stays hidden and an encrypted one encrypted.
     attributes &= FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_ENCRYPTED |
                   FILE_ATTRIBUTE_NOT_CONTENT_INDEXED;
     Remove_File(new_file);
@@ -209,7 +210,7 @@ void Replace(const std::string &path, std::string_view bytes, const FILETIME *wr
     }
 }
 
-/// When the file was written last. Throws File_Error.
+/// Returns when the file was last written. Throws File_Error.
 FILETIME Last_Write_Time(const std::string &path) {
     const std::wstring wide = win32::Path_For_Call(path);
     if (wide.empty())
@@ -261,7 +262,7 @@ std::vector<std::string> Names_In_Folder(const std::string &folder, Entry_Kind k
         const bool is_folder = (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
         if (is_folder != (kind == Entry_Kind::Folders) || name == L"." || name == L"..")
             continue;
-        // One that is no valid text would name something else.
+        // A name that is not valid Unicode would become another name by the conversion.
         std::string text = win32::From_Wide(name);
         if (win32::To_Wide(text) == name)
             names.push_back(std::move(text));
@@ -284,7 +285,7 @@ std::string Read_File(const std::string &path) {
         wide.c_str(), GENERIC_READ, Share_All, nullptr, OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
     if (!file)
         Throw(path, GetLastError());
-    // A device's name, like that of a serial port, would keep the program waiting.
+    // The name of a device, such as a serial port, would keep the program waiting.
     if (GetFileType(file.get()) != FILE_TYPE_DISK)
         Throw(path, ERROR_INVALID_NAME);
     std::string bytes;

@@ -1,4 +1,3 @@
-// Making and keeping native fonts.
 #include "win32/fonts.h"
 
 #include "win32/units.h"
@@ -26,10 +25,10 @@ Font_Cache &Cache() {
     return cache;
 }
 
-/// The message-box font of the user's settings; its size is not used.
+/// Returns the message-box font of the user's settings. Its size is not used.
 LOGFONTW Message_Font() {
     NONCLIENTMETRICSW metrics = {};
-    // The last member is unknown to systems before Windows Vista, which then refuse the whole.
+    // Systems before Windows Vista do not know the last member, and refuse a structure that includes it.
     metrics.cbSize = offsetof(NONCLIENTMETRICSW, iPaddedBorderWidth);
     if (SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, metrics.cbSize, &metrics, 0))
         return metrics.lfMessageFont;
@@ -38,7 +37,8 @@ LOGFONTW Message_Font() {
     return font;
 }
 
-/// ClearType where the user has it; else the system's own choice, smooth or not. Windows 2000 has no types.
+/// Returns ClearType quality if the user has turned that on, else the system's default, smooth or not.
+/// Windows 2000 knows no smoothing types.
 BYTE Font_Quality() {
     BOOL smooth = FALSE;
     UINT type = 0;
@@ -87,7 +87,7 @@ Cached_Font Find_Font(const platform::Font &font) {
 }
 
 void Clear_Font_Cache() {
-    // First the one that is selected, since a selected font cannot be deleted.
+    // A font that is selected cannot be deleted, so deselect it first.
     if (Cache().measuring)
         SelectObject(Cache().measuring.get(), GetStockObject(SYSTEM_FONT));
     Cache().entries.clear();

@@ -1,4 +1,4 @@
-// Native fonts for the platform's font values: the system's message-box face at the real dots per inch.
+// Native fonts in the system's message-box face, at the real dots per inch.
 #pragma once
 
 #include "platform/drawing.h"
@@ -6,22 +6,22 @@
 
 namespace win32 {
 
-/// A new native font. `dots` are the dots per inch.
+/// Creates a native font for `dots` dots per inch.
 Unique_Font Make_Font(const platform::Font &font, int dots);
 
-/// A native font kept for drawing and measuring, with its line height in pixels.
+/// A cached native font for drawing and measuring, with its line height in pixels.
 struct Cached_Font {
     HFONT handle;
     int line_height;
 };
 
-/// Valid until Clear_Font_Cache or the next change of the dots per inch.
+/// Returns the cached font. It is valid until Clear_Font_Cache or the next change of the dots per inch.
 Cached_Font Find_Font(const platform::Font &font);
 
-/// The fonts are made anew at their next use: the user changed the message-box face or the smoothing.
+/// Empties the font cache. Call it when the user has changed the message-box face or the font smoothing.
 void Clear_Font_Cache();
 
-/// A device context only for measuring text, with the font selected.
+/// Returns a device context for measuring text, with the font selected.
 HDC Measuring_Dc(const platform::Font &font);
 
 } // namespace win32

@@ -1,4 +1,4 @@
-// The native windows of forms: their list, and the calls of the program that are passed on to them.
+// The list of the forms' native windows, and the program's calls to them.
 #include "platform/forms.h"
 
 #include "base/error.h"
@@ -51,7 +51,7 @@ HWND Window_Of_Form(const platform::Form_Model &model) {
 
 HWND Mirror::Require_Window(HWND window) {
     if (window == nullptr)
-        throw Error("The window cannot be made: " + System_Error_Text(GetLastError()));
+        throw Error("The window cannot be created: " + System_Error_Text(GetLastError()));
     return window;
 }
 
@@ -76,7 +76,7 @@ LRESULT Mirror::Receive(HWND window, UINT message, WPARAM wparam, LPARAM lparam,
             return mirror->Handle(message, wparam, lparam);
         }
     } catch (...) {
-        // Only want of memory comes here. The system's code above cannot pass an exception on.
+        // Only an out-of-memory exception arrives here. It must not pass through the system's code above.
     }
     return usual(window, message, wparam, lparam);
 }

@@ -1,4 +1,4 @@
-// Owner types for the system's handles: each closes what it holds when it goes. Nothing but ownership.
+// Owner types for the system's handles. Each closes its handle when it is destroyed.
 #pragma once
 
 #ifndef NOMINMAX
@@ -14,7 +14,6 @@
 
 namespace win32 {
 
-/// Closes a handle.
 template <auto Close>
 struct Closer {
     template <typename Object>
@@ -37,12 +36,12 @@ using Unique_Kernel_Handle = Unique_Handle<HANDLE, &CloseHandle>;
 using Unique_File = Unique_Kernel_Handle;
 using Unique_Find = Unique_Handle<HANDLE, &FindClose>;
 
-/// Returns the owner of an opened file, for which the system has a "none" of its own.
+/// Returns the owner of an opened file. INVALID_HANDLE_VALUE becomes null.
 inline Unique_File Own_File(HANDLE handle) {
     return Unique_File(handle == INVALID_HANDLE_VALUE ? nullptr : handle);
 }
 
-/// A device context borrowed from a window, or from the screen with a null window.
+/// The device context of a window, or of the screen if the window is null.
 class Window_Dc {
 public:
     explicit Window_Dc(HWND window) : window_(window), dc_(GetDC(window)) {}
@@ -59,7 +58,7 @@ private:
     HDC dc_;
 };
 
-/// Selects an object into a device context for the length of a scope.
+/// Selects an object into a device context for a scope.
 class Selected_Object {
 public:
     Selected_Object(HDC dc, HGDIOBJ object) : dc_(dc), before_(SelectObject(dc, object)) {}

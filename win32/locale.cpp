@@ -1,4 +1,3 @@
-// Names and dates of the user's regional settings: platform/locale.h over Win32.
 #include "platform/locale.h"
 
 #include "base/joined.h"
@@ -14,10 +13,10 @@ namespace platform {
 
 namespace {
 
-/// The system counts its dates from here; earlier ones it does not format.
+/// The system counts and formats dates only from this year on.
 constexpr int First_System_Year = 1601;
 
-/// One entry of the regional settings, or of another locale; empty where there is none.
+/// Returns an entry of the user's regional settings or of another locale, empty if there is none.
 std::wstring Locale_Text(LCTYPE entry, LCID locale = LOCALE_USER_DEFAULT) {
     std::wstring text(80, L'\0');
     int length = GetLocaleInfoW(locale, entry, text.data(), static_cast<int>(text.size()));
@@ -33,46 +32,48 @@ std::wstring Locale_Text(LCTYPE entry, LCID locale = LOCALE_USER_DEFAULT) {
 constexpr LCID American = MAKELCID(MAKELANGID(LANG_ENGLISH, SUBLANG_ENGLISH_US), SORT_DEFAULT);
 constexpr LCID British = MAKELCID(MAKELANGID(LANG_ENGLISH, SUBLANG_ENGLISH_UK), SORT_DEFAULT);
 
-/// The user's calendar as far as it is a Gregorian one, which has kinds of its own in some languages; nothing
-/// for a user of another one, as many in Thailand, Arabia or Persia are.
+/// Returns the user's calendar if it is Gregorian (some languages have their own kinds of it). Returns
+/// nothing for another calendar, which many users have in Thailand, the Arab countries or Iran.
 std::optional<CALID> Gregorian_Calendar() {
     CALID type = 0;
     GetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_ICALENDARTYPE | LOCALE_RETURN_NUMBER,
                    reinterpret_cast<wchar_t *>(&type), sizeof type / sizeof(wchar_t));
     constexpr CALID kinds[] = {CAL_GREGORIAN,        CAL_GREGORIAN_US,           CAL_GREGORIAN_ME_FRENCH,
                                CAL_GREGORIAN_ARABIC, CAL_GREGORIAN_XLIT_ENGLISH, CAL_GREGORIAN_XLIT_FRENCH};
-    if (type == 0) // none is told
+    if (type == 0) // not available
         return CAL_GREGORIAN;
     return std::find(std::begin(kinds), std::end(kinds), type) == std::end(kinds) ? std::nullopt
                                                                                   : std::optional(type);
 }
 
-/// By whose rules dates are written and read. The system would count the years, months and days of a user's
-/// other calendar. English rules with day and month in the user's order are Gregorian on every system.
+/// Returns the locale for writing and reading dates. If the user has another calendar, the system would count
+/// that calendar's years, months and days. The English locales are Gregorian on every system. The choice
+/// between them keeps the user's order of day and month.
 LCID Date_Locale() {
     if (Gregorian_Calendar())
         return LOCALE_USER_DEFAULT;
     return Locale_Text(LOCALE_IDATE) == L"1" ? British : American;
 }
 
-/// The entry `number` steps after `first`.
+/// Returns the entry `number` steps after `first`.
 LCTYPE Entry_After(LCTYPE first, int number) {
     return first + static_cast<LCTYPE>(number);
 }
 
-/// The settings' weeks begin with Monday.
+/// Returns the weekday's number in the regional settings, whose weeks begin with Monday.
 int Days_From_Monday(int weekday) {
     return (weekday + 6) % 7;
 }
 
-/// The marks that turn the direction of writing, which dates of some languages have between their parts.
+/// Returns whether a character sets the direction of writing. Dates of some languages have such marks between
+/// their parts.
 bool Is_Direction_Mark(wchar_t character) {
     return character == 0x200E || character == 0x200F;
 }
 
-/// The user's short date form with the year in it written out: "yyyy" becomes '0950', two letters or one the
-/// last two digits. In a form of `another` calendar the year is whole, so that nobody takes it for one of
-/// that calendar, and there is no era.
+/// Returns the user's short date form with the year written out: "yyyy" becomes '0950', and one or two
+/// letters become the last two digits. If the form belongs to `another` calendar, the year always has four
+/// digits, so that nobody takes it for a year of that calendar, and the era is left out.
 std::wstring Form_With_Year(int year, bool another) {
     const std::wstring form = Locale_Text(LOCALE_SSHORTDATE);
     const std::wstring digits = win32::To_Wide(std::to_string(10000 + year).substr(1));
@@ -96,8 +97,8 @@ std::wstring Form_With_Year(int year, bool another) {
     return out;
 }
 
-/// The date in the short form. The system formats no date before 1601: an earlier one borrows weekday and
-/// month from the same day of a later year, which the calendar repeats every 400 years.
+/// Returns the date in the short form. The system formats no date before 1601. An earlier date borrows
+/// weekday and month from the same day 1600 years later, because the calendar repeats every 400 years.
 std::wstring Formatted_Date(int year, int month, int day) {
     const bool early = year < First_System_Year;
     const LCID locale = Date_Locale();
@@ -118,7 +119,7 @@ std::wstring Formatted_Date(int year, int month, int day) {
 } // namespace
 
 std::string Month_Name(int month) {
-    // The locale's own names may be those of another calendar.
+    // The names of the locale itself may be those of another calendar.
     const std::optional<CALID> calendar = Gregorian_Calendar();
     wchar_t name[80] = {};
     if (GetCalendarInfoW(LOCALE_USER_DEFAULT, calendar.value_or(CAL_GREGORIAN),
@@ -166,12 +167,12 @@ std::optional<Date_Time> Read_Date(std::string_view text) {
         win32::Look_Up<decltype(VariantTimeToSystemTime)>(L"oleaut32.dll", "VariantTimeToSystemTime");
     std::wstring wide = win32::To_Wide(text); // the call wants it changeable
     std::erase_if(wide, Is_Direction_Mark);
-    // A short form may end in a dot, as the Hungarian one does, which not every system reads.
+    // A short form may end in a dot, as the Hungarian one does. Not every system can read that.
     if (wide.ends_with(L'.'))
         wide.pop_back();
     DATE date = 0;
     SYSTEMTIME time{};
-    // What is behind a NUL would not be read.
+    // The system would ignore the text behind a NUL.
     if (parse == nullptr || to_time == nullptr || wide.find(L'\0') != std::wstring::npos ||
         FAILED(parse(wide.data(), Date_Locale(), 0, &date)) || !to_time(date, &time))
         return std::nullopt;

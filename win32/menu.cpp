@@ -1,4 +1,3 @@
-// Native popup menus.
 #include "platform/menu.h"
 
 #include "win32/menu_images.h"
@@ -14,8 +13,8 @@ namespace platform {
 
 namespace {
 
-/// No item is ever checked: the images stand where the check marks would, at the edge. Drawn by the owner,
-/// they need a column of their own.
+/// Puts the pictures into the check mark column at the edge, because no item is ever checked. Owner-drawn
+/// pictures have a column of their own, so the check mark column is removed.
 void Hide_Check_Column(HMENU menu) {
     MENUINFO info = {};
     info.cbSize = sizeof info;
@@ -46,8 +45,9 @@ void Append_Item(HMENU menu, const Menu_Item &item, win32::Menu_Images &images) 
     InsertMenuItemW(menu, static_cast<UINT>(GetMenuItemCount(menu)), TRUE, &info);
 }
 
-/// The press that opens a menu. While this exists, its release chooses nothing in the menu if it comes soon
-/// after it or near to it: a hand that clicks does not hold still. At most one exists.
+/// The button press that opens a menu. While this object exists, the release of the button chooses nothing in
+/// the menu if it comes soon after the press or near it, because a clicking hand does not hold still. At most
+/// one object exists.
 class Opening_Press {
 public:
     Opening_Press() : place_(GetMessagePos()), time_(GetMessageTime()) {
@@ -62,7 +62,7 @@ public:
     Opening_Press &operator=(const Opening_Press &) = delete;
 
 private:
-    /// Sees the messages of the menu before the menu does, which drops those that this answers with 1.
+    /// Filters the menu's messages before the menu gets them. Returns 1 to drop a message.
     static LRESULT CALLBACK Filter(int code, WPARAM wparam, LPARAM message_address) {
         const auto &message = *reinterpret_cast<const MSG *>(message_address);
         if (code == MSGF_MENU && open_ != nullptr && open_->Is_Click(message))
@@ -70,7 +70,7 @@ private:
         return CallNextHookEx(nullptr, code, wparam, message_address);
     }
 
-    /// Returns whether `message` is the release and makes a click of the press.
+    /// Returns whether `message` is that release and completes a click.
     bool Is_Click(const MSG &message) {
         const bool released = message.message == WM_RBUTTONUP;
         if (!released && message.message != WM_RBUTTONDOWN)
@@ -87,7 +87,7 @@ private:
     static inline Opening_Press *open_ = nullptr;
     HHOOK hook_ = nullptr;
     DWORD place_;
-    LONG time_; ///< milliseconds, as messages have it
+    LONG time_; ///< in milliseconds, as in messages
     bool held_ = true;
 };
 
@@ -108,7 +108,7 @@ int Track_Popup_Menu(const Form_Model &owner, const std::vector<Menu_Item> &item
         place = {win32::To_Pixels(at->x), win32::To_Pixels(at->y)};
         ClientToScreen(window, &place);
     }
-    // Without the foreground a click elsewhere would not close the menu, and without a message after it the
+    // Without the foreground, a click elsewhere would not close the menu. Without a message afterwards, the
     // next menu would close at once.
     SetForegroundWindow(window);
     std::optional<Opening_Press> press;

@@ -1,4 +1,4 @@
-// Drawing the pictures of menu items from polygons on a field of 16 by 16 units, when the menus ask for it.
+// Draws the pictures of menu items from polygons on a field of 16 by 16 units.
 #include "win32/menu_images.h"
 
 #include "win32/canvas.h"
@@ -16,7 +16,7 @@ namespace {
 using platform::Menu_Image;
 using Corners = std::vector<Smooth_Point>;
 
-/// In pixels at 96 dots per inch: the pictures' sides, and the room between them and the texts.
+/// In pixels at 96 dots per inch: the side of a picture, and the gap between a picture and its text.
 constexpr int image_size = 16;
 constexpr int gap = 4;
 
@@ -27,7 +27,7 @@ constexpr std::uint32_t grey = 0x5A5F6B;
 constexpr std::uint32_t wood = 0xE0A33A;
 constexpr std::uint32_t dark = 0x2B2B33;
 
-/// Draws on the field of 16 by 16 units.
+/// Draws on the field of 16 by 16 units, scaled to the pixel buffer.
 class Field {
 public:
     explicit Field(const Pixel_Buffer &pixels) : pixels_(pixels) {}
@@ -43,7 +43,7 @@ private:
     const Pixel_Buffer &pixels_;
 };
 
-/// A straight bar of the given thickness.
+/// Returns a straight bar of the given thickness.
 Corners Bar(Smooth_Point from, Smooth_Point to, double thickness) {
     const double length = std::sqrt((to.x - from.x) * (to.x - from.x) + (to.y - from.y) * (to.y - from.y));
     const double x = (to.y - from.y) / length * thickness / 2;
@@ -51,20 +51,20 @@ Corners Bar(Smooth_Point from, Smooth_Point to, double thickness) {
     return {{from.x + x, from.y + y}, {to.x + x, to.y + y}, {to.x - x, to.y - y}, {from.x - x, from.y - y}};
 }
 
-/// A cross: the day's text goes.
+/// Draws a cross, which means that the day's text is deleted.
 void Draw_Clear(const Field &field) {
     field.Fill(Bar({3, 3}, {13, 13}, 2.4), red);
     field.Fill(Bar({13, 3}, {3, 13}, 2.4), red);
 }
 
-/// A pencil that writes to the lower left.
+/// Draws a pencil that writes at the lower left.
 void Draw_Edit(const Field &field) {
     field.Fill({{9.8, 3.2}, {12.8, 6.2}, {5.6, 13.4}, {2.6, 10.4}}, wood);
     field.Fill({{10.7, 2.3}, {11.6, 1.4}, {14.6, 4.4}, {13.7, 5.3}}, violet);
     field.Fill({{2.6, 10.4}, {5.6, 13.4}, {1.4, 14.6}}, dark);
 }
 
-/// A toothed wheel with a hole.
+/// Draws a toothed wheel with a hole.
 void Draw_Settings(const Field &field) {
     constexpr int teeth = 8;
     Corners wheel;
@@ -75,7 +75,8 @@ void Draw_Settings(const Field &field) {
         const double radius = outer ? 7.0 : 5.1;
         wheel.push_back({8 + radius * std::cos(angle), 8 + radius * std::sin(angle)});
     }
-    // Back along a small circle the other way: the hole, for crossing parts count even-odd.
+    // The outline goes back along a small circle. That makes a hole, because crossing parts follow the
+    // even-odd rule.
     constexpr int hole_corners = 24;
     wheel.push_back(wheel.front());
     for (int i = 0; i <= hole_corners; ++i) {
@@ -85,7 +86,7 @@ void Draw_Settings(const Field &field) {
     field.Fill(wheel, grey);
 }
 
-/// An arrow that leaves through an open door.
+/// Draws an arrow that leaves through an open door.
 void Draw_Exit(const Field &field) {
     field.Fill({{2, 1.5},
                 {9, 1.5},
@@ -103,7 +104,7 @@ void Draw_Exit(const Field &field) {
     field.Fill({{5.4, 7}, {10.4, 7}, {10.4, 4.4}, {14.6, 8}, {10.4, 11.6}, {10.4, 9}, {5.4, 9}}, violet);
 }
 
-/// An arrow that turns back to the left.
+/// Draws an arrow that turns back to the left.
 void Draw_Undo(const Field &field) {
     constexpr int bend_corners = 12;
     Corners band{{6, 4.8}};
@@ -138,9 +139,10 @@ int Size_In_Pixels(int at_96_dots) {
     return Scale_Nearest(at_96_dots, platform::Dots_Per_Inch(), 96);
 }
 
-constexpr int pale = 96; ///< of 255: the opacity of the picture of an item that cannot be chosen
+constexpr int pale = 96; ///< opacity of a disabled item's picture, of 255
 
-/// The picture with its transparency, the colours multiplied by it. Null without memory.
+/// Returns the picture with its transparency, the colours multiplied by the alpha. Returns null if out of
+/// memory.
 Unique_Bitmap Make_Image(Menu_Image image, Pixel_Buffer &pixels) {
     const int size = Size_In_Pixels(image_size);
     Unique_Bitmap bitmap = Make_Pixel_Bitmap(size, size, pixels);
@@ -155,7 +157,7 @@ void Make_Pale(const Pixel_Buffer &pixels) {
         bytes[i] = static_cast<std::uint8_t>(bytes[i] * pale / 255);
 }
 
-/// Lays the picture over the item's background, whichever that is.
+/// Draws the picture with its transparency over the item's background.
 void Draw_Item(const DRAWITEMSTRUCT &item) {
     static const auto blend =
         Look_Up<BOOL WINAPI(HDC, int, int, int, int, HDC, int, int, int, int, BLENDFUNCTION)>(L"msimg32.dll",
@@ -177,7 +179,7 @@ void Draw_Item(const DRAWITEMSTRUCT &item) {
 
 bool Menu_Images::Show_Transparency() {
     constexpr int vista = 6;
-    // Wine passes for a newer Windows, and copies what is clear as black.
+    // Wine reports a newer Windows, but draws transparent pixels black.
     static const bool is_wine = System_Function(L"ntdll.dll", "wine_get_version") != nullptr;
     return LOBYTE(GetVersion()) >= vista && !is_wine;
 }
@@ -199,7 +201,7 @@ void Menu_Images::Set(MENUITEMINFOW &item, Menu_Image image) {
 }
 
 bool Answer_Menu_Image(UINT message, LPARAM lparam) {
-    // Native controls ask for the like, of themselves.
+    // Native controls send the same messages for themselves.
     if (message == WM_MEASUREITEM) {
         auto *item = reinterpret_cast<MEASUREITEMSTRUCT *>(lparam);
         if (item->CtlType != ODT_MENU)

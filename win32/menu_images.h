@@ -1,4 +1,4 @@
-// The small pictures of menu items, drawn at the size that the screen's dots per inch ask for.
+// The small pictures of menu items, drawn for the screen's dots per inch.
 #pragma once
 
 #include "platform/menu.h"
@@ -8,21 +8,23 @@
 
 namespace win32 {
 
-/// The pictures of a menu's items, which live as long as the menu. Windows Vista and newer lay a picture over
-/// the item as its transparency says. Before, the menu's owner, which has to be a form's window, is asked to
-/// draw it; the newer ones would draw the whole menu in the old way then.
+/// The pictures of a menu's items. This object must live as long as the menu. Windows Vista and newer draw
+/// the pictures with their transparency. Older systems ask the menu's owner, which must be a form's window,
+/// to draw them. Newer systems do not ask, because an owner-drawn picture would make them draw the whole menu
+/// in the old style.
 class Menu_Images {
 public:
-    /// Gives an item its picture, a paler one where the item cannot be chosen; nothing with Menu_Image::None.
+    /// Gives an item its picture, a paler one if the item is disabled. Does nothing for Menu_Image::None.
     void Set(MENUITEMINFOW &item, platform::Menu_Image image);
-    /// Returns whether the system's menus lay pictures over their items by themselves.
+    /// Returns whether the system's menus draw transparent pictures themselves.
     static bool Show_Transparency();
 
 private:
     std::vector<Unique_Bitmap> bitmaps_;
 };
 
-/// Whether `message` is a menu's question for the size or the drawing of such a picture. It is then answered.
+/// Answers a menu's WM_MEASUREITEM or WM_DRAWITEM for such a picture. Returns whether `message` was one of
+/// them.
 bool Answer_Menu_Image(UINT message, LPARAM lparam);
 
 } // namespace win32

@@ -1,4 +1,3 @@
-// Message boxes: platform/message_box.h over Win32.
 #include "platform/message_box.h"
 
 #include "base/cut_text.h"
@@ -11,12 +10,13 @@ namespace platform {
 
 namespace {
 
-/// More than this fits on no screen; the system would push the buttons out of sight.
+/// Longer texts fit on no screen, and the system would push the buttons out of sight.
 constexpr std::size_t Longest_Text = 1000;
 constexpr std::ptrdiff_t Most_Lines = 30;
 constexpr std::size_t Longest_Title = 200;
 
-/// `text` as the box can show it: a zero would end it and becomes a blank; what is too long ends with dots.
+/// Returns `text` as the box can show it. A NUL would end the text and becomes a space. An overlong text is
+/// cut and ends with "...".
 std::wstring Displayable_Text(std::string_view text, std::size_t longest) {
     std::wstring wide = win32::To_Wide(text);
     std::replace(wide.begin(), wide.end(), L'\0', L' ');
@@ -29,8 +29,8 @@ std::wstring Displayable_Text(std::string_view text, std::size_t longest) {
     return end == wide.size() ? wide : wide.substr(0, Whole_Code_Points(wide, end)) + L"...";
 }
 
-/// A box that comes by itself finds the user in another program, and may not take the foreground from that:
-/// it lies above all windows instead.
+/// Returns the style of a message box. A box from a timer or a broadcast appears while the user works in
+/// another program. It cannot take the foreground, so it lies above all windows instead.
 UINT Style_Of(Box_Icon icon, Box_Buttons buttons) {
     constexpr UINT icons[] = {0, MB_ICONINFORMATION, MB_ICONQUESTION, MB_ICONEXCLAMATION, MB_ICONSTOP};
     constexpr UINT button_sets[] = {MB_OK, MB_YESNO, MB_YESNOCANCEL};
@@ -38,15 +38,15 @@ UINT Style_Of(Box_Icon icon, Box_Buttons buttons) {
            MB_SETFOREGROUND | (win32::In_System_Event ? MB_TOPMOST : 0U);
 }
 
-/// The window, else none where it is not the program's own: inside the shell's window the calendar shares the
-/// shell's input, and the active window may be the shell's.
+/// Returns the window if it belongs to the program's thread, else null. Inside the shell's window the
+/// calendar shares the shell's input, so the active window may be the shell's.
 HWND Own_Window_Or_Null(HWND window) {
     return window != nullptr && GetWindowThreadProcessId(window, nullptr) == GetCurrentThreadId() ? window
                                                                                                   : nullptr;
 }
 
-/// The dialog that the user works in, else none. The calendar owns no box: it may live inside the shell's
-/// window, which the box would then lock.
+/// Returns the dialog that the user is working in, else null. The calendar never owns a box, because the box
+/// would lock the shell's window if the calendar is inside it.
 HWND Active_Dialog() {
     const HWND window = Own_Window_Or_Null(GetActiveWindow());
     if (window == nullptr || (GetWindowLongW(window, GWL_STYLE) & WS_CAPTION) != WS_CAPTION)
@@ -54,7 +54,8 @@ HWND Active_Dialog() {
     return GetAncestor(window, GA_ROOT) == window ? window : nullptr;
 }
 
-/// Gives the keyboard back at the end of a scope to a window that had it, if there is one.
+/// Returns the focus at the end of a scope to the window that had it. Does nothing if that window is null or
+/// gone.
 class Focus_Restorer {
 public:
     explicit Focus_Restorer(HWND window) : window_(window) {}
@@ -71,7 +72,8 @@ private:
     HWND window_;
 };
 
-/// The system answers nothing when it has no memory for the box: then what changes least is the answer.
+/// Returns the answer for the pressed button. If the system has no memory for the box, `id` is 0 and the
+/// answer is the one that changes least.
 Box_Answer Answer_Of(int id, Box_Buttons buttons) {
     switch (id) {
     case IDYES:
@@ -96,7 +98,7 @@ Box_Answer Message_Box(std::string_view text, Box_Icon icon, Box_Buttons buttons
     const std::wstring wide_text = Displayable_Text(text, Longest_Text);
     const std::wstring wide_title = Displayable_Text(title, Longest_Title);
     const HWND owner = Active_Dialog();
-    // The system returns the keyboard to an owner alone.
+    // The system returns the focus only to an owner.
     const Focus_Restorer focus(owner == nullptr ? Own_Window_Or_Null(GetFocus()) : nullptr);
     const win32::Modal_Scope modal(owner);
     return Answer_Of(MessageBoxW(owner, wide_text.c_str(), wide_title.c_str(), Style_Of(icon, buttons)),

@@ -1,4 +1,3 @@
-// The message loop and its timers.
 #include "platform/message_loop.h"
 
 #include "win32/broadcasts.h"
@@ -21,7 +20,7 @@ void Dispatch(MSG &message) {
     const HWND root = message.hwnd == nullptr ? nullptr : GetAncestor(message.hwnd, GA_ROOT);
     const platform::Form_Model *form = win32::Form_Of_Window(root);
     if (form != nullptr && form->kind == platform::Form_Kind::Dialog) {
-        // Kept, because what it does may close the dialog.
+        // Kept alive, because handling the message may close the dialog.
         const std::shared_ptr<win32::Mirror> dialog = win32::Find_Mirror(*form);
         if (dialog->Preprocess_Message(message) || IsDialogMessageW(root, &message))
             return;
@@ -35,12 +34,12 @@ void Dispatch(MSG &message) {
 namespace win32 {
 
 void Tick(UINT_PTR id) {
-    // The windows inside the shell's may vanish without a message.
+    // The windows inside the shell's window may vanish without a message.
     Find_Lost_Windows();
     if (Mouse_Is_Taken())
         return;
     Process_Deferred_Broadcasts();
-    // The shell's window that the calendar is in may change its scale without a word to what it holds.
+    // The shell's window that holds the calendar may change its scale without telling its children.
     Check_Scale(false);
     const auto timer =
         std::find_if(timers.begin(), timers.end(), [id](const Timer &t) { return t.id == id; });
@@ -69,7 +68,7 @@ void Process_Waiting_Messages() {
     MSG message = {};
     while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
         if (message.message == WM_QUIT) {
-            // The loop that is really to end has to see it too.
+            // The main loop must see the message too.
             PostQuitMessage(static_cast<int>(message.wParam));
             return;
         }
@@ -79,7 +78,7 @@ void Process_Waiting_Messages() {
 
 void Paint_Waiting() {
     MSG message = {};
-    // A window that fails to paint asks for it again at once.
+    // A window that fails to paint requests it again at once.
     constexpr int most_paints = 200;
     for (int i = 0; i < most_paints && PeekMessageW(&message, nullptr, WM_PAINT, WM_PAINT, PM_REMOVE); ++i)
         DispatchMessageW(&message);

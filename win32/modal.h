@@ -1,4 +1,4 @@
-// What an open message box or file dialog of the program means for the other windows.
+// The open message boxes and file dialogs of the program, and how they lock the other windows.
 #pragma once
 
 #include "win32/handles.h"
@@ -7,17 +7,17 @@
 
 namespace win32 {
 
-/// How many message boxes and file dialogs are open.
+/// The number of open message boxes and file dialogs.
 inline int Open_Modal_Boxes = 0;
 
-/// Whether the system ends the session and waits for no answer. Message boxes answer themselves then.
+/// True if the system ends the session and waits for no answer. Message boxes then answer themselves.
 inline bool Boxes_Suppressed = false;
 
-/// Whether what runs now comes of a timer or of a broadcast of the system, and not of what the user did.
+/// True while a timer or a broadcast of the system is handled, false during a user action.
 inline bool In_System_Event = false;
 
-/// Counts one as open for the length of a scope, and locks the thread's other windows where it has an owner:
-/// the system locks only that.
+/// Counts a box as open for a scope. If the box has an owner, also locks the thread's other windows, because
+/// the system locks only the owner.
 class Modal_Scope {
 public:
     explicit Modal_Scope(HWND owner) : owner_(owner) {

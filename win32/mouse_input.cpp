@@ -1,4 +1,3 @@
-// Mouse messages and keys made into events.
 #include "win32/mouse_input.h"
 
 #include "platform/message_box.h"
@@ -32,7 +31,7 @@ struct Button_Message {
     Mouse_Button button;
 };
 
-/// Only the left button double-clicks; two quick clicks of the others are two clicks.
+/// Only the left button double-clicks. Two quick clicks of another button are two clicks.
 constexpr Button_Message button_messages[] = {
     {WM_LBUTTONDOWN, Input_Kind::Mouse_Down, Mouse_Button::Left},
     {WM_LBUTTONDBLCLK, Input_Kind::Double_Click, Mouse_Button::Left},
@@ -63,7 +62,7 @@ Input_Event Key_Event(bool down, WPARAM wparam, LPARAM lparam) {
 }
 
 bool Mouse_Input::Translate(HWND window, UINT message, WPARAM wparam, LPARAM lparam, Input_Event &event) {
-    // The capture and the keyboard stay with an open message box.
+    // An open message box keeps the capture and the focus.
     if (platform::Box_Is_Open())
         return false;
     event = Event_Of(Input_Kind::Mouse_Move);
@@ -91,7 +90,7 @@ bool Mouse_Input::Translate(HWND window, UINT message, WPARAM wparam, LPARAM lpa
 }
 
 bool Mouse_Input::Translate_Move(WPARAM held, Input_Event &event) {
-    // The system repeats the message when windows change under a mouse that rests.
+    // The system repeats the message when windows change under a resting mouse.
     POINT mouse = {};
     GetCursorPos(&mouse);
     if (mouse.x == last_mouse_.x && mouse.y == last_mouse_.y)
@@ -102,7 +101,7 @@ bool Mouse_Input::Translate_Move(WPARAM held, Input_Event &event) {
 }
 
 bool Mouse_Input::Capture_Lost() {
-    // Our own giving it back comes when no button is held any more.
+    // No button is held if the window itself released the capture.
     return std::exchange(held_buttons_, 0U) != 0;
 }
 

@@ -1,4 +1,4 @@
-// The mouse and the state keys as events: what windows that paint themselves have in common.
+// Mouse and key messages as events, for all windows that paint themselves.
 #pragma once
 
 #include "platform/forms.h"
@@ -6,22 +6,24 @@
 
 namespace win32 {
 
-/// An event of this kind with the state keys as they are.
+/// Returns an event of this kind with the current state of Shift, Ctrl and Alt.
 platform::Input_Event Event_Of(platform::Input_Kind kind);
 
-/// The event of a key message that goes down or comes up.
+/// Returns the event of a key message. `down` is false for a released key.
 platform::Input_Event Key_Event(bool down, WPARAM wparam, LPARAM lparam);
 
-/// The mouse over one window, which captures it from the first button's press to the last one's release.
+/// The mouse over one window. Captures the mouse from the press of the first button to the release of the
+/// last.
 class Mouse_Input {
 public:
-    /// Whether the message belongs to the mouse over the client area.
+    /// Returns whether the message is a move, press or release of the mouse in the client area.
     static bool Is_Mouse(UINT message) { return message >= WM_MOUSEFIRST && message <= WM_MBUTTONDBLCLK; }
 
-    /// What a message of the mouse says, its point in twips on the window. Returns whether it says anything.
+    /// Turns a mouse message into an event, with its point in twips on the window. Returns whether there is
+    /// an event.
     bool Translate(HWND window, UINT message, WPARAM wparam, LPARAM lparam, platform::Input_Event &event);
 
-    /// To be called with WM_CAPTURECHANGED. Returns whether the release of a button will not come.
+    /// Handles WM_CAPTURECHANGED. Returns true if a button was held: its release will not arrive.
     bool Capture_Lost();
 
 private:

@@ -1,4 +1,4 @@
-// What holds back what comes by itself: an open menu, and a window that is being moved.
+// The check for an open menu or a window that the user is moving.
 #include "win32/broadcasts.h"
 #include "win32/handles.h"
 
@@ -6,7 +6,8 @@ namespace win32 {
 
 namespace {
 
-/// Looks for a menu that can be seen, at the address in `found_address`. Returns whether to look further.
+/// Stores in the bool at `found_address` whether `window` is a visible menu. Returns whether the enumeration
+/// goes on.
 BOOL CALLBACK Find_Open_Menu(HWND window, LPARAM found_address) {
     constexpr ULONG_PTR menu_class = 32768;
     const bool found = GetClassLongPtrW(window, GCW_ATOM) == menu_class && IsWindowVisible(window);
@@ -23,7 +24,7 @@ bool Mouse_Is_Taken() {
         return false;
     if ((state.flags & (GUI_POPUPMENUMODE | GUI_INMOVESIZE)) != 0)
         return true;
-    // Alt alone sets this as well, and the one of the system menu, without any menu to be seen.
+    // Pressing Alt alone sets this flag and that of the system menu, without a visible menu.
     if ((state.flags & GUI_INMENUMODE) == 0)
         return false;
     bool menu_open = false;

@@ -1,4 +1,3 @@
-// Painting, mouse and keyboard of controls of a dialog that paint themselves.
 #include "win32/painted_child.h"
 
 #include "base/scoped_value.h"
@@ -40,7 +39,7 @@ LRESULT CALLBACK Painted_Child::Procedure(HWND window, UINT message, WPARAM wpar
         const Scoped_Value scale(Dialog_Dots, keep->Dots());
         return child->Handle(message, wparam, lparam);
     } catch (...) {
-        // Only want of memory comes here. The system's code above cannot pass an exception on.
+        // Only an out-of-memory exception arrives here. It must not pass through the system's code above.
     }
     return DefWindowProcW(window, message, wparam, lparam);
 }
@@ -90,8 +89,8 @@ LRESULT Painted_Child::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
     return DefWindowProcW(window_, message, wparam, lparam);
 }
 
-/// What it wants of the keyboard, `message` above all: what is typed by its keys is not looked for among the
-/// access keys, which would beep.
+/// Returns the keys that the control wants. The control claims `message` if it is one of its own keys,
+/// because the dialog would otherwise look for the typed character among the access keys, and beep.
 LRESULT Painted_Child::Dialog_Code(const MSG *message) const {
     const Control_State &control = Control();
     if (!control.tab_stop)
@@ -142,7 +141,7 @@ void Painted_Child::Handle_Key_Down(WPARAM wparam, LPARAM lparam) {
     owner_->Send(event);
 }
 
-/// The controls that lie over this one are windows beside it, and would flicker.
+/// Excludes the controls that lie over this one, because they are separate windows and would flicker.
 void Painted_Child::Exclude_Later_Siblings(HDC target) const {
     const platform::Form_Model &model = *owner_->Model();
     const Control_State &self = Control();
@@ -166,7 +165,7 @@ void Painted_Child::Paint_On(HDC target, const RECT &area) {
     platform::Canvas canvas(area);
     if (!canvas.Ok())
         return;
-    // The dialog tells its background, as it does to the system's own controls.
+    // The dialog provides the background, as for the system's own controls.
     const LRESULT brush =
         SendMessageW(GetParent(window_), WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(canvas.Dc()),
                      reinterpret_cast<LPARAM>(window_));

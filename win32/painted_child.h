@@ -1,4 +1,4 @@
-// The window of a control of a dialog that paints itself. The painting and the answers are the control's.
+// The window of a painted control in a dialog. The control itself paints and handles the input.
 #pragma once
 
 #include "platform/forms.h"
@@ -9,12 +9,12 @@ namespace win32 {
 
 class Painted_Child {
 public:
-    /// Of the control with this index in the form of `owner`, which lives longer.
+    /// `index` is the control's index in the form of `owner`, which must outlive this object.
     Painted_Child(Mirror &owner, int index) : owner_(&owner), index_(index) {}
     Painted_Child(const Painted_Child &) = delete;
     Painted_Child &operator=(const Painted_Child &) = delete;
 
-    /// Makes the window, hidden and without a place. Null when the system refuses.
+    /// Creates the window, hidden and with no size. Returns null on failure.
     HWND Make(HWND parent, int id);
 
 private:

@@ -1,4 +1,5 @@
-// The painted form's window: its making, place, shape and painting. Mouse and keys are in painted_input.cpp.
+// The window of a painted form: its creation, place, shape and painting. Mouse and keys are in
+// painted_input.cpp.
 #include "win32/painted_window.h"
 
 #include "win32/accessible.h"
@@ -18,14 +19,15 @@ using platform::Control_State;
 
 namespace {
 
-/// WM_DPICHANGED_AFTERPARENT, which the headers name for newer systems alone.
+/// WM_DPICHANGED_AFTERPARENT, which the headers define only for newer systems.
 constexpr UINT Parent_Dots_Changed_Message = 0x02E3;
 
 bool Is_Top_Level(HWND window) {
     return GetAncestor(window, GA_PARENT) == GetDesktopWindow();
 }
 
-/// Letters are commands in the window: an input method that is open would swallow them.
+/// Disables input methods in the window. Letters are commands there, and an open input method would swallow
+/// them.
 void Disable_Input_Method(HWND window) {
     static const auto associate = Look_Up<HANDLE WINAPI(HWND, HANDLE)>(L"imm32.dll", "ImmAssociateContext");
     if (associate != nullptr)
@@ -49,7 +51,7 @@ void Painted_Window::Create() {
                           GetModuleHandleW(nullptr), nullptr));
     Disable_Input_Method(window_);
     Texts_Changed();
-    // The window may lie on a screen with a scale of its own; the form hears of it once it is made.
+    // The window may lie on a screen with a scale of its own. The form is told once it is complete.
     PostMessageW(window_, Check_Dots_Message, 0, 0);
 }
 
@@ -75,8 +77,8 @@ LRESULT Painted_Window::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
         return Paint_Window(window_, message, wparam,
                             [this](HDC target, const RECT &area) { Paint_On(target, area); });
     case WM_WINDOWPOSCHANGING:
-        // Painted anew after every change of place or region: Wine hangs when it copies pixels inside another
-        // process's window.
+        // A child window is repainted after every change of place or region, because Wine hangs when it
+        // copies pixels inside another process's window.
         if (!Is_Top_Level(window_))
             reinterpret_cast<WINDOWPOS *>(lparam)->flags |= SWP_NOCOPYBITS;
         break;
@@ -195,7 +197,7 @@ void Painted_Window::Invalidate(const Rect &bounds) const {
 }
 
 void Painted_Window::Texts_Changed() {
-    // Once for many changes: a new month changes the texts of all its days.
+    // Posted once for many changes: a new month changes the texts of all its days.
     if (!texts_dirty_)
         texts_dirty_ = PostMessageW(window_, Update_Texts_Message, 0, 0) != FALSE;
 }
@@ -223,7 +225,7 @@ void Painted_Window::Set_Region() {
         SetRectRgn(part.get(), rect.left, rect.top, rect.right, rect.bottom);
         CombineRgn(whole.get(), whole.get(), part.get(), RGN_OR);
     }
-    // The system owns the region from then on, when it takes it.
+    // If the call succeeds, the system owns the region.
     if (!whole || SetWindowRgn(window_, whole.get(), TRUE) == 0)
         return;
     static_cast<void>(whole.release());
@@ -243,7 +245,7 @@ void Painted_Window::Shape(const std::vector<Point> &corners) {
 
 void Painted_Window::Update_Bounds() {
     RECT place = To_Pixels(Model()->bounds);
-    // Both corners: a mirrored parent counts from its right edge to the window's right one.
+    // Maps both corners, because a mirrored parent counts from its right edge to the window's right edge.
     if (!Is_Top_Level(window_))
         MapWindowPoints(nullptr, GetAncestor(window_, GA_PARENT), reinterpret_cast<POINT *>(&place), 2);
     SetWindowPos(window_, nullptr, place.left, place.top, place.right - place.left, place.bottom - place.top,
@@ -260,7 +262,7 @@ void Painted_Window::Show_Or_Hide() {
                      SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_SHOWWINDOW);
         return;
     }
-    // Under the ordinary windows, where a desktop's furniture belongs.
+    // Below ordinary windows, because the calendar belongs to the desktop.
     const bool to_bottom = Is_Top_Level(window_);
     SetWindowPos(window_, HWND_BOTTOM, 0, 0, 0, 0,
                  SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_SHOWWINDOW | (to_bottom ? 0U : SWP_NOZORDER));

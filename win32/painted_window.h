@@ -25,9 +25,10 @@ private:
     static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam);
     LRESULT Handle(UINT message, WPARAM wparam, LPARAM lparam) override;
     void Window_Gone() override;
-    /// The messages of the mouse and the keyboard. Returns whether `message` was one, then with its result.
+    /// Handles mouse and keyboard messages. Returns whether `message` was one, and puts its result in
+    /// `result`.
     bool Handle_Input(UINT message, WPARAM wparam, LPARAM lparam, LRESULT &result);
-    /// The window's messages to itself. Returns whether `message` was one.
+    /// Handles the messages that the program posts to the window. Returns whether `message` was one.
     bool Handle_Posted(UINT message, WPARAM wparam);
     bool Handle_Mouse(UINT message, WPARAM wparam, LPARAM lparam);
     bool Handle_Key(UINT message, WPARAM wparam, LPARAM lparam);
@@ -41,7 +42,7 @@ private:
     void Set_Pointer() const;
     bool Floats() const { return Model()->kind == platform::Form_Kind::Floating; }
     void Invalidate(const Rect &bounds) const;
-    /// What tooltips and assistive technology tell of the controls is to be brought up to date.
+    /// Schedules an update of the tooltips and of the announcements to assistive technology.
     void Texts_Changed();
 
     Tooltips tooltips_;
@@ -49,12 +50,12 @@ private:
     bool texts_dirty_ = false;
     bool has_clip_ = false;
     std::vector<Rect> clip_;
-    std::vector<RECT> region_; ///< the clip in the pixels of the window's region
+    std::vector<RECT> region_; ///< the rectangles of the window's region, in pixels
     std::vector<Point> shape_;
     Mouse_Input mouse_;
 };
 
-/// Messages of painted windows to themselves.
+/// Messages that the program posts to painted windows.
 constexpr UINT Update_Texts_Message = WM_APP + 1;
 constexpr UINT Default_Action_Message = WM_APP + 2; ///< wparam: the control's index
 

@@ -1,4 +1,3 @@
-// File names of the program as the system's calls take them.
 #include "win32/paths.h"
 
 #include "win32/handles.h"
@@ -10,10 +9,12 @@ namespace win32 {
 
 namespace {
 
-/// Plain paths end here: MAX_PATH less the 12 characters of a short file name, as folders may need them.
+/// The longest plain path: MAX_PATH less the NUL and the 12 characters of a short file name, for which a
+/// folder must leave room.
 constexpr std::size_t Longest_Plain_Path = 247;
 
-/// The long form is taken literally by the system: steps like ".." may not be in it.
+/// Returns whether the path has a step such as "..". The system takes the long form literally, so such a step
+/// is not allowed there.
 bool Has_Dot_Step(const std::wstring &path) {
     return (path + L'\\').find(L"\\..\\") != std::wstring::npos ||
            (path + L'\\').find(L"\\.\\") != std::wstring::npos;

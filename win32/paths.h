@@ -1,15 +1,15 @@
-// How the program's file names are given to the system, and its own. Nothing is opened here.
+// Paths in the form that system calls take, and the program's own path. Opens no files.
 #pragma once
 
 #include <string>
 
 namespace win32 {
 
-/// `path` for a system call: wide, and with the long form's prefix where an absolute path is longer than the
-/// plain form can be. Empty when the path holds a zero byte and so can name nothing.
+/// Returns `path` as a wide text for a system call. An absolute path that is too long for the plain form gets
+/// the prefix of the long form. Returns an empty text if the path holds a NUL and so cannot name a file.
 std::wstring Path_For_Call(const std::string &path);
 
-/// The full path of the running program's file.
+/// Returns the full path of the running program's file.
 std::wstring Program_Path();
 
 } // namespace win32

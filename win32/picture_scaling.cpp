@@ -1,5 +1,4 @@
-// Scaling by means. The system's own way depends on its version, and leaves pixels out where it is in a
-// hurry.
+// Scaling by averages. The system's own scaling depends on its version, and drops pixels for speed.
 #include "win32/picture_scaling.h"
 
 #include "base/mean_colour.h"

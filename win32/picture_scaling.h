@@ -1,4 +1,4 @@
-// Scaling pictures into a buffer of pixels. It knows no device and no unit but the pixel.
+// Scaling of pictures into a pixel buffer. The pixel is the only unit.
 #pragma once
 
 #include "base/geometry.h"
@@ -7,8 +7,8 @@
 
 namespace win32 {
 
-/// Fills the rectangle `to` (pixels in the buffer) with the whole picture: smaller by the means of what falls
-/// together, larger by repeating. What lies outside of the buffer is left out.
+/// Fills the rectangle `to` (pixels in the buffer) with the whole picture. Averages pixels to shrink it and
+/// repeats them to enlarge it. Skips pixels outside the buffer.
 void Scale_Picture(const Pixel_Buffer &buffer, const Picture &picture, const Rect &to);
 
 } // namespace win32

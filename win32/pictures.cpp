@@ -1,5 +1,4 @@
-// Pictures: platform/pictures.h over the system's own reader of pictures, and scaling by averages, which
-// looks the same on every system.
+// Reading of JPEG pictures with the system's decoder.
 #include "platform/pictures.h"
 
 #include "base/joined.h"
@@ -19,7 +18,7 @@ namespace {
 
 using win32::Unique_Interface;
 
-/// A stream over a copy of the bytes; null when there is no memory for it.
+/// Returns a stream over a copy of the bytes, null if out of memory.
 Unique_Interface<IStream> Stream_Of(const std::string &bytes) {
     static const auto create =
         win32::Look_Up<HRESULT WINAPI(HGLOBAL, BOOL, IStream **)>(L"ole32.dll", "CreateStreamOnHGlobal");
@@ -48,7 +47,8 @@ Unique_Interface<IPicture> Read_Picture(const std::string &bytes) {
     return Unique_Interface<IPicture>(static_cast<IPicture *>(picture));
 }
 
-/// The bitmap's pixels without gaps between the rows; empty when it has not this size.
+/// Returns the bitmap's pixels without padding between the rows. Returns nothing if the bitmap does not have
+/// this size.
 std::vector<std::uint8_t> Pixels_Of(HBITMAP bitmap, Size size) {
     BITMAP description = {};
     if (GetObjectW(bitmap, sizeof description, &description) == 0 || description.bmWidth != size.width ||
@@ -97,7 +97,7 @@ Picture Load_Picture(const std::string &path) {
     }
     const std::optional<Size> size = Jpeg_Size(bytes);
     if (!size)
-        throw Picture_Error(Joined({path, ": This is no JPEG picture, or a part of it is missing."}));
+        throw Picture_Error(Joined({path, ": This is not a JPEG picture, or it is incomplete."}));
     if (static_cast<std::int64_t>(size->width) * size->height > most_picture_pixels)
         throw Picture_Error(Joined({path, ": This picture is too large."}));
     try {
@@ -107,7 +107,7 @@ Picture Load_Picture(const std::string &path) {
     } catch (const std::bad_alloc &) {
         throw Picture_Error(Joined({path, ": There is not enough memory for this picture."}));
     }
-    throw Picture_Error(Joined({path, ": This picture is damaged, or of a kind that cannot be read."}));
+    throw Picture_Error(Joined({path, ": This picture is damaged, or its format is not supported."}));
 }
 
 } // namespace platform

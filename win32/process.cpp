@@ -1,4 +1,3 @@
-// The program's process: platform/process.h over Win32.
 #include "platform/process.h"
 
 #include "win32/handles.h"
@@ -16,7 +15,8 @@ constexpr wchar_t Restart_Option[] = L"\" /again ";
 
 win32::Unique_Kernel_Handle claim;
 
-/// The long form of a folder's name, which the system may give with short parts; with a separator at its end.
+/// Returns the long form of a folder's path, with a separator at its end. The system may give the path with
+/// short names.
 std::wstring Long_Folder(const std::wstring &folder) {
     wchar_t name[MAX_PATH] = {};
     const DWORD length = GetLongPathNameW(folder.c_str(), name, MAX_PATH);
@@ -32,7 +32,7 @@ bool Claim_Single_Instance(const std::string &name) {
     SetLastError(ERROR_SUCCESS);
     win32::Unique_Kernel_Handle mutex(CreateMutexW(nullptr, FALSE, win32::To_Wide(name).c_str()));
     const DWORD error = GetLastError();
-    // Refused access means that it exists too, made by the user with other rights.
+    // Denied access means that the mutex exists too, created by the same user with other rights.
     if (error == ERROR_ALREADY_EXISTS || (!mutex && error == ERROR_ACCESS_DENIED))
         return false;
     claim = std::move(mutex);
@@ -75,7 +75,7 @@ bool Started_From_Temporary_Folder() {
     const std::wstring program = win32::Program_Path();
     const std::wstring above = Long_Folder(temporary);
     const std::wstring folder = Long_Folder(program.substr(0, program.rfind(L'\\'))).substr(0, above.size());
-    // A whole drive is no folder for temporary files, whatever the environment says.
+    // A whole drive is not a folder for temporary files, whatever the environment says.
     constexpr std::size_t drive = 3;
     return above.size() > drive && lstrcmpiW(folder.c_str(), above.c_str()) == 0;
 }

@@ -1,4 +1,4 @@
-// The registry: platform/registry.h over Win32. Texts are stored as REG_SZ.
+// The registry. Texts are stored as REG_SZ.
 #include "platform/registry.h"
 
 #include "base/joined.h"
@@ -19,7 +19,7 @@ struct Raw_Value {
     std::vector<BYTE> data;
 };
 
-/// Takes the value's bytes. Another program may lengthen it between two calls. Gives an error code.
+/// Reads the bytes of a value, which another program may lengthen between two calls. Returns an error code.
 LONG Query_Value(HKEY key, const std::wstring &name, Raw_Value &value) {
     LONG result = ERROR_SUCCESS;
     DWORD size = 256;
@@ -31,14 +31,14 @@ LONG Query_Value(HKEY key, const std::wstring &name, Raw_Value &value) {
     return result;
 }
 
-/// What a value that is there but cannot be read is given as; nothing for one that is absent.
+/// Returns the text that stands for a value that cannot be read, or nothing for a missing value.
 std::optional<std::string> Unreadable_Text(LONG code) {
     if (code == ERROR_FILE_NOT_FOUND)
         return std::nullopt;
     return Joined({"(", win32::System_Error_Text(static_cast<unsigned long>(code)), ")"});
 }
 
-/// The text of stored wide characters, which need not end with a zero.
+/// Returns the text of stored wide characters, which need not end with a NUL.
 std::string Text_Of(const std::vector<BYTE> &data) {
     std::wstring text(data.size() / sizeof(wchar_t), L'\0');
     if (!text.empty())
@@ -46,7 +46,7 @@ std::string Text_Of(const std::vector<BYTE> &data) {
     return win32::From_Wide(text.c_str());
 }
 
-/// With the values of the environment variables in it, or as it is where the system cannot do so.
+/// Returns the text with its environment variables expanded, or the text itself if the system fails.
 std::string Expand_Variables(const std::string &text) {
     const std::wstring wide = win32::To_Wide(text);
     std::wstring expanded(ExpandEnvironmentStringsW(wide.c_str(), nullptr, 0), L'\0');
@@ -77,7 +77,7 @@ win32::Unique_Key Open_Key(Registry_Root root, std::string_view key, REGSAM acce
     return win32::Unique_Key(opened);
 }
 
-/// Copies the bytes of a stored value of that type and exactly that size into `number`.
+/// Copies the bytes of a stored value into `number`. Returns false unless the value has that type and size.
 template <typename Number>
 bool Read_Number(const Raw_Value &value, DWORD type, Number &number) {
     if (value.type != type || value.data.size() != sizeof number)
@@ -184,7 +184,7 @@ void Registry_Write(std::string_view root_name, std::string_view key, std::strin
 
 void Registry_Write_String(Registry_Root root, std::string_view key, std::string_view name,
                            std::string_view text) {
-    // The flush asks for the right to query.
+    // RegFlushKey requires the right to query.
     const win32::Unique_Key opened = Open_Key(root, key, KEY_SET_VALUE | KEY_QUERY_VALUE);
     if (!opened)
         return;

@@ -1,4 +1,3 @@
-// The screen's dots per inch, its work area and the mouse.
 #include "platform/screen.h"
 
 #include "win32/system_library.h"
@@ -20,7 +19,7 @@ int Look_Dots_Up(HWND window) {
 
 } // namespace
 
-// Systems with several scales tell those of a window; older ones have one scale for all.
+// Newer systems have a scale for each window. Older systems have one scale for all.
 int win32::Dots_Of(HWND window) {
     static const auto of_window = Look_Up<UINT WINAPI(HWND)>(L"user32.dll", "GetDpiForWindow");
     return window != nullptr && of_window != nullptr ? static_cast<int>(of_window(window)) : 0;

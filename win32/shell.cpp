@@ -1,4 +1,3 @@
-// The shell: platform/shell.h over Win32.
 #include "platform/shell.h"
 
 #include "win32/mirror.h"
@@ -13,7 +12,7 @@ namespace platform {
 
 namespace {
 
-/// Of the list view of the common controls, written out to spare their header.
+/// Messages of the list view control, defined here to avoid its header.
 constexpr UINT Get_Text_Background = 0x1025; // LVM_GETTEXTBKCOLOR
 constexpr UINT Get_Text_Colour = 0x1023;     // LVM_GETTEXTCOLOR
 
@@ -25,7 +24,7 @@ Shell_Window Id_Of(HWND window) {
     return reinterpret_cast<Shell_Window>(window);
 }
 
-/// The style of a window that is shown without a picture of its own (WS_EX_NOREDIRECTIONBITMAP).
+/// The style of a window without a surface of its own (WS_EX_NOREDIRECTIONBITMAP).
 constexpr DWORD Without_Surface = 0x00200000;
 
 void Change_Style(HWND window, DWORD take, DWORD give) {
@@ -41,13 +40,13 @@ bool Has_Extended(HWND window, DWORD style) {
     return (static_cast<DWORD>(GetWindowLongW(window, GWL_EXSTYLE)) & style) != 0;
 }
 
-/// Gives the window a surface of its own, fully opaque, or takes it.
+/// Gives the window a fully opaque surface of its own by making it layered, or takes the surface away.
 void Set_Layered(HWND window, bool layered) {
     if (Has_Extended(window, WS_EX_LAYERED) == layered)
         return;
     const LONG style = GetWindowLongW(window, GWL_EXSTYLE);
     SetWindowLongW(window, GWL_EXSTYLE, style ^ WS_EX_LAYERED);
-    // A layered window that has no attributes is not shown at all.
+    // The system does not show a layered window without attributes.
     if (layered && !SetLayeredWindowAttributes(window, 0, 255, LWA_ALPHA)) {
         SetWindowLongW(window, GWL_EXSTYLE, style);
         return;
@@ -55,7 +54,7 @@ void Set_Layered(HWND window, bool layered) {
     InvalidateRect(window, nullptr, FALSE);
 }
 
-/// Whether `upper` stands above its sibling `lower`.
+/// Returns whether `upper` is above its sibling `lower`.
 bool Is_Above(HWND upper, HWND lower) {
     HWND above = lower;
     while (above != nullptr && above != upper)
@@ -76,15 +75,16 @@ std::optional<Colour> Ask_Colour(HWND list, UINT question, UINT patience) {
 //
 //   WorkerW                        none, or some, mostly empty
 //   Progman "Program Manager"      the desktop window
-//     Vellatro_Calendar            ours, once it is attached: above the icons
+//     Vellatro_Calendar            the calendar, if attached: above the icons
 //     SHELLDLL_DefView             the view
 //       SysListView32              the icon list
-//     WorkerW                      on newer systems a raised desktop's wallpaper, below the view
+//     WorkerW                      on newer systems the wallpaper of a raised desktop, below the view
 //
 // "Show desktop", slide shows, the fade from one wallpaper to the next and some programs make the shell move
-// the view into a WorkerW at the top, and later back. A WorkerW that holds the view covers Progman and what
-// is in it, so the calendar belongs beside the view. It is a window of its own below all others under another
-// shell and while the shell hangs. When the shell ends, its windows take the calendar's down with them.
+// the view into a WorkerW at the top, and later back. A WorkerW that holds the view covers Progman and its
+// children, so the calendar belongs beside the view. Under another shell, and while the shell hangs, the
+// calendar is a separate window below all others. When the shell ends, its windows destroy the calendar's
+// window.
 
 Shell_Window Find_Desktop_Window() {
     return Id_Of(FindWindowW(L"Progman", L"Program Manager"));
@@ -120,20 +120,20 @@ bool Attach_To_Desktop(const Form_Model &model, Shell_Window holder) {
     const HWND window = win32::Window_Of_Form(model);
     if (window == nullptr)
         return false;
-    // No child may be layered at the moment of the call.
+    // The window must not be layered during SetParent.
     Set_Layered(window, false);
-    // A child only for the length of the call, as its documentation asks; Wine would also give a pop-up
-    // window the keyboard, whatever the user is typing in. Afterwards it is a pop-up again: the keyboard of a
-    // child belongs to the window at the top, here the shell's, and comes to the calendar under Windows only
-    // as long as the shell answers, and under Wine never. A pop-up window is activated by itself. Its place,
-    // drawing, region and end follow from the parent, whatever the style.
+    // SetParent requires a child window, so the window is one during the call. Given a pop-up window, Wine
+    // would also move the keyboard focus to it, whatever the user is typing in. Afterwards the window is a
+    // pop-up again. The keyboard of a child belongs to the top-level window, here the shell's. It reaches a
+    // child on Windows only while the shell answers, and on Wine never. A pop-up window is activated by
+    // itself. Its place, drawing, region and end depend on the parent, whatever the style.
     Change_Style(window, WS_POPUP, WS_CHILD);
     SetParent(window, Window_Of(holder));
     Change_Style(window, WS_CHILD, WS_POPUP);
     if (GetAncestor(window, GA_PARENT) != Window_Of(holder))
         return false;
     Set_Layered(window, Has_Extended(Window_Of(holder), Without_Surface));
-    // A parent takes a new child in above the others; the calendar relies on standing above the icons.
+    // SetParent usually puts a new child above the others, but the calendar relies on being above the icons.
     SetWindowPos(window, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     win32::Check_Scale(false);
     Form_Changed(model, Aspect::Bounds);

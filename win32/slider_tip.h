@@ -1,4 +1,4 @@
-// The text that floats beside a slider's thumb while it is moved.
+// The text that floats above a slider's thumb while the user moves it.
 #pragma once
 
 #include "win32/handles.h"
@@ -14,14 +14,14 @@ public:
     Slider_Tip &operator=(const Slider_Tip &) = delete;
     ~Slider_Tip() { Hide(); }
 
-    /// Shows the text above the slider's thumb, or moves it there. An empty text is none.
+    /// Shows the text above the slider's thumb, or moves it there. Hides the tip if the text is empty.
     void Show(HWND slider, std::wstring text);
     void Hide();
-    /// Whether it floats over this slider.
+    /// Returns whether the tip floats over this slider.
     bool Is_Over(HWND slider) const { return window_ != nullptr && slider_ == slider; }
 
 private:
-    HWND window_ = nullptr; ///< made for one movement
+    HWND window_ = nullptr; ///< created for one movement
     HWND slider_ = nullptr;
     std::wstring text_;
 };

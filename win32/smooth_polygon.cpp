@@ -1,4 +1,4 @@
-// Smooth polygons: each pixel row is sampled in thin slices, and along a slice the cover is exact.
+// Samples each pixel row in thin slices. Along a slice, the coverage is exact.
 #include "win32/smooth_polygon.h"
 
 #include <algorithm>
@@ -11,7 +11,7 @@ namespace {
 
 constexpr int slices = 8;
 
-/// Where the slice at height `y` crosses the polygon's edges, from left to right.
+/// Finds where the slice at height `y` crosses the polygon's edges, from left to right.
 void Find_Crossings(const std::vector<Smooth_Point> &corners, double y, std::vector<double> &crossings) {
     crossings.clear();
     for (std::size_t i = 0; i < corners.size(); ++i) {
@@ -20,12 +20,12 @@ void Find_Crossings(const std::vector<Smooth_Point> &corners, double y, std::vec
         if ((a.y <= y) == (b.y <= y))
             continue;
         const double x = a.x + (y - a.y) * (b.x - a.x) / (b.y - a.y);
-        // There are few of them; sorting each into its place needs less code than sorting them all.
+        // The crossings are few, so inserting each in order needs less code than sorting them all.
         crossings.insert(std::upper_bound(crossings.begin(), crossings.end(), x), x);
     }
 }
 
-/// Adds the cover of one slice between `from` and `to` to the row.
+/// Adds the coverage of one slice between `from` and `to` to the row.
 void Add_Span(std::vector<double> &cover, double from, double to) {
     from = std::clamp(from, 0.0, static_cast<double>(cover.size()));
     to = std::clamp(to, 0.0, static_cast<double>(cover.size()));

@@ -1,4 +1,4 @@
-// Filling polygons with smooth edges in a buffer of pixels. It knows no device and no unit but the pixel.
+// Filling of polygons with smooth edges in a pixel buffer. The pixel is the only unit.
 #pragma once
 
 #include <cstdint>
@@ -6,21 +6,21 @@
 
 namespace win32 {
 
-/// Pixels row by row from the top, each 0xAARRGGBB with the colours multiplied by the alpha.
+/// Pixels in rows from the top, each 0xAARRGGBB with its colours multiplied by the alpha.
 struct Pixel_Buffer {
     std::uint32_t *pixels = nullptr;
     int width = 0;
     int height = 0;
 };
 
-/// A place in pixels; whole numbers are the corners of pixels.
+/// A point in pixels. Whole numbers are the corners of pixels.
 struct Smooth_Point {
     double x = 0;
     double y = 0;
 };
 
-/// Fills the polygon (crossing parts even-odd) with an opaque 0x00RRGGBB, each pixel by the part of it that
-/// is covered. What lies outside of the buffer is left out.
+/// Fills the polygon with an opaque 0x00RRGGBB, each pixel in proportion to its covered part. Crossing parts
+/// follow the even-odd rule. Skips pixels outside the buffer.
 void Fill_Smooth_Polygon(const Pixel_Buffer &buffer, const std::vector<Smooth_Point> &corners,
                          std::uint32_t colour);
 

@@ -1,5 +1,5 @@
-// The value that the compiler puts behind the arrays of a function to find overflows of them. The compiler's
-// own library draws it with Windows' cryptography, and each start would load those libraries.
+// The value that the compiler puts behind the arrays of a function to detect overflows. The compiler's own
+// library draws it with the Windows cryptography libraries, which every start would load.
 #include "win32/handles.h"
 
 #include <cstdint>
@@ -20,7 +20,8 @@ extern std::uintptr_t __stack_chk_guard;
 
 namespace {
 
-/// Runs before all other constructors. A function that was checked would find its own value changed.
+/// Chooses the stack guard's value before all other constructors run. A protected function would see its own
+/// guard change.
 __attribute__((constructor(101), no_stack_protector)) void Draw_Stack_Guard() {
     LARGE_INTEGER ticks = {};
     QueryPerformanceCounter(&ticks);

@@ -1,4 +1,3 @@
-// The system's sentences for its error codes.
 #include "win32/system_error.h"
 
 #include "win32/handles.h"

@@ -1,4 +1,3 @@
-// Looking functions up in system libraries.
 #include "win32/system_library.h"
 
 #include "platform/libraries.h"
@@ -11,7 +10,7 @@ namespace win32 {
 void *System_Function(const wchar_t *library, const char *function) {
     HMODULE module = GetModuleHandleW(library);
     if (module == nullptr) {
-        // By its full path, so that no library of that name in the program's folder is taken.
+        // Loaded by its full path, so that a library of the same name in the program's folder is not used.
         wchar_t folder[MAX_PATH] = {};
         const UINT length = GetSystemDirectoryW(folder, MAX_PATH);
         if (length == 0 || length >= MAX_PATH)

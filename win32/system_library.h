@@ -1,14 +1,14 @@
-// Functions that are newer than the oldest supported system, or too seldom used to load their library at
-// start: looked up at run time in the system's own libraries.
+// Run-time lookup of functions in the system's own libraries: functions that are newer than the oldest
+// supported system, and functions used too seldom to load their library at start.
 #pragma once
 
 namespace win32 {
 
-/// The address of `function` in the system library `library` ("name.dll"), null when either is absent. A
-/// library once loaded stays.
+/// Returns the address of `function` in the system library `library` ("name.dll"), null if either is missing.
+/// A loaded library stays loaded.
 void *System_Function(const wchar_t *library, const char *function);
 
-/// The same as a pointer of the function's type.
+/// Returns the same address as a pointer of the function's type.
 template <typename Function>
 Function *Look_Up(const wchar_t *library, const char *function) {
     return reinterpret_cast<Function *>(System_Function(library, function));

@@ -1,4 +1,3 @@
-// Texts of the system's code page: platform/text.h over Win32.
 #include "platform/text.h"
 
 #include "win32/handles.h"
@@ -8,8 +7,8 @@ namespace platform {
 
 namespace {
 
-/// Returns the code page of the system's locale. One that has none, or UTF-8, of which the bytes are not, is
-/// answered by that of Western texts.
+/// Returns the code page of the system's locale. Returns 1252, for Western texts, if the locale has no code
+/// page or UTF-8, because the bytes are not UTF-8.
 UINT Ansi_Code_Page() {
     DWORD page = 0;
     GetLocaleInfoW(LOCALE_SYSTEM_DEFAULT, LOCALE_IDEFAULTANSICODEPAGE | LOCALE_RETURN_NUMBER,

@@ -1,4 +1,3 @@
-// Native tooltips over the controls of forms.
 #include "win32/tooltips.h"
 
 #include "base/cut_text.h"
@@ -16,11 +15,11 @@ namespace win32 {
 
 namespace {
 
-/// More fits on no screen, and laying it out takes time.
+/// Longer texts fit on no screen and take long to lay out.
 constexpr std::size_t longest_text = 32000;
 
-/// In pixels at 96 dots per inch: a tip's width as long as its text is short, and what a tip needs besides
-/// its text.
+/// In pixels at 96 dots per inch: the usual width of a tip, which a long text exceeds, and the space that a
+/// tip needs besides its text.
 constexpr int usual_width = 300;
 constexpr int border = 16;
 
@@ -29,7 +28,7 @@ void Truncate(std::wstring &text, std::size_t length) {
     text += L"...";
 }
 
-/// The size that the text takes, wrapped at `width`; wider only when a word is.
+/// Returns the size of the text, wrapped at `width`. It is wider only if a word is.
 SIZE Measure_Text(HDC dc, const std::wstring &text, LONG width) {
     RECT rect = {0, 0, width, 0};
     DrawTextW(dc, text.c_str(), static_cast<int>(text.size()), &rect,
@@ -37,19 +36,20 @@ SIZE Measure_Text(HDC dc, const std::wstring &text, LONG width) {
     return {rect.right, rect.bottom};
 }
 
-/// The text with line breaks in the words that are wider than `width`: the system does not wrap those.
+/// Returns the text with line breaks inside words that are wider than `width`, because the system does not
+/// wrap those.
 std::wstring With_Broken_Words(HDC dc, std::wstring_view text, LONG width) {
     std::wstring broken;
     while (!text.empty()) {
         const std::size_t end = text.find_first_of(L" \t\r\n");
         const std::wstring_view word = text.substr(0, end == std::wstring_view::npos ? end : end + 1);
-        // No line is longer.
+        // No line has more characters.
         const std::size_t looked_at = std::min<std::size_t>(word.size(), 4096);
         int fitting = 0;
         SIZE size = {};
         GetTextExtentExPointW(dc, word.data(), static_cast<int>(looked_at), static_cast<int>(width), &fitting,
                               nullptr, &size);
-        // The blank behind a word needs no room.
+        // The blank behind a word needs no space.
         const auto taken = static_cast<std::size_t>(std::max(fitting, 2));
         if (taken + 1 >= word.size()) {
             broken += word;
@@ -63,8 +63,8 @@ std::wstring With_Broken_Words(HDC dc, std::wstring_view text, LONG width) {
     return broken;
 }
 
-/// Makes the text fit on a screen with `room`: it is wrapped, and only what is too long for the whole screen
-/// is cut. Returns the width to wrap it at.
+/// Makes the text fit on a screen with `room`: wraps it, and cuts it only if it is too long for the whole
+/// screen. Returns the width to wrap it at.
 LONG Fit_Text(HDC dc, std::wstring &text, const SIZE &room) {
     if (text.size() > longest_text)
         Truncate(text, longest_text);
@@ -80,7 +80,7 @@ LONG Fit_Text(HDC dc, std::wstring &text, const SIZE &room) {
         size = Measure_Text(dc, text, width);
     }
     while (size.cy > room.cy && room.cy > 0 && text.size() > 64) {
-        // A little less than in proportion, so that it is done soon.
+        // Slightly less than in proportion, so that the loop ends soon.
         Truncate(text, text.size() * static_cast<std::size_t>(room.cy) / static_cast<std::size_t>(size.cy) *
                            15 / 16);
         size = Measure_Text(dc, text, width);
@@ -92,7 +92,7 @@ LONG Fit_Text(HDC dc, std::wstring &text, const SIZE &room) {
 
 TTTOOLINFOW Tooltips::Tool_Of(HWND owner, std::size_t index) const {
     TTTOOLINFOW tool = {};
-    // The first version's size is the one that all versions of the common controls take.
+    // All versions of the common controls accept the size of the first version.
     tool.cbSize = TTTOOLINFOW_V1_SIZE;
     tool.uFlags = TTF_SUBCLASS;
     tool.hwnd = owner;
@@ -101,7 +101,7 @@ TTTOOLINFOW Tooltips::Tool_Of(HWND owner, std::size_t index) const {
         tool.uFlags |= TTF_IDISHWND;
         tool.uId = reinterpret_cast<UINT_PTR>(windows_[index]);
     }
-    // Asked for when the tip appears, for each wants a width of its own.
+    // The system asks for the text when the tip appears, because each tip has its own width.
     tool.lpszText = LPSTR_TEXTCALLBACKW;
     return tool;
 }
@@ -111,13 +111,13 @@ bool Tooltips::Make_Window() {
         return true;
     INITCOMMONCONTROLSEX classes = {sizeof classes, ICC_BAR_CLASSES};
     InitCommonControlsEx(&classes);
-    // Without an owner: that would be the window of the shell that the calendar is in, with which it would
-    // go.
+    // Without an owner: the owner would be the shell's window that holds the calendar, and the tooltip window
+    // would be destroyed with it.
     window_ = CreateWindowExW(
         WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX, CW_USEDEFAULT,
         CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, nullptr, nullptr, GetModuleHandleW(nullptr), nullptr);
     tools_.clear();
-    // As long as the mouse rests there: a long text takes its time to read. 32767 ms is the most.
+    // The tip stays while the mouse rests, because a long text takes time to read. 32767 ms is the maximum.
     SendMessageW(window_, TTM_SETDELAYTIME, TTDT_AUTOPOP, MAKELPARAM(32767, 0));
     return window_ != nullptr;
 }
@@ -135,7 +135,7 @@ void Tooltips::Update(HWND owner, const platform::Form_Model &model, std::vector
     for (std::size_t i = 0; i < tools_.size(); ++i) {
         const platform::Control_State &control = *model.controls[i];
         Tool wanted;
-        // A hidden window hides its tool by itself.
+        // The system hides the tool of a hidden window.
         wanted.present =
             !control.tooltip.empty() && (windows_.empty() ? control.visible : windows_[i] != nullptr);
         if (wanted.present) {
@@ -171,8 +171,8 @@ void Tooltips::Pop() const {
         SendMessageW(window_, TTM_POP, 0, 0);
 }
 
-/// Returns whether the user is busy with something that a tip would cover: a pressed button, a menu, for a
-/// painted form also any dialog of the program.
+/// Returns whether a tip would be in the user's way: while a mouse button is held, a menu is open or a window
+/// is being moved. For a painted form, a visible dialog of the program counts too.
 bool Tooltips::In_The_Way() const {
     if (platform::Mouse_Button_Held() || Mouse_Is_Taken())
         return true;

@@ -18,19 +18,19 @@ public:
     Tooltips &operator=(const Tooltips &) = delete;
     ~Tooltips() { Window_Gone(); }
 
-    /// Brings the tools up to date with the controls. The tooltip window is made with the first text.
-    /// Controls that are windows themselves have theirs in `windows`.
+    /// Updates the tools to match the controls. Creates the tooltip window for the first text. `windows`
+    /// holds the controls' own windows, if they have any.
     void Update(HWND owner, const platform::Form_Model &model, std::vector<HWND> windows = {});
-    /// Takes the tip that is seen away: the user does something else.
+    /// Hides the visible tip, because the user is doing something else.
     void Pop() const;
-    /// What the owner's window is told by WM_NOTIFY: gives the tip its text, and none where a tip would be
-    /// in the way. Returns whether that was asked.
+    /// Answers WM_NOTIFY of the owner's window: gives the tip its text, or none if the tip would be in the
+    /// way. Returns whether `notice` asked for the text.
     bool Answer(NMHDR &notice);
-    /// The owner's window is gone, or goes now.
+    /// Destroys the tooltip window. Called when the owner's window is gone or being destroyed.
     void Window_Gone();
 
 private:
-    /// What the tooltip window knows of one control.
+    /// The state of one control's tool in the tooltip window.
     struct Tool {
         bool present = false;
         RECT rect = {};
@@ -45,7 +45,7 @@ private:
     HWND window_ = nullptr;
     std::vector<HWND> windows_;
     std::vector<Tool> tools_;
-    std::wstring shown_; ///< the text of the tip that appeared last, which the system reads from here
+    std::wstring shown_; ///< the text of the last tip, which the system reads from here
 };
 
 } // namespace win32

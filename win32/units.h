@@ -1,4 +1,4 @@
-// Twips and pixels at the screen's dots per inch, as the system's rectangles need them.
+// Conversions between twips and pixels at the screen's dots per inch, for the system's rectangles.
 #pragma once
 
 #include "base/geometry.h"
@@ -15,14 +15,14 @@ inline int To_Twips(int pixels) {
     return Pixels_To_Twips(pixels, platform::Dots_Per_Inch());
 }
 
-/// Each edge to the nearest pixel, so that rectangles that touch in twips touch in pixels.
+/// Rounds each edge to the nearest pixel, so that rectangles that touch in twips touch in pixels.
 inline RECT To_Pixels(const Rect &rect) {
     return {To_Pixels(rect.left), To_Pixels(rect.top), To_Pixels(rect.Right()), To_Pixels(rect.Bottom())};
 }
 
-/// The twips whose nearest pixels lie in `rect`, none left out.
+/// Returns all twips whose nearest pixels lie in `rect`.
 inline Rect To_Covering_Twips(const RECT &rect) {
-    // Half a pixel more on each side: an edge half-way between two pixels counts for the next one.
+    // Half a pixel more on each side, because an edge half-way between two pixels rounds to the next one.
     const int twice_dots = 2 * platform::Dots_Per_Inch();
     const int left = Scale_Down(2 * static_cast<int>(rect.left) - 1, Twips_Per_Inch, twice_dots);
     const int top = Scale_Down(2 * static_cast<int>(rect.top) - 1, Twips_Per_Inch, twice_dots);
@@ -31,15 +31,15 @@ inline Rect To_Covering_Twips(const RECT &rect) {
     return {left, top, right - left, bottom - top};
 }
 
-/// Looks the dots per inch up again, for `window` where the system tells them per window. Returns whether
+/// Looks up the dots per inch again: those of `window` if the system has them per window. Returns whether
 /// they changed.
 bool Refresh_Dots(HWND window);
 
-/// Returns the dots per inch of the screen that `window` is on, 0 where the system does not tell them.
+/// Returns the dots per inch of the screen that `window` is on, 0 if the system cannot tell.
 int Dots_Of(HWND window);
 
-/// While a dialog's window is served, the dots per inch of its screen, which count then; 0: the calendar's
-/// count. A form's own code always has the calendar's, but for the laying out of a dialog after Dots_Changed.
+/// The dots per inch of a dialog's screen while its window handles a message; 0: the calendar's apply. The
+/// form's own code always runs with the calendar's, except for the layout after Dots_Changed.
 inline int Dialog_Dots = 0;
 
 } // namespace win32

@@ -1,6 +1,6 @@
-// The wallpaper: platform/wallpaper.h over Win32. The system call tells all top-level windows of the change
-// and waits for them: a hung one among them holds it for seconds (four under Wine). So it has a thread of its
-// own, and the calendar goes on.
+// Sets the wallpaper on a thread of its own, so that the calendar goes on. The system call tells all
+// top-level windows of the change and waits for them. A hung window delays the call for seconds (four on
+// Wine).
 #include "platform/wallpaper.h"
 
 #include "win32/desktop_wallpaper.h"
@@ -13,8 +13,7 @@ namespace platform {
 
 namespace {
 
-/// Takes the orders for the one thread, of which there is at most one at a time, so that none overtakes
-/// another.
+/// Runs the wallpaper jobs on a single thread, so that no job overtakes another.
 class Wallpaper_Worker {
 public:
     Wallpaper_Worker() { InitializeCriticalSection(&section_); }
@@ -22,7 +21,7 @@ public:
     struct Job {
         std::wstring path;
         std::string monitors;
-        bool is_query = false; ///< what hangs is to be told, and nothing to be hung up
+        bool is_query = false; ///< looks up the current wallpapers instead of setting any
     };
 
     void Enqueue(Job job) {
@@ -39,7 +38,7 @@ public:
             Run_Jobs(this);
     }
 
-    /// Empty while another order is not done.
+    /// Returns the current wallpapers. Returns an empty text if another job is not finished in time.
     std::string Query_Monitors() {
         if (!Wait())
             return {};
@@ -48,13 +47,14 @@ public:
         return Wait() ? monitors_ : std::string();
     }
 
-    /// For the thread that orders. Returns false if the last order is not done.
+    /// Waits for the last job. Only the thread that orders jobs may call it. Returns false if the job is not
+    /// finished in time.
     bool Wait() const {
         constexpr DWORD most = 5000; // milliseconds
         const DWORD begin = GetTickCount();
         for (DWORD spent = 0; thread_ && spent < most; spent = GetTickCount() - begin) {
             const HANDLE thread = thread_.get();
-            // The program's own windows are told of the change, too, and have to answer.
+            // The program's own windows are also told of the change, and must answer.
             const DWORD result = MsgWaitForMultipleObjects(1, &thread, FALSE, most - spent, QS_SENDMESSAGE);
             if (result != WAIT_OBJECT_0 + 1)
                 return result == WAIT_OBJECT_0;
@@ -71,7 +71,7 @@ private:
             try {
                 worker.Run(job);
             } catch (...) {
-                // Want of memory: the wallpaper stays.
+                // Out of memory: the wallpaper stays.
             }
         return 0;
     }
@@ -96,15 +96,15 @@ private:
     }
 
     CRITICAL_SECTION section_;
-    win32::Unique_Kernel_Handle thread_; ///< the last one, which may have ended
+    win32::Unique_Kernel_Handle thread_; ///< the last thread, which may have ended
     Job queued_job_;
-    std::string monitors_; ///< touched by the thread while it works, and after that by who waited for it
+    std::string monitors_; ///< used by the worker thread; afterwards by the thread that waited for it
     bool has_job_ = false;
     bool running_ = false;
 };
 
 Wallpaper_Worker &The_Worker() {
-    // Never destroyed: the thread may outlive the program's last line.
+    // Never destroyed, because the thread may outlive the program's last line.
     static Wallpaper_Worker &worker = *new Wallpaper_Worker;
     return worker;
 }

@@ -1,4 +1,3 @@
-// The making of window classes.
 #include "win32/window_class.h"
 
 namespace win32 {

@@ -1,17 +1,18 @@
-// What the program's windows have in common when they are made: their classes, and the system's pointers.
+// Window classes, and the system's pointer shapes.
 #pragma once
 
 #include "win32/handles.h"
 
 namespace win32 {
 
-/// The system's numbers of pointer shapes.
+/// The system's numbers of the pointer shapes.
 enum class System_Pointer : WORD { Arrow = 32512, Hourglass = 32514, Move = 32646, Hand = 32649 };
 
-/// Null when the system has none of that shape.
+/// Returns the system's pointer of that shape, null if there is none.
 HCURSOR Load_Pointer(System_Pointer shape);
 
-/// Registers a window class with the arrow, at its first use; a dialog's with the icon for its title bar.
+/// Registers a window class with the arrow pointer, unless it is registered already. A dialog's class also
+/// gets the icon for its title bar.
 void Register_Class(const wchar_t *name, WNDPROC procedure, UINT style, bool dialog = false);
 
 } // namespace win32

@@ -116,7 +116,7 @@ namespace platform {
 
 void Create_Mirror(const Form_Model &model) {
     if (Desktop().refuses_windows)
-        throw Error("The window cannot be made");
+        throw Error("The window cannot be created");
     Require(!Desktop().mirrors.contains(&model), "a second native window for " + model.name);
     Fake_Mirror &mirror = Desktop().mirrors[&model];
     mirror.shown = mirror.shown_unclipped = model.visible;
