@@ -8,7 +8,7 @@
 
 /// The line of an event: its date in the user's short form, the separator and the text, in which every line
 /// end or other control character is a blank.
-std::string Overview_Line(const Event &entry);
+std::string Overview_Line(const Event &event);
 
 /// "12 days" from today to the event, with a "-" for a past one.
-std::string Countdown_Text(const Event &entry, const Date &today);
+std::string Countdown_Text(const Event &event, const Date &today);

@@ -18,4 +18,4 @@ struct Event_Statistics {
 };
 
 /// Counts one event in.
-void Workout_Stats(Event_Statistics &statistics, const Event_Entry &entry, const Date &today);
+void Workout_Stats(Event_Statistics &statistics, const Event &event, const Date &today);

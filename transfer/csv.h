@@ -4,7 +4,7 @@
 #pragma once
 
 #include "base/error.h"
-#include "core/date.h"
+#include "core/event_entries.h"
 
 #include <cstdint>
 #include <string>
@@ -51,13 +51,8 @@ private:
 /// the line, which the user has been told then. Throws Conversion_Error for more than 32,767 columns.
 bool Check_CSV_Headings(std::string_view line, CSV_Columns &columns);
 
-/// What counts of one record.
-struct CSV_Event {
-    Date date{1899, 12, 30}; ///< day 0, where the record has none
-    std::string text;        ///< subject and description
-};
-
-/// Reads a record into `event`; false when it has neither subject nor description. Only fields in quotes are
-/// read. Throws CSV_Error when its last field is not in quotes, and Conversion_Error for a start date that is
-/// none and for more than 32,767 fields.
-bool Read_CSV_Line(std::string_view record, const CSV_Columns &columns, CSV_Event &event);
+/// Reads the date (day 0, where the record has none) and, as the text, subject and description of a record
+/// into `event`; false when it has neither subject nor description. Only fields in quotes are read. Throws
+/// CSV_Error when its last field is not in quotes, and Conversion_Error for a start date that is none and for
+/// more than 32,767 fields.
+bool Read_CSV_Line(std::string_view record, const CSV_Columns &columns, Event &event);

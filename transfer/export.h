@@ -14,7 +14,7 @@
 enum class Export_Kind { Data_File, Configuration, Text, CSV, ICalendar };
 
 /// The bytes of a file with these events, in their order.
-std::string CSV_Bytes(const std::vector<Event> &entries, Progress &progress);
+std::string CSV_Bytes(const std::vector<Event> &events, Progress &progress);
 
 /// Asks for a name and writes the file, with all messages to the user. The target is replaced by a whole new
 /// file only. Throws platform::File_Error when that fails, and Sequential_Error for a configuration that no

@@ -87,4 +87,4 @@ struct Calendar_File {
 Calendar_File Read_ICalendar(std::string_view bytes, Progress &progress);
 
 /// The bytes of a file with these events, in their order, each on whole days.
-std::string ICalendar_Bytes(const std::vector<Event> &entries, Progress &progress);
+std::string ICalendar_Bytes(const std::vector<Event> &events, Progress &progress);

@@ -114,7 +114,7 @@ void Importer::Import_CSV() {
         Import_Progress.Begin();
         stage = Reading;
         change.emplace(calendar_.Events.Changes, "Import");
-        Read_Events(platform::Read_File(dialog_.FileName), staged);
+        Stage_Events(platform::Read_File(dialog_.FileName), staged);
         // Anew: a session that was about to end may have had a text stored since.
         backup.emplace(calendar_.Events.Temp_Lst);
         stage = Merging;
@@ -150,14 +150,14 @@ void Importer::Import_CSV() {
 /// Stages the events of a file, nine tenths of the work. The date is kept beside the text and not read back
 /// out of the line that the list shows: a short form with two digits of the year, or one that the system does
 /// not read, would change the day. Where the form can be read back the result is the same.
-void Importer::Read_Events(const std::string &bytes, std::vector<Event> &staged) {
+void Importer::Stage_Events(const std::string &bytes, std::vector<Event> &staged) {
     CSV_Lines lines(bytes);
     if (!Check_CSV_Headings(lines.Next_Line(), columns_))
         throw CSV_Error("the headings are not those of events");
-    CSV_Event event;
+    Event event;
     while (!lines.At_End()) {
         if (Read_CSV_Line(lines.Next_Record(), columns_, event))
-            staged.push_back({Day_Number(event.date), event.date, false, {}, std::move(event.text)});
+            staged.push_back(std::move(event));
         Import_Progress.Step(lines.Position(), bytes.size() / 9 * 10);
     }
 }
@@ -174,9 +174,7 @@ void Importer::Merge_Imported(std::vector<Event> &staged) {
         Record_Merger merger(calendar_.Events.Temp_Lst);
         bool due = false;
         for (; i < staged.size() && !due; ++i) {
-            Merged_Text merged = merger.Merge(staged[i].date, staged[i].text);
-            staged[i].key = std::move(merged.key);
-            staged[i].place = merged.place;
+            merger.Merge(staged[i]);
             due = Import_Progress.Due();
         }
         if (!staged.empty())

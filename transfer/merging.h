@@ -12,12 +12,6 @@
 /// Stands between the texts of a record that several events have joined.
 inline constexpr std::string_view text_separator = " + ";
 
-/// Where a text is that was merged.
-struct Merged_Text {
-    std::string key;       ///< of its record
-    std::size_t place = 0; ///< in the record's text
-};
-
 /// Folds events into the records as they are stored: an event joins the first record of its day, be that one
 /// an exact or an every-year one, and otherwise becomes the last record. Knows each day's first record, so
 /// that no event costs a search.
@@ -25,8 +19,9 @@ class Record_Merger {
 public:
     /// `records` must outlive the merger, and nobody else may change it.
     explicit Record_Merger(std::vector<std::string> &records);
-    /// Stores the text on the day, and returns where it is now.
-    Merged_Text Merge(const Date &date, std::string_view text);
+    /// Stores the event's text on its day, and notes the key and the place where it is now. A day of
+    /// `every_year` is that of all years.
+    void Merge(Event &event);
 
 private:
     std::vector<std::string> &records_;
