@@ -27,15 +27,15 @@ void Make_File(std::int64_t count) {
 
 void List_Events(benchmark::State &state) {
     Make_File(state.range(0));
-    std::vector<Event> entries;
+    std::vector<Event> events;
     std::size_t length = 0;
     for (auto _ : state) {
-        Load_Entries(entries, Sort_Order::Descending_Date, today);
-        for (const Event &entry : entries)
-            length += Overview_Line(entry).size();
+        Load_Events(events, Sort_Order::Descending_Date, today);
+        for (const Event &event : events)
+            length += Overview_Line(event).size();
     }
     benchmark::DoNotOptimize(length);
-    if (entries.size() != static_cast<std::size_t>(state.range(0)))
+    if (events.size() != static_cast<std::size_t>(state.range(0)))
         state.SkipWithError("events are missing");
     state.SetItemsProcessed(state.iterations() * state.range(0));
 }
@@ -45,7 +45,7 @@ void Count_Events(benchmark::State &state) {
     Event_Statistics statistics;
     for (auto _ : state) {
         statistics = {};
-        Read_Entries([&](const Event_Entry &entry) { Workout_Stats(statistics, entry, today); });
+        Read_Events(today.year, [&](const Event &event) { Workout_Stats(statistics, event, today); });
     }
     benchmark::DoNotOptimize(statistics);
     state.SetItemsProcessed(state.iterations() * state.range(0));

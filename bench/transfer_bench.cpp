@@ -84,12 +84,12 @@ void Import_Unclosed(benchmark::State &state) {
 }
 
 void Export_Events(benchmark::State &state) {
-    std::vector<Event> entries;
+    std::vector<Event> events;
     for (std::int64_t i = 0; i < state.range(0); ++i)
-        entries.push_back({0, {2002, 3, 5}, false, "5/3/2002", "Event " + std::to_string(i)});
+        events.push_back({{2002, 3, 5}, false, "5/3/2002", "Event " + std::to_string(i)});
     Progress progress;
     for (auto _ : state)
-        benchmark::DoNotOptimize(CSV_Bytes(entries, progress));
+        benchmark::DoNotOptimize(CSV_Bytes(events, progress));
     state.SetItemsProcessed(state.iterations() * state.range(0));
 }
 

@@ -17,36 +17,44 @@ constexpr std::string_view yearly_year = "/yyyy";
 
 } // namespace
 
-bool Read_Entry(std::string_view record, Event_Entry &entry) {
+bool Parse_Event(std::string_view record, std::int16_t year, Event &event) {
     Event_Record parts;
     if (!Parse_Record(record, parts))
         return false;
-    entry.key = parts.key;
-    entry.text = parts.text;
+    Date date;
     try {
-        entry.date = parts.key.ends_with(yearly_year) ? Parse_Date_Key(Every_Year_Key(std::string(parts.key)))
-                                                      : Parse_Date_Key(parts.key);
+        date = parts.key.ends_with(yearly_year) ? Parse_Date_Key(Every_Year_Key(std::string(parts.key)))
+                                                : Parse_Date_Key(parts.key);
     } catch (const Conversion_Error &) {
         return false;
     }
-    entry.yearly = entry.date.year == every_year;
-    const Date &date = entry.date;
+    const bool yearly = date.year == every_year;
     if (date.year < first_year || date.month < 1 || date.month > 12 || date.day < 1)
         return false;
-    return date.day <= DaysInMonth({entry.yearly ? leap_year : date.year, date.month, 1});
+    if (date.day > DaysInMonth({yearly ? leap_year : date.year, date.month, 1}))
+        return false;
+    if (yearly) {
+        date.year = year;
+        date.day = std::min(date.day, static_cast<std::int16_t>(DaysInMonth({year, date.month, 1})));
+    }
+    event.date = date;
+    event.yearly = yearly;
+    event.key = parts.key;
+    event.text = parts.text;
+    return true;
 }
 
-Read_Result Read_Entries(Callback_Ref<void(const Event_Entry &)> take) {
+Read_Result Read_Events(std::int16_t year, Callback_Ref<void(const Event &)> take) {
     const std::string path = Event_Store::Data_File();
     if (!platform::File_Exists(path))
         return Read_Result::No_File;
     try {
         const std::string bytes = platform::Read_File(path);
         Sequential_Reader reader(bytes);
-        Event_Entry entry;
-        for (std::string_view item; reader.Next(item); ++entry.place)
-            if (Read_Entry(item, entry))
-                take(entry);
+        Event event;
+        for (std::string_view item; reader.Next(item); ++event.place)
+            if (Parse_Event(item, year, event))
+                take(event);
     } catch (const platform::File_Error &) {
         return Read_Result::Incomplete;
     } catch (const Sequential_Error &) {
@@ -55,27 +63,14 @@ Read_Result Read_Entries(Callback_Ref<void(const Event_Entry &)> take) {
     return Read_Result::Complete;
 }
 
-Date Day_In_Year(const Event_Entry &entry, std::int16_t year) {
-    if (!entry.yearly)
-        return entry.date;
-    const Date first{year, entry.date.month, 1};
-    const auto last = static_cast<std::int16_t>(DaysInMonth(first));
-    return {year, entry.date.month, std::min(entry.date.day, last)};
-}
-
-Read_Result Load_Entries(std::vector<Event> &entries, Sort_Order order, const Date &today) {
-    entries.clear();
-    const Read_Result result = Read_Entries([&](const Event_Entry &entry) {
-        const Date date = Day_In_Year(entry, today.year);
-        entries.push_back({Day_Number(date), date, entry.yearly, std::string(entry.key),
-                           std::string(entry.text), entry.place});
-    });
-    if (order == Sort_Order::Date_Added || entries.empty())
+Read_Result Load_Events(std::vector<Event> &events, Sort_Order order, const Date &today) {
+    events.clear();
+    const Read_Result result = Read_Events(today.year, [&](const Event &event) { events.push_back(event); });
+    if (order == Sort_Order::Date_Added)
         return result;
-    std::stable_sort(entries.begin(), entries.end(),
-                     [](const Event &left, const Event &right) { return left.number < right.number; });
+    std::ranges::stable_sort(events, {}, [](const Event &event) { return Day_Number(event.date); });
     if (order == Sort_Order::Descending_Date)
-        std::reverse(entries.begin(), entries.end());
+        std::ranges::reverse(events);
     return result;
 }
 
@@ -94,7 +89,7 @@ bool Remove_Record(std::vector<std::string> &records, const Event &event) {
     return true;
 }
 
-std::string Line_Head(const Event &entry) {
-    return platform::Short_Date(entry.date.year, entry.date.month, entry.date.day) +
-           (entry.yearly ? " (every year)  -  " : "  -  ");
+std::string Line_Head(const Event &event) {
+    return platform::Short_Date(event.date.year, event.date.month, event.date.day) +
+           (event.yearly ? " (every year)  -  " : "  -  ");
 }

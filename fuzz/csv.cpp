@@ -19,14 +19,14 @@ void Demand(bool holds) {
 }
 
 /// The events up to the end or the first error.
-std::vector<CSV_Event> Read(std::string_view bytes) {
-    std::vector<CSV_Event> events;
+std::vector<Event> Read(std::string_view bytes) {
+    std::vector<Event> events;
     try {
         CSV_Lines lines(bytes);
         CSV_Columns columns;
         if (!Check_CSV_Headings(lines.Next_Line(), columns))
             return events;
-        for (CSV_Event event; !lines.At_End();)
+        for (Event event; !lines.At_End();)
             if (Read_CSV_Line(lines.Next_Record(), columns, event))
                 events.push_back(event);
     } catch (const CSV_Error &) {
@@ -40,13 +40,13 @@ std::vector<CSV_Event> Read(std::string_view bytes) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
     Reset_Fakes();
     Fakes().any_box = true;
-    const std::vector<CSV_Event> events = Read({reinterpret_cast<const char *>(data), size});
+    std::vector<Event> events = Read({reinterpret_cast<const char *>(data), size});
     std::vector<std::string> records{"1/1/9999=New Year", "no record", "1/1/2002=x"};
     Record_Merger merger(records);
-    for (const CSV_Event &event : events) {
+    for (Event &event : events) {
         Demand(event.text.find_first_of("\"\r\n") == std::string::npos && Is_Utf8(event.text));
         Demand(event.date.month >= 1 && event.date.month <= 12 && event.date.day <= DaysInMonth(event.date));
-        merger.Merge(event.date, event.text);
+        merger.Merge(event);
     }
     std::string bytes;
     for (const std::string &record : records)

@@ -37,16 +37,13 @@ std::vector<std::string> Read_Back(const std::string &bytes) {
 }
 
 /// The records' own events: one for each, on its date.
-std::vector<Event> Entries(const std::vector<std::string> &records) {
-    std::vector<Event> entries;
-    Event_Entry entry;
+std::vector<Event> Events(const std::vector<std::string> &records) {
+    std::vector<Event> events;
+    Event event;
     for (const std::string &record : records)
-        if (Read_Entry(record, entry)) {
-            const Date date = Day_In_Year(entry, today.year);
-            entries.push_back(
-                {Day_Number(date), date, entry.yearly, std::string(entry.key), std::string(entry.text)});
-        }
-    return entries;
+        if (Parse_Event(record, today.year, event))
+            events.push_back(event);
+    return events;
 }
 
 } // namespace
@@ -71,11 +68,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
         Append_Item(bytes, record);
     Demand(Read_Back(bytes) == records);
 
-    const std::vector<Event> entries = Entries(records);
-    const Calendar_File exported = Read_ICalendar(ICalendar_Bytes(entries, progress), progress);
-    Demand(exported.events.size() == entries.size());
+    const std::vector<Event> events = Events(records);
+    const Calendar_File exported = Read_ICalendar(ICalendar_Bytes(events, progress), progress);
+    Demand(exported.events.size() == events.size());
     const Event_Days days = Find_Event_Days(exported, today, progress);
     for (const Event_Day &day : days.days)
-        Demand(Date_Key(day.date) == entries[day.event].key && day.minute < 0);
+        Demand(Date_Key(day.date) == events[day.event].key && day.minute < 0);
     return 0;
 }

@@ -8,7 +8,7 @@
 
 /// Returns the line of an event: its date in the user's short form, the separator and the text. Line endings
 /// and other control characters become spaces.
-std::string Overview_Line(const Event &entry);
+std::string Overview_Line(const Event &event);
 
 /// Returns the days from today to the event: "12 days", or "-12 days" for a past event.
-std::string Countdown_Text(const Event &entry, const Date &today);
+std::string Countdown_Text(const Event &event, const Date &today);

@@ -11,17 +11,17 @@ void Count(std::int16_t &counter) {
 
 } // namespace
 
-void Workout_Stats(Event_Statistics &statistics, const Event_Entry &entry, const Date &today) {
-    std::int16_t &month = statistics.months.at(static_cast<std::size_t>(entry.date.month - 1));
-    if (entry.yearly)
+void Workout_Stats(Event_Statistics &statistics, const Event &event, const Date &today) {
+    std::int16_t &month = statistics.months.at(static_cast<std::size_t>(event.date.month - 1));
+    if (event.yearly)
         return Count(month);
-    const std::int32_t days = Day_Number(entry.date) - Day_Number(today);
+    const std::int32_t days = Day_Number(event.date) - Day_Number(today);
     if (days > 0)
         Count(statistics.future);
     else if (days < 0)
         Count(statistics.past);
     Count(statistics.total);
-    if (entry.date.year != today.year)
+    if (event.date.year != today.year)
         return;
     Count(statistics.this_year);
     Count(month);

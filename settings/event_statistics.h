@@ -18,4 +18,4 @@ struct Event_Statistics {
 };
 
 /// Adds one event to the counts.
-void Workout_Stats(Event_Statistics &statistics, const Event_Entry &entry, const Date &today);
+void Workout_Stats(Event_Statistics &statistics, const Event &event, const Date &today);

@@ -69,7 +69,7 @@ void Events_Page::Reset_Vars() {
 Read_Result Events_Page::Load_Dates() {
     const Date today = Today();
     const Read_Result result =
-        Read_Entries([&](const Event_Entry &entry) { Workout_Stats(statistics_, entry, today); });
+        Read_Events(today.year, [&](const Event &event) { Workout_Stats(statistics_, event, today); });
     if (result != Read_Result::No_File)
         Write_Labels();
     return result;
@@ -135,7 +135,7 @@ void Events_Page::List_Events() {
 
 Read_Result Events_Page::Loadin_Data() {
     const auto order = static_cast<Sort_Order>(std::max(Sort_Cbo.Selected(), 0));
-    return Load_Entries(Dates_Lst, order, Today());
+    return Load_Events(Dates_Lst, order, Today());
 }
 
 void Events_Page::Sort_List(Read_Result result) {
@@ -145,8 +145,8 @@ void Events_Page::Sort_List(Read_Result result) {
                                     : "&Events (double-click or Delete removes one):");
     std::vector<std::string> lines;
     lines.reserve(Dates_Lst.size());
-    for (const Event &entry : Dates_Lst)
-        lines.push_back(Overview_Line(entry));
+    for (const Event &event : Dates_Lst)
+        lines.push_back(Overview_Line(event));
     Events_Lst.Set_Items(std::move(lines));
     Events_Lst_Click();
 }

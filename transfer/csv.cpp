@@ -125,9 +125,9 @@ bool Check_CSV_Headings(std::string_view line, CSV_Columns &columns) {
     return true;
 }
 
-bool Read_CSV_Line(std::string_view record, const CSV_Columns &columns, CSV_Event &event) {
+bool Read_CSV_Line(std::string_view record, const CSV_Columns &columns, Event &event) {
     const std::string text = Prepare_Record(record);
-    event = {};
+    event = {Date_Of(0)};
     std::string subject, description;
     std::int16_t column = 0;
     for (std::size_t begin = 0; begin < text.size();) {

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "base/error.h"
-#include "core/date.h"
+#include "core/event_entries.h"
 
 #include <cstdint>
 #include <string>
@@ -50,13 +50,8 @@ private:
 /// message and returns false. Throws Conversion_Error for more than 32,767 columns.
 bool Check_CSV_Headings(std::string_view line, CSV_Columns &columns);
 
-/// The date and text of one record.
-struct CSV_Event {
-    Date date{1899, 12, 30}; ///< day 0 if the record has no date
-    std::string text;        ///< subject and description
-};
-
-/// Reads the quoted fields of a record into `event`. Returns false if it has neither subject nor description.
-/// Throws CSV_Error if the last field is not in quotes, and Conversion_Error for an invalid start date or
-/// more than 32,767 fields.
-bool Read_CSV_Line(std::string_view record, const CSV_Columns &columns, CSV_Event &event);
+/// Reads the quoted fields of a record into the date and text of `event`: day 0 if the record has no date,
+/// and subject and description. Returns false if it has neither subject nor description. Throws CSV_Error if
+/// the last field is not in quotes, and Conversion_Error for an invalid start date or more than 32,767
+/// fields.
+bool Read_CSV_Line(std::string_view record, const CSV_Columns &columns, Event &event);

@@ -70,11 +70,11 @@ std::string Short_Date(const Date &date) {
     return platform::Short_Date(date.year, date.month, date.day);
 }
 
-std::string Text_Bytes(const std::vector<Event> &entries, Progress &progress) {
+std::string Text_Bytes(const std::vector<Event> &events, Progress &progress) {
     std::string bytes;
-    for (std::size_t i = 0; i < entries.size(); ++i) {
-        bytes.append(Line_Head(entries[i])).append(entries[i].text).append("\r\n");
-        progress.Step(i, entries.size());
+    for (std::size_t i = 0; i < events.size(); ++i) {
+        bytes.append(Line_Head(events[i])).append(events[i].text).append("\r\n");
+        progress.Step(i, events.size());
     }
     return bytes;
 }
@@ -98,33 +98,33 @@ bool Make_Content(Export_Kind kind, Callback_Ref<Settings()> shown, Progress &pr
         }
         return true;
     }
-    std::vector<Event> entries;
+    std::vector<Event> events;
     // An incomplete list of events must not pass for a complete one.
-    if (Load_Entries(entries, Sort_Order::Ascending_Date, Today()) == Read_Result::Incomplete) {
+    if (Load_Events(events, Sort_Order::Ascending_Date, Today()) == Read_Result::Incomplete) {
         platform::Message_Box("Error loading in data file.", platform::Box_Icon::Stop);
         return false;
     }
-    bytes = kind == Export_Kind::CSV         ? CSV_Bytes(entries, progress)
-            : kind == Export_Kind::ICalendar ? ICalendar_Bytes(entries, progress)
-                                             : Text_Bytes(entries, progress);
-    message = Joined({"Successfully exported ", std::to_string(entries.size()), to});
+    bytes = kind == Export_Kind::CSV         ? CSV_Bytes(events, progress)
+            : kind == Export_Kind::ICalendar ? ICalendar_Bytes(events, progress)
+                                             : Text_Bytes(events, progress);
+    message = Joined({"Successfully exported ", std::to_string(events.size()), to});
     return true;
 }
 
 } // namespace
 
-std::string CSV_Bytes(const std::vector<Event> &entries, Progress &progress) {
+std::string CSV_Bytes(const std::vector<Event> &events, Progress &progress) {
     constexpr const char *midnight = "12:00:00 AM";
     std::string bytes =
         "\"Subject\",\"Start Date\",\"Description\",\"Start Time\",\"End Date\",\"End Time\"\r\n";
-    for (std::size_t i = 0; i < entries.size(); ++i) {
+    for (std::size_t i = 0; i < events.size(); ++i) {
         Append_Field(bytes, "Vellatro", ",");
-        Append_Field(bytes, Short_Date(entries[i].date), ",");
-        Append_Field(bytes, entries[i].text, ",");
+        Append_Field(bytes, Short_Date(events[i].date), ",");
+        Append_Field(bytes, events[i].text, ",");
         Append_Field(bytes, midnight, ",");
-        Append_Field(bytes, Short_Date(Date_Of(Day_Number(entries[i].date) + 1)), ",");
+        Append_Field(bytes, Short_Date(Date_Of(Day_Number(events[i].date) + 1)), ",");
         Append_Field(bytes, midnight, "\r\n");
-        progress.Step(i, entries.size());
+        progress.Step(i, events.size());
     }
     return bytes;
 }

@@ -14,7 +14,7 @@
 enum class Export_Kind { Data_File, Configuration, Text, CSV, ICalendar };
 
 /// Returns the bytes of a CSV file with these events, in their order.
-std::string CSV_Bytes(const std::vector<Event> &entries, Progress &progress);
+std::string CSV_Bytes(const std::vector<Event> &events, Progress &progress);
 
 /// Asks for a name and writes the file, with all messages to the user. `shown` returns the configuration that
 /// the dialog shows. The target is either replaced completely or left unchanged. Throws platform::File_Error,

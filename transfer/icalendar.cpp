@@ -236,30 +236,30 @@ std::string Record_Id(std::string_view record) {
 
 /// Returns the day on which an event begins. A yearly event on 29 February begins in the latest leap year, so
 /// that other calendars show it in leap years only, as the month view here does.
-Date First_Day(const Event &entry) {
-    if (!entry.yearly || !entry.key.starts_with("29/2/"))
-        return entry.date;
-    Date day{entry.date.year, 2, 1};
+Date First_Day(const Event &event) {
+    if (!event.yearly || !event.key.starts_with("29/2/"))
+        return event.date;
+    Date day{event.date.year, 2, 1};
     while (DaysInMonth(day) < 29)
         --day.year;
     day.day = 29;
     return day;
 }
 
-void Append_Event(std::string &bytes, const Event &entry, std::string_view stamp) {
-    const Date day = First_Day(entry);
-    const std::string key = Date_Key(entry.yearly ? Date{every_year, day.month, day.day} : day);
+void Append_Event(std::string &bytes, const Event &event, std::string_view stamp) {
+    const Date day = First_Day(event);
+    const std::string key = Date_Key(event.yearly ? Date{every_year, day.month, day.day} : day);
     const auto append = [&](std::initializer_list<std::string_view> parts) {
         Append_Line(bytes, Joined(parts));
     };
     append({"BEGIN:VEVENT"});
-    append({"UID:", Record_Id(Joined({key, "=", entry.text})), "@vellatro"});
+    append({"UID:", Record_Id(Joined({key, "=", event.text})), "@vellatro"});
     append({"DTSTAMP:", stamp});
     append({"DTSTART;VALUE=DATE:", Date_Digits(day)});
     append({"DTEND;VALUE=DATE:", Date_Digits(Date_Of(Day_Number(day) + 1))});
-    if (entry.yearly)
+    if (event.yearly)
         append({"RRULE:FREQ=YEARLY"});
-    append({"SUMMARY:", Escape(entry.text)});
+    append({"SUMMARY:", Escape(event.text)});
     append({"TRANSP:TRANSPARENT"});
     append({"END:VEVENT"});
 }
@@ -351,15 +351,15 @@ Calendar_File Read_ICalendar(std::string_view bytes, Progress &progress) {
     return reader.Finish();
 }
 
-std::string ICalendar_Bytes(const std::vector<Event> &entries, Progress &progress) {
+std::string ICalendar_Bytes(const std::vector<Event> &events, Progress &progress) {
     const platform::Date_Time now = platform::Now_In_Utc();
     const std::string stamp =
         Joined({Digits(now.year, 4), Digits(now.month, 2), Digits(now.day, 2), "T", Digits(now.hour, 2),
                 Digits(now.minute, 2), Digits(now.second, 2), "Z"});
     std::string bytes = "BEGIN:VCALENDAR\r\nVERSION:2.0\r\nPRODID:-//Vellatro//Vellatro//EN\r\n";
-    for (std::size_t i = 0; i < entries.size(); ++i) {
-        Append_Event(bytes, entries[i], stamp);
-        progress.Step(i, entries.size());
+    for (std::size_t i = 0; i < events.size(); ++i) {
+        Append_Event(bytes, events[i], stamp);
+        progress.Step(i, events.size());
     }
     bytes += "END:VCALENDAR\r\n";
     return bytes;

@@ -87,4 +87,4 @@ struct Calendar_File {
 Calendar_File Read_ICalendar(std::string_view bytes, Progress &progress);
 
 /// Returns the bytes of a calendar file with these events as all-day events, in their order.
-std::string ICalendar_Bytes(const std::vector<Event> &entries, Progress &progress);
+std::string ICalendar_Bytes(const std::vector<Event> &events, Progress &progress);

@@ -85,12 +85,12 @@ private:
 };
 
 /// The texts that were merged into yearly records, by day and month.
-using Taken_Texts = std::unordered_map<std::string, std::vector<std::pair<Date, std::string>>>;
+using Taken_Events = std::unordered_map<std::string, std::vector<Event>>;
 
 /// A day shows only its last record. So each record of a single date also gets the texts that were merged
 /// into a yearly record for that date, and new yearly records, those from `first_new` on, move to the front
 /// if they would hide such a record.
-void Uncover_Days(std::vector<std::string> &records, std::size_t first_new, const Taken_Texts &taken) {
+void Uncover_Days(std::vector<std::string> &records, std::size_t first_new, const Taken_Events &taken) {
     std::unordered_set<std::string> of_both_kinds;
     Event_Record parts;
     for (std::string &record : records) {
@@ -103,9 +103,9 @@ void Uncover_Days(std::vector<std::string> &records, std::size_t first_new, cons
         const std::string key(parts.key);
         Day_Texts own;
         own.Add(key, parts.text);
-        for (const auto &[date, text] : found->second)
-            if ((date.year == every_year || Date_Key(date) == key) && own.Add(key, text))
-                record.append(text_separator).append(text);
+        for (const Event &event : found->second)
+            if ((event.date.year == every_year || Date_Key(event.date) == key) && own.Add(key, event.text))
+                record.append(text_separator).append(event.text);
     }
     const auto old_end = records.begin() + static_cast<std::ptrdiff_t>(first_new);
     const auto hiding_end = std::stable_partition(old_end, records.end(), [&](const std::string &record) {
@@ -127,7 +127,7 @@ Join_Counts Join_Events(const Calendar_File &file, const Event_Days &days,
     for (const std::string &record : records)
         if (Parse_Record(record, parts))
             texts.Add(parts.key, parts.text);
-    Taken_Texts taken;
+    Taken_Events taken;
     Join_Counts counts;
     counts.unsupported = days.unsupported;
     auto day = days.days.begin();
@@ -135,11 +135,12 @@ Join_Counts Join_Events(const Calendar_File &file, const Event_Days &days,
         const bool has_days = day != days.days.end() && day->event == i;
         bool joined = false;
         for (; day != days.days.end() && day->event == i; ++day) {
-            const std::string text = Text_On(*day, file.events[i]);
-            if (!texts.Add(day->date, text))
+            Event event{.date = day->date, .text = Text_On(*day, file.events[i])};
+            if (!texts.Add(event.date, event.text))
                 continue;
-            if (const std::string key = merger.Merge(day->date, text).key; Is_Yearly(key))
-                taken[Day_And_Month(key)].emplace_back(day->date, text);
+            merger.Merge(event);
+            if (Is_Yearly(event.key))
+                taken[Day_And_Month(event.key)].push_back(event);
             joined = true;
         }
         ++(joined ? counts.imported : has_days ? counts.already_there : counts.skipped);

@@ -108,7 +108,7 @@ void Importer::Import_CSV() {
         Import_Progress.Begin();
         stage = Reading;
         change.emplace(calendar_.Events.Changes, "Import");
-        Read_Events(platform::Read_File(dialog_.FileName), staged);
+        Stage_Events(platform::Read_File(dialog_.FileName), staged);
         // Back up again: a session that was about to end may have stored unsaved text since.
         backup.emplace(calendar_.Events.Temp_Lst);
         stage = Merging;
@@ -144,14 +144,14 @@ void Importer::Import_CSV() {
 /// Stages the events of a file; this is nine tenths of the work. Keeps each date beside its text instead of
 /// reading it back from the list's line: a short date format with a two-digit year, or one that the system
 /// cannot read, would change the day. For other formats the result is the same.
-void Importer::Read_Events(const std::string &bytes, std::vector<Event> &staged) {
+void Importer::Stage_Events(const std::string &bytes, std::vector<Event> &staged) {
     CSV_Lines lines(bytes);
     if (!Check_CSV_Headings(lines.Next_Line(), columns_))
         throw CSV_Error("the headings are not those of events");
-    CSV_Event event;
+    Event event;
     while (!lines.At_End()) {
         if (Read_CSV_Line(lines.Next_Record(), columns_, event))
-            staged.push_back({Day_Number(event.date), event.date, false, {}, std::move(event.text)});
+            staged.push_back(std::move(event));
         Import_Progress.Step(lines.Position(), bytes.size() / 9 * 10);
     }
 }
@@ -167,9 +167,7 @@ void Importer::Merge_Imported(std::vector<Event> &staged) {
         Record_Merger merger(calendar_.Events.Temp_Lst);
         bool due = false;
         for (; i < staged.size() && !due; ++i) {
-            Merged_Text merged = merger.Merge(staged[i].date, staged[i].text);
-            staged[i].key = std::move(merged.key);
-            staged[i].place = merged.place;
+            merger.Merge(staged[i]);
             due = Import_Progress.Due();
         }
         if (!staged.empty())

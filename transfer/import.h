@@ -42,7 +42,7 @@ public:
 
 private:
     bool Ask_File(const char *title, const char *filter, bool not_own_file);
-    void Read_Events(const std::string &bytes, std::vector<Event> &staged);
+    void Stage_Events(const std::string &bytes, std::vector<Event> &staged);
     void Merge_Imported(std::vector<Event> &staged);
     void Write_Merged(const std::vector<Event> &staged) const;
     Join_Counts Join_Calendar(const std::string &bytes);

@@ -40,23 +40,25 @@ Record_Merger::Record_Merger(std::vector<std::string> &records) : records_(recor
             first_.emplace(parts.key, i);
 }
 
-Merged_Text Record_Merger::Merge(const Date &date, std::string_view text) {
-    std::string own_key = Date_Key(date);
+void Record_Merger::Merge(Event &event) {
+    const std::string own_key = Date_Key(event.date);
     const auto exact = first_.find(own_key);
-    const auto yearly = first_.find(Date_Key({every_year, date.month, date.day}));
+    const auto yearly = first_.find(Date_Key({every_year, event.date.month, event.date.day}));
     if (exact == first_.end() && yearly == first_.end()) {
         first_.emplace(own_key, records_.size());
-        records_.push_back(Joined({own_key, "=", text}));
-        return {std::move(own_key), 0};
+        records_.push_back(Joined({own_key, "=", event.text}));
+        event.key = own_key;
+        event.place = 0;
+        return;
     }
     const bool joins_yearly =
         exact == first_.end() || (yearly != first_.end() && yearly->second < exact->second);
     const auto &[key, index] = joins_yearly ? *yearly : *exact;
     std::string &record = records_[index];
     record.append(text_separator);
-    const std::size_t place = record.size() - key.size() - 1;
-    record.append(text);
-    return {key, place};
+    event.key = key;
+    event.place = record.size() - key.size() - 1;
+    record.append(event.text);
 }
 
 bool Unmerge(std::vector<std::string> &records, std::vector<Event> &staged, std::size_t line) {

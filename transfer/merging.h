@@ -11,12 +11,6 @@
 /// Separates the texts of events that share a record.
 inline constexpr std::string_view text_separator = " + ";
 
-/// The position of a merged text.
-struct Merged_Text {
-    std::string key;       ///< of its record
-    std::size_t place = 0; ///< offset in the record's text
-};
-
 /// Merges events into the stored records. An event joins the first record of its day, exact or yearly, or
 /// becomes a new last record. The merger remembers the first record of each day, so that no event needs a
 /// search.
@@ -24,8 +18,9 @@ class Record_Merger {
 public:
     /// `records` must outlive the merger, and nothing else may change it meanwhile.
     explicit Record_Merger(std::vector<std::string> &records);
-    /// Stores the text on the day. Returns its position.
-    Merged_Text Merge(const Date &date, std::string_view text);
+    /// Stores the text of the event on its day, which may be one of `every_year`. Sets the event's key and
+    /// place to those of the record that now holds it.
+    void Merge(Event &event);
 
 private:
     std::vector<std::string> &records_;

@@ -27,9 +27,9 @@ int main(int count, char **arguments) {
     Progress progress;
     if (std::string_view(arguments[1]) == "export") {
         Fakes().files[Event_Store::Data_File()] = bytes;
-        std::vector<Event> entries;
-        Load_Entries(entries, Sort_Order::Ascending_Date, Today());
-        const std::string exported = ICalendar_Bytes(entries, progress);
+        std::vector<Event> events;
+        Load_Events(events, Sort_Order::Ascending_Date, Today());
+        const std::string exported = ICalendar_Bytes(events, progress);
         std::fwrite(exported.data(), 1, exported.size(), stdout);
         return 0;
     }
