@@ -17,6 +17,11 @@ target_link_libraries(vellatro_product_options INTERFACE
 
 file(GLOB win32_sources CONFIGURE_DEPENDS win32/*.cpp)
 add_library(vellatro_win32 OBJECT ${win32_sources})
+# clang-tidy needs MinGW's headers of the C++ library and of Windows, and its own compiler headers.
+set(tidy_headers ${CMAKE_CXX_IMPLICIT_INCLUDE_DIRECTORIES})
+list(FILTER tidy_headers INCLUDE REGEX "c\\+\\+|${triple}/include$")
+list(TRANSFORM tidy_headers PREPEND "--extra-arg-before=-isystem")
+Tidy(vellatro_win32 --extra-arg-before=--target=${triple} --extra-arg-before=-nostdinc++ ${tidy_headers})
 # The unstripped program translates the addresses of a crash report into function names.
 add_executable(vellatro WIN32 ${portable_sources} app/main.cpp app/cxx_runtime.cpp win32/vellatro.rc
     $<TARGET_OBJECTS:vellatro_win32>)
