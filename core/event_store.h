@@ -67,6 +67,9 @@ public:
     /// The same, but a failure shows "Error saving data file." and returns false.
     bool Write_ALL();
 
+    /// How often this has written the file.
+    unsigned Writes() const { return writes_; }
+
     /// Rewrites the file from Temp_Lst with one record more, which does not enter Temp_Lst. Does nothing when
     /// `text` is empty. Returns false when that failed, or the last Load_File did.
     bool Write_New_Line(const std::string &key, const std::string &text, bool each_year);
@@ -86,9 +89,10 @@ public:
 
 private:
     /// Writes Temp_Lst and, unless it is empty, the record `added`. Throws as Write_Data_File does.
-    void Write_Records(const std::string &added) const;
+    void Write_Records(const std::string &added);
     /// The same with a message for a failure.
     bool Rewrite_File(const std::string &added);
 
+    unsigned writes_ = 0;
     bool load_failed_ = false; ///< the last Load_File failed: a rewrite would lose what it did not read
 };

@@ -117,6 +117,7 @@ void Importer::Import_CSV() {
         Read_Events(platform::Read_File(dialog_.FileName), staged);
         // Anew: a session that was about to end may have had a text stored since.
         backup.emplace(calendar_.Events.Temp_Lst);
+        writes_ = calendar_.Events.Writes();
         stage = Merging;
         Merge_Imported(staged);
         change.reset();
@@ -130,8 +131,9 @@ void Importer::Import_CSV() {
                      platform::Box_Icon::Information);
     } catch (const std::exception &) {
         try {
-            // A copy that could not be made may be an older one, which is not to come back.
-            if (backup)
+            // A copy that could not be made may be an older one, which is not to come back. A text that was
+            // saved since the import's last write stays, and so do the events before it.
+            if (backup && (stage < Merging || calendar_.Events.Writes() == writes_))
                 backup->Restore(stage >= Merging);
         } catch (const std::exception &) { // the copy stays, for whoever looks
         }
@@ -181,6 +183,7 @@ void Importer::Merge_Imported(std::vector<Event> &staged) {
         }
         if (!staged.empty())
             Write_Merged(staged);
+        writes_ = calendar_.Events.Writes();
         if (due)
             Import_Progress.Show(9 * staged.size() + i, 10 * staged.size());
     } while (i < staged.size());

@@ -52,4 +52,5 @@ private:
     Main_Frm &calendar_;
     OpenSaveDialog &dialog_;
     CSV_Columns columns_; ///< of the last file, too
+    unsigned writes_ = 0; ///< of the data file up to the last one of an import
 };
