@@ -20,6 +20,8 @@ if(VELLATRO_FUZZ)
     # Each file is a program.
     file(GLOB fuzz_sources CONFIGURE_DEPENDS fuzz/*.cpp)
     target_compile_options(vellatro_options INTERFACE -fsanitize=fuzzer-no-link)
+    # Only the program's own code guides the search.
+    set_source_files_properties(${fake_sources} PROPERTIES COMPILE_OPTIONS -fno-sanitize=fuzzer-no-link)
     foreach(source ${fuzz_sources})
         get_filename_component(name ${source} NAME_WE)
         add_executable(fuzz_${name} ${source})

@@ -105,10 +105,12 @@ bool Event_Store::Load_File() {
                 Temp_Lst.emplace_back(item);
         }
         load_failed_ = false;
+        return true;
     } catch (const std::exception &) {
         Show_Loading_Error();
+        load_failed_ = true; // again, after a save while the message was shown: Temp_Lst may lack its record
+        return false;
     }
-    return !load_failed_;
 }
 
 bool Event_Store::Check_For_Pre(const std::string &key, const std::string &text, bool each_year) {
@@ -127,13 +129,14 @@ bool Event_Store::Check_For_Pre(const std::string &key, const std::string &text,
     return Write_ALL();
 }
 
-void Event_Store::Write_Records(const std::string &added) const {
+void Event_Store::Write_Records(const std::string &added) {
     if (load_failed_)
         throw platform::File_Error("the rest of the file is unknown");
     std::string bytes = Format_Records(Temp_Lst);
     if (!added.empty())
         Append_Item(bytes, added);
     platform::Replace_File(Data_File(), bytes);
+    ++writes_;
 }
 
 void Event_Store::Write_Data_File() {

@@ -66,6 +66,9 @@ public:
     /// false.
     bool Write_ALL();
 
+    /// Returns how often this store has written the file.
+    unsigned Writes() const { return writes_; }
+
     /// Rewrites the file from Temp_Lst with one more record, which is not added to Temp_Lst. Does nothing if
     /// `text` is empty. Returns false if the write or the last Load_File failed.
     bool Write_New_Line(const std::string &key, const std::string &text, bool each_year);
@@ -86,9 +89,10 @@ public:
 
 private:
     /// Writes Temp_Lst and, unless it is empty, the record `added`. Throws as Write_Data_File does.
-    void Write_Records(const std::string &added) const;
+    void Write_Records(const std::string &added);
     /// Does the same, but shows a message and returns false on failure.
     bool Rewrite_File(const std::string &added);
 
+    unsigned writes_ = 0;
     bool load_failed_ = false; ///< the last Load_File failed, so a rewrite would lose the unread rest
 };

@@ -1,5 +1,5 @@
-// Any bytes are taken over as a configuration, or refused; whatever the settings are then, they are written
-// and read back the same, or refused.
+// Imports any bytes as a configuration, or refuses them. The export of the resulting settings reads back as
+// the same settings, or is refused.
 #include "transfer/configuration.h"
 
 #include "core/convert.h"
@@ -17,7 +17,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     } catch (const Conversion_Error &) {
     } catch (const Sequential_Error &) {
     }
-    // What was stored lets the program start.
+    // The program can start with the stored settings.
     const Settings taken = Cur_Settings;
     Load_Settings();
     try {

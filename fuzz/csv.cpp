@@ -1,5 +1,5 @@
-// Any bytes are read as events or refused; what is read is UTF-8 without a quote or a line end in it, and
-// merges into records that can be written and read back.
+// Checks that the CSV reader takes any bytes as events or refuses them. Each text is UTF-8 without quotes and
+// line endings, and the merged records can be written and read back.
 #include "transfer/csv.h"
 
 #include "base/characters.h"
@@ -18,7 +18,7 @@ void Demand(bool holds) {
         std::abort();
 }
 
-/// The events up to the end or the first error.
+/// Returns the events up to the end or the first error.
 std::vector<Event> Read(std::string_view bytes) {
     std::vector<Event> events;
     try {

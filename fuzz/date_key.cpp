@@ -1,5 +1,5 @@
-// Date keys: the quick reading of plain digits gives what the conversion of each part gives, and fails where
-// it does.
+// Checks that the fast path for plain digits of a date key gives the same result as converting each part, and
+// fails for the same keys.
 #include "core/convert.h"
 #include "core/date.h"
 

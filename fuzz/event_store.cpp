@@ -1,5 +1,5 @@
-// Any data file is loaded, one day of it stored and the file loaded again: every other record survives in
-// order. A file that cannot be loaded whole stays untouched.
+// Loads any data file, stores the event of one day and loads the file again: every other record survives, in
+// its order. A file that cannot be loaded to its end stays unchanged.
 #include "core/event_store.h"
 
 #include "tests/fakes/fakes.h"
@@ -24,7 +24,7 @@ bool Is_That_Day(const std::string &record) {
 
 } // namespace
 
-// The first byte chooses what is stored, the rest is the file.
+// The first byte chooses the stored text, the rest is the file.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
     if (size == 0)
         return 0;
@@ -63,7 +63,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     store.Load_File();
     Demand(store.Temp_Lst == expected);
 
-    store.Get_Message(key); // may tell of a record without a date
+    store.Get_Message(key); // may show a message about a line without "="
     store.Load_Dates([](std::string_view) {});
     return 0;
 }

@@ -1,5 +1,6 @@
-// Any bytes are read as a calendar or refused. What is read joins records that can be written and read back,
-// and joining it again changes nothing. Its export is read back as the same events.
+// Checks that the reader takes any bytes as a calendar or refuses them. The joined records can be written and
+// read back, and joining the same file again changes nothing. The export of the records reads back as the
+// same events, and joining it changes nothing.
 #include "core/sequential.h"
 #include "tests/fakes/fakes.h"
 #include "transfer/icalendar_merging.h"
@@ -17,7 +18,7 @@ void Demand(bool holds) {
         std::abort();
 }
 
-/// The file's events joined to the records. Each of its days is one that the calendar shows.
+/// Joins the events of the file to the records. Checks that the calendar shows each of their days.
 void Join(const Calendar_File &file, std::vector<std::string> &records, Progress &progress) {
     const Event_Days days = Find_Event_Days(file, today, progress);
     for (const Event_Day &day : days.days) {
@@ -36,7 +37,7 @@ std::vector<std::string> Read_Back(const std::string &bytes) {
     return records;
 }
 
-/// The records' own events: one for each, on its date.
+/// Returns one event for each record that has a date.
 std::vector<Event> Events(const std::vector<std::string> &records) {
     std::vector<Event> events;
     Event event;
@@ -74,5 +75,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     const Event_Days days = Find_Event_Days(exported, today, progress);
     for (const Event_Day &day : days.days)
         Demand(Date_Key(day.date) == events[day.event].key && day.minute < 0);
+    Join(exported, again, progress);
+    Demand(again == records);
     return 0;
 }

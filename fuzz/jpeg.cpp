@@ -1,4 +1,5 @@
-// Any bytes are a whole JPEG file of some size, or none; what follows its end changes nothing.
+// Checks that any bytes are a complete JPEG file with a valid size, or not a JPEG file. Bytes behind its end
+// change nothing.
 #include "base/jpeg.h"
 
 #include <cstdint>

@@ -1,4 +1,4 @@
-// Any pattern gives a time text of bounded length, whatever the time; text behind an open quote gives itself.
+// Checks that any pattern and time give a text of bounded length. Text behind an open quote stays as it is.
 #include "core/title.h"
 
 #include <cstdint>

@@ -1,7 +1,7 @@
-// The whole program on the fakes: the bytes choose what the user, the clock, the files and the session do.
-// After each action the data file is what a plain model of the rules (program_model.h) holds, the editor and
-// the month show it, no key of the store has changed that the action may not write, and nothing is told to
-// have failed without a cause. With --tell the actions are printed.
+// The fuzz target of the whole program on the fakes: the input bytes choose the acts of the user, the clock,
+// the files and the session. After each action the data file holds the same as a plain model
+// (program_model.h), the editor and the month show it, only registry values that the action may write have
+// changed, and each failure message has a cause. --tell prints the actions.
 #include "app/program.h"
 
 #include "fuzz/program_answers.h"
@@ -31,11 +31,11 @@ private:
     void Check_Month();
     static void Look();
 
-    int fail_in_ = 0;   ///< calls for files until one fails; 0: none will
-    int exhausted_ = 0; ///< how often the program was to be closed after the last byte
+    int fail_in_ = 0;   ///< file calls up to the next one that fails; 0: none fails
+    int exhausted_ = 0; ///< requests to close after the last byte
 };
 
-/// Has the month drawn anew: each day shows its event.
+/// Redraws the month and checks that each day shows its event.
 void Run::Check_Month() {
     Form_Model *calendar = Window("Calendar");
     if (calendar == nullptr || Window("Settings_Frm") != nullptr ||
@@ -43,7 +43,7 @@ void Run::Check_Month() {
         return;
     action_ = "F5, and the month is compared";
     Begin_Action();
-    places_ = true; // a move by the keys may end
+    places_ = true; // a move by the arrow keys may end here
     Send(*calendar, {.kind = Input_Kind::Key_Down, .key = Key_F5});
     Send(*calendar, {.kind = Input_Kind::Key_Up, .key = Key_F5});
     End_Action();
@@ -84,7 +84,7 @@ void Run::Use_Day(Form_Model &calendar) {
             boxes.push_back(control);
     if (boxes.empty())
         return;
-    constexpr int likely[] = {0, 4, 5, 27}; // Made_Day has those
+    constexpr int likely[] = {0, 4, 5, 27}; // the days of Made_Day
     const int count = static_cast<int>(boxes.size());
     const int which = std::min(in_.Pick(2) == 0 ? likely[in_.Pick(4)] : in_.Pick(count), count - 1);
     const Control_State &box = *boxes[static_cast<std::size_t>(which)];
@@ -147,13 +147,13 @@ void Run::Use_Title(Form_Model &calendar) {
 }
 
 void Run::Use_Key(Form_Model &calendar) {
-    constexpr int keys[] = {Key_F1,        Key_F2,   Key_F3,    Key_F4,     Key_F5,     Key_F8,
-                            Key_F9,        Key_F12,  Key_Left,  Key_Up,     Key_Right,  Key_Down,
-                            Key_M,         Key_Y,    Key_Menu,  Key_Return, Key_Delete, Key_Page_Up,
-                            Key_Page_Down, Key_Home, Key_Delete};
+    constexpr int keys[] = {Key_F1,        Key_F2,   Key_F3,     Key_F4,     Key_F5,     Key_F8,
+                            Key_F9,        Key_F12,  Key_Left,   Key_Up,     Key_Right,  Key_Down,
+                            Key_M,         Key_Y,    Key_Menu,   Key_Return, Key_Delete, Key_Page_Up,
+                            Key_Page_Down, Key_Home, Key_Delete, Key_Z,      Key_Z};
     platform::Input_Event event{.kind = Input_Kind::Key_Down};
-    event.key = keys[in_.Pick(21)];
-    event.control_key = in_.Pick(6) == 1;
+    event.key = keys[in_.Pick(23)];
+    event.control_key = in_.Pick(6) == 1 || event.key == Key_Z;
     event.shift = in_.Pick(6) == 1;
     event.alt = in_.Pick(16) == 1;
     action_ = "key " + std::to_string(event.key) + (event.control_key ? " with Ctrl" : "") +
@@ -163,6 +163,8 @@ void Run::Use_Key(Form_Model &calendar) {
     Send(calendar, {.kind = Input_Kind::Focus_Changed, .checked = true});
     const bool acts = event.key == Key_Delete && !event.control_key && !event.alt &&
                       Window("Settings_Frm") == nullptr && Control(calendar, "Prev_Month_Lbl").visible;
+    if (event.key == Key_Z && !event.alt && !event.shift && Window("Settings_Frm") == nullptr)
+        Want_Undo();
     Send(calendar, event);
     for (const Control_State *box : calendar.controls) {
         if (acts && box->marked)
@@ -203,7 +205,7 @@ void Run::Use_Editor(Form_Model &editor) {
                                     return from.blind ? Outcomes{}
                                                       : After_Save(model, from.day, from.text, from.yearly);
                                 },
-                                from.maybe_blind || from.blind});
+                                from.maybe_blind || from.blind, "Edit"});
         const bool asked = !pending_.empty();
         const std::size_t boxes = Fakes().boxes.size();
         Send(editor, {.kind = Input_Kind::Clicked, .control = ok.index});
@@ -214,7 +216,7 @@ void Run::Use_Editor(Form_Model &editor) {
                        Control(*Window("Edit_Frm"), "Apply_Btn").enabled,
                    "a save that failed has closed the editor, or its text is not unsaved");
         if ((failed || loading_failed_) && strict)
-            typed_ = true; // a text that was not unsaved is so now
+            typed_ = true; // the text may have become unsaved
         return;
     }
     default:
@@ -295,7 +297,7 @@ void Run::Use_Dialog(Form_Model &dialog) {
     Use_Control(dialog, *controls[static_cast<std::size_t>(in_.Pick(static_cast<int>(controls.size())))]);
 }
 
-/// Another hand changes, takes away or holds files.
+/// Changes, deletes or locks files, as another program would.
 void Run::Use_Files() {
     const int way = in_.Pick(8);
     action_ = "files are changed in way " + std::to_string(way);
@@ -443,7 +445,7 @@ void Run::Whole_Program() {
     constexpr const char *patterns[] = {"d/m/yyyy", "yyyy-mm-dd", "m/d/yyyy", "dd.mm.yyyy"};
     Fakes().short_date_pattern = patterns[in_.Pick(4)];
     if (in_.Pick(2) == 1)
-        Fakes().clock_step = 2000; // all that can be long is
+        Fakes().clock_step = 2000; // every long task shows its progress
     if (in_.Pick(2) == 1)
         Make_Pack();
     if (in_.Pick(4) != 0) {
@@ -457,6 +459,7 @@ void Run::Whole_Program() {
         exhausted_ = 0;
         refused_ = Fakes().registry_refuses_writes;
         model_.scratch = Records{};
+        model_.steps.clear();
         editor_.reset();
         Demand(Run_Program() == 0, "the program does not start");
         action_ = "the program ends";

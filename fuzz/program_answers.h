@@ -1,5 +1,5 @@
-// What the program asks, and the answers: boxes, menus and file dialogs. Each that changes the data file
-// becomes something pending for the oracle. Time and the session go on meanwhile.
+// The answers to message boxes, menus and file dialogs. An answer that changes the data file becomes a
+// pending change of the oracle. Time passes and the session may end while a box or dialog is open.
 #pragma once
 
 #include "fuzz/program_oracle.h"
@@ -14,16 +14,16 @@ protected:
     Box_Answer Answer_Box(const Shown_Box &box);
     int Answer_Menu(const std::vector<platform::Menu_Item> &items);
     std::string Answer_Dialog(const platform::File_Dialog &dialog);
-    /// The user wants the day of the box to be without its event. Of one that shows none, since a reading
-    /// failed, it may stay.
+    /// Adds the removal of the event of the box's day to the pending changes. An event that the box does not
+    /// show, because a reading failed, may stay.
     void Clear(const Control_State &box);
     void Step_Clock();
     void Pass_Time();
 
     Bytes &in_;
     Made_Files files_;
-    const Control_State *menu_box_ = nullptr; ///< that was clicked for its menu
-    bool staged_ = false;                     ///< the list of events may be that of an import
+    const Control_State *menu_box_ = nullptr; ///< the box that was clicked for its menu
+    bool staged_ = false;                     ///< the list may show imported events
 
 private:
     void Interrupt();
@@ -83,7 +83,7 @@ inline void Answers::Interrupt() {
     }
 }
 
-/// A failure that is told has a cause, and leaves the data file as it was.
+/// Checks that a failure message has a cause and that the failure left the data file unchanged.
 inline void Answers::Hear_Failure(const Shown_Box &box) {
     const auto begins = [&box](const char *text) { return box.text.starts_with(text); };
     if (begins("Error loading in data file.")) {
@@ -97,7 +97,8 @@ inline void Answers::Hear_Failure(const Shown_Box &box) {
         const bool blind = editor_ && (editor_->blind || editor_->maybe_blind);
         Demand(Has_Cause() || unwritable || blind, "a save without a cause to fail has failed");
         Fail_Pending();
-    } else if (begins("Error when importing from CSV file.")) {
+    } else if (begins("Error when importing from CSV file.") ||
+               begins("Error when importing from iCalendar file.")) {
         const bool expected = !pending_.empty() && pending_.back().outcomes(model_).empty();
         Demand(Has_Cause() || expected, "an import without a cause to fail has failed");
         Fail_Pending();
@@ -107,21 +108,21 @@ inline void Answers::Hear_Failure(const Shown_Box &box) {
     }
 }
 
-/// The user wants it.
+/// Adds the change for which the user answered Yes to the pending changes.
 inline void Answers::Agree(const std::string &question) {
     const auto begins = [&question](const char *text) { return question.starts_with(text); };
     if (begins("Save changes for the ") && editor_ && editor_->text.find('"') == std::string::npos) {
         const Model_Editor from = *editor_;
-        saved_ = true; // and closed, so that another day's editor starts afresh
+        saved_ = true; // and the editor closes, so that the next one starts without its tick
         pending_.push_back({[from](const Model &model) {
                                 return from.blind ? Outcomes{}
                                                   : After_Save(model, from.day, from.text, from.yearly);
                             },
-                            from.maybe_blind});
+                            from.maybe_blind, "Edit"});
     } else if (begins("Do you really want to remove the event..")) {
         const std::string line = question.substr(question.find("\r\n\r\n") + 4);
         const bool staged = staged_;
-        pending_.push_back({[this, line, staged](const Model &model) {
+        const auto outcomes_of = [this, line, staged](const Model &model) {
             Outcomes outcomes = After_Removal(model, line, staged,
                                               [this](const std::string &record) { return Line_Of(record); });
             if (strict || (model.file && !model.file->whole))
@@ -132,10 +133,11 @@ inline void Answers::Agree(const std::string &question) {
                 outcomes.push_back({Written(records), {}});
             }
             return outcomes;
-        }});
+        };
+        pending_.push_back({outcomes_of, false, "Remove"});
     } else if (begins("You already have a working data file.")) {
         const Model_File chosen = files_.Data(files_.chosen);
-        pending_.push_back({[chosen](const Model &) { return Outcomes{{chosen, {}}}; }});
+        pending_.push_back({[chosen](const Model &) { return Outcomes{{chosen, {}}}; }, false, "Import"});
     } else if (begins("Manual Positioning is not selected.")) {
         places_ = true;
     }
@@ -146,6 +148,8 @@ inline Box_Answer Answers::Answer_Box(const Shown_Box &box) {
     ++depth_;
     Commit(false);
     Hear_Failure(box);
+    if (box.text.starts_with("Successfully exported ") && box.text.ends_with(Exported_Path))
+        files_.Note_Export(model_.file ? model_.file->records : Records{});
     Interrupt();
     Box_Answer answer = Box_Answer::Ok;
     if (box.buttons != platform::Box_Buttons::Ok) {
@@ -163,25 +167,28 @@ inline Box_Answer Answers::Answer_Box(const Shown_Box &box) {
 inline void Answers::Clear(const Control_State &box) {
     const Model_Day day = Day_Of(box.access.name);
     pending_.push_back({[day](const Model &model) { return After_Save(model, day, {}, false); },
-                        strict && box.access.value.empty()});
+                        strict && box.access.value.empty(), "Clear"});
 }
 
 inline int Answers::Answer_Menu(const std::vector<platform::Menu_Item> &items) {
     if (in_.Out())
         return 0;
     int chosen = in_.Pick(static_cast<int>(items.size()) + 1);
-    if (items.front().text == "Clear" && in_.Pick(2) == 0)
-        chosen = 3; // the settings
+    if (items.front().text == "Clear") {
+        Check_Undo_Item(items.back().text.starts_with("Undo") ? items.back().text : "");
+        if (in_.Pick(2) == 0)
+            chosen = 3; // the settings
+    }
     if (chosen == 0)
         return 0;
     const platform::Menu_Item &item = items[static_cast<std::size_t>(chosen - 1)];
     if (item.text == "Exit" && in_.Pick(3) != 0)
         return 0;
-    if (item.text.starts_with("Undo")) // the model has no way back
-        return 0;
     Tell("   menu: " + item.text);
     if (!item.enabled)
         return 0;
+    if (item.text.starts_with("Undo"))
+        Want_Undo();
     if (item.text == "Clear") {
         const Form_Model *calendar = Window("Calendar");
         const bool at_box = calendar != nullptr && Desktop().menu_at;
@@ -201,11 +208,16 @@ inline std::string Answers::Answer_Dialog(const platform::File_Dialog &dialog) {
         return path;
     if (dialog.title == "Import Data File" && !Name_Is(path, Data_Path) && !model_.file) {
         const Model_File chosen = files_.Data(path);
-        pending_.push_back({[chosen](const Model &) { return Outcomes{{chosen, {}}}; }});
+        pending_.push_back({[chosen](const Model &) { return Outcomes{{chosen, {}}}; }, false, "Import"});
     } else if (dialog.title == "Import Events from CSV File") {
         const Model_CSV csv = files_.CSV(path);
         staged_ = true;
-        pending_.push_back({[csv](const Model &model) { return After_Import(model, csv); }});
+        pending_.push_back({[csv](const Model &model) { return After_Import(model, csv); }, false, "Import"});
+    } else if (dialog.title == "Import Events from iCalendar File") {
+        const Model_ICalendar calendar = files_.ICalendar(path);
+        pending_.push_back(
+            {[this, calendar](const Model &model) { return After_ICalendar(model, calendar, Disk()); }, false,
+             "Import"});
     } else if (dialog.title == "Import Configuration File") {
         configures_ = touched_ = true;
     }

@@ -1,5 +1,5 @@
-// The files that are there for the program: data files, tables of events and configurations, made of chosen
-// bytes together with what they mean.
+// The files that the program can read: data files, CSV files, calendars and configurations. The input bytes
+// choose their content, which is kept for the model as well.
 #pragma once
 
 #include "fuzz/program_model.h"
@@ -11,12 +11,13 @@
 #include <memory>
 #include <string>
 
-/// Asks for what the program is to do better than it does yet: lines that are no records are stepped over,
-/// exactly the chosen event is removed, and a failure leaves all as it was, in memory too.
+/// Demands that the program skips lines that are not records, removes exactly the chosen event, and leaves
+/// the file and the memory unchanged after a failure.
 constexpr bool strict = true;
 
 inline const std::string Data_Path = "C:\\Vellatro\\calendar.dat";
 inline const std::string Backup_Path = "C:\\Vellatro\\data.bak";
+inline const std::string Exported_Path = "C:\\out\\e.ics";
 
 inline bool Name_Is(const std::string &a, const std::string &b) {
     return !Name_Less()(a, b) && !Name_Less()(b, a);
@@ -27,7 +28,7 @@ inline int Days_In_Month(int year, int month) {
     return month == 2 ? (leap ? 29 : 28) : month == 4 || month == 6 || month == 9 || month == 11 ? 30 : 31;
 }
 
-/// The day of a key in the plain form; none for another text, and for a day that there is not.
+/// Returns the date of a key in the plain form; no value for any other text and for an impossible date.
 inline std::optional<Model_Day> Day_Of_Key(const std::string &key) {
     Model_Day day;
     const std::size_t first = key.find('/');
@@ -66,7 +67,7 @@ inline Model_Day Made_Day(Bytes &in) {
     return day;
 }
 
-/// A data file as the program or another hand wrote it.
+/// Returns a data file as the program or another program may have written it.
 inline Model_File Made_Data(Bytes &in) {
     Model_File file;
     for (int count = in.Pick(7); count > 0; --count) {
@@ -100,7 +101,7 @@ inline Model_File Made_Data(Bytes &in) {
     return file;
 }
 
-/// A pack of pictures with places and styles of its own.
+/// Adds a theme pack with its own places and styles.
 inline void Make_Pack() {
     const std::string folder = "C:\\Vellatro\\Default\\";
     Fakes().files[folder + "settings.ini"] = "1=0-3-1\r\n3=1-6-0\r\n12=1-0-2\r\n2=x-y-z\r\n";
@@ -109,12 +110,12 @@ inline void Make_Pack() {
             1, 1, std::make_shared<std::vector<std::uint8_t>>(3)};
 }
 
-/// What file dialogs offer, and what each file means.
+/// The files that the user can choose in a file dialog, with their content.
 class Made_Files {
 public:
     explicit Made_Files(Bytes &in) : in_(in) {}
 
-    /// Makes all of them anew.
+    /// Makes all files again.
     void Renew() {
         for (const char *name : {"C:\\in\\a.dat", "C:\\in\\b.dat"}) {
             data_[name] = Made_Data(in_);
@@ -122,10 +123,12 @@ public:
         }
         for (const char *name : {"C:\\in\\a.csv", "C:\\in\\b.csv"})
             Make_CSV(name);
+        for (const char *name : {"C:\\in\\a.ics", "C:\\in\\b.ics"})
+            Make_ICalendar(name);
         Make_Configuration();
     }
 
-    /// An answer to a file dialog; empty: cancelled.
+    /// Returns an answer to a file dialog; empty: cancelled.
     std::string Choose(const std::string &title) {
         const bool other = in_.Pick(2) == 1;
         const int way = in_.Pick(12);
@@ -142,19 +145,63 @@ public:
             chosen = other ? "C:\\in\\b.dat" : "C:\\in\\a.dat";
         if (title == "Import Events from CSV File")
             chosen = other ? "C:\\in\\b.csv" : "C:\\in\\a.csv";
+        if (title == "Import Events from iCalendar File")
+            chosen = way > 6 && calendars_.contains(Exported_Path) ? Exported_Path
+                     : other                                       ? "C:\\in\\b.ics"
+                                                                   : "C:\\in\\a.ics";
         return chosen;
     }
 
     Model_File Data(const std::string &path) const { return data_.at(path); }
-    /// Of a file that is no table one that cannot be imported.
+    /// Returns a model that cannot be imported if the file is not one of the CSV files.
     Model_CSV CSV(const std::string &path) const {
         const auto file = csv_.find(path);
         return file == csv_.end() ? Model_CSV{{}, false} : file->second;
     }
 
+    /// Returns a model that cannot be imported if the file is not one of the calendars.
+    Model_ICalendar ICalendar(const std::string &path) const {
+        const auto file = calendars_.find(path);
+        return file == calendars_.end() ? Model_ICalendar{{}, false, {}} : file->second;
+    }
+    /// Records that the program has exported these records as a calendar.
+    void Note_Export(const Records &records) { calendars_[Exported_Path] = {{}, true, records}; }
+
     std::string chosen;
 
 private:
+    void Make_ICalendar(const std::string &path) {
+        Model_ICalendar calendar;
+        std::string bytes = "BEGIN:VCALENDAR\r\nVERSION:2.0\r\n";
+        const auto digits = [](int number, int count) {
+            return std::to_string(100000 + number).substr(static_cast<std::size_t>(6 - count));
+        };
+        for (int count = in_.Pick(5); count > 0; --count) {
+            const Model_Day day = Made_Day(in_);
+            constexpr std::pair<const char *, const char *> texts[] = {{"A", "A"},
+                                                                       {"B\\, C", "B, C"},
+                                                                       {"say \"hi\"", "say 'hi'"},
+                                                                       {"long\r\n er", "longer"},
+                                                                       {"", ""}};
+            const auto &[written, meant] = texts[in_.Pick(5)];
+            const bool timed = in_.Pick(4) == 1;
+            bytes += std::string("BEGIN:VEVENT\r\nSUMMARY:") + written +
+                     "\r\nDTSTART:" + digits(day.year == 9999 ? 2000 : day.year, 4) + digits(day.month, 2) +
+                     digits(day.day, 2) + (timed ? "T091500\r\n" : "\r\n") +
+                     (day.year == 9999 ? "RRULE:FREQ=YEARLY\r\n" : "") + "END:VEVENT\r\n";
+            if (*meant != '\0')
+                calendar.events.push_back({day, std::string(timed ? "09:15 " : "") + meant});
+        }
+        const int fault = in_.Pick(9);
+        calendar.good = fault != 1 && fault != 2;
+        if (fault == 2)
+            bytes.clear();
+        if (calendar.good)
+            bytes += "END:VCALENDAR\r\n";
+        Fakes().files[path] = bytes;
+        calendars_[path] = calendar;
+    }
+
     void Make_CSV(const std::string &path) {
         Model_CSV csv;
         std::string bytes = "\"Subject\",\"Start Date\",\"Description\"\r\n";
@@ -204,4 +251,5 @@ private:
     Bytes &in_;
     std::map<std::string, Model_File, Name_Less> data_;
     std::map<std::string, Model_CSV, Name_Less> csv_;
+    std::map<std::string, Model_ICalendar, Name_Less> calendars_;
 };

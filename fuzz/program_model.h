@@ -1,5 +1,5 @@
-// What the data file holds after each action, told by plain rules over lists of records: none of the
-// program's own procedures decides anything here. Which action comes is in program.cpp.
+// A model of the data file after each action: plain rules over lists of records, without any of the program's
+// own procedures.
 #pragma once
 
 #include <algorithm>
@@ -9,7 +9,7 @@
 #include <utility>
 #include <vector>
 
-/// A day of a month of a year as its parts; the year 9999 stands for every year.
+/// A date. The year 9999 stands for every year.
 struct Model_Day {
     int day = 0, month = 0, year = 0;
     std::string Key() const {
@@ -21,14 +21,14 @@ struct Model_Day {
 
 using Records = std::vector<std::string>;
 
-/// A data file: what is in it, and what it is read as.
+/// A data file: its bytes and the records in them.
 struct Model_File {
     std::string bytes;
     Records records;
-    bool whole = true; ///< it can be read to its end
+    bool whole = true; ///< the program can read it to its end
 };
 
-/// Nothing: there is no file.
+/// No value: the file does not exist.
 using Maybe_File = std::optional<Model_File>;
 
 inline std::string Key_Of(const std::string &record) {
@@ -41,7 +41,8 @@ inline std::string Text_Of(const std::string &record) {
     return equals == std::string::npos ? std::string() : record.substr(equals + 1);
 }
 
-/// One that reads back as it is: a quote in it, which only another hand wrote, stands in a plain item.
+/// Returns whether the record reads back unchanged. A record with a quote, which only another program writes,
+/// must be an item without quotes around it.
 inline bool Is_Writable(const std::string &record) {
     return record.find('"') == std::string::npos ||
            (record.front() != '"' && record.find_first_of(",\r\n") == std::string::npos &&
@@ -61,7 +62,7 @@ inline Model_File Written(const Records &records) {
     return file;
 }
 
-/// A file that the program wrote: no record has a line break.
+/// Reads a file that the program wrote: no record has a line break.
 inline Model_File Read_Plain(const std::string &bytes) {
     Model_File file{bytes, {}, true};
     for (std::size_t begin = 0, end = 0; (end = bytes.find("\r\n", begin)) != std::string::npos;
@@ -72,17 +73,50 @@ inline Model_File Read_Plain(const std::string &bytes) {
     return file;
 }
 
-/// The file, and the list that is saved where there is none: that of the last reading.
+/// A change of the file that Undo reverts.
+struct Model_Step {
+    std::string name; ///< in the menu, without the day; empty: not known
+    Maybe_File before, after;
+    bool sure = true; ///< false: the program may not have remembered this change
+};
+
+/// The data file, and the records in memory, which the program saves if the file does not exist.
 struct Model {
     Maybe_File file;
-    std::optional<Records> scratch = Records{}; ///< nothing: not known
+    std::optional<Records> scratch = Records{}; ///< of the last reading; no value: not known
+    std::vector<Model_Step> steps;              ///< of Undo, the newest last
+
+    /// Adds a change. The program remembers the last 20.
+    void Add_Step(Model_Step step) {
+        steps.push_back(std::move(step));
+        if (steps.size() <= 20)
+            return;
+        const auto unsure = [](const Model_Step &each) { return !each.sure; };
+        if (std::none_of(steps.begin(), steps.end(), unsure))
+            steps.erase(steps.begin());
+        else // the program may remember an older one instead of an unsure one
+            std::for_each(steps.begin(), steps.end() - 20, [](Model_Step &each) { each.sure = false; });
+    }
+
+    /// Removes the newest steps, which were undone.
+    void Drop_Steps(std::size_t count) {
+        bool sure = true;
+        for (; count > 0; --count) {
+            sure = sure && steps.back().sure;
+            steps.pop_back();
+        }
+        if (!sure) // another step with the same bytes may have been undone
+            for (Model_Step &step : steps)
+                step.sure = false;
+    }
 
     Records Base() const { return file ? file->records : scratch.value_or(Records{}); }
     bool Is_Now(const std::optional<std::string> &bytes) const {
         return file.has_value() == bytes.has_value() && (!file || file->bytes == *bytes);
     }
 
-    /// The first record of a day, exact or yearly; the number of records where there is none.
+    /// Returns the index of the first record of a day, exact or yearly, or the number of records if none
+    /// exists.
     static std::size_t Find(const Records &records, const Model_Day &day) {
         const auto same = [&](const std::string &record) {
             const std::string key = Key_Of(record);
@@ -91,7 +125,8 @@ struct Model {
         return static_cast<std::size_t>(std::find_if(records.begin(), records.end(), same) - records.begin());
     }
 
-    /// What an editor of the day shows: the text of its last record, and whether one is yearly.
+    /// Returns the editor's content for the day: the text of the last record, and whether any record is
+    /// yearly.
     std::pair<std::string, bool> Message(const Model_Day &day) const {
         std::pair<std::string, bool> message;
         if (!file)
@@ -106,14 +141,14 @@ struct Model {
     }
 };
 
-/// What may be on the disk after an action that went well, and the list that is in memory then; nothing where
-/// that is not prescribed.
+/// The data file after a successful action, and the records in memory; no value: any.
 struct Outcome {
     Maybe_File file;
     std::optional<Records> scratch;
+    std::size_t undone = 0; ///< steps of Undo that this reverts
 };
 
-/// None: it cannot go well.
+/// Empty: the action cannot succeed.
 using Outcomes = std::vector<Outcome>;
 
 inline Outcomes After_Save(const Model &model, const Model_Day &day, const std::string &text, bool yearly) {
@@ -132,7 +167,7 @@ inline Outcomes After_Save(const Model &model, const Model_Day &day, const std::
         records.push_back(record);
     else
         records[at] = record;
-    // A record that is added enters the memory with the next reading only.
+    // An added record enters the memory with the next reading.
     if (at < scratch.size())
         scratch = records;
     if (!All_Writable(records))
@@ -140,13 +175,35 @@ inline Outcomes After_Save(const Model &model, const Model_Day &day, const std::
     return {{Written(records), scratch}};
 }
 
-/// An event of a file to be imported.
+inline bool Same_Bytes(const Maybe_File &a, const Maybe_File &b) {
+    return a.has_value() == b.has_value() && (!a || a->bytes == b->bytes);
+}
+
+/// Returns the outcomes of Undo: it reverts the newest step if the file is the one that the step left.
+inline Outcomes After_Undo(const Model &model) {
+    Outcomes outcomes;
+    bool all_unsure = true;
+    for (std::size_t i = model.steps.size(); i > 0 && all_unsure; --i) {
+        const Model_Step &step = model.steps[i - 1];
+        all_unsure = !step.sure;
+        if (Same_Bytes(step.after, model.file) ||
+            all_unsure) // the program may have remembered them as one step
+            outcomes.push_back({step.before, Records{}, model.steps.size() - i + 1});
+    }
+    const bool may_stay =
+        model.steps.empty() || !model.steps.back().sure || !Same_Bytes(model.steps.back().after, model.file);
+    if (may_stay)
+        outcomes.push_back({model.file, model.scratch});
+    return outcomes;
+}
+
+/// An event of an import file.
 struct Model_Event {
     Model_Day day;
     std::string text;
 };
 
-/// A file of events to be imported.
+/// A CSV file to be imported.
 struct Model_CSV {
     std::vector<Model_Event> events;
     bool good = true;
@@ -170,8 +227,50 @@ inline Outcomes After_Import(const Model &model, const Model_CSV &csv) {
     return {{Written(records), records}};
 }
 
-/// After the removal of a line of the list of events. `line_of` gives the line of a record, empty for none.
-/// `staged`: the list may be that of an import, whose line may be part of a record of its day.
+/// A calendar file to be imported. A yearly event has the year 9999.
+struct Model_ICalendar {
+    std::vector<Model_Event> events;
+    bool good = true;
+    std::optional<Records> exported; ///< the records from which the program made the file
+};
+
+/// Returns whether `now` has the records of `before` in their order, each unchanged or with more text
+/// appended, and each event on its day.
+inline bool Has_Joined(const Records &before, const Records &now, const Model_ICalendar &calendar) {
+    std::size_t kept = 0;
+    for (const std::string &record : now)
+        if (kept < before.size() && (record == before[kept] || record.starts_with(before[kept] + " + ")))
+            ++kept;
+    return kept == before.size() &&
+           std::all_of(calendar.events.begin(), calendar.events.end(), [&](const Model_Event &event) {
+               return std::any_of(now.begin(), now.end(), [&](const std::string &record) {
+                   const std::string key = Key_Of(record);
+                   return (key == event.day.Key() || key == event.day.Yearly_Key()) &&
+                          (" + " + Text_Of(record) + " + ").find(" + " + event.text + " + ") !=
+                              std::string::npos;
+               });
+           });
+}
+
+/// Returns the outcomes of an import of a calendar file: `disk`, if Has_Joined holds for it.
+inline Outcomes After_ICalendar(const Model &model, const Model_ICalendar &calendar,
+                                const std::optional<std::string> &disk) {
+    if (!calendar.good || (model.file && !model.file->whole))
+        return {};
+    const Records before = model.file ? model.file->records : Records{};
+    const Model_File now = disk ? Read_Plain(*disk) : Model_File();
+    if (model.Is_Now(disk) && (calendar.exported == before || Has_Joined(before, before, calendar)))
+        return {{model.file, before}};
+    if (calendar.exported != before && Has_Joined(before, now.records, calendar))
+        return {{now, now.records}};
+    const bool quoted = std::any_of(before.begin(), before.end(), [](const std::string &record) {
+        return record.find('"') != std::string::npos;
+    });
+    return quoted ? Outcomes{} : Outcomes{{Written({"the records with the imported events"}), {}}};
+}
+
+/// Returns the outcomes of removing a line from the list of events. `line_of` returns the line of a record,
+/// empty for none. `staged`: the list may show imported events, each of which may be a part of a record.
 inline Outcomes After_Removal(const Model &model, const std::string &line, bool staged,
                               const std::function<std::string(const std::string &)> &line_of) {
     const Records base = model.Base();
@@ -188,7 +287,7 @@ inline Outcomes After_Removal(const Model &model, const std::string &line, bool 
         add(records);
     }
     const bool whole = !model.file || model.file->whole;
-    if (outcomes.empty() && whole) // a line that stands for no record any more
+    if (outcomes.empty() && whole) // the record of the line is gone
         outcomes.push_back({model.file, {}});
     if (!staged)
         return outcomes;

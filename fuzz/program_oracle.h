@@ -1,4 +1,5 @@
-// What holds after each action of the whole program: the data file against the model, the editor, the store.
+// The checks after each action of the whole program: of the data file against the model, of the editor and of
+// the registry.
 #pragma once
 
 #include "base/joined.h"
@@ -13,29 +14,37 @@
 using platform::Control_State;
 using platform::Form_Model;
 
-/// Each action, box and answer is printed.
+/// Whether each action, message box and answer is printed.
 inline bool tells = false;
 
-/// What the user has before the eyes in the editor.
+/// Counts the actions of all inputs and prints the count at the end of the process.
+struct Action_Count {
+    unsigned long long actions = 0;
+    ~Action_Count() { static_cast<void>(std::printf("%llu actions\n", actions)); }
+};
+inline Action_Count action_count;
+
+/// The content of the editor.
 struct Model_Editor {
     Model_Day day;
     std::string text;
     bool yearly = false, unsaved = false;
-    bool blind = false;       ///< its reading failed: nothing may be saved from it
-    bool maybe_blind = false; ///< some reading failed when it was opened
+    bool blind = false;       ///< its reading failed, so that it must refuse to save
+    bool maybe_blind = false; ///< a reading failed when it was opened, maybe another one
 };
 
-/// A change of the data file that the user asked for and of which no end has been seen.
+/// A change of the data file that the user has begun and whose outcome the oracle has not seen yet.
 struct Pending {
     std::function<Outcomes(const Model &)> outcomes;
-    bool may_stay = false; ///< its reading failed, which was told
+    bool may_stay = false; ///< a reading failed with a message, so that the file may be unchanged
+    std::string name = {}; ///< of the Undo step
 };
 
 class Oracle {
 protected:
-    /// Breaks off where `holds` is false, and tells where the program and the model are then.
+    /// Aborts if `holds` is false, after printing the state of the program and of the model.
     void Demand(bool holds, const std::string &what);
-    /// Prints it, where that is wanted.
+    /// Prints the text if --tell was given.
     static void Tell(const std::string &text) {
         if (tells)
             static_cast<void>(std::puts(text.c_str()));
@@ -44,23 +53,25 @@ protected:
     void End_Action();
     void Commit(bool at_end);
     void Fail_Pending();
+    void Want_Undo();
+    void Check_Undo_Item(const std::string &text);
     bool Has_Cause() const;
+    std::optional<std::string> Disk() const;
     std::string Line_Of(const std::string &record) const;
 
     Model model_;
     std::optional<Model_Editor> editor_;
     std::vector<Pending> pending_;
-    std::string action_; ///< what the user does now
+    std::string action_; ///< the current one, in words
     int actions_ = 0;
-    int fails_ = 0; ///< calls for files that failed in this action
+    int fails_ = 0; ///< file calls that failed in this action
     bool typed_ = false, saved_ = false, loading_failed_ = false;
-    /// What the action may store.
+    /// Which registry values the action may write.
     bool places_ = false, styles_ = false, dialog_ = false, configures_ = false;
-    bool refused_ = false; ///< the store has not taken all that the program holds
-    bool touched_ = false; ///< something was chosen in the settings dialog that is open
+    bool refused_ = false; ///< the registry has refused a write, so that it lags behind the program
+    bool touched_ = false; ///< the user has changed a control of the open settings dialog
 
 private:
-    std::optional<std::string> Disk() const;
     void Forget();
     void Follow_Editor();
     void Check_Store();
@@ -95,12 +106,12 @@ inline bool Oracle::Has_Cause() const {
     return fails_ > 0 || held || (model_.file && !model_.file->whole);
 }
 
-/// Takes what is on the disk for the end of what was asked for, where it is. At the end of an action it must
-/// be.
+/// Matches the disk with the outcomes of the pending changes. At the end of an action they must match.
 inline void Oracle::Commit(bool at_end) {
     const std::optional<std::string> disk = Disk();
-    if (!model_.file && !model_.scratch && disk) { // nobody can say what was saved
-        model_.file = Read_Plain(*disk);
+    if (!model_.file && !model_.scratch && disk) { // the saved records were not known
+        model_.Add_Step({"", model_.file, Read_Plain(*disk), false});
+        model_.file = model_.steps.back().after;
         pending_.clear();
     }
     while (!pending_.empty()) {
@@ -117,6 +128,12 @@ inline void Oracle::Commit(bool at_end) {
             Demand(stays && (pending.may_stay || !whole), "the data file is not what the user made of it");
             Forget();
         } else {
+            const bool readable = fails_ == 0 && !Fakes().unreadable.contains(Data_Path);
+            if (done->undone > 0)
+                model_.Drop_Steps(done->undone);
+            else if (!Same_Bytes(model_.file, done->file)) // a change inside another has the outer name
+                model_.Add_Step(
+                    {pending_.size() == 1 ? pending.name : "", model_.file, done->file, readable});
             model_.file = done->file;
             model_.scratch = done->scratch;
             if (pending.may_stay)
@@ -127,7 +144,7 @@ inline void Oracle::Commit(bool at_end) {
     Demand(model_.Is_Now(disk), "the data file is another one than the user's");
 }
 
-/// What was asked for last failed, and was told: the file is as it was.
+/// Drops the newest pending change, for which a failure was shown. The file must be unchanged.
 inline void Oracle::Fail_Pending() {
     const std::optional<std::string> disk = Disk();
     Demand(model_.Is_Now(disk), "a failure has changed the data file");
@@ -137,7 +154,20 @@ inline void Oracle::Fail_Pending() {
     Forget();
 }
 
-/// After a failure the memory may hold what was read before it.
+/// Adds an Undo by the user to the pending changes.
+inline void Oracle::Want_Undo() {
+    pending_.push_back({After_Undo});
+}
+
+/// Checks the Undo item of the menu of a day. `text` is empty if the menu has none.
+inline void Oracle::Check_Undo_Item(const std::string &text) {
+    if (model_.steps.empty())
+        return Demand(text.empty(), "the menu has \"" + text + "\" without a change");
+    const Model_Step &step = model_.steps.back();
+    Demand(!step.sure || text.starts_with("Undo: " + step.name), "the menu has \"" + text + "\"");
+}
+
+/// Marks the records in memory as not known: a failed action may have read the file before it failed.
 inline void Oracle::Forget() {
     if (model_.file || !strict)
         model_.scratch.reset();
@@ -145,6 +175,7 @@ inline void Oracle::Forget() {
 
 inline void Oracle::Begin_Action() {
     ++actions_;
+    ++action_count.actions;
     fails_ = 0;
     typed_ = saved_ = loading_failed_ = false;
     places_ = styles_ = configures_ = false;
@@ -159,7 +190,7 @@ inline void Oracle::End_Action() {
     Tell(std::to_string(actions_) + ": " + action_);
 }
 
-/// The editor shows what it showed, or it was opened and shows the day's event.
+/// Checks that the editor is unchanged or, if it was just opened, shows the event of its day.
 inline void Oracle::Follow_Editor() {
     Form_Model *window = Window("Edit_Frm");
     if (window == nullptr) {
@@ -175,7 +206,7 @@ inline void Oracle::Follow_Editor() {
     if (editor_) {
         const bool same = now.day == editor_->day && now.text == editor_->text &&
                           now.yearly == editor_->yearly && now.unsaved == editor_->unsaved;
-        // It may have been opened once more for its day.
+        // The user may have opened it again for the same day.
         now.blind = editor_->blind && (typed_ || !readable);
         now.maybe_blind = editor_->maybe_blind || editor_->blind || (!typed_ && loading_failed_);
         if (typed_ || same) {
@@ -217,10 +248,10 @@ inline void Oracle::Check_Store() {
         const std::string from = before == store_.end() ? "nothing" : Joined({"\"", before->second, "\""});
         const std::string change = Joined({key, " has changed from ", from, " to \"", text, "\""});
         Demand(may(key), "the store's key " + change);
-        // A place by the arrow keys is kept when Ctrl comes up, which a menu can put off.
+        // The program stores a move by the arrow keys when Ctrl comes up, which a menu can delay.
         const bool same = before == store_.end() || touched_ || refused_ || !dialog_ || configures_ ||
                           places_ || !(key.starts_with(general) || key.starts_with(colours));
-        const bool one_value = key == general + "Bar Time"; // 1 and True
+        const bool one_value = key == general + "Bar Time"; // 1 and True are equal
         Demand(same || one_value || key == general + "Settings Tab" || key == general + "Use Themes",
                "a dialog in which nothing was chosen: " + change);
     }

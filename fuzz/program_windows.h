@@ -1,4 +1,4 @@
-// The program's windows as a user has them: found by name, and acted on through their mirrors alone.
+// Access to the program's windows as a user has it: by name, through their mirrors only.
 #pragma once
 
 #include "fuzz/program_model.h"
@@ -8,23 +8,23 @@
 #include <cstdint>
 #include <string>
 
-/// The bytes that choose what happens; after the last one there are only zeros.
+/// The input bytes that choose the actions. Zeros follow the last one.
 class Bytes {
 public:
     Bytes(const std::uint8_t *data, std::size_t size) : at_(data), end_(data + size) {}
     bool Out() const { return at_ == end_; }
-    /// 0 to `count` - 1.
+    /// Returns a number from 0 to `count` - 1.
     int Pick(int count) { return at_ == end_ || count < 2 ? 0 : *at_++ % count; }
 
 private:
     const std::uint8_t *at_, *end_;
 };
 
-/// Null where there is none.
+/// Returns null if the window does not exist.
 inline platform::Form_Model *Window(const std::string &name) {
     for (const auto &[model, mirror] : Desktop().mirrors)
         if (model->name == name)
-            return const_cast<platform::Form_Model *>(model); // which the program gave to be used
+            return const_cast<platform::Form_Model *>(model); // the program passed it without const
     return nullptr;
 }
 
@@ -36,7 +36,7 @@ inline const platform::Control_State &Control(const platform::Form_Model &window
     std::abort();
 }
 
-/// The day box that is seen there; there must be one.
+/// Returns the visible day box at the point. One must exist.
 inline const platform::Control_State &Box_At(const platform::Form_Model &window, Point at) {
     const platform::Control_State *found = nullptr;
     for (const platform::Control_State *control : window.controls)
@@ -44,6 +44,8 @@ inline const platform::Control_State &Box_At(const platform::Form_Model &window,
             control->bounds.Contains(at))
             found = control;
     Require(found != nullptr, "a menu opens over no day");
+    if (found == nullptr)
+        std::abort();
     return *found;
 }
 
@@ -72,7 +74,7 @@ inline bool Told_Since(std::size_t boxes, const std::string &text) {
     return false;
 }
 
-/// The number that begins there in the text.
+/// Returns the number that begins at `begin`, 0 if none does.
 inline int Number_At(const std::string &text, std::size_t begin) {
     int number = 0;
     for (; begin < text.size() && text[begin] >= '0' && text[begin] <= '9' && number < 10000; ++begin)
@@ -80,7 +82,7 @@ inline int Number_At(const std::string &text, std::size_t begin) {
     return number;
 }
 
-/// Of "Tuesday 5th March 2002", with or without more behind a comma.
+/// Returns the date of a text such as "Tuesday 5th March 2002", which a comma and more text may follow.
 inline Model_Day Day_Of(const std::string &name) {
     Model_Day day;
     const std::size_t first = name.find(' ') + 1, second = name.find(' ', first) + 1;

@@ -1,4 +1,5 @@
-// Any bytes are read as items of UTF-8 or refused; the items, written again, read back the same.
+// Checks that the reader takes any bytes as UTF-8 items or refuses them. The items read back the same after
+// writing.
 #include "core/sequential.h"
 
 #include "base/characters.h"
@@ -9,7 +10,7 @@
 
 namespace {
 
-/// The items up to the end or the first error.
+/// Returns the items up to the end or the first error.
 std::vector<std::string> Read(std::string_view bytes) {
     std::vector<std::string> items;
     try {
@@ -35,8 +36,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     if (Read(written) != items)
         std::abort();
 
-    // The input as one item, if it can be one: written so that it is the one item of the file, or refused for
-    // its quotes.
+    // The whole input as one item reads back as the only item of the file, or is refused because of its
+    // quotes.
     if (!Is_Utf8(bytes))
         return 0;
     std::string alone;

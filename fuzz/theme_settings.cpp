@@ -1,4 +1,5 @@
-// Any bytes give each month a value text out of them, or are refused; the parts of a value text make it up.
+// Checks that each month gets a value text out of any bytes, or that they are refused. The parts of a value
+// text make up the whole.
 #include "base/characters.h"
 #include "core/sequential.h"
 #include "themes/theme_pack.h"
@@ -23,7 +24,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
         if (!whole.starts_with(details) || parts[0].find('-') != std::string::npos ||
             parts[1].find('-') != std::string::npos)
             std::abort();
-        // Written alone, the value text is the month's again; blanks at its end belong to no item.
+        // The value text reads back the same from a file of its own, unless it ends in blanks, which the
+        // reader drops.
         if (details.find_first_of(std::string_view(",\r\n\"\x1A\0", 6)) == std::string::npos &&
             !details.ends_with(' ') && !details.ends_with('\t') &&
             Month_Details(std::to_string(month) + "=" + details, month) != details)

@@ -111,6 +111,7 @@ void Importer::Import_CSV() {
         Stage_Events(platform::Read_File(dialog_.FileName), staged);
         // Back up again: a session that was about to end may have stored unsaved text since.
         backup.emplace(calendar_.Events.Temp_Lst);
+        writes_ = calendar_.Events.Writes();
         stage = Merging;
         Merge_Imported(staged);
         change.reset();
@@ -124,8 +125,9 @@ void Importer::Import_CSV() {
                               platform::Box_Icon::Information);
     } catch (const std::exception &) {
         try {
-            // If the copy failed, data.bak may be from an earlier import and must not be restored.
-            if (backup)
+            // If the copy failed, data.bak may be from an earlier import and must not be restored. A text
+            // saved after the import's last write stays, and so do the events before it.
+            if (backup && (stage < Merging || calendar_.Events.Writes() == writes_))
                 backup->Restore(stage >= Merging);
         } catch (const std::exception &) { // data.bak stays for the user
         }
@@ -172,6 +174,7 @@ void Importer::Merge_Imported(std::vector<Event> &staged) {
         }
         if (!staged.empty())
             Write_Merged(staged);
+        writes_ = calendar_.Events.Writes();
         if (due)
             Import_Progress.Show(9 * staged.size() + i, 10 * staged.size());
     } while (i < staged.size());

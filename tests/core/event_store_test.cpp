@@ -106,10 +106,16 @@ TEST_F(Event_Store_Test, What_Cannot_Be_Read_Is_Told_And_Never_Overwritten) {
     EXPECT_EQ(Fakes().writes, 0);
     for (const Shown_Box &box : Fakes().boxes)
         EXPECT_TRUE(box.title == "Vellatro" && box.icon == platform::Box_Icon::Stop) << box.text;
-    // After a good loading saving works again, if the text can be written and the file, too.
-    Fakes().unreadable.clear();
-    File() = Quoted({"1/1/2002=A"});
-    Save("new");
+    // After a good loading saving works again, if the text can be written and the file, too. A text that is
+    // saved while the message is shown outlives the save that was about to begin.
+    Fakes().Expect_Box(loading_failed, platform::Box_Answer::Ok, [this] {
+        Fakes().unreadable.clear();
+        File() = Quoted({"1/1/2002=A"});
+        Save("new");
+    });
+    EXPECT_FALSE(store.Load_File());
+    Fakes().Expect_Box(saving_failed);
+    EXPECT_FALSE(store.Check_For_Pre("1/1/2002", "", false));
     EXPECT_EQ(File(), Quoted({"1/1/2002=A", "5/3/2002=new"}));
     for (const char *text : {"a \"quote\", and a comma", "B", ""}) {
         Fakes().Expect_Box(saving_failed);

@@ -89,7 +89,7 @@ struct Fake_Desktop {
 
     /// Lets the time pass, with the timers' ticks in their order.
     void Advance(unsigned milliseconds);
-    bool Say(platform::Broadcast broadcast) { return listener(broadcast); }
+    bool Say(platform::Broadcast broadcast) { return !listener || listener(broadcast); }
 };
 
 /// The one faked desktop.

@@ -165,13 +165,18 @@ TEST_F(Importing, leaves_nothing_behind_when_it_fails) {
     form.Events.Load_File();
     form.Events.Check_For_Pre("7/3/2002", "x", false);
     EXPECT_EQ(Data_File(), Quoted("'7/3/2002=x'\r\n"));
-    // A hand-written quote, beside which no comma can be written, is told with its day.
-    Data_File() = "6/3/9999=a \"quote\"\r\n";
-    const std::string before = Data_File();
+    // A hand-written quote, beside which no comma can be written, is told with its day. A text that is saved
+    // meanwhile stays.
+    const std::string quote = "6/3/9999=a \"quote\"\r\n", other = Quoted("'7/3/2002=x'\r\n");
+    Data_File() = quote;
     Fakes().Expect_Box("The event of 6/3/2002 holds a quotation mark (\"). Remove it before you import "
-                       "another event of that day.");
+                       "another event of that day.",
+                       platform::Box_Answer::Ok, [this] {
+                           form.Events.Load_File();
+                           form.Events.Check_For_Pre("7/3/2002", "x", false);
+                       });
     Import(2, "C:\\in.csv", failed);
-    EXPECT_EQ(Data_File(), before);
+    EXPECT_EQ(Data_File(), quote + other);
 }
 
 TEST_F(Importing, that_fails_after_its_first_write_puts_the_file_back) {
