@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
-"""Checks calendar files against another program's reading of them: 500 random repetitions, and an export.
+"""Compares the days of 500 random repetitions with those of another program.
 
-icalendar_days.py CALENDAR_DAYS [SEED]: the tool of tests/transfer/calendar_days.cpp
+icalendar_days.py CALENDAR_DAYS [SEED]: CALENDAR_DAYS is the tool built from tests/transfer/calendar_days.cpp
 """
 import datetime
 import random
@@ -19,15 +19,6 @@ tool = sys.argv[1]
 seed = int(sys.argv[2]) if len(sys.argv) > 2 else 18
 print(f"seed {seed}")
 pick = random.Random(seed)
-
-
-def ask(mode, text):
-    """What the tool prints about a file."""
-    with tempfile.NamedTemporaryFile("wb", suffix=".ics") as file:
-        file.write(text.encode())
-        file.flush()
-        today = [str(part) for part in (TODAY.year, TODAY.month, TODAY.day)]
-        return subprocess.run([tool, mode, file.name, *today], check=True, capture_output=True).stdout
 
 
 def some(values, most=3):
@@ -53,7 +44,7 @@ def random_rule(start, timed):
         by.append("BYYEARDAY=" + some([1, 60, 100, 366, -1, -100, -366]))
     elif frequency == "YEARLY" and pick.random() < 0.3:
         by += ["BYWEEKNO=" + some([1, 2, 20, 52, 53, -1]), "BYDAY=" + some(WEEKDAYS)]
-    # The other program takes positions in the week of the start from the start on, not from the week's first day.
+    # No BYSETPOS for weeks: in the first week the other program counts positions from the start of the event.
     if by and frequency in ("MONTHLY", "YEARLY") and pick.random() < 0.3:
         by.append("BYSETPOS=" + some([1, 2, -1, -2], 2))
     parts += by
@@ -93,7 +84,7 @@ def random_event(number):
 
 
 def days_of(calendar):
-    """The days in the window on which the other program sees each text."""
+    """Returns the other program's texts by day, within the window."""
     days = set()
     for event in recurring_ical_events.of(calendar).between(FIRST - datetime.timedelta(7),
                                                             LAST + datetime.timedelta(1)):
@@ -110,31 +101,22 @@ def days_of(calendar):
     return {(day, text) for day, text in days if FIRST <= day <= LAST}
 
 
-def in_window(month, day):
-    """The days of every year."""
-    for year in range(FIRST.year, LAST.year + 1):
-        try:
-            date = datetime.date(year, month, day)
-        except ValueError:  # 29 February
-            continue
-        if FIRST <= date <= LAST:
-            yield date
-
-
-def our_days(lines):
-    days = set()
-    for line in lines:
-        year, month, day = (int(part) for part in line[:10].split("-"))
-        dates = in_window(month, day) if year == 9999 else [datetime.date(year, month, day)]
-        days.update((date, line[11:]) for date in dates if FIRST <= date <= LAST)
-    return days
-
-
 head, tail = "BEGIN:VCALENDAR\r\nVERSION:2.0\r\nPRODID:-//x//y//EN\r\n", "END:VCALENDAR\r\n"
 events = [random_event(number) for number in range(500)]
+with tempfile.NamedTemporaryFile("w", suffix=".ics", newline="") as file:
+    file.write(head + "".join(events) + tail)
+    file.flush()
+    command = [tool, file.name, *f"{TODAY:%Y %m %d}".split()]
+    lines = subprocess.run(command, check=True, capture_output=True, text=True).stdout.splitlines()
 ours = {}
-for day, text in our_days(ask("days", head + "".join(events) + tail).decode().splitlines()):
-    ours.setdefault(int(text.split(" ")[-1]), set()).add((day, text))
+for line in lines:
+    if line.startswith("9999-02-29"):  # in no year of the window
+        continue
+    year, month, day = (int(part) for part in line[:10].split("-"))
+    for year in range(FIRST.year, LAST.year + 1) if year == 9999 else (year,):
+        date = datetime.date(year, month, day)
+        if FIRST <= date <= LAST:
+            ours.setdefault(int(line.split(" ")[-1]), set()).add((date, line[11:]))
 different = total = 0
 for number, event in enumerate(events):
     mine = ours.get(number, set())
@@ -144,24 +126,5 @@ for number, event in enumerate(events):
         different += 1
         print(event, "ours only:", sorted(mine - other)[:5], "theirs only:", sorted(other - mine)[:5])
 
-texts = ["a, b; c \\ d", "ä日本📅 " * 40, "2 + 2 = 4", "x" * 76, "it's", " blanks "]
-data = "".join(f'"{number + 1}/12/{year}={text}"\r\n'
-               for year in (2026, 2027, 9999) for number, text in enumerate(texts))
-data += '"29/2/9999=Leap"\r\n"31/12/2027=Last"\r\n'
-exported = ask("export", data)
-assert all(len(line) <= 75 for line in exported.split(b"\r\n")) and b"\n" not in exported.replace(b"\r\n", b"")
-assert all(line.decode() is not None for line in exported.split(b"\r\n")), "a character is cut"
-assert exported == ask("export", data)
-calendar = icalendar.Calendar.from_ical(exported)
-uids = {str(event["UID"]) for event in calendar.walk("VEVENT")}
-wanted = set()
-for line in data.splitlines():
-    key, text = line[1:-1].split("=", 1)
-    day, month, year = (int(part) for part in key.split("/"))
-    dates = in_window(month, day) if year == 9999 else [datetime.date(year, month, day)]
-    wanted.update((date, text) for date in dates)
-if days_of(calendar) != wanted or len(uids) != len(data.splitlines()):
-    different += 1
-    print("the export:", days_of(calendar) ^ wanted, len(uids))
-print(f"{total} days of 500 repetitions, {len(wanted)} exported, {different} differences")
+print(f"{total} days of 500 repetitions, {different} differences")
 sys.exit(different > 0 or total < 5000)

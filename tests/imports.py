@@ -1,10 +1,10 @@
 #!/usr/bin/env python3
-"""Checks the finished program: what it asks of the system, its size, and what its manifest says.
+"""Checks the imports, headers, size and manifest of the finished program.
 
-    imports.py vellatro.exe    prints each offence and exits 1 when there is any
+    imports.py vellatro.exe    prints each offence and exits with 1 if there is any
 
-Only functions listed in windows2000_functions.txt, beside this file, may be imported; nothing may be loaded
-late by the linker's means. 64-bit builds are held to the same list and its "64" sections.
+The program may import only the functions in windows2000_functions.txt, and may have no delayed imports. 64-bit builds
+may also import those in the file's "64" sections.
 """
 import pathlib
 import re
@@ -14,17 +14,17 @@ import xml.etree.ElementTree
 
 MOST_BYTES = 512 * 1024
 GUI = 2
-CHARACTERISTICS = 0x8140  # any address, no code in data, aware of terminal servers
-NEWEST_SYSTEM = (5, 0)  # Windows 2000 starts no program that asks for more
+CHARACTERISTICS = 0x8140  # relocatable, no execution of data, aware of terminal servers
+NEWEST_SYSTEM = (5, 0)  # Windows 2000 refuses programs that ask for more
 IMPORTS, RESOURCES, DELAY_IMPORTS = 1, 2, 13
 RESOURCE_KINDS = {14: 'icon', 16: 'version', 24: 'manifest'}
-# Of the manifest's elements, each as its name, attributes and text.
+# Patterns for elements of the manifest, each with its name, attributes and text.
 IN_MANIFEST = (r'requestedExecutionLevel .*level=asInvoker', r'dpiAwareness ',
                r'assemblyIdentity .*name=Microsoft\.Windows\.Common-Controls version=6\.')
 
 
 class Image:
-    """A PE file, read as far as the checks need. One that is broken ends in an exception."""
+    """The parts of a PE file that the checks need. A damaged file raises an exception."""
 
     def __init__(self, data):
         self.data = data
@@ -47,7 +47,7 @@ class Image:
         return struct.unpack_from(form, self.data, offset)
 
     def offset(self, address):
-        """Where in the file the byte for an address relative to the image's base is."""
+        """Returns the place in the file of an address relative to the image's base."""
         return next(address - virtual + raw for virtual_size, virtual, raw_size, raw in self.sections
                     if virtual <= address < virtual + max(virtual_size, raw_size))
 
@@ -56,7 +56,7 @@ class Image:
         return self.data[start:self.data.index(b'\0', start)].decode('ascii')
 
     def imports(self):
-        """Pairs of a DLL's name in small letters and a function's name, or "#" and its number."""
+        """Yields pairs of a DLL's name in lower case and a function's name, or "#" and its number."""
         form, size, by_number = ('<Q', 8, 1 << 63) if self.wide else ('<I', 4, 1 << 31)
         entry = self.offset(self.directories[IMPORTS])
         while True:
@@ -76,7 +76,7 @@ class Image:
 
 
 def allowed_functions(wide):
-    """Pairs of a DLL and a function's name."""
+    """Returns pairs of a DLL and a function's name."""
     allowed, dll = set(), None
     for line in pathlib.Path(__file__).with_name('windows2000_functions.txt').read_text('ascii').splitlines():
         if section := re.fullmatch(r'\[(\S+?)( 64)?\]', line.strip()):

@@ -1,17 +1,19 @@
 #!/usr/bin/env python3
-"""Checks that the project's includes point down the list of folders and that every one of them exists.
+"""Checks that the project's includes exist and follow the order of its folders.
 
-    include_direction.py SOURCE_FOLDER    prints each offence as file:line and exits 1 when there is any
+    include_direction.py SOURCE_FOLDER    prints each offence as file:line and exits with 1 if there is any
 """
 import os
+import pathlib
 import re
 import sys
 
-# From the top down: a folder includes itself and those in the groups after its own.
+# From the top down: a folder may include itself and the folders of later groups.
 LEVELS = ('app', 'editor settings', 'transfer', 'calendar', 'ui', 'themes desktop', 'toolkit', 'core', 'platform', 'base')
 LEVEL_OF = {folder: level for level, folders in enumerate(LEVELS) for folder in folders.split()}
 FREE = ('tests', 'bench', 'fuzz', 'tools')
 WITHOUT_SOURCES = ('build', 'cmake', 'packs', 'docs')
+SUFFIXES = ('.h', '.hpp', '.inc', '.cpp', '.cc', '.c', '.rc')
 SEES_WINDOWS = ('win32/', 'tests/desktop/', 'tests/contract/', 'bench/desktop/', 'tools/')
 WINDOWS_HEADER = re.compile(
     r'(win(dows|dowsx|def|base|user|gdi|reg|nls)|comm(ctrl|dlg)|objbase|ole(2|auto|ctl|acc)|shellapi|shlobj|'
@@ -20,18 +22,16 @@ INCLUDE = re.compile(r'\s*#\s*include\s*(?:"([^"]*)"|<([^>]*)>)')
 
 
 def sources(root):
-    """The paths of all source files, from the root, with slashes."""
-    for folder, folders, files in os.walk(root):
-        below = os.path.relpath(folder, root)
-        folders[:] = sorted(f for f in folders
-                            if not f.startswith('.') and not (below == '.' and f in WITHOUT_SOURCES))
-        for name in sorted(files):
-            if name.endswith(('.h', '.hpp', '.inc', '.cpp', '.cc', '.c', '.rc')):
-                yield os.path.normpath(os.path.join(below, name)).replace(os.sep, '/')
+    """Yields the paths of all source files relative to the root, with slashes."""
+    for path in sorted(pathlib.Path(root).rglob('*.*')):
+        below = path.relative_to(root)
+        hidden = any(part.startswith('.') for part in below.parts)
+        if path.suffix in SUFFIXES and not hidden and below.parts[0] not in WITHOUT_SOURCES:
+            yield below.as_posix()
 
 
 def wrong_direction(folder, target):
-    """Whether a file of the top folder `folder` may not include one of `target`."""
+    """Returns whether files of the top folder `folder` may not include those of `target`."""
     if folder == target or folder in FREE:
         return False
     if folder == 'win32':
@@ -40,7 +40,7 @@ def wrong_direction(folder, target):
 
 
 def offence(root, path, quoted, angled):
-    """What is wrong with one include of the file `path`; None when nothing is."""
+    """Returns what is wrong with one include of the file `path`, or None."""
     if angled and WINDOWS_HEADER.fullmatch(angled) and not path.startswith(SEES_WINDOWS):
         return f'<{angled}> outside of ' + ', '.join(SEES_WINDOWS)
     if angled:
@@ -63,5 +63,5 @@ for path in sources(root):
                     offences += 1
                     print(f'{path}:{number}: {what}')
 print(f'{count} includes, {offences} offences')
-# No include at all means that the folder is not the project's.
+# A folder without includes is not the project's.
 sys.exit(1 if offences or count == 0 else 0)

@@ -1,4 +1,4 @@
-// Geometry of the two styles, and the fitting of texts, in a font whose characters are all equally wide.
+// The geometry of the two box styles, and the fitting of texts, in a font of equally wide characters.
 #include "platform/drawing.h"
 #include "tests/calendar/calendar_test.h"
 #include "toolkit/units.h"
@@ -43,7 +43,7 @@ TEST_F(Box_Styles, columns_and_rows_are_equal_in_pixels_and_nothing_overlaps) {
 }
 
 TEST_F(Box_Styles, texts_are_broken_at_words_and_shortened_at_characters) {
-    // A line holds 13 characters, 10 before "..."; the square box has 4 lines.
+    // A line holds 13 characters, or 10 and "...". The square box has 4 lines.
     Desktop().char_width = 97;
     struct {
         std::int16_t style;
@@ -64,7 +64,7 @@ TEST_F(Box_Styles, texts_are_broken_at_words_and_shortened_at_characters) {
         form.DotDotDot(box, row.text);
         EXPECT_EQ(box.Caption(), row.shown) << row.text;
     }
-    for (const int width : {0, 100, 5000}) { // a text of any length costs little in any font
+    for (const int width : {0, 100, 5000}) { // fitting a long text is cheap in any font
         Desktop().char_width = width;
         Desktop().measured = 0;
         form.DotDotDot(box, std::string(900000, ' ') + std::string(500000, 'i'));

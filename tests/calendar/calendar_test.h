@@ -16,17 +16,26 @@ protected:
         return Fakes().registry["Software\\Vellatro\\Settings\\" + key];
     }
 
-    /// Makes the data file hold these records.
+    /// Replaces the data file with these records.
     static void Events(const std::vector<std::string> &records) {
         Data_File().clear();
         for (const std::string &record : records)
             Data_File() += "\"" + record + "\"\r\n";
     }
 
+    /// Returns the records of the data file without quotes, each followed by "|".
+    static std::string Records() {
+        std::string records;
+        for (const char c : Data_File())
+            records += c == '"' || c == '\r' ? "" : c == '\n' ? "|" : std::string(1, c);
+        return records;
+    }
+
     static std::string In_Pack(const std::string &pack, const std::string &file) {
         return "C:\\Vellatro\\" + pack + "\\" + file;
     }
-    /// Month m has the value text 0-m-1, unless it has another one, and a picture that is m pixels wide.
+    /// Creates a pack. Month m has the details 0-m-1, unless `more_details` replaces them, and a picture m
+    /// pixels wide.
     static void Make_Pack(const std::string &pack, const std::string &more_details = {}) {
         std::string &ini = Fakes().files[In_Pack(pack, "settings.ini")] = "";
         for (int month = 1; month <= 12; ++month) {
@@ -46,12 +55,12 @@ protected:
         form.Redraw();
     }
 
-    /// Of a day of the shown month: its box, and the event text in it.
+    // The box of a day of the shown month: its index, its label, and its event text.
     int Index_Of(int day) { return Main_Frm::Start_Box(form.Cur_Month, form.Cur_Year) + day - 1; }
     Label &Box_Of(int day) { return form.Box_Lbl[Index_Of(day)]; }
     std::string Text_Of(int day) { return form.Box_Caption_Lbl[Index_Of(day)].Caption(); }
 
-    /// The places of all visible controls.
+    /// Returns the bounds of all visible controls.
     std::vector<Rect> Seen() const {
         std::vector<Rect> seen;
         for (const platform::Control_State *control : form.Model().controls)

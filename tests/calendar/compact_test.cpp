@@ -1,4 +1,4 @@
-// Compact mode: its states, its countdown, and that nothing shows a box in it.
+// Compact mode: its states, its countdown, and that no box appears in it.
 #include "tests/calendar/calendar_test.h"
 
 #include <sstream>
@@ -7,7 +7,7 @@ namespace {
 
 class Compact_Mode : public Calendar_Test {
 protected:
-    /// Title alone, and the region with it; or the whole month.
+    /// Expects only the title to be visible and in the region, or the whole month.
     void Expect_State(bool compact) {
         const int days = DaysInMonth({form.Cur_Year, form.Cur_Month, 1});
         EXPECT_EQ(form.Compacted, compact);
@@ -22,8 +22,9 @@ protected:
 };
 
 TEST_F(Compact_Mode, states_and_what_leads_from_one_to_the_other) {
-    // D: double click on the title, M: the mouse moves over it, T: a minute passes, Y and N: the setting;
-    // after each "=", C is compact, E expanded, and t follows when the timer's compaction is remembered.
+    // D is a double click on the title, M a mouse move over it, T a minute that passes; Y and N change the
+    // setting. After "=", C means compact and E expanded; t means that the timer has compacted it and is
+    // remembered.
     std::istringstream steps("D=C M=C T=C D=E T=Ct M=E T=Ct D=Et D=Ct M=E T=Ct N=Ct M=Ct D=Et T=Et Y=Et M=Et "
                              "T=Ct M=E M=E T=Ct T=Ct D=Et T=Ct D=Et N=Et T=Et");
     Stored("Auto Compact") = "1";
@@ -55,7 +56,7 @@ TEST_F(Compact_Mode, activity_begins_the_minute_anew_and_the_timer_waits_for_dia
     for (Callback<bool()> *dialog : {&form.Editor_Visible, &form.Settings_Visible}) {
         Desktop().Advance(59999);
         *dialog = [] { return true; };
-        Desktop().Advance(600000); // once over, it does not come again by itself
+        Desktop().Advance(600000); // once over, the countdown does not restart by itself
         EXPECT_FALSE(form.Compact_Timer.Enabled());
         *dialog = nullptr;
         Expect_State(false);

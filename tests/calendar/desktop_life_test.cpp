@@ -18,10 +18,10 @@ protected:
         Shell() = {.desktop = 11, .view = 12, .list = 13, .colours = {{-1, 0}}, .web_pages = {}};
     }
 
-    /// Takes the title, moves it in two steps and lets it go.
+    /// Drags the title in two steps and releases it.
     void Drag(int right, int down) {
         const Point from{form.Left() + form.Width() / 2, form.Top() + 90};
-        const auto mouse = [&](Input_Kind kind, int x, int y) { // with the mouse in a place on the screen
+        const auto mouse = [&](Input_Kind kind, int x, int y) { // x and y count from the start of the drag
             const Point at{from.x + x - form.Left(), from.y + y - form.Top()};
             Input(form, {.kind = kind, .point = at, .button = Mouse_Button::Left});
         };
@@ -87,7 +87,7 @@ TEST_F(Desktop_Life, follows_the_icons_to_where_the_shell_has_them) {
     Shell().covered = true;
     Desktop().Advance(1000);
     EXPECT_FALSE(Shell().covered);
-    // The window that holds the icons goes, and takes the calendar's along; then the shell itself.
+    // The window that holds the icons is destroyed with the calendar's window, then the shell ends.
     for (const bool shell_stays : {true, false}) {
         const Point on_title{form.Width() / 2, 90}; // in the middle of a drag
         Input(form, {.kind = Input_Kind::Mouse_Down, .point = on_title, .button = Mouse_Button::Left});
@@ -109,7 +109,7 @@ TEST_F(Desktop_Life, waits_two_minutes_for_a_view_that_comes_late_and_again_for_
     Start();
     for (const unsigned time : {119'000U, 120'000U, 239'000U}) {
         Fakes().milliseconds = time;
-        Shell().desktop = time == 119'000 ? 0 : 11; // a shell that crashes comes back
+        Shell().desktop = time == 119'000 ? 0 : 11; // a shell that crashed returns
         Desktop().Advance(1000);
         EXPECT_EQ(form.Attachment.Waiting(), time != 120'000) << time;
         if (time == 120'000)
@@ -162,7 +162,7 @@ TEST_F(Desktop_Life, drags_as_far_as_it_may) {
         EXPECT_EQ(Stored("Manual_PosX"), row.moves ? std::to_string(form.Left()) : "");
         EXPECT_EQ(Stored("Manual_PosY"), row.moves ? std::to_string(form.Top()) : "");
     }
-    // A lost release, told at once or seen by a move without a button, ends the drag where it is.
+    // A lost release ends the drag, whether reported at once or noticed by a move without a button.
     form.Move(3000, 600);
     const Point on_title{form.Width() / 2, 90}, right{on_title.x + 150, 100};
     for (const Input_Kind kind : {Input_Kind::Capture_Lost, Input_Kind::Mouse_Move}) {
@@ -185,9 +185,9 @@ TEST_F(Desktop_Life, a_yes_makes_the_position_manual_and_a_no_lasts_until_the_ne
     }
     EXPECT_EQ(Stored("Alignment") + Stored("Use Theme Pos"), "70");
     Desktop().work_area = {-10000, -10000, 20000, 20000};
-    Drag(40000, -60000); // beyond 16 bits, which the store alone is limited to
+    Drag(40000, -60000); // beyond 16 bits: only the stored position is limited to them
     EXPECT_EQ(Stored("Manual_PosX") + Stored("Manual_PosY"), "32767-32768");
-    for (const int expected : {left - 300 + 40000, 32767}) { // until another place is chosen
+    for (const int expected : {left - 300 + 40000, 32767}) { // the position holds until another is chosen
         form.Redraw();
         EXPECT_EQ(form.Left(), expected);
         Cur_Settings.Manual_PosY = 300;
@@ -204,7 +204,7 @@ TEST_F(Desktop_Life, arrow_keys_with_ctrl_move_it_and_its_place_is_kept_when_ctr
         EXPECT_EQ(Stored("Manual_PosX"), "");
         if (allowed)
             Fakes().Expect_Box(manual_question, Box_Answer::No);
-        for (int i = 0; i < 2; ++i) // the second one moves nothing any more
+        for (int i = 0; i < 2; ++i) // the second one has nothing left to store
             Input(form, {.kind = Input_Kind::Key_Up});
         EXPECT_EQ(form.Left() + form.Top(), allowed ? 2850 + 615 : 3000 + 600);
         EXPECT_EQ(Stored("Manual_PosX") + Stored("Manual_PosY"), allowed ? "2850615" : "");

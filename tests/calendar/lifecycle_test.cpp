@@ -1,4 +1,4 @@
-// Start-up, the date watch, the system's broadcasts, steps, keys, colours and placement.
+// The calendar from start to end: the date watch, the system's broadcasts, placement and restarts.
 #include "app/program.h"
 #include "calendar/box_layout.h"
 #include "tests/calendar/calendar_test.h"
@@ -13,7 +13,7 @@ using Lifecycle = Calendar_Test;
 
 TEST_F(Lifecycle, starts_with_the_month_of_today_in_its_place_and_shape) {
     Events({"5/3/2002=Dentist"});
-    // The alert comes while the events are loaded: the month is laid out, the window not there yet.
+    // The alert appears while the events load: the month is laid out, but the window is still missing.
     Fakes().Expect_Box("Today: 5/3/2002\r\nDentist", platform::Box_Answer::Ok, [this] {
         EXPECT_EQ(Text_Of(5) + form.Which_Month_Lbl.Caption(), "Dentist");
         EXPECT_TRUE(Desktop().mirrors.empty() && Desktop().timers.empty());
@@ -22,7 +22,7 @@ TEST_F(Lifecycle, starts_with_the_month_of_today_in_its_place_and_shape) {
     EXPECT_EQ(form.Which_Month_Lbl.Caption(), "5th March - 2002");
     const Fake_Mirror &window = Desktop().mirrors.at(&form.Model());
     EXPECT_TRUE(window.shown && !window.shown_unclipped);
-    EXPECT_EQ(window.clip.size(), 3U + 7U + 2U * 31U); // the measuring label is not among them
+    EXPECT_EQ(window.clip.size(), 3U + 7U + 2U * 31U); // without the measuring label
     EXPECT_EQ(Fakes().registry_writes, 0);
 }
 
@@ -37,7 +37,7 @@ TEST_F(Lifecycle, an_idle_second_tells_the_window_nothing) {
     Fakes().now.minute = 31;
     Desktop().Advance(2000);
     EXPECT_EQ(Desktop().told, (std::vector<Told_Change>{{"Which_Month_Lbl", platform::Aspect::Caption}}));
-    Fakes().months[2] = "Mars"; // regional settings are followed
+    Fakes().months[2] = "Mars"; // the title follows the regional settings
     Fakes().first_weekday = 1;
     Desktop().Say(Broadcast::Settings_Changed);
     EXPECT_EQ(form.Which_Month_Lbl.Caption() + form.Day_Lbl[0].Caption(), "10:31 - 5th Mars - 2002Mon");
@@ -50,20 +50,20 @@ TEST_F(Lifecycle, a_change_of_date_brings_today_back_and_may_alert_again) {
     Start();
     Show_Month(12, 2005);
     Fakes().now = {2002, 4, 1, 0, 0, 0, 500};
-    form.Alert_Done = false; // as after a day without an event; the alert comes once, with the next tick
+    form.Alert_Done = false; // as after a day without an event; one alert comes with the next tick
     form.Redraw();
     Fakes().Expect_Box("Today: 1/4/2002\r\nApril", platform::Box_Answer::Ok,
-                       [] { Desktop().Advance(3000); }); // ticks go on under the box
+                       [] { Desktop().Advance(3000); }); // timers run while the box is open
     Desktop().Advance(1000);
     EXPECT_EQ(form.Which_Month_Lbl.Caption() + Text_Of(1), "1st April - 2002April");
     EXPECT_EQ(Box_Of(1).Back_Colour(), Cur_Settings.Col_Today);
 
-    // The clock set back is a change of date like any other, and is noticed at once.
+    // Setting the clock back is also a change of date, and is noticed at once.
     Fakes().now = {2002, 3, 5, 9, 0, 0, 0};
     Fakes().Expect_Box("Today: 5/3/2002\r\nMarch");
     Desktop().Say(Broadcast::Time_Changed);
     EXPECT_EQ(Box_Of(5).Access().name, "Tuesday 5th March 2002, today");
-    // Once it is told that the file cannot be read, nothing is claimed about today.
+    // If the file cannot be read, the program says only that.
     Data_File().clear();
     for (const char *told : {"Today: 5/3/2002\r\nNo event.", "Error loading in data file."}) {
         Fakes().Expect_Box(told);
@@ -86,7 +86,7 @@ TEST_F(Lifecycle, keeps_its_place_when_the_work_area_changes_height) {
     EXPECT_EQ(form.Top() + form.Box_Lbl[35].Bounds().Bottom(), 740 * 15 - 75); // six rows
     Show_Month(4, 2002);
     for (const int height : {740, 768}) {
-        Desktop().work_area = {0, 768 - height, 1024, height}; // the same height elsewhere is not noticed
+        Desktop().work_area = {0, 768 - height, 1024, height}; // only a change of height is noticed
         Desktop().Advance(1000);
         EXPECT_EQ(form.Top() + form.Box_Lbl[28].Bounds().Bottom(), height * 15 - 75);
     }
@@ -123,8 +123,8 @@ TEST_F(Lifecycle, comes_back_from_where_something_else_has_moved_it) {
 
 TEST_F(Lifecycle, what_happens_under_an_alert_holds_after_it) {
     Events({"5/3/2002=March", "6/3/2002=next day"});
-    // At the start: a clock that was set within the day is no new day, and at midnight the next one has an
-    // alert of its own, also when the first one is still open.
+    // At the start, a clock set within the day brings no second alert, and the next day brings its own, even
+    // while the first alert is open.
     Fakes().Expect_Box("Today: 5/3/2002\r\nMarch", platform::Box_Answer::Ok, [] {
         Desktop().Say(Broadcast::Time_Changed);
         Fakes().now = {2002, 3, 6, 0, 0, 1, 0};
@@ -142,7 +142,7 @@ TEST_F(Lifecycle, ends_when_it_is_asked_to_and_when_the_session_is_over) {
     for (const Broadcast say :
          {Broadcast::Close_Request, Broadcast::Close_Request, Broadcast::Session_Over}) {
         Desktop().loop_ended = false;
-        Fakes().wallpaper_ordered = true; // which the session's end and the program's wait for
+        Fakes().wallpaper_ordered = true; // the end of session or program waits for it
         Desktop().Say(say);
         EXPECT_EQ(Desktop().loop_ended, say == Broadcast::Session_Over || !unsaved);
         EXPECT_EQ(Fakes().wallpaper_ordered, say != Broadcast::Session_Over);
@@ -153,6 +153,10 @@ TEST_F(Lifecycle, ends_when_it_is_asked_to_and_when_the_session_is_over) {
     Fakes().any_box = true;
     EXPECT_TRUE(Run_Program() == 0 && !Fakes().wallpaper_ordered);
     EXPECT_TRUE(Fakes().boxes.back().text.starts_with("Vellatro was started from a temporary folder"));
+    Stored("Manual_PosX") = "32768"; // a malformed setting ends the start
+    EXPECT_EQ(Run_Program(), 1);
+    EXPECT_TRUE(Fakes().boxes.back().text.starts_with("The setting \"Manual_PosX\"") &&
+                Fakes().boxes.back().icon == platform::Box_Icon::Stop && Fakes().registry_writes == 0);
 }
 
 TEST_F(Lifecycle, starts_again_with_the_next_shell) {

@@ -1,4 +1,4 @@
-// The popup menus, "Clear", the box style keys, and the keyboard's way over the days.
+// The popup menus, "Clear", the box style keys, and moving over the days by keyboard.
 #include "tests/calendar/calendar_test.h"
 
 using platform::Input_Kind;
@@ -24,7 +24,7 @@ protected:
                      .point = {form.Width() / 2 + right, 90},
                      .button = platform::Mouse_Button::Right});
     }
-    /// The marked day, 0: none is seen.
+    /// Returns the marked day, or 0 if no mark is visible.
     std::int16_t Marked() {
         for (Label &box : form.Box_Lbl)
             if (box.State().marked)
@@ -37,14 +37,14 @@ protected:
 TEST_F(Menus, of_a_day) {
     Events({"6/3/2002=first", "6/3/9999=second", "7/3/2002=other"});
     Start();
-    Choose(6, 1); // "Clear" takes the first record of the day, and all that is seen
+    Choose(6, 1); // "Clear" deletes the day's first record, and clears the box
     EXPECT_EQ(Text_Of(6) + Box_Of(6).Tooltip() + Box_Of(6).Access().value, "");
     EXPECT_EQ(Data_File(), "\"6/3/9999=second\"\r\n\"7/3/2002=other\"\r\n");
     Choose(8, 1);
-    Choose(1, 2, [this] { Press_Key(form, 123); }); // compact mode under the menu
+    Choose(1, 2, [this] { Press_Key(form, 123); }); // compact mode begins under the menu
     EXPECT_TRUE(Fakes().writes == 1 && edited == std::vector<int>{5});
     Press_Key(form, 123);
-    // An item chosen after the month changed under the menu does nothing to another day in the same box.
+    // If the month changes under the menu, the chosen item does nothing to the day now in that box.
     edited.clear();
     Show_Month(3, 2002);
     Events({"20/3/2002=a", "24/4/2002=b", "20/4/2002=c", "16/3/2002=d"});
@@ -52,7 +52,7 @@ TEST_F(Menus, of_a_day) {
     for (const int item : {1, 1, 2, 2})
         Choose(20, item, step);
     EXPECT_TRUE(Fakes().writes == 1 && edited.empty());
-    // A month or a year goes with what was shown beside it.
+    // A chosen year keeps the month shown when the menu opened.
     Show_Month(12, 2005);
     Desktop().expected_menus.push_back({"2003|2004|Current Month\\Year|2006|2007", 5, step});
     Press_Key(form, 89);
@@ -104,52 +104,52 @@ TEST_F(Menus, keys_move_the_mark_over_the_month_s_edges) {
         {{2002, 3, 31}, 33, {2002, 2, 28}},   {{1999, 7, 9}, 36, {2002, 3, 5}},
     };
     Start();
-    Press_Key(form, 39); // shows it on today
+    Press_Key(form, 39); // shows the mark on today
     for (const auto &[key, year] : {std::pair(33, 2001), {33, 2000}, {34, 2001}, {34, 2002}}) {
         Input(form, {.kind = Input_Kind::Key_Down, .key = key, .control_key = true});
         EXPECT_TRUE(form.Cur_Year == year && form.Cur_Month == 3) << year;
     }
-    Input(form, {.kind = Input_Kind::Focus_Changed, .checked = true}); // the editor went, by Alt and F4
+    Input(form, {.kind = Input_Kind::Focus_Changed, .checked = true}); // Alt+F4 closed the editor
     Input(form, {.kind = Input_Kind::Key_Up, .key = 115});
     Input(form, {.kind = Input_Kind::Key_Up, .key = 115, .alt = true});
     EXPECT_EQ(form.Cur_Month, 3);
     for (const auto &row : rows) {
         Show_Month(row.from.month, row.from.year);
-        Click(form, Box_Of(row.from.day)); // takes the mark along
+        Click(form, Box_Of(row.from.day)); // moves the mark
         Press_Key(form, row.key);
         EXPECT_EQ(Date_Key({form.Cur_Year, form.Cur_Month, Marked()}), Date_Key(row.to));
         EXPECT_EQ(form.Model().focused, Box_Of(row.to.day).State().index);
     }
     Cur_Settings.Use_Theme_Style = 0;
-    for (const int key : {119, 120}) { // to the other style, and dragged away it stays there
+    for (const int key : {119, 120}) { // the other style; a dragged calendar stays in its place
         EXPECT_EQ(form.Top() == 450, key == 120);
         Press_Key(form, key);
         EXPECT_EQ(Desktop().mirrors.at(&form.Model()).clip, Seen());
         EXPECT_EQ(form.Top() + form.Box_Lbl[35].Bounds().Bottom() == 740 * 15 - 75, key == 119);
         form.Move(300, 450);
     }
-    Input(form, {.kind = Input_Kind::Focus_Changed}); // lost
+    Input(form, {.kind = Input_Kind::Focus_Changed}); // the focus is lost
     EXPECT_EQ(Marked(), 0);
 }
 
 TEST_F(Menus, keys_act_on_the_marked_day_when_they_went_down_here) {
     Stored("Show Alerts") = "0";
     Start();
-    for (const int key : {114, 116}) { // F3 and F5 read the file anew
+    for (const int key : {114, 116}) { // F3 and F5 read the file again
         Events({"5/3/2002=" + std::string(key == 114 ? "F3" : "text")});
         Press_Key(form, key);
         EXPECT_EQ(Text_Of(5), key == 114 ? "F3" : "text");
     }
-    Press_Key(form, 46); // a mark that is not seen yet only appears
+    Press_Key(form, 46); // the first key only shows the mark
     Press_Key(form, 13);
-    Input(form, {.kind = Input_Kind::Key_Up, .key = 46}); // of a key that closed a message box
+    Input(form, {.kind = Input_Kind::Key_Up, .key = 46}); // the key went down in a message box
     EXPECT_EQ(Text_Of(5), "text");
     Desktop().expected_menus = {{day_menu, 0}, {"Expand", 1}};
     Press_Key(form, 93);
     EXPECT_EQ(form.Control_At(*Desktop().menu_at), &form.Box_Caption_Lbl[9]);
     Press_Key(form, 46);
     EXPECT_EQ(Text_Of(5) + Data_File(), "");
-    for (const int key : {123, 13, 93}) // compact, and out of it
+    for (const int key : {123, 13, 93}) // into compact mode and out of it
         Press_Key(form, key);
     EXPECT_TRUE(edited == std::vector<int>{9} && Marked() == 5);
 }

@@ -1,4 +1,4 @@
-// The month in the boxes: layout, events, the alert, and what assistive technology is told.
+// The month in the boxes: layout, events, the alert, and accessible names.
 #include "tests/calendar/calendar_test.h"
 
 namespace {
@@ -30,7 +30,7 @@ TEST_F(Month_Grid, lays_months_out_and_marks_today) {
     Show_Month(3, 2002);
     EXPECT_EQ(Box_Of(5).Access().name + Box_Of(22).Access().name,
               "Tuesday 5th March 2002, todayFriday 22nd March 2002");
-    for (const Label *arrow : {&form.Prev_Month_Lbl, &form.Next_Month_Lbl}) { // it points outwards
+    for (const Label *arrow : {&form.Prev_Month_Lbl, &form.Next_Month_Lbl}) { // each arrow points outwards
         const auto corners = Painted(form, arrow->Bounds()).operations.back().corners;
         ASSERT_EQ(corners.size(), 3U);
         EXPECT_EQ(corners[0].x < corners[1].x, arrow == &form.Prev_Month_Lbl);
@@ -49,11 +49,11 @@ TEST_F(Month_Grid, events_go_to_their_days_as_far_as_the_file_is_sound) {
     EXPECT_EQ(Box_Of(10).Access().value, "") << "left over from the month before";
     for (const std::string bad : {"no key", "", "5/3=x", "a/3/2001=x", "34/3/2001=x", "-5/3/2001=x"}) {
         Events({"31/2/9999=no day, but a box", "1/3/2001=before", bad, "2/3/2001=after"});
-        const bool ends = bad.ends_with("=x"); // other lines are notes between the records
+        const bool ends = bad.ends_with("=x"); // other lines are notes, which do not end the reading
         Fakes().Expect_Box("Error loading in data file.");
         form.Redraw();
         EXPECT_EQ(Text_Of(1) + Text_Of(2), ends ? "before" : "beforeafter") << bad;
-        form.Clear_Box(Index_Of(2)); // an event that is not shown is not cleared
+        form.Clear_Box(Index_Of(2)); // does not clear an event that is not shown
         EXPECT_EQ(Data_File().find("after") != std::string::npos, ends) << bad;
     }
 }
@@ -61,11 +61,11 @@ TEST_F(Month_Grid, events_go_to_their_days_as_far_as_the_file_is_sound) {
 TEST_F(Month_Grid, alerts_once_a_day_of_the_first_event_in_the_file) {
     Events({"5/3/2001=long ago", "5/3/9999=Birthday", "5/3/2002=Dentist"});
     Fakes().Expect_Box("Today: 5/3/2002\r\nBirthday", platform::Box_Answer::Ok, [this] {
-        EXPECT_EQ(Text_Of(5), "Birthday"); // what is read so far is shown behind the box
-        form.Load_Dates();                 // a redraw while the box waits is no second alert
+        EXPECT_EQ(Text_Of(5), "Birthday"); // events read so far show behind the box
+        form.Load_Dates();                 // loading again under the box brings no second alert
     });
     Start();
-    // Another month on display does not matter; the switch does.
+    // The alert does not depend on the displayed month, only on the setting.
     form.Alert_Done = false;
     Cur_Settings.Show_Alerts = 2;
     Show_Month(7, 2010);

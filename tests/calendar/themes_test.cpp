@@ -1,4 +1,4 @@
-// What the calendar takes from a theme pack, and when.
+// How the calendar uses a theme pack, and how it treats a faulty one.
 #include "tests/calendar/calendar_test.h"
 #include "themes/theme_pack.h"
 
@@ -8,9 +8,7 @@ class Themes : public Calendar_Test {
 protected:
     Themes() {
         Stored("Use Themes") = "1";
-        Fakes().files[In_Pack("settings.ini")] = "3=0-6-1,4=1-7-0";
-        for (const char *name : {"3.jpg", "4.jpg"})
-            Fakes().pictures[In_Pack(name)] = {1, 1, std::make_shared<std::vector<std::uint8_t>>(3)};
+        Make_Pack("Default", "3=0-6-1,4=1-7-0");
     }
 
     static std::string In_Pack(const std::string &name) { return "C:\\Vellatro\\Default\\" + name; }
@@ -36,7 +34,7 @@ TEST_F(Themes, A_Pack_Rules_Wallpaper_Style_And_Position) {
     EXPECT_EQ(Fakes().wallpapers, (Paths{In_Pack("3.bmp"), In_Pack("4.bmp")}));
     EXPECT_EQ(Mode(), "02");
     EXPECT_TRUE(form.Effective_Style() == 1 && form.Left() == 300);
-    // A box style key steps from the one that is seen.
+    // A box style key starts from the style on display.
     Cur_Settings.Style = 0;
     for (const auto answer :
          {platform::Box_Answer::Cancel, platform::Box_Answer::No, platform::Box_Answer::Yes}) {
@@ -47,13 +45,13 @@ TEST_F(Themes, A_Pack_Rules_Wallpaper_Style_And_Position) {
         Press_Key(form, 119);
     }
     EXPECT_EQ(Stored("Style") + Stored("Use Theme Style") + std::to_string(form.Effective_Style()), "000");
-    // A store that refuses is told, and the style stays what it was.
+    // If the registry refuses, an error is shown and the style does not change.
     Fakes().registry_refuses_writes = true;
     Fakes().Expect_Box("Software\\Vellatro\\Settings cannot be written");
     Press_Key(form, 119);
     EXPECT_TRUE(Cur_Settings.Style == 0 && form.Effective_Style() == 0);
     Fakes().registry_refuses_writes = false;
-    // What is not wanted is not even read.
+    // Details that are not in use are not read.
     Fakes().files[In_Pack("settings.ini")] = "4=x-y-1";
     Cur_Settings.Use_Theme_Pos = Cur_Settings.Use_Theme_Style = 0;
     Cur_Settings.Style = 0;
@@ -72,7 +70,7 @@ TEST_F(Themes, A_Faulty_Pack_Is_Told_Once_A_Day_And_The_Calendar_Lives) {
     const struct {
         const char *bytes;
         std::string text;
-        int style, position; ///< the user's own, 1 and 8, where the pack has none
+        int style, position; ///< the user's own, 1 and 8, if the pack has none
     } cases[] = {{"", in + "box style of month 3 is \"" + number, 1, 8},
                  {"3=0-32768-1", in + "position of month 3 is \"32768" + number, 0, 8},
                  {"3=x-1", in + "box style of month 3 is \"x" + number, 1, 1},

@@ -1,5 +1,5 @@
-// The fixture of the contract tests: the same cases run against the fakes and, built for Windows, against
-// the real platform procedures. It gives both the means to prepare a case; the cases are in the test files.
+// The fixture of the contract tests. The same tests run against the fakes and, built for Windows, against the
+// real platform procedures; the fixture prepares their cases for either.
 #pragma once
 
 #include <algorithm>
@@ -18,8 +18,8 @@ inline std::string Scratch_Key() {
 
 #include <windows.h>
 
-/// A scratch folder and a scratch registry key, both gone after the test. The short date form of the user is
-/// changed while a test asks for it, and put back.
+/// Creates a scratch folder for each test, and removes it and the scratch registry key. Restores the user's
+/// short date format and calendar.
 class Contract_Test : public ::testing::Test {
 protected:
     Contract_Test() {
@@ -49,7 +49,7 @@ protected:
 
     void Make_Folder(const std::string &path) { CreateDirectoryW(win32::To_Wide(path).c_str(), nullptr); }
 
-    /// Another program has the file for itself, until the test's end.
+    /// Opens the file without sharing until the test ends.
     void Lock_File(const std::string &path) {
         locks_.push_back(win32::Own_File(CreateFileW(win32::To_Wide(path).c_str(), GENERIC_READ, 0, nullptr,
                                                      OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr)));
@@ -60,7 +60,7 @@ protected:
         SetFileAttributesW(win32::To_Wide(path).c_str(), FILE_ATTRIBUTE_READONLY);
     }
 
-    /// The file counts as written in the year 2000.
+    /// Sets the last write of the file to the year 2000.
     void Age_File(const std::string &path) {
         const FILETIME time = {0, 0x01C00000};
         const win32::Unique_File file = win32::Own_File(CreateFileW(
@@ -68,7 +68,7 @@ protected:
         ASSERT_TRUE(SetFileTime(file.get(), nullptr, nullptr, &time));
     }
 
-    /// Names in the scratch folder, in order.
+    /// Returns the names in the scratch folder, sorted.
     std::vector<std::string> Names_Left() const {
         std::vector<std::string> names;
         WIN32_FIND_DATAW found;
@@ -82,24 +82,25 @@ protected:
         return names;
     }
 
-    /// `pattern` of d, dd, m, mm, yyyy and literals.
+    /// Sets the user's short date format, a pattern of d, dd, m, mm, yyyy and literals.
     void Use_Short_Date(const std::string &pattern) {
-        if (*short_date_before_ == 0)
-            GetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_SSHORTDATE, short_date_before_, 81);
         std::wstring wide = win32::To_Wide(pattern);
         std::replace(wide.begin(), wide.end(), L'm', L'M');
-        ASSERT_TRUE(SetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_SSHORTDATE, wide.c_str()));
+        Set_Locale(LOCALE_SSHORTDATE, wide, short_date_before_);
     }
 
-    /// By the system's number of its kind.
+    /// Sets the user's calendar.
     void Use_Calendar(CALID calendar) {
-        if (*calendar_before_ == 0)
-            GetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_ICALENDARTYPE, calendar_before_, 81);
-        ASSERT_TRUE(
-            SetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_ICALENDARTYPE, std::to_wstring(calendar).c_str()));
+        Set_Locale(LOCALE_ICALENDARTYPE, std::to_wstring(calendar), calendar_before_);
     }
 
 private:
+    static void Set_Locale(LCTYPE type, const std::wstring &value, wchar_t (&before)[81]) {
+        if (*before == 0)
+            GetLocaleInfoW(LOCALE_USER_DEFAULT, type, before, 81);
+        ASSERT_TRUE(SetLocaleInfoW(LOCALE_USER_DEFAULT, type, value.c_str()));
+    }
+
     std::wstring folder_;
     wchar_t calendar_before_[81] = {};
     wchar_t short_date_before_[81] = {};
@@ -107,6 +108,7 @@ private:
 };
 
 #else
+#include "platform/files.h"
 #include "tests/fakes/fake_test.h"
 
 class Contract_Test : public Fake_Test {
@@ -125,12 +127,7 @@ protected:
     static void Age_File(const std::string &path) { Fakes().written[path] = {2000, 8, 7, 0, 0, 0, 0}; }
 
     static std::vector<std::string> Names_Left() {
-        const std::string folder = Scratch("");
-        std::vector<std::string> names;
-        for (const auto &[path, bytes] : Fakes().files)
-            if (path.starts_with(folder))
-                names.push_back(path.substr(folder.size()));
-        return names;
+        return platform::Names_In_Folder("C:\\Scratch", platform::Listed::Files);
     }
 
     static void Use_Short_Date(const std::string &pattern) { Fakes().short_date_pattern = pattern; }

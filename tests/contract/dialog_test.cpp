@@ -1,5 +1,5 @@
-// The native controls of dialogs: driven as the system drives them, what the form hears of the user, and that
-// it hears nothing of its own changes. In the native test program this file holds no tests.
+// The native controls of dialogs, driven as the system drives them: the form receives what the user does, and
+// nothing about its own changes. These tests need Windows.
 #ifdef _WIN32
 #include "base/twips.h"
 #include "platform/forms.h"
@@ -27,7 +27,7 @@ enum { Tabs, Page, Group, Opt_1, Opt_2, Check, Combo, Typed, List, Thumb, Bar, P
 constexpr const char *event_names[] = {"down",  "up",   "move",     "double", "key",       "keyup",
                                        "click", "text", "selected", "scroll", "activated", "default"};
 
-/// A dialog with a control of each kind, whose form follows the user as the toolkit's do.
+/// A dialog with a control of each kind. Its form follows the user's input like a toolkit form.
 class Dialog_Contract : public ::testing::Test {
 protected:
     Dialog_Contract() {
@@ -93,7 +93,7 @@ protected:
     LRESULT Send(int index, UINT message, WPARAM wparam = 0, LPARAM lparam = 0) {
         return SendMessageW(Native(index), message, wparam, lparam);
     }
-    /// The notification that a standard control sends.
+    /// Sends the dialog a standard control's notification.
     void Notify(int index, int code) {
         SendMessageW(window_, WM_COMMAND, static_cast<WPARAM>(MAKELONG(100 + index, code)),
                      reinterpret_cast<LPARAM>(Native(index)));
@@ -104,7 +104,7 @@ protected:
         Send(Tabs, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(place.left + 5, place.top + 5));
         Send(Tabs, WM_LBUTTONUP, 0, MAKELPARAM(place.left + 5, place.top + 5));
     }
-    /// A key as it comes from the queue, with Ctrl held or not.
+    /// Sends a key through the message queue, with or without Ctrl.
     void Type(int index, WPARAM key, bool with_control = false) {
         BYTE keys[256] = {};
         keys[VK_CONTROL] = with_control ? 0x80 : 0;
@@ -127,12 +127,12 @@ TEST_F(Dialog_Contract, The_Form_Hears_What_The_User_Does) {
         return std::to_string(Pixels_To_Twips(pixels, platform::Dots_Per_Inch()));
     };
     const std::pair<std::function<void()>, std::string> cases[] = {
-        {[this] { Notify(Opt_1, BN_CLICKED); }, ""}, // the keyboard has reached it
+        {[this] { Notify(Opt_1, BN_CLICKED); }, ""}, // as when it gets the focus by keyboard
         {[this] { Send(Opt_2, BM_CLICK); }, "click 4 on; "},
         {[this] { Send(Check, BM_CLICK); }, "click 5 on; "},
         {[this] { Send(Check, BM_CLICK); }, "click 5 off; "},
         {[this] { Send(Combo, CB_SETCURSEL, 2), Notify(Combo, CBN_SELCHANGE); }, "selected 6 2; "},
-        // A list that closes on another item than it was opened with.
+        // A list that closes with another item than it opened with.
         {[this] { Send(Combo, CB_SETCURSEL, 1), Notify(Combo, CBN_CLOSEUP); }, "selected 6 1; "},
         {[this] { SendMessageA(Typed_Text(), WM_CHAR, 'x', 0); }, "text 7 x; "},
         {[this] { SendMessageA(Typed_Text(), EM_REPLACESEL, 0, reinterpret_cast<LPARAM>(" yz ")); },
@@ -146,14 +146,14 @@ TEST_F(Dialog_Contract, The_Form_Hears_What_The_User_Does) {
         {[this] { Press_Tab(1); }, "selected 0 1; "},
         {[this] { Type(List, VK_TAB, true); }, "selected 0 2; "},
         {[this] { Type(Check, VK_NEXT, true); }, "selected 0 0; "},
-        // Let go where it was.
+        // A slider that does not move.
         {[this] { Send(Thumb, WM_KEYDOWN, VK_LEFT), Send(Thumb, WM_KEYUP, VK_LEFT); }, ""},
         {[this] { Send(Thumb, WM_KEYDOWN, VK_RIGHT), Send(Thumb, WM_KEYUP, VK_RIGHT); },
          "scroll 9 2; selected 9 2; "},
         {[this] { Send(Picture, WM_LBUTTONDOWN, MK_LBUTTON, 4); }, "down 11 " + twips(4) + "; "},
         {[this] { Send(Picture, WM_LBUTTONUP, 0, 6); }, "up 11 " + twips(6) + "; "},
         {[this] { Type(Picture, VK_LEFT), Type(Picture, VK_SPACE); }, "key 11 37; click 11 off; "},
-        {[this] { Type(Picture, VK_RETURN); }, ""}, // the default button's, where it does nothing
+        {[this] { Type(Picture, VK_RETURN); }, ""}, // the default button gets the key
         {[this] { controls_[Picture].access.default_action = "Pick", Type(Picture, VK_RETURN); },
          "key 11 13; "},
     };
@@ -182,12 +182,12 @@ TEST_F(Dialog_Contract, Its_Own_Changes_Show_And_Are_Not_Told) {
                 Send(List, LB_GETCURSEL) == 3);
     EXPECT_TRUE(Send(Thumb, TBM_GETPOS) == 40 && Send(Bar, PBM_GETPOS) == 60);
     EXPECT_TRUE(Send(Opt_1, BM_GETCHECK) == BST_CHECKED && Send(Check, BM_GETCHECK) == BST_CHECKED);
-    const LRESULT font = Send(List, WM_GETFONT); // new fonts of the system reach all controls
+    const LRESULT font = Send(List, WM_GETFONT); // all controls take new fonts of the system
     win32::Check_Scale(true);
     EXPECT_EQ(GetObjectType(reinterpret_cast<HGDIOBJ>(Send(List, WM_GETFONT))), DWORD{OBJ_FONT});
     EXPECT_TRUE(Send(List, WM_GETFONT) == Send(Check, WM_GETFONT) && Send(List, WM_GETFONT) != font);
     EXPECT_EQ(Take_Log(), "");
-    model_.enabled = false; // and a text that it does not take is put back
+    model_.enabled = false; // a disabled form rejects text, which is restored
     platform::Form_Changed(model_, Aspect::Enabled);
     SendMessageW(Typed_Text(), WM_CHAR, 'x', 0);
     EXPECT_TRUE(!IsWindowEnabled(window_) && GetWindowTextLengthW(Typed_Text()) == 0);
@@ -200,7 +200,7 @@ TEST_F(Dialog_Contract, On_A_Screen_Of_Another_Scale_It_Follows_That_And_Nothing
         SendMessageW(window_, WM_DPICHANGED, static_cast<WPARAM>(MAKELONG(dots, dots)),
                      reinterpret_cast<LPARAM>(&wanted));
         platform::Process_Waiting_Messages();
-        const int now = dots == 0 ? 144 : dots; // no scale at all is not taken
+        const int now = dots == 0 ? 144 : dots; // a scale of 0 is ignored
         EXPECT_EQ(laid_out_at_, now);
         EXPECT_EQ(platform::Dots_Per_Inch(), calendar_dots);
         GetClientRect(window_, &client);
@@ -255,7 +255,7 @@ TEST_F(Dialog_Contract, Beside_A_Message_Box_Nothing_Changes) {
     EXPECT_TRUE(Send(Check, BM_GETCHECK) == BST_UNCHECKED && Send(Tabs, TCM_GETCURSEL) == -1);
 }
 
-/// The picture's own colour, the page's where it paints nothing, and the later control lies over it.
+/// The picture shows its own colour, and the page's where it paints nothing. Later controls lie above it.
 TEST_F(Dialog_Contract, What_Paints_Itself_Lies_On_The_Page) {
     const HDC screen = GetDC(nullptr);
     const win32::Unique_Memory_Dc dc(CreateCompatibleDC(screen));

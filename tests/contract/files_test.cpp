@@ -1,4 +1,4 @@
-// What platform/files.h promises: whole files, replaced whole or not at all.
+// The contract of platform/files.h: files are read and replaced as a whole or not at all.
 #include "platform/files.h"
 #include "tests/contract/contract.h"
 
@@ -12,7 +12,7 @@ TEST_F(Files_Contract, Keeps_Every_Byte_Under_Any_Name) {
     for (int i = 0; i < 300'000; ++i)
         all_bytes += static_cast<char>(i + i / 4096);
     const std::string path = Scratch("calendar.dat");
-    // Longer after shorter and shorter after longer: nothing of the old content may stay.
+    // Longer and shorter contents alternate: nothing of the old contents may remain.
     for (const std::string &bytes : {std::string("\n\x1A\r\n"), all_bytes, std::string("x"), std::string(),
                                      std::string("\xEF\xBB\xBF\0", 4)}) {
         platform::Replace_File(path, bytes);
@@ -28,7 +28,7 @@ TEST_F(Files_Contract, Keeps_Every_Byte_Under_Any_Name) {
     EXPECT_EQ(platform::Read_File(Scratch("Notes 1.TXT")), "new");
     EXPECT_EQ(Names_Left().size(), 4U);
     Age_File(Scratch("Notes 1.txt"));
-    platform::Copy_File(Scratch("Notes 1.txt"), path); // which is as old as the original then
+    platform::Copy_File(Scratch("Notes 1.txt"), path); // the copy keeps the original's time
     EXPECT_EQ(platform::Read_File(path) + std::to_string(platform::Modified_Time(path).year), "new2000");
     platform::Replace_File(path, "newer");
     EXPECT_NE(platform::Modified_Time(path).year, 2000);

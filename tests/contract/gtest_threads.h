@@ -1,6 +1,6 @@
-// Two names that GoogleTest's header mentions and that the standard library of the compiler variant without
-// a thread library lacks. They stand in one class for GoogleTest's own tests, which nobody here uses: they
-// do nothing. Included by force before GoogleTest; no file of the project includes it.
+// Stubs of std::mutex and std::condition_variable, which GoogleTest's header mentions and which the compiler
+// variant without a thread library lacks. GoogleTest uses them only in a class for its own tests. The build
+// includes this file before GoogleTest by a compiler option.
 #pragma once
 
 #include <mutex>

@@ -1,4 +1,4 @@
-// What platform/locale.h and text.h promise: names, the short date form, and texts of older files.
+// The contract of platform/locale.h and text.h: names, the short date format, and texts of older files.
 #include "platform/locale.h"
 #include "platform/text.h"
 #include "tests/contract/contract.h"
@@ -8,7 +8,7 @@ namespace {
 using Locale_Contract = Contract_Test;
 
 TEST_F(Locale_Contract, Names_Are_Those_Of_The_Language) {
-    // The tests run with English settings, here as there.
+    // The tests run with English settings natively and on Windows.
     std::string names;
     for (int weekday = 0; weekday < 7; ++weekday)
         names += platform::Weekday_Name(weekday) + " " + platform::Short_Weekday_Name(weekday) + " ";
@@ -54,7 +54,7 @@ TEST_F(Locale_Contract, Dates_Are_Read_In_The_Order_Of_The_Form) {
 }
 
 TEST_F(Locale_Contract, Older_Texts_Are_Those_Of_The_Systems_Code_Page) {
-    // The tests run on a Western system, here as there. Bytes without a meaning keep their value.
+    // The tests run with a Western code page natively and on Windows. Undefined bytes keep their value.
 #ifdef _WIN32
     EXPECT_EQ(GetACP(), 1252U)
         << "all these tests show that texts survive where the process's page is not theirs";

@@ -1,4 +1,4 @@
-// What platform/registry.h promises: values come back as they were written.
+// The contract of platform/registry.h: values are read as they were written.
 #include "platform/registry.h"
 #include "tests/contract/contract.h"
 
@@ -40,7 +40,7 @@ TEST_F(Registry_Contract, Values_Have_The_Type_Of_Their_Letter) {
             EXPECT_EQ(read(other), std::toupper(other) == letter ? value : Value("none")) << letter << other;
     }
     EXPECT_EQ(read('S', "hkcu"), Value("none"));
-    // The simple way makes no key.
+    // Registry_Write_String creates no key.
     const platform::Registry_Root user = platform::Find_Registry_Root("HKCU");
     platform::Registry_Write_String(user, key + "\\Below", "Value", "x");
     EXPECT_EQ(platform::Read_User_Value(key + "\\Below", "Value"), std::nullopt);

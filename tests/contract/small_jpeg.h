@@ -1,11 +1,11 @@
-// JPEG pictures for tests, as small as they come.
+// Very small JPEG pictures for tests.
 #pragma once
 
 #include <string>
 #include <string_view>
 
-/// A grey picture of 10 by 6 pixels. Its only coefficient is scaled by `step`, 1 to 12, so that all its
-/// pixels have the brightness 128 + 8 * step.
+/// Returns a grey picture of 10 by 6 pixels. `step`, 1 to 12, scales its only coefficient, so every pixel has
+/// the brightness 128 + 8 * step.
 inline std::string Small_Jpeg(int step) {
     using namespace std::string_view_literals;
     constexpr std::string_view frame = "\xFF\xC0\0\x0B\x08\0\x06\0\x0A\x01\x01\x11\0"sv;

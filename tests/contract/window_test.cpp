@@ -1,4 +1,4 @@
-// Where a form's window is, whoever moved it.
+// The contract of platform/forms.h about a window's place, and of message_loop.h about waiting input.
 #include "base/twips.h"
 #include "platform/forms.h"
 #include "platform/message_loop.h"
@@ -23,7 +23,7 @@ TEST_F(Window_Contract, Its_Place_Is_Where_It_Is_And_It_Can_Be_Put_Back) {
                Point{pixels(model.bounds.left) + right, pixels(model.bounds.top) + down};
     };
     EXPECT_EQ(platform::Window_Corner(model), std::nullopt);
-    for (const bool mirrored : {false, true}) { // the window that it is in, as in the shell's
+    for (const bool mirrored : {false, true}) { // the parent window, like the shell's
         model.bounds = {3000, 1500, 1500, 900};
         platform::Create_Mirror(model);
         EXPECT_TRUE(is_put());

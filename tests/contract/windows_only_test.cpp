@@ -1,6 +1,5 @@
-// What only Windows has to show: file attributes and sharing, long names, kinds of registry values, pictures,
-// the native message box, and dates beside the system's own. In the native test program this file holds no
-// tests.
+// What only Windows can show: file attributes and sharing, long names, types of registry values, pictures,
+// the native message box, and dates compared with the system's.
 #ifdef _WIN32
 #include "platform/files.h"
 #include "platform/locale.h"
@@ -23,8 +22,8 @@ namespace {
 
 using Windows_Only = Contract_Test;
 
-/// The calendar repeats after 400 years, so the same day 400 years later, which the system formats, differs
-/// from our own text in the year alone.
+/// The calendar repeats after 400 years. So the text that the system gives for a day 400 years later differs
+/// from ours only in the year.
 TEST_F(Windows_Only, Early_Dates_Are_Formatted_As_The_System_Does) {
     for (const char *pattern : {"dddd, d. MMMM yyyy", "ddd dd/MMM/yyyy", "'the' d 'of' MMMM, yyyy",
                                 "d 'o''clock' yyyy", "yyyy年M月d日", "d/M/yy"}) {
@@ -60,7 +59,7 @@ TEST_F(Windows_Only, Dates_Beside_Another_Calendar_Are_Gregorian_And_Come_Back) 
             EXPECT_EQ(std::tuple(read.year, read.month, read.day), std::tuple(2026, month, day)) << text;
         }
     }
-    // ./test runs this for users of all four languages.
+    // ./test runs this for users of each of the four languages.
     const std::map<LANGID, std::string> names{
         {0x409, "February"}, {0x41E, "กุมภาพันธ์"}, {0x401, "فبراير"}, {0x429, "فوریه"}};
     Use_Calendar(CAL_THAI);
@@ -74,7 +73,7 @@ TEST_F(Windows_Only, A_Wallpaper_That_The_System_Writes_Over_Is_Copied) {
              {"transcodedwallpaper", "Vellatro_transcodedwallpaper.jpg"},
              {"TranscodedWallpaper_001.png", "Vellatro_TranscodedWallpaper_001.png"},
              {image, "Vellatro_CachedImage_1920_1080_POS4.jpg"},
-             {"TranscodedWallpaper_002", "TranscodedWallpaper_002"}, // which is not there
+             {"TranscodedWallpaper_002", "TranscodedWallpaper_002"}, // missing
              {"Sunset.jpg", "Sunset.jpg"}}) {
         if (!name.ends_with('2'))
             platform::Replace_File(Scratch(name), "the picture " + name);
@@ -139,7 +138,7 @@ TEST_F(Windows_Only, A_Start_From_The_Temporary_Folder_Is_Seen) {
     SetEnvironmentVariableW(L"TMP", before);
 }
 
-/// Only the prefix lets older systems take long names; and names that are none are refused.
+/// Older systems accept long paths only with the prefix. Invalid paths are refused.
 TEST_F(Windows_Only, Names_Are_Given_In_The_Form_That_The_System_Takes) {
     const std::string part(300, 'x');
     const std::wstring wide_part(300, L'x');
@@ -170,7 +169,7 @@ TEST_F(Windows_Only, All_Kinds_Of_Stored_Texts_And_Numbers_Are_Read) {
         DWORD type, size;
         std::string expected;
         const void *data;
-    } cases[] = {{REG_SZ, 6, "abc", text}, // no zero at its end
+    } cases[] = {{REG_SZ, 6, "abc", text}, // without a final zero
                  {REG_SZ, 16, "abc", text},
                  {REG_SZ, 5, "ab", text},
                  {REG_SZ, 0, "", text},
@@ -183,14 +182,14 @@ TEST_F(Windows_Only, All_Kinds_Of_Stored_Texts_And_Numbers_Are_Read) {
         store(type, data, size);
         EXPECT_EQ(platform::Read_User_Value(Scratch_Key(), "Value"), expected) << type << ", " << size;
     }
-    store(REG_EXPAND_SZ, L"<%OS%>", 12); // as some systems keep their own wallpaper
+    store(REG_EXPAND_SZ, L"<%OS%>", 12); // some systems store the wallpaper this way
     EXPECT_EQ(platform::Registry_Read("HKCU", Scratch_Key(), "Value", 'S', "none"),
               platform::Registry_Value("<Windows_NT>"));
-    // No key can have this name.
+    // This name is too long for a key.
     EXPECT_THROW(platform::Write_User_Value(std::string(300, 'k'), "Value", "1"), platform::Registry_Error);
 }
 
-/// The button that is pressed in a message box, and what was seen before.
+/// The button to press in a message box, and what the box showed before that.
 struct Box_Visit {
     std::wstring title;
     WPARAM button;
@@ -231,7 +230,7 @@ TEST_F(Windows_Only, Message_Boxes_Show_Their_Text_And_Answer) {
         {std::string(5000, 'x'), Box_Buttons::Yes_No, IDYES, Box_Answer::Yes,
          std::wstring(1000, L'x') + L"..."},
         {lines, Box_Buttons::Ok, IDOK, Box_Answer::Ok, win32::To_Wide(lines.substr(0, 30 * 6 - 2)) + L"..."}};
-    // With a dialog in use the box belongs to it, and the program's other windows are locked all the same.
+    // A box that belongs to an active dialog disables the program's other windows, too.
     const auto window = [](DWORD style) {
         return CreateWindowW(L"STATIC", L"", style | WS_VISIBLE, 0, 0, 90, 50, nullptr, nullptr, nullptr,
                              nullptr);
@@ -271,7 +270,7 @@ TEST_F(Windows_Only, Pictures_Are_Loaded_Whole_Or_Not_At_All_And_Scaled_By_Means
             EXPECT_TRUE(std::string(error.what()).starts_with(path + ": ")) << error.what();
         }
     }
-    std::vector<std::uint8_t> pixels; // four by two: 0, 10, 20, 30 and 40, 50, 60, 70 of blue
+    std::vector<std::uint8_t> pixels; // 4 by 2 pixels with blue values of 0, 10, 20, 30 and 40, 50, 60, 70
     for (int i = 0; i < 8; ++i)
         pixels.insert(pixels.end(), {static_cast<std::uint8_t>(10 * i), 2, 3});
     const Picture small{4, 2, std::make_shared<const std::vector<std::uint8_t>>(pixels)};

@@ -1,4 +1,4 @@
-// Calendar arithmetic at its bounds, the date keys, and conversions: what is taken and what is refused.
+// Calendar arithmetic at its limits, date keys, and conversions: what they accept and refuse.
 #include "core/convert.h"
 #include "core/date.h"
 

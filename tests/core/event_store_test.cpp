@@ -1,10 +1,7 @@
-// The event procedures on a disk in memory: which record counts, what is written, and what a failure leaves.
+// The event store: which record counts, what it writes, and what failures leave.
 #include "core/event_store.h"
 #include "tests/fakes/fake_test.h"
 
-#include <algorithm>
-#include <cstdio>
-#include <optional>
 #include <random>
 #include <stdexcept>
 
@@ -20,7 +17,7 @@ class Event_Store_Test : public Fake_Test {
 protected:
     std::string &File() { return Fakes().files["C:\\Vellatro\\calendar.dat"]; }
 
-    /// What the editor and the menu do: load, then store.
+    /// Loads the file and stores the text, as the editor does.
     void Save(const std::string &text, bool each_year = false) {
         store.Load_File();
         store.Check_For_Pre("5/3/2002", text, each_year);
@@ -86,9 +83,9 @@ TEST_F(Event_Store_Test, A_Rewrite_Loses_Nothing_Of_A_Hand_Written_File) {
 
 TEST_F(Event_Store_Test, What_Cannot_Be_Read_Is_Told_And_Never_Overwritten) {
     const std::string path = "C:\\Vellatro\\calendar.dat";
-    // A quote that is not closed, a NUL, UTF-16, and a file that another program holds.
-    for (const std::string &bytes : {"\"1/1/2002=A\"\r\n\"5/3/2002=B\r\n"s, "\"1/1/2002=A\"\0"s,
-                                     "\xFF\xFE\"\0001\0"s, "\"1/1/2002=A\""s}) {
+    // An open quote, a NUL, UTF-16, and a file that another program has locked.
+    for (const std::string &bytes : {"\"1/1/2002=A\"\r\n\"5/3/2002=B\r\n" + std::string(2'000'000, '\n'),
+                                     "\"1/1/2002=A\"\0"s, "\xFF\xFE\"\0001\0"s, "\"1/1/2002=A\""s}) {
         const bool locked = bytes.ends_with("A\""), none = locked || bytes[0] != '"';
         File() = bytes;
         if (locked)
@@ -100,14 +97,14 @@ TEST_F(Event_Store_Test, What_Cannot_Be_Read_Is_Told_And_Never_Overwritten) {
         EXPECT_EQ(store.Get_Message("1/1/2002").text, none ? "" : "A");
         Save("new");
         EXPECT_FALSE(store.Check_For_Pre("1/1/2002", none ? "new" : "", false));
-        EXPECT_FALSE(store.Check_For_Pre("9/9/2002", "", false)); // there may be one
+        EXPECT_FALSE(store.Check_For_Pre("9/9/2002", "", false)); // the file may hold an event of that day
         EXPECT_EQ(File(), bytes);
     }
     EXPECT_EQ(Fakes().writes, 0);
     for (const Shown_Box &box : Fakes().boxes)
         EXPECT_TRUE(box.title == "Vellatro" && box.icon == platform::Box_Icon::Stop) << box.text;
-    // After a good loading saving works again, if the text can be written and the file, too. A text that is
-    // saved while the message is shown outlives the save that was about to begin.
+    // After a successful load, saving works again, if text and file can be written. A text saved while the
+    // message is open survives the save that follows.
     Fakes().Expect_Box(loading_failed, platform::Box_Answer::Ok, [this] {
         Fakes().unreadable.clear();
         File() = Quoted({"1/1/2002=A"});
@@ -128,7 +125,7 @@ TEST_F(Event_Store_Test, What_Cannot_Be_Read_Is_Told_And_Never_Overwritten) {
 TEST_F(Event_Store_Test, A_Note_Between_The_Records_Is_Told_And_Hides_None) {
     File() = "5/3/2002=A\n\nnote, to myself\n6/3/2002=bad\n5/3/9999=B\n";
     for (int reading = 0; reading < 3; ++reading)
-        Fakes().Expect_Box(loading_failed); // once a reading
+        Fakes().Expect_Box(loading_failed); // once for each read
     const Stored_Message message = store.Get_Message("5/3/2002");
     EXPECT_EQ(message.text, "B");
     EXPECT_TRUE(message.every_year && !message.incomplete);
@@ -140,7 +137,7 @@ TEST_F(Event_Store_Test, A_Note_Between_The_Records_Is_Told_And_Hides_None) {
         shown.emplace_back(record);
     }));
     EXPECT_EQ(shown, Items{"5/3/2002=A"});
-    // The store may be entered again while a month is filled.
+    // Load_Dates may be called again, and events saved, from its callback.
     File() = Quoted({"5/3/2002=A", "6/3/2002=B"});
     Items outer, inner;
     store.Load_Dates([&](std::string_view record) {
@@ -155,38 +152,24 @@ TEST_F(Event_Store_Test, A_Note_Between_The_Records_Is_Told_And_Hides_None) {
 }
 
 TEST_F(Event_Store_Test, Random_Changes_Are_Undone_Byte_For_Byte) {
-    const unsigned seed = std::random_device()();
-    std::printf("seed %u\n", seed);
-    std::mt19937 random(seed);
+    std::mt19937 random;
     const auto upto = [&random](std::size_t count) { return static_cast<std::size_t>(random() % count); };
     auto &files = Fakes().files;
-    const std::string path = Event_Store::Data_File();
     for (const bool hand_written : {false, true}) {
-        store.Changes = Undo_Log(path);
-        files.erase(path);
+        files.clear();
         if (hand_written)
             File() = "\xEF\xBB\xBF 1/1/2002=it\"s \n\n\"2/1/2002=a\",5/3/2002\r\"3/1/2002=\x93\"  \n";
-        // The former files, of which the last ones can come back.
-        std::vector<std::optional<std::string>> former;
-        const auto now = [&]() -> std::optional<std::string> {
-            return files.contains(path) ? std::optional(File()) : std::nullopt;
-        };
-        std::size_t kept = 0;
-        const auto undo = [&] {
-            ASSERT_EQ(store.Undo(), kept > 0);
-            if (kept == 0)
-                return;
-            ASSERT_EQ(now(), former.back());
-            former.pop_back();
-            --kept;
-        };
-        for (int changes = 0; changes < 10'000 && !HasFatalFailure();) {
-            if (upto(2) == 0) {
-                undo();
+        std::deque<decltype(Fakes().files)> former; // the disk before each change that can be undone
+        for (int step = 0; step < 20'000 || !former.empty(); ++step) {
+            if (step >= 20'000 || upto(2) == 0) {
+                ASSERT_EQ(store.Undo(), !former.empty());
+                if (former.empty())
+                    continue;
+                ASSERT_EQ(files, former.back());
+                former.pop_back();
                 continue;
             }
-            ++changes;
-            former.push_back(now());
+            former.push_back(files);
             {
                 const Undo_Log::Change change(store.Changes, "Edit");
                 for (std::size_t writes = upto(3) + 1; writes > 0; --writes) {
@@ -196,13 +179,11 @@ TEST_F(Event_Store_Test, Random_Changes_Are_Undone_Byte_For_Byte) {
                 }
                 const Undo_Log::Change inner(store.Changes, "belongs to the other");
             }
-            if (former.back() == now())
+            if (former.back() == files)
                 former.pop_back();
-            else
-                kept = std::min(kept + 1, Undo_Log::most_steps);
+            else if (former.size() > Undo_Log::most_steps)
+                former.pop_front();
         }
-        while (kept > 0 && !HasFatalFailure())
-            undo();
         EXPECT_FALSE(store.Undo());
     }
 }

@@ -1,4 +1,4 @@
-// The rules by which a sequential file falls into items, and that what is written reads back the same.
+// The rules for the items of a sequential file, and that written items are read back unchanged.
 #include "core/sequential.h"
 
 #include <gtest/gtest.h>
@@ -31,7 +31,7 @@ TEST(Sequential, Reads_By_Comma_And_Quote_Rules) {
         {"a,b \x1A\"", {"a", "b"}},
         {"a\n\n\n \x1A\xFF,\0"s, {"a"}},
         {"a\n\n\nb\x1A", {"a", "", "", "b"}},
-        // Each item is of one encoding.
+        // Each item has its own encoding.
         {"\"\xE9\x80\",\u00E9\u65E5\n\xE9", {"\u00E9\u20AC", "\u00E9\u65E5", "\u00E9"}},
         {"a\nb\rc\r\nd", {"a", "b", "c", "d"}},
         {" \t a b \t,\t\" c \" \t, d \r\n", {"a b", " c ", "d"}},
@@ -50,7 +50,7 @@ TEST(Sequential, Reads_By_Comma_And_Quote_Rules) {
 }
 
 TEST(Sequential, What_Is_Written_Reads_Back_The_Same) {
-    // A byte-order mark is one at the file's beginning only.
+    // A byte order mark counts only at the start of the file.
     const std::vector<std::string> items{
         "\xEF\xBB\xBF \" quote", "a, b = c", "", " blanks ", "two\r\nlines", "nul\0inside"s, "it\"s",
         "\xEF\xBB\xBFmark",      "\x1A"};

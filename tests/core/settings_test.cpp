@@ -1,4 +1,4 @@
-// The settings table against the store: names, sections, types, defaults and errors.
+// The settings table: names, sections, types, defaults and errors.
 #include "core/settings.h"
 #include "platform/registry.h"
 #include "tests/fakes/fake_test.h"
@@ -20,7 +20,7 @@ std::string Load_Error() {
     return "no error";
 }
 
-/// Section, key and default of every setting in reading order.
+/// Section, key and default of every setting in the order of the table.
 const std::string told =
     "Settings\\Style=1;Settings\\Alignment=0;Colours\\Today=16761024;Colours\\Normal=16777215;"
     "Colours\\Fore=16777215;Colours\\Num=-2147483630;Colours\\Text=-2147483630;Colours\\Back=8390687;"
@@ -72,7 +72,7 @@ TEST_F(Settings_Test, A_Malformed_Value_Is_Named_And_Ends_The_Loading) {
     EXPECT_TRUE(Cur_Settings.Style == 2 && Cur_Settings.Col_Num == -2147483647 - 1);
     EXPECT_EQ(Cur_Settings.Tooltips, 1);
     Fakes().registry.clear();
-    // A long value is cut between whole characters.
+    // The message cuts a long value between characters.
     std::string value = "x";
     for (int i = 0; i < 500; ++i)
         value += "\xC3\xA9";

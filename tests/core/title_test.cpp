@@ -1,4 +1,4 @@
-// The title in every form, and the patterns that users may type.
+// The title in each date format, and the patterns that users may type.
 #include "core/settings.h"
 #include "core/title.h"
 #include "tests/fakes/fake_test.h"
@@ -57,7 +57,7 @@ TEST_F(Title_Test, The_Five_Date_Forms) {
 TEST_F(Title_Test, An_Unknown_Form_Is_Repaired_Once) {
     std::string &setting = Cur_Settings.Bar_Date_Format;
     for (const bool refuses : {false, true}) {
-        setting = "Mm/yyyy"; // names are exact
+        setting = "Mm/yyyy"; // names are case-sensitive
         EXPECT_EQ(Bar_Date_Text(false, "", setting, 4, 2002, afternoon), "April - 2002");
         EXPECT_EQ(setting, "Mm/yyyy");
         Fakes().registry_refuses_writes = refuses;

@@ -1,5 +1,5 @@
-// The calendar inside the shell's desktop: whose child it is, its colours and its region there, and its end
-// with the shell, which other stand-ins take the place of.
+// The calendar inside the shell's desktop: its parent, colours and region, and its end and return with the
+// shell. The tests exchange the stand-in for the shell.
 #include "tests/desktop/driver.h"
 
 #include <windows.h>
@@ -7,7 +7,6 @@
 #include <oleacc.h>
 
 #include <algorithm>
-#include <set>
 
 namespace {
 
@@ -19,14 +18,14 @@ protected:
         Exchange_Shell(L"");
     }
 
-    /// Makes the stand-in do what its letters stand for (shell_standin.cpp).
+    /// Sends the stand-in a letter for one of its actions, as listed in shell_standin.cpp.
     static void Tell_Shell(char letter) {
         DWORD_PTR answer = 0;
         SendMessageTimeoutW(FindWindowW(L"Progman", nullptr), WM_APP, static_cast<WPARAM>(letter), 0,
                             SMTO_NORMAL, 5000, &answer);
     }
 
-    /// Where the calendar's window is beside the view of icons, in words.
+    /// Describes where the calendar's window is relative to the icon view.
     static std::string Place_Of(HWND calendar) {
         const HWND view = Shell_View(), holder = GetAncestor(view, GA_PARENT);
         HWND above = view;
@@ -44,7 +43,7 @@ protected:
                std::to_string(now.left) + ", " + std::to_string(now.top);
     }
 
-    /// The window's region is that of the items, to the pixel, and around them there is the wallpaper.
+    /// Expects the window's region to match the items to the pixel, and the bare desktop around them.
     static void Is_Only_Its_Items(const Program &program) {
         const std::vector<Item> items = program.Items();
         RECT window{};
@@ -96,7 +95,7 @@ TEST_F(Attachment, Takes_Place_And_Colours_From_What_There_Is_Of_The_Shell) {
         bool splash_seen = false;
         ASSERT_TRUE(Wait_Until(
             [&] {
-                const bool there = program.Calendar() != nullptr; // the splash window comes first and stays
+                const bool there = program.Calendar() != nullptr; // the splash window appears first
                 splash_seen = splash_seen || program.Window("Vellatro_Splash");
                 return there;
             },
@@ -108,15 +107,11 @@ TEST_F(Attachment, Takes_Place_And_Colours_From_What_There_Is_Of_The_Shell) {
         const RECT title = program.Named(program.Title()).place;
         ASSERT_TRUE(program.Uncover(Middle(program.Named("Sunday").place)));
         ASSERT_TRUE(Becomes(back, [&] { return Picture().At(title.left + 4, title.bottom - 4); }));
-        std::set<DWORD> colours;
-        const Picture now;
-        for (LONG y = title.top; y < title.bottom; ++y)
-            for (LONG x = title.left; x < title.right; ++x)
-                colours.insert(now.At(x, y));
+        const std::set<DWORD> colours = Picture().Colours(title);
         EXPECT_TRUE(colours.contains(text)) << "the title's text has not the colour of the icons' texts";
         EXPECT_EQ(colours.size() > 1, text != back);
         Is_Only_Its_Items(program);
-        program.Do_Default("Next month"); // which has a row of boxes less
+        program.Do_Default("Next month"); // June has one row of boxes less
         ASSERT_TRUE(Becomes(std::string("June - 2027"), [&] { return program.Title(); }));
         Is_Only_Its_Items(program);
     }
@@ -125,10 +120,10 @@ TEST_F(Attachment, Takes_Place_And_Colours_From_What_There_Is_Of_The_Shell) {
 TEST_F(Attachment, Follows_The_View_Of_Icons) {
     const struct {
         const wchar_t *options;
-        std::string_view letters; // of the stand-in, one after the other
+        std::string_view letters; // sent to the stand-in one by one
     } cases[] = {{L"", "wpawpll"},   {L"--do=w", "px"}, {L"--late", ""},
                  {L"--do=l", "wpl"}, {L"--do=m", "lm"}, {L"--do=b", "bbwp"}};
-    std::string place; // the first one
+    std::string place; // the first place, which all later ones must equal
     POINT header{};
     for (const auto &[options, letters] : cases) {
         Stop_All();
@@ -139,7 +134,7 @@ TEST_F(Attachment, Follows_The_View_Of_Icons) {
             SCOPED_TRACE(std::string(options, options + std::wcslen(options)) + ", " +
                          std::string(letters.substr(0, i)));
             if (i > 0) {
-                SetParent(program.Calendar(), GetAncestor(Shell_View(), GA_PARENT)); // see Uncover
+                SetParent(program.Calendar(), GetAncestor(Shell_View(), GA_PARENT)); // undoes Uncover
                 Tell_Shell(letters[i - 1]);
             }
             if (place.empty() && Wait_Until([&] { return Place_Of(program.Calendar()).starts_with("in"); })) {
@@ -153,7 +148,7 @@ TEST_F(Attachment, Follows_The_View_Of_Icons) {
     }
     EXPECT_TRUE(place.starts_with("inside, above at ")) << place;
     Stop_All();
-    // At once: with the clock's tick alone each step takes a second.
+    // The calendar follows at once: by the clock's tick alone, each step would take a second.
     const Program &program = Start_Calendar();
     const double begin = Milliseconds_Now();
     for (const char letter : std::string_view("wpwpwp")) {
@@ -189,7 +184,7 @@ TEST_F(Attachment, Comes_Back_With_The_Next_Shell_And_Asks_For_The_Users_Text_Fi
     ASSERT_TRUE(Becomes(std::ptrdiff_t{1}, windows(next))) << "the splash window stays";
     loses_shell_with_text(next);
     next.Answer(IDCANCEL);
-    // OK: until then the editor alone keeps the program.
+    // 104 is OK. Until it is clicked, only the editor keeps the program running.
     Click_On(GetDlgItem(next.Window("Vellatro_Edit_Frm"), 104), [&] { return windows(next)() == 0; });
     EXPECT_EQ(Data(), "\"1/5/2027=kept\"\r\n");
     PostMessageA(FindWindowA("Vellatro_Broadcasts", nullptr), WM_CLOSE, 0, 0);

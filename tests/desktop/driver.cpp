@@ -1,5 +1,5 @@
-// The driver's ways to look at the program. Message boxes, MSAA and the screen's pixels work across
-// processes; what only Wine's host knows is read from /proc. Mouse and keyboard are in driver_input.cpp.
+// How the driver observes the program: through windows, MSAA and pixels, which work across processes, and
+// through /proc for what only Wine's host knows. driver_input.cpp has mouse and keyboard.
 #include "tests/desktop/driver.h"
 
 #include <windows.h>
@@ -8,7 +8,8 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <cstdlib>
+#include <filesystem>
+#include <fstream>
 #include <winternl.h>
 
 namespace {
@@ -18,8 +19,8 @@ BOOL CALLBACK Add_Window(HWND window, LPARAM list) {
     return TRUE;
 }
 
-/// All windows below `parent` at any depth, each before those in it; without a parent all windows. Asked for
-/// at once: a walk from window to window ends early when the one that it is at goes away.
+/// Returns all windows below `parent` at any depth, parents first, or all windows without a parent. One call
+/// lists them all, because a walk by GetWindow ends early if its current window is destroyed.
 std::vector<HWND> Windows_Below(HWND parent) {
     std::vector<HWND> windows;
     EnumChildWindows(parent ? parent : GetDesktopWindow(), Add_Window, reinterpret_cast<LPARAM>(&windows));
@@ -52,7 +53,7 @@ struct Release {
 
 using Accessible = std::unique_ptr<IAccessible, Release>;
 
-/// Null when the window does not answer.
+/// Returns null if the window does not answer.
 Accessible Accessible_Of(HWND window) {
     DWORD_PTR answer = 0;
     void *object = nullptr;
@@ -101,12 +102,13 @@ Item Item_Of(IAccessible &accessible, VARIANT child) {
     return item;
 }
 
-/// The stop icon is red, the exclamation yellow; the others are not named.
+/// Names the icon by its colour: the stop icon is red and the exclamation mark yellow. Other icons have no
+/// name.
 std::string Icon_Of(HWND icon) {
     RECT place;
     GetWindowRect(icon, &place);
     const Picture screen;
-    long red = 0; // than blue
+    long red = 0; // minus blue, as is green
     long green = 0;
     for (LONG y = place.top; y < place.bottom; ++y)
         for (LONG x = place.left; x < place.right; ++x) {
@@ -155,7 +157,7 @@ bool Wait_Until(const std::function<bool()> &holds, DWORD milliseconds) {
     for (bool last = false; !holds(); Sleep(20)) {
         if (last)
             return false;
-        last = GetTickCount() - begin >= milliseconds; // what came in time is seen, however late the question
+        last = GetTickCount() - begin >= milliseconds; // call it once more after the deadline
     }
     return true;
 }
@@ -179,17 +181,26 @@ Picture::Picture() : width(GetSystemMetrics(SM_CXSCREEN)), height(GetSystemMetri
     ReleaseDC(nullptr, screen);
 }
 
+std::set<DWORD> Picture::Colours(const RECT &place, bool edge_only) const {
+    std::set<DWORD> colours;
+    for (LONG y = place.top; y < place.bottom; ++y)
+        for (LONG x = place.left; x < place.right; ++x)
+            if (!edge_only || y == place.top || y == place.bottom - 1 || x == place.left ||
+                x == place.right - 1)
+                colours.insert(At(x, y));
+    return colours;
+}
+
 void Picture::Save(const std::wstring &path) const {
     const DWORD size = static_cast<DWORD>(pixels.size() * sizeof(DWORD));
     const BITMAPINFOHEADER info{sizeof info, width, -height, 1, 32, BI_RGB, size, 0, 0, 0, 0};
     constexpr DWORD headers = 14 + sizeof info;
     const BITMAPFILEHEADER header{0x4D42, headers + size, 0, 0, headers};
-    if (FILE *file = _wfopen(path.c_str(), L"wb")) {
-        std::fwrite(&header, sizeof header, 1, file);
-        std::fwrite(&info, sizeof info, 1, file);
-        std::fwrite(pixels.data(), sizeof(DWORD), pixels.size(), file);
-        std::fclose(file);
-    }
+    std::ofstream file(std::filesystem::path(path), std::ios::binary);
+    const auto write = [&file](const void *bytes, DWORD count) {
+        file.write(static_cast<const char *>(bytes), static_cast<std::streamsize>(count));
+    };
+    write(&header, sizeof header), write(&info, sizeof info), write(pixels.data(), size);
 }
 
 Program::Program(const std::wstring &executable, const std::wstring &folder) {
@@ -245,7 +256,7 @@ HWND Program::Window(std::string_view class_name) const {
     return nullptr;
 }
 
-// Each property is a call into the other process: only those that are wanted are asked for.
+// Each property costs a call into the other process, so the role is checked first.
 std::vector<Item> Program::Items(long role, std::size_t most) const {
     std::vector<Item> items;
     if (const Accessible accessible = Accessible_Of(Calendar()))
@@ -304,15 +315,13 @@ std::string Program::Host_File(const wchar_t *name) const {
     QueryFullProcessImageNameW(process_, 0, path, &length);
     WIN32_FIND_DATAW found;
     std::string text;
-    // The path is the test's own, so it tells the process from those of other runs.
+    // The program's path contains the test's name, so it identifies the process.
     const auto read = [&found](const wchar_t *file_name) {
-        char part[2000] = "";
-        if (FILE *file =
-                _wfopen((std::wstring(L"Z:\\proc\\") + found.cFileName + file_name).c_str(), L"rb")) {
-            part[std::fread(part, 1, sizeof part - 1, file)] = '\0';
-            std::fclose(file);
-        }
-        return std::string(part);
+        std::ifstream file(std::filesystem::path(L"Z:\\proc\\") /
+                           (found.cFileName + std::wstring(file_name)));
+        std::string part; // the first word of cmdline; other files hold no NUL
+        std::getline(file, part, '\0');
+        return part;
     };
     const HANDLE search = FindFirstFileW(L"Z:\\proc\\*", &found);
     do {
@@ -335,12 +344,12 @@ long Program::Processor_Ticks() const {
 }
 
 std::ptrdiff_t Program::Gdi_Objects() const {
-    // Wine does not count them, but every process has a table of its own.
+    // Wine does not count GDI objects, but each process has its own table of them.
     struct Entry {
         ULONG64 object;
         ULONG owner;
         USHORT unique;
-        UCHAR type; // 0: free
+        UCHAR type; // 0 if the entry is free
         UCHAR flags;
         ULONG64 user;
     };
@@ -364,7 +373,7 @@ std::ptrdiff_t Program::Windows(bool only_visible) const {
 }
 
 std::ptrdiff_t Program::Handles() const {
-    // Wine answers GetProcessHandleCount with 0.
+    // Wine's GetProcessHandleCount returns 0.
     struct Entry {
         ULONG process;
         BYTE type, flags;

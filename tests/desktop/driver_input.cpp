@@ -1,4 +1,4 @@
-// The driver's mouse and keyboard: what a person does to the program and to its message boxes.
+// The driver's mouse, keyboard, menus and answers to message boxes.
 #include "tests/desktop/driver.h"
 
 #include <windows.h>
@@ -15,7 +15,8 @@ void Send_Key_Event(WORD key, DWORD flags) {
     SendInput(1, &input, sizeof input);
 }
 
-/// Over all others. Moved twice, as what stays in its place is not raised.
+/// Raises the window above all others. It changes its place twice, because Wine does not raise a window that
+/// stays.
 void Raise(HWND window) {
     for (const HWND place : {HWND_TOPMOST, HWND_NOTOPMOST})
         SetWindowPos(window, place, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
@@ -33,8 +34,8 @@ POINT Middle(const RECT &place) {
     return {(place.left + place.right) / 2, (place.top + place.bottom) / 2};
 }
 
-// Place and button in one event: what X tells late of an earlier place would move a mouse that is there
-// already.
+// Each event holds place and button together: otherwise a late X event about an earlier place could move the
+// mouse in between.
 void Send_Mouse(const std::vector<std::pair<POINT, DWORD>> &steps) {
     std::vector<INPUT> inputs;
     for (const auto &[point, flags] : steps) {
@@ -72,13 +73,13 @@ void Send_Text(std::string_view ascii) {
 }
 
 void Click_On(HWND window, const std::function<bool()> &done) {
-    // Wine loses a click while X changes the focus, after a message box for instance.
+    // Wine loses clicks while X changes the focus, for instance after a message box.
     for (int i = 0; i < 3 && !done(); ++i) {
         RECT place{};
         EXPECT_TRUE(Wait_Until([&] {
             GetWindowRect(window, &place);
             const HWND seen = WindowFromPoint(Middle(place));
-            // Wine may have raised the stand-in, see below.
+            // Wine may have raised the stand-in: see Uncover.
             if (seen != window && GetAncestor(seen, GA_ROOT) == FindWindowA("Progman", nullptr))
                 Raise(GetAncestor(window, GA_ROOT));
             return seen == window;
@@ -93,20 +94,20 @@ void Program::Answer(WORD button) const {
     const HWND box = Box_Window();
     PostMessageW(box, WM_COMMAND, button, 0);
     EXPECT_TRUE(box && Wait_Until([box] { return !IsWindow(box); })) << "no box that takes an answer";
-    // The program takes nothing else until it has seen the answer, and then it is back in its loop.
+    // Wait until the program has processed the answer and is back in its message loop.
     DWORD_PTR answer = 0;
     SendMessageTimeoutW(Calendar(), WM_NULL, 0, 0, SMTO_NORMAL, 2000, &answer);
 }
 
 bool Program::Uncover(POINT point) const {
-    // Inside the stand-in the calendar is painted in its view only (see shell_standin.cpp). And a calendar
-    // that is a window of its own may get below the stand-in, which on Windows nothing can: Wine raises the X
-    // window of whatever gets the focus, without knowing it, and puts what X has found below the mouse, some
-    // time ago, above the others. So both are asked.
+    // Inside the stand-in, Wine paints the calendar only as a child of the icon view (see shell_standin.cpp).
+    // A top-level calendar may get below the stand-in, which cannot happen on Windows: Wine raises the X
+    // window of whatever gets the focus, and the window that X last reported below the mouse. So check both
+    // the pixel and the window at the point.
     const HWND calendar = Calendar();
     const HWND standin = FindWindowA("Progman", nullptr);
     return Wait_Until([&] {
-        DWORD_PTR answer = 0; // which comes after what X has told the stand-in
+        DWORD_PTR answer = 0; // the stand-in has processed X's events when it answers
         SendMessageTimeoutW(standin, WM_NULL, 0, 0, SMTO_NORMAL, 2000, &answer);
         if (const HWND view = Shell_View(); GetAncestor(calendar, GA_PARENT) == GetAncestor(view, GA_PARENT))
             SetParent(calendar, view);
@@ -115,7 +116,7 @@ bool Program::Uncover(POINT point) const {
             return true;
         if (GetAncestor(calendar, GA_PARENT) == GetDesktopWindow())
             Raise(calendar);
-        else // what it paints during the move, and right after it, is lost now and then
+        else // Wine sometimes loses what the calendar paints during and right after the move
             InvalidateRect(calendar, nullptr, FALSE);
         return false;
     });
@@ -124,7 +125,7 @@ bool Program::Uncover(POINT point) const {
 void Program::Click(const RECT &place, DWORD button, int times) const {
     EXPECT_TRUE(Uncover(Middle(place))) << "there is nothing to click";
     std::vector<std::pair<POINT, DWORD>> steps;
-    for (int i = 0; i < 2 * times; ++i) // the next bit is that of the button's release
+    for (int i = 0; i < 2 * times; ++i) // the next higher flag is the button's release
         steps.push_back({Middle(place), button << (i % 2)});
     Send_Mouse(steps);
 }
@@ -139,8 +140,8 @@ bool Program::Open_Menu(POINT place) const {
 
 void Program::Choose(const std::vector<WORD> &keys) const {
     ASSERT_TRUE(Wait_Until([this] { return Window("#32768") != nullptr; })) << "no menu";
-    // The menu takes them from any of its program's windows. This one has no other use for them: X, late with
-    // the focus, takes a menu away now and then.
+    // The menu receives keys posted to any window of its thread. The broadcast window ignores them if X, late
+    // with the focus, has just closed the menu.
     for (const WORD key : keys)
         PostMessageW(FindWindowA("Vellatro_Broadcasts", nullptr), WM_KEYDOWN, key, 1);
     EXPECT_TRUE(Wait_Until([this] { return Window("#32768") == nullptr; })) << "the menu stays";
@@ -152,7 +153,7 @@ HWND Program::Open_Settings() const {
         std::vector<Item> days;
         EXPECT_TRUE(Wait_Until([&] { return !(days = Items(ROLE_SYSTEM_CELL, 1)).empty(); }));
         if (!days.empty() && Open_Menu(Middle(days[0].place)))
-            Choose({VK_HOME, VK_DOWN, VK_DOWN, VK_RETURN}); // wherever the mouse is on the menu
+            Choose({VK_HOME, VK_DOWN, VK_DOWN, VK_RETURN}); // starts at the top, wherever the mouse is
         Wait_Until([&] { return (dialog = Window("Vellatro_Settings_Frm")) != nullptr; });
     }
     EXPECT_TRUE(Wait_Until([&] { return dialog && dialog == GetForegroundWindow(); })) << "no settings";
@@ -162,7 +163,7 @@ HWND Program::Open_Settings() const {
 void Program::Press(WORD key, bool with_alt) const {
     const HWND calendar = Calendar();
     const auto ready = [calendar] { return Has_Keyboard(calendar); };
-    for (int i = 0; i < 3 && !ready(); ++i) { // as in Click_On; by far too slow for a double click
+    for (int i = 0; i < 3 && !ready(); ++i) { // repeated as in Click_On; too slow for a double click
         Click(Named(Title()).place);
         Wait_Until(ready, 2000);
     }

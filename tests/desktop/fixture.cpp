@@ -1,16 +1,18 @@
-// The fixture of the desktop tests: what a test finds at its start, and the program's surroundings.
+// The fixture of the desktop tests and the main function.
 #include "tests/desktop/driver.h"
 
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <filesystem>
+#include <fstream>
 
 namespace {
 
 std::wstring Program_Path;
-std::wstring Scratch; // the tests' folders are made in it
+std::wstring Scratch; // the parent of the tests' folders
 std::wstring Clock_Path;
-long long Clock_Offset; // seconds, as last given to the clock
+long long Clock_Offset; // in seconds, as last written to the clock's file
 
 const std::wstring Store_Key = L"Software\\Vellatro";
 
@@ -56,6 +58,11 @@ void Add_Values(const std::wstring &path, std::string &lines) {
     RegCloseKey(key);
 }
 
+HWND Find_Standin() {
+    const HWND shell = FindWindowA("Progman", nullptr);
+    return shell ? shell : FindWindowA("Standin_Wallpaper", nullptr);
+}
+
 std::string Test_Name() {
     const ::testing::TestInfo &test = *::testing::UnitTest::GetInstance()->current_test_info();
     return std::string(test.test_suite_name()) + "." + test.name();
@@ -70,12 +77,12 @@ void Desktop_Test::SetUp() {
     CreateDirectoryW(folder_.c_str(), nullptr);
     ASSERT_TRUE(CopyFileW(Program_Path.c_str(), Path_Of(L"vellatro.exe").c_str(), FALSE));
     Clear_Store();
-    // Wine tells late of the mouse's earlier places, which a click on the title would take for a drag.
+    // Wine reports earlier mouse positions late, which would make a drag of a click on the title.
     Set_Setting("Settings", "Allow Dragging", "0");
     Set_Regional("sShortDate", "M/d/yyyy");
     Set_Regional("iFirstDayOfWeek", "6");
     Set_Clock(2027, 5, 12, 10, 30, 0);
-    SetCursorPos(1, GetSystemMetrics(SM_CYSCREEN) - 2); // over none of the windows
+    SetCursorPos(1, GetSystemMetrics(SM_CYSCREEN) - 2); // away from all windows
     Wait_Until([] { return GetForegroundWindow() == FindWindowA("Progman", nullptr); }, 1000);
     ASSERT_TRUE(Wait_Until([] { return Picture().pixels == Bare_Screen->pixels; }))
         << "the desktop is not bare";
@@ -94,9 +101,7 @@ void Desktop_Test::TearDown() {
 }
 
 void Desktop_Test::Kill_Shell() {
-    HWND shell = FindWindowA("Progman", nullptr);
-    if (!shell)
-        shell = FindWindowA("Standin_Wallpaper", nullptr);
+    const HWND shell = Find_Standin();
     DWORD id = 0;
     GetWindowThreadProcessId(shell, &id);
     const HANDLE process = OpenProcess(PROCESS_TERMINATE | SYNCHRONIZE, FALSE, id);
@@ -110,8 +115,8 @@ void Desktop_Test::Kill_Shell() {
 void Desktop_Test::Exchange_Shell(const std::wstring &options) {
     wchar_t folder[MAX_PATH] = L"";
     GetModuleFileNameW(nullptr, folder, std::size(folder));
-    *(std::wcsrchr(folder, L'\\') + 1) = L'\0'; // it lies beside the tests
-    if (FindWindowA("Progman", nullptr) || FindWindowA("Standin_Wallpaper", nullptr))
+    *(std::wcsrchr(folder, L'\\') + 1) = L'\0'; // the stand-in is in the tests' folder
+    if (Find_Standin())
         Kill_Shell();
     std::wstring line = L"\"" + std::wstring(folder) + L"shell_standin.exe\" " + options;
     STARTUPINFOW start{};
@@ -122,11 +127,10 @@ void Desktop_Test::Exchange_Shell(const std::wstring &options) {
         << "error " << GetLastError();
     CloseHandle(process.hThread);
     CloseHandle(process.hProcess);
-    // Its picture appears in one piece, in a corner without icons as ever.
+    // The stand-in paints its picture at once. The compared corner never has icons.
     ASSERT_TRUE(Wait_Until([] {
         const Picture now;
-        return (FindWindowA("Progman", nullptr) || FindWindowA("Standin_Wallpaper", nullptr)) &&
-               now.At(now.width - 1, 0) == Bare_Screen->At(now.width - 1, 0);
+        return Find_Standin() && now.At(now.width - 1, 0) == Bare_Screen->At(now.width - 1, 0);
     })) << "the stand-in does not appear";
     Bare_Screen = std::make_unique<const Picture>();
 }
@@ -162,21 +166,13 @@ Program &Desktop_Test::Calendar_Inside() {
 }
 
 void Desktop_Test::Write_File(const std::wstring &name, std::string_view bytes) const {
-    FILE *file = _wfopen(Path_Of(name).c_str(), L"wb");
-    ASSERT_TRUE(file && std::fwrite(bytes.data(), 1, bytes.size(), file) == bytes.size());
-    std::fclose(file);
+    std::ofstream file(std::filesystem::path(Path_Of(name)), std::ios::binary);
+    ASSERT_TRUE(file.write(bytes.data(), static_cast<std::streamsize>(bytes.size())).flush());
 }
 
 std::string Desktop_Test::Read_File(const std::wstring &name) const {
-    std::string bytes;
-    FILE *file = _wfopen(Path_Of(name).c_str(), L"rb");
-    if (!file)
-        return bytes;
-    std::size_t got = 1;
-    for (char part[0x10000]; got > 0; bytes.append(part, got))
-        got = std::fread(part, 1, sizeof part, file);
-    std::fclose(file);
-    return bytes;
+    std::ifstream file(std::filesystem::path(Path_Of(name)), std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
 }
 
 void Desktop_Test::Save_Picture(const std::string &name) {
@@ -207,7 +203,7 @@ std::string Desktop_Test::Store() {
 void Desktop_Test::Set_Regional(const std::string &name, const std::string &value) {
     const std::wstring path = L"Control Panel\\International";
     RegDeleteKeyValueW(HKEY_CURRENT_USER, path.c_str(),
-                       L"iDate"); // it would overrule the order in sShortDate
+                       L"iDate"); // it would override the order in sShortDate
     Set_Value(path, name, value);
 }
 
@@ -216,7 +212,7 @@ void Desktop_Test::Set_Clock(WORD year, WORD month, WORD day, WORD hour, WORD mi
     FILETIME time;
     SystemTimeToFileTime(&wanted, &time);
     Clock_Offset += Seconds(time) - Seconds_Now();
-    // Over what was there, in one write: the program may read at any moment.
+    // One write replaces the old offset, because the program may read at any moment.
     FILE *file = _wfopen(Clock_Path.c_str(), L"r+b");
     ASSERT_TRUE(file) << "the clock's file cannot be written";
     std::fprintf(file, "%-20lld\n", Clock_Offset);
@@ -234,7 +230,7 @@ int main(int count, char **words) {
     Program_Path = Wide(words[1]);
     Scratch = Wide(words[2]);
     Clock_Path = Wide(words[3]);
-    SetProcessDPIAware(); // or places and pixels would be told in other units than the program's
+    SetProcessDPIAware(); // so that places and pixels are in the program's units
     CoInitialize(nullptr);
     Bare_Screen = std::make_unique<const Picture>();
     return RUN_ALL_TESTS();

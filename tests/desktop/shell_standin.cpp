@@ -1,36 +1,37 @@
-// The stand-in for the shell: a "Progman" window with its view, a real icon list and a wallpaper, since Wine
-// has none of them. The desktop tests and the run script start it before the calendar. It judges nothing.
+// A stand-in for the shell, which Wine lacks: a "Progman" window with an icon view, a real icon list and a
+// wallpaper. The desktop tests and the run script start it before the calendar.
 //
 //   shell_standin [--text=RRGGBB] [--back=RRGGBB|none] [--no-list] [--no-view] [--no-shell] [--adopt]
 //                 [--late] [--do=LETTERS]
 //
-// --adopt is for a person who looks: with it a wallpaper that a program hangs up is shown, stretched.
-// The colours are those of the icon labels (white on none). --no-list and --no-view leave out the windows of
-// that name and below; --no-shell keeps the wallpaper only, in a class that nobody looks for. --late makes
-// the view three seconds after the start. It ends on WM_CLOSE.
+// --text and --back set the colours of the icon labels; the defaults are white and none. --no-list and
+// --no-view leave out that window and those below it. --no-shell keeps only the wallpaper, in a window class
+// that the calendar does not look for. --late creates the view three seconds after the start. --adopt, for
+// human viewers, shows the wallpaper that a program sets, stretched, and moves the calendar into the view.
+// The stand-in ends on WM_CLOSE.
 //
-// A letter is what shells do: w moves the view into a "WorkerW" that covers "Program Manager", p back, x back
-// and destroys the WorkerW; a raises the view; l puts the desktop's origin 300 pixels to the left, or back; m
-// mirrors it; b gives it the style of a raised desktop, or takes it. Each can be asked for at any time:
-// WM_APP to "Program Manager", with the letter.
+// --do performs an action for each letter: w moves the view into a "WorkerW" that covers "Program Manager", p
+// moves it back, x moves it back and destroys the WorkerW, a raises the view, l moves the desktop's origin
+// 300 pixels to the left or back, m mirrors the desktop or undoes that, b adds or removes the style of a
+// raised desktop. WM_APP with a letter, sent to "Program Manager", performs an action at any time.
 //
-// Debian's Wine 8 loses the pixels of windows below "Progman" in two ways, and each has its way round. First,
-// a window put into a window of another process is drawn only if an X window is found on the way up to its
-// top-level window. That is looked up in a window property, so the view gets the property of "Progman", and
-// who wants to see the calendar moves it on from "Progman" into the view: a test driver once it has seen the
-// calendar's own choice of parent, or the stand-in itself with --adopt. Second, the stand-in must draw
-// straight to the X server (a setting of Wine for this program's name), or its buffered pixels cover the
-// calendar whenever a window above both goes away; but then only its top-level window can draw. So one
-// prepared picture, wallpaper and icons, is painted there for all its windows, around the calendar.
+// Debian's Wine 8 loses the pixels of windows below "Progman" in two ways. First, Wine draws a child of
+// another process's window only if a window between it and the top-level window has an X window, which it
+// looks up in a window property. So the view gets that property of "Progman", and the calendar has to be
+// moved from "Progman" into the view: by the test driver once it has checked the calendar's own choice of
+// parent, or by the stand-in with --adopt. Second, the stand-in must draw directly to the X server (a Wine
+// setting for this program's name). Otherwise its buffered pixels cover the calendar whenever a window above
+// both is closed. Only a top-level window can draw that way, so the stand-in paints one prepared picture of
+// wallpaper and icons there for all its windows, around the calendar.
 
 #include <windows.h>
 
 #include <commctrl.h>
 #include <shellapi.h>
 
-#include <cmath>
 #include <cstdio>
 #include <cstdlib>
+#include <optional>
 #include <string>
 #include <utility>
 
@@ -46,56 +47,46 @@ HWND Worker_Window;
 HWND View_Window;
 HWND List_Window;
 WNDPROC List_Procedure;
-HDC Picture_Dc; // holds the picture of the whole desktop, as long as the process lives
-int Origin;     // of the desktop windows, from the left
+HDC Picture_Dc; // holds the picture of the whole desktop until the process ends
+int Origin;     // left edge of the desktop windows
 
-bool Has_Option(const char *option) {
-    return std::string(GetCommandLineA()).find(option) != std::string::npos;
-}
-
-COLORREF Colour_Option(const std::string &option, COLORREF standard) {
+/// Returns the text after the option in the command line, up to a blank; nothing if the option is missing.
+std::optional<std::string> Option(const std::string &name) {
     const std::string line = GetCommandLineA();
-    const size_t place = line.find(option);
+    const size_t place = line.find("--" + name);
     if (place == std::string::npos)
-        return standard;
-    const std::string text = line.substr(place + option.size());
+        return std::nullopt;
+    const size_t begin = place + 2 + name.size();
+    return line.substr(begin, line.find(' ', begin) - begin);
+}
+
+COLORREF Colour_Option(const std::string &name, COLORREF standard) {
+    const std::string text = Option(name).value_or("none");
     const unsigned long value = std::strtoul(text.c_str(), nullptr, 16);
-    return text.rfind("none", 0) == 0 ? CLR_NONE : RGB(value >> 16 & 0xFF, value >> 8 & 0xFF, value & 0xFF);
+    return text == "none" ? standard : RGB(value >> 16 & 0xFF, value >> 8 & 0xFF, value & 0xFF);
 }
 
-void Fill(const RECT &area, double red, double green, double blue) {
-    const auto byte = [](double value) { return static_cast<BYTE>(value); };
-    SetDCBrushColor(Picture_Dc, RGB(byte(red), byte(green), byte(blue)));
-    FillRect(Picture_Dc, &area, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
-}
-
-// An evening sky over three ranges of hills: not flat, so that one sees where the calendar lets it through.
+// Paints a gradient in both directions, so that a wrongly placed part of it is visible around the calendar.
 void Paint_Wallpaper(SIZE size) {
     const HDC screen = GetDC(nullptr);
     if (!Picture_Dc)
         Picture_Dc = CreateCompatibleDC(screen);
     DeleteObject(SelectObject(Picture_Dc, CreateCompatibleBitmap(screen, size.cx, size.cy)));
     ReleaseDC(nullptr, screen);
-    for (LONG y = 0; y < size.cy; ++y) {
-        const double share = std::pow(1.0 * y / size.cy, 1.4);
-        Fill({0, y, size.cx, y + 1}, 38 + 202 * share, 84 + 130 * share, 138 + 48 * share);
-    }
-    for (int range = 0; range < 3; ++range)
-        for (LONG x = 0; x < size.cx; ++x) {
-            const double along = 6.2832 * x / size.cx + 0.4 + 2.2 * range;
-            const double wave = 0.055 * std::sin(along) + 0.025 * std::sin(2.3 * along + 1.0);
-            const double top = size.cy * (0.66 + 0.105 * range + wave);
-            Fill({x, static_cast<LONG>(top), x + 1, size.cy}, 128 - 40 * range, 148 - 33 * range,
-                 168 - 45 * range);
+    for (LONG y = 0; y < size.cy; y += 32)
+        for (LONG x = 0; x < size.cx; x += 32) {
+            const RECT area{x, y, x + 32, y + 32};
+            SetDCBrushColor(Picture_Dc, RGB(40 + 180 * y / size.cy, 90 + 100 * x / size.cx, 160));
+            FillRect(Picture_Dc, &area, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
         }
 }
 
 void Paint_Hung_Up(SIZE size) {
     wchar_t path[MAX_PATH] = {};
-    DWORD bytes = sizeof path; // the last character stays zero whatever is stored
-    // Not SystemParametersInfo, which remembers what it was when this process asked first.
-    if (!Has_Option("--adopt") || RegGetValueW(HKEY_CURRENT_USER, L"Control Panel\\Desktop", L"Wallpaper",
-                                               RRF_RT_REG_SZ, nullptr, path, &bytes) != ERROR_SUCCESS)
+    DWORD bytes = sizeof path; // the last character stays zero for any value
+    // SystemParametersInfo would return the value of this process's first call.
+    if (!Option("adopt") || RegGetValueW(HKEY_CURRENT_USER, L"Control Panel\\Desktop", L"Wallpaper",
+                                         RRF_RT_REG_SZ, nullptr, path, &bytes) != ERROR_SUCCESS)
         return;
     const HANDLE picture =
         LoadImageW(nullptr, path, IMAGE_BITMAP, size.cx, size.cy, LR_LOADFROMFILE | LR_CREATEDIBSECTION);
@@ -109,8 +100,8 @@ void Paint_Hung_Up(SIZE size) {
     DeleteObject(picture);
 }
 
-// The screen's size changes in tests; all windows start at one corner. No bits are copied: Wine waits for
-// ever for the X server's answer to that, now and then.
+// Repaints the picture and fits all windows to the screen's size, which tests change. It copies no bits,
+// because Wine sometimes waits forever for the X server to do so.
 void Fill_Screen(SIZE size) {
     Paint_Wallpaper(size);
     Paint_Hung_Up(size);
@@ -123,7 +114,7 @@ void Fill_Screen(SIZE size) {
     RedrawWindow(Shell_Window, nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
 }
 
-// Takes the windows of other programs out of the region.
+// Removes the windows of other programs from the region.
 void Leave_Out_Guests(HRGN region, HWND parent) {
     const HRGN guest = CreateRectRgn(0, 0, 0, 0);
     const HRGN whole = CreateRectRgn(0, 0, 0, 0);
@@ -133,7 +124,7 @@ void Leave_Out_Guests(HRGN region, HWND parent) {
             continue;
         GetWindowRect(window, &place);
         SetRectRgn(whole, place.left, place.top, place.right, place.bottom);
-        // A window that has just shrunk still has the larger region.
+        // The region of a window that has just shrunk may still be larger than the window.
         if (GetWindowRgn(window, guest) != ERROR && OffsetRgn(guest, place.left, place.top) != ERROR)
             CombineRgn(whole, whole, guest, RGN_AND);
         CombineRgn(region, region, whole, RGN_DIFF);
@@ -149,19 +140,20 @@ void Paint_Picture(HWND window) {
     GetWindowRect(top, &area);
     GetUpdateRgn(window, region, FALSE);
     OffsetRgn(region, area.left, area.top);
-    if (GetWindowLongA(top, GWL_EXSTYLE) & WS_EX_LAYOUTRTL) // it is counted from the right there
+    if (GetWindowLongA(top, GWL_EXSTYLE) & WS_EX_LAYOUTRTL) // the update region counts from the right there
         SetRectRgn(region, area.left, area.top, area.right, area.bottom);
-    RedrawWindow(window, nullptr, nullptr, RDW_VALIDATE | RDW_NOCHILDREN); // the calendar has still to paint
+    RedrawWindow(window, nullptr, nullptr, RDW_VALIDATE | RDW_NOCHILDREN); // the calendar still has to paint
     Leave_Out_Guests(region, top);
     if (View_Window)
         Leave_Out_Guests(region, View_Window);
     const HDC dc = GetDCEx(top, region, DCX_CACHE | DCX_CLIPSIBLINGS | DCX_INTERSECTRGN);
     SetLayout(dc, 0);
     BitBlt(dc, -area.left, 0, area.right, area.bottom, Picture_Dc, 0, 0, SRCCOPY);
-    ReleaseDC(top, dc); // and the region with it
+    ReleaseDC(top, dc); // also deletes the region
 }
 
-// Also tells where the calendar is, as WIDTHxHEIGHT+X+Y, whenever that is new: a script waits for it.
+// Moves the calendar into the view. Prints its place as WIDTHxHEIGHT+X+Y whenever it changes, for a waiting
+// script.
 void Adopt_Calendar() {
     static RECT told;
     RECT place;
@@ -169,9 +161,9 @@ void Adopt_Calendar() {
         SetParent(calendar, View_Window);
     HWND calendar = FindWindowExA(View_Window, nullptr, Calendar_Class, nullptr);
     if (!calendar)
-        calendar = FindWindowA(Calendar_Class, nullptr); // one that has not attached itself to the shell
+        calendar = FindWindowA(Calendar_Class, nullptr); // it may not be attached to the shell
     if (IsWindowVisible(FindWindowA(Splash_Class, nullptr)))
-        return; // it still hides a part of the calendar
+        return; // the splash window still covers part of the calendar
     if (!IsWindowVisible(calendar) || !GetWindowRect(calendar, &place) || EqualRect(&place, &told))
         return;
     told = place;
@@ -192,7 +184,7 @@ LRESULT CALLBACK Handle_Message(HWND window, UINT message, WPARAM wide, LPARAM l
     }
     if (window == List_Window)
         return CallWindowProcA(List_Procedure, window, message, wide, longer);
-    if (window == Worker_Window && message == WM_WINDOWPOSCHANGING) { // it stays right above the desktop
+    if (window == Worker_Window && message == WM_WINDOWPOSCHANGING) { // keep it directly above the desktop
         WINDOWPOS &change = *reinterpret_cast<WINDOWPOS *>(longer);
         change.hwndInsertAfter = GetWindow(Shell_Window, GW_HWNDPREV);
         if (change.hwndInsertAfter == window)
@@ -243,8 +235,8 @@ void Create_List() {
                                                ILC_COLOR32 | ILC_MASK, static_cast<int>(std::size(icons)), 0);
     ListView_SetImageList(List_Window, images, LVSIL_NORMAL);
     ListView_SetBkColor(List_Window, CLR_NONE);
-    ListView_SetTextBkColor(List_Window, Colour_Option("--back=", CLR_NONE));
-    ListView_SetTextColor(List_Window, Colour_Option("--text=", RGB(255, 255, 255)));
+    ListView_SetTextBkColor(List_Window, Colour_Option("back=", CLR_NONE));
+    ListView_SetTextColor(List_Window, Colour_Option("text=", RGB(255, 255, 255)));
     for (const auto &[name, resource] : icons) {
         const HICON icon = ExtractIconA(nullptr, "shell32.dll", static_cast<UINT>(resource));
         LVITEMA item{};
@@ -262,9 +254,9 @@ void Create_View() {
     KillTimer(Shell_Window, Late_Timer);
     View_Window = Create_Own_Window("SHELLDLL_DefView", "", WS_CHILD, Shell_Window);
     SetPropA(View_Window, X_Window_Property, GetPropA(Shell_Window, X_Window_Property));
-    if (!Has_Option("--no-list"))
+    if (!Option("no-list"))
         Create_List();
-    if (Has_Option("--adopt"))
+    if (Option("adopt"))
         SetTimer(Shell_Window, 1, 50, nullptr);
     Fill_Screen({GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)});
 }
@@ -306,18 +298,16 @@ void Do(char letter) {
 } // namespace
 
 int main() {
-    const bool is_shell = !Has_Option("--no-shell");
+    const bool is_shell = !Option("no-shell");
     Shell_Window =
         Create_Own_Window(is_shell ? "Progman" : "Standin_Wallpaper", "Program Manager", WS_POPUP, nullptr);
-    if (is_shell && Has_Option("--late"))
+    if (is_shell && Option("late"))
         SetTimer(Shell_Window, Late_Timer, 3000, nullptr);
-    else if (is_shell && !Has_Option("--no-view"))
+    else if (is_shell && !Option("no-view"))
         Create_View();
     Fill_Screen({GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)});
-    const std::string line = GetCommandLineA();
-    if (const std::size_t letters = line.find("--do="); letters != std::string::npos)
-        for (std::size_t i = letters + 5; i < line.size() && line[i] > ' '; ++i)
-            Do(line[i]);
+    for (const char letter : Option("do=").value_or(""))
+        Do(letter);
     if (is_shell)
         PostMessageA(HWND_BROADCAST, RegisterWindowMessageA("TaskbarCreated"), 0, 0);
     MSG message;

@@ -1,4 +1,4 @@
-// Theme packs as a user has them: the month's picture on the desktop, and the preview of all months.
+// Theme packs: the month's picture on the desktop, and the preview of all months.
 #include "tests/contract/small_jpeg.h"
 #include "tests/desktop/driver.h"
 
@@ -9,26 +9,21 @@ protected:
     void SetUp() override {
         Desktop_Test::SetUp();
         folder_ = Path_Of(L"Default");
-        Set_Setting("Settings", "Use Themes", "1");
         SystemParametersInfoW(SPI_SETDESKWALLPAPER, 0, const_cast<wchar_t *>(L""), SPIF_UPDATEINIFILE);
         CreateDirectoryW(folder_.c_str(), nullptr);
-        Put(L"settings.ini", "5=0-6-1\r\n6=1-6-0\r\n");
-        for (int month = 5; month <= 6; ++month)
-            Put(std::to_wstring(month) + L".jpg", Small_Jpeg(month));
+        Write_File(L"Default\\settings.ini", "1=0-3-2\r\n2=1-0-2\r\n5=0-6-1\r\n6=1-6-0\r\n");
+        for (int month = 1; month <= 12; ++month)
+            Write_File(L"Default\\" + std::to_wstring(month) + L".jpg", Small_Jpeg(month));
     }
 
-    void Put(const std::wstring &name, std::string_view bytes) const {
-        Write_File(L"Default\\" + name, bytes);
-    }
-
-    /// The size of a file of the pack, 0 for none.
+    /// Returns the size of a file of the pack, or 0 if it is missing.
     DWORD Size(const wchar_t *name) const {
         WIN32_FILE_ATTRIBUTE_DATA data{};
         GetFileAttributesExW((folder_ + L"\\" + name).c_str(), GetFileExInfoStandard, &data);
         return data.nFileSizeLow;
     }
 
-    /// The system's three values, the wallpaper without the pack's folder.
+    /// Returns the registry values for tiling, style and wallpaper, without the pack's folder.
     std::wstring Wallpaper() const {
         std::wstring values;
         for (const wchar_t *name : {L"TileWallpaper", L"WallpaperStyle", L"Wallpaper"}) {
@@ -42,13 +37,12 @@ protected:
         return place == std::wstring::npos ? values : values.erase(place, folder_.size());
     }
 
-    const std::wstring &Folder() const { return folder_; }
-
 private:
     std::wstring folder_;
 };
 
 TEST_F(Themed, The_Months_Picture_Is_The_Wallpaper) {
+    Set_Setting("Settings", "Use Themes", "1");
     const Program &program = Start_Calendar();
     const auto wallpaper = [&] { return Wallpaper(); };
     EXPECT_TRUE(Becomes(std::wstring(L"1 0 \\5.bmp"), wallpaper));
@@ -61,83 +55,53 @@ TEST_F(Themed, The_Months_Picture_Is_The_Wallpaper) {
     Set_Clock(2027, 6, 1, 10, 30, 0);
     EXPECT_TRUE(Becomes(std::wstring(L"0 0 \\6.bmp"), wallpaper));
     EXPECT_EQ(Size(L"5.bmp"), 0U);
-    ShowWindow(shell, SW_HIDE); // the stand-in has a wallpaper of its own
+    ShowWindow(shell, SW_HIDE); // it covers the screen with a wallpaper of its own
     EXPECT_TRUE(Becomes(DWORD{0xB0B0B0}, in_the_middle));
     ShowWindow(shell, SW_SHOWNA);
 }
 
-constexpr const char *use_chk = "Use &themes", *preview_btn = "Pre&view all months";
-
-class Wallpaper_Page : public Themed {
-protected:
-    void SetUp() override {
-        Themed::SetUp();
-        for (const wchar_t *pack : {L"", L"\\..\\Lacking"}) // also of an earlier run
-            DeleteFileW((Folder() + pack + L"\\settings.ini").c_str());
-        for (const auto &[name, value] : {std::pair(L"TileWallpaper", L"1"), {L"WallpaperStyle", L"0"}})
-            RegSetKeyValueW(HKEY_CURRENT_USER, L"Control Panel\\Desktop", name, REG_SZ, value, 4);
-        Set_Setting("Settings", "Settings Tab", "6");
-        Set_Setting("Settings", "Use Themes", "0");
-    }
-    void Put_Pack(const std::wstring &name, int pictures) const {
-        const std::wstring pack = L"..\\" + name + L"\\";
-        CreateDirectoryW((Folder() + L"\\" + pack).c_str(), nullptr);
-        Put(pack + L"settings.ini", "1=0-3-2\r\n2=1-0-2\r\n3=0-6-2\r\n4=0-6-2\r\n5=1-0-1\r\n6=0-7-2\r\n");
-        for (int month = 1; month <= pictures; ++month)
-            Put(pack + std::to_wstring(month) + L".jpg", Small_Jpeg(month));
-    }
-    HWND Part(const char *caption) const { return FindWindowExA(dialog_, nullptr, "Button", caption); }
-    bool Ticked() const { return SendMessageA(Part(use_chk), BM_GETCHECK, 0, 0) == BST_CHECKED; }
-    Program *program_ = nullptr;
-    HWND dialog_ = nullptr;
-};
-
-TEST_F(Wallpaper_Page, An_Abandoned_Preview_Leaves_No_Trace) {
-    Put_Pack(L"Default", 12);
-    std::wstring own = Folder() + L"\\..\\own.bmp";
+TEST_F(Themed, An_Abandoned_Preview_Leaves_No_Trace) {
+    std::wstring own = Path_Of(L"own.bmp");
     Picture().Save(own);
     SystemParametersInfoW(SPI_SETDESKWALLPAPER, 0, own.data(), SPIF_UPDATEINIFILE);
-    for (const bool used : {false, true}) {
-        SCOPED_TRACE(used);
-        Set_Setting("Settings", "Use Themes", used ? "1" : "0");
-        program_ = &Start_Calendar();
-        const std::wstring before = Wallpaper();
-        EXPECT_EQ(before, used ? L"1 0 \\5.bmp" : L"1 0 \\..\\own.bmp");
-        const RECT place = program_->Items().at(0).place;
-        dialog_ = program_->Open_Settings();
-        if (!used)
-            Click_On(Part(use_chk), [&] { return Ticked(); });
-        ASSERT_TRUE(Wait_Until([&] { return IsWindowEnabled(Part(preview_btn)); }));
-        Click_On(Part(preview_btn), [&] { return !IsWindowEnabled(Part(preview_btn)); });
-        const DWORD begin = GetTickCount();
-        const WORD day = used ? 14 : 13;
-        Set_Clock(2027, 5, day, 10, 30, 0); // which shows when the preview is over
-        for (const auto &[title, wallpaper] : {std::pair("Preview Mode - January", L"0 2 \\1.bmp"),
-                                               {"Preview Mode - February", L"0 2 \\2.bmp"}}) {
-            EXPECT_TRUE(Becomes(std::string(title), [&] { return program_->Title(); }));
-            EXPECT_TRUE(Becomes(std::wstring(wallpaper), [&] { return Wallpaper(); }));
-        }
-        EXPECT_GE(GetTickCount() - begin, 2000U);
-        Send_Key(VK_ESCAPE);
-        EXPECT_TRUE(Becomes(before, [&] { return Wallpaper(); }));
-        EXPECT_TRUE(Becomes(std::to_string(day) + "th May - 2027", [&] { return program_->Title(); }));
-        EXPECT_TRUE(Wait_Until([&] { return IsWindowEnabled(Part(preview_btn)); })) << "the dialog stays";
-        const RECT after = program_->Items().at(0).place;
-        EXPECT_TRUE(EqualRect(&place, &after));
-        for (const wchar_t *left : {L"1.bmp", L"2.bmp"})
-            EXPECT_EQ(Size(left), 0U) << left;
-        EXPECT_EQ(Size(L"5.bmp") > 0, used);
-        EXPECT_EQ(Store().find("Use Themes=1") != std::string::npos, used);
-        EXPECT_EQ(program_->Box(), "");
-        if (!used) { // killed, it leaves the pack's picture to the next start
-            Click_On(Part(preview_btn), [&] { return !IsWindowEnabled(Part(preview_btn)); });
-            EXPECT_TRUE(Becomes(std::wstring(L"0 2 \\1.bmp"), [&] { return Wallpaper(); }));
-            Stop_All();
-            Start_Calendar();
-            EXPECT_TRUE(Becomes(before, [&] { return Wallpaper(); }));
-        }
-        Stop_All();
-    }
+    for (const auto &[name, value] : {std::pair(L"TileWallpaper", L"1"), {L"WallpaperStyle", L"0"}})
+        RegSetKeyValueW(HKEY_CURRENT_USER, L"Control Panel\\Desktop", name, REG_SZ, value, 4);
+    Set_Setting("Settings", "Settings Tab", "6");
+    const Program &program = Start_Calendar();
+    const std::wstring before = Wallpaper();
+    EXPECT_EQ(before, L"1 0 " + own);
+    const auto wallpaper = [&] { return Wallpaper(); };
+    const auto title = [&] { return program.Title(); };
+    const RECT place = program.Items().at(0).place;
+    const HWND dialog = program.Open_Settings();
+    const HWND use_chk = FindWindowExA(dialog, nullptr, "Button", "Use &themes");
+    const HWND preview_btn = FindWindowExA(dialog, nullptr, "Button", "Pre&view all months");
+    const auto can_begin = [&] { return IsWindowEnabled(preview_btn) != FALSE; };
+    Click_On(use_chk, [&] { return SendMessageA(use_chk, BM_GETCHECK, 0, 0) == BST_CHECKED; });
+    ASSERT_TRUE(Wait_Until(can_begin));
+    const DWORD begin = GetTickCount();
+    const auto preview = [&] {
+        Click_On(preview_btn, [&] { return !can_begin(); });
+        EXPECT_TRUE(Becomes(std::wstring(L"0 2 \\1.bmp"), wallpaper));
+    };
+    preview();
+    EXPECT_EQ(program.Title(), "Preview Mode - January");
+    Set_Clock(2027, 5, 13, 10, 30, 0); // the title shows it once the preview is over
+    EXPECT_TRUE(Becomes(std::string("Preview Mode - February"), title));
+    EXPECT_TRUE(Becomes(std::wstring(L"0 2 \\2.bmp"), wallpaper));
+    EXPECT_GE(GetTickCount() - begin, 2000U);
+    Send_Key(VK_ESCAPE);
+    EXPECT_TRUE(Becomes(before, wallpaper));
+    EXPECT_TRUE(Becomes(std::string("13th May - 2027"), title));
+    EXPECT_TRUE(Wait_Until(can_begin)) << "the dialog stays";
+    const RECT after = program.Items().at(0).place;
+    EXPECT_TRUE(EqualRect(&place, &after) && Size(L"1.bmp") + Size(L"2.bmp") == 0);
+    EXPECT_EQ(Store().find("Use Themes=1"), std::string::npos);
+    EXPECT_EQ(program.Box(), "");
+    preview();
+    Stop_All(); // kills the program during the preview; the next start restores the wallpaper
+    Start_Calendar();
+    EXPECT_TRUE(Becomes(before, wallpaper));
 }
 
 } // namespace

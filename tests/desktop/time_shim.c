@@ -1,25 +1,24 @@
-/* A preloaded library that moves the clock of one program: it adds the seconds written in the file that
- * VT_CLOCK names to the real-time clock. The file is read again at every call, so that a test moves a running
- * program over midnight by rewriting it; without the file or the variable the clock is the true one. Other
- * clocks (timers, waits) keep their pace.
+/* A preloaded library that shifts the clock of one program. It adds the seconds in the file that VT_CLOCK
+ * names to the real-time clock. Each call reads the file again, so a test can move a running program over
+ * midnight by rewriting the file. Without the file or the variable, the clock stays unchanged. Other clocks
+ * (timers, waits) are not shifted.
  *
- * It is freestanding, since the C library of the other bitness need not be installed:
+ * It is freestanding, because the C library of the other bitness may be missing:
  *   gcc -O2 -ffreestanding -fno-builtin -fno-stack-protector -nostdlib -shared -fPIC [-m32]
  *       -o time_shim.so time_shim.c
  *
- * Preload it into the program under test alone; Wine's server must be running already. From a script:
+ * Preload it only into the program under test; Wine's server must already be running. From a script:
  *   Wine_Run 60 LD_PRELOAD=/full/path/time_shim.so VT_CLOCK=/full/path/offset vellatro.exe
- * From a Windows program, SetEnvironmentVariable before CreateProcess is of no use: Wine hands its own
- * environment on. But CreateProcess can start a program of the host, which then has to be found by its
- * window, since there is no process handle:
- *   Z:\usr\bin\env LD_PRELOAD=/full/path/time_shim.so VT_CLOCK=/full/path/offset
+ * A Windows program cannot set these variables by SetEnvironmentVariable, because Wine passes on its own
+ * environment. It can start a program of the host by CreateProcess, and has to find it by its window, since
+ * it gets no process handle: Z:\usr\bin\env LD_PRELOAD=/full/path/time_shim.so VT_CLOCK=/full/path/offset
  *       wine /full/path/vellatro.exe
  *
- * Wine tells nobody that the clock was moved: the test broadcasts WM_TIMECHANGE itself if it wants that. */
+ * Wine does not announce the change: a test that needs WM_TIMECHANGE broadcasts it itself. */
 
 typedef long long Seconds;
 
-struct Moment { /* as the kernel fills it in on both bitnesses */
+struct Moment { /* the kernel's layout on both bitnesses */
     Seconds seconds;
     Seconds nanoseconds;
 };
@@ -64,7 +63,7 @@ static const char *File_Name(void) {
     return 0;
 }
 
-/* The number in the file, with an optional sign; whatever follows the digits is ignored. */
+/* Returns the number in the file, with an optional sign, and ignores what follows its digits. */
 static Seconds Offset(void) {
     char text[32];
     Seconds value = 0;
@@ -88,9 +87,8 @@ static int Ask(int clock, struct Moment *now) {
     return 0;
 }
 
-/* The C library's procedures in its own shapes. Below, "long" is what the structures of the classical calls
- * hold; the calls with 64 in their names are what 32-bit programs with 64-bit time use. Nanoseconds fit 32
- * bits, which keeps the division from needing a library. */
+/* The C library's functions. The structures of the classical calls hold "long"; 32-bit programs with 64-bit
+ * time use the calls with 64 in their names. Nanoseconds fit 32 bits, so the division needs no library. */
 
 int clock_gettime(int clock, long *result) {
     struct Moment now;

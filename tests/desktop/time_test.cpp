@@ -1,4 +1,4 @@
-// The program over time: midnight, rest, and windows that come and go.
+// The program over time: midnight, idle time, and leaks by windows that open and close.
 #include "tests/desktop/driver.h"
 
 #include <windows.h>
@@ -25,7 +25,8 @@ TEST_F(Time, Date_Changes_While_It_Runs) {
     ASSERT_TRUE(Becomes(std::string("April - 2027"), title));
 
     Set_Clock(2027, 5, 31, 23, 59, 58);
-    SYSTEMTIME now{}, still{}; // when the old title was last asked for: a busy machine may answer late
+    // `still` is the time of the last request that returned the old title: a busy machine may answer late.
+    SYSTEMTIME now{}, still{};
     ASSERT_TRUE(Becomes(std::string("1st June - 2027"), [&] {
         still = std::exchange(now, {});
         GetSystemTime(&now);
@@ -39,7 +40,7 @@ TEST_F(Time, Date_Changes_While_It_Runs) {
     EXPECT_EQ(program.Items(ROLE_SYSTEM_CELL).size(), 30U);
     EXPECT_EQ(program.Named("Tuesday 1st June 2027, today").value, "First of June");
 
-    // Back. A menu goes first, as it has the mouse.
+    // The clock goes back. The alert waits until an open menu is closed.
     program.Click(program.Items(ROLE_SYSTEM_CELL).at(0).place, MOUSEEVENTF_RIGHTDOWN);
     ASSERT_TRUE(Wait_Until([&] { return program.Window("#32768") != nullptr; }));
     Set_Clock(2027, 5, 31, 12, 0, 0);
@@ -54,7 +55,7 @@ TEST_F(Time, Rests_While_Nothing_Happens) {
     Write_Data("\"1/5/2027=Text\"\r\n");
     const Program &program = Start_Calendar();
     Save_Picture("rest");
-    // A mark over a box, made from outside, shows a repaint; a file that cannot be opened shows a reading.
+    // A repaint would erase a mark drawn over a box, and a read of the locked file would show an error.
     const RECT place = program.Named("Thursday 20th May 2027").place;
     const POINT mark{place.left + 20, place.bottom - 20};
     POINT in_window = mark;
@@ -69,7 +70,7 @@ TEST_F(Time, Rests_While_Nothing_Happens) {
     ASSERT_GT(ticks, 0);
     EXPECT_FALSE(Wait_Until([&] { return colour() != 0xFF0000U || !program.Box().empty(); }, 5000));
     EXPECT_LE(program.Processor_Ticks() - ticks, 2);
-    // Both signs would have shown.
+    // Both signs do appear after a repaint and a read.
     InvalidateRect(program.Calendar(), nullptr, FALSE);
     EXPECT_TRUE(Becomes(0xFFFFFFU, colour));
     program.Press(VK_F5);
@@ -84,8 +85,8 @@ TEST_F(Time, What_Opens_And_Closes_Leaves_Nothing_Behind) {
     const Program &program = Start_Calendar();
     constexpr const char *day = "Saturday 8th May 2027";
     const POINT place = Middle(program.Named(day).place);
-    POINT press = place; // two at one place would be a double click
-    WPARAM page = 0;     // of the settings, another one each time
+    POINT press = place; // moves, since two presses at one place make a double click
+    WPARAM page = 0;     // of the settings, the next one each time
     const struct {
         const char *window;
         std::function<void()> open, close;
@@ -101,7 +102,7 @@ TEST_F(Time, What_Opens_And_Closes_Leaves_Nothing_Behind) {
                  [&] { PostMessageW(program.Window("Vellatro_Settings_Frm"), WM_CLOSE, 0, 0); }},
                 {"Vellatro_Edit_Frm", [&] { program.Do_Default(day); },
                  [&] { PostMessageW(program.Window("Vellatro_Edit_Frm"), WM_CLOSE, 0, 0); }}};
-    // What the system makes once and keeps goes on for a while; a leak would go on for ever.
+    // Objects that the system creates once stop growing after some rounds; a leak does not.
     ::testing::AssertionResult same = ::testing::AssertionFailure();
     Program::Held before{};
     for (int round = 0; round < 40 && !same; ++round) {

@@ -1,5 +1,4 @@
-// The way to imports and exports through the settings dialog, for the tests that take it. It judges nothing
-// but the way itself.
+// The fixture of tests that import and export through the settings dialog.
 #pragma once
 
 #include "tests/desktop/driver.h"
@@ -10,11 +9,11 @@ protected:
         Desktop_Test::SetUp();
         const std::wstring folder = Path_Of(L"");
         folder_.assign(folder.begin(), folder.end());
-        for (const wchar_t *name : {L"out.csv", L"out.dat", L"out.ini", L"data.bak"}) // of an earlier run
+        for (const wchar_t *name : {L"out.csv", L"out.dat", L"out.ini", L"data.bak"}) // of earlier runs
             DeleteFileW(Path_Of(name).c_str());
     }
 
-    /// The settings dialog, on its page of import and export.
+    /// Starts the calendar and opens the settings dialog on its page of import and export.
     void Open() {
         Set_Setting("Settings", "Settings Tab", "7");
         Set_Setting("Settings", "Show Alerts", "0");
@@ -22,17 +21,17 @@ protected:
         program_->Open_Settings();
     }
 
-    /// Presses the button of an access key, and names a file in the dialog of that title; without a name it
-    /// cancels.
+    /// Presses a button by its access key, and enters a file name in the dialog with that title. An empty
+    /// name cancels the dialog.
     void Choose_File(WORD access_key, const char *title, const std::string &name) const {
         const auto dialog = [&] { return FindWindowA("#32770", title); };
-        for (int i = 0; i < 3 && dialog() == nullptr; ++i) { // a key is lost while X changes the focus
+        for (int i = 0; i < 3 && dialog() == nullptr; ++i) { // X loses a key while it changes the focus
             Send_Key(access_key, true);
             Wait_Until([&] { return dialog() != nullptr; }, 2000);
         }
         Give_Name(title, name.empty() ? name : folder_ + name);
     }
-    /// Names a file in a dialog that is there or comes, or cancels it.
+    /// Waits for the file dialog and enters the path, or cancels the dialog if the path is empty.
     static void Give_Name(const char *title, const std::string &path) {
         constexpr int file_name = 0x47C;
         HWND dialog = nullptr;
@@ -44,23 +43,19 @@ protected:
         PostMessageA(dialog, WM_COMMAND, path.empty() ? IDCANCEL : IDOK, 0);
         ASSERT_TRUE(Wait_Until([&] { return !IsWindow(dialog); })) << title;
     }
-    /// Answers the box whose text begins so.
+    /// Waits for a message box whose text starts with `box`, and answers it.
     void Answer(const std::string &box, WORD button = IDOK) const {
         ASSERT_TRUE(Becomes(
             box, [&] { return program_->Box().substr(0, box.size()); }, 120'000));
         program_->Answer(button);
     }
-    /// No box follows, and the page can be used again.
+    /// Expects the page to be usable again, with no message box.
     void Expect_Quiet() const {
         const HWND page = program_->Window("Vellatro_Settings_Frm");
         EXPECT_TRUE(
             Wait_Until([&] { return page && IsWindowEnabled(page) && GetForegroundWindow() == page; }));
         EXPECT_EQ(program_->Box(), "");
     }
-    void Set_Read_Only(const std::string &name, bool on) const {
-        EXPECT_TRUE(SetFileAttributesA((folder_ + name).c_str(),
-                                       on ? FILE_ATTRIBUTE_READONLY : FILE_ATTRIBUTE_NORMAL));
-    }
     const Program *program_ = nullptr;
-    std::string folder_; ///< the program's, with the separator
+    std::string folder_; ///< of the program, with a backslash at the end
 };

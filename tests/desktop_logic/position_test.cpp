@@ -1,4 +1,4 @@
-// The positions.
+// The positions of the calendar on the screen.
 #include "core/convert.h"
 #include "desktop/position.h"
 #include "tests/fakes/form_test.h"
@@ -12,7 +12,7 @@ TEST_F(Position, unknown_codes_and_odd_sizes) {
     for (const std::int16_t code :
          {std::int16_t{-1}, static_cast<std::int16_t>(std::size(Positions)), std::int16_t{32767}})
         EXPECT_EQ(Position_Of(code, placement), std::nullopt);
-    // A window larger than the work area: half of what is missing, its fraction dropped.
+    // A window larger than the work area is centred; the division drops the fraction.
     EXPECT_EQ(Position_Of(1, placement)->x, 299);
     placement.form.width = 0;
     placement.work_area.left = INT32_MAX - 10;
@@ -20,7 +20,8 @@ TEST_F(Position, unknown_codes_and_odd_sizes) {
     EXPECT_EQ(Position_Of(7, placement), (Point{-20, 32767}));
 }
 
-// The task bar on each of the four sides, and a screen to the left of and above the main one.
+// Work areas beside a taskbar at the top, left and bottom, and one on a monitor left of and above the main
+// one.
 TEST_F(Position, stands_beside_the_task_bar_at_any_dots_per_inch) {
     const struct {
         int dots;
@@ -32,7 +33,7 @@ TEST_F(Position, stands_beside_the_task_bar_at_any_dots_per_inch) {
         {144, {0, 0, 1920, 1160}, {0, 4425, 8850}, {0, 1877, 4025}},
         {144, {-1920, -100, 1920, 1160}, {-19200, -14775, -10350}, {-1000, 877, 3025}},
     };
-    // By code: which of the three across, which down. 7 is the user's own place.
+    // The index into x and y by position code. 7 is the manual position.
     constexpr int across[] = {2, 1, 0, 1, 2, 1, 0, -1, 2, 0};
     constexpr int down[] = {2, 2, 2, 1, 0, 0, 0, -1, 1, 1};
     for (const auto &row : rows) {

@@ -1,4 +1,4 @@
-// The event editor on the calendar: what it shows and saves, its questions, and the days that stay its own.
+// The event editor: what it shows, saves and asks, and that it keeps its day.
 #include "app/program.h"
 #include "core/settings.h"
 #include "editor/edit_frm.h"
@@ -25,14 +25,6 @@ protected:
     void Type(const std::string &text) { Enter_Text(editor, editor.Message_Txt, text); }
     bool Has_Window() { return Desktop().mirrors.contains(&editor.Model()); }
 
-    /// The records of the data file, each ended by a "|".
-    static std::string Records() {
-        std::string records;
-        for (const char c : Data_File())
-            records += c == '"' || c == '\r' ? "" : c == '\n' ? "|" : std::string(1, c);
-        return records;
-    }
-
     Edit_Frm editor{form};
 };
 
@@ -54,7 +46,7 @@ TEST_F(Editor, shows_and_saves_the_event_of_a_day) {
         Events({row.before});
         form.Redraw();
         Cur_Settings.Tooltips = row.tick ? 1 : 2;
-        Open(6); // and from there without a question
+        Open(6); // leaving it asks nothing
         Open(5);
         EXPECT_EQ(editor.Date_Lbl.Caption() + editor.Message_Txt.Text(),
                   "Tuesday 5th March 2002" + row.shown);
@@ -77,7 +69,7 @@ TEST_F(Editor, keeps_a_text_that_cannot_be_saved_and_shows_what_is_stored) {
     Events({"5/3/2002=A"});
     form.Redraw();
     for (const bool unread : {false, true}) {
-        if (unread) { // What the 6th has is not seen when the editor opens, and could be read when it saves.
+        if (unread) { // the event of the 6th is unreadable when the editor opens, and readable when it saves
             Data_File() += "\"6/3/2002=open";
             Fakes().Expect_Box("Error loading in data file.");
         } else {
@@ -100,7 +92,7 @@ TEST_F(Editor, keeps_a_text_that_cannot_be_saved_and_shows_what_is_stored) {
         Push(editor, editor.Cancel_Btn);
         Fakes().unwritable.clear();
     }
-    Open(6); // which reads it now
+    Open(6); // now the event can be read
     EXPECT_EQ(editor.Message_Txt.Text(), "open");
 }
 
@@ -155,7 +147,7 @@ TEST_F(Editor, asks_for_unsaved_text_before_another_day_and_the_end_of_session_a
             EXPECT_EQ(Desktop().refusal, "An event in the editor is not saved yet.");
             editor.Set_Focus(editor.Ok_Btn);
             Fakes().Expect_Box(question, row.answer, [this] {
-                EXPECT_FALSE(Desktop().Say(Broadcast::Session_Ends)); // no second question over the first
+                EXPECT_FALSE(Desktop().Say(Broadcast::Session_Ends)); // no second question over the first one
                 form.Edit_Box(20);
             });
             if (row.typed == "n\"w")
@@ -164,7 +156,7 @@ TEST_F(Editor, asks_for_unsaved_text_before_another_day_and_the_end_of_session_a
             EXPECT_EQ(Records(), row.saves ? "6/3/2002=six|5/3/9999=new|" : "6/3/2002=six|");
             EXPECT_EQ(Has_Window(), way == other_day || !row.leaves);
             if (Has_Window()) {
-                // An editor that stays open keeps its tick; after a save it is a new one.
+                // An editor that stays open keeps its tick; one opened after a save has its own.
                 EXPECT_TRUE(editor.Apply_Btn.Enabled() != row.leaves &&
                             editor.Every_Year_Chk.Checked() != row.saves);
                 EXPECT_EQ(editor.Message_Txt.Text(), row.leaves ? "six" : row.typed);
@@ -174,7 +166,7 @@ TEST_F(Editor, asks_for_unsaved_text_before_another_day_and_the_end_of_session_a
             EXPECT_EQ(Desktop().refusal, "");
         }
     }
-    for (const bool sound : {true, false}) { // a session that waits for nobody
+    for (const bool sound : {true, false}) { // a forced end of the session
         Open(5);
         Type(sound ? "kept" : "n\"w");
         EXPECT_TRUE(Desktop().Say(Broadcast::Session_Forced));
@@ -199,7 +191,7 @@ TEST_F(Editor, waits_for_the_end_of_the_settings_and_is_asked_for_meanwhile) {
     EXPECT_TRUE(editor.Model().enabled && Records().empty());
     Cur_Settings.Settings_Tab = Settings_Frm::transfer_fra + 1;
     form.Open_Settings();
-    // Stored in the middle of an import, which then fails.
+    // The session ends during an import, which stores the text; then the import fails.
     Fakes().files["C:\\in.csv"] = "none";
     Fakes().Expect_Dialog("Import Events from CSV File", "C:\\in.csv");
     Fakes().Expect_Box("Invalid CSV file or missing required headings.", Box_Answer::Ok, [&settings] {
@@ -229,7 +221,7 @@ TEST_F(Editor, keeps_its_day_whatever_the_calendar_shows) {
         Push(editor, editor.Ok_Btn);
         EXPECT_EQ(Records() + Text_Of(5), form.Cur_Month == 3 ? "5/3/2002=kept|kept" : "5/3/2002=kept|");
     }
-    // The day that the user meant when he clicked counts, not what the question left the calendar at.
+    // The clicked day counts, even if the month changes under the question.
     Open(5);
     Type("other");
     Fakes().Expect_Box(question, Box_Answer::Yes, [this] { Show_Month(7, 2010); });
@@ -237,7 +229,7 @@ TEST_F(Editor, keeps_its_day_whatever_the_calendar_shows) {
     Type("six");
     Push(editor, editor.Ok_Btn);
     EXPECT_EQ(Records(), "5/3/2002=other|6/3/2002=six|");
-    // A yearly event comes to the same month of another year, and goes from it.
+    // A yearly event appears in the same month of another year, and disappears from it.
     Events({"5/3/2010=ten"});
     for (const std::string text : {"yearly", "once", "yearly", ""}) {
         Show_Month(3, 2002);
@@ -248,7 +240,7 @@ TEST_F(Editor, keeps_its_day_whatever_the_calendar_shows) {
         Push(editor, editor.Ok_Btn);
         EXPECT_EQ(Text_Of(7) + Text_Of(5), (text == "yearly" ? text : "") + "ten") << Records();
     }
-    for (const int day : {1, 15, 31}) { // and it lies beside its box
+    for (const int day : {1, 15, 31}) { // the editor opens beside its box
         Show_Month(3, 2002);
         Open(day);
         Rect box = Box_Of(day).Bounds();

@@ -1,4 +1,3 @@
-// Windows, canvas, timers, screen, menus and the shell without a screen.
 #include "tests/fakes/fake_forms.h"
 
 #include "base/characters.h"
@@ -55,14 +54,14 @@ namespace {
 
 void Mouse(Form &form, Input_Kind kind, const Control &control, Mouse_Button button) {
     const Point middle{control.Width() / 2, control.Height() / 2};
-    // Controls of dialogs have windows of their own.
+    // A dialog's controls have their own windows.
     if (form.Model().kind == platform::Form_Kind::Dialog)
         return Input(form, {.kind = kind, .point = middle, .button = button}, &control);
     Input(form,
           {.kind = kind, .point = {middle.x + control.Left(), middle.y + control.Top()}, .button = button});
 }
 
-/// The native window that something is told to or done with: there must be one.
+/// Returns the form's native window, which must exist.
 Fake_Mirror &Mirror_Of(const platform::Form_Model &model) {
     Require(Desktop().mirrors.contains(&model), "a native window that is not there: " + model.name);
     return Desktop().mirrors[&model];
@@ -123,7 +122,7 @@ void Create_Mirror(const Form_Model &model) {
 }
 
 void Destroy_Mirror(const Form_Model &model) {
-    // A real window reads the controls while it goes down: they must still be there.
+    // A real window reads the controls while it is destroyed, so they must still exist.
     for (const Control_State *control : model.controls)
         Require(!control->name.empty(), "a control without a name in " + model.name);
     Desktop().mirrors.erase(&model);
@@ -206,7 +205,7 @@ int Line_Height(const Font &font) {
 }
 
 Colour Resolve_Colour(Colour colour) {
-    // All system colours are the same light grey here.
+    // All system colours are the same light grey.
     return colour < 0 ? Rgb(192, 192, 192) : colour & 0xFFFFFF;
 }
 
@@ -285,20 +284,15 @@ void Process_Waiting_Messages() {
 }
 
 void Wait_For_Messages(unsigned milliseconds) {
-    // Sleeping moves the clock on, in steps as messages would end it.
+    // Waiting advances the clock, by short steps since messages could end the wait.
     const unsigned step = std::min(milliseconds, 50U);
     Date_Time &now = Fakes().now;
     now.millisecond += static_cast<int>(step);
-    const auto carry = [](int &low, int count, int &high) { high += low / count, low %= count; };
-    carry(now.millisecond, 1000, now.second);
-    carry(now.second, 60, now.minute);
-    carry(now.minute, 60, now.hour);
-    carry(now.hour, 24, now.day);
-    const auto month = static_cast<std::int16_t>(now.month);
-    if (now.day > DaysInMonth({static_cast<std::int16_t>(now.year), month, 1}))
-        now.day = 1, ++now.month;
-    if (now.month > 12)
-        now.month = 1, ++now.year;
+    now.second += now.millisecond / 1000;
+    now.millisecond %= 1000;
+    const int minutes = now.second / 60;
+    now.second %= 60;
+    now = Later(now, minutes);
     Desktop().Advance(step);
 }
 
@@ -321,11 +315,10 @@ void Explain_Refusal(const std::string &reason) {
 }
 
 bool Claim_Single_Instance(const std::string &) {
-    return Fakes().claimable;
+    return true;
 }
 
 void Release_Single_Instance() {
-    Fakes().claimable = true;
 }
 
 int Restart_Count() {

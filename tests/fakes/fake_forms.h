@@ -1,5 +1,5 @@
-// The faked windows, canvas, timers, screen, menus and shell: what the program told the mirrors is recorded,
-// and a test moves the time and the mouse by hand. The rest of the faked system is in fakes.h.
+// The faked windows, canvas, timers, screen, menus and shell. They record what the program tells its windows,
+// and tests move the time and the mouse by hand. fakes.h has the rest of the faked system.
 #pragma once
 
 #include "platform/drawing.h"
@@ -13,7 +13,7 @@
 class Control;
 class Form;
 
-/// One drawing operation. Fields that do not belong to it stay empty.
+/// One drawing operation. Fields that its kind does not use stay empty.
 struct Canvas_Operation {
     enum class Kind { Fill, Frame, Polygon, Text, Picture };
     Kind kind;
@@ -29,28 +29,28 @@ struct platform::Canvas {
     std::vector<Canvas_Operation> operations;
 };
 
-/// A change that a mirror was told of.
+/// A change that the program told a window of.
 struct Told_Change {
-    std::string control; ///< name; empty: the form itself
+    std::string control; ///< its name; empty for the form itself
     platform::Aspect aspect;
     friend bool operator==(const Told_Change &, const Told_Change &) = default;
 };
 
 /// The native window of a form.
 struct Fake_Mirror {
-    bool shown = false; ///< as of the last thing told
+    bool shown = false; ///< as the program last told it
     std::vector<Rect> clip;
-    bool shown_unclipped = false; ///< it was visible before it had a clip
+    bool shown_unclipped = false; ///< it was once visible without a clip or shape
     std::vector<Point> shape;
-    Point displaced{};  ///< how far others have moved it since it was put where it belongs, pixels
-    bool stuck = false; ///< and it stays there
+    Point displaced{};  ///< how far something else moved it since the program placed it, in pixels
+    bool stuck = false; ///< the program cannot move it back
 };
 
-/// A popup menu that a test expects, in its turn.
+/// A popup menu that a test expects next.
 struct Expected_Menu {
-    std::string texts; ///< parted by "|", greyed ones in brackets
+    std::string texts; ///< of the items, separated by "|"; disabled ones in parentheses
     int answer = 0;
-    std::function<void()> meanwhile{}; ///< what happens while the menu is open; timers wait
+    std::function<void()> meanwhile{}; ///< runs while the menu is open; timers wait
 };
 
 struct Fake_Timer {
@@ -61,67 +61,67 @@ struct Fake_Timer {
 struct Fake_Desktop {
     int dots_per_inch = 96;
     Rect work_area{0, 0, 1024, 740};
-    Rect second_area{}; ///< of another monitor; empty: there is none
+    Rect second_area{}; ///< of a second monitor; empty if there is none
     bool button_held = false;
     bool high_contrast = false;
-    bool refuses_windows = false; ///< no form gets a native window
-    int char_width = 100;         ///< twips of every character
+    bool refuses_windows = false; ///< creating a native window fails
+    int char_width = 100;         ///< width of each character in twips
 
     std::map<const platform::Form_Model *, Fake_Mirror> mirrors;
     std::vector<Told_Change> told;
-    const platform::Form_Model *front = nullptr; ///< brought there last
+    const platform::Form_Model *front = nullptr; ///< the form last brought to the front
 
     std::map<platform::Timer_Id, Fake_Timer> timers;
     unsigned time = 0;
     Callback<bool(platform::Broadcast)> listener;
-    std::string refusal; ///< why the session may not end
+    std::string refusal; ///< the reason given against the end of the session
     bool loop_ended = false;
-    std::deque<std::function<void()>> messages; ///< processed one by one while the program waits
+    std::deque<std::function<void()>> messages; ///< one runs at each call of Process_Waiting_Messages
 
     std::deque<Expected_Menu> expected_menus;
     bool menu_open = false;
-    std::optional<Point> menu_at; ///< where the last menu was to open
+    std::optional<Point> menu_at; ///< the position asked for the last menu
     int measured = 0;             ///< calls of Text_Width
 
     std::function<int(const std::vector<platform::Menu_Item> &)>
-        answer_menu;               ///< for menus that no test expects
-    std::function<void()> in_loop; ///< again and again, until the message loop is ended
+        answer_menu;               ///< answers menus that no test expects
+    std::function<void()> in_loop; ///< runs repeatedly until the message loop ends
 
-    /// Lets the time pass, with the timers' ticks in their order.
+    /// Lets time pass and runs the timers that fall due, in order.
     void Advance(unsigned milliseconds);
     bool Say(platform::Broadcast broadcast) { return !listener || listener(broadcast); }
 };
 
-/// The one faked desktop.
+/// Returns the only faked desktop.
 Fake_Desktop &Desktop();
 
-/// The faked shell: which of its windows there are, what its icon list answers, and what was attached to it.
+/// The faked shell: its windows, the answers of its icon list, and the form attached to it.
 struct Fake_Shell {
-    platform::Shell_Window desktop = 0, view = 0, list = 0; ///< none is there unless a test says so
-    platform::Shell_Window worker = 0;                      ///< that holds the view; 0: the desktop does
-    std::optional<platform::Label_Colours> colours;         ///< nothing: the shell hangs
-    std::vector<std::string> web_pages;                     ///< that were opened
-    int dots_inside = 0; ///< dots per inch that a window has inside the desktop; 0: the same as outside
+    platform::Shell_Window desktop = 0, view = 0, list = 0; ///< missing unless a test sets them
+    platform::Shell_Window worker = 0;                      ///< the view's parent; 0 if that is the desktop
+    std::optional<platform::Label_Colours> colours;         ///< none if the shell hangs
+    std::vector<std::string> web_pages;                     ///< addresses opened so far
+    int dots_inside = 0; ///< DPI of a window inside the desktop; 0: the same as outside
 
     const platform::Form_Model *attached = nullptr;
     platform::Shell_Window attached_to = 0;
-    bool attached_hidden = false; ///< it was not to be seen when it was attached
-    bool covered = false;         ///< by the view, which somebody has raised
+    bool attached_hidden = false; ///< it was hidden when it was attached
+    bool covered = false;         ///< the view has been raised above it
 };
 
-/// The one faked shell.
+/// Returns the only faked shell.
 Fake_Shell &Shell();
 
-/// Makes the desktop and the shell new.
+/// Resets the desktop and the shell.
 void Reset_Desktop();
 
-/// Paints the form as its window would.
+/// Returns what the form paints within the clip.
 platform::Canvas Painted(const Form &form, const Rect &clip);
 
-/// What a user does; with a control the event is about that one. A disabled or hidden one takes nothing.
+/// Sends the form a user's input, for the control if there is one. Disabled and hidden controls ignore it.
 void Input(Form &form, platform::Input_Event event, const Control *control = nullptr);
 
-// In the middle of the control.
+// These send mouse input to the middle of the control, and a key to the form.
 void Press(Form &form, const Control &control, platform::Mouse_Button button = platform::Mouse_Button::Left);
 void Release(Form &form, const Control &control,
              platform::Mouse_Button button = platform::Mouse_Button::Left);
@@ -129,9 +129,9 @@ void Click(Form &form, const Control &control, platform::Mouse_Button button = p
 void Double_Click(Form &form, const Control &control);
 void Press_Key(Form &form, int key);
 
-// The same for the native controls of dialogs.
+// These send what a native control of a dialog reports.
 void Push(Form &form, const Control &control, bool checked = false);
 void Enter_Text(Form &form, const Control &control, const std::string &text);
-/// Of a slider the value; kind Scrolled while it is moved.
+/// Selects an item, or sets a slider to a value: with the kind Scrolled, the slider is still moving.
 void Choose(Form &form, const Control &control, int item,
             platform::Input_Kind kind = platform::Input_Kind::Selected);

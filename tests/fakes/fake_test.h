@@ -1,5 +1,5 @@
-// The fixture of tests that run on the fakes: each test begins with a new system and default settings, and a
-// message box that was expected and never came fails it.
+// The fixture of tests that run on the fakes. Each test starts with a new system and default settings, and
+// fails if an expected message box or file dialog never appears.
 #pragma once
 
 #include "core/settings.h"
@@ -15,7 +15,7 @@ protected:
         Cur_Settings = Settings{};
     }
 
-    // In the destructor, so that a fixture's own TearDown cannot leave it out.
+    // A derived fixture's TearDown could skip a TearDown here, but not the destructor.
     ~Fake_Test() override {
         for (const Expected_Box &box : Fakes().expected_boxes)
             ADD_FAILURE() << "this message box never came: " << box.text;

@@ -1,5 +1,3 @@
-// The faked system: clock, regional settings, text, files, pictures, registry, wallpaper and message boxes.
-// Forms, screen and shell are in fake_forms.cpp.
 #include "tests/fakes/fakes.h"
 
 #include "base/characters.h"
@@ -40,15 +38,7 @@ void Require(bool met, const std::string &message) {
     std::abort();
 }
 
-namespace platform {
-
-Date_Time Now() {
-    return Fakes().now;
-}
-
-namespace {
-
-Date_Time Later(const Date_Time &time, int minutes) {
+platform::Date_Time Later(const platform::Date_Time &time, int minutes) {
     const Date date{static_cast<std::int16_t>(time.year), static_cast<std::int16_t>(time.month),
                     static_cast<std::int16_t>(time.day)};
     const int moment = time.hour * 60 + time.minute + minutes;
@@ -57,7 +47,11 @@ Date_Time Later(const Date_Time &time, int minutes) {
     return {day.year, day.month, day.day, of_day / 60, of_day % 60, time.second, time.millisecond};
 }
 
-} // namespace
+namespace platform {
+
+Date_Time Now() {
+    return Fakes().now;
+}
 
 Date_Time Now_In_Utc() {
     return Later(Fakes().now, -Fakes().zone_minutes);
@@ -138,7 +132,7 @@ std::string Date_Time_Text(const Date_Time &time) {
            two(time.second);
 }
 
-// Three numbers in the order of the pattern; where they are no date so, day and month change places.
+// Reads three numbers in the order of the pattern. If the month is invalid, day and month change places.
 std::optional<Date_Time> Read_Date(std::string_view text) {
     std::string digits(text);
     std::replace_if(
@@ -163,7 +157,7 @@ std::optional<Date_Time> Read_Date(std::string_view text) {
     return date.day <= DaysInMonth(first) ? std::optional(date) : std::nullopt;
 }
 
-// Windows-1252.
+// Decodes Windows-1252.
 std::string Ansi_To_Utf8(std::string_view bytes) {
     constexpr char16_t from_80[] = u"\u20AC\u0081\u201A\u0192\u201E\u2026\u2020\u2021\u02C6\u2030\u0160"
                                    u"\u2039\u0152\u008D\u017D\u008F\u0090\u2018\u2019\u201C\u201D\u2022"
@@ -301,7 +295,7 @@ void Write_User_Value(std::string_view key, std::string_view name, std::string_v
     Fakes().registry[Path(key, name)] = text;
 }
 
-// Values outside HKEY_CURRENT_USER have the root's name before; those that are no texts are not kept.
+// Values outside HKEY_CURRENT_USER are stored with the root's name in front. Only texts can be stored.
 
 Registry_Root Find_Registry_Root(std::string_view name) {
     return name == "HKCU" ? 1 : 0;
@@ -333,7 +327,7 @@ Box_Answer Message_Box(std::string_view text, Box_Icon icon, Box_Buttons buttons
     Fake_System &system = Fakes();
     const Scoped_Value open(system.open_boxes, system.open_boxes + 1);
     system.boxes.push_back({std::string(text), std::string(title), icon, buttons});
-    // The answer with the least consequences, for boxes that no test expects.
+    // The safest answer, for boxes that no test expects.
     const Box_Answer safest = buttons == Box_Buttons::Ok       ? Box_Answer::Ok
                               : buttons == Box_Buttons::Yes_No ? Box_Answer::No
                                                                : Box_Answer::Cancel;

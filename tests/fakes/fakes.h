@@ -1,6 +1,6 @@
-// The state behind the faked clock, regional settings, files, pictures, registry, wallpaper and message
-// boxes, which tests set and read. Forms, drawing, timers, screen, menus and shell have a header of their
-// own. No test framework is needed here: benchmarks and fuzz targets link the same fakes.
+// The state of the faked clock, regional settings, files, pictures, registry, wallpaper, message boxes and
+// file dialogs, for tests to set and read. fake_forms.h has the rest. Benchmarks and fuzz targets link these
+// fakes, so they need no test framework.
 #pragma once
 
 #include "platform/clock.h"
@@ -17,103 +17,104 @@
 #include <string>
 #include <vector>
 
-/// Orders names as Windows does: ASCII letters count alike in both cases.
+/// Orders names, ignoring the case of ASCII letters.
 struct Name_Less {
     bool operator()(const std::string &a, const std::string &b) const;
 };
 
-/// A message box that a test expects, in its turn.
+/// A message box that a test expects next.
 struct Expected_Box {
     std::string text;
     platform::Box_Answer answer = platform::Box_Answer::Ok;
-    std::function<void()> meanwhile; ///< what happens while the box is open, as timers go on then
+    std::function<void()> meanwhile; ///< runs while the box is open
 };
 
-/// A message box that was shown.
+/// A message box that the program showed.
 struct Shown_Box {
     std::string text, title;
     platform::Box_Icon icon;
     platform::Box_Buttons buttons;
 };
 
-/// A file dialog that a test expects, in its turn.
+/// A file dialog that a test expects next.
 struct Expected_Dialog {
     std::string title;
-    std::string answer;                                          ///< the chosen path; empty: the user cancels
-    std::function<void(platform::File_Dialog &)> look = nullptr; ///< sees the record, and may answer more
+    std::string answer; ///< the chosen path; empty if the user cancels
+    std::function<void(platform::File_Dialog &)> look = nullptr; ///< reads and may change the dialog's record
 };
 
 struct Fake_System {
-    /// A Tuesday.
+    /// Local time, a Tuesday.
     platform::Date_Time now{2002, 3, 5, 10, 30, 0, 0};
-    int zone_minutes = 0; ///< how far local time is ahead of Coordinated Universal Time
+    int zone_minutes = 0; ///< minutes from Coordinated Universal Time to local time
 
     int first_weekday = 0;
     std::array<std::string, 12> months{"January", "February", "March",     "April",   "May",      "June",
                                        "July",    "August",   "September", "October", "November", "December"};
-    /// Of d, dd, m, mm, yy and yyyy; all else stands for itself.
+    /// d, dd, m, mm, yy and yyyy stand for parts of the date, other characters for themselves.
     std::string short_date_pattern = "d/m/yyyy";
 
-    std::map<std::string, std::string, Name_Less> files; ///< path to bytes
-    /// When files were written; of one that a test put here it was on 1 February 2002, 9:05.
+    std::map<std::string, std::string, Name_Less> files; ///< contents by path
+    /// The time of each file's last write; 1 February 2002, 9:05, if missing.
     std::map<std::string, platform::Date_Time, Name_Less> written;
     std::set<std::string, Name_Less> folders;
-    std::set<std::string, Name_Less> unreadable; ///< files that others have locked against reading
-    std::set<std::string, Name_Less> unwritable; ///< names under which nothing can be put
-    int reads = 0;                               ///< calls of Read_File, failed ones too
-    int writes = 0;                              ///< calls of Replace_File, failed ones too
+    std::set<std::string, Name_Less> unreadable; ///< files that another program has locked
+    std::set<std::string, Name_Less> unwritable; ///< paths that cannot be written or deleted
+    int reads = 0;                               ///< calls of Read_File, including failures
+    int writes = 0;                              ///< calls of Replace_File, including failures
 
-    std::map<std::string, Picture, Name_Less> pictures; ///< path to what is loaded from it
+    std::map<std::string, Picture, Name_Less> pictures; ///< by the path they load from
     int loads = 0;                                      ///< calls of Load_Picture
-    std::vector<std::string> wallpapers;                ///< all that were set
-    std::string monitors;                               ///< what hangs on them
-    bool wallpaper_ordered = false; ///< the last one does not hang yet, and would not if the program ended
+    std::vector<std::string> wallpapers;                ///< all paths set, each with its monitors' text
+    std::string monitors;                               ///< the text that describes their wallpapers
+    bool wallpaper_ordered = false;                     ///< the last one still waits for Wait_For_Wallpaper
 
-    /// Key, "\" and value name to text; of HKEY_LOCAL_MACHINE with "HKLM\" before.
+    /// Texts by key, "\" and value name, with "HKLM\" in front for HKEY_LOCAL_MACHINE.
     std::map<std::string, std::string, Name_Less> registry;
     bool registry_refuses_writes = false;
-    int registry_writes = 0; ///< calls of Write_User_Value, failed ones too
+    int registry_writes = 0; ///< calls of Write_User_Value, including failures
 
-    bool claimable = true; ///< no other copy of the program runs
-    int restart_count = 0; ///< of this process
-    int started_again = 0; ///< the count of the next one
+    int restart_count = 0; ///< how many restarts led to this process
+    int started_again = 0; ///< the restart count given to the next process
     bool in_temporary_folder = false;
 
     std::deque<Expected_Box> expected_boxes;
-    std::vector<Shown_Box> boxes; ///< all that were shown
-    bool any_box = false;         ///< unexpected boxes are no failure; they get the answer that changes least
+    std::vector<Shown_Box> boxes; ///< all shown so far
+    bool any_box = false;         ///< an unexpected box is no failure and gets the safest answer
 
-    int open_boxes = 0; ///< message boxes and file dialogs
+    int open_boxes = 0; ///< message boxes and file dialogs open now
 
     std::deque<Expected_Dialog> expected_dialogs;
-    unsigned milliseconds = 0;      ///< of the clock that only counts
-    unsigned clock_step = 0;        ///< what each look at that clock adds to it
-    std::function<void()> painting; ///< what happens when a long piece of work lets windows be painted
+    unsigned milliseconds = 0;      ///< the value of Milliseconds
+    unsigned clock_step = 0;        ///< added at each call of Milliseconds
+    std::function<void()> painting; ///< runs when long work lets windows paint
 
-    std::function<void(const std::string &message)> on_failure; ///< takes what the fakes find wrong
+    std::function<void(const std::string &message)> on_failure; ///< receives the fakes' complaints
 
-    // What no test expects, where these are filled: how a box is answered, which path a file dialog gives,
-    // and whether a call for a file fails.
+    // If set, these answer boxes and file dialogs that no test expects, and decide whether a file call fails.
     std::function<platform::Box_Answer(const Shown_Box &)> answer_box;
     std::function<std::string(const platform::File_Dialog &)> answer_dialog;
     std::function<bool(const std::string &path)> file_fails;
 
-    /// Says that the next message box after those expected already shows `text`, and how it is answered.
+    /// Expects a message box with this text after those expected already, and answers it.
     void Expect_Box(std::string text, platform::Box_Answer answer = platform::Box_Answer::Ok,
                     std::function<void()> meanwhile = nullptr) {
         expected_boxes.push_back({std::move(text), answer, std::move(meanwhile)});
     }
-    /// Says the same of a file dialog and its title.
+    /// Expects a file dialog with this title after those expected already.
     void Expect_Dialog(std::string title, std::string answer) {
         expected_dialogs.push_back({std::move(title), std::move(answer)});
     }
 };
 
-/// The one faked system.
+/// Returns the only faked system.
 Fake_System &Fakes();
 
-/// Makes it new: an empty disk, an empty registry, the told values above.
+/// Resets the faked system: an empty disk, an empty registry, and the defaults above.
 void Reset_Fakes();
 
-/// For fakes: a requirement that is not met goes to `on_failure`; where nobody takes it, it ends the process.
+/// Returns the time that many minutes later, or earlier if negative.
+platform::Date_Time Later(const platform::Date_Time &time, int minutes);
+
+/// Reports an unmet requirement to `on_failure`, or ends the process if that is not set. For fakes.
 void Require(bool met, const std::string &message);

@@ -1,4 +1,4 @@
-// The fixture of tests with forms: a new desktop beside the new system, and no menu left over.
+// The fixture of tests with forms: it also resets the desktop, and fails if an expected menu never appears.
 #pragma once
 
 #include "tests/fakes/fake_forms.h"

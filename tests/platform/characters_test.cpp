@@ -1,4 +1,4 @@
-// Which bytes are UTF-8, and where a character that the user sees begins.
+// Which bytes are UTF-8, and where visible characters begin.
 #include "base/cut_text.h"
 
 #include <gtest/gtest.h>
@@ -7,18 +7,18 @@
 namespace {
 
 TEST(Characters, Are_Whole_And_Of_Well_Formed_Bytes) {
-    // Each row is a text in its characters. One that is a single byte above ASCII is none.
+    // Each row lists the characters of a text. A single byte above ASCII is invalid.
     const std::vector<std::vector<std::string>> rows = {
         {"a", "\u00E9", " ", std::string(1, '\0'), "\u65E5", "\U0001F4C5", "z"},
         {"\u07FF", "\u0800", "\uD7FF", "\uE000", "\uFFFF", "\U00010000", "\U0010FFFF"},
-        {"e\u0301", "o\u0302\u0323", "x"},                                   // marks upon letters
-        {"\u0301", "a"},                                                     // a mark upon nothing
-        {"\U0001F44D\U0001F3FD", "!", "1\uFE0F\u20E3", "2"},                 // a skin tone, a keycap
-        {"-", "\U0001F469\u200D\U0001F469\u200D\U0001F467", "-"},            // a joined family
-        {"\u05E9\u05C1\u05B0", "\u0628\u064F"},                              // Hebrew and Arabic points
-        {"\u0915\u094D", "\u0937\u093F", "\u0E17\u0E35\u0E48", "^", "`"},    // Indic and Thai signs
-        {"\u304B\u3099", "\u8FBB\U000E0100"},                                // a voiced kana, a chosen shape
-        {"\U0001F1E9\U0001F1EA", "\U0001F1EB\U0001F1F7", "\U0001F1EC", "z"}, // two flags and a half
+        {"e\u0301", "o\u0302\u0323", "x"},                                // marks on letters
+        {"\u0301", "a"},                                                  // a mark without a letter
+        {"\U0001F44D\U0001F3FD", "!", "1\uFE0F\u20E3", "2"},              // a skin tone, a keycap
+        {"-", "\U0001F469\u200D\U0001F469\u200D\U0001F467", "-"},         // a joined family
+        {"\u05E9\u05C1\u05B0", "\u0628\u064F"},                           // Hebrew and Arabic points
+        {"\u0915\u094D", "\u0937\u093F", "\u0E17\u0E35\u0E48", "^", "`"}, // Indic and Thai signs
+        {"\u304B\u3099", "\u8FBB\U000E0100"}, // a voiced kana, a variation selector
+        {"\U0001F1E9\U0001F1EA", "\U0001F1EB\U0001F1F7", "\U0001F1EC", "z"}, // two flags and half a flag
         {"a", "\xE9"},                                                       // bytes of another code page
         {"\xE6", "\x97", "a"},
         {"\xF0", "\x9F", "\x93"},

@@ -1,4 +1,4 @@
-// The page of the colours: what it shows of a colour, and which swatch takes what is picked.
+// The colours page: how it shows a colour, and which swatch takes the picked one.
 #include "settings/colours_page.h"
 #include "settings/palette.h"
 #include "tests/calendar/calendar_test.h"
@@ -16,7 +16,7 @@ protected:
         dialog.Show();
     }
 
-    /// The swatches in the order of the selector.
+    /// Returns the colours of the swatches in the order of the page.
     std::vector<Colour> Swatches() {
         std::vector<Colour> colours;
         for (const Picture_Box *box : {&page.Col_Today_Pic, &page.Col_Normal_Pic, &page.Col_Num_Pic,
@@ -50,7 +50,7 @@ TEST_F(Colours, a_colour_is_shown_as_numbers_and_by_name) {
 
 TEST_F(Colours, the_selected_swatch_takes_what_is_picked_and_keeps_a_system_colour_otherwise) {
     const std::vector<Colour> first = Swatches();
-    Click(dialog, page.Pal); // to the swatch of today
+    Click(dialog, page.Pal); // into the swatch of today's box
     const Colour picked = page.Col_Today_Pic.Back_Colour();
     EXPECT_TRUE(std::to_string(picked) == page.txCol[0].Text() && picked != first[0]);
     EXPECT_EQ(page.Preview_Today_Lbl.State().back_colour, picked);
@@ -65,7 +65,7 @@ TEST_F(Colours, the_selected_swatch_takes_what_is_picked_and_keeps_a_system_colo
     Push(dialog, page.Default_Cols_Btn);
     EXPECT_EQ(Swatches(), first);
     EXPECT_EQ(page.Preview_Today_Lbl.State().back_colour, first[0]);
-    // The title has its own colours or the system's.
+    // The title uses its own colours or the system's.
     form.Icon_TextColour = 0x00123456;
     Click(dialog, page.Col_Fore_Pic);
     Push(dialog, page.Col_Sys_Opt);
@@ -86,12 +86,12 @@ TEST_F(Colours, the_mouse_shows_colours_and_its_release_picks_the_last_one) {
     EXPECT_FALSE(page.Gradient_Pic.Visible());
     Mouse(Input_Kind::Mouse_Down, Mouse_Button::Left, 0, 0);
     EXPECT_TRUE(page.Gradient_Pic.Visible());
-    const int below = page.Pal.Height() + 500; // black, and outside
+    const int below = page.Pal.Height() + 500; // outside, where the colour is black
     Mouse(Input_Kind::Mouse_Move, Mouse_Button::Left, 0, below);
     EXPECT_EQ(shown(), "0");
     Mouse(Input_Kind::Mouse_Up, Mouse_Button::Left, 0, below);
     EXPECT_FALSE(page.Gradient_Pic.Visible() || page.Col_Today_Pic.Back_Colour() == 0) << "released outside";
-    for (int i = 0; i < 100; ++i) // the keyboard goes on from there
+    for (int i = 0; i < 100; ++i) // the keyboard continues from that colour
         Input(dialog, {.kind = Input_Kind::Key_Down, .key = i < 50 ? Key_Right : Key_Up, .shift = true},
               &page.Pal);
     Push(dialog, page.Pal);
@@ -103,7 +103,7 @@ TEST(Palette, the_picture_is_the_formula_and_goes_through_all_hues) {
     const Picture picture = Palette_Picture(size);
     const auto last = picture.pixels->end() - 3 * 86;
     EXPECT_EQ(Palette_Colour({34, 40}, size), Rgb(last[2], last[1], last[0]));
-    // The pure hues are half way down; the last tenth is grey.
+    // The pure hues are halfway down. The last tenth of the width is grey.
     const int colours[] = {0x0000FF, 0x00FFFF, 0x00FF00, 0xFFFF00, 0xFF0000, 0xFF00FF};
     for (int i = 0; i < 6; ++i) {
         const Colour seen = Palette_Colour({(i * 110 + 5) / 6, 20}, size);

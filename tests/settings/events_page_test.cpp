@@ -1,4 +1,4 @@
-// The Events page: what it counts, lists and removes, and that it copes with any data file.
+// The events page: what it counts, lists and removes, with any data file.
 #include "settings/events_page.h"
 #include "tests/calendar/calendar_test.h"
 #include "toolkit/keys.h"
@@ -29,7 +29,7 @@ protected:
             totals += label.Caption().ends_with(" 0") ? "" : label.Caption() + "|";
         return totals;
     }
-    /// Double-clicks or keys the line and answers the question.
+    /// Double-clicks the line or presses the key on it, and answers the question.
     void Remove(int line, Box_Answer answer, int key = 0, std::function<void()> meanwhile = nullptr) {
         Choose(dialog, page.Events_Lst, line);
         Fakes().Expect_Box("Do you really want to remove the event..\r\n\r\n" +
@@ -37,7 +37,7 @@ protected:
                            answer, std::move(meanwhile));
         if (key == 0)
             return Choose(dialog, page.Events_Lst, line, platform::Input_Kind::Item_Activated);
-        for (const bool repeated : {false, true}) // a key that is held asks once
+        for (const bool repeated : {false, true}) // a held key asks only once
             Input(dialog, {.kind = platform::Input_Kind::Key_Down, .key = key, .repeated = repeated},
                   &page.Events_Lst);
     }
@@ -50,7 +50,7 @@ protected:
 TEST_F(Events_Page_Test, counts_events) {
     Events({"5/3/2002=today", "1/1/2003=next", "7/4/2002=soon", "31/12/9998=last", "1/2/2001=past",
             "6/3/2002=a=b", "4/3/2002=yesterday", "29/2/9999=leap", "7/3/yyyy=every", "1/1/0100=early",
-            // None of these is an event.
+            // None of the following is an event.
             "", "no key", "1/13/2002=x", "0/3/2002=x", "31/4/2002=x", "30/2/9999=x", "a/b/c=x", "5/3/99=x",
             "5/3/40000=x", "yyyy=x"});
     Open();
@@ -67,7 +67,7 @@ TEST_F(Events_Page_Test, counts_events) {
 TEST_F(Events_Page_Test, lists_events_in_each_order_and_short_date) {
     Events({"9/3/2002=b", "1/1/1600=old", "6/3/9999=a\r\nb\t=\xC3\xA9", "2/2/9998=far", "9/3/2002=c",
             "29/2/yyyy=leap"});
-    // The other two orders are those backwards and of the file.
+    // Descending dates. The other two orders are the reverse and that of the file.
     Fakes().short_date_pattern = "d. m. yyyy";
     Open();
     Choose(dialog, page.Sort_Cbo, 1);
@@ -75,7 +75,7 @@ TEST_F(Events_Page_Test, lists_events_in_each_order_and_short_date) {
                        "=\xC3\xA9|28. 2. 2002 (every year)  -  leap|1. 1. 1600  -  old|");
     for (const char *pattern : {"m/d/yyyy", "yyyy-mm-dd", "d. m. yyyy"}) {
         Fakes().short_date_pattern = pattern;
-        Open(); // by ascending dates again
+        Open(); // sorts by ascending dates again
         std::string countdowns;
         for (int line = 0; line < 4; ++line) {
             Choose(dialog, page.Events_Lst, line);
@@ -117,13 +117,13 @@ TEST_F(Events_Page_Test, removes_the_event_of_the_line) {
         EXPECT_EQ(form.Which_Month_Lbl.Caption() == "stale", row.record != 0);
         form.Compacted = false;
     }
-    EXPECT_EQ(page.Month_Count_Lbl[2].Caption(), "Mar: 3"); // counted anew after the removal
+    EXPECT_EQ(page.Month_Count_Lbl[2].Caption(), "Mar: 3"); // counted again after the removal
 }
 
 TEST_F(Events_Page_Test, bears_a_file_that_fails_or_changes_behind_it) {
     Events({"6/3/2002=a", "7/3/2002=b"});
     Open();
-    for (const bool gone : {false, true}) { // someone else was quicker, and another event of the day stays
+    for (const bool gone : {false, true}) { // another program removed the event first
         Remove(0, Box_Answer::Yes, 0, [gone] {
             Events({"6/3/9999=A", "7/3/2002=b"});
             if (gone)
@@ -146,8 +146,8 @@ TEST_F(Events_Page_Test, bears_a_file_that_fails_or_changes_behind_it) {
     Fakes().unreadable.insert("C:\\Vellatro\\calendar.dat");
     Open();
     EXPECT_EQ(Lines() + page.Events_Fra.Caption(), "Error loading in data file.");
-    Choose(dialog, page.Events_Lst, -1, platform::Input_Kind::Item_Activated); // no line, no question
-    page.Show_Imported({}); // these are not out of the file
+    Choose(dialog, page.Events_Lst, -1, platform::Input_Kind::Item_Activated); // asks nothing
+    page.Show_Imported({}); // these do not come from the file
     EXPECT_EQ(page.Overview_Fra.Caption(), "Events");
     Fakes().files.clear();
     Open();

@@ -1,4 +1,4 @@
-// What Apply writes and changes, and what it leaves alone.
+// Saving: what Apply writes and changes, and how every control shows its setting.
 #include "tests/settings/settings_test.h"
 
 #include <array>
@@ -7,7 +7,7 @@ namespace {
 
 class Saving : public Settings_Dialog {
 protected:
-    /// The keys, of both sections, that something is written under meanwhile.
+    /// Returns the keys and texts that the action writes, of all sections.
     std::string Written(const std::function<void()> &action) {
         Fakes().registry.clear();
         action();
@@ -25,11 +25,11 @@ TEST_F(Saving, the_calendar_follows_at_once_also_without_a_store) {
     const auto apply = [this] { Push(*dialog, dialog->Apply_Btn); };
     for (const bool on : {true, false}) {
         Push(*dialog, dialog->General.Auto_Compact_Chk, on);
-        for (int i = 0; i < 2; ++i, Desktop().Advance(40000)) // each time the minute begins anew
+        for (int i = 0; i < 2; ++i, Desktop().Advance(40000)) // each Apply restarts the minute
             apply();
         EXPECT_EQ(form.Compact_Timer.Enabled(), on);
     }
-    Cur_Settings.Auto_Compact = 2; // ticked, and yet not in use
+    Cur_Settings.Auto_Compact = 2; // the page shows 2 as a tick, but only 1 turns it on
     Push(*dialog, dialog->General.Auto_Compact_Chk, true);
     EXPECT_EQ(Written(apply),
               "Vellatro=|Alignment=0|Auto Compact=1|Bar Date Format=d Month - yyyy|Bar Time=False|"
@@ -57,7 +57,7 @@ TEST_F(Saving, a_pack_rules_style_and_position_as_far_as_it_may) {
     const int height = form.Height();
     Wallpaper_Page &page = dialog->Wallpaper;
     const auto save = [this] { dialog->Save_Theme(dialog->Shown_Configuration()); };
-    EXPECT_EQ(Written(save), "Alignment=0|Style=1|"); // the pack of the settings is not there
+    EXPECT_EQ(Written(save), "Alignment=0|Style=1|"); // the pack in the settings is missing
     Push(*dialog, page.Theme_Use_Chk, true);
     Push(*dialog, page.Packs_Cbo, true);
     EXPECT_EQ(Written(save),
@@ -67,7 +67,7 @@ TEST_F(Saving, a_pack_rules_style_and_position_as_far_as_it_may) {
     Written(save);
     EXPECT_TRUE(Stored("Alignment").empty() && form.Left() == 0 && form.Top() == 0);
     EXPECT_EQ(Desktop().mirrors[&form.Model()].clip, Seen());
-    // A picture that is damaged is told and keeps nothing else from being saved.
+    // A damaged picture is reported, and everything else is still saved.
     Fakes().files.erase("C:\\Vellatro\\P\\3.bmp");
     Fakes().pictures.clear();
     Fakes().any_box = true;
@@ -78,8 +78,8 @@ TEST_F(Saving, a_pack_rules_style_and_position_as_far_as_it_may) {
 }
 
 TEST_F(Saving, every_control_shows_its_setting) {
-    // The second choice of each is what the first one is not, so that none is an empty control's. Flags are
-    // by turns set first and last.
+    // Each setting takes two different values, so that one of them differs from an empty control's. Flags
+    // alternate between 0 and 1.
     constexpr std::array<const char *, 3> others[] = {{"Alignment", "4", "7"},
                                                       {"Today", "1", "2"},
                                                       {"Normal", "3", "4"},
@@ -143,7 +143,7 @@ TEST_F(Saving, colours_and_texts_go_with_whatever_happens) {
     const struct {
         const char *name;
         std::function<void()> act;
-        bool thin; ///< where a text has one line
+        bool thin; ///< the thin style, with one line of text
     } steps[] = {
         {"F8", [this] { Press_Key(form, 119); }, true},
         {"F9", [this] { Press_Key(form, 120); }, false},
@@ -183,8 +183,7 @@ TEST_F(Saving, colours_and_texts_go_with_whatever_happens) {
         const auto drawn = [this](const Control &control, std::size_t operation) {
             return Painted(form, control.Bounds()).operations.at(operation).colour;
         };
-        // Each is painted over the form's colour: a box, its edge, its number and its text; titles and an
-        // arrow.
+        // Painting starts with the form's colour. A box then has its fill, edge, number and text.
         EXPECT_EQ((Colours{drawn(Box_Of(other), 1), drawn(Box_Of(today), 1), drawn(Box_Of(other), 3),
                            drawn(Box_Of(other), 4), drawn(*titles[0], 0), drawn(*titles[0], 1)}),
                   own);

@@ -1,4 +1,4 @@
-// The settings dialog as a window: its tabs, its life beside the calendar, and its own small pages.
+// The settings dialog: its tabs, its opening and closing beside the calendar, and its smaller pages.
 #include "tests/settings/settings_test.h"
 #include "toolkit/keys.h"
 
@@ -10,7 +10,7 @@ namespace {
 
 class Settings_Window : public Settings_Dialog {
 protected:
-    /// The numbers of the pages that can be seen.
+    /// Returns the numbers of the visible pages.
     std::string Pages() {
         std::string pages;
         for (int i = 0; i < Settings_Frm::page_count; ++i)
@@ -30,7 +30,7 @@ TEST_F(Settings_Window, opens_at_the_stored_tab_and_stores_the_last_one_however_
             Input(*dialog, {.kind = Input_Kind::Window_Lost});
         },
         [] { Desktop().Say(Broadcast::Session_Over); },
-        [this] { form.Close_Settings(); }, // as the program's end does
+        [this] { form.Close_Settings(); }, // as at the program's end
     };
     std::int16_t tab = 1;
     Desktop().work_area.width = 1280;
@@ -48,7 +48,7 @@ TEST_F(Settings_Window, opens_at_the_stored_tab_and_stores_the_last_one_however_
         const Settings_Frm *first = dialog.get();
         form.Open_Settings();
         EXPECT_TRUE(form.Settings_Visible() && dialog.get() == first && Pages() == std::to_string(tab));
-        // The calendar is blocked and its countdown sees the dialog.
+        // The calendar is blocked, and its countdown stops for the dialog.
         Press_Key(form, Key_F2);
         form.Compact_Timer_Timer();
         EXPECT_TRUE(form.Cur_Month == 3 && !form.Timer_Compacted);
@@ -79,7 +79,7 @@ TEST_F(Settings_Window, a_preview_ends_with_whatever_the_user_turns_to) {
         {[this] { Push(*dialog, dialog->Apply_Btn); }, true},
         {[this] { Choose(*dialog, dialog->TabStrip1, Settings_Frm::style_fra); }, true},
         {[this] { Push(*dialog, dialog->Cancel_Btn); }, false},
-        {[this] { form.Close_Settings(); }, false}, // as the program's end does
+        {[this] { form.Close_Settings(); }, false}, // as at the program's end
     };
     for (const auto &[end, stays] : ends) {
         SCOPED_TRACE(&end - &ends[0].first);
@@ -120,7 +120,7 @@ TEST_F(Settings_Window, previews_the_title_without_touching_a_setting) {
     Desktop().Advance(1000);
     EXPECT_EQ(page.Bar_Preview_Lbl.Caption(), "10.30:07 - Tuesday 5th March - 2002");
     Push(*dialog, page.Bar_Time_Chk, false);
-    for (const int tab : {Settings_Frm::general_fra, Settings_Frm::about_fra}) { // not while it is unseen
+    for (const int tab : {Settings_Frm::general_fra, Settings_Frm::about_fra}) { // not while hidden
         Choose(*dialog, dialog->TabStrip1, tab);
         ++Fakes().now.day;
         Desktop().Advance(1000);
@@ -157,7 +157,7 @@ TEST_F(Settings_Window, shows_the_example_balloon_while_the_left_button_is_held)
     EXPECT_FALSE(form.Balloon_Showing());
     Desktop().messages.push_back([this] {
         Push(*dialog, dialog->Cancel_Btn);
-        form.Open_Settings(); // must not put a new one into the place of one that still waits
+        form.Open_Settings(); // must not replace a dialog whose event still runs
     });
     Press(*dialog, example);
     EXPECT_FALSE(form.Balloon_Showing() || form.Settings_Visible());
@@ -165,8 +165,8 @@ TEST_F(Settings_Window, shows_the_example_balloon_while_the_left_button_is_held)
 
 TEST_F(Settings_Window, opens_the_authors_page_by_mouse_and_keyboard) {
     About_Page &page = Open(Settings_Frm::about_fra).About;
-    page.Link_Lbl.Set_Visible(true);      // as it will be with an address
-    Double_Click(*dialog, page.Link_Lbl); // opens it once
+    page.Link_Lbl.Set_Visible(true);      // it is hidden while there is no address
+    Double_Click(*dialog, page.Link_Lbl); // opens the page once
     Push(*dialog, page.Link_Lbl);         // the space bar
     Input(*dialog, {.kind = Input_Kind::Key_Down, .key = Key_Return}, &page.Link_Lbl);
     EXPECT_EQ(Shell().web_pages.size(), 3U);

@@ -1,4 +1,4 @@
-// The fixture of the tests of the settings dialog: a calendar that runs, and its dialog.
+// The fixture of the settings dialog's tests: a running calendar and its dialog.
 #pragma once
 
 #include "app/program.h"
@@ -14,7 +14,7 @@ protected:
         Connect_Settings(form, dialog);
         Start();
     }
-    /// Opens it on a page, closing one that is open.
+    /// Closes an open dialog, and opens one on the page.
     Settings_Frm &Open(Settings_Frm::Page_Index page) {
         form.Close_Settings();
         Cur_Settings.Settings_Tab = static_cast<std::int16_t>(page + 1);

@@ -1,4 +1,4 @@
-// The page of style and position: its choices, and the miniature that shows them.
+// The style page: its choices of style and position, and the miniature that shows them.
 #include "desktop/position.h"
 #include "settings/style_page.h"
 #include "tests/calendar/calendar_test.h"
@@ -18,7 +18,7 @@ protected:
         Input(dialog, {.kind = platform::Input_Kind::Key_Down, .key = key}, &page.Pos_Preview_Img);
     }
 
-    /// What the miniature draws first after the desktop: the title of the calendar, in pixels of the screen.
+    /// Returns the place of the calendar's title in the miniature, in pixels of the screen.
     Rect Title() {
         platform::Canvas canvas;
         page.Pos_Preview_Img.State().paint(canvas, page.Pos_Preview_Img.Bounds());
@@ -33,7 +33,7 @@ protected:
 };
 
 TEST_F(Style, nine_places_are_chosen_by_mouse_and_keyboard) {
-    // The points are on the screen, of which the lowest 28 pixels are the task bar.
+    // The points are on the screen; its lowest 28 pixels belong to the taskbar.
     constexpr std::int16_t codes[] = {6, 5, 4, 9, 3, 8, 2, 1, 0};
     for (int i = 0; i < 9; ++i) {
         page.Pos_Manual_Opt.Set_Checked(true);
@@ -77,7 +77,7 @@ TEST_F(Style, the_miniature_shows_the_calendar_where_it_will_be) {
     Start();
     Cur_Settings.Manual_PosX = 1500;
     Cur_Settings.Manual_PosY = 900;
-    for (const std::int16_t month : {std::int16_t{2}, std::int16_t{3}}) { // five rows, and six
+    for (const std::int16_t month : {std::int16_t{2}, std::int16_t{3}}) { // five and six rows
         for (std::int16_t position = 0; position < 9; ++position) {
             SCOPED_TRACE(position);
             const std::int16_t style = position % 2;

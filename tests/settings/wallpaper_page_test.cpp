@@ -1,4 +1,4 @@
-// The wallpaper page on a dialog of its own, with packs on the faked disk, and the preview of all months.
+// The wallpaper page with packs on the faked disk, and the preview of all months.
 #include "settings/wallpaper_page.h"
 #include "tests/calendar/calendar_test.h"
 
@@ -50,7 +50,7 @@ protected:
 TEST_F(Themes_Page, shows_what_the_selected_pack_says) {
     Fakes().folders.insert("C:\\Vellatro\\no pack");
     Make_Pack("Winter");
-    Cur_Settings.Pack_Name = "default"; // a folder is found in any letter case
+    Cur_Settings.Pack_Name = "default"; // folder names ignore letter case
     for (const std::string march : {"1-4-2", "2-99-3", "x--99999"}) {
         Make_Pack("Default", "3=" + march);
         Open();
@@ -60,19 +60,19 @@ TEST_F(Themes_Page, shows_what_the_selected_pack_says) {
                                  : "Default|Display: |Box Style: |Position: ");
         for (const bool use : {false, true}) {
             Use_Themes(use);
-            const bool usable = use && march[0] != 'x'; // by the calendar
+            const bool usable = use && march[0] != 'x'; // the calendar can use its details
             EXPECT_EQ(Choices_Enabled(), use);
             EXPECT_EQ(Page().Current_Look().style.has_value(), usable) << march;
             EXPECT_EQ(Page().Current_Look().position.has_value(), usable && march[0] == '1') << march;
         }
     }
     Use_Themes(false);
-    for (const bool on : {false, true}) // and do so no more while no theme is in use
+    for (const bool on : {false, true}) // without themes, the check boxes change nothing
         for (Check_Box *box : {&Page().Theme_Style_Chk, &Page().Theme_Pos_Chk})
             Push(*dialog, *box, on);
     EXPECT_TRUE(dialog->Style.Style1_Opt.Enabled() && dialog->Style.Pos_Set_Opt.Enabled());
     Use_Themes(true);
-    for (const bool on : {true, false}) { // the theme's choices replace the user's
+    for (const bool on : {true, false}) { // with themes, the theme's choices replace the user's
         for (Check_Box *box : {&Page().Theme_Style_Chk, &Page().Theme_Pos_Chk, &Page().Other_Display_Chk})
             Push(*dialog, *box, on);
         EXPECT_TRUE(dialog->Style.Example4_Lbl.Enabled() != on && dialog->Style.Style1_Opt.Enabled() != on);
@@ -104,7 +104,7 @@ TEST_F(Themes_Page, refuses_packs_that_are_not_whole_and_themes_without_packs) {
     Cur_Settings.Use_Themes = 1;
     Open();
     Fakes().files.clear();
-    Fakes().Expect_Box("Missing Theme Default. Themes will now be disabled."); // once for three lookups
+    Fakes().Expect_Box("Missing Theme Default. Themes will now be disabled."); // once for three details
     Slide(5);
     EXPECT_FALSE(Page().Theme_Use_Chk.Checked() || Choices_Enabled());
     EXPECT_EQ(Details(), "|Display:|Box Style:|Position:");
@@ -172,9 +172,9 @@ TEST_F(Themes_Page, a_preview_leaves_all_as_it_was) {
         Cur_Settings.Use_Themes = themes ? 1 : 0;
         desktop("WallpaperStyle") = "10";
         desktop("TileWallpaper") = "0";
-        // Without themes: a wallpaper that stayed from a time when they were used, in another letter case.
+        // Without themes, the wallpaper is left over from a pack, in another letter case.
         desktop("Wallpaper") = themes ? In_Pack("Default", "3.bmp") : In_Pack("WINTER", "3.BMP");
-        if (end == stopped) // which the system writes over
+        if (end == stopped) // a file that the system overwrites
             desktop("Wallpaper") = "C:\\Themes\\TranscodedWallpaper";
         else
             Fakes().files[In_Pack(themes ? "Default" : "Winter", "3.bmp")] = "";
@@ -218,9 +218,9 @@ TEST_F(Themes_Page, a_preview_leaves_all_as_it_was) {
             Fakes().wallpapers.push_back("the preview's");
         }
         for (int start = 0; start < 2; ++start, Fakes().monitors = "must not be asked for")
-            Wallpaper_Preview::Recover(); // as the next start does; nothing is left over where nobody killed
-                                          // it
-        if (end == pack_gone)             // which can be put back as little as what the user was told of
+            Wallpaper_Preview::Recover(); // as the next start does; only a killed preview leaves anything to
+                                          // restore
+        if (end == pack_gone)             // themes were turned off, as the box said
             EXPECT_EQ(Cur_Settings.Use_Themes, 0);
         else
             EXPECT_EQ(state(), before);

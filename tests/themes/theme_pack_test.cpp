@@ -1,4 +1,4 @@
-// Theme packs: names, lookups in settings.ini, and the one bitmap that is made of a month's picture.
+// Theme packs: names, details in settings.ini, and the bitmap made from a month's picture.
 #include "calendar/main_frm.h"
 #include "platform/files.h"
 #include "tests/fakes/fake_test.h"
@@ -56,7 +56,7 @@ TEST_F(Theme_Pack, Details_Are_Read_Field_By_Field) {
 
 TEST_F(Theme_Pack, A_Missing_Pack_Ends_The_Use_Of_Themes_And_An_Unreadable_One_Does_Not) {
     for (const std::string pack : {"..", "", "Hills\\..\\Hills", "Gone"}) {
-        if (pack != "Gone") // as the system would, it finds a folder under the first three names
+        if (pack != "Gone") // Windows would find a folder under the first three names
             Fakes().files["C:\\Vellatro\\" + pack + "\\settings.ini"] = "3=1-1-1";
         Cur_Settings.Use_Themes = 1;
         Fakes().Expect_Box("Missing Theme " + pack + ". Themes will now be disabled.");

@@ -1,5 +1,5 @@
-// What reaches controls from the mouse and from native controls, what reaches the mirror from controls, and
-// handlers that end their own form.
+// Forms: the mouse and native controls act on controls, controls report changes to the native window, and
+// handlers may destroy their own form.
 #include "tests/fakes/form_test.h"
 
 #include "toolkit/form.h"
@@ -59,15 +59,15 @@ TEST_F(Form_Test, the_mouse_goes_to_the_topmost_control_and_stays_with_it_until_
     form.Send(Input_Kind::Mouse_Move, 20, Mouse_Button::None);
     EXPECT_EQ(form.Taken(), "High down 10; High move -30; High up -30; Low move 20; ");
 
-    // The second button joins the capture, and its release does not end it.
+    // A second button joins the capture, and its release does not end the capture.
     form.Send(Input_Kind::Mouse_Down, 20);
     form.Send(Input_Kind::Mouse_Down, 120, Mouse_Button::Right);
     form.Send(Input_Kind::Mouse_Up, 120, Mouse_Button::Right);
     form.Send(Input_Kind::Mouse_Up, 120);
-    form.Send(Input_Kind::Mouse_Up, 20); // a release whose press went elsewhere
+    form.Send(Input_Kind::Mouse_Up, 20); // its press went elsewhere
     EXPECT_EQ(form.Taken(), "Low down 20; Low down 120; Low up 120; Low up 120; ");
 
-    // A menu swallowed the release: the next move without a button ends the capture.
+    // If a menu took the release, the next move without a button ends the capture.
     form.Send(Input_Kind::Mouse_Down, 20, Mouse_Button::Right);
     form.Send(Input_Kind::Mouse_Move, 120, Mouse_Button::None);
     form.Send(Input_Kind::Mouse_Down, 120);
@@ -80,7 +80,7 @@ TEST_F(Form_Test, the_mouse_goes_to_the_topmost_control_and_stays_with_it_until_
     form.Send(Input_Kind::Double_Click, 20, Mouse_Button::Right);
     EXPECT_EQ(form.Taken(), "High down 0; High up 0; High double; High up 0; Low down 20; ");
 
-    // Hidden controls are looked through, and disabled ones take nothing.
+    // Input passes through hidden controls, and disabled ones ignore it.
     form.Send(Input_Kind::Capture_Lost, 0);
     form.High.Set_Visible(false);
     form.Send(Input_Kind::Mouse_Move, 60, Mouse_Button::None);
@@ -141,7 +141,7 @@ TEST_F(Form_Test, a_handler_may_end_its_own_form) {
         form->Show();
         form->On_Close = [&form, kept = 100] {
             form.reset();
-            EXPECT_EQ(kept, 100); // the running handler itself is still whole
+            EXPECT_EQ(kept, 100); // the running handler still exists
         };
         form->Low.On_Mouse_Down = [&form](Mouse_Button, Point) { Fire(form->On_Close); };
         form->Send(kind, 10);

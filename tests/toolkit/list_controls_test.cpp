@@ -1,4 +1,4 @@
-// The controls of larger dialogs: what they make of the user's and of the program's choices, in their frames.
+// Controls of dialogs: combo boxes, frames and painted controls.
 #include "tests/fakes/form_test.h"
 #include "toolkit/form.h"
 #include "toolkit/list_controls.h"
@@ -51,7 +51,7 @@ TEST_F(List_Controls, a_combo_box_keeps_text_and_item_together) {
         EXPECT_EQ(dialog.heard, "");
         Choose(dialog, dialog.box, 2);
         EXPECT_TRUE(is("c", 2));
-        Choose(dialog, dialog.box, 3); // is none
+        Choose(dialog, dialog.box, 3); // beyond the last item
         Enter_Text(dialog, dialog.box, "a");
         EXPECT_TRUE(editable ? is("a", -1) : is("c", 2));
         EXPECT_EQ(dialog.heard, editable ? "box box=a " : "box ");
@@ -85,7 +85,7 @@ TEST_F(List_Controls, a_painted_control_is_clicked_where_it_is_released_inside) 
         Press(form, form.picture);
         Mouse_Up_At(point);
     }
-    Mouse_Up_At({10, 10}); // without its press
+    Mouse_Up_At({10, 10}); // without a press
     Click(form, form.picture, Mouse_Button::Right);
     EXPECT_EQ(form.heard, "picture picture ");
 }

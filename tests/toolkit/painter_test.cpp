@@ -1,4 +1,4 @@
-// What a painted form draws, where and in which order.
+// What a painted form draws, and in which order.
 #include "tests/fakes/form_test.h"
 #include "toolkit/form.h"
 
@@ -14,7 +14,7 @@ struct Painted_Form : Form {
         B_Lbl.Set_Font({90, false}); // a line is 240 twips high
     }
 
-    /// Kind and upper edge of the operations after the background's.
+    /// Returns kind, text and top of each operation after the background's.
     std::string Shape(const Rect &clip) {
         drawn = Painted(*this, clip).operations;
         std::string shape;
@@ -60,7 +60,7 @@ TEST_F(Form_Test, painting_covers_the_visible_labels_within_the_clip_and_cuts_ca
         EXPECT_EQ(form.drawn.at(1).align, text.drawn) << text.caption;
         EXPECT_EQ(form.drawn.at(1).right_to_left, text.right_to_left) << text.caption;
     }
-    form.A_Lbl.Set_Hairline(true); // only where neither frame nor mark is
+    form.A_Lbl.Set_Hairline(true); // the edge appears only without frame and mark
     form.A_Lbl.Set_Back_Colour(Rgb(255, 100, 0));
     form.A_Lbl.Set_Fore_Colour(Rgb(0, 200, 0));
     EXPECT_EQ(form.Shape({0, 0, 10, 10}), "fill @0; frame @0; frame @0; text a@0; ");

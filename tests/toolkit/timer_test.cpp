@@ -1,4 +1,4 @@
-// Timers, the trap for failures that repeat, and the units.
+// Timers, errors that repeat with each tick, and units.
 #include "tests/fakes/form_test.h"
 #include "toolkit/timer.h"
 #include "toolkit/units.h"
@@ -21,7 +21,7 @@ TEST_F(Form_Test, a_timer_ticks_while_it_is_on_and_begins_anew_when_switched) {
     EXPECT_EQ(ticks, 2);
     timer->On_Timer = [&timer, kept = 100] {
         timer.reset();
-        EXPECT_EQ(kept, 100); // the running handler itself is still whole
+        EXPECT_EQ(kept, 100); // the running handler still exists
     };
     Desktop().Advance(5000);
     EXPECT_TRUE(timer == nullptr && Desktop().timers.empty());
@@ -33,7 +33,7 @@ TEST_F(Form_Test, a_failure_that_comes_with_every_tick_is_told_when_it_begins) {
     timer.Set_Enabled(true);
     for (int again = 0; again < 2; ++again) {
         timer.On_Timer = fail;
-        // Ticks go on while the box is open.
+        // The timer runs while the box is open.
         Fakes().Expect_Box("No place.", platform::Box_Answer::Ok, [] { Desktop().Advance(3000); });
         Desktop().Advance(10000);
         timer.On_Timer = [] {};

@@ -1,4 +1,4 @@
-// Exports, through the buttons of their page: formats byte for byte, names, refusals, and the way back.
+// Exports through the buttons of the page: formats byte for byte, names, refusals, and importing them again.
 #include "tests/transfer/transfer_test.h"
 
 namespace {
@@ -74,7 +74,7 @@ TEST_F(Exporting, keeps_a_file_when_its_replacement_fails) {
         Fakes().unwritable.clear();
     }
     EXPECT_EQ(File("C:\\copy.DAT"), Data_File());
-    EXPECT_EQ(Fakes().written["C:\\copy.DAT"].month, 2); // as old as the original
+    EXPECT_EQ(Fakes().written["C:\\copy.DAT"].month, 2); // the time of the original
 }
 
 } // namespace

@@ -1,5 +1,5 @@
-// Calendar files, through the buttons of their page: what other programs write, byte for byte what is made of
-// it, and errors that change nothing. Repetitions at large are compared by tests/icalendar_days.py.
+// iCalendar files through the buttons of the page: files of other programs, errors that change nothing, and
+// exports byte for byte. tests/icalendar_days.py compares random repetitions.
 #include "tests/transfer/transfer_test.h"
 #include "transfer/event_days.h"
 
@@ -7,15 +7,13 @@
 
 namespace {
 
-/// Today is 5 March 2002, so that repetitions are seen from 1 February 2002 to 31 December 2003.
+/// Today is 5 March 2002, so imports take repetitions from 1 February 2002 to 31 December 2003.
 class Calendar_Files : public Transfer_Test {
 protected:
-    /// Imports events, given as "|" between their lines, and expects this message.
+    /// Imports the file and expects this message.
     void Import_Bytes(const std::string &bytes, const std::string &message) {
         File("C:\\in.ics") = bytes;
-        Fakes().Expect_Dialog("Import Events from iCalendar File", "C:\\in.ics");
-        Fakes().Expect_Box(message);
-        Push(*dialog, dialog->Transfer.Import_ICalendar_Btn);
+        Import(3, "C:\\in.ics", message);
     }
     static std::string Lines(std::string text) {
         std::string bytes;
@@ -36,13 +34,6 @@ protected:
                     ? ""
                     : "\r\nOnly on their first day, because their repetition is not supported: " +
                           std::to_string(unsupported));
-    }
-    /// The records without quotes, in file order, with "|" between them.
-    static std::string Records() {
-        std::string text;
-        for (const char c : Data_File())
-            text += c == '\r' ? "|" : c == '"' || c == '\n' ? "" : std::string(1, c);
-        return text;
     }
 };
 
@@ -114,7 +105,7 @@ TEST_F(Calendar_Files, give_their_events_to_the_days) {
     Fakes().zone_minutes = 120;
     for (const auto &row : rows) {
         Data_File() = "";
-        // The second of two equal events, and the same file again, change nothing.
+        // A second equal event and a second import of the file change nothing.
         const int there = row.unsupported > 0 ? 1 : 0;
         Import_Bytes("\xEF\xBB\xBF" + Calendar(row.lines),
                      Imported(row.imported, there, row.passed, row.unsupported));
@@ -180,9 +171,7 @@ TEST_F(Calendar_Files, are_written_byte_for_byte) {
                       text = "a, b; c\\d " + std::string(31, 'x') + cut;
     Data_File() = Lines("\"29/2/9999=Leap\"|\"31/12/2002=" + text + cut + "\"|");
     Fakes().zone_minutes = -60;
-    Fakes().Expect_Dialog("Export Events as iCalendar File", "C:\\out");
-    Fakes().Expect_Box("Successfully exported 2 events to the iCalendar file...\r\nC:\\out.ics");
-    Push(*dialog, dialog->Transfer.Export_ICalendar_Btn);
+    Export(4, "C:\\out", "Successfully exported 2 events to the iCalendar file...\r\nC:\\out.ics");
     const std::string stamp = "DTSTAMP:20020305T113000Z|", end = "TRANSP:TRANSPARENT|";
     EXPECT_EQ(
         File("C:\\out.ics"),
@@ -195,6 +184,7 @@ TEST_F(Calendar_Files, are_written_byte_for_byte) {
                     "SUMMARY:a\\, b\\; c\\\\d " +
                     std::string(31, 'x') + cut + "| " + cut + "|" + end) +
               "END:VCALENDAR|"));
+    Import_Bytes(File("C:\\out.ics"), Imported(0, 2, 0));
 }
 
 } // namespace

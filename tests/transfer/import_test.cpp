@@ -1,4 +1,4 @@
-// Imports, through the buttons of their page: files as this and other programs write them, and errors.
+// Imports through the buttons of the page: files of this and other programs, and errors.
 #include "tests/transfer/transfer_test.h"
 
 #include <algorithm>
@@ -15,7 +15,7 @@ std::string Imported(int count) {
            " events from the CSV file...\r\n\r\nC:\\in.csv";
 }
 
-/// The text with double quotes in the places of its single ones.
+/// Returns the text with double quotes instead of single ones.
 std::string Quoted(std::string text) {
     std::replace(text.begin(), text.end(), '\'', '"');
     return text;
@@ -36,7 +36,7 @@ TEST_F(Importing, reads_files_of_many_hands) {
     const struct {
         const char *name;
         std::string bytes;
-        int count; ///< -1: refused
+        int count; ///< of imported events; -1 if the file is refused
         std::string after;
     } cases[] = {
         {"quotes and commas", headings + "'Dentist','3/4/2002','Bring ''card'', 10am'\r\n", 1,
@@ -49,7 +49,7 @@ TEST_F(Importing, reads_files_of_many_hands) {
          "'Subject','Start Date','Start Time','Reminder','Organizer','Rooms','Description','Show time as'\n"
          "'Lunch','5/3/2002','12:00',,'Me',,'With ''Ann'',\nat noon','2'\n",
          1, yearly + payday + "'\r\n'5/3/2002=Lunch - With Ann, at noon" + end},
-        // Subject and description were columns 0 and 6 before.
+        // In the previous file, subject and description were columns 0 and 6.
         {"a byte-order mark, and no quotes around headings",
          "\xEF\xBB\xBFStart Date,Subject,Description\n'3/4/2002','s','d'\n", 1,
          yearly + payday + " + s - d" + end},
@@ -73,7 +73,7 @@ TEST_F(Importing, reads_files_of_many_hands) {
         {"an open quote", headings + "'s','3/4/2002','d''", -1, before},
         {"the last field without quotes", headings + "'s','3/4/2002',d,''", -1, before},
         {"no date", headings + "'s','3/4/2002','d'\n's','31/2/2002','d'", -1, before},
-        // The columns are still those of the last file.
+        // The columns of the previous file still apply.
         {"semicolons", "'Subject';'Start Date';'Description'\n's';'3/4/2002';'d'\n", 1,
          yearly + payday + "'\r\n'30/12/1899=s;3/4/2002;d" + end},
     };
@@ -93,13 +93,13 @@ TEST_F(Importing, backs_the_data_file_up_and_refuses_other_files) {
     Data_File() = "\"1/3/2002=Old\"\r\n";
     Import(2, "", "");
     EXPECT_EQ(Backup(), Data_File());
-    // An old copy is no backup: it must not come back.
+    // An old backup must not be restored.
     Backup() = "older";
     Fakes().unwritable.insert("C:\\Vellatro\\data.bak");
     Fakes().Expect_Box(failed);
     Push(*dialog, dialog->Transfer.Import_Btn[2]);
     EXPECT_EQ(Data_File() + Backup(), "\"1/3/2002=Old\"\r\nolder");
-    // Nor may one be lost, or the file itself because its copy has gone.
+    // A failed import keeps the backup, and the data file even if its backup is gone.
     Fakes().unwritable.clear();
     File("C:\\in.csv") = "none";
     for (const bool data : {false, true}) {
@@ -125,8 +125,7 @@ TEST_F(Importing, is_taken_back_line_by_line) {
     const std::string yearly = "'25/12/9999=C + a + b + b'\r\n'1/2/2003=C + C'\r\n";
     const struct {
         std::size_t line;
-        std::string
-            after; ///< what was there before the import stays in the end, also where it reads the same
+        std::string after; ///< earlier events stay in the end, also equal ones
         int selected;
         const char *told = nullptr;
     } steps[] = {{2, "'25/12/9999=C + a + b + b + b'\r\n'1/2/2003=C + C'\r\n'3/3/2003=n + m'\r\n", 2,
@@ -157,7 +156,7 @@ TEST_F(Importing, is_taken_back_line_by_line) {
 }
 
 TEST_F(Importing, leaves_nothing_behind_when_it_fails) {
-    // Without a data file, which cannot be written either.
+    // The data file is missing and cannot be written.
     File("C:\\in.csv") = Quoted(headings + "'s','6/3/2002','a, b'");
     Fakes().unwritable.insert("C:\\Vellatro\\calendar.dat");
     Import(2, "C:\\in.csv", failed);
@@ -165,8 +164,8 @@ TEST_F(Importing, leaves_nothing_behind_when_it_fails) {
     form.Events.Load_File();
     form.Events.Check_For_Pre("7/3/2002", "x", false);
     EXPECT_EQ(Data_File(), Quoted("'7/3/2002=x'\r\n"));
-    // A hand-written quote, beside which no comma can be written, is told with its day. A text that is saved
-    // meanwhile stays.
+    // A hand-written quote cannot be stored beside a comma: the message names its day. A text saved meanwhile
+    // stays.
     const std::string quote = "6/3/9999=a \"quote\"\r\n", other = Quoted("'7/3/2002=x'\r\n");
     Data_File() = quote;
     Fakes().Expect_Box("The event of 6/3/2002 holds a quotation mark (\"). Remove it before you import "
@@ -185,7 +184,7 @@ TEST_F(Importing, that_fails_after_its_first_write_puts_the_file_back) {
     const std::string old = Quoted("'6/3/2002=Old'\r\n");
     for (const bool for_good : {false, true}) {
         Data_File() = old;
-        const int second = Fakes().writes + 4; // after the two of the copy and the first merged part
+        const int second = Fakes().writes + 4; // two writes make the backup, the third merges the first part
         Fakes().file_fails = [=](const std::string &path) {
             return path == "C:\\Vellatro\\calendar.dat" &&
                    (for_good ? Fakes().writes >= second : Fakes().writes == second);
@@ -216,7 +215,7 @@ TEST_F(Importing, is_seen_while_it_takes_long_and_the_file_is_whole_then) {
         const auto events = std::count(data.begin(), data.end(), 'x');
         EXPECT_TRUE(data.ends_with("x\"\r\n") && (merged.empty() || events > merged.back()));
         merged.push_back(events);
-        // The session ends, and the editor is asked.
+        // The session ends, and the editor saves its text.
         form.Events.Load_File();
         form.Events.Check_For_Pre("1/1/2003", std::to_string(merged.size()) + " typed x", false);
     };
@@ -233,7 +232,7 @@ TEST_F(Importing, takes_a_configuration_over_up_to_an_error) {
     const struct {
         const char *bytes;
         bool taken;
-        const char *stored; ///< of "Tooltips"
+        const char *stored; ///< value of "Tooltips"
     } cases[] = {
         {"\"Tooltips=2\"\r\n\"Unknown=x\"\r\n\"Bar_Time_Format=H, mm\"\r\n\"TaskPos=3\"\r\nStyle=0\n", true,
          "2"},
@@ -253,12 +252,12 @@ TEST_F(Importing, takes_a_configuration_over_up_to_an_error) {
             continue;
         EXPECT_EQ(form.Box_Lbl[20].Back_Colour(), 255);
         EXPECT_EQ(dialog->Which_Tab() - 1, Settings_Frm::transfer_fra);
-        Push(*dialog, dialog->Ok_Btn); // what the pages showed before the import does not come back
+        Push(*dialog, dialog->Ok_Btn); // does not store what the pages showed before the import
         EXPECT_EQ(Stored("Tooltips"), stored) << bytes;
     }
     EXPECT_EQ(Stored("Alignment") + Stored("Bar Time Format"), "3H, mm");
     EXPECT_EQ(Cur_Settings.Alignment, 3);
-    form.Which_Month_Lbl_DblClick(); // the title has its colours and place in compact mode, too
+    form.Which_Month_Lbl_DblClick(); // in compact mode, the title also follows colours and position
     const int top = form.Top();
     Open(Settings_Frm::transfer_fra);
     File("C:\\in.ini") = "Col_Fore=255\nTaskPos=0\nBar_Date_Format=mm/yyyy\n";
@@ -275,7 +274,7 @@ TEST_F(Importing, replaces_the_data_file_when_the_user_agrees) {
         "file 'calendar.dat' modified on 1/2/2002 09:05:00\r\n\r\nwith new file 'other.dat' modified on "
         "1/2/2002 09:05:00";
     Data_File() = "own";
-    for (const bool to : {false, true}) { // its own file is none, however it is written
+    for (const bool to : {false, true}) { // the program's own file is refused in any letter case
         const std::string title = to ? "Export Data File" : "Import Data File";
         if (!to) {
             Fakes().Expect_Dialog(title, "C:\\none.dat");

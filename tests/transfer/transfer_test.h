@@ -1,4 +1,4 @@
-// The fixture of the tests of import and export: the dialog is open on its page, and buttons are pressed.
+// The fixture of the import and export tests: the dialog is open on its transfer page.
 #pragma once
 
 #include "tests/settings/settings_test.h"
@@ -15,12 +15,14 @@ protected:
         constexpr const char *titles[] = {"Export Data File", "Export Configuration File",
                                           "Export Events to Text File", "Export Events as CSV File",
                                           "Export Events as iCalendar File"};
-        Press(dialog->Transfer.Export_Btn[index], titles[index], answer, message);
+        Transfer_Page &page = dialog->Transfer;
+        Press(index < 4 ? page.Export_Btn[index] : page.Export_ICalendar_Btn, titles[index], answer, message);
     }
     void Import(int index, const std::string &answer, const std::string &message) {
         constexpr const char *titles[] = {"Import Data File", "Import Configuration File",
                                           "Import Events from CSV File", "Import Events from iCalendar File"};
-        Press(dialog->Transfer.Import_Btn[index], titles[index], answer, message);
+        Transfer_Page &page = dialog->Transfer;
+        Press(index < 3 ? page.Import_Btn[index] : page.Import_ICalendar_Btn, titles[index], answer, message);
     }
 
 private:
@@ -29,7 +31,7 @@ private:
         if (!message.empty())
             Fakes().Expect_Box(message);
         Push(*dialog, button);
-        // The last box tells of success, with another icon than all others.
+        // Only a box about success has the information icon.
         const bool good = message.starts_with("Successfully") || message.starts_with("Loaded");
         EXPECT_TRUE(message.empty() ||
                     (Fakes().boxes.back().icon == platform::Box_Icon::Information) == good);

@@ -1,5 +1,5 @@
-// Undo at the calendar: every kind of change by its name in the menu, and what keeps it from the file. Random
-// changes are in tests/core/event_store_test.cpp.
+// Undo from the calendar: the menu names each kind of change, and undo refuses if the file cannot be written
+// or was changed. tests/core/event_store_test.cpp undoes random changes.
 #include "editor/edit_frm.h"
 #include "tests/transfer/transfer_test.h"
 #include "toolkit/keys.h"
@@ -32,9 +32,9 @@ protected:
         page.Events_Lst.Select(0);
         page.Events_Lst_DblClick();
     }
-    void Import_File(const char *path, const char *title, const Button &button) {
-        Fakes().Expect_Dialog(title, path);
-        Push(*dialog, button);
+    void Import_From(int index, const char *path) {
+        Open(Settings_Frm::transfer_fra);
+        Import(index, path, "");
     }
 };
 
@@ -45,28 +45,23 @@ TEST_F(Undoing, takes_every_kind_of_change_back) {
                          "END:VCALENDAR\n";
     File("C:\\in.dat") = "\"20/3/2002=D\"";
     Choose(20, "", 0);
-    Edit(4, "first"); // makes the file
+    Edit(4, "first"); // creates the file
     const std::string first = Data_File();
-    // Another hand writes the file, which the program never would write so.
+    // The file is now hand-written, in a form that the program never writes.
     Data_File() = "\xEF\xBB\xBF 20/3/2002=it\"s \n\n\"1/2/2002=a\",\"5/4/2002=b\"";
     form.Redraw();
-    const auto transfer = [this]() -> Transfer_Page & { return Open(Settings_Frm::transfer_fra).Transfer; };
     const struct {
         const char *name;
         std::function<void()> change;
     } kinds[] = {
         {"Clear 20 March", [&] { Choose(20, "Edit 4 March", 1); }},
         {"Remove 1 February", [&] { Remove_First(); }},
-        {"Import",
-         [&] { Import_File("C:\\in.csv", "Import Events from CSV File", transfer().Import_Btn[2]); }},
-        {"Import",
-         [&] {
-             Import_File("C:\\in.ics", "Import Events from iCalendar File", transfer().Import_ICalendar_Btn);
-         }},
-        {"Import", [&] { Import_File("C:\\in.dat", "Import Data File", transfer().Import_Btn[0]); }},
+        {"Import", [&] { Import_From(2, "C:\\in.csv"); }},
+        {"Import", [&] { Import_From(3, "C:\\in.ics"); }},
+        {"Import", [&] { Import_From(0, "C:\\in.dat"); }},
         {"Edit 20 March", [&] { Edit(20, ""); }},
     };
-    std::vector<std::array<std::string, 3>> before; // name, file, what is seen
+    std::vector<std::array<std::string, 3>> before; // name, file, text shown
     for (const auto &[name, change] : kinds) {
         before.push_back({name, Data_File(), Text_Of(20)});
         change();
@@ -79,7 +74,7 @@ TEST_F(Undoing, takes_every_kind_of_change_back) {
         Undo_Key();
         EXPECT_TRUE(Data_File() == kept && Fakes().boxes.back().text == "Error saving data file.");
         Fakes().unwritable.clear();
-        Undo_Key(true); // a key that is held
+        Undo_Key(true); // a held key is ignored
         Choose(7, before.back()[0], 5);
         EXPECT_EQ(Data_File(), before.back()[1]) << before.back()[0];
         EXPECT_EQ(Text_Of(20) + Box_Of(20).Access().value, before.back()[2] + before.back()[2]);
@@ -93,7 +88,7 @@ TEST_F(Undoing, takes_every_kind_of_change_back) {
     Undo_Key();
     EXPECT_FALSE(Fakes().files.contains("C:\\Vellatro\\calendar.dat"));
     Choose(20, "", 0);
-    Edit(6, "new"); // and nothing of the old file comes back
+    Edit(6, "new"); // does not bring back anything of the old file
     EXPECT_EQ(Data_File(), "\"6/3/2002=new\"\r\n");
 }
 

@@ -1,4 +1,4 @@
-// The balloon: its text in lines, its place beside the mouse, and when the calendar shows it.
+// The balloon: its lines of text, its place beside the mouse, and when it appears and goes.
 #include "tests/calendar/calendar_test.h"
 #include "ui/wrap_text.h"
 
@@ -10,27 +10,20 @@ using Lines = std::vector<std::string>;
 
 TEST_F(Form_Test, wrapped_text) {
     const std::tuple<const char *, std::size_t, Lines> rows[] = {
-        // Ten characters a line.
+        // A line holds ten characters.
         {"exactlyten next", 3, {"exactlyten", "next"}},
         {"incomprehensible", 3, {"incomprehe", "nsible"}},
         {"a\r\nb\rc\n\nd\te \n\n", 9, {"a", "b", "c", "", "d e"}},
         {"one two three four five", 2, {"one two", "three f..."}},
         {"12345678\u00E4\u00F6\u00FC", 2, {"12345678\u00E4\u00F6", "\u00FC"}},
         {"1234567\u00E4\u00F6\u00FC\u00E4", 1, {"1234567..."}},
-        // Without blanks: no line begins with a closing mark or a small letter, or ends with an opening mark.
-        {"\u4E00\u4E8C\u4E09\u56DB\u4E94\u516D\u4E03\u516B\u4E5D\u5341\u3002\u6B21",
-         3,
-         {"\u4E00\u4E8C\u4E09\u56DB\u4E94\u516D\u4E03\u516B\u4E5D", "\u5341\u3002\u6B21"}},
-        {"\u4E00\u4E8C\u4E09\u56DB\u4E94\u516D\u4E03\u516B\u4E5D\u300C\u5341\u300D",
-         3,
-         {"\u4E00\u4E8C\u4E09\u56DB\u4E94\u516D\u4E03\u516B\u4E5D", "\u300C\u5341\u300D"}},
-        {"\u3042\u3044\u3046\u3048\u304A\u304B\u304D\u304F\u3051\u3061\u3083\u3093",
-         3,
-         {"\u3042\u3044\u3046\u3048\u304A\u304B\u304D\u304F\u3051", "\u3061\u3083\u3093"}},
-        {"\u3042\u3044\u3046\u3048\u304Aabcdefgh", 3, {"\u3042\u3044\u3046\u3048\u304A", "abcdefgh"}},
-        {"\uAC00\uB098\uB2E4 \uB77C\uB9C8\uBC14\uC0AC\uC544\uC790\uCC28",
-         3,
-         {"\uAC00\uB098\uB2E4 \uB77C\uB9C8\uBC14\uC0AC\uC544\uC790", "\uCC28"}},
+        // Scripts without blanks: no line starts with a closing mark or a small kana, or ends with an opening
+        // mark.
+        {"一二三四五六七八九十。次", 3, {"一二三四五六七八九", "十。次"}},
+        {"一二三四五六七八九「十」", 3, {"一二三四五六七八九", "「十」"}},
+        {"あいうえおかきくけちゃん", 3, {"あいうえおかきくけ", "ちゃん"}},
+        {"あいうえおabcdefgh", 3, {"あいうえお", "abcdefgh"}},
+        {"가나다 라마바사아자차", 3, {"가나다 라마바사아자", "차"}},
     };
     for (const auto &[text, most, lines] : rows)
         EXPECT_EQ(Wrap_Text(text, {}, 1000, most), lines) << text;
@@ -91,17 +84,17 @@ TEST_F(Balloon, shows_the_day_s_text_after_a_third_of_a_second_until_the_release
     ASSERT_TRUE(Shown());
     EXPECT_TRUE(Fakes().now.millisecond >= 300 && Fakes().now.millisecond <= 310);
     EXPECT_EQ(form.Balloon.Window.Title_Lbl.Caption(), "6/3/2002");
-    EXPECT_EQ(form.Balloon.Window.Message_Lbl.Caption(), "second"); // the last record, as in the box
+    EXPECT_EQ(form.Balloon.Window.Message_Lbl.Caption(), "second"); // the day's last record, as in its box
     EXPECT_EQ(form.Balloon.Window.Height(), 1620);
     EXPECT_EQ(form.Balloon.Window.Top() + form.Balloon.Window.Height(),
               form.Top() + Box_Of(6).Top() + Box_Of(6).Height() / 2);
     const Fake_Mirror &window = Desktop().mirrors.at(&form.Balloon.Window.Model());
     EXPECT_TRUE(!window.shown_unclipped && window.shape.size() == 4 * 7 + 3U);
-    Press(form, Box_Of(7), platform::Mouse_Button::Middle); // one at a time
+    Press(form, Box_Of(7), platform::Mouse_Button::Middle); // only one balloon at a time
     EXPECT_EQ(form.Tooltip_Box, 10);
-    Release(form, Box_Of(20)); // wherever
+    Release(form, Box_Of(20)); // a release anywhere ends it
     EXPECT_FALSE(Shown());
-    struct { // it grows with its text up to the work area, in height first
+    struct { // it grows with its text up to the work area, first in height
         std::string text;
         bool wide, cut;
     } const rows[] = {{std::string(300, 'w'), false, false},
@@ -128,7 +121,7 @@ TEST_F(Balloon, goes_with_whatever_takes_its_day_away_also_during_the_wait) {
         [this] { Press_Key(form, 123); },
         [] {
             Desktop().Advance(1000);
-            Desktop().button_held = false; // let go over another program's window
+            Desktop().button_held = false; // released over another program's window
             Desktop().Advance(1000);
         },
     };
@@ -161,8 +154,8 @@ TEST_F(Balloon, a_second_press_during_the_wait_waits_for_itself_and_an_empty_box
     Press_Day(6);
     ASSERT_TRUE(Shown());
     EXPECT_EQ(form.Balloon.Window.Message_Lbl.Caption(), "other");
-    EXPECT_GE(Fakes().now.millisecond, 600);   // 0.3 s of its own
-    for (const int hour_then : {23, 11, 20}) { // the wait ends at midnight and when the clock is set
+    EXPECT_GE(Fakes().now.millisecond, 600);   // its own wait of 0.3 s
+    for (const int hour_then : {23, 11, 20}) { // the wait ends also across midnight and when the clock is set
         Fakes().now = {2002, 3, 5, hour_then == 23 ? 23 : 12, 59, 59, 900};
         Desktop().messages = {[hour_then] { Fakes().now.hour = hour_then; }};
         const unsigned begin = Desktop().time;
@@ -171,7 +164,7 @@ TEST_F(Balloon, a_second_press_during_the_wait_waits_for_itself_and_an_empty_box
         EXPECT_LE(Desktop().time - begin, 310U);
         Release(form, Box_Of(6));
     }
-    for (const bool kept : {false, true}) { // what can be read is shown unless the message took the mouse
+    for (const bool kept : {false, true}) { // shows the readable events unless the message took the mouse
         Data_File() = "\"6/3/2002=first\"\r\n\"open";
         Fakes().Expect_Box("Error loading in data file.", platform::Box_Answer::Ok, [this, kept] {
             if (!kept)

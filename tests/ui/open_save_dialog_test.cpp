@@ -1,4 +1,4 @@
-// The file dialog control: what it hands to the system's dialogs, and what it makes of their answers.
+// The file dialog control: what it passes to the system's dialogs, and how it takes their answers.
 #include "tests/fakes/fake_test.h"
 #include "ui/open_save_dialog.h"
 
@@ -10,7 +10,8 @@ class File_Dialogs : public Fake_Test {
 protected:
     OpenSaveDialog dialog{nullptr};
 
-    /// Shows a dialog that answers `answer` and sets the filter index to 2. Gives what it was asked with.
+    /// Shows a dialog that answers `answer` and sets the filter index to 2. Returns what it received, then
+    /// the results.
     std::string Ask(void (OpenSaveDialog::*show)(), const std::string &answer) {
         std::string asked;
         Fakes().expected_dialogs.push_back(
@@ -45,7 +46,7 @@ TEST_F(File_Dialogs, hand_the_properties_over_and_take_the_answers) {
     EXPECT_TRUE(Ask(&OpenSaveDialog::ShowOpen, "").ends_with("; C:\\b, b 1"));
     dialog.CancelError = true;
     EXPECT_THROW(Ask(&OpenSaveDialog::ShowSave, ""), Dialog_Cancelled);
-    // Names are parted.
+    // ParseMultiFileName separates the names.
     for (const auto &[name, expected] : {std::pair("\\b"s, ":b:1"), {"C:\\a\0b\0c"s, "C:\\a:b:c:2"}}) {
         dialog.FileName = name;
         std::string folder, found;
