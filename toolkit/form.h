@@ -110,6 +110,7 @@ private:
     std::optional<std::vector<Rect>> clip_; ///< nothing: not clipped
     std::vector<Point> shape_;              ///< empty: no polygon
     bool created_ = false;                  ///< there is a native window
-    std::optional<Point> stuck_at_;         ///< where the last Restore_Position left the window
+    std::optional<Point> left_at_;          ///< where the last Restore_Position left the window
+    std::optional<Point> stuck_at_;         ///< and where the one before left it as well
     Form *modal_ = nullptr;                 ///< takes what the user does here
 };

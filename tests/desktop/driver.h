@@ -59,6 +59,8 @@ HWND Shell_View();
 
 double Milliseconds_Now(); ///< of a clock that nothing sets
 
+std::ptrdiff_t Gdi_Objects(HANDLE process); ///< -1: not to be had
+
 /// Polls until `holds` gives true; false after the deadline.
 bool Wait_Until(const std::function<bool()> &holds, DWORD milliseconds = 5000);
 
@@ -115,8 +117,8 @@ public:
 
     /// What the host tells of the process in the file of that name; empty when it does not.
     std::string Host_File(const wchar_t *name) const;
-    long Processor_Ticks() const;       ///< hundredths of a second since its start; -1: not to be had
-    std::ptrdiff_t Gdi_Objects() const; ///< -1: not to be had
+    long Processor_Ticks() const; ///< hundredths of a second since its start; -1: not to be had
+    std::ptrdiff_t Gdi_Objects() const { return ::Gdi_Objects(process_); }
     std::ptrdiff_t Windows(bool only_visible) const;
     std::ptrdiff_t Handles() const; ///< of the kernel; -1: not to be had
     /// GDI objects, windows and handles.
