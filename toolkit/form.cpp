@@ -76,7 +76,10 @@ void Form::Restore_Position() {
     if (now == Requested_Position() || now == stuck_at_)
         return;
     Notify_Mirror(Aspect::Bounds);
-    stuck_at_ = Corner();
+    // Stuck only after the second try: what the window is in may have changed in the midst of the first.
+    const Point left_at = Corner();
+    if (std::exchange(left_at_, left_at) == left_at)
+        stuck_at_ = left_at;
 }
 
 void Form::Resize(int width, int height) {

@@ -109,6 +109,7 @@ private:
     std::optional<std::vector<Rect>> clip_; ///< nullopt: not clipped
     std::vector<Point> shape_;              ///< empty: no polygon
     bool created_ = false;                  ///< the native window exists
-    std::optional<Point> stuck_at_;         ///< the position after a failed Restore_Position
+    std::optional<Point> left_at_;          ///< the position after the last Restore_Position
+    std::optional<Point> stuck_at_;         ///< the position after two failed attempts of Restore_Position
     Form *modal_ = nullptr;                 ///< the modal form that blocks this one
 };

@@ -115,7 +115,7 @@ TEST_F(Lifecycle, comes_back_from_where_something_else_has_moved_it) {
     window.stuck = true;
     Desktop().told.clear();
     EXPECT_FALSE(comes_back(set, [] { Desktop().Advance(9000); }));
-    EXPECT_EQ(Desktop().told.size(), 2U) << "its own move, and one try to bring it back";
+    EXPECT_EQ(Desktop().told.size(), 3U) << "its own move, and two tries to bring it back";
     window.stuck = false;
     Press(form, form.Which_Month_Lbl);
     EXPECT_FALSE(comes_back(dragged, second)) << "while it is dragged";

@@ -139,7 +139,8 @@ TEST_F(Attachment, Follows_The_View_Of_Icons) {
             }
             if (place.empty() && Wait_Until([&] { return Place_Of(program.Calendar()).starts_with("in"); })) {
                 place = Place_Of(program.Calendar());
-                header = Middle(program.Named("Sunday").place);
+                // Far to the right: Wine 10 shows as much less of the left as the desktop's origin is off.
+                header = Middle(program.Named("Saturday").place);
             }
             ASSERT_TRUE(Becomes(
                 place, [&] { return Place_Of(program.Calendar()); }, 2000));

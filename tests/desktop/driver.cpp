@@ -152,6 +152,28 @@ double Milliseconds_Now() {
     return 1000.0 * static_cast<double>(count.QuadPart) / static_cast<double>(frequency.QuadPart);
 }
 
+std::ptrdiff_t Gdi_Objects(HANDLE process) {
+    // Wine does not count them, but every process has a table of its own.
+    struct Entry {
+        ULONG64 object;
+        ULONG owner;
+        USHORT unique;
+        UCHAR type; // 0: free
+        UCHAR flags;
+        ULONG64 user;
+    };
+    constexpr std::size_t table_offset = sizeof(void *) == 4 ? 0x94 : 0xF8;
+    PROCESS_BASIC_INFORMATION information{};
+    NtQueryInformationProcess(process, ProcessBasicInformation, &information, sizeof information, nullptr);
+    const char *place = reinterpret_cast<const char *>(information.PebBaseAddress) + table_offset;
+    const void *table = nullptr;
+    std::vector<Entry> entries(0x4000);
+    if (!ReadProcessMemory(process, place, &table, sizeof table, nullptr) ||
+        !ReadProcessMemory(process, table, entries.data(), entries.size() * sizeof(Entry), nullptr))
+        return -1;
+    return std::count_if(entries.begin(), entries.end(), [](const Entry &entry) { return entry.type != 0; });
+}
+
 bool Wait_Until(const std::function<bool()> &holds, DWORD milliseconds) {
     const DWORD begin = GetTickCount();
     for (bool last = false; !holds(); Sleep(20)) {
@@ -341,28 +363,6 @@ long Program::Processor_Ticks() const {
                     &user, &system) != 2)
         return -1;
     return user + system;
-}
-
-std::ptrdiff_t Program::Gdi_Objects() const {
-    // Wine does not count GDI objects, but each process has its own table of them.
-    struct Entry {
-        ULONG64 object;
-        ULONG owner;
-        USHORT unique;
-        UCHAR type; // 0 if the entry is free
-        UCHAR flags;
-        ULONG64 user;
-    };
-    constexpr std::size_t table_offset = sizeof(void *) == 4 ? 0x94 : 0xF8;
-    PROCESS_BASIC_INFORMATION information{};
-    NtQueryInformationProcess(process_, ProcessBasicInformation, &information, sizeof information, nullptr);
-    const char *place = reinterpret_cast<const char *>(information.PebBaseAddress) + table_offset;
-    const void *table = nullptr;
-    std::vector<Entry> entries(0x4000);
-    if (!ReadProcessMemory(process_, place, &table, sizeof table, nullptr) ||
-        !ReadProcessMemory(process_, table, entries.data(), entries.size() * sizeof(Entry), nullptr))
-        return -1;
-    return std::count_if(entries.begin(), entries.end(), [](const Entry &entry) { return entry.type != 0; });
 }
 
 std::ptrdiff_t Program::Windows(bool only_visible) const {

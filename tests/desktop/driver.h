@@ -62,6 +62,8 @@ HWND Shell_View();
 
 double Milliseconds_Now(); ///< of a clock that cannot be set
 
+std::ptrdiff_t Gdi_Objects(HANDLE process); ///< -1 if unknown
+
 /// Polls until `holds` returns true; returns false after the deadline.
 bool Wait_Until(const std::function<bool()> &holds, DWORD milliseconds = 5000);
 
@@ -119,8 +121,8 @@ public:
 
     /// Returns the contents of the host's /proc file with that name for this process; empty if there is none.
     std::string Host_File(const wchar_t *name) const;
-    long Processor_Ticks() const;       ///< used so far, in hundredths of a second; -1 if unknown
-    std::ptrdiff_t Gdi_Objects() const; ///< -1 if unknown
+    long Processor_Ticks() const; ///< used so far, in hundredths of a second; -1 if unknown
+    std::ptrdiff_t Gdi_Objects() const { return ::Gdi_Objects(process_); }
     std::ptrdiff_t Windows(bool only_visible) const;
     std::ptrdiff_t Handles() const; ///< to kernel objects; -1 if unknown
     /// The numbers of GDI objects, windows and handles.

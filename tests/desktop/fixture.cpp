@@ -84,8 +84,11 @@ void Desktop_Test::SetUp() {
     Set_Clock(2027, 5, 12, 10, 30, 0);
     SetCursorPos(1, GetSystemMetrics(SM_CYSCREEN) - 2); // away from all windows
     Wait_Until([] { return GetForegroundWindow() == FindWindowA("Progman", nullptr); }, 1000);
-    ASSERT_TRUE(Wait_Until([] { return Picture().pixels == Bare_Screen->pixels; }))
-        << "the desktop is not bare";
+    // Wine 10 paints its own desktop over all windows when the wallpaper changes: the stand-in paints again.
+    ASSERT_TRUE(Wait_Until([] {
+        RedrawWindow(FindWindowA("Progman", nullptr), nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
+        return Picture().pixels == Bare_Screen->pixels;
+    })) << "the desktop is not bare";
 }
 
 void Desktop_Test::TearDown() {

@@ -105,9 +105,20 @@ TEST_F(Time, What_Opens_And_Closes_Leaves_Nothing_Behind) {
     // Objects that the system creates once stop growing after some rounds; a leak does not.
     ::testing::AssertionResult same = ::testing::AssertionFailure();
     Program::Held before{};
-    for (int round = 0; round < 40 && !same; ++round) {
-        if (round % 10 == 0)
+    for (int round = 0; round < 80 && !same; ++round) {
+        if (round % 10 == 0) {
             before = program.Holds();
+            // Wine 10 keeps a region of each window that ends with one, such as the balloon: as many as here.
+            before[0] -= Gdi_Objects(GetCurrentProcess());
+            for (int i = 0; i < 10; ++i) {
+                const HWND bare =
+                    CreateWindowExW(WS_EX_TOOLWINDOW | WS_EX_NOACTIVATE, WC_STATICW, nullptr,
+                                    WS_POPUP | WS_VISIBLE, 0, 0, 9, 9, nullptr, nullptr, nullptr, nullptr);
+                SetWindowRgn(bare, CreateRectRgn(0, 0, 9, 9), FALSE);
+                DestroyWindow(bare);
+            }
+            before[0] += Gdi_Objects(GetCurrentProcess());
+        }
         press.x = place.x + round % 2 * 8;
         for (const auto &[window, open, close] : rows) {
             program.Uncover(place);
