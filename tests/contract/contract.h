@@ -127,7 +127,7 @@ protected:
     static void Age_File(const std::string &path) { Fakes().written[path] = {2000, 8, 7, 0, 0, 0, 0}; }
 
     static std::vector<std::string> Names_Left() {
-        return platform::Names_In_Folder("C:\\Scratch", platform::Listed::Files);
+        return platform::Names_In_Folder("C:\\Scratch", platform::Entry_Kind::Files);
     }
 
     static void Use_Short_Date(const std::string &pattern) { Fakes().short_date_pattern = pattern; }
