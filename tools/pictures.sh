@@ -10,6 +10,11 @@ Desktop_Prepare "$out"
 Desktop_Build "$out/build.log" vellatro shell_standin pictures
 Display_Start 1280x1024x24
 Wine_Prefix "$out/prefix"
+convert packs/Default/9.jpg "$out/wallpaper.bmp" # instead of the stand-in's
+Wine_Registry <<REG
+[HKEY_CURRENT_USER\\Control Panel\\Desktop]
+"Wallpaper"="$(Wine_Path "$out/wallpaper.bmp" | sed 's/\\/\\\\/g')"
+REG
 Desktop_Start "$BINARIES/tests/desktop/shell_standin.exe" 96 vellatro 1280x720 --adopt # the pack's aspect ratio
 WINE_OUT=$out/pictures.log
 VT_PACK=$(Wine_Path packs/Default)
