@@ -1,5 +1,6 @@
-// Replaces functions of the C++ runtime library; the linker prefers these. The library's terminate handler
-// demangles names for a console, and its logic errors use the older string class: together 120 KB.
+// Replacements for functions of the C++ runtime library, which the linker prefers to the originals. They save
+// 120 KB: the original terminate handler demangles names for a console, and the original logic errors use the
+// older string class.
 #include "base/error.h"
 
 #include <cstdlib>

@@ -21,8 +21,8 @@ bool Desktop_Is_There() {
 Desktop_Return::Desktop_Return() {
     timer_.On_Timer = [this] { Poll(); };
     platform::Listen_To_Broadcasts([this](Broadcast broadcast) {
-        // Without this broadcast Look waits for a desktop that has stood for some seconds: not every shell
-        // announces its start, and a shell that only recreates a window does not start at all.
+        // Without this broadcast, Poll requires a desktop that has existed for some seconds: not every shell
+        // announces its start, and a shell that only recreates a window does not start again.
         if (broadcast == Broadcast::Shell_Started)
             hits_needed_ = 1;
         else if (broadcast == Broadcast::Session_Over || broadcast == Broadcast::Close_Request)
@@ -37,8 +37,7 @@ Desktop_Return::~Desktop_Return() {
 
 bool Desktop_Return::Wait() {
     timer_.Set_Enabled(true);
-    // The calendar may have called End_Message_Loop once more than the loop ran, so the first run may return
-    // early.
+    // The calendar may have called End_Message_Loop more than once, so the first run may return early.
     while (timer_.Enabled())
         platform::Run_Message_Loop();
     return desktop_found_;

@@ -3,7 +3,7 @@
 
 #include "toolkit/timer.h"
 
-/// Waits, without a window, for the desktop of the next shell.
+/// Waits for the desktop of the next shell. Needs no window.
 class Desktop_Return {
 public:
     Desktop_Return();
@@ -11,8 +11,8 @@ public:
     Desktop_Return &operator=(const Desktop_Return &) = delete;
     ~Desktop_Return();
 
-    /// Runs the message loop. Returns whether a desktop has come within two minutes. Returns false early if
-    /// the session ends or the program gets a close request.
+    /// Runs the message loop. Returns whether a desktop has appeared within two minutes. Returns false early
+    /// if the session ends or the program gets a close request.
     bool Wait();
 
 private:
@@ -21,7 +21,7 @@ private:
 
     Timer timer_{1000}; ///< stopped: the wait is over
     int polls_left_ = 120;
-    int hits_needed_ = 5; ///< successful looks in a row before the desktop counts as ready
+    int hits_needed_ = 5; ///< successful polls in a row before the desktop counts as ready
     int hits_ = 0;
     bool desktop_found_ = false;
 };

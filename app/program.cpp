@@ -1,4 +1,3 @@
-// Connects the windows with each other and keeps the program running.
 #include "app/program.h"
 
 #include "app/desktop_return.h"
@@ -16,9 +15,9 @@ namespace {
 
 enum class Calendar_End { Not_Started, Wanted, Lost_With_Shell };
 
-/// Warns a user who has started the program inside an archive. Repeats the warning at each start by the user:
-/// it cannot be remembered, because the next temporary folder is a different one. A restart by the program
-/// itself does not warn.
+/// Warns a user who has started the program inside an archive, at every such start: the program cannot
+/// remember the warning, because the next temporary folder is a different one. Does not warn if the program
+/// has restarted itself.
 void Warn_Of_Temporary_Folder() {
     if (platform::Restart_Count() == 0 && platform::Started_From_Temporary_Folder())
         platform::Message_Box("Vellatro was started from a temporary folder, as happens inside an archive. "
@@ -29,7 +28,7 @@ void Warn_Of_Temporary_Folder() {
 
 /// Runs the calendar and its dialogs until all of them are closed.
 Calendar_End Run_Calendar() {
-    // The forms are too large for the stack, whose frames stay below a page.
+    // On the heap, because the forms are large.
     const auto main_frm = std::make_unique<Main_Frm>();
     const auto edit_frm = std::make_unique<Edit_Frm>(*main_frm);
     Connect_Editor(*main_frm, *edit_frm);
@@ -41,9 +40,9 @@ Calendar_End Run_Calendar() {
     Warn_Of_Temporary_Folder();
     platform::Run_Message_Loop();
     main_frm->Close_Settings();
-    // If the desktop was lost, or the loop ended while a question was open, nobody has asked about unsaved
-    // text yet. If the user answers Cancel, or the text is refused, the editor stays open and alone keeps the
-    // program running.
+    // If the desktop was lost, or the loop ended while a question was open, the user has not been asked about
+    // unsaved text yet. If the user cancels, or the text is refused, the open editor alone keeps the program
+    // running.
     edit_frm->On_Unload = [] { platform::End_Message_Loop(); };
     while (!edit_frm->Offer_To_Save() && edit_frm->Visible())
         platform::Run_Message_Loop();
@@ -51,15 +50,16 @@ Calendar_End Run_Calendar() {
     return main_frm->Lost_With_Shell() ? Calendar_End::Lost_With_Shell : Calendar_End::Wanted;
 }
 
-/// Returns the restart count of the successor of this process, which ran for `lived` milliseconds; 0: there
-/// is no successor. Limits the restarts, because a shell may destroy each new calendar at once.
+/// Returns the restart count for the successor of this process, or 0 if there is to be none. `lived` is how
+/// long this process has run, in milliseconds. Limits the restarts, because a shell may destroy each new
+/// calendar at once.
 int Next_Restart(unsigned lived) {
     constexpr unsigned short_life = 60000;
     constexpr int most_restarts = 3;
     if (lived >= short_life)
         return 1;
-    const int row = platform::Restart_Count();
-    return row < most_restarts ? row + 1 : 0;
+    const int restarts = platform::Restart_Count();
+    return restarts < most_restarts ? restarts + 1 : 0;
 }
 
 } // namespace

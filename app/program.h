@@ -1,4 +1,4 @@
-// The program from start to end.
+// The program's run from start to exit, and the connections between its windows.
 #pragma once
 
 #include <memory>

@@ -12,8 +12,8 @@ constexpr int title_height = 26;
 constexpr int header_height = 20;
 constexpr int text_inset = 5;    ///< from a box's sides to its text
 constexpr int number_inset = 2;  ///< less than text_inset: the number's caption begins with a space
-constexpr int title_padding = 6; ///< above and below the title's line, in total; the headers have half of it
-constexpr int text_below = 2;    ///< from the text's line to the box's lower edge
+constexpr int title_padding = 6; ///< above and below the title's text together; headers have half of it
+constexpr int text_below = 2;    ///< from the lowest line of text to the box's lower edge
 
 struct Style_Lengths {
     int box_width;
@@ -24,7 +24,7 @@ struct Style_Lengths {
 constexpr Style_Lengths thin_box{96, 34, 1};
 constexpr Style_Lengths square_box{96, 76, 4};
 
-/// Minimum difference in brightness between today's box and its frame, of 255.
+/// Minimum difference in brightness (0 to 255) between today's box and its frame.
 constexpr int frame_contrast = 90;
 
 struct Channels {

@@ -1,5 +1,5 @@
 // The measures of the two box styles: the places of boxes, headers and title on the calendar, in pixels, and
-// the look of their labels. All windows that show boxes use both. box_styles.cpp fits the event texts.
+// the look of their labels. Every window that shows day boxes uses them. box_styles.cpp fits the event texts.
 #pragma once
 
 #include "platform/drawing.h"
@@ -7,7 +7,7 @@
 
 #include <cstdint>
 
-/// Background behind the title if the desktop draws its labels without one.
+/// The background of the title if the desktop draws its icon labels without a background.
 constexpr Colour dark_grey = 4934475;
 
 /// The layout of one box style. Rectangles are whole pixels on the calendar, so all columns are equally wide
@@ -21,8 +21,8 @@ public:
     static constexpr platform::Font number_font{90, false};
     static constexpr platform::Font text_font{80, false};
 
-    /// 0 is "Thin Box", every other number "Square Box". Measures with the current fonts and DPI of the
-    /// screen.
+    /// Computes the layout of a style with the current fonts and DPI: 0 is "Thin Box", every other number
+    /// "Square Box".
     explicit Box_Layout(std::int16_t style);
 
     Rect Previous_Arrow() const { return {0, 0, title_, title_}; }
@@ -50,7 +50,7 @@ private:
 /// Returns the height of a line of text in whole pixels, at least one.
 int Line_Pixels(const platform::Font &font);
 
-// Each sets the look of a label, but not its place, colours or caption.
+// Each sets the look of a label, but not its place or caption. Only those for today's box set colours.
 void Style_Heading(Label &label, const platform::Font &font);
 /// A bold caption stays bold.
 void Style_Number(Label &label);
@@ -60,5 +60,5 @@ void Style_Today(Label &label, Colour colour);
 /// Removes the look of today's box, except for the background.
 void Clear_Today_Style(Label &label);
 
-/// Returns a colour of the same hue that stands out from `colour`.
+/// Returns a darker or lighter colour of the same hue that stands out from `colour`.
 Colour Strong_Shade(Colour colour);

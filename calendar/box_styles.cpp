@@ -11,7 +11,7 @@
 
 namespace {
 
-/// The most bytes of a text that a box shows. Bounds the work for a text of any length.
+/// The maximum number of bytes of a text that a box shows. Limits the work for long texts.
 constexpr std::size_t longest_shown = 1024;
 
 void Place(Label &label, const Rect &pixels) {
@@ -49,8 +49,8 @@ bool Fits(const Label &label, std::string_view text) {
     return platform::Text_Width(text, Box_Layout::text_font) < label.Width();
 }
 
-/// Returns all of `text`, or a beginning that is wider than the label but whose first half fits. Only saves
-/// steps of Get_Line.
+/// Returns all of `text`, or a prefix that is wider than the label but whose first half fits. Only saves
+/// Get_Line steps.
 std::string_view Measurable_Prefix(const Label &label, std::string_view text) {
     while (text.size() > 1) {
         const std::size_t half = Whole_Characters(text, text.size() / 2);
@@ -92,7 +92,7 @@ void Month_Grid::DDD_Style(std::int16_t style) {
         Place(Box_Caption_Lbl[i], layout.Text(i));
         Style_Text(Box_Caption_Lbl[i]);
     }
-    // The measuring label is as wide as a line before "...".
+    // The measuring label is as wide as the room for text before "...".
     const int room = Box_Caption_Lbl[0].Width() - platform::Text_Width(Ellipsis, Box_Layout::text_font);
     DotDotDot_Lbl.Set_Font(Box_Layout::text_font);
     DotDotDot_Lbl.Move({0, 0, std::max(room, 0), Box_Caption_Lbl[0].Height()});
@@ -115,7 +115,8 @@ void Month_Grid::DotDotDot(Label &label, std::string_view text) {
     std::string_view rest = all;
     const int lines = std::max(Twips_To_Pixels(label.Bounds()).height / Line_Pixels(label.Font()), 1);
     std::string shown;
-    // Takes all lines but the last, which may need "...". Takes none if not even one character fits.
+    // Takes all lines but the last, which may need "...". Takes none if not even one character of the first
+    // line fits.
     if (more || !Fits(label, rest)) {
         const std::vector<std::string> taken =
             Extract_Lines(rest, DotDotDot_Lbl.Font(), label.Width() - 1, static_cast<std::size_t>(lines - 1));

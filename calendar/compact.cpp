@@ -1,6 +1,6 @@
 // Compact mode, which shows only the title. The user enters and leaves it by a double click on the title.
-// With the setting "Auto Compact", a minute without activity enters it, and moving the mouse over the title
-// leaves it again.
+// With the setting "Auto Compact", the calendar also enters it after a minute without activity, and then
+// leaves it when the mouse moves over the title.
 #include "calendar/main_frm.h"
 #include "core/settings.h"
 
@@ -45,7 +45,8 @@ void Main_Frm::Expand() {
     Set_Colours();
     Mark_Today();
     Compacted = false;
-    // Load_Dates may have shown an alert. A change of month, week or fonts during the alert was not drawn.
+    // Load_Dates may have shown an alert. A change of month, regional settings or fonts during the alert has
+    // not been drawn.
     if (layout_outdated_)
         Redraw();
     // Compact() stopped the countdown, and after a double click the mouse may not move.

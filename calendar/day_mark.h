@@ -1,5 +1,5 @@
-// The keyboard's mark on one day box. The mark is visible once the user has moved it by keyboard, while the
-// window has the focus.
+// The keyboard's mark on one day box. The mark appears when the user first presses one of its keys, and from
+// then on whenever the window has the focus.
 #pragma once
 
 #include "core/date.h"
@@ -19,7 +19,8 @@ public:
     /// Makes the mark visible from now on. Returns false if it already was.
     bool Activate() { return !std::exchange(active_, true); }
     void Set_Focus(bool has_focus) { has_focus_ = has_focus; }
-    /// Moves the mark to the box of a day. If `box` is null, marks nothing and gives `title` the focus.
+    /// Moves the mark to the box of a day, or removes it if `box` is null. If the mark is active and the day
+    /// is a different one, gives the focus to the box, or to `title` if `box` is null.
     void Move_To(Label *box, const Date &date, const Label &title);
 
 private:
@@ -28,5 +29,5 @@ private:
     bool active_ = false;
     bool has_focus_ = false;
     Label *box_ = nullptr;
-    std::optional<Date> announced_; ///< the day last announced as having the focus
+    std::optional<Date> announced_; ///< the day that was last announced to have the focus
 };

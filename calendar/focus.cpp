@@ -26,8 +26,8 @@ void Main_Frm::Form_KeyDown(const platform::Input_Event &event) {
     }
     const bool menu = event.key == Key_Menu || (event.key == Key_F10 && event.shift);
     if (menu || event.key == Key_Return || event.key == Key_Delete) {
-        // These keys act on release, and only if they were pressed here. A key that closes a message box, or
-        // that repeats, does nothing to the days.
+        // These keys act on release, and only if they were pressed here. A key that closed a message box, or
+        // that repeats, does not act on the day.
         if (!event.repeated)
             pending_key_ = event.key;
     } else if (Handle_Day_Key(event.key)) {
@@ -39,7 +39,7 @@ void Main_Frm::Form_KeyUp(const platform::Input_Event &event) {
     if (!event.control_key)
         drag_.End_Nudge();
     const bool pending = std::exchange(pending_key_, 0) == event.key;
-    // Alt+F4 closes this window or another one. Its F4 must not go to the next month.
+    // Alt+F4 closes this window or another one. The release of its F4 must not show the next month.
     if (event.alt || std::exchange(stray_key_, false))
         return;
     Handle_Function_Key(event.key);
@@ -113,7 +113,8 @@ void Main_Frm::Act_On_Marked_Day(int key) {
             Popup_Below_Title(false);
         return;
     }
-    // If the mark was not visible before, only the menu opens: it shows its day and does no harm.
+    // If the mark was not visible before, only the menu key acts: the menu opens at the marked day and does
+    // no harm by itself.
     const bool seen_before = !Show_Mark();
     const int box = Marked_Box();
     if (menu) {
@@ -173,7 +174,7 @@ void Main_Frm::Update_Focus(bool has_focus) {
 void Main_Frm::Update_Mark() {
     if (mark_.Day() == 0)
         return;
-    // A shorter month has the mark on its last day.
+    // In a shorter month, the mark moves to the last day.
     const std::int32_t length = DaysInMonth({Cur_Year, Cur_Month, 1});
     mark_.Set_Day(static_cast<std::int16_t>(std::min<std::int32_t>(mark_.Day(), length)));
     const int box = Marked_Box();

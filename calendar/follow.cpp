@@ -6,7 +6,7 @@ void Main_Frm::Follow(const Settings &before, bool where_dropped) {
         return ((before.*members != Shown_Settings->*members) || ...);
     };
     // The window's size may change. A window at its set position is placed again, so that it neither runs off
-    // the screen nor leaves its edge.
+    // the screen nor leaves a gap to the screen's edge.
     const bool stays = where_dropped && (Compacted || !place_.Is_In_Position());
     const bool refit = style_ != Effective_Style();
     Which_Style(Effective_Style());
@@ -15,8 +15,8 @@ void Main_Frm::Follow(const Settings &before, bool where_dropped) {
     TransparentForm();
     if (!stays)
         Position_Form(Effective_Position());
-    // The boxes fit other amounts of text, or have other tooltips. Load_Dates may alert the user of today's
-    // event.
+    // The boxes now fit a different amount of text, or have different tooltips. Load_Dates may alert the user
+    // of today's event.
     if (refit || changed(&Settings::Tooltips, &Settings::Show_Alerts))
         Load_Dates();
     if (changed(&Settings::Col_Today, &Settings::Col_Normal, &Settings::Col_Fore, &Settings::Col_Num,

@@ -28,7 +28,7 @@ void Form_Drag::Begin(Mouse_Button button, Point mouse) {
 
 void Form_Drag::Continue(Mouse_Button held, Point mouse) {
     if (held != Mouse_Button::Left)
-        return End(); // another window got the release, such as a message box
+        return End(); // another window, such as a message box, got the release
     if (drag_ && May_Drag())
         form_.Move(form_.Left() - (drag_->mouse.x - mouse.x), form_.Top() - (drag_->mouse.y - mouse.y));
 }

@@ -1,5 +1,5 @@
-// Moves the calendar by hand: by a drag of its title, or in steps by the arrow keys. The owner stores the new
-// place.
+// Moves the calendar for the user: by a drag of its title, or in steps by the arrow keys. The owner stores
+// the new place.
 #pragma once
 
 #include "base/geometry.h"
@@ -10,26 +10,27 @@
 
 class Form_Drag {
 public:
-    /// Called after a drag, a click or a series of steps. `from` is the form's place before; nothing if no
-    /// drag was running.
+    /// Called after a drag, a click or a series of steps. `from` is the form's place before the move, or
+    /// nothing if no drag was running.
     using Keep = Callback<void(const std::optional<Point> &from)>;
     Form_Drag(Form &form, const Keep &keep) : form_(form), keep_(keep) {}
 
     bool Dragging() const { return drag_.has_value(); }
-    // The mouse over the title. `mouse` is a point in the title.
+    // Events of the mouse over the title. `mouse` is a point in the title, in twips.
     void Begin(platform::Mouse_Button button, Point mouse);
     void Continue(platform::Mouse_Button held, Point mouse);
     void Drop(platform::Mouse_Button button);
     void End();
 
-    /// Moves the form one step in the direction of an arrow key; a `fine` step is one pixel. Returns false if
-    /// the form may not be moved or the key is not an arrow. End_Nudge stores the place.
+    /// Moves the form one step in the direction of an arrow key: one pixel if `fine` is set, otherwise ten.
+    /// Returns false if the form may not be moved or the key is not an arrow. End_Nudge stores the place.
     bool Nudge(int key, bool fine);
     void End_Nudge();
 
 private:
-    /// Where the drag began: the mouse in the title, and the form on the screen, in twips. Wider than the 16
-    /// bits that the settings store, so that the user can drag back a calendar from beyond them.
+    /// The beginning of a drag: the place of the mouse in the title, and of the form on the screen, in twips.
+    /// The coordinates are wider than the 16 bits that the settings store, so that the user can drag a
+    /// calendar back from beyond that range.
     struct Drag {
         Point mouse;
         Point form;

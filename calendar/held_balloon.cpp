@@ -34,15 +34,15 @@ void Held_Balloon::Hold(Point at, Callback<void()> show) {
     show_ = show;
     at_ = at;
     ++press_count_;
-    // A second press during the wait: the waiting call starts its wait again.
+    // If another call is already waiting, that call restarts its wait for this press.
     if (waiting_)
         return;
     waiting_ = true;
-    unsigned hold = 0;
+    unsigned press = 0;
     do {
-        hold = press_count_;
+        press = press_count_;
         TimeOut(hold_time);
-    } while (hold != press_count_ && !released_ && !ended_);
+    } while (press != press_count_ && !released_ && !ended_);
     waiting_ = false;
     if (!released_ && !ended_)
         Fire(show_);

@@ -1,5 +1,5 @@
 // The balloon that appears while a mouse button is held: the wait before it, the balloon, and the poll for a
-// missed release. The caller decides what it shows and where.
+// missed release. The caller decides about its contents and its place.
 #pragma once
 
 #include "base/callback.h"
@@ -15,17 +15,17 @@ public:
 
     bool Showing() const { return Window.Visible(); }
     bool Mouse_Released() const { return released_; }
-    /// Calls `show` if the button, which has just been pressed, is still held after a while. The balloon will
-    /// point to `at` (twips on the screen), wherever the mouse has moved. Does nothing if a balloon is up. A
-    /// press during the wait restarts it, with the `show` and `at` of that press.
+    /// Waits 300 ms after a press of the button, and calls `show` if the button is still held then. The
+    /// balloon will point to `at` (twips on the screen), wherever the mouse has moved. Does nothing if a
+    /// balloon is up. A press during the wait restarts the wait, with the `show` and `at` of that press.
     void Hold(Point at, Callback<void()> show);
-    /// Waits and dispatches messages. Ends early at midnight and when the program ends.
+    /// Dispatches messages for `milliseconds`. Returns early at midnight, and when the program ends.
     void TimeOut(int milliseconds);
     /// Shows a day's event at the point of the last Hold.
     void Show(const Date &date, std::string_view message);
-    /// The button was released: removes the balloon, or cancels the wait for it.
+    /// Ends the press of the button: removes the balloon, or cancels the wait for it.
     void Hide();
-    /// Ends this and every later wait, because the program ends.
+    /// Ends the current wait and every later one, because the program ends.
     void End() { ended_ = true; }
 
     frmBalloon Window;
@@ -35,7 +35,7 @@ public:
 private:
     Callback<void()> show_;    ///< from the last press
     Point at_;                 ///< from the last press
-    unsigned press_count_ = 0; ///< counts the presses
+    unsigned press_count_ = 0; ///< shows Hold that another press came during its wait
     bool released_ = true;
     bool waiting_ = false;
     bool ended_ = false;

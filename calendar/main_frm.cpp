@@ -15,7 +15,8 @@ using platform::Mouse_Button;
 
 namespace {
 
-/// Returns everything that the month shows of the regional settings, and measures of its font.
+/// Returns a text that changes whenever the regional settings that the month shows change, or the measures of
+/// its font.
 std::string Regional_Look() {
     std::string look = std::to_string(platform::First_Weekday());
     for (int month = 1; month <= 12; ++month)
@@ -69,7 +70,7 @@ void Main_Frm::Wire_Events() {
         Mark_Today();
     };
     Which_Month_Lbl.On_Default_Action = [this] { Which_Month_Lbl_DblClick(); };
-    // Shows no message: the shell destroys this window while the shell itself ends, and waits for it.
+    // Must not show a message box: the shell may be ending, and waits until this window is destroyed.
     On_Window_Lost = [this] {
         // No mouse release will come. Ends the drag, because a dragged calendar does not follow the shell.
         Hide_Balloon();
@@ -111,8 +112,8 @@ void Main_Frm::Wire_Box(Label &label, int index) {
 bool Main_Frm::Check_For_Multiple() {
     if (platform::Claim_Single_Instance("Vellatro"))
         return true;
-    // A successor process, which the user did not start, ends silently: the user may have started the program
-    // first.
+    // A successor that the program itself has started ends silently: the user may have started the program
+    // before it.
     if (platform::Restart_Count() == 0)
         platform::Message_Box("The program is already running!", platform::Box_Icon::Information);
     return false;
@@ -127,13 +128,14 @@ bool Main_Frm::Form_Load() {
         platform::Message_Box(error.what(), platform::Box_Icon::Stop);
         return false;
     }
-    // Run_Guarded reports a damaged pack, above all an unreadable picture. The calendar appears anyway.
+    // Run_Guarded reports a damaged pack, such as one with an unreadable picture. The calendar appears
+    // anyway.
     Run_Guarded([this] { Get_Wallpaper_Stuff(Cur_Settings.Pack_Name); });
     Which_Style(Effective_Style());
     const Date today = Select_Current_Month();
     Setup_Boxes(Cur_Month, Cur_Year);
     Set_Repos();
-    // Both must be set before Load_Dates, because an alert may stay open for hours.
+    // The date stamp and the broadcasts come before Load_Dates, because its alert may stay open for hours.
     date_stamp_ = Date_Stamp(today);
     Subscribe_To_Broadcasts();
     Load_Dates();
@@ -275,5 +277,5 @@ void Main_Frm::Renew_Layout() {
     Which_Style(Effective_Style());
     Redraw();
     if (Compacted)
-        TransparentForm(); // the title's size has changed
+        TransparentForm(); // the title's size may have changed
 }

@@ -1,7 +1,7 @@
 // The calendar window: reacts to the user, the time and the system, and shows the month (month_grid.h).
-// main_frm.cpp has its start and the date timer, focus.cpp the keyboard, and the other files are named for
-// their topic. The mark, the drag, the balloon, the place and the attachment to the desktop are objects of
-// their own.
+// main_frm.cpp has its start, the date timer and the broadcasts, focus.cpp the keyboard; the other files are
+// named for their topics. The mark, the drag, the balloon, the place and the attachment to the desktop are
+// objects of their own.
 #pragma once
 
 #include "base/callback.h"
@@ -32,23 +32,24 @@ public:
     /// Starts the program. Returns false if the program has to end at once, after a message to the user.
     bool Form_Load();
 
-    bool Alert_Done = false; ///< no further alert today
-    /// The timer entered compact mode. The next mouse move over the title leaves it and clears this flag.
+    bool Alert_Done = false; ///< no further alert follows today
+    /// The timer, not the user, entered compact mode. The next mouse move over the title leaves the mode and
+    /// clears this flag.
     bool Timer_Compacted = false;
-    std::int16_t Tooltip_Box = -1; ///< the day box of the last balloon
+    std::int16_t Tooltip_Box = -1; ///< index of the day box of the last balloon; -1: none yet
     Event_Store Events;
 
-    // The calendar reaches the event editor only through these. The owner of both windows sets them; empty:
-    // no editor.
+    // The calendar reaches the event editor only through these. The owner of both windows sets them. If they
+    // are empty, there is no editor.
     Callback<void(int index)> Open_Editor; ///< opens the editor for a day box
-    Callback<bool()> Offer_To_Save;        ///< offers to save unsaved text; false: the user cancels
+    Callback<bool()> Offer_To_Save;        ///< offers to save unsaved text; false: do not end
     Callback<void()> Save_Without_Asking;  ///< saves unsaved text if possible
     Callback<bool()> Editor_Visible;
     Callback<void(Form *modal)> Block_Editor; ///< calls Set_Blocked_By of the editor
 
     // The calendar reaches the settings dialog only through these.
     Callback<void()> Open_Settings;
-    Callback<void()> Close_Settings; ///< closes it at the end, whatever it shows
+    Callback<void()> Close_Settings; ///< closes the dialog when the program ends
     Callback<bool()> Settings_Visible;
     Callback<void()> On_Event_Saved; ///< the data file has changed
 
@@ -61,24 +62,25 @@ public:
     /// preview. Must not be null.
     const Settings *Shown_Settings = &Cur_Settings;
 
-    /// Updates style, title, shape, position, texts and colours after the settings were `before`, or after a
-    /// pack gave other values. If `where_dropped` is set, a window that was dragged from its position, or is
-    /// compact, stays where it is.
+    /// Updates style, title, shape, position, texts and colours after the settings have changed from
+    /// `before`, or after a pack has given other values. If `where_dropped` is set, a window that was dragged
+    /// from its position, or is compact, stays where it is.
     void Follow(const Settings &before, bool where_dropped = false);
 
     /// Lays out the month: the numbers, the hidden boxes, and the window's place and shape.
     void Setup_Boxes(std::int16_t month, std::int16_t year);
     /// Puts the events of the shown month into their boxes and alerts the user of today's event.
     void Load_Dates();
-    /// Takes one record into its box if it belongs to the shown month, and alerts the user if it is today's.
-    /// Throws Conversion_Error or another std::exception if the record is malformed.
+    /// Takes over one record: keeps its text for its box if the record belongs to the shown month, and alerts
+    /// the user if it is today's. Throws Conversion_Error or another std::exception if the record is
+    /// malformed.
     void Enter_Date(std::string_view record, const Date &today);
-    /// Shows the saved text of a day in its box, if the shown month has that day. If the month of another
-    /// year is shown, adds or removes a yearly event there.
+    /// Updates the shown month after `text` was saved as the event of a day. If the same month of another
+    /// year is shown, updates the day's box there, because the event may be, or may have been, a yearly one.
     void Show_Saved_Event(const Date &date, std::string_view text);
     /// Makes today's month the shown month, without drawing it. Returns today.
     Date Select_Current_Month();
-    /// Draws everything again after the shown month has changed.
+    /// Draws everything again after the shown month has changed; in compact mode, only the title.
     void Redraw();
 
     /// Moves the window to a position code (desktop/position.h). An invalid code leaves the window where it
@@ -90,22 +92,22 @@ public:
     /// changed; puts it back if something else has moved it.
     void RePosition();
     /// Puts the window into the shell's desktop, takes over the colours of the icon labels and shows the
-    /// splash window. Silently skips what the shell lacks.
+    /// splash window. Silently skips windows that the shell lacks.
     void No_ShowDesktop_and_IconColours();
     void Set_Icon_Colours(platform::Shell_Window list, Colour background, Colour text);
 
-    // Themes. The two steps throw the errors of the month's picture (themes/theme_pack.h), and
-    // Conversion_Error if the pack has a bad number.
+    // Themes. The first two throw Error if the month's picture cannot be shown, and Conversion_Error if the
+    // pack has a bad number.
 
-    /// If themes are in use: sets the pack's wallpaper for today's month, and takes the pack's box style and
-    /// position if the settings want them.
+    /// If themes are in use, sets the pack's wallpaper for today's month, and takes over the pack's box style
+    /// and position if the settings say so.
     void Get_Wallpaper_Stuff(const std::string &pack);
     /// Does what Get_Wallpaper_Stuff does, for any month and even if themes are not in use.
     void Preview_Wallpaper_Stuff(const std::string &pack, std::int16_t month);
     /// Returns the value text of a month, or Theme_Error after a message to the user. A missing pack turns
     /// themes off and removes the wallpaper.
     static std::string Get_Paper_Details(std::int16_t month, const std::string &pack);
-    /// The values of the last pack, if it had any.
+    /// The values of the last pack; empty: none, or not in use.
     std::optional<std::int16_t> Theme_BoxStyle;
     std::optional<std::int16_t> Theme_Pos;
     // The style and position in use.
@@ -129,8 +131,8 @@ public:
     // Popup menus. They open at `at` (twips on the form), or at the mouse if `at` is null.
     void Popup_Menu(int index, const Point *at = nullptr);
     void Popup_Months(const Point *at = nullptr);
-    /// Offers the years around the shown one, limited to first_year to last_year. In compact mode offers only
-    /// "Expand".
+    /// Offers the years around the shown one, within first_year to last_year, and the current month. In
+    /// compact mode offers only "Expand".
     void Popup_Years(const Point *at = nullptr);
     /// Deletes the event of a day box.
     void Clear_Box(int index);
@@ -149,7 +151,7 @@ public:
     void TimeOut(float seconds);
     void Balloon_Tooltip(int index, std::string_view message);
     void Hide_Balloon() { Balloon.Hide(); }
-    /// Allows compact mode again after a dialog has closed.
+    /// Starts the countdown to compact mode again after a dialog has closed.
     void Resume_Auto_Compact();
 
     Timer Dectect_Date_Timer{1000};
@@ -200,7 +202,7 @@ private:
     Form_Place place_{*this};
     Form_Drag drag_{*this, [this](const std::optional<Point> &from) { Save_Manual_Place(from); }};
     Day_Mark mark_{*this};
-    int pending_key_ = 0;    ///< pressed in this window, acts when it is released
+    int pending_key_ = 0;    ///< the key pressed in this window that acts on its release; 0: none
     bool stray_key_ = false; ///< the next key released here may have been pressed in another window
 };
 

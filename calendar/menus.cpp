@@ -31,7 +31,7 @@ void Main_Frm::Popup_Menu(int index, const Point *at) {
     if (!change.empty())
         items.push_back({undo_item, "Undo: " + change, Menu_Image::Undo, true, true});
     const int chosen = platform::Track_Popup_Menu(Model(), items, at);
-    // Clear and Edit do nothing if another day is in the box by now. Compact mode does not change the day.
+    // Clear and Edit do nothing if the box has another day by now. Compact mode does not change its day.
     const bool same_day = Date_Of_Box(index) == date;
     if (chosen == clear_item && same_day)
         Clear_Box(index);
@@ -46,7 +46,7 @@ void Main_Frm::Popup_Menu(int index, const Point *at) {
 }
 
 void Main_Frm::Clear_Box(int index) {
-    // Leaves the day of an open editor alone.
+    // Clears the day of the box, even if the editor is open for another day.
     const Date date = Date_Of_Box(index);
     // After a failed Load_Dates, an empty box may hide an event that the user has not seen.
     if (load_incomplete_ && Box_Lbl[index].Access().value.empty())

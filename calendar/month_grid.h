@@ -13,7 +13,7 @@
 
 class Month_Grid : public Form {
 public:
-    static constexpr int box_count = 37; ///< 6 unused boxes at most before day 1, and 31 days
+    static constexpr int box_count = 37; ///< at most 6 unused boxes before day 1, and 31 days
     static constexpr int days_a_week = 7;
 
     Month_Grid();
@@ -46,7 +46,7 @@ public:
     void Which_Style(std::int16_t style);
     /// Places the event texts in the boxes of a style, and measures the room before a "...".
     void DDD_Style(std::int16_t style);
-    /// Puts as much of `text` into the label as fits, wrapped at words. "..." replaces the rest.
+    /// Puts as much of `text` into the label as fits, wrapped between words. "..." replaces the rest.
     void DotDotDot(Label &label, std::string_view text);
     /// Drops characters from the end of DotDotDot_Lbl's caption until it is narrower than `label`.
     void Get_Line(const Label &label);
@@ -68,10 +68,10 @@ public:
     Label DotDotDot_Lbl{*this, "DotDotDot_Lbl"}; ///< never visible: measures texts
 
 protected:
-    /// Shows the text of a day in its box, in its tooltip and to assistive technology. An empty text means no
-    /// event.
+    /// Shows the text of a day in its box, in its tooltip if standard tooltips are on, and to assistive
+    /// technology. An empty text means no event.
     void Fill_Box(int index, std::string_view text);
-    /// Numbers the boxes of a month from the first day on, and names them for assistive technology.
+    /// Numbers the boxes of a month from the day `date` on, and names them for assistive technology.
     void Number_Boxes(Date date);
     void Describe_Heading();
     void Apply_Contrast();
@@ -83,5 +83,5 @@ private:
     bool high_contrast_ = false; ///< the window shows the high contrast colours
 };
 
-/// Returns a date as the user reads it: Tuesday 5th March 2002.
+/// Returns a date in words, such as "Tuesday 5th March 2002", with the user's names of days and months.
 std::string Full_Date(const Date &date);

@@ -43,7 +43,7 @@ void Main_Frm::Step_Year(int years) {
 
 void Main_Frm::Redraw() {
     Update_Title();
-    // In compact mode no box may appear. Leaving it lays out the month.
+    // In compact mode no box may appear. The month is laid out when the user leaves that mode.
     layout_outdated_ = Compacted;
     if (Compacted)
         return;
@@ -79,7 +79,8 @@ void Main_Frm::Change_Style(int step) {
 void Main_Frm::Show_Today_Event() {
     const Date today = Today();
     const Stored_Message message = Events.Get_Message(Date_Key(today));
-    // The user knows that the file cannot be read. Today may have an event, so do not show "No event.".
+    // A message has already said that the file cannot be read. Today may have an event, so "No event." could
+    // be wrong.
     if (message.incomplete && message.text.empty())
         return;
     platform::Message_Box(Today_Text(today, message.text.empty() ? "No event." : message.text),

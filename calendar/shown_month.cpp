@@ -38,8 +38,7 @@ void Main_Frm::Load_Dates() {
     Describe_First_Steps();
 }
 
-/// Describes the first steps to assistive technology, as the splash window shows them, while there is no data
-/// file.
+/// While there is no data file, gives assistive technology the first steps that the splash window shows.
 void Main_Frm::Describe_First_Steps() {
     const bool new_here = !platform::Path_Exists(Event_Store::Data_File());
     Set_Description(new_here ? Joined({First_Steps[0], " ", First_Steps[1]}) : std::string());
@@ -60,8 +59,8 @@ void Main_Frm::Enter_Date(std::string_view record, const Date &today) {
         throw Conversion_Error("a record without \"=\"");
     const Date date = Parse_Date_Key(parts.key);
     if ((date.year == every_year || date.year == Cur_Year) && date.month == Cur_Month) {
-        // Only stores the text: fitting it into its box takes longer than reading a hundred records, and only
-        // the last text of a day stays.
+        // Only stores the text. Fitting it into its box takes longer than reading a hundred records, and a
+        // later record of the same day replaces it.
         const int index = Start_Box(Cur_Month, Cur_Year) + date.day - 1;
         pending_texts_.at(static_cast<std::size_t>(index)) = parts.text;
     }

@@ -29,7 +29,7 @@ std::string Main_Frm::Get_Paper_Details(std::int16_t month, const std::string &p
         return Theme_Error;
     }
     tell(Joined({"Missing Theme ", pack, ". Themes will now be disabled."}));
-    // If the store refuses, the message comes again, but not before the next start.
+    // If the store refuses the change, the message appears again, but only at the next start.
     Cur_Settings.Use_Themes = 0;
     Store_Setting(&Settings::Use_Themes);
     Set_Word_Wallpaper("", "");
@@ -45,8 +45,8 @@ void Main_Frm::Preview_Wallpaper_Stuff(const std::string &pack, std::int16_t mon
     const std::string details = Get_Paper_Details(month, pack);
     if (details == Theme_Error)
         return;
-    // A missing or bad number leaves the user's own choice, not that of the previous month or pack. Reports
-    // the first one after everything else is applied.
+    // If a number is missing or bad, the user's own choice counts, not that of the previous month or pack.
+    // The first bad number is reported after everything else has been applied.
     std::string fault;
     const auto number = [&](const std::string &text, const char *what,
                             const char *meanwhile = "Your own is used.") -> std::optional<std::int16_t> {
@@ -73,13 +73,13 @@ void Main_Frm::Preview_Wallpaper_Stuff(const std::string &pack, std::int16_t mon
     std::string path;
     try {
         path = Get_Paper_Path(month, pack);
-    } catch (const Error &error) { // the error names the file
+    } catch (const Error &error) { // its text names the file
         throw Error(Joined(
             {Picture_Error_Text(month), "\r\n\r\n", error.what(), "\r\n\r\nThe desktop stays as it is."}));
     }
     if (path == Theme_Error)
         return;
-    // A bad number means stretched, as every number that is not a display mode does.
+    // A bad number means stretched, as any number that is not a display mode does.
     const std::optional<std::int16_t> mode =
         shown.Use_Other_Display_Mode
             ? shown.Other_Display_Mode

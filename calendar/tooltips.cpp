@@ -1,4 +1,4 @@
-// The balloon with the event of a day.
+// The press of a mouse button on a day box, and the balloon with the day's event.
 #include "calendar/main_frm.h"
 #include "core/settings.h"
 

@@ -1,4 +1,4 @@
-// The shell's windows, in the order in which the form finds them:
+// The shell's windows, and the functions that find them:
 //
 //     the desktop window                Find_Desktop_Window
 //     the view's holder                 Holder_Of: the desktop window, or one that covers it
@@ -14,13 +14,13 @@
 
 namespace {
 
-// Limits for the shell's answers, in milliseconds: long at the start, when the user waits for the calendar
-// anyway; short later, when a wait would make the calendar feel slow.
+// Time limits for the shell's answers, in milliseconds: long at the start, when the user waits for the
+// calendar anyway; short later, when a wait would make the calendar feel slow.
 constexpr unsigned first_patience = 1000;
 constexpr unsigned later_patience = 100;
 
-/// How long a shell may take to make its view, in milliseconds. At log-on the shell starts along with the
-/// calendar.
+/// The time that a shell may take to create its view, in milliseconds. At log-on the shell starts along with
+/// the calendar.
 constexpr unsigned longest_start = 120'000;
 
 } // namespace
@@ -38,7 +38,8 @@ void Desktop_Attachment::Await_Shell() {
 }
 
 void Desktop_Attachment::Follow() {
-    // A question to the shell lets messages in, which may call Follow again.
+    // While the form waits for an answer from the shell, Windows delivers messages that may call Follow
+    // again.
     if ((!waiting_ && holder_ == 0) || attaching_)
         return;
     const platform::Shell_Window desktop = platform::Find_Desktop_Window();
@@ -57,20 +58,20 @@ void Desktop_Attachment::Follow() {
 }
 
 bool Desktop_Attachment::Handle_Window_Lost() {
-    // If the holder is the desktop itself, the desktop is about to go as well: it destroys its children
-    // first.
+    // If the holder is the desktop window itself, that window is about to go as well: it destroys its
+    // children first.
     window_lost_ = waiting_ = std::exchange(holder_, 0) != std::exchange(desktop_, 0);
     wait_start_ = platform::Milliseconds();
     return window_lost_;
 }
 
-/// Returns whether the shell may still be making its windows.
+/// Returns whether the shell may still be creating its windows.
 bool Desktop_Attachment::Is_Early() const {
     return platform::Milliseconds() - wait_start_ < longest_start;
 }
 
-/// Looks for the view; each answer of the shell may take `patience` milliseconds. Returns whether the form
-/// has moved into another window.
+/// Looks for the view and moves the form into its holder. Waits at most `patience` milliseconds for each
+/// answer from the icon list. Returns whether the form has moved into another window.
 bool Desktop_Attachment::Try_Attach(platform::Shell_Window desktop, unsigned patience) {
     const Scoped_Value looking(attaching_, true);
     const platform::Shell_Window view = platform::Find_Shell_View(desktop);
@@ -84,8 +85,8 @@ bool Desktop_Attachment::Try_Attach(platform::Shell_Window desktop, unsigned pat
         platform::Keep_Over_View(form_.Model(), view);
         return false;
     }
-    // Without an answer the shell is hung or busy with its own start, and moving the form now might hang the
-    // calendar with it. Until the shell answers, the form keeps its place and colours.
+    // A shell that does not answer is hung or busy with its own start, and moving the form into it now might
+    // hang the calendar too. Until the shell answers, the form keeps its place and colours.
     const auto colours = platform::Icon_Label_Colours(list, patience);
     if (!colours)
         return false;

@@ -15,14 +15,14 @@ public:
     /// Makes Follow look for the desktop of a shell that has just started. Does nothing if the form is inside
     /// a desktop.
     void Await_Shell();
-    /// Moves the form into the window that holds the view now, above the view. The calendar calls this every
+    /// Moves the form into the window that now holds the view, above the view. The calendar calls this every
     /// second and whenever another window comes to the front. Does nothing before Attach or Await_Shell.
     void Follow();
-    /// Returns whether the form still has to go inside.
+    /// Returns whether the form still waits to go inside.
     bool Waiting() const { return waiting_; }
 
-    /// Takes note that the form's window is gone. Returns whether it was lost together with a window other
-    /// than the desktop; Follow then makes a new one.
+    /// Records that the form's window is gone. Returns whether it was lost with a holder other than the
+    /// desktop window; Follow then creates a new one.
     bool Handle_Window_Lost();
 
     /// Called before the form goes inside, with the icon list and the colours of its labels.
@@ -35,9 +35,9 @@ private:
     bool Is_Early() const;
 
     Form &form_;
-    platform::Shell_Window desktop_ = 0; ///< the desktop window that the form is in
+    platform::Shell_Window desktop_ = 0; ///< the desktop that the form is in
     platform::Shell_Window holder_ = 0;  ///< the view's holder, which the form is in; 0: the form is outside
-    unsigned wait_start_ = 0;            ///< the time of the last Enter, Await_Shell or Handle_Window_Lost
+    unsigned wait_start_ = 0;            ///< when the last wait began, in milliseconds
     bool waiting_ = false;
     bool window_lost_ = false; ///< the form has no window
     bool attaching_ = false;

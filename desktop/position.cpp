@@ -18,8 +18,8 @@ int Fit_Int32(std::int64_t value) {
     return static_cast<int>(value);
 }
 
-/// Returns one coordinate of a calendar that takes `taken` of the work area's `length`. Drops the fraction,
-/// even if the calendar is larger than the work area.
+/// Returns one coordinate of a calendar that occupies `taken` of the work area's `length`. Rounds the offset
+/// from `begin` towards zero, even if it is negative because the calendar is larger than the work area.
 int Coordinate(std::int64_t begin, std::int64_t length, std::int64_t taken, int hundredths) {
     const std::int64_t free = Fit_Int32(length - taken);
     return Fit_Int32(begin + free * hundredths / whole);

@@ -1,5 +1,5 @@
-// The positions of the calendar: their table, and the arithmetic that turns a code into a point in the work
-// area. Nothing here moves the window.
+// The positions of the calendar: their table, and the calculation of a point in the work area from a code.
+// Nothing here moves the window.
 #pragma once
 
 #include "base/geometry.h"
@@ -9,15 +9,15 @@
 #include <iterator>
 #include <optional>
 
-/// A position: its name, and the shares of the work area's free room to the left of the calendar and above
-/// it, in hundredths.
+/// A position: its name, and the percentages of the work area's free width and height that lie to the left of
+/// the calendar and above it.
 struct Position {
     const char *name;
     int left;
     int above;
 };
 
-/// The `left` and `above` of the manual position, which the user gives by coordinates.
+/// Stands for both percentages of the manual position, which has coordinates instead.
 constexpr int by_hand = -1;
 
 /// The index is the code that settings and theme packs store.
@@ -32,7 +32,7 @@ inline constexpr Position Positions[] = {
 constexpr auto Manual_Position =
     static_cast<std::int16_t>(std::ranges::find(Positions, by_hand, &Position::left) - std::begin(Positions));
 
-/// The input of a placement, in twips.
+/// The lengths from which Position_Of computes a place, in twips.
 struct Placement {
     Rect work_area;
     Size form;
@@ -51,12 +51,12 @@ constexpr bool Is_Place(std::int16_t code) {
     return Is_Position(code) && code != Manual_Position;
 }
 
-/// Returns the window's top left corner for a position code, nothing if the number is not a code. Throws
-/// Conversion_Error (core/convert.h) if a value leaves 32 bits.
+/// Returns the window's top left corner for a position code, in twips, or nothing if the number is not a
+/// code. Throws Conversion_Error (core/convert.h) if a value leaves 32 bits.
 std::optional<Point> Position_Of(std::int16_t code, const Placement &placement);
 
-/// Returns the top left corner at which the work area shows a window: its own corner if any part of the
-/// window is visible there, else the nearest one at which all of it is.
+/// Returns a top left corner at which the work area shows a window: the corner of `place` if any part of the
+/// window is visible there, otherwise the nearest corner at which the whole window is visible.
 Point Place_In_Sight(const Rect &place, const Rect &work_area);
 
 /// Returns the work area of the desktop, in twips or in pixels.

@@ -14,7 +14,7 @@ constexpr const char *Desktop_Key = "Control Panel\\Desktop";
 constexpr const char *kept_key = "Software\\Vellatro\\Preview";
 constexpr const char *unknown = "UNKNOWN";
 
-/// The system's values. The program's key uses the same names.
+/// The names of the system's values. The program's key uses the same names.
 constexpr std::pair<const char *, std::string User_Wallpaper::*> values[] = {
     {"TileWallpaper", &User_Wallpaper::tiled},
     {"WallpaperStyle", &User_Wallpaper::style},
@@ -79,7 +79,7 @@ void Save_User_Wallpaper(const User_Wallpaper &wallpaper, const std::string &pac
         for (const auto &[name, member] : values)
             platform::Write_User_Value(kept_key, name, wallpaper.*member);
         platform::Write_User_Value(kept_key, "Monitors", wallpaper.monitors);
-        // The pack comes last: it marks the kept wallpaper as complete.
+        // The pack comes last: it marks the stored wallpaper as complete.
         platform::Write_User_Value(kept_key, "Pack", pack);
     } catch (const std::exception &) {
         // The preview still restores the wallpaper, unless the program is killed.

@@ -15,10 +15,10 @@ using platform::Box_Answer;
 namespace {
 
 constexpr int text_width = 370 * 15;
-constexpr int text_room = 200; ///< characters visible at once, even the widest
+constexpr int text_room = 200; ///< characters visible at once, even if all are wide
 constexpr int text_frame = 8 * 15;
 constexpr int scroll_bar = 17 * 15;
-constexpr int title_bar = 40 * 15; ///< with the frame, estimated
+constexpr int title_bar = 40 * 15; ///< estimated height, with the frame
 
 } // namespace
 
@@ -38,13 +38,13 @@ Edit_Frm::Edit_Frm(Main_Frm &calendar) : Form(platform::Form_Kind::Dialog, "Edit
 
 void Edit_Frm::Edit_Box(int index) {
     const Date day = calendar_.Date_Of_Box(index);
-    // An open question of the editor must be answered first.
+    // The user must first answer an open message box of the editor.
     if (busy_ || day.day < 1 || day.day > DaysInMonth({day.year, day.month, 1}))
         return;
     if (!Confirm_Leave())
         return;
     day_ = day;
-    // An editor that is already open keeps its tick for the next day.
+    // An editor that is already open keeps its "Every year" tick for the next day.
     if (!Visible())
         Every_Year_Chk.Set_Checked(false);
     Fill();
@@ -68,7 +68,8 @@ void Edit_Frm::Fill() {
     Message_Txt.Set_Text(message.text);
 }
 
-/// Returns false if the editor stays on its day: the user cancelled, or the text was refused.
+/// Asks whether to save unsaved text. Returns false if the editor stays on its day: the user cancelled, or
+/// the text was refused or could not be saved.
 bool Edit_Frm::Confirm_Leave() {
     if (!Visible() || !Apply_Btn.Enabled())
         return true;
@@ -90,7 +91,8 @@ bool Edit_Frm::Offer_To_Save() {
         return false;
     if (!Confirm_Leave())
         return false;
-    // Unloads, so that the dropped text is not offered again if something else keeps the program from ending.
+    // Closes the editor, so that it does not ask about the discarded text again if something else keeps the
+    // program from ending.
     if (Visible() && Apply_Btn.Enabled())
         Form_Unload();
     return true;
@@ -101,7 +103,7 @@ void Edit_Frm::Save_Without_Asking() {
         Apply_Btn_Click();
 }
 
-/// Returns the user to the open editor.
+/// Brings the open editor to the front and gives its text box the focus.
 void Edit_Frm::Return_To_Editor() {
     Bring_To_Front();
     Set_Focus(Message_Txt);
@@ -130,13 +132,13 @@ bool Edit_Frm::Apply_Btn_Click() {
     return true;
 }
 
-/// Stores the text for the day. Returns false if that failed, after a message to the user.
+/// Stores the text as the day's event. Returns false, after a message to the user, if that fails.
 bool Edit_Frm::Save(const std::string &text) {
     Event_Store &events = calendar_.Events;
     const Undo_Log::Change change(events.Changes, Change_Name("Edit", day_));
     events.Load_File();
-    // Fill could not read the whole file, so the day may have an event that the user has not seen. Saving
-    // would replace it, even if the file can be read by now.
+    // If Fill could not read the whole file, the day may have an event that the user has not seen. Refuses to
+    // save even if the file can be read by now, because saving would replace that event.
     return load_incomplete_ ? Event_Store::Show_Save_Error()
                             : events.Check_For_Pre(Date_Key(day_), text, Every_Year_Chk.Checked());
 }
@@ -187,8 +189,8 @@ void Edit_Frm::Lay_Out() {
     Resize(2 * margin + text_width, rows.Top() + button_height + margin);
 }
 
-/// Places the editor below the box, or above it if it fits only there. The platform keeps the window on the
-/// screen.
+/// Places the editor below the box, or above the box if the editor fits only there. The platform keeps the
+/// window on the screen.
 void Edit_Frm::Place_Near(const Control &box) {
     const Rect area =
         platform::Work_Area_Around({Twips_To_Pixels(calendar_.Left() + box.Left() + box.Width() / 2),

@@ -13,11 +13,11 @@ public:
     explicit Edit_Frm(Main_Frm &calendar);
 
     /// Opens the editor for box `index` of the shown month. Does nothing if the box has no day. If the editor
-    /// is already open, asks for its unsaved text first and may stay on its day.
+    /// is already open, first asks whether to save its unsaved text, and may stay on its day.
     void Edit_Box(int index);
 
     /// Offers to save unsaved text, before the program or the session ends. Returns false if the user
-    /// cancels, if the text cannot be saved, or while an earlier question is still open.
+    /// cancels, if the text cannot be saved, or while an earlier message box is still open.
     bool Offer_To_Save();
 
     /// Saves unsaved text without a question and closes, for a session that cannot wait. Leaves a text with a
@@ -56,7 +56,7 @@ private:
     void Place_Near(const Control &box);
 
     Main_Frm &calendar_;
-    Date day_;                     ///< the edited day, which gives the record's key and the box
+    Date day_;                     ///< the edited day, which determines the record's key and the box
     bool load_incomplete_ = false; ///< the day may have an event that the editor could not read
     bool busy_ = false;            ///< a procedure that shows message boxes is running
 };

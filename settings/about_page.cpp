@@ -61,7 +61,7 @@ void About_Page::Lay_Out() {
     rows.Add(Name_Lbl);
     rows.Add(Version_Lbl, 2 * margin);
     rows.Add(Designed_Lbl, margin);
-    // Little wider than its text: a click beside the text does nothing.
+    // Only a little wider than its text, so that a click beside the text does nothing.
     const int width = platform::Text_Width(web_page, Link_Lbl.Font()) + 2 * link_margin;
     Link_Lbl.Move({(page_width - width) / 2, rows.Top(), width, Designed_Lbl.Height() + small_gap});
 }

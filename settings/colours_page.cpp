@@ -22,7 +22,7 @@ using platform::Mouse_Button;
 
 namespace {
 
-constexpr int first_menu_swatch = 4; ///< Back and Fore: the colours of the title and the headers
+constexpr int first_menu_swatch = 4; ///< index of Back; Back and Fore colour the title and the headers
 constexpr int big_step = 10;         ///< pixels by which an arrow key with Shift moves the cross-hair
 
 struct Rgb_Parts {
@@ -37,7 +37,7 @@ Rgb_Parts Parts_Of(Colour colour) {
     return {colour - blue * 65536 - green * 256, green, blue};
 }
 
-/// Returns one channel of the web text. Uneven on purpose: a zero pads a single digit, but not a single
+/// Returns one channel of the web text. Inconsistent on purpose: a zero pads a single digit, but not a single
 /// letter.
 std::string Web_Part(int part) {
     constexpr const char *digits = "0123456789ABCDEF";
@@ -51,7 +51,7 @@ std::string Web_Text(Colour colour) {
     return "#" + Web_Part(parts.red) + Web_Part(parts.green) + Web_Part(parts.blue);
 }
 
-/// Returns the three channels as numbers, each after its text.
+/// Returns the three channels as decimal numbers, each after its label.
 std::string Parts_Text(Colour colour, const char *red, const char *green, const char *blue) {
     const Rgb_Parts parts = Parts_Of(colour);
     return red + std::to_string(parts.red) + green + std::to_string(parts.green) + blue +
@@ -120,7 +120,7 @@ void Colours_Page::Wire_Palette() {
         Move_Cross(Pixel_At(at));
         ShowColors(Cross_Colour());
     };
-    // A click of the mouse, which has moved the cross-hair, or of the keyboard.
+    // Runs for a mouse click, which has already moved the cross-hair, and for the keyboard.
     Pal.On_Click = [this] {
         ShowColors(Cross_Colour());
         Pal_Click();
@@ -229,13 +229,13 @@ void Colours_Page::Pal_MouseMove(Mouse_Button held, Point at) {
         Move_Cross(Pixel_At(at));
         ShowGradient(Cross_Colour());
     }
-    // Does not nest: fast mouse moves would process messages without end. A message may destroy the page, so
-    // nothing of the page is used afterwards.
-    const std::shared_ptr<bool> pending = pending_;
-    if (std::exchange(*pending, true))
+    // Must not nest: fast mouse moves would process messages without end. A message may destroy the page, so
+    // the code after it uses only its own pointer.
+    const std::shared_ptr<bool> processing = processing_;
+    if (std::exchange(*processing, true))
         return;
     platform::Process_Waiting_Messages();
-    *pending = false;
+    *processing = false;
 }
 
 void Colours_Page::Key_Over_Palette(const platform::Input_Event &event) {
@@ -329,7 +329,7 @@ void Colours_Page::Recolour_Preview() {
 void Colours_Page::Paint_Swatch(int index, platform::Canvas &canvas) {
     const Picture_Box &picture = *swatches_[static_cast<std::size_t>(index)].picture;
     const Rect all{0, 0, picture.Width(), picture.Height()};
-    // Covers half of a colour that is not in use.
+    // Covers half of the swatch if its colour is not in use.
     if (!picture.Enabled())
         platform::Fill_Polygon(canvas, {{all.width, 0}, {all.width, all.height}, {0, all.height}},
                                face_colour);

@@ -21,14 +21,14 @@ public:
 
     /// Shows all six labels in regular weight.
     void Reset_Labels();
-    /// Shows a colour as numbers and by its name. Shows a system colour by its current value; the swatch
-    /// keeps the system colour.
+    /// Shows a colour as numbers and by its name, and hides the strip of ShowGradient. Shows a system colour
+    /// by its current value; the swatch keeps the system colour.
     void ShowColors(Colour colour);
-    /// Shows a strip beside the palette, from black over the colour to white. Also shows the colour as
-    /// ShowColors does, so that a release of the mouse picks the colour under it.
+    /// Shows a strip beside the palette, from black through the colour to white. Also shows the colour as
+    /// ShowColors does.
     void ShowGradient(Colour colour);
     void Pal_MouseMove(platform::Mouse_Button held, Point at);
-    /// Gives the colour shown last to the selected swatch.
+    /// Gives the colour that ShowColors showed last to the selected swatch.
     void Pal_Click();
     void Col_Sys_Opt_Click();
     void Col_Other_Opt_Click();
@@ -71,7 +71,7 @@ public:
     Label Preview_Caption1_Lbl{Preview_Fra, "Preview_Caption1_Lbl", "Event"};
 
 private:
-    /// One of the calendar's colours: the label and the picture that show it, and its setting.
+    /// One of the calendar's colours: the label that names it, the picture that shows it, and its setting.
     struct Swatch {
         Label *label;
         Picture_Box *picture;
@@ -104,8 +104,8 @@ private:
     std::array<Swatch, colour_count> swatches_;
     std::int16_t selector_ = 0; ///< index of the swatch that gets the picked colour
     Picture palette_;
-    Point cross_; ///< the pixel of the palette that the keyboard picks
+    Point cross_; ///< the pixel of the palette under the cross-hair
     Colour gradient_ = 0;
     /// Set while a mouse move processes messages. Shared, because the page may be destroyed meanwhile.
-    std::shared_ptr<bool> pending_ = std::make_shared<bool>(false);
+    std::shared_ptr<bool> processing_ = std::make_shared<bool>(false);
 };

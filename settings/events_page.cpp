@@ -1,4 +1,3 @@
-// The behaviour and the layout of the "Events" page.
 #include "settings/events_page.h"
 
 #include "platform/files.h"
@@ -14,8 +13,8 @@ using namespace layout;
 
 namespace {
 
-/// Shows in the frame's title whether its list or counts are incomplete. A message box would appear for every
-/// choice on the page, because each choice reads the file.
+/// Shows in the frame's title whether its list or counts are incomplete. A message box would appear again and
+/// again, because most clicks on the page read the file.
 void Title_Frame(Frame &frame, Read_Result result) {
     frame.Set_Caption(result == Read_Result::Incomplete ? "Error loading in data file." : "Events");
 }
@@ -76,7 +75,8 @@ Read_Result Events_Page::Load_Dates() {
 }
 
 void Events_Page::Write_Labels() {
-    // Seen from the events: today is before the future ones.
+    // The captions take the events' point of view: "Before Today" counts the future events, because today
+    // comes before them.
     Total_All_Lbl.Set_Caption("Total Events: " + std::to_string(statistics_.total));
     Total_Year_Lbl.Set_Caption("Events This Year: " + std::to_string(statistics_.this_year));
     Before_Lbl.Set_Caption("No. Before Today: " + std::to_string(statistics_.future));
@@ -152,7 +152,7 @@ void Events_Page::Sort_List(Read_Result result) {
 }
 
 void Events_Page::Events_Lst_Click() {
-    // Uses the date of the line's entry. The date in the line's text may have spaces and a two-digit year.
+    // Uses the date of the line's event. The date in the line's text may have spaces and a two-digit year.
     const int index = Events_Lst.Selected();
     Countdown_Lbl.Set_Caption(
         index == -1 ? std::string() : Countdown_Text(Dates_Lst[static_cast<std::size_t>(index)], Today()));
@@ -185,8 +185,8 @@ void Events_Page::Events_Lst_DblClick() {
         calendar_.Redraw();
 }
 
-/// Removes the line and its event from the list and from the data file, and no other event. Returns false if
-/// both still have it, after a message to the user.
+/// Removes one event from the list and from the data file. Returns false, after a message to the user, if
+/// that fails and both still have the event.
 bool Events_Page::Remove_Event(std::size_t line) {
     Event_Store &events = calendar_.Events;
     const Undo_Log::Change change(events.Changes, Change_Name("Remove", Dates_Lst[line].date));

@@ -19,16 +19,17 @@ public:
     void Write_Month_Titles();
     /// Counts the events. Without a data file, the labels stay as they are.
     void Get_Stats();
-    /// Shows the overview by ascending date, whatever was chosen before.
+    /// Shows the overview, sorted by ascending date, whatever the user chose before.
     void Open_Overview();
 
     /// Lists and counts the events of the data file again.
     void Reload();
 
-    /// Does what Reload does, for a change outside the page, but keeps a list of imported events.
+    /// Does what Reload does after a change outside the page, but keeps a list of imported events.
     void Refresh_From_File();
 
-    /// Lists these events in their order. The next choice on the page lists the data file again.
+    /// Lists these events in their order. The next click on the overview option or the sort box lists the
+    /// data file again.
     void Show_Imported(std::vector<Event> staged);
 
     void Overview_Opt_Click();

@@ -49,15 +49,15 @@ void General_Page::Get_Startup_Value() {
 }
 
 void General_Page::Show_Preview() {
-    // Uses the colours of the calendar's title.
+    // The preview has the colours of the calendar's title.
     Bar_Preview_Lbl.Set_Back_Colour(calendar_.Back_Colour());
     Bar_Preview_Lbl.Set_Fore_Colour(calendar_.Which_Month_Lbl.Fore_Colour());
     Bar_Preview_Lbl.Set_Caption(
         Title_Of_Today(Bar_Time_Chk.Checked(), Bar_Time_Cbo.Text(), Bar_Date_Cbo.Text(), platform::Now()));
 }
 
-void General_Page::Set_Page_Visible(bool watched) {
-    preview_timer_.Set_Enabled(watched);
+void General_Page::Set_Page_Visible(bool visible) {
+    preview_timer_.Set_Enabled(visible);
     Show_Preview();
 }
 

@@ -10,13 +10,13 @@ public:
     void Show(const Settings &settings) override;
     void Lay_Out() override;
 
-    /// Ticks the start-up box if the system has a start-up entry, even an empty one. Unticking the box leaves
-    /// an empty entry, so the box is ticked again at the next opening.
+    /// Ticks the start-up box if the system has a start-up entry, even an empty one. Saving an unticked box
+    /// leaves an empty entry, so the box is ticked again when the dialog next opens.
     void Get_Startup_Value();
     /// Shows the calendar's title as it would look now.
     void Show_Preview();
-    /// Makes the preview follow the time, or stops that. The dialog sets `watched` while the page is visible.
-    void Set_Page_Visible(bool watched);
+    /// Updates the preview, and makes it follow the time from now on if the page is `visible`.
+    void Set_Page_Visible(bool visible);
 
     Frame Title_Bar_Fra{frame_, "Title_Bar_Fra", "Title Bar"};
     Check_Box Bar_Time_Chk{Title_Bar_Fra, "Bar_Time_Chk", "&Time:"};

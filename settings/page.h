@@ -1,4 +1,4 @@
-// The base of the pages of the settings dialog, with the includes, colours, example boxes and procedures that
+// The base class of the settings dialog's pages, and the includes, colours, example boxes and procedures that
 // they share.
 #pragma once
 
@@ -15,10 +15,10 @@ namespace layout {
 
 constexpr int page_width = 5280;
 constexpr int page_height = 5400;
-constexpr int group_gap = 5 * 15; ///< between group boxes, which have room of their own at the top
+constexpr int group_gap = 5 * 15; ///< between group boxes, which include space at their top
 constexpr int inner_width = page_width - 2 * margin; ///< for a group box as wide as the page
 
-constexpr int backdrop = 6 * 15; ///< margin of desktop around example boxes
+constexpr int backdrop = 6 * 15; ///< width of the desktop's margin around example boxes
 
 } // namespace layout
 
@@ -37,7 +37,7 @@ public:
 
     /// Shows the settings in the controls.
     virtual void Show(const Settings &settings);
-    /// Puts the choices into the settings. A combo box without a selection leaves its setting unchanged.
+    /// Writes the choices into the settings. A combo box without a selection leaves its setting unchanged.
     virtual void Write_To(Settings &settings) const;
     /// Places the controls, also after a change of the DPI.
     virtual void Lay_Out() = 0;
@@ -46,8 +46,8 @@ protected:
     explicit Page(Frame &frame) : frame_(frame), dialog_(frame.Owner()) {}
     ~Page() = default;
 
-    /// A control that holds one setting directly: a check box a flag, an editable combo box a text, any other
-    /// combo box a number.
+    /// A control that holds one setting directly: a check box holds a flag, an editable combo box a text, any
+    /// other combo box a number.
     struct Choice {
         Control *control;
         Setting_Member setting;
@@ -58,7 +58,7 @@ protected:
     Form &dialog_;
 };
 
-/// Return rows as wide as a page, and as a group box on a page.
+/// Each returns empty rows: as wide as a page, or for the inside of a group box on a page.
 inline Rows Page_Rows() {
     return {0, 0, layout::page_width};
 }
@@ -70,7 +70,7 @@ inline Rows Group_Rows() {
 void Set_Access_Name(Control &control, const char *name);
 
 /// Returns a rectangle of the calendar's layout (pixels) in twips, moved so that the top left corner of
-/// `from` (pixels) comes to `left` and `top` (twips).
+/// `from` (pixels) would be at `left` and `top` (twips).
 Rect Translate_Rect(Rect pixels, const Rect &from, int left, int top);
 
 /// Sets the look of a box and of its text, and places them with the box at `left` and `top` (twips).

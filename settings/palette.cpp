@@ -10,7 +10,7 @@ namespace {
 constexpr int full = 255;
 constexpr int grey_part = 12; ///< the column of greys is one twelfth of the palette's width
 
-/// Returns one channel of a shade. `brightness` runs from 0 for black over 255 for `pure` to 510 for white.
+/// Returns one channel of a shade. A `brightness` of 0 means black, 255 `pure` and 510 white.
 int Shade(int pure, int brightness) {
     return brightness <= full ? pure * brightness / full
                               : full - (full - pure) * (2 * full - brightness) / full;

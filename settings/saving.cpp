@@ -1,4 +1,4 @@
-// Saves the choices of the pages into the settings, the store and the calendar. Unchanged choices are not
+// Saves the choices on the pages: changes Cur_Settings, the store and the calendar. Unchanged choices are not
 // written, except for the keys that always are.
 #include "core/settings.h"
 #include "platform/files.h"
@@ -10,7 +10,8 @@ namespace {
 
 enum class When { Always, Changed };
 
-/// Copies a shown setting into Cur_Settings and stores it. Returns whether it did.
+/// Copies a shown setting into Cur_Settings and stores it, unless it is unchanged and `when` is Changed.
+/// Returns whether it did.
 bool Save(const Settings &shown, Setting_Member member, When when = When::Changed) {
     if (when == When::Changed && !Differ(shown, Cur_Settings, member))
         return false;
@@ -57,7 +58,7 @@ void Settings_Frm::Save_General_Settings(const Settings &shown) {
     const std::string program = platform::Program_Folder() + "\\" + platform::Program_Name() + ".exe";
     platform::Registry_Write("HKLM", "Software\\Microsoft\\Windows\\CurrentVersion\\Run", "Vellatro", 'S',
                              General.Startup_Chk.Checked() ? program : std::string());
-    // Comes last, because it may alert the user of an event.
+    // Comes last, because Follow may alert the user of an event.
     if (other_tooltips)
         calendar_.Follow(before, true);
 }

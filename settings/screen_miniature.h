@@ -1,5 +1,5 @@
-// A small picture of the whole screen, with the calendar where it will be. The style page lets the user
-// choose the position.
+// A small picture of the whole screen, with the calendar where it will be. The user chooses the position on
+// it.
 #pragma once
 
 #include "base/geometry.h"
@@ -13,7 +13,7 @@ class Main_Frm;
 /// The contents of the miniature. Rectangles on the screen are in pixels, those on the miniature in twips.
 class Screen_Miniature {
 public:
-    /// Takes the current screen, work area and month.
+    /// Uses the screen's size, the work area and the calendar's month as they are now.
     explicit Screen_Miniature(const Main_Frm &calendar);
 
     /// Returns the largest size within `room` (twips) that has the screen's proportions.
@@ -23,15 +23,15 @@ public:
     /// on the screen.
     void Place_Calendar(std::int16_t style, std::int16_t position);
 
-    /// Returns the middle of the mark for a place (desktop/position.h) on a miniature of `size`.
+    /// Returns the middle of the mark for a fixed place (desktop/position.h) on a miniature of `size`.
     Point Mark(std::int16_t place, Size size) const;
 
     /// Returns the code of the place whose mark is nearest to a point, or -1 if there is none. With a `step`,
     /// considers only marks in that direction.
     std::int16_t Nearest_Place(Point to, Size size, Point step = {}) const;
 
-    /// Draws a miniature of `size`: `wallpaper` stretched over the screen, or the desktop's colour if it is
-    /// empty, with the task bar and the calendar.
+    /// Draws a miniature of `size`: `wallpaper` stretched over the screen, or the desktop's colour if
+    /// `wallpaper` is empty, with the task bar and the calendar.
     void Paint(platform::Canvas &canvas, const Picture &wallpaper, Size size) const;
 
 private:
@@ -44,7 +44,7 @@ private:
     Rect work_area_;
     int first_box_; ///< index of the box with day 1
     int last_box_;
-    int today_ = -1; ///< index of today's box; -1: not in this month
+    int today_ = -1; ///< index of today's box; -1: not in the shown month
     std::int16_t style_ = 0;
     Rect calendar_;
 };

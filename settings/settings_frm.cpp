@@ -1,4 +1,3 @@
-// The settings dialog: its opening, its tabs, its buttons and its closing.
 #include "settings/settings_frm.h"
 
 #include "base/scoped_value.h"
@@ -51,7 +50,7 @@ Settings_Frm::Settings_Frm(Main_Frm &calendar)
     Transfer.Import.On_Configuration_Partly_Changed = [this] { Load_Pages(); };
     On_Close = [this] { Form_Unload(); };
     On_Window_Lost = [this] { Form_Unload(); };
-    // The DPI changes the widths of the pages' texts a little.
+    // A different DPI changes the widths of the pages' texts a little.
     On_Dots_Changed = [this] {
         for (Page *page : pages_)
             page->Lay_Out();
@@ -105,8 +104,8 @@ void Settings_Frm::Load_Pages() {
         Run_Guarded(step);
 }
 
-/// Blocks the calendar and the editor, or unblocks them if `modal` is null. An event that changes there would
-/// leave the list and the counts of the pages out of date.
+/// Blocks the calendar and the editor, or unblocks them if `modal` is null. If an event could change there,
+/// the list and the counts on the pages would be out of date.
 void Settings_Frm::Block_Others(Form *modal) {
     calendar_.Set_Blocked_By(modal);
     if (calendar_.Block_Editor)
@@ -124,7 +123,7 @@ void Settings_Frm::Position_Frames() {
 }
 
 void Settings_Frm::Select_Stored_Tab() {
-    // An invalid number, which only another program can have stored, selects the first tab.
+    // An invalid number selects the first tab. Only another program can have stored one.
     const int tab = Cur_Settings.Settings_Tab;
     TabStrip1.Select(tab >= 1 && tab <= page_count ? tab - 1 : 0);
     TabStrip1_Click();
@@ -145,7 +144,7 @@ void Settings_Frm::TabStrip1_Click() {
     None_Vis();
     const int page = Which_Tab() - 1;
     Settings_Fra[page].Set_Visible(true);
-    // Apply may have changed the calendar's colours, and midnight the day.
+    // Apply may have changed the calendar's colours, and the day may have changed at midnight.
     Tooltips.Style_Examples();
     General.Set_Page_Visible(page == general_fra);
 }
@@ -160,7 +159,8 @@ void Settings_Frm::Cancel_Btn_Click() {
 }
 
 void Settings_Frm::Apply_Btn_Click() {
-    // At its end, a running preview would restore the theme's values from before this change.
+    // A running preview would undo this change at its end, because it restores the theme's values from
+    // before.
     Wallpaper.End_Preview();
     const Settings shown = Shown_Configuration();
     for (const auto save :

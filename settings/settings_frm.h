@@ -21,9 +21,9 @@
 #include <string>
 #include <string_view>
 
-/// Blocks the calendar and the editor while it is open. An object serves one opening, so that no state of a
-/// former opening survives. After it has closed, the object must live until its last event has returned
-/// (Busy).
+/// The dialog blocks the calendar and the editor while it is open. Each object is opened only once, so that
+/// no state survives into the next opening. After the dialog has closed, the object must live until its last
+/// event has returned (Busy).
 class Settings_Frm : public Form {
     Main_Frm &calendar_; // declared first: the pages need it
 
@@ -61,15 +61,15 @@ public:
     void Cancel_Btn_Click();
     void Apply_Btn_Click();
 
-    // Each stores some of the shown choices and updates the calendar. A store that refuses is not reported:
-    // the setting holds until the program ends.
+    // Each stores some of the shown choices and updates the calendar. If the store refuses a value, the user
+    // gets no message, and the value lasts until the program ends.
     void Save_Colours(const Settings &shown);
     void Save_General_Settings(const Settings &shown);
     void Save_Other_DM(const Settings &shown);
     void Save_Theme(const Settings &shown);
     void Save_Bar_Settings(const Settings &shown);
 
-    /// Returns the settings as the pages show them, with changes that are not applied yet.
+    /// Returns the settings as the pages show them, including changes that are not applied yet.
     Settings Shown_Configuration() const;
 
     Tab_Strip TabStrip1{*this, "TabStrip1"};

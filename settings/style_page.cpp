@@ -1,4 +1,3 @@
-// The behaviour and the layout of the "Style & Position" page.
 #include "settings/style_page.h"
 
 #include "calendar/box_layout.h"

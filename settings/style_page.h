@@ -9,7 +9,7 @@
 #include <cstdint>
 #include <optional>
 
-/// The parts of the calendar's look that a theme pack decides this month instead of the page.
+/// The parts of the calendar's look that this month's theme decides instead of the page.
 struct Theme_Look {
     bool rules_style = false; ///< true even if the pack has no style for the month
     bool rules_position = false;
@@ -46,10 +46,10 @@ public:
     Picture_Box Backdrop1_Pic{Style_Fra, "Backdrop1_Pic"};
     Picture_Box Backdrop2_Pic{Style_Fra, "Backdrop2_Pic"};
     Label Example1_Lbl{Style_Fra, "Example1_Lbl", " 12"};   ///< a box with its number in style 0
-    Label Example2_Lbl{Style_Fra, "Example2_Lbl", "Event"}; ///< the text in that box
+    Label Example2_Lbl{Style_Fra, "Example2_Lbl", "Event"}; ///< the event in that box
     Label Example3_Lbl{Style_Fra, "Example3_Lbl", " 12"};   ///< a box with its number in style 1
     Label Example4_Lbl{Style_Fra, "Example4_Lbl", "Event"};
-    Label Style_Theme_Lbl{Style_Fra, "Style_Theme_Lbl", theme_hint}; ///< says why the styles are disabled
+    Label Style_Theme_Lbl{Style_Fra, "Style_Theme_Lbl", theme_hint}; ///< explains why the styles are disabled
     Frame Position_Fra{frame_, "Position_Fra", "Position"};
     Option_Button Pos_Set_Opt{Position_Fra, "Pos_Set_Opt", "&Set position"};
     Label Pos_Hint_Lbl{Position_Fra, "Pos_Hint_Lbl"}; ///< how to choose a place, or theme_hint

@@ -12,10 +12,10 @@ public:
     void Write_To(Settings &settings) const override;
     void Lay_Out() override;
 
-    /// Shows today's box among the examples as the calendar draws it now.
+    /// Gives the example of today's box the current day and colours.
     void Style_Examples();
-    /// The mouse button was released or the capture lost: removes an example balloon, or cancels the wait for
-    /// it.
+    /// Removes an example balloon, or cancels the wait for it. Called when the mouse button is released, and
+    /// when the dialog loses the mouse capture or closes.
     void Release() { balloon_.Hide(); }
 
     Control_Array<Option_Button, 3> Tips_Opt{frame_, "Tips_Opt"};

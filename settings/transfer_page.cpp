@@ -1,4 +1,3 @@
-// The captions, the progress display and the layout of the "Import\Export" page.
 #include "settings/transfer_page.h"
 
 #include "platform/message_loop.h"

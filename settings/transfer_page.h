@@ -12,11 +12,11 @@ public:
     Transfer_Page(Frame &frame, Main_Frm &calendar);
     void Lay_Out() override;
 
-    /// Returns the configuration that the dialog shows, with changes that are not applied yet. The dialog
-    /// sets this, and the callbacks of `Import`.
+    /// Returns the configuration that the dialog shows, including changes that are not applied yet. The
+    /// dialog sets this, and the callbacks of `Import`.
     Callback<Settings()> Shown_Configuration;
 
-    void Export_Btn_Click(int index); ///< a number of Export_Kind
+    void Export_Btn_Click(int index); ///< the number of an Export_Kind
     void Import_Btn_Click(int index);
 
     Frame Export_Fra{frame_, "Export_Fra", "Export"};
@@ -41,5 +41,5 @@ private:
     void Show_Progress(int percent);
     void End_Progress();
 
-    Progress progress_; ///< of the exports
+    Progress progress_; ///< the progress of an export
 };

@@ -1,4 +1,3 @@
-// The behaviour and the layout of the "Wallpaper" page.
 #include "settings/wallpaper_page.h"
 
 #include "base/joined.h"
@@ -32,7 +31,7 @@ std::string Picture_File(const std::string &pack, int month) {
     return Pack_File(pack, std::to_string(month) + ".jpg");
 }
 
-/// Returns a space and the number's name, or only the space if the text is not a number.
+/// Returns a space and the name of a number, or only the space if the text is not a number.
 std::string Display_Name(const char *(*name)(std::int16_t), const std::string &number) {
     return std::string(" ") + name(Int16_Of(number).value_or(-1));
 }
@@ -115,7 +114,7 @@ void Wallpaper_Page::Show(const Settings &settings) {
 
 void Wallpaper_Page::Write_To(Settings &settings) const {
     Page::Write_To(settings);
-    // The pack of the settings stays if nothing is selected: the pack may be missing only for now.
+    // If nothing is selected, the settings keep their pack, which may be missing only for now.
     if (!Packs_Cbo.Text().empty())
         settings.Pack_Name = Packs_Cbo.Text();
 }
@@ -226,7 +225,8 @@ void Wallpaper_Page::Get_Theme_Pos() {
     Theme_Pos_Lbl.Set_Caption("Position:" + Display_Name(name, Get_Paper_Pos(details_)));
 }
 
-/// Updates the page after a message that the pack cannot be read. A deleted pack leaves the list.
+/// Updates the page after a message that the pack cannot be read. If the pack was deleted, it leaves the
+/// list.
 void Wallpaper_Page::Drop_Pack(const std::string &pack) {
     Get_Papers();
     if (!Same_Pack(pack, Cur_Settings.Pack_Name))
@@ -280,7 +280,8 @@ void Wallpaper_Page::Paint_Failure(platform::Canvas &canvas) const {
     }
 }
 
-/// Loads a pending picture. If that fails, leaves the picture empty and sets `failure`.
+/// Loads a pending picture, or copies it if the other one is the same. If that fails, leaves the picture
+/// empty and sets `failure`.
 void Wallpaper_Page::Load(Month_Picture &wanted) const {
     wanted.pending = false;
     for (const Month_Picture *other : {&shown_, &todays_}) {
@@ -307,14 +308,14 @@ void Wallpaper_Page::Load_Pictures() {
     const bool seen = dialog_.Visible() && platform::Is_Shown(dialog_.Model(), Theme_Preview_Img.State());
     if (shown_.pending && seen)
         Load(shown_);
-    // A failure is not reported here: this page reports it if it shows that month.
+    // A failure of today's picture is not shown now. The page shows it when its slider is on that month.
     if (todays_.pending && Theme_Use_Chk.Checked())
         Load(todays_);
     Show_Picture();
 }
 
-// On a first run both theme boxes are ticked. While themes are off they decide nothing, so the user can
-// choose style and position.
+// On a first run, "Use Theme Style" and "Use Theme Position" are ticked. While themes are off, these boxes
+// decide nothing, so that the user can choose style and position.
 Theme_Look Wallpaper_Page::Current_Look() const {
     Theme_Look look;
     if (!Theme_Use_Chk.Checked())
@@ -367,7 +368,7 @@ void Wallpaper_Page::Other_Display_Chk_Click() {
 void Wallpaper_Page::Preview_Btn_Click() {
     if (Packs_Cbo.Text().empty())
         return;
-    // A disabled control would keep the keyboard, and Esc with it, to itself.
+    // A disabled control that had the focus would keep it, and Esc would not reach the dialog.
     dialog_.Set_Focus(Theme_Style_Chk);
     Enable_Choices(false);
     Preview_Lbl.Set_Visible(true);

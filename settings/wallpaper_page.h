@@ -31,18 +31,18 @@ public:
 
     /// Ends a running preview and restores everything. Returns whether a preview was running.
     bool End_Preview();
-    /// Returns the calendar's look with the selected pack this month, as far as the choices use it.
+    /// Returns the look that the selected pack gives the calendar this month, as far as the choices use it.
     Theme_Look Current_Look() const;
 
     void Packs_Cbo_Click();
-    /// Refuses a selected pack if one of its files is missing: shows a message and selects the pack of the
-    /// settings.
+    /// Refuses the selected pack if one of its files is missing: shows a message and selects the pack of the
+    /// settings, or none if that pack is missing.
     void Check_Vaild();
     void Preview_Sli_Change();
     void Preview_Sli_Scroll();
-    /// Requests two pictures: that of the slider's month, for when this page is visible, and that of today's
-    /// month, for when the miniature screen of the style page needs it. If the first one cannot be loaded,
-    /// its frame shows the reason.
+    /// Requests two pictures: the one of the slider's month loads when this page is visible, the one of
+    /// today's month when the style page's miniature screen needs it. If the first one cannot be loaded, its
+    /// frame shows the reason.
     void Get_Theme_Picture();
     void Get_Theme_Display();
     void Get_Theme_Style();
@@ -79,7 +79,7 @@ private:
     void Enable_Choices(bool enabled);
     void Show_Month_Name();
     void Clear_Details();
-    /// A pack's picture of a month, reduced to the needed size. Loaded only when needed.
+    /// A pack's picture of a month, reduced to the size of its frame. Loads only when it is needed.
     struct Month_Picture {
         std::string path; ///< empty: no picture
         bool pending = false;
@@ -98,7 +98,7 @@ private:
 
     Style_Page &style_page_;
     std::string details_;        ///< the value text of the selected pack and month
-    std::string todays_details_; ///< the value text of today's month
+    std::string todays_details_; ///< the selected pack's value text of today's month
     Month_Picture shown_;
     Month_Picture todays_;
     Timer Load_Timer{1}; ///< fires once, after the screen has been painted

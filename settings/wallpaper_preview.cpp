@@ -12,8 +12,9 @@
 namespace {
 
 constexpr std::int16_t last_month = 12;
+
 /// Deletes the bitmaps that the preview left in the pack. If the wallpaper `path` is one of them, in any
-/// letter case, makes it again.
+/// letter case, makes that bitmap again.
 void Delete_Other_Bitmaps(const std::string &path, const std::string &pack) {
     Delete_Old_Bmps(pack);
     for (std::int16_t month = 1; month <= last_month; ++month)
@@ -22,7 +23,7 @@ void Delete_Other_Bitmaps(const std::string &path, const std::string &pack) {
 }
 
 void Restore_Desktop(User_Wallpaper wallpaper, const std::string &pack) {
-    // The path stays empty if the preview deleted the bitmap and it cannot be made again.
+    // The path stays empty if the bitmap has been deleted and cannot be made again.
     Run_Guarded([&] {
         const std::string path = std::exchange(wallpaper.path, std::string());
         Delete_Other_Bitmaps(path, pack);
@@ -56,7 +57,7 @@ void Wallpaper_Preview::Begin(const std::string &pack, const Settings &choices) 
 }
 
 void Wallpaper_Preview::Show_Month() {
-    // No other month may follow while a message of this one is open.
+    // The next month must not follow while a message about this one is open.
     Month_Timer.Set_Enabled(false);
     try {
         calendar_.Which_Month_Lbl.Set_Caption("Preview Mode - " + platform::Month_Name(month_));
@@ -70,7 +71,7 @@ void Wallpaper_Preview::Show_Month() {
         End();
         throw;
     }
-    // A message box lets the user end the preview or the program.
+    // While a message box was open, the user may have ended the preview or the program.
     if (Running())
         Month_Timer.Set_Enabled(true);
 }

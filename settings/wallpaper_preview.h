@@ -10,8 +10,8 @@
 #include <optional>
 #include <string>
 
-/// Shows each month for 3 seconds, then restores what was there before. The program goes on as usual between
-/// the months.
+/// Shows each month for 3 seconds, then restores the wallpaper and the calendar from before. Between the
+/// months, the program runs as usual.
 class Wallpaper_Preview {
 public:
     /// `calendar` must outlive the preview.
@@ -23,12 +23,14 @@ public:
 
     bool Running() const { return before_.has_value(); }
     /// Begins with January. Until the preview ends, the calendar uses the style, the position and the theme
-    /// options of `choices`. Throws the errors of the first month's picture; the preview has then ended.
+    /// options of `choices`. Throws the errors of Main_Frm::Preview_Wallpaper_Stuff for the first month; the
+    /// preview has then ended.
     void Begin(const std::string &pack, const Settings &choices);
     /// Restores the settings, the wallpaper and the calendar at once. Does nothing if no preview is running.
     void End() noexcept;
 
-    /// Restores the wallpaper from before a preview that was killed, unless themes are in use.
+    /// If the program was killed during a preview, restores the wallpaper from before it, unless themes are
+    /// in use.
     static void Recover();
 
     /// Called when the preview has ended and everything is restored. `pack_failed`: the pack could not be
@@ -36,7 +38,7 @@ public:
     Handler<bool> On_End;
 
 private:
-    /// The values that the preview changes.
+    /// The values from before the preview, which its end restores.
     struct Before {
         std::string caption;
         std::optional<std::int16_t> theme_style;

@@ -22,7 +22,7 @@ bool Is_Device(std::string_view name) {
     std::string base = To_Upper(name.substr(0, name.find('.')));
     base.erase(base.find_last_not_of(' ') + 1);
     if (base.starts_with("COM") || base.starts_with("LPT")) {
-        // Superscript digits count as well.
+        // Windows also counts the superscript digits 1 to 3.
         constexpr std::array<std::string_view, 13> numbers{
             "0", "1", "2", "3", "4", "5", "6", "7", "8", "9", "\xC2\xB9", "\xC2\xB2", "\xC2\xB3"};
         return std::find(numbers.begin(), numbers.end(), std::string_view(base).substr(3)) != numbers.end();
@@ -89,7 +89,7 @@ std::variant<std::string, Pack_Fault> Find_Paper_Details(std::int16_t month, con
         if (platform::File_Exists(path))
             return Month_Details(platform::Read_File(path), month);
     } catch (const platform::File_Error &) {
-        // An unreadable file is the same fault as a missing one.
+        // An unreadable or malformed file is the same fault as a missing one.
     } catch (const Sequential_Error &) {
     }
     return Pack_Fault::Unreadable;

@@ -9,11 +9,11 @@
 #include <variant>
 #include <vector>
 
-/// The text that replaces a value if its lookup fails.
+/// The text that a failed lookup returns instead of a value.
 inline constexpr const char *Theme_Error = "ERROR";
 
-/// Returns whether a text can be a pack's name: the plain name of a folder, which cannot lead to another
-/// place.
+/// Returns whether a text can be a pack's name: a plain folder name that cannot lead outside the program's
+/// folder.
 bool Is_Pack_Name(std::string_view name);
 
 /// Returns whether two names mean the same pack. Folder names ignore case.
@@ -26,28 +26,30 @@ std::vector<std::string> Find_Packs();
 std::string Pack_File(const std::string &pack, const std::string &name);
 
 /// Returns the value text of a month ("2-4-1") from the bytes of a settings.ini: the last one if there are
-/// several, empty if there is none. Throws Sequential_Error.
+/// several, or an empty text if there is none. The first item without "=" ends the search. Throws
+/// Sequential_Error if the bytes are malformed.
 std::string Month_Details(std::string_view bytes, std::int16_t month);
 
 /// Why a pack has no value texts: its folder is missing, or its settings.ini is missing or cannot be read.
 enum class Pack_Fault { Missing, Unreadable };
 
-/// Returns the value text of a month in a pack, empty if there is none, or the fault.
+/// Returns the value text of a month in a pack, an empty text if the pack has none for the month, or the
+/// fault.
 std::variant<std::string, Pack_Fault> Find_Paper_Details(std::int16_t month, const std::string &pack);
 
-/// Return the parts of a value text: before its first "-", between the first and the second "-", and after
-/// the second. A missing part is empty.
+/// Each returns one part of a value text: the text before its first "-", between the first and the second
+/// "-", or after the second. A missing part is empty.
 std::string Get_Paper_BoxStyle(std::string_view details);
 std::string Get_Paper_Pos(std::string_view details);
 std::string Get_Paper_DisplayMode(std::string_view details);
 
-/// Returns the path of a month's bitmap. If the bitmap is missing, deletes the pack's other bitmaps and makes
-/// it from the month's picture. Returns Theme_Error if `pack` is not a pack name. Throws
-/// platform::Picture_Error if the picture cannot be loaded, platform::File_Error if the bitmap cannot be
+/// Returns the path of a month's bitmap. If the bitmap is missing, deletes the pack's other bitmaps and
+/// creates this one from the month's picture. Returns Theme_Error if `pack` is not a pack name. Throws
+/// platform::Picture_Error if the picture cannot be loaded, and platform::File_Error if the bitmap cannot be
 /// saved.
 std::string Get_Paper_Path(std::int16_t month, const std::string &pack);
 
-/// Returns the sentence that a month's wallpaper cannot be shown. The caller appends the reason.
+/// Returns the sentence that says that a month's wallpaper cannot be shown. The caller appends the reason.
 std::string Picture_Error_Text(std::int16_t month);
 
 /// Deletes the bitmaps of a pack. Skips those that cannot be deleted.

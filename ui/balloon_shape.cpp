@@ -9,7 +9,7 @@ namespace {
 constexpr int radius = 150;
 constexpr int tail_half_width = 120;
 
-// The extent of the mouse arrow to the right of its tip and below it.
+// The extent of the mouse pointer's arrow to the right of its tip and below the tip.
 constexpr int arrow_width = 180;
 constexpr int arrow_height = 300;
 
@@ -24,7 +24,7 @@ Point Tip_Of(Balloon_Side side, Point pointer) {
     }
 }
 
-/// Returns the room for a body on a side, between the tail and the edge of the work area.
+/// Returns the room for a body on one side of the pointer, from the tail to the edge of the work area.
 int Room_On_Side(Balloon_Side side, Point pointer, const Rect &work) {
     const Point tip = Tip_Of(side, pointer);
     switch (side) {
@@ -40,8 +40,8 @@ int Room_On_Side(Balloon_Side side, Point pointer, const Rect &work) {
     return tip.x - tail_length - work.left;
 }
 
-/// Returns `begin`, moved so that the length lies in the range. A length that is too long begins at the
-/// range's beginning.
+/// Returns the beginning of a span of `length`, moved from `begin` into the range. A span longer than the
+/// range begins where the range does.
 int Shift_Into_Range(int begin, int length, int range_begin, int range_end) {
     return std::max(range_begin, std::min(begin, range_end - length));
 }
@@ -73,7 +73,8 @@ Balloon_Place Place_Balloon(Point pointer, const Rect &work, Size size) {
             place.side = side;
     }
     place.tip = Tip_Of(place.side, pointer);
-    // The tail starts in the first quarter of a side, as far as the edges of the work area allow.
+    // The tail leaves the body a quarter of the way along its side, unless an edge of the work area shifts
+    // the body.
     Point corner{place.tip.x - size.width / 4, place.tip.y - size.height / 4};
     if (place.side == Balloon_Side::Above)
         corner.y = place.tip.y - tail_length - size.height;
@@ -98,7 +99,7 @@ Rect Window_Of(const Balloon_Place &place) {
 std::vector<Point> Balloon_Outline(const Balloon_Place &place) {
     const Rect &body = place.body;
     const Point tip = place.tip;
-    // Keep the foot of the tail off the round corners.
+    // Keeps the foot of the tail off the round corners.
     constexpr int clear = radius + tail_half_width;
     const int foot_x =
         std::clamp(tip.x, body.left + clear, std::max(body.Right() - clear, body.left + clear));

@@ -11,19 +11,19 @@ enum class Balloon_Side { Above, Below, Right, Left };
 struct Balloon_Place {
     Balloon_Side side = Balloon_Side::Above;
     Rect body; ///< on the screen; entirely within the work area if it fits
-    Point tip; ///< of the tail, on the screen
+    Point tip; ///< the tip of the tail, on the screen
 };
 
-/// From the body to the tip.
+/// The distance from the body to the tip of the tail.
 constexpr int tail_length = 240;
 
-/// Places a body of this size above the pointer if there is room, otherwise below, right or left of it. If
-/// there is no room on any side, the body covers the pointer.
+/// Returns the place of a body of this size: above the pointer if there is room, otherwise below, to the
+/// right or to the left of it. If there is no room on any side, the body may cover the pointer.
 Balloon_Place Place_Balloon(Point pointer, const Rect &work, Size size);
 
-/// Returns the smallest rectangle that contains body and tip.
+/// Returns the smallest rectangle that contains the body and the tip.
 Rect Window_Of(const Balloon_Place &place);
 
-/// Returns the outline of body and tail, clockwise, in the coordinates of `place`. A body that covers the
-/// pointer has no tail.
+/// Returns the outline of the body and its tail, clockwise, in the coordinates of `place`. A body that covers
+/// the tip has no tail.
 std::vector<Point> Balloon_Outline(const Balloon_Place &place);

@@ -31,18 +31,19 @@ public:
     /// The chosen path; with the flag for several files, the system's unparsed answer. The dialogs always
     /// open with an empty name.
     std::string FileName;
-    std::string FileTitle;          ///< name of the chosen file without its folder
+    std::string FileTitle;          ///< the chosen file's name without its folder
     std::int16_t MaxFileSize = 260; ///< capacity of FileTitle in characters, with its terminator
     std::int32_t Flags = 0;         ///< the system's option bits, before and after a dialog
 
-    /// Show a dialog and store the choice in FileName, FileTitle, FilterIndex and Flags. If the user cancels,
-    /// these stay as they are; throw Dialog_Cancelled then if CancelError is set.
+    /// Each shows a dialog and stores the result in FileName, FilterIndex and Flags; for a single file, also
+    /// in FileTitle. If there is a Filter, a FilterIndex of 0 becomes 1. If the user cancels, nothing else
+    /// changes, and Dialog_Cancelled is thrown if CancelError is set.
     void ShowOpen();
     void ShowSave();
 
-    /// Splits FileName into its folder and file names. If FileName holds several names, appends them to
-    /// `names`, adds their number to `count`, and sets `folder` only if it is empty. Throws Conversion_Error
-    /// if `count` does not fit.
+    /// Splits FileName into its folder and file names. A single name replaces all three values. Several names
+    /// are appended to `names`, their number is added to `count`, and `folder` changes only if it is empty.
+    /// Throws Conversion_Error if `count` does not fit.
     void ParseMultiFileName(std::string &folder, std::vector<std::string> &names, std::int16_t &count) const;
 
 private:

@@ -1,4 +1,4 @@
-// The splash window, which briefly shows after the start where on the desktop the calendar has appeared.
+// The splash window, which appears briefly after the start and shows where the calendar is on the desktop.
 #pragma once
 
 #include "toolkit/control_array.h"
@@ -17,11 +17,11 @@ public:
 
     /// Shows the window over the calendar, in front of all windows, without taking the focus. It closes by
     /// itself after 1500 ms. `calendar` is the calendar's place on the screen and `box_36_top` the upper edge
-    /// of its last day box, in twips. If the user is `new_here`, shows the first steps.
+    /// of its last day box, in twips. If `new_here` is set, shows the first steps.
     void Show_Over(const Rect &calendar, int box_36_top, bool new_here);
 
     Label Frame_Lbl{*this, "Frame_Lbl"};
-    Control_Array<Label, 2> Ring_Lbl{*this, "Ring_Lbl"}; ///< hold the calendar leaf
+    Control_Array<Label, 2> Ring_Lbl{*this, "Ring_Lbl"}; ///< the rings of the calendar leaf
     Label Weekday_Lbl{*this, "Weekday_Lbl"};             ///< head of the leaf
     Label Day_Lbl{*this, "Day_Lbl"};                     ///< body of the leaf
     Label Name_Lbl{*this, "Name_Lbl"};

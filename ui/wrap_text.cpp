@@ -1,4 +1,3 @@
-// Line breaking: each line takes as much of the remaining text as fits.
 #include "ui/wrap_text.h"
 
 #include "base/cut_text.h"
@@ -8,10 +7,10 @@
 
 namespace {
 
-/// No screen shows more bytes than this.
+/// The maximum number of bytes that are laid out. No screen shows more.
 constexpr std::size_t longest_text = std::size_t{16} * 1024;
 
-/// The maximum bytes in a line, so that a long word is not measured in full again and again.
+/// The maximum number of bytes in a line. Without it, a long word would be measured in full again and again.
 constexpr std::size_t longest_line = 512;
 
 class Line_Breaker {
