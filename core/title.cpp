@@ -207,7 +207,7 @@ std::string Bar_Date_Text(bool show_time, const std::string &time_format, const 
     std::string title = Title_Of_Today(show_time, time_format, date_format, now);
     const auto &formats = Bar_Date_Formats();
     if (std::find(formats.begin(), formats.end(), date_format) == formats.end()) {
-        // Set the variable first: a store that refuses is then tried once, not at every title.
+        // Set the variable first, so that a store that refuses is tried once, not at every title.
         Cur_Settings.Bar_Date_Format = weekday_form;
         Store_Setting(&Settings::Bar_Date_Format);
     }
