@@ -1,5 +1,5 @@
-// This file converts between clocks. A local time counts as written, whatever its zone. A UTC time is shown
-// by the user's clock, but repeats and compares in UTC.
+// The conversions between clocks are here. A local time counts as written, whatever its zone. A UTC time is
+// shown by the user's clock, but repeats and compares in UTC.
 #include "transfer/event_days.h"
 
 #include "base/joined.h"
@@ -10,8 +10,8 @@
 
 namespace {
 
-constexpr std::int64_t most_days = 366;          ///< of one event
-constexpr std::size_t most_repeated_days = 1000; ///< of one repeating event
+constexpr std::int64_t most_days = 366;          ///< of one occurrence
+constexpr std::size_t most_repeated_days = 1000; ///< of all occurrences of one event
 constexpr std::int64_t half_a_day = seconds_a_day / 2;
 
 /// Returns the user's local time, in seconds, at a UTC time.
@@ -37,7 +37,7 @@ bool Earlier(const Moment &a, const Moment &b) {
     return Sort_Key(a) < Sort_Key(b);
 }
 
-/// Returns whether `sorted` has a moment of the same kind as `least`, from its time up to `most`.
+/// Returns whether `sorted` has a moment of the kind of `least`, between its time and `most`, both included.
 bool Has(const Moments &sorted, const Moment &least, std::int64_t most) {
     const auto found = std::lower_bound(sorted.begin(), sorted.end(), least, Earlier);
     return found != sorted.end() && !Earlier({most, least.timed, least.utc}, *found);
@@ -52,7 +52,7 @@ public:
 private:
     struct Replacements {
         Moments moments;
-        bool of_repeated = false; ///< the file also has the repeating event that they belong to
+        bool of_repeated = false; ///< the file also has the repeating event whose repetitions they replace
     };
 
     std::int64_t Ahead(std::int64_t utc) const;
@@ -129,8 +129,8 @@ std::int64_t Day_Finder::In_Clock_Of_Start(const Moment &moment) const {
 }
 
 /// Returns whether a repetition is one of the moments. A date stands for its whole day. A moment by another
-/// clock than the start's matches the nearest repetition, because the clock changes of its zone are unknown
-/// here.
+/// clock than the start's matches a repetition less than half a day away, because the clock changes of its
+/// zone are unknown here.
 bool Day_Finder::Is_In(const Moments &moments, std::int64_t moment) const {
     if (moments.empty())
         return false;
@@ -149,7 +149,8 @@ bool Day_Finder::Is_Removed(std::int64_t moment) const {
            (own_replacements_ != nullptr && Is_In(own_replacements_->moments, moment));
 }
 
-/// Collects the repetitions of the event. Returns false if one of its rules is not supported.
+/// Sets `yearly_` for a plain yearly event, and otherwise fills `repetitions_`. Returns false if one of the
+/// event's rules is not supported.
 bool Day_Finder::Find_Repetitions() {
     repetitions_.clear();
     if (event_->unsupported)

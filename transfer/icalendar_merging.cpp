@@ -84,12 +84,12 @@ private:
     bool any_yearly_ = false;
 };
 
-/// The texts that were merged into yearly records, by day and month.
+/// The events that were merged into yearly records, by day and month.
 using Taken_Events = std::unordered_map<std::string, std::vector<Event>>;
 
-/// A day shows only its last record. So each record of a single date also gets the texts that were merged
-/// into a yearly record for that date, and new yearly records, those from `first_new` on, move to the front
-/// if they would hide such a record.
+/// Keeps all texts of a day visible, although a day shows only its last record. Adds to each record of a
+/// single date the texts that were merged into a yearly record for that date. Moves each new yearly record
+/// (index `first_new` or later) to the front if it would hide such a record.
 void Uncover_Days(std::vector<std::string> &records, std::size_t first_new, const Taken_Events &taken) {
     std::unordered_set<std::string> of_both_kinds;
     Event_Record parts;

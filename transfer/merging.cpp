@@ -9,7 +9,7 @@
 
 namespace {
 
-/// Removes the event's text and an adjacent joint from `record`. Returns false if the text is not at its
+/// Removes the event's text and an adjacent separator from `record`. Returns false if the text is not at its
 /// place.
 bool Part_From(std::string &record, const Event &event) {
     std::size_t begin = event.key.size() + 1 + event.place;
@@ -71,7 +71,7 @@ bool Unmerge(std::vector<std::string> &records, std::vector<Event> &staged, std:
     });
     if (event.key.empty() || record == records.end() || !Part_From(*record, event))
         return false;
-    // The texts after it move forward.
+    // The texts after the removed one move forward.
     for (Event &other : staged)
         if (other.key == event.key && other.place > event.place)
             other.place -= event.text.size() + text_separator.size();

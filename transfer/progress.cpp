@@ -4,9 +4,9 @@
 
 namespace {
 
-constexpr unsigned first_wait = 1000;
+constexpr unsigned first_wait = 1000; ///< in milliseconds
 constexpr unsigned next_wait = 500;
-constexpr unsigned steps_a_look = 64; ///< reading the clock takes longer than a step
+constexpr unsigned steps_a_look = 64; ///< between looks at the clock, each of which takes longer than a step
 
 } // namespace
 
