@@ -113,7 +113,7 @@ inline void Answers::Agree(const std::string &question) {
     const auto begins = [&question](const char *text) { return question.starts_with(text); };
     if (begins("Save changes for the ") && editor_ && editor_->text.find('"') == std::string::npos) {
         const Model_Editor from = *editor_;
-        saved_ = true; // and the editor closes, so that the next one starts without its tick
+        saved_ = true; // the editor closes now, so the next one does not keep the state of "every year"
         pending_.push_back({[from](const Model &model) {
                                 return from.blind ? Outcomes{}
                                                   : After_Save(model, from.day, from.text, from.yearly);

@@ -148,7 +148,7 @@ struct Outcome {
     std::size_t undone = 0; ///< steps of Undo that this reverts
 };
 
-/// Empty: the action cannot succeed.
+/// The possible outcomes of an action. If empty, the action cannot succeed.
 using Outcomes = std::vector<Outcome>;
 
 inline Outcomes After_Save(const Model &model, const Model_Day &day, const std::string &text, bool yearly) {
