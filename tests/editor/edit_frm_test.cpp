@@ -46,7 +46,7 @@ TEST_F(Editor, shows_and_saves_the_event_of_a_day) {
         Events({row.before});
         form.Redraw();
         Cur_Settings.Tooltips = row.tick ? 1 : 2;
-        Open(6); // leaving it asks nothing
+        Open(6); // no question about the editor that this replaces
         Open(5);
         EXPECT_EQ(editor.Date_Lbl.Caption() + editor.Message_Txt.Text(),
                   "Tuesday 5th March 2002" + row.shown);
