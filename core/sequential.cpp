@@ -9,8 +9,8 @@
 
 namespace {
 
-constexpr char end_mark =
-    '\x1A'; ///< ends a text file, as in the days before file systems stored exact lengths
+/// Ends a text file, as in the days before file systems stored exact lengths.
+constexpr char end_mark = '\x1A';
 
 bool Is_Blank(char c) {
     return c == ' ' || c == '\t';
