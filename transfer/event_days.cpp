@@ -55,13 +55,13 @@ private:
         bool of_repeated = false; ///< the file also has the repeating event whose repetitions they replace
     };
 
-    std::int64_t Ahead(std::int64_t utc) const;
+    std::int64_t Utc_Offset(std::int64_t utc) const;
     std::int64_t Length() const;
     std::int64_t In_Clock_Of_Start(const Moment &moment) const;
     bool Is_In(const Moments &moments, std::int64_t moment) const;
     bool Is_Removed(std::int64_t moment) const;
     bool Find_Repetitions();
-    void Add_Days(std::int64_t begin, std::int32_t first, std::int32_t last, bool every_year_again,
+    void Add_Days(std::int64_t begin, std::int32_t first, std::int32_t last, bool for_every_year,
                   Event_Days &result);
 
     const Calendar_File &file_;
@@ -103,7 +103,7 @@ Day_Finder::Day_Finder(const Calendar_File &file, const Date &today) : file_(fil
 
 /// Returns the seconds by which the clock of the start is ahead of UTC. A zone that the file does not define
 /// counts as the user's.
-std::int64_t Day_Finder::Ahead(std::int64_t utc) const {
+std::int64_t Day_Finder::Utc_Offset(std::int64_t utc) const {
     const auto zone = file_.zones.find(event_->zone);
     return zone != file_.zones.end() ? zone->second : Local_Seconds(utc) - utc;
 }
@@ -125,7 +125,7 @@ std::int64_t Day_Finder::Length() const {
 std::int64_t Day_Finder::In_Clock_Of_Start(const Moment &moment) const {
     if (!moment.timed || !start_.timed)
         return Day_Of(moment.seconds) * seconds_a_day + Second_Of_Day(start_.seconds);
-    return moment.utc && !start_.utc ? moment.seconds + Ahead(moment.seconds) : moment.seconds;
+    return moment.utc && !start_.utc ? moment.seconds + Utc_Offset(moment.seconds) : moment.seconds;
 }
 
 /// Returns whether a repetition is one of the moments. A date stands for its whole day. A moment by another
@@ -139,7 +139,7 @@ bool Day_Finder::Is_In(const Moments &moments, std::int64_t moment) const {
         return true;
     if (!start_.timed)
         return Has(moments, {day, true, false}, end) || Has(moments, {day, true, true}, end);
-    const std::int64_t other = start_.utc ? Local_Seconds(moment) : moment - Ahead(moment);
+    const std::int64_t other = start_.utc ? Local_Seconds(moment) : moment - Utc_Offset(moment);
     return Has(moments, {moment, true, start_.utc}, moment) ||
            Has(moments, {other - half_a_day + 1, true, !start_.utc}, other + half_a_day - 1);
 }
@@ -180,7 +180,7 @@ bool Day_Finder::Find_Repetitions() {
 
 /// Adds the days from `first` to `last` on which a repetition falls. A repetition that ends at midnight does
 /// not include the day that begins then.
-void Day_Finder::Add_Days(std::int64_t begin, std::int32_t first, std::int32_t last, bool every_year_again,
+void Day_Finder::Add_Days(std::int64_t begin, std::int32_t first, std::int32_t last, bool for_every_year,
                           Event_Days &result) {
     const std::int64_t local_begin = start_.utc ? Local_Seconds(begin) : begin;
     const std::int64_t local_end = start_.utc ? Local_Seconds(begin + length_) : begin + length_;
@@ -189,11 +189,11 @@ void Day_Finder::Add_Days(std::int64_t begin, std::int32_t first, std::int32_t l
     const auto minute = static_cast<std::int16_t>(start_.timed ? Second_Of_Day(local_begin) / 60 : -1);
     last = std::min({last, end_day, begin_day + static_cast<std::int32_t>(most_days) - 1});
     for (std::int32_t day = std::max(first, begin_day); day <= last; ++day) {
-        const bool again = day_count_ > 0 && day <= last_day_ && result.days.back().minute == minute;
-        if (again || day_count_ == most_repeated_days)
+        const bool is_added = day_count_ > 0 && day <= last_day_ && result.days.back().minute == minute;
+        if (is_added || day_count_ == most_repeated_days)
             continue;
         Date date = Date_Of(day);
-        if (every_year_again)
+        if (for_every_year)
             date.year = every_year;
         result.days.push_back({index_, minute, date});
         last_day_ = std::max(last_day_, day);

@@ -18,8 +18,8 @@ struct Event_Day {
 /// The days of a file's events. The days of each event are adjacent.
 struct Event_Days {
     std::vector<Event_Day> days;
-    std::size_t unsupported =
-        0; ///< number of events on their first day only, because their rule is not supported
+    /// The number of events on their first day only, because their rule is not supported.
+    std::size_t unsupported = 0;
 };
 
 /// Returns the days of all events. An event without repetitions falls on all of its days, and a plain yearly

@@ -11,7 +11,7 @@ namespace {
 
 /// Removes the event's text and an adjacent separator from `record`. Returns false if the text is not at its
 /// place.
-bool Part_From(std::string &record, const Event &event) {
+bool Remove_Text(std::string &record, const Event &event) {
     std::size_t begin = event.key.size() + 1 + event.place;
     std::size_t length = event.text.size();
     const std::string_view whole = record;
@@ -69,7 +69,7 @@ bool Unmerge(std::vector<std::string> &records, std::vector<Event> &staged, std:
         Event_Record parts;
         return Parse_Record(each, parts) && parts.key == event.key;
     });
-    if (event.key.empty() || record == records.end() || !Part_From(*record, event))
+    if (event.key.empty() || record == records.end() || !Remove_Text(*record, event))
         return false;
     // The texts after the removed one move forward.
     for (Event &other : staged)
