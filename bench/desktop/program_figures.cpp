@@ -87,7 +87,7 @@ double Quartile(std::vector<double> values, std::size_t quarter) {
 
 /// Prints the times of each program, also relative to the first program, which ran in the same round under
 /// the same load.
-void Tell_Starts(const std::vector<Subject> &subjects) {
+void Print_Starts(const std::vector<Subject> &subjects) {
     for (const Subject &subject : subjects) {
         std::vector<double> ratios = subject.times;
         for (std::size_t i = 0; i < ratios.size(); ++i)
@@ -113,7 +113,7 @@ bool Measure_Starts(int rounds, std::vector<Subject> subjects) {
             if (round < 0)
                 subject.times.clear();
         }
-    Tell_Starts(subjects);
+    Print_Starts(subjects);
     return true;
 }
 
