@@ -20,7 +20,7 @@
 #   root32     a private i386 Debian in CACHE, entered in its own namespaces, so that neither mounts nor processes are
 #              left on the host; only if apt cannot install wine32, and only as root
 #   wine64     the 64-bit Wine and the 64-bit build
-# And one that must be forced:
+# A kind that only VELLATRO_WINE chooses:
 #   wine10     like root32, with the Wine of the next Debian release, to run the product and its tests on another one
 
 wine_root=$CACHE/i386
