@@ -12,9 +12,9 @@
 #include <string_view>
 #include <vector>
 
-/// One event, from the data file or from an import.
+/// An event of the data file or of an import.
 struct Event {
-    Date date; ///< a yearly event has the current year
+    Date date; ///< a yearly event has the year given to the reader, or from a calendar file `every_year`
     bool yearly = false;
     std::string key{}; ///< key of the record, as written in the data file
     std::string text{};

@@ -43,8 +43,8 @@ public:
     /// keeps an Undo_Log::Change of this log alive meanwhile.
     Undo_Log Changes{Data_File()};
 
-    /// Undoes the newest change. Returns whether the file was changed. If another program has changed the
-    /// file since, tells the user and leaves the file alone. A failure shows "Error saving data file.".
+    /// Undoes the newest change. Returns whether the file was changed. If something else has changed the file
+    /// since, shows a message and leaves the file alone. A failure shows "Error saving data file.".
     bool Undo();
 
     /// Fills Temp_Lst from the file, including lines that are not records. If there is no file, Temp_Lst
