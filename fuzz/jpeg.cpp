@@ -1,4 +1,4 @@
-// Checks that any bytes are taken as a JPEG file with a valid size or refused, and that bytes behind the end
+// Checks that any bytes are taken as a JPEG file with a valid size or refused, and that bytes after the end
 // of a file change nothing.
 #include "base/jpeg.h"
 
