@@ -25,7 +25,7 @@ bool Read_Number(std::string_view text, Integer least, Integer most, Integer &nu
            number <= most && !text.empty();
 }
 
-/// Removes the first field of `text` and the separator behind it. Returns the field.
+/// Removes the first field of `text` and the separator after it. Returns the field.
 std::string_view Next_Field(std::string_view &text, char separator) {
     const std::size_t end = std::min(text.find(separator), text.size());
     const std::string_view part = text.substr(0, end);
