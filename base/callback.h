@@ -1,5 +1,5 @@
-// Two holders for lambdas that neither allocate memory nor need destruction. They replace std::function,
-// whose code to copy and destroy each lambda makes up most of its size.
+// Two wrappers for lambdas. They allocate no memory and need no destructor, unlike std::function, whose code
+// to copy and destroy each lambda makes up most of its size.
 #pragma once
 
 #include <concepts>

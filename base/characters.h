@@ -18,12 +18,14 @@ struct Code_Step {
     std::uint32_t code;
 };
 
-/// The combining marks, vowel signs, joiners and variation selectors below U+10000, in ascending order.
-/// Ranges may include unassigned code points.
+/// The code points from `first` to `last`, both included.
 struct Code_Range {
     std::uint16_t first;
     std::uint16_t last;
 };
+
+/// The combining marks, vowel signs, joiners and variation selectors below U+10000, in ascending order.
+/// Ranges may include unassigned code points.
 inline constexpr Code_Range Combining_Ranges[] = {
     {0x0300, 0x036F}, {0x0483, 0x0489}, {0x0591, 0x05BD}, {0x05BF, 0x05BF}, {0x05C1, 0x05C2},
     {0x05C4, 0x05C5}, {0x05C7, 0x05C7}, {0x0610, 0x061A}, {0x064B, 0x065F}, {0x0670, 0x0670},
@@ -83,8 +85,8 @@ inline bool Is_Flag_Letter(std::uint32_t code) {
     return code >= 0x1F1E6 && code <= 0x1F1FF;
 }
 
-/// Returns the code point of the `length` bytes from `begin`, or No_Character if they are not exactly one
-/// well-formed character.
+/// Returns the code point of the `length` bytes (1 to 4, all inside the text) from `begin`, or No_Character
+/// if they are not exactly one well-formed character.
 inline std::uint32_t Decode_Utf8(std::string_view text, std::size_t begin, std::size_t length) {
     static constexpr unsigned marks[] = {0, 0, 0xC0, 0xE0, 0xF0};
     static constexpr unsigned masks[] = {0, 0x80, 0xE0, 0xF0, 0xF8};
@@ -115,8 +117,8 @@ inline std::uint32_t Code_At(std::string_view text, std::size_t begin) {
     return text.size() - begin < length ? No_Character : Decode_Utf8(text, begin, length);
 }
 
-/// Returns the code point that ends before byte `end`. A byte that is not part of a valid character is
-/// returned alone, as No_Character.
+/// Returns the code point that ends before byte `end`. Returns the last byte alone, as No_Character, if it
+/// does not end a valid character.
 inline Code_Step Step_Back_Utf8(std::string_view text, std::size_t end) {
     std::size_t begin = end - 1;
     while (begin > 0 && end - begin < 4 && (static_cast<unsigned char>(text[begin]) & 0xC0U) == 0x80U)

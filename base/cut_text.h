@@ -38,8 +38,8 @@ inline std::size_t Whole_Characters(std::string_view text, std::size_t limit) {
     return end;
 }
 
-/// Returns a value in a length that suits a message: at most 60 bytes of whole characters, then an ellipsis
-/// if more follows.
+/// Returns `text` shortened for a message: at most 60 bytes of whole characters, then an ellipsis if more
+/// follows.
 inline std::string Shorten(std::string_view text) {
     const std::size_t end = Whole_Characters(text, 60);
     return std::string(text.substr(0, end)).append(end < text.size() ? Ellipsis : "");

@@ -44,12 +44,12 @@ inline bool Is_Cjk(std::uint32_t code) {
     return (code >= rare_first && code <= rare_last) || In_Ranges(Cjk_Ranges, code);
 }
 
-/// Returns whether a line of a UTF-8 text may break before byte `at`, which lies inside the text. It may
+/// Returns whether a line of a UTF-8 text may break before byte `at`, which is 1 to text.size() - 1. It may
 /// break before a blank, and next to a character of these scripts unless one of the lists above forbids it.
 inline bool Line_May_End(std::string_view text, std::size_t at) {
     if (text[at] == ' ')
         return true;
-    // Two ASCII bytes: the answer for nearly all texts.
+    // Fast path for nearly all texts: between two ASCII characters only a blank allows a break.
     if (static_cast<unsigned char>(text[at]) < 0x80 && static_cast<unsigned char>(text[at - 1]) < 0x80)
         return false;
     const std::uint32_t after = Code_At(text, at);

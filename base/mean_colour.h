@@ -21,7 +21,7 @@ inline Span Source_Span(int i, int count, int length) {
     return {at(i), std::max(at(i) + 1, at(i + 1))};
 }
 
-/// Returns the mean colour of a part of the picture as 0x00RRGGBB.
+/// Returns the mean colour of a part of the picture as 0x00RRGGBB. Neither span may be empty.
 inline std::uint32_t Mean_Colour(const Picture &picture, Span columns, Span rows) {
     std::uint64_t blue = 0;
     std::uint64_t green = 0;

@@ -8,6 +8,7 @@ constexpr int Twips_Per_Inch = 1440;
 
 /// Returns `value` * `factor` / `divisor`, rounded to the nearest integer; `factor` and `divisor` are
 /// positive. Halves round up on both sides of zero, so that equal distances stay equal wherever they begin.
+/// The result is limited to the range of int.
 inline int Scale_Nearest(int value, int factor, int divisor) {
     const std::int64_t twice = 2 * static_cast<std::int64_t>(divisor);
     const std::int64_t doubled = 2 * static_cast<std::int64_t>(value) * factor + divisor;
@@ -26,7 +27,7 @@ inline int Scale_Up(int value, int factor, int divisor) {
     return -Scale_Down(-value, factor, divisor);
 }
 
-/// Convert to the nearest pixel and the nearest twip, at `dots` per inch.
+/// Returns the nearest pixel, or the nearest twip, at `dots` per inch.
 inline int Twips_To_Pixels(int twips, int dots) {
     return Scale_Nearest(twips, dots, Twips_Per_Inch);
 }

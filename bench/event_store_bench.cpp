@@ -1,7 +1,7 @@
 // Times filling a month from the data file. The comparison is a memchr count of the line endings in the same
-// bytes, the least that reading can cost. The files are the fakes', so that no disk distorts the figures, and
-// each side copies the bytes from there, as from a disk. The calendar window is the program's own; only text
-// widths come from the fakes, which measure faster than the system.
+// bytes, the least that reading can cost. The fakes hold the files, so that no disk distorts the figures.
+// Both measurements copy the bytes from the fakes, as they would from a disk. The calendar window is the
+// program's own; only text widths come from the fakes, which measure faster than the system.
 #include "calendar/main_frm.h"
 #include "core/date.h"
 #include "core/event_store.h"
@@ -66,7 +66,8 @@ void Count_Line_Ends(benchmark::State &state) {
     state.SetItemsProcessed(state.iterations() * state.range(0));
 }
 
-/// Times a save without the disk: loads all records, changes the last day's record and rewrites them all.
+/// Times a save without the disk: loads all records, changes the last one and rewrites them all. The first
+/// save adds that record.
 void Save_One_Day(benchmark::State &state) {
     Make_File(state.range(0));
     Event_Store store;

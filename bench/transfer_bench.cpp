@@ -1,5 +1,5 @@
-// Times the export and import of many events with the real procedures, from file to file. The files are the
-// fakes'.
+// Times the export and import of many events with the real procedures, from file to file. The fakes hold the
+// files.
 #include "core/event_store.h"
 #include "tests/fakes/fake_forms.h"
 #include "transfer/export.h"
@@ -75,7 +75,7 @@ void Import_Many(benchmark::State &state) {
     Import_Events(state, CSV_File(state.range(0)), csv_title, &Importer::Import_CSV);
 }
 
-/// No line ends with a quote: the import joins all lines and then fails.
+/// Times an import in which no line ends with a quote: it joins all lines and then fails.
 void Import_Unclosed(benchmark::State &state) {
     std::string bytes = "\"Subject\",\"Start Date\",\"Description\"\r\n";
     for (std::int64_t i = 0; i < state.range(0); ++i)

@@ -40,7 +40,7 @@ foreach(program vellatro vellatro_unstripped)
     endif()
 endforeach()
 target_link_options(vellatro PRIVATE -s)
-# Users run it to report a calendar that is not visible. It is not in the package.
+# Users run shell_tree to report a calendar that is not visible. The package does not contain it.
 add_executable(shell_tree tools/shell_tree.cpp)
 target_compile_definitions(shell_tree PRIVATE _WIN32_WINNT=0x0601 WINVER=0x0601 NOMINMAX)
 target_link_libraries(shell_tree PRIVATE vellatro_options user32)

@@ -1,6 +1,6 @@
-// Reading the data file one event at a time, for the list of all events and for the export. This reading
-// shows no messages and skips malformed records. The calendar's own reading, which reports failures, is in
-// core/event_store.h.
+// Reading the data file one event at a time, for the list of all events and for the export. These functions
+// show no messages and skip malformed records. The calendar itself reads through core/event_store.h, which
+// reports failures.
 #pragma once
 
 #include "base/callback.h"
@@ -12,9 +12,9 @@
 #include <string_view>
 #include <vector>
 
-/// One event, of the data file or of an import.
+/// An event of the data file or of an import.
 struct Event {
-    Date date; ///< a yearly event has the current year
+    Date date; ///< a yearly event has the year given to the reader, or from a calendar file `every_year`
     bool yearly = false;
     std::string key{}; ///< key of the record, as written in the data file
     std::string text{};
@@ -24,8 +24,8 @@ struct Event {
 
 /// Reads a record into `event`. The year of a yearly event is "9999" or "yyyy"; the event gets the year
 /// `year`. In a year without 29 February, a yearly event of that day moves to the 28th, so that it stays in
-/// its month and counts there. Returns false for a malformed record: one without "=", or whose key is not a
-/// date in the calendar's years.
+/// February. Returns false for a malformed record: one without "=", or whose key is not a date in the
+/// calendar's years.
 bool Parse_Event(std::string_view record, std::int16_t year, Event &event);
 
 enum class Read_Result {
@@ -40,7 +40,7 @@ Read_Result Read_Events(std::int16_t year, Callback_Ref<void(const Event &)> tak
 
 enum class Sort_Order { Ascending_Date, Descending_Date, Date_Added };
 
-/// Replaces `events` by the events of the data file, sorted by `order`. Events of one day keep their file
+/// Replaces `events` with the events of the data file, sorted by `order`. Events of one day keep their file
 /// order, or its reverse in descending order. Skips everything that cannot be read. Yearly events get the
 /// year of `today`.
 Read_Result Load_Events(std::vector<Event> &events, Sort_Order order, const Date &today);

@@ -108,7 +108,8 @@ bool Event_Store::Load_File() {
         return true;
     } catch (const std::exception &) {
         Show_Loading_Error();
-        load_failed_ = true; // again, after a save while the message was shown: Temp_Lst may lack its record
+        load_failed_ = true; // set again: a save while the message was open clears it, but Temp_Lst may lack
+                             // the saved record
         return false;
     }
 }

@@ -28,9 +28,9 @@ struct Stored_Message {
     bool incomplete = false; ///< the file could not be read to its end; the user has seen a message
 };
 
-/// Reads and rewrites the event file, always as a whole. If an access to the file fails, a procedure shows
-/// one fixed message and returns; only Write_Data_File throws instead. Timers run on while a message box is
-/// open, so any of these procedures may be entered again meanwhile.
+/// Reads and rewrites the event file, always as a whole. A procedure whose access to the file fails shows one
+/// fixed message and returns; only Write_Data_File throws instead. Timers run on while a message box is open,
+/// so any of these procedures may be entered again meanwhile.
 class Event_Store {
 public:
     /// All items of the file in file order, as of the last Load_File and the changes since.
@@ -43,8 +43,8 @@ public:
     /// keeps an Undo_Log::Change of this log alive meanwhile.
     Undo_Log Changes{Data_File()};
 
-    /// Undoes the newest change. Returns whether the file was changed. If another program has changed the
-    /// file since, tells the user and leaves the file alone. A failure shows "Error saving data file.".
+    /// Undoes the newest change. Returns whether the file was changed. If something else has changed the file
+    /// since, shows a message and leaves the file alone. A failure shows "Error saving data file.".
     bool Undo();
 
     /// Fills Temp_Lst from the file, including lines that are not records. If there is no file, Temp_Lst
@@ -73,7 +73,7 @@ public:
     /// `text` is empty. Returns false if the write or the last Load_File failed.
     bool Write_New_Line(const std::string &key, const std::string &text, bool each_year);
 
-    /// Shows "Error saving data file." and returns false, also for a save that must not be attempted.
+    /// Shows "Error saving data file." and returns false. Callers also use it to refuse a save.
     static bool Show_Save_Error();
 
     /// Returns the event of the day `key`: the text of its last record in the file. If reading fails, shows

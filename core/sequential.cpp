@@ -9,7 +9,8 @@
 
 namespace {
 
-constexpr char end_mark = '\x1A'; ///< ends a text file, as it did before file systems stored exact lengths
+/// Ends a text file, as in the days before file systems stored exact lengths.
+constexpr char end_mark = '\x1A';
 
 bool Is_Blank(char c) {
     return c == ' ' || c == '\t';
@@ -111,9 +112,8 @@ void Append_Item(std::string &bytes, std::string_view item) {
         bytes += item;
         bytes += '"';
     } else if (Reads_Back_Plain(item)) {
-        // A hand-written item with a quote inside. If it begins with the bytes of a byte order mark, a blank
-        // before it, which readers skip, keeps those bytes from being taken for a mark at the start of a
-        // file.
+        // The item is hand-written and has a quote inside. A blank, which readers skip, keeps the bytes of a
+        // byte order mark at its beginning from being taken for the mark of the file.
         if (item.starts_with(Byte_Order_Mark))
             bytes += ' ';
         bytes += item;

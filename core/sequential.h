@@ -24,7 +24,7 @@ public:
     explicit Sequential_Reader(std::string_view bytes);
 
     /// Sets `item` to the next item, valid until the next call. Returns false at the end. Throws
-    /// Sequential_Error.
+    /// Sequential_Error for a missing closing quote and for a NUL outside quotes.
     bool Next(std::string_view &item);
 
 private:

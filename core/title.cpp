@@ -114,14 +114,14 @@ std::vector<Token> Read_Pattern(const Characters &characters) {
 /// Returns whether the "m" at `at` means minutes: the field before it is an hour, or the field after it is
 /// seconds. Literal text and AM/PM fields in between do not matter.
 bool Is_Minute(const std::vector<Token> &tokens, std::size_t at) {
-    const auto parts = [](const Token &token) {
+    const auto is_number = [](const Token &token) {
         return token.field != Field::Literal && token.field != Field::Half_Day;
     };
     const auto place = tokens.begin() + static_cast<std::ptrdiff_t>(at);
-    const auto before = std::find_if(std::make_reverse_iterator(place), tokens.rend(), parts);
+    const auto before = std::find_if(std::make_reverse_iterator(place), tokens.rend(), is_number);
     if (before != tokens.rend() && before->field == Field::Hour)
         return true;
-    const auto after = std::find_if(place + 1, tokens.end(), parts);
+    const auto after = std::find_if(place + 1, tokens.end(), is_number);
     return after != tokens.end() && after->field == Field::Second;
 }
 
@@ -207,7 +207,7 @@ std::string Bar_Date_Text(bool show_time, const std::string &time_format, const 
     std::string title = Title_Of_Today(show_time, time_format, date_format, now);
     const auto &formats = Bar_Date_Formats();
     if (std::find(formats.begin(), formats.end(), date_format) == formats.end()) {
-        // Set the variable first: a store that refuses is then tried once, not at every title.
+        // Set the variable first, so that a store that refuses is tried once, not at every title.
         Cur_Settings.Bar_Date_Format = weekday_form;
         Store_Setting(&Settings::Bar_Date_Format);
     }

@@ -19,8 +19,8 @@ public:
     explicit Undo_Log(std::string path);
 
     /// Records one change: the difference that its lifetime makes to the file, in any number of writes. If
-    /// the file is the same at the end, nothing is recorded. A change inside another one is part of the outer
-    /// one. If the file cannot be read or memory runs out, the change cannot be undone.
+    /// the file is the same at the end, nothing is recorded. A change inside another is part of the outer
+    /// change. If the file cannot be read or memory runs out, the change cannot be undone.
     class Change {
     public:
         Change(Undo_Log &log, std::string name);

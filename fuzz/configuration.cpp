@@ -1,5 +1,5 @@
-// Imports any bytes as a configuration, or refuses them. The export of the resulting settings reads back as
-// the same settings, or is refused.
+// Checks that any bytes are imported as a configuration or refused, and that the stored settings load again.
+// The export of these settings reads back as the same settings, or is refused.
 #include "transfer/configuration.h"
 
 #include "core/convert.h"

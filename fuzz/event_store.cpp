@@ -1,5 +1,5 @@
-// Loads any data file, stores the event of one day and loads the file again: every other record survives, in
-// its order. A file that cannot be loaded to its end stays unchanged.
+// Checks that storing the event of one day keeps all other records of any data file, in their order. A file
+// that cannot be loaded to its end stays unchanged.
 #include "core/event_store.h"
 
 #include "tests/fakes/fakes.h"

@@ -1,6 +1,6 @@
-// Checks that the reader takes any bytes as a calendar or refuses them. The joined records can be written and
-// read back, and joining the same file again changes nothing. The export of the records reads back as the
-// same events, and joining it changes nothing.
+// Checks that the iCalendar reader takes any bytes as a calendar or refuses them. The joined records can be
+// written and read back, and joining the same file again changes nothing. The export of the records reads
+// back as the same events, and joining it changes nothing.
 #include "core/sequential.h"
 #include "tests/fakes/fakes.h"
 #include "transfer/icalendar_merging.h"
@@ -18,7 +18,8 @@ void Demand(bool holds) {
         std::abort();
 }
 
-/// Joins the events of the file to the records. Checks that the calendar shows each of their days.
+/// Joins the events of the file to the records. Checks that each of their days is in the calendar's years,
+/// that no text has a quote or line break, and that each event is counted once.
 void Join(const Calendar_File &file, std::vector<std::string> &records, Progress &progress) {
     const Event_Days days = Find_Event_Days(file, today, progress);
     for (const Event_Day &day : days.days) {

@@ -1,5 +1,5 @@
-// Checks that any bytes are a complete JPEG file with a valid size, or not a JPEG file. Bytes behind its end
-// change nothing.
+// Checks that any bytes are taken as a JPEG file with a valid size or refused, and that bytes after the end
+// of a file change nothing.
 #include "base/jpeg.h"
 
 #include <cstdint>

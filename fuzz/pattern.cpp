@@ -1,4 +1,4 @@
-// Checks that any pattern and time give a text of bounded length. Text behind an open quote stays as it is.
+// Checks that any pattern gives a text of at most 510 bytes. Text after an open quote stays as it is.
 #include "core/title.h"
 
 #include <cstdint>

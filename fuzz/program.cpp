@@ -1,5 +1,5 @@
-// The fuzz target of the whole program on the fakes: the input bytes choose the acts of the user, the clock,
-// the files and the session. After each action the data file holds the same as a plain model
+// The fuzz target of the whole program on the fakes: the input bytes choose the actions of the user, the
+// clock, other programs and the session. After each action the data file holds the same as a plain model
 // (program_model.h), the editor and the month show it, only registry values that the action may write have
 // changed, and each failure message has a cause. --tell prints the actions.
 #include "app/program.h"

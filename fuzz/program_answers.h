@@ -27,7 +27,7 @@ protected:
 
 private:
     void Interrupt();
-    void Hear_Failure(const Shown_Box &box);
+    void Check_Failure(const Shown_Box &box);
     void Agree(const std::string &question);
 
     int depth_ = 0;
@@ -84,7 +84,7 @@ inline void Answers::Interrupt() {
 }
 
 /// Checks that a failure message has a cause and that the failure left the data file unchanged.
-inline void Answers::Hear_Failure(const Shown_Box &box) {
+inline void Answers::Check_Failure(const Shown_Box &box) {
     const auto begins = [&box](const char *text) { return box.text.starts_with(text); };
     if (begins("Error loading in data file.")) {
         loading_failed_ = true;
@@ -113,7 +113,7 @@ inline void Answers::Agree(const std::string &question) {
     const auto begins = [&question](const char *text) { return question.starts_with(text); };
     if (begins("Save changes for the ") && editor_ && editor_->text.find('"') == std::string::npos) {
         const Model_Editor from = *editor_;
-        saved_ = true; // and the editor closes, so that the next one starts without its tick
+        saved_ = true; // the editor closes now, so the next one does not keep the state of "every year"
         pending_.push_back({[from](const Model &model) {
                                 return from.blind ? Outcomes{}
                                                   : After_Save(model, from.day, from.text, from.yearly);
@@ -147,7 +147,7 @@ inline Box_Answer Answers::Answer_Box(const Shown_Box &box) {
     Tell("   box: " + box.text);
     ++depth_;
     Commit(false);
-    Hear_Failure(box);
+    Check_Failure(box);
     if (box.text.starts_with("Successfully exported ") && box.text.ends_with(Exported_Path))
         files_.Note_Export(model_.file ? model_.file->records : Records{});
     Interrupt();

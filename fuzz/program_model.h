@@ -94,7 +94,7 @@ struct Model {
         const auto unsure = [](const Model_Step &each) { return !each.sure; };
         if (std::none_of(steps.begin(), steps.end(), unsure))
             steps.erase(steps.begin());
-        else // the program may remember an older one instead of an unsure one
+        else // the program may remember an older step instead of an unsure one
             std::for_each(steps.begin(), steps.end() - 20, [](Model_Step &each) { each.sure = false; });
     }
 
@@ -148,7 +148,7 @@ struct Outcome {
     std::size_t undone = 0; ///< steps of Undo that this reverts
 };
 
-/// Empty: the action cannot succeed.
+/// The possible outcomes of an action. If empty, the action cannot succeed.
 using Outcomes = std::vector<Outcome>;
 
 inline Outcomes After_Save(const Model &model, const Model_Day &day, const std::string &text, bool yearly) {
@@ -179,7 +179,7 @@ inline bool Same_Bytes(const Maybe_File &a, const Maybe_File &b) {
     return a.has_value() == b.has_value() && (!a || a->bytes == b->bytes);
 }
 
-/// Returns the outcomes of Undo: it reverts the newest step if the file is the one that the step left.
+/// Returns the outcomes of Undo: it reverts the newest step if the file is as that step left it.
 inline Outcomes After_Undo(const Model &model) {
     Outcomes outcomes;
     bool all_unsure = true;

@@ -30,7 +30,7 @@ struct Model_Editor {
     std::string text;
     bool yearly = false, unsaved = false;
     bool blind = false;       ///< its reading failed, so that it must refuse to save
-    bool maybe_blind = false; ///< a reading failed when it was opened, maybe another one
+    bool maybe_blind = false; ///< a reading failed when the editor opened, possibly one for another window
 };
 
 /// A change of the data file that the user has begun and whose outcome the oracle has not seen yet.
@@ -62,7 +62,7 @@ protected:
     Model model_;
     std::optional<Model_Editor> editor_;
     std::vector<Pending> pending_;
-    std::string action_; ///< the current one, in words
+    std::string action_; ///< the current action, in words
     int actions_ = 0;
     int fails_ = 0; ///< file calls that failed in this action
     bool typed_ = false, saved_ = false, loading_failed_ = false;
@@ -206,7 +206,7 @@ inline void Oracle::Follow_Editor() {
     if (editor_) {
         const bool same = now.day == editor_->day && now.text == editor_->text &&
                           now.yearly == editor_->yearly && now.unsaved == editor_->unsaved;
-        // The user may have opened it again for the same day.
+        // The user may have reopened the editor for the same day.
         now.blind = editor_->blind && (typed_ || !readable);
         now.maybe_blind = editor_->maybe_blind || editor_->blind || (!typed_ && loading_failed_);
         if (typed_ || same) {

@@ -20,7 +20,7 @@ private:
     const std::uint8_t *at_, *end_;
 };
 
-/// Returns null if the window does not exist.
+/// Returns the window with this name, or null if it does not exist.
 inline platform::Form_Model *Window(const std::string &name) {
     for (const auto &[model, mirror] : Desktop().mirrors)
         if (model->name == name)
@@ -74,7 +74,7 @@ inline bool Told_Since(std::size_t boxes, const std::string &text) {
     return false;
 }
 
-/// Returns the number that begins at `begin`, 0 if none does.
+/// Returns the number that begins at `begin`, or 0 if there is none.
 inline int Number_At(const std::string &text, std::size_t begin) {
     int number = 0;
     for (; begin < text.size() && text[begin] >= '0' && text[begin] <= '9' && number < 10000; ++begin)

@@ -1,5 +1,5 @@
-// Checks that the reader takes any bytes as UTF-8 items or refuses them. The items read back the same after
-// writing.
+// Checks that the reader of sequential files takes any bytes as UTF-8 items or refuses them. The items read
+// back the same after writing.
 #include "core/sequential.h"
 
 #include "base/characters.h"

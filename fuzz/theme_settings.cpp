@@ -1,5 +1,5 @@
-// Checks that each month gets a value text out of any bytes, or that they are refused. The parts of a value
-// text make up the whole.
+// Checks that any bytes either give each month a value text or are refused. The parts of a value text make up
+// the whole.
 #include "base/characters.h"
 #include "core/sequential.h"
 #include "themes/theme_pack.h"

@@ -76,7 +76,7 @@ Desktop_Start() {
   shift $(($# < 4 ? $# : 4))
   DESKTOP_OUT=$WINEPREFIX/standin.log
   : >"$DESKTOP_OUT"
-  # Also in the registry, because programs that are started without a desktop name read it there.
+  # Write the desktop's name to the registry, too: programs that are started without one read it there.
   DISPLAY='' Wine_Registry <<REG
 [HKEY_CURRENT_USER\\Control Panel\\Desktop]
 "LogPixels"=dword:$(printf %08x "$dpi")
@@ -97,7 +97,7 @@ REG
   desktop_bare=$(Desktop_Print)
 }
 
-# Wine's desktop is a window of the display, and so is each top-level window on it.
+# Prints the X window of Wine's desktop, or nothing. Each top-level window on the desktop is an X window, too.
 Desktop_Window() {
   timeout 5 xdotool search --onlyvisible --name "^$desktop_name - Wine [Dd]esktop\$" 2>/dev/null | head -n 1 || true
 }

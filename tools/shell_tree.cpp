@@ -1,6 +1,6 @@
 // Prints the windows of the desktop from front to back: the trees under "Progman" and under each top-level
-// "WorkerW", with all that decides whether a window is visible. For reports about a calendar that is not
-// visible:
+// "WorkerW", with everything that decides whether a window is visible. Users add the output to a report of an
+// invisible calendar:
 //
 //     shell_tree >tree.txt
 #include <windows.h>

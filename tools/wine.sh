@@ -20,7 +20,7 @@
 #   root32     a private i386 Debian in CACHE, entered in its own namespaces, so that neither mounts nor processes are
 #              left on the host; only if apt cannot install wine32, and only as root
 #   wine64     the 64-bit Wine and the 64-bit build
-# And one that must be forced:
+# A kind that only VELLATRO_WINE chooses:
 #   wine10     like root32, with the Wine of the next Debian release, to run the product and its tests on another one
 
 wine_root=$CACHE/i386
@@ -72,8 +72,8 @@ Wine_May_Root32() { [ "$(id -u)" = 0 ] && unshare --mount --pid --fork true 2>/d
 
 Wine_Has_Root32() { Wine_May_Root32 && [ -e "$wine_root.complete" ] && [ -x "$wine_root/usr/lib/wine/wine" ]; }
 
-# Simulates the installation first: at times the i386 lists do not match the amd64 ones. Then removes the architecture
-# again, because every later apt-get update would fail with it. Does not retry for a day.
+# Simulates the installation first: at times the i386 lists do not match the amd64 ones. After a failure, removes the
+# architecture again, because it would make every later apt-get update fail, and does not retry for a day.
 Wine_Install_Package32() {
   local refused=$CACHE/wine32.refused plan added=
   Apt_Allowed || return 1
@@ -163,8 +163,8 @@ Wine_Leave_Root32() {
   wine_bed=
 }
 
-# Runs a command where Wine is: on the host, or in the i386 root. There "/" replaces a folder that the root does not
-# show.
+# Runs a command where Wine is: on the host, or in the i386 root. In the root, runs it in "/" if the root does not
+# show the current folder.
 Wine_Inside() {
   local folder
   if [ -z "$wine_bed" ]; then
@@ -241,8 +241,9 @@ Wine_Prefix() {
   Wine_Inside timeout -k 5 30 wineserver -p60 </dev/null >/dev/null 2>&1 || Fail "Wine's server did not start"
 }
 
-# Replaces the links to the user's own folders by folders, which tests may change. Adds Wine's fonts, which have the
-# glyphs of title bars and menus and are outside the i386 root; but not its Tahoma, whose bold is not bolder.
+# Creates the prefix template $1. Replaces the links to the user's own folders with folders that tests may change.
+# Adds Wine's fonts, which have the glyphs of title bars and menus and are outside the i386 root; but not its Tahoma,
+# whose bold is not bolder.
 Wine_Make_Template() {
   local link
   Say "Creating a Wine prefix (once)"

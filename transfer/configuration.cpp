@@ -8,7 +8,8 @@
 
 namespace {
 
-/// Returns the value of a setting in its line. A flag is 1 or 0 here, although the store holds a word.
+/// Returns the value of a setting as the configuration file holds it. A flag is 1 or 0 there, but True or
+/// False in the store.
 std::string Value_Text(const Settings &settings, const Setting_Row &row) {
     if (const auto *const flag = std::get_if<bool Settings::*>(&row.member))
         return settings.**flag ? "1" : "0";

@@ -16,5 +16,5 @@ std::string Configuration_Bytes(const Settings &settings);
 void Import_Config_Line(std::string_view item);
 
 /// Copies all items of a configuration file into the running settings and the store, and stops at the first
-/// error. Throws as Import_Config_Line does, and Sequential_Error.
+/// error. Throws as Import_Config_Line does, and Sequential_Error for malformed bytes.
 void Import_Configuration(std::string_view bytes);

@@ -50,8 +50,8 @@ private:
 /// message and returns false. Throws Conversion_Error for more than 32,767 columns.
 bool Check_CSV_Headings(std::string_view line, CSV_Columns &columns);
 
-/// Reads the quoted fields of a record into the date and text of `event`: day 0 if the record has no date,
-/// and subject and description. Returns false if it has neither subject nor description. Throws CSV_Error if
-/// the last field is not in quotes, and Conversion_Error for an invalid start date or more than 32,767
-/// fields.
+/// Sets the date and text of `event` from the quoted fields of a record. The date is day 0 if the record has
+/// none. The text is subject and description, joined by " - ". Returns false if it has neither subject nor
+/// description. Throws CSV_Error if the last field is not in quotes, and Conversion_Error for an invalid
+/// start date or more than 32,767 fields.
 bool Read_CSV_Line(std::string_view record, const CSV_Columns &columns, Event &event);

@@ -1,5 +1,5 @@
-// This file converts between clocks. A local time counts as written, whatever its zone. A UTC time is shown
-// by the user's clock, but repeats and compares in UTC.
+// The conversions between clocks are here. A local time counts as written, whatever its zone. A UTC time is
+// shown by the user's clock, but repeats and compares in UTC.
 #include "transfer/event_days.h"
 
 #include "base/joined.h"
@@ -10,8 +10,8 @@
 
 namespace {
 
-constexpr std::int64_t most_days = 366;          ///< of one event
-constexpr std::size_t most_repeated_days = 1000; ///< of one repeating event
+constexpr std::int64_t most_days = 366;          ///< of one occurrence
+constexpr std::size_t most_repeated_days = 1000; ///< of all occurrences of one event
 constexpr std::int64_t half_a_day = seconds_a_day / 2;
 
 /// Returns the user's local time, in seconds, at a UTC time.
@@ -37,7 +37,7 @@ bool Earlier(const Moment &a, const Moment &b) {
     return Sort_Key(a) < Sort_Key(b);
 }
 
-/// Returns whether `sorted` has a moment of the same kind as `least`, from its time up to `most`.
+/// Returns whether `sorted` has a moment of the kind of `least`, between its time and `most`, both included.
 bool Has(const Moments &sorted, const Moment &least, std::int64_t most) {
     const auto found = std::lower_bound(sorted.begin(), sorted.end(), least, Earlier);
     return found != sorted.end() && !Earlier({most, least.timed, least.utc}, *found);
@@ -52,16 +52,16 @@ public:
 private:
     struct Replacements {
         Moments moments;
-        bool of_repeated = false; ///< the file also has the repeating event that they belong to
+        bool of_repeated = false; ///< the file also has the repeating event whose repetitions they replace
     };
 
-    std::int64_t Ahead(std::int64_t utc) const;
+    std::int64_t Utc_Offset(std::int64_t utc) const;
     std::int64_t Length() const;
     std::int64_t In_Clock_Of_Start(const Moment &moment) const;
     bool Is_In(const Moments &moments, std::int64_t moment) const;
     bool Is_Removed(std::int64_t moment) const;
     bool Find_Repetitions();
-    void Add_Days(std::int64_t begin, std::int32_t first, std::int32_t last, bool every_year_again,
+    void Add_Days(std::int64_t begin, std::int32_t first, std::int32_t last, bool for_every_year,
                   Event_Days &result);
 
     const Calendar_File &file_;
@@ -103,7 +103,7 @@ Day_Finder::Day_Finder(const Calendar_File &file, const Date &today) : file_(fil
 
 /// Returns the seconds by which the clock of the start is ahead of UTC. A zone that the file does not define
 /// counts as the user's.
-std::int64_t Day_Finder::Ahead(std::int64_t utc) const {
+std::int64_t Day_Finder::Utc_Offset(std::int64_t utc) const {
     const auto zone = file_.zones.find(event_->zone);
     return zone != file_.zones.end() ? zone->second : Local_Seconds(utc) - utc;
 }
@@ -125,12 +125,12 @@ std::int64_t Day_Finder::Length() const {
 std::int64_t Day_Finder::In_Clock_Of_Start(const Moment &moment) const {
     if (!moment.timed || !start_.timed)
         return Day_Of(moment.seconds) * seconds_a_day + Second_Of_Day(start_.seconds);
-    return moment.utc && !start_.utc ? moment.seconds + Ahead(moment.seconds) : moment.seconds;
+    return moment.utc && !start_.utc ? moment.seconds + Utc_Offset(moment.seconds) : moment.seconds;
 }
 
 /// Returns whether a repetition is one of the moments. A date stands for its whole day. A moment by another
-/// clock than the start's matches the nearest repetition, because the clock changes of its zone are unknown
-/// here.
+/// clock than the start's matches a repetition less than half a day away, because the clock changes of its
+/// zone are unknown here.
 bool Day_Finder::Is_In(const Moments &moments, std::int64_t moment) const {
     if (moments.empty())
         return false;
@@ -139,7 +139,7 @@ bool Day_Finder::Is_In(const Moments &moments, std::int64_t moment) const {
         return true;
     if (!start_.timed)
         return Has(moments, {day, true, false}, end) || Has(moments, {day, true, true}, end);
-    const std::int64_t other = start_.utc ? Local_Seconds(moment) : moment - Ahead(moment);
+    const std::int64_t other = start_.utc ? Local_Seconds(moment) : moment - Utc_Offset(moment);
     return Has(moments, {moment, true, start_.utc}, moment) ||
            Has(moments, {other - half_a_day + 1, true, !start_.utc}, other + half_a_day - 1);
 }
@@ -149,7 +149,8 @@ bool Day_Finder::Is_Removed(std::int64_t moment) const {
            (own_replacements_ != nullptr && Is_In(own_replacements_->moments, moment));
 }
 
-/// Collects the repetitions of the event. Returns false if one of its rules is not supported.
+/// Sets `yearly_` for a plain yearly event, and otherwise fills `repetitions_`. Returns false if one of the
+/// event's rules is not supported.
 bool Day_Finder::Find_Repetitions() {
     repetitions_.clear();
     if (event_->unsupported)
@@ -179,7 +180,7 @@ bool Day_Finder::Find_Repetitions() {
 
 /// Adds the days from `first` to `last` on which a repetition falls. A repetition that ends at midnight does
 /// not include the day that begins then.
-void Day_Finder::Add_Days(std::int64_t begin, std::int32_t first, std::int32_t last, bool every_year_again,
+void Day_Finder::Add_Days(std::int64_t begin, std::int32_t first, std::int32_t last, bool for_every_year,
                           Event_Days &result) {
     const std::int64_t local_begin = start_.utc ? Local_Seconds(begin) : begin;
     const std::int64_t local_end = start_.utc ? Local_Seconds(begin + length_) : begin + length_;
@@ -188,11 +189,11 @@ void Day_Finder::Add_Days(std::int64_t begin, std::int32_t first, std::int32_t l
     const auto minute = static_cast<std::int16_t>(start_.timed ? Second_Of_Day(local_begin) / 60 : -1);
     last = std::min({last, end_day, begin_day + static_cast<std::int32_t>(most_days) - 1});
     for (std::int32_t day = std::max(first, begin_day); day <= last; ++day) {
-        const bool again = day_count_ > 0 && day <= last_day_ && result.days.back().minute == minute;
-        if (again || day_count_ == most_repeated_days)
+        const bool is_added = day_count_ > 0 && day <= last_day_ && result.days.back().minute == minute;
+        if (is_added || day_count_ == most_repeated_days)
             continue;
         Date date = Date_Of(day);
-        if (every_year_again)
+        if (for_every_year)
             date.year = every_year;
         result.days.push_back({index_, minute, date});
         last_day_ = std::max(last_day_, day);

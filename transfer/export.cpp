@@ -17,7 +17,7 @@ struct Kind_Row {
     const char *title;
     const char *filter;
     const char *extension;
-    const char *to; ///< ends the closing message; for events, their number precedes it
+    const char *to; ///< the end of the closing message; for events, their number precedes it
 };
 
 constexpr std::array<Kind_Row, 5> kinds{
@@ -79,8 +79,9 @@ std::string Text_Bytes(const std::vector<Event> &events, Progress &progress) {
     return bytes;
 }
 
-/// Sets `bytes` to the content of the file, except for a copy of the data file, and `message` to the closing
-/// message without the file's name. If there is nothing to export, shows a message and returns false.
+/// Sets `bytes` to the content of the new file, and `message` to the closing message without the file's name.
+/// Leaves `bytes` empty for the data file, which is copied. If nothing can be exported, shows a message and
+/// returns false.
 bool Make_Content(Export_Kind kind, Callback_Ref<Settings()> shown, Progress &progress, std::string &bytes,
                   std::string &message) {
     const std::string to = kinds[static_cast<std::size_t>(kind)].to;

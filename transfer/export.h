@@ -1,5 +1,5 @@
-// Exporting the events, the configuration and the data file to files that the user names. configuration.h and
-// icalendar.h define two of the formats.
+// Exporting the events, the configuration and the data file to files that the user chooses. configuration.h
+// and icalendar.h define two of the formats.
 #pragma once
 
 #include "base/callback.h"

@@ -61,7 +61,8 @@ std::string Event_Text(const Text_Parts &parts) {
     return In_One_Line(Joined({name, place.empty() ? "" : ", ", place}));
 }
 
-/// Adds the moments of a list. A period, which contains a slash, counts with its beginning.
+/// Appends the moments of a comma-separated list to `moments`. A period, written "begin/end", counts as its
+/// beginning.
 void Read_Moments(std::string_view list, std::vector<Moment> &moments) {
     while (!list.empty()) {
         const std::size_t end = std::min(list.find(','), list.size());

@@ -56,7 +56,7 @@ private:
 std::string_view Parameter(const Content_Line &line, std::string_view name);
 
 /// Returns a text with its escapes resolved: \n is a line break, and \, \; \\ are the characters themselves.
-/// So is \", which some programs write needlessly.
+/// Also resolves \", which some programs write needlessly.
 std::string Unescape(std::string_view value);
 
 /// One VEVENT.
@@ -65,11 +65,11 @@ struct Calendar_Event {
     std::string text; ///< to be shown in the calendar, without a time; empty: the event has no name
     std::optional<Moment> start;
     std::optional<Moment> end;
-    std::optional<std::int64_t> duration;
-    std::optional<Moment> replaces; ///< the repetition that this event replaces
-    std::string zone;               ///< of `start`, as named in the file
+    std::optional<std::int64_t> duration; ///< in seconds
+    std::optional<Moment> replaces;       ///< the repetition that this event replaces
+    std::string zone;                     ///< of `start`, as named in the file
     std::vector<std::string> rules;
-    std::vector<Moment> added;   ///< in addition to those of the rules
+    std::vector<Moment> added;   ///< repetitions in addition to those of the rules
     std::vector<Moment> removed; ///< excluded from the repetitions
     bool cancelled = false;
     bool unsupported = false; ///< has a kind of rule that is not supported
@@ -78,12 +78,13 @@ struct Calendar_Event {
 /// The contents of a calendar file.
 struct Calendar_File {
     std::vector<Calendar_Event> events; ///< in file order
-    /// The offset of each zone from UTC in seconds: its largest, which is that of summer time if it has one.
+    /// The offset of each zone from UTC in seconds. If a zone has several, this is the largest, that of
+    /// summer time.
     std::unordered_map<std::string, std::int64_t> zones;
 };
 
-/// Reads a file of one or more calendars. Throws ICalendar_Error if the file contains no calendar, or if the
-/// beginnings and ends of its components do not match.
+/// Returns the contents of a file of one or more calendars. Throws ICalendar_Error if the file contains no
+/// calendar, or if the beginnings and ends of its components do not match.
 Calendar_File Read_ICalendar(std::string_view bytes, Progress &progress);
 
 /// Returns the bytes of a calendar file with these events as all-day events, in their order.

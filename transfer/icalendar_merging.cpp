@@ -84,20 +84,20 @@ private:
     bool any_yearly_ = false;
 };
 
-/// The texts that were merged into yearly records, by day and month.
-using Taken_Events = std::unordered_map<std::string, std::vector<Event>>;
+/// The events that were merged into yearly records, by day and month.
+using Yearly_Events = std::unordered_map<std::string, std::vector<Event>>;
 
-/// A day shows only its last record. So each record of a single date also gets the texts that were merged
-/// into a yearly record for that date, and new yearly records, those from `first_new` on, move to the front
-/// if they would hide such a record.
-void Uncover_Days(std::vector<std::string> &records, std::size_t first_new, const Taken_Events &taken) {
+/// Keeps all texts of a day visible, although a day shows only its last record. Adds to each record of a
+/// single date the texts that were merged into a yearly record for that date. Moves each new yearly record
+/// (index `first_new` or later) to the front if it would hide such a record.
+void Uncover_Days(std::vector<std::string> &records, std::size_t first_new, const Yearly_Events &in_yearly) {
     std::unordered_set<std::string> of_both_kinds;
     Event_Record parts;
     for (std::string &record : records) {
         if (!Parse_Record(record, parts) || Is_Yearly(parts.key))
             continue;
-        const auto found = taken.find(Day_And_Month(parts.key));
-        if (found == taken.end())
+        const auto found = in_yearly.find(Day_And_Month(parts.key));
+        if (found == in_yearly.end())
             continue;
         of_both_kinds.insert(found->first);
         const std::string key(parts.key);
@@ -127,7 +127,7 @@ Join_Counts Join_Events(const Calendar_File &file, const Event_Days &days,
     for (const std::string &record : records)
         if (Parse_Record(record, parts))
             texts.Add(parts.key, parts.text);
-    Taken_Events taken;
+    Yearly_Events in_yearly;
     Join_Counts counts;
     counts.unsupported = days.unsupported;
     auto day = days.days.begin();
@@ -140,11 +140,11 @@ Join_Counts Join_Events(const Calendar_File &file, const Event_Days &days,
                 continue;
             merger.Merge(event);
             if (Is_Yearly(event.key))
-                taken[Day_And_Month(event.key)].push_back(event);
+                in_yearly[Day_And_Month(event.key)].push_back(event);
             joined = true;
         }
         ++(joined ? counts.imported : has_days ? counts.already_there : counts.skipped);
     }
-    Uncover_Days(records, first_new, taken);
+    Uncover_Days(records, first_new, in_yearly);
     return counts;
 }

@@ -16,5 +16,5 @@ struct Join_Counts {
     std::size_t unsupported = 0;   ///< on their first day only, because their repetition is not supported
 };
 
-/// Merges each event of a calendar file into the records of those of its days that do not have its text yet.
+/// Merges each event of a calendar file into the records of its days. Skips days that have its text already.
 Join_Counts Join_Events(const Calendar_File &file, const Event_Days &days, std::vector<std::string> &records);

@@ -32,8 +32,8 @@ public:
     explicit Backup(std::vector<std::string> &records)
         : records_(records), before_(records), file_was_there_(Backup_Data()) {}
     /// Restores the records, and also the data file if the import `may_have_written` it, and deletes the
-    /// copy. If there was no data file, there is none again; a copy from an earlier import is neither
-    /// restored nor deleted then, because it may be all that the user has.
+    /// copy. If there was no data file before, deletes a new one, but leaves a copy from an earlier import
+    /// alone, because it may be all that the user has.
     void Restore(bool may_have_written) const {
         records_ = before_;
         if (!file_was_there_) {
@@ -109,7 +109,8 @@ void Importer::Import_CSV() {
         stage = Reading;
         change.emplace(calendar_.Events.Changes, "Import");
         Stage_Events(platform::Read_File(dialog_.FileName), staged);
-        // Back up again: a session that was about to end may have stored unsaved text since.
+        // Back up again: since the first backup, a Windows session about to end may have made the editor save
+        // its text.
         backup.emplace(calendar_.Events.Temp_Lst);
         writes_ = calendar_.Events.Writes();
         stage = Merging;
@@ -126,14 +127,15 @@ void Importer::Import_CSV() {
     } catch (const std::exception &) {
         try {
             // If the copy failed, data.bak may be from an earlier import and must not be restored. A text
-            // saved after the import's last write stays, and so do the events before it.
+            // that was saved after the import's last write stays, and so do the events imported before it.
             if (backup && (stage < Merging || calendar_.Events.Writes() == writes_))
                 backup->Restore(stage >= Merging);
         } catch (const std::exception &) { // data.bak stays for the user
         }
         change.reset();
         if (stage == Reading || stage == Merging) {
-            // List the events before the error, although the counts are those of the restored file.
+            // List the events that were read before the error, although the counts are those of the restored
+            // file.
             for (Event &event : staged)
                 event.key.clear(); // marks the event as not in the file
             Show_Staged_Events(std::move(staged));
@@ -143,9 +145,9 @@ void Importer::Import_CSV() {
     }
 }
 
-/// Stages the events of a file; this is nine tenths of the work. Keeps each date beside its text instead of
-/// reading it back from the list's line: a short date format with a two-digit year, or one that the system
-/// cannot read, would change the day. For other formats the result is the same.
+/// Appends the events of a file to `staged`; this is nine tenths of the work. Keeps each event as a date and
+/// a text. A date read back from its line in the list could be another day, if the short date format has a
+/// two-digit year or is one that the system cannot read.
 void Importer::Stage_Events(const std::string &bytes, std::vector<Event> &staged) {
     CSV_Lines lines(bytes);
     if (!Check_CSV_Headings(lines.Next_Line(), columns_))
@@ -158,10 +160,10 @@ void Importer::Stage_Events(const std::string &bytes, std::vector<Event> &staged
     }
 }
 
-/// Merges in memory. Each event should be in the data file as soon as it is merged, but the file is written
-/// only when someone could notice: at the end, and before windows are painted. It always holds the result of
-/// some number of events, even if the program is killed. While windows are painted, a session that ends may
-/// store unsaved text, so the file is loaded again afterwards.
+/// Merges the staged events in memory. Writes the data file only when the user could notice a difference:
+/// before windows are painted, and at the end. The file always holds the first events up to some number, even
+/// if the program is killed. While windows are painted, a session that ends may store unsaved text, so the
+/// file is loaded again afterwards.
 void Importer::Merge_Imported(std::vector<Event> &staged) {
     std::size_t i = 0;
     do {
@@ -260,7 +262,7 @@ void Importer::Import_Data_File() {
             On_Data_File_Replaced();
         }
         calendar_.Redraw();
-        // The message also follows No and Cancel.
+        // This message appears after No and Cancel, too.
         platform::Message_Box("Successfully imported data file from...\r\n\r\n" + dialog_.FileName,
                               platform::Box_Icon::Information);
     } catch (const std::exception &) {

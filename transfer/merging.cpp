@@ -9,9 +9,9 @@
 
 namespace {
 
-/// Removes the event's text and an adjacent joint from `record`. Returns false if the text is not at its
+/// Removes the event's text and an adjacent separator from `record`. Returns false if the text is not at its
 /// place.
-bool Part_From(std::string &record, const Event &event) {
+bool Remove_Text(std::string &record, const Event &event) {
     std::size_t begin = event.key.size() + 1 + event.place;
     std::size_t length = event.text.size();
     const std::string_view whole = record;
@@ -69,9 +69,9 @@ bool Unmerge(std::vector<std::string> &records, std::vector<Event> &staged, std:
         Event_Record parts;
         return Parse_Record(each, parts) && parts.key == event.key;
     });
-    if (event.key.empty() || record == records.end() || !Part_From(*record, event))
+    if (event.key.empty() || record == records.end() || !Remove_Text(*record, event))
         return false;
-    // The texts after it move forward.
+    // The texts after the removed one move forward.
     for (Event &other : staged)
         if (other.key == event.key && other.place > event.place)
             other.place -= event.text.size() + text_separator.size();

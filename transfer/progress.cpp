@@ -4,9 +4,10 @@
 
 namespace {
 
-constexpr unsigned first_wait = 1000;
+constexpr unsigned first_wait = 1000; ///< in milliseconds
 constexpr unsigned next_wait = 500;
-constexpr unsigned steps_a_look = 64; ///< reading the clock takes longer than a step
+/// Steps between two readings of the clock, because a reading takes longer than a step.
+constexpr unsigned steps_per_reading = 64;
 
 } // namespace
 
@@ -17,7 +18,7 @@ void Progress::Begin() {
 }
 
 bool Progress::Due() {
-    return ++steps_ % steps_a_look == 0 && platform::Milliseconds() - start_time_ >= wait_;
+    return ++steps_ % steps_per_reading == 0 && platform::Milliseconds() - start_time_ >= wait_;
 }
 
 void Progress::Show(std::size_t done, std::size_t total) {

@@ -25,8 +25,7 @@ bool Read_Number(std::string_view text, Integer least, Integer most, Integer &nu
            number <= most && !text.empty();
 }
 
-/// Removes the text up to and including the next `separator` from the beginning of `text`. Returns that text
-/// without the separator.
+/// Removes the first field of `text` and the separator after it. Returns the field.
 std::string_view Next_Field(std::string_view &text, char separator) {
     const std::size_t end = std::min(text.find(separator), text.size());
     const std::string_view part = text.substr(0, end);
@@ -141,7 +140,7 @@ bool At_Time_Of_Start(const Recurrence &rule, const Moment &start) {
 }
 
 /// Returns whether a list is empty or contains `number`, counted from 1, or its negative form, counted from
-/// the end of `all`.
+/// the end of `all` numbers.
 bool Allows(const std::vector<int> &numbers, int number, int all) {
     return numbers.empty() || std::any_of(numbers.begin(), numbers.end(), [=](int each) {
                return each == number || each == number - all - 1;
@@ -200,7 +199,7 @@ bool Allows_Day(const Recurrence &rule, std::int32_t day) {
            Allows_Weekday(rule, date, day - new_year + 1, length) && Allows_Week(rule, day, date.year);
 }
 
-/// The periods of a rule, numbered from that of its start.
+/// The periods of a rule. Number 0 is the period of its start.
 class Periods {
 public:
     Periods(const Recurrence &rule, std::int32_t start)

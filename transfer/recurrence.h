@@ -17,7 +17,7 @@ struct Moment {
     bool utc = false; ///< in Coordinated Universal Time (UTC) instead of local time
 };
 
-/// Return the day of a time in seconds, and the seconds since the beginning of that day.
+/// Returns the day of a time in seconds, or the seconds since the beginning of that day.
 std::int32_t Day_Of(std::int64_t seconds);
 std::int64_t Second_Of_Day(std::int64_t seconds);
 
@@ -52,10 +52,10 @@ struct Recurrence {
         List_Count
     };
     Frequency frequency = Daily;
-    std::int64_t interval = 1;
+    std::int64_t interval = 1; ///< in the unit of `frequency`
     std::optional<std::int64_t> count;
     std::optional<Moment> until; ///< the latest possible repetition
-    int week_start = 1;
+    int week_start = 1;          ///< Sunday = 0
     std::array<std::vector<int>, List_Count> numbers;
     std::vector<Repeated_Weekday> weekdays;
 };
@@ -69,6 +69,6 @@ bool Is_Plain_Yearly(const Recurrence &rule, const Moment &start);
 
 /// Appends the moments of the rule on the days `first` to `last` to `moments`, in order, at most `most` of
 /// them. Moments are by the clock of `start`, UTC or local, and `until` must be by the same clock. Returns
-/// false and adds nothing if the rule has a count and starts too long before `first` to be counted.
+/// false and adds nothing if the rule has a count and starts more than a hundred years before `first`.
 bool Expand_Recurrence(const Recurrence &rule, const Moment &start, std::int32_t first, std::int32_t last,
                        std::size_t most, std::vector<std::int64_t> &moments);

@@ -1,5 +1,5 @@
-// The smallest window program: one window with one painted text. The calendar's figures are compared with it.
-// It is not part of the product and measures nothing itself.
+// The smallest window program: one window with one painted text. tools/figures.sh compares the calendar with
+// it. It is not part of the product and measures nothing itself.
 
 #include <windows.h>
 

@@ -26,7 +26,7 @@ void Paint(HWND dialog) {
     SendMessageW(dialog, WM_NULL, 0, 0); // waits for painting that the dialog has begun by itself
 }
 
-INT_PTR CALLBACK Do_The_Usual(HWND, UINT, WPARAM, LPARAM) {
+INT_PTR CALLBACK Dialog_Procedure(HWND, UINT, WPARAM, LPARAM) {
     return FALSE;
 }
 
@@ -39,7 +39,7 @@ double Open_Empty(const RECT &client) {
     } words{};
     words.head.style = WS_CAPTION | WS_SYSMENU | WS_POPUP;
     const HWND dialog =
-        CreateDialogIndirectParamW(GetModuleHandleW(nullptr), &words.head, nullptr, Do_The_Usual, 0);
+        CreateDialogIndirectParamW(GetModuleHandleW(nullptr), &words.head, nullptr, Dialog_Procedure, 0);
     SetWindowPos(dialog, nullptr, 0, 0, client.right, client.bottom, SWP_NOZORDER);
     ShowWindow(dialog, SW_SHOW);
     Paint(dialog);

@@ -1,5 +1,6 @@
-// Starts programs in turn and times each start until the first window is painted. Or starts one program,
-// counts its objects and keeps it running while a script reads its memory and processor time from the host.
+// In mode "starts", starts programs in turn and times each start until the first window is painted. In mode
+// "hold", starts one program, counts its objects and keeps it running while a script reads its memory and
+// processor time from the host.
 //
 //   program_figures starts ROUNDS PROGRAM CLASS [PROGRAM CLASS...]
 //   program_figures hold SECONDS PROGRAM CLASS
@@ -31,8 +32,8 @@ struct Subject {
     std::wstring Folder() const { return path.substr(0, path.find_last_of(L'\\')); }
 };
 
-/// Returns the visible window of a class, also from inside the desktop, where the calendar may be. Makes few
-/// calls, because each costs the Wine server time.
+/// Returns the visible window of a class, or null. Looks on top level and then inside "Progman", where the
+/// calendar may be. Makes few calls, because each costs the Wine server time.
 HWND Visible_Window(const std::string &window_class) {
     HWND window = FindWindowA(window_class.c_str(), nullptr);
     if (!window)
@@ -84,9 +85,9 @@ double Quartile(std::vector<double> values, std::size_t quarter) {
     return values[(values.size() - 1) * quarter / 4];
 }
 
-/// Prints the times of each program, also relative to the first program, which started just before under the
-/// same load.
-void Tell_Starts(const std::vector<Subject> &subjects) {
+/// Prints the times of each program, also relative to the first program, which ran in the same round under
+/// the same load.
+void Print_Starts(const std::vector<Subject> &subjects) {
     for (const Subject &subject : subjects) {
         std::vector<double> ratios = subject.times;
         for (std::size_t i = 0; i < ratios.size(); ++i)
@@ -112,7 +113,7 @@ bool Measure_Starts(int rounds, std::vector<Subject> subjects) {
             if (round < 0)
                 subject.times.clear();
         }
-    Tell_Starts(subjects);
+    Print_Starts(subjects);
     return true;
 }
 

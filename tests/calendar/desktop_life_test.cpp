@@ -18,7 +18,7 @@ protected:
         Shell() = {.desktop = 11, .view = 12, .list = 13, .colours = {{-1, 0}}, .web_pages = {}};
     }
 
-    /// Drags the title in two steps and releases it.
+    /// Drags the title by these twips, in two steps, and releases it.
     void Drag(int right, int down) {
         const Point from{form.Left() + form.Width() / 2, form.Top() + 90};
         const auto mouse = [&](Input_Kind kind, int x, int y) { // x and y count from the start of the drag
@@ -185,7 +185,7 @@ TEST_F(Desktop_Life, a_yes_makes_the_position_manual_and_a_no_lasts_until_the_ne
     }
     EXPECT_EQ(Stored("Alignment") + Stored("Use Theme Pos"), "70");
     Desktop().work_area = {-10000, -10000, 20000, 20000};
-    Drag(40000, -60000); // beyond 16 bits: only the stored position is limited to them
+    Drag(40000, -60000); // beyond 16 bits, to which only the stored position is limited
     EXPECT_EQ(Stored("Manual_PosX") + Stored("Manual_PosY"), "32767-32768");
     for (const int expected : {left - 300 + 40000, 32767}) { // the position holds until another is chosen
         form.Redraw();

@@ -63,7 +63,7 @@ TEST_F(Lifecycle, a_change_of_date_brings_today_back_and_may_alert_again) {
     Fakes().Expect_Box("Today: 5/3/2002\r\nMarch");
     Desktop().Say(Broadcast::Time_Changed);
     EXPECT_EQ(Box_Of(5).Access().name, "Tuesday 5th March 2002, today");
-    // If the file cannot be read, the program says only that.
+    // If the file cannot be read, only that error is shown, and not "No event.".
     Data_File().clear();
     for (const char *told : {"Today: 5/3/2002\r\nNo event.", "Error loading in data file."}) {
         Fakes().Expect_Box(told);

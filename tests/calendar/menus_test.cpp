@@ -41,10 +41,10 @@ TEST_F(Menus, of_a_day) {
     EXPECT_EQ(Text_Of(6) + Box_Of(6).Tooltip() + Box_Of(6).Access().value, "");
     EXPECT_EQ(Data_File(), "\"6/3/9999=second\"\r\n\"7/3/2002=other\"\r\n");
     Choose(8, 1);
-    Choose(1, 2, [this] { Press_Key(form, 123); }); // compact mode begins under the menu
+    Choose(1, 2, [this] { Press_Key(form, 123); }); // compact mode begins while the menu is open
     EXPECT_TRUE(Fakes().writes == 1 && edited == std::vector<int>{5});
     Press_Key(form, 123);
-    // If the month changes under the menu, the chosen item does nothing to the day now in that box.
+    // If the month changes while the menu is open, the chosen item does nothing to the day now in that box.
     edited.clear();
     Show_Month(3, 2002);
     Events({"20/3/2002=a", "24/4/2002=b", "20/4/2002=c", "16/3/2002=d"});

@@ -62,7 +62,7 @@ TEST_F(Month_Grid, alerts_once_a_day_of_the_first_event_in_the_file) {
     Events({"5/3/2001=long ago", "5/3/9999=Birthday", "5/3/2002=Dentist"});
     Fakes().Expect_Box("Today: 5/3/2002\r\nBirthday", platform::Box_Answer::Ok, [this] {
         EXPECT_EQ(Text_Of(5), "Birthday"); // events read so far show behind the box
-        form.Load_Dates();                 // loading again under the box brings no second alert
+        form.Load_Dates();                 // loading again while the box is open brings no second alert
     });
     Start();
     // The alert does not depend on the displayed month, only on the setting.

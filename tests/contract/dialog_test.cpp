@@ -255,7 +255,7 @@ TEST_F(Dialog_Contract, Beside_A_Message_Box_Nothing_Changes) {
     EXPECT_TRUE(Send(Check, BM_GETCHECK) == BST_UNCHECKED && Send(Tabs, TCM_GETCURSEL) == -1);
 }
 
-/// The picture shows its own colour, and the page's where it paints nothing. Later controls lie above it.
+/// Where the picture paints nothing, it shows the colour of the page. Later controls lie above it.
 TEST_F(Dialog_Contract, What_Paints_Itself_Lies_On_The_Page) {
     const HDC screen = GetDC(nullptr);
     const win32::Unique_Memory_Dc dc(CreateCompatibleDC(screen));

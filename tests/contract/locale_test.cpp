@@ -56,8 +56,7 @@ TEST_F(Locale_Contract, Dates_Are_Read_In_The_Order_Of_The_Form) {
 TEST_F(Locale_Contract, Older_Texts_Are_Those_Of_The_Systems_Code_Page) {
     // The tests run with a Western code page natively and on Windows. Undefined bytes keep their value.
 #ifdef _WIN32
-    EXPECT_EQ(GetACP(), 1252U)
-        << "all these tests show that texts survive where the process's page is not theirs";
+    EXPECT_EQ(GetACP(), 1252U) << "the tests of texts outside the code page need a Western one";
 #endif
     EXPECT_EQ(platform::Ansi_To_Utf8("a|\xE9\x80\x9F \x81"), "a|\u00E9\u20AC\u0178 \u0081");
 }

@@ -1,5 +1,5 @@
-// What only Windows can show: file attributes and sharing, long names, types of registry values, pictures,
-// the native message box, and dates compared with the system's.
+// Tests without a counterpart on the fakes: file attributes and sharing, long names, types of registry
+// values, pictures, the native message box, and dates compared with the system's.
 #ifdef _WIN32
 #include "platform/files.h"
 #include "platform/locale.h"
@@ -138,7 +138,7 @@ TEST_F(Windows_Only, A_Start_From_The_Temporary_Folder_Is_Seen) {
     SetEnvironmentVariableW(L"TMP", before);
 }
 
-/// Older systems accept long paths only with the prefix. Invalid paths are refused.
+/// Long paths get the prefix that older systems need. Invalid paths are refused.
 TEST_F(Windows_Only, Names_Are_Given_In_The_Form_That_The_System_Takes) {
     const std::string part(300, 'x');
     const std::wstring wide_part(300, L'x');
@@ -189,7 +189,7 @@ TEST_F(Windows_Only, All_Kinds_Of_Stored_Texts_And_Numbers_Are_Read) {
     EXPECT_THROW(platform::Write_User_Value(std::string(300, 'k'), "Value", "1"), platform::Registry_Error);
 }
 
-/// The button to press in a message box, and what the box showed before that.
+/// The message box that Visit answers, the button to press, and what Visit saw before.
 struct Box_Visit {
     std::wstring title;
     WPARAM button;

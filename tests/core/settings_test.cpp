@@ -21,7 +21,7 @@ std::string Load_Error() {
 }
 
 /// Section, key and default of every setting in the order of the table.
-const std::string told =
+const std::string expected_table =
     "Settings\\Style=1;Settings\\Alignment=0;Colours\\Today=16761024;Colours\\Normal=16777215;"
     "Colours\\Fore=16777215;Colours\\Num=-2147483630;Colours\\Text=-2147483630;Colours\\Back=8390687;"
     "Colours\\Menu Colour Source=1;Settings\\Pack Name=Default;Settings\\Use Themes=0;"
@@ -37,7 +37,7 @@ TEST_F(Settings_Test, Table_And_First_Run) {
     std::string table;
     for (const Setting_Row &row : Setting_Rows())
         table += std::string(row.section) + "\\" + row.key + "=" + Setting_Text(Cur_Settings, row) + ";";
-    EXPECT_EQ(table, told);
+    EXPECT_EQ(table, expected_table);
     EXPECT_EQ(Fakes().registry_writes, 0);
 }
 

@@ -1,5 +1,5 @@
 // The calendar inside the shell's desktop: its parent, colours and region, and its end and return with the
-// shell. The tests exchange the stand-in for the shell.
+// shell. The tests replace the stand-in for the shell with others.
 #include "tests/desktop/driver.h"
 
 #include <windows.h>
@@ -139,7 +139,8 @@ TEST_F(Attachment, Follows_The_View_Of_Icons) {
             }
             if (place.empty() && Wait_Until([&] { return Place_Of(program.Calendar()).starts_with("in"); })) {
                 place = Place_Of(program.Calendar());
-                // Far to the right: Wine 10 shows as much less of the left as the desktop's origin is off.
+                // Look far to the right: Wine 10 cuts off the calendar's left by the offset of the desktop's
+                // origin.
                 header = Middle(program.Named("Saturday").place);
             }
             ASSERT_TRUE(Becomes(
@@ -185,7 +186,7 @@ TEST_F(Attachment, Comes_Back_With_The_Next_Shell_And_Asks_For_The_Users_Text_Fi
     ASSERT_TRUE(Becomes(std::ptrdiff_t{1}, windows(next))) << "the splash window stays";
     loses_shell_with_text(next);
     next.Answer(IDCANCEL);
-    // 104 is OK. Until it is clicked, only the editor keeps the program running.
+    // 104 is the OK button. Until it is clicked, only the editor keeps the program running.
     Click_On(GetDlgItem(next.Window("Vellatro_Edit_Frm"), 104), [&] { return windows(next)() == 0; });
     EXPECT_EQ(Data(), "\"1/5/2027=kept\"\r\n");
     PostMessageA(FindWindowA("Vellatro_Broadcasts", nullptr), WM_CLOSE, 0, 0);

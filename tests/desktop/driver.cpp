@@ -1,5 +1,5 @@
-// How the driver observes the program: through windows, MSAA and pixels, which work across processes, and
-// through /proc for what only Wine's host knows. driver_input.cpp has mouse and keyboard.
+// The driver's observation of the program: by windows, accessible objects (MSAA) and pixels, which work
+// across processes, and by the host's /proc. driver_input.cpp has mouse and keyboard.
 #include "tests/desktop/driver.h"
 
 #include <windows.h>
@@ -53,7 +53,7 @@ struct Release {
 
 using Accessible = std::unique_ptr<IAccessible, Release>;
 
-/// Returns null if the window does not answer.
+/// Returns the window's accessible object, or null if the window does not answer.
 Accessible Accessible_Of(HWND window) {
     DWORD_PTR answer = 0;
     void *object = nullptr;
@@ -108,7 +108,7 @@ std::string Icon_Of(HWND icon) {
     RECT place;
     GetWindowRect(icon, &place);
     const Picture screen;
-    long red = 0; // minus blue, as is green
+    long red = 0; // red minus blue, summed over the icon; `green` likewise
     long green = 0;
     for (LONG y = place.top; y < place.bottom; ++y)
         for (LONG x = place.left; x < place.right; ++x) {
@@ -153,7 +153,7 @@ double Milliseconds_Now() {
 }
 
 std::ptrdiff_t Gdi_Objects(HANDLE process) {
-    // Wine does not count them, but every process has a table of its own.
+    // Wine does not count GDI objects, but the memory of every process has its table of them.
     struct Entry {
         ULONG64 object;
         ULONG owner;
@@ -278,7 +278,7 @@ HWND Program::Window(std::string_view class_name) const {
     return nullptr;
 }
 
-// Each property costs a call into the other process, so the role is checked first.
+// Checks the role first, because each property costs a call into the other process.
 std::vector<Item> Program::Items(long role, std::size_t most) const {
     std::vector<Item> items;
     if (const Accessible accessible = Accessible_Of(Calendar()))

@@ -16,7 +16,7 @@
 #include <utility>
 #include <vector>
 
-/// What assistive technology learns of one part of the calendar, or of a control.
+/// A part of the calendar, or a control, as assistive technology sees it.
 struct Item {
     long role = 0;
     long state = 0;
@@ -52,8 +52,7 @@ void Send_Text(std::string_view ascii);
 /// Clicks the middle of a dialog's control once nothing covers it, and waits until `done` returns true.
 void Click_On(HWND window, const std::function<bool()> &done);
 bool Has_Keyboard(HWND window);
-/// Returns what assistive technology learns of a dialog's control. With `act`, first asks for its default
-/// action.
+/// Returns a dialog's control as assistive technology sees it. With `act`, first performs its default action.
 Item Item_Of(HWND control, bool act = false);
 std::string Text_Of(HWND window); ///< also of a control; empty if the window does not answer
 
@@ -146,8 +145,8 @@ protected:
     void SetUp() override;
     void TearDown() override;
 
-    /// Replaces the stand-in for the shell by one with these command line options, and Bare_Screen by its
-    /// desktop.
+    /// Replaces the stand-in for the shell with one that has these command line options, and Bare_Screen with
+    /// its desktop.
     static void Exchange_Shell(const std::wstring &options);
     static void Kill_Shell();
 

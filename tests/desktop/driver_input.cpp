@@ -15,8 +15,8 @@ void Send_Key_Event(WORD key, DWORD flags) {
     SendInput(1, &input, sizeof input);
 }
 
-/// Raises the window above all others. It changes its place twice, because Wine does not raise a window that
-/// stays.
+/// Raises the window above all others. Changes the window's place in the order twice, because Wine does not
+/// raise a window whose place stays the same.
 void Raise(HWND window) {
     for (const HWND place : {HWND_TOPMOST, HWND_NOTOPMOST})
         SetWindowPos(window, place, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
@@ -34,8 +34,8 @@ POINT Middle(const RECT &place) {
     return {(place.left + place.right) / 2, (place.top + place.bottom) / 2};
 }
 
-// Each event holds place and button together: otherwise a late X event about an earlier place could move the
-// mouse in between.
+// Puts place and button into one event: otherwise a late X event about an earlier place could move the mouse
+// in between.
 void Send_Mouse(const std::vector<std::pair<POINT, DWORD>> &steps) {
     std::vector<INPUT> inputs;
     for (const auto &[point, flags] : steps) {

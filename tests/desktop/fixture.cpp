@@ -77,14 +77,15 @@ void Desktop_Test::SetUp() {
     CreateDirectoryW(folder_.c_str(), nullptr);
     ASSERT_TRUE(CopyFileW(Program_Path.c_str(), Path_Of(L"vellatro.exe").c_str(), FALSE));
     Clear_Store();
-    // Wine reports earlier mouse positions late, which would make a drag of a click on the title.
+    // Wine reports earlier mouse positions late, which would turn a click on the title into a drag.
     Set_Setting("Settings", "Allow Dragging", "0");
     Set_Regional("sShortDate", "M/d/yyyy");
     Set_Regional("iFirstDayOfWeek", "6");
     Set_Clock(2027, 5, 12, 10, 30, 0);
     SetCursorPos(1, GetSystemMetrics(SM_CYSCREEN) - 2); // away from all windows
     Wait_Until([] { return GetForegroundWindow() == FindWindowA("Progman", nullptr); }, 1000);
-    // Wine 10 paints its own desktop over all windows when the wallpaper changes: the stand-in paints again.
+    // Wine 10 paints its own desktop over all windows when the wallpaper changes, so make the stand-in paint
+    // again.
     ASSERT_TRUE(Wait_Until([] {
         RedrawWindow(FindWindowA("Progman", nullptr), nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
         return Picture().pixels == Bare_Screen->pixels;

@@ -13,7 +13,7 @@ constexpr const wchar_t *run_key = L"Software\\Microsoft\\Windows\\CurrentVersio
 constexpr const char *saturday = "Saturday 15th May 2027";
 constexpr const char *alert = "A&lert me when a date Comes up";
 constexpr const char *use_system = "Use System Colours";
-constexpr int normal_swatch = -7; // its number relative to that option
+constexpr int normal_swatch = -7; // the swatch's identifier, relative to that of the option
 
 /// Returns a control's name. Lists and text boxes take it from the label directly before them, as on Windows,
 /// since Wine's accessible objects do not.

@@ -100,8 +100,8 @@ void Paint_Hung_Up(SIZE size) {
     DeleteObject(picture);
 }
 
-// Repaints the picture and fits all windows to the screen's size, which tests change. It copies no bits,
-// because Wine sometimes waits forever for the X server to do so.
+// Repaints the picture and fits all windows to the screen's size, which tests change. Copies no bits, because
+// Wine sometimes waits forever for the X server to do so.
 void Fill_Screen(SIZE size) {
     Paint_Wallpaper(size);
     Paint_Hung_Up(size);

@@ -46,7 +46,7 @@ TEST_F(Editor, shows_and_saves_the_event_of_a_day) {
         Events({row.before});
         form.Redraw();
         Cur_Settings.Tooltips = row.tick ? 1 : 2;
-        Open(6); // leaving it asks nothing
+        Open(6); // no question about the editor that this replaces
         Open(5);
         EXPECT_EQ(editor.Date_Lbl.Caption() + editor.Message_Txt.Text(),
                   "Tuesday 5th March 2002" + row.shown);
@@ -221,7 +221,7 @@ TEST_F(Editor, keeps_its_day_whatever_the_calendar_shows) {
         Push(editor, editor.Ok_Btn);
         EXPECT_EQ(Records() + Text_Of(5), form.Cur_Month == 3 ? "5/3/2002=kept|kept" : "5/3/2002=kept|");
     }
-    // The clicked day counts, even if the month changes under the question.
+    // The clicked day counts, even if the month changes while the question is open.
     Open(5);
     Type("other");
     Fakes().Expect_Box(question, Box_Answer::Yes, [this] { Show_Month(7, 2010); });

@@ -29,7 +29,7 @@ struct platform::Canvas {
     std::vector<Canvas_Operation> operations;
 };
 
-/// A change that the program told a window of.
+/// A change that the program reported to a window.
 struct Told_Change {
     std::string control; ///< its name; empty for the form itself
     platform::Aspect aspect;
@@ -38,7 +38,7 @@ struct Told_Change {
 
 /// The native window of a form.
 struct Fake_Mirror {
-    bool shown = false; ///< as the program last told it
+    bool shown = false; ///< as the program last set it
     std::vector<Rect> clip;
     bool shown_unclipped = false; ///< it was once visible without a clip or shape
     std::vector<Point> shape;

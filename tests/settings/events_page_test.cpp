@@ -67,7 +67,7 @@ TEST_F(Events_Page_Test, counts_events) {
 TEST_F(Events_Page_Test, lists_events_in_each_order_and_short_date) {
     Events({"9/3/2002=b", "1/1/1600=old", "6/3/9999=a\r\nb\t=\xC3\xA9", "2/2/9998=far", "9/3/2002=c",
             "29/2/yyyy=leap"});
-    // Descending dates. The other two orders are the reverse and that of the file.
+    // Sort by descending date. The other two orders are by ascending date and that of the file.
     Fakes().short_date_pattern = "d. m. yyyy";
     Open();
     Choose(dialog, page.Sort_Cbo, 1);

@@ -125,7 +125,7 @@ TEST_F(Importing, is_taken_back_line_by_line) {
     const std::string yearly = "'25/12/9999=C + a + b + b'\r\n'1/2/2003=C + C'\r\n";
     const struct {
         std::size_t line;
-        std::string after; ///< earlier events stay in the end, also equal ones
+        std::string after; ///< of the data file; earlier events stay to the end, also equal ones
         int selected;
         const char *told = nullptr;
     } steps[] = {{2, "'25/12/9999=C + a + b + b + b'\r\n'1/2/2003=C + C'\r\n'3/3/2003=n + m'\r\n", 2,

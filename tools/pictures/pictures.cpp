@@ -1,6 +1,6 @@
 // Poses the running program for the guide's pictures. Needs a shell stand-in that shows wallpapers (--adopt).
-// Each time, saves the whole screen and prints "picture NAME WIDTHxHEIGHT+X+Y" with the part to show. The
-// environment variable VT_PACK names the folder of the theme pack.
+// For each picture, saves the whole screen and prints "picture NAME WIDTHxHEIGHT+X+Y" with the part to show.
+// The environment variable VT_PACK names the folder of the theme pack.
 #include "tests/desktop/driver.h"
 
 #include <windows.h>

@@ -57,7 +57,7 @@ protected:
         PostMessageW(program_->Calendar(), WM_KEYUP, key, static_cast<LPARAM>(0xC0000001));
     }
 
-    /// Chooses one of the first items of a menu. The last ones include the one that ends the program.
+    /// Chooses one of the first items of a menu. The item that ends the program is further down.
     void Use_Menu() {
         if (!Wait_Until([this] { return Menu() != nullptr; }, 2000))
             return;
@@ -121,7 +121,8 @@ protected:
         std::vector<HWND> parts;
         for (HWND part = GetWindow(Settings(), GW_CHILD); part; part = GetWindow(part, GW_HWNDNEXT)) {
             const std::string text = Text_Of(part);
-            // A manual position could put the calendar off the screen, and there is no web here.
+            // Leave out manual positions, which could put the calendar off the screen, and links, which would
+            // open a browser.
             if (IsWindowVisible(part) && IsWindowEnabled(part) && text.find("anual") == std::string::npos &&
                 !text.starts_with("https:"))
                 parts.push_back(part);
@@ -180,7 +181,8 @@ protected:
         if (WindowFromPoint(point) != program_->Calendar())
             return;
         const int kind = Upto(8);
-        if (kind == 0) // not with the mouse: releasing it over the menu may end the program
+        if (kind == 0) // not with the mouse: a button released over the menu may choose the item that ends
+                       // the program
             return Open_Menu(title);
         Send_Mouse(point, MOUSEEVENTF_LEFTDOWN);
         if (kind == 1 && Wait_Until([this] { return program_->Window("Vellatro_Balloon") != nullptr; }, 500))
@@ -199,7 +201,8 @@ protected:
                                  VK_F12,  VK_LEFT,   VK_RIGHT,  VK_UP, VK_DOWN, VK_PRIOR, VK_NEXT,
                                  VK_HOME, VK_RETURN, VK_DELETE, 'M',   'Y',     VK_APPS});
         const bool menu = key == 'M' || key == 'Y' || key == VK_APPS;
-        // Opened under the mouse, the menu would select its first item, and the next one may end the program.
+        // A menu that opens under the mouse has an item selected already, so the keys that follow could reach
+        // the item that ends the program.
         if (menu)
             Send_Mouse({GetSystemMetrics(SM_CXSCREEN) - 2, 2}, 0);
         Send_Key(key);
