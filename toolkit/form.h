@@ -26,7 +26,7 @@ public:
     int Width() const { return model_.bounds.width; }
     int Height() const { return model_.bounds.height; }
     void Move(int left, int top);
-    /// Returns the position that Move set last or, for a dialog, the position that the user moved it to
+    /// Returns the position that Move set last or, for a dialog, the position to which the user moved it
     /// last.
     Point Requested_Position() const { return {model_.bounds.left, model_.bounds.top}; }
     /// Moves the window back to Requested_Position if another program has moved it. After two failed
@@ -74,7 +74,7 @@ public:
     // Events of the form itself.
     Handler<const platform::Input_Event &> On_Key_Down;
     Handler<const platform::Input_Event &> On_Key_Up;
-    /// The user asked the window to close. If empty, the form closes.
+    /// The user or another program asked the window to close. If empty, the form closes.
     Handler<> On_Close;
     /// The native window was destroyed, but not by Close.
     Handler<> On_Window_Lost;
@@ -105,7 +105,7 @@ private:
     platform::Form_Model model_;
     std::vector<Control *> controls_;
     Control *captured_ = nullptr; ///< receives the mouse events from button down to up
-    platform::Mouse_Button captured_by_ = platform::Mouse_Button::None; ///< the button that began it
+    platform::Mouse_Button captured_by_ = platform::Mouse_Button::None; ///< the button whose press began it
     /// The last press was the second of a double click, and On_Double_Click handled it.
     bool double_clicked_ = false;
     std::optional<std::vector<Rect>> clip_; ///< nullopt: not clipped

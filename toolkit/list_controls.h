@@ -16,7 +16,8 @@ public:
     using Control_Of_Kind::Control_Of_Kind;
 };
 
-/// One of several choices: at most one option button is checked in each frame, and one outside all frames.
+/// An option button (radio button): at most one is checked in each frame, and at most one on the form
+/// itself.
 class Option_Button : public Control_Of_Kind<platform::Control_Kind::Option_Button> {
 public:
     using Control_Of_Kind::Control_Of_Kind;
@@ -78,14 +79,14 @@ public:
     using Control_Of_Kind::Control_Of_Kind;
 };
 
-/// A slider for whole numbers, with a tick mark for each. It starts at the minimum.
+/// A slider for whole numbers, with a tick mark for each number. The first value is the minimum.
 class Slider : public Control {
 public:
     Slider(Container in, const char *name, int minimum, int maximum);
     int Value() const { return state_.value; }
     /// Sets the value, clamped to the slider's range.
     void Set_Value(int value);
-    /// Sets the text that floats beside the thumb during a move.
+    /// Sets the text that floats above the thumb during a move.
     void Set_Text(std::string_view text) { Set_Caption(text); }
     Handler<> On_Change; ///< the user finished a move at a new value
     Handler<> On_Scroll; ///< the user is moving the thumb

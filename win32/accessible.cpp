@@ -108,12 +108,12 @@ long State_Of(HWND window, const Control_State &control) {
     return control.access.current ? state | STATE_SYSTEM_CHECKED : state;
 }
 
-/// The client object of a form, and the enumerator of its children. A client's proxy keeps its first
-/// enumerator as long as the proxy lives, so the enumerator looks up the children on each call.
+/// The client object of a form or of a dialog's painted control, and the enumerator of the form's children.
+/// A client's proxy keeps its first enumerator as long as the proxy lives, so the enumerator looks up the
+/// children on each call.
 class Accessible_Form final : public IAccessible, public IEnumVARIANT {
 public:
-    /// `window` is the form's window, with `only` -1, or the window of the painted control with the index
-    /// `only`.
+    /// `only` is -1 for the window of a form, else the index of the painted control that owns `window`.
     explicit Accessible_Form(HWND window, int only) : window_(window), only_(only) {}
     Accessible_Form(const Accessible_Form &) = delete;
     Accessible_Form &operator=(const Accessible_Form &) = delete;

@@ -1,5 +1,5 @@
-// The hidden window that receives the system's broadcasts and the timers, and the check whether the mouse is
-// taken, which skips timers and defers broadcasts.
+// The hidden window that receives the system's broadcasts and the timers. While the mouse is taken, timers
+// are skipped and broadcasts are deferred.
 #pragma once
 
 #include "win32/handles.h"

@@ -69,8 +69,8 @@ const win32::Pixel_Buffer &Canvas::Pixels() const {
 }
 
 void Canvas::Copy_To(HDC target) const {
-    // The system's drawing calls set the alpha to zero, which is invisible on a window with a surface of its
-    // own.
+    // The system's drawing calls set the alpha to zero, so the pixels would be invisible on a window with a
+    // surface of its own.
     const win32::Pixel_Buffer &all = Pixels();
     std::for_each(all.pixels, all.pixels + std::ptrdiff_t{all.width} * all.height,
                   [](std::uint32_t &pixel) { pixel |= 0xFF000000U; });

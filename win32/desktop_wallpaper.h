@@ -1,5 +1,5 @@
-// Wallpapers on Windows 8 and newer: a picture for each monitor or a slide show, and their position. The
-// registry holds only one path. All functions may be called on any thread.
+// Wallpapers on Windows 8 and newer: a picture for each monitor or a slide show, and the way the pictures
+// fill the screen. The registry holds only one path. All functions may be called on any thread.
 #pragma once
 
 #include <string>

@@ -238,7 +238,7 @@ void Dialog_Window::Release_Focus(const Control_State &changed) {
     if (control == nullptr || !Contains(changed, *control))
         return;
     const Control_State *tabs = Tab_Strip();
-    // If the control is a page, move the focus to the tabs.
+    // If a page was hidden or disabled, move the focus to the tabs.
     if (changed.kind == Control_Kind::Frame && tabs != nullptr &&
         IsWindowEnabled(Control_Window(tabs->index)))
         SendMessageW(window_, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(Control_Window(tabs->index)), TRUE);

@@ -97,8 +97,8 @@ void Delete_Word(HWND edit) {
         SendMessageW(edit, EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(L""));
 }
 
-/// Handles the keys that act otherwise than in the system's edit control. Returns whether the message needs
-/// no further handling.
+/// Handles the keys that a text box treats differently from the system's edit control. Returns whether the
+/// message needs no further handling.
 bool Handle_Key(HWND edit, UINT message, WPARAM wparam) {
     constexpr WPARAM select_all = 1;     // the character of Ctrl+A
     constexpr WPARAM delete_word = 0x7F; // the character of Ctrl+Backspace
@@ -116,8 +116,8 @@ bool Handle_Key(HWND edit, UINT message, WPARAM wparam) {
     return wparam == select_all || wparam == delete_word || (breaks_line && Has_Style(edit, ES_MULTILINE));
 }
 
-/// Handles the messages that act otherwise than in the system's edit control. Returns whether the message
-/// needs no further handling.
+/// Handles the messages that a text box treats differently from the system's edit control. Returns whether
+/// the message needs no further handling.
 bool Handle(HWND edit, UINT message, WPARAM wparam, LRESULT &result) {
     if (message == WM_KEYDOWN || message == WM_CHAR)
         return Handle_Key(edit, message, wparam);

@@ -1,7 +1,7 @@
 // Whole files. Replaces a file by renaming a new file over it. The new file is in the same folder and has
-// ".vellatro-new" after the name. If a killed run leaves a new file behind, the next replacement deletes it.
-// The system renames a file completely or not at all. ReplaceFile would keep the access list, but it is not
-// atomic: between its two steps no file has the name.
+// ".vellatro-new" appended to the name. If a killed run leaves a new file behind, the next replacement
+// deletes it. The system renames a file completely or not at all. ReplaceFile would keep the access list,
+// but it is not atomic: between its two steps no file has the name.
 #include "platform/files.h"
 
 #include "base/joined.h"

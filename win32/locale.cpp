@@ -75,20 +75,20 @@ bool Is_Direction_Mark(wchar_t character) {
 /// '0950', and "y" or "yy" the last two digits. If the format belongs to `another` calendar, the year always
 /// has four digits, so that it is not mistaken for a year of that calendar, and the era and direction marks
 /// are left out.
-std::wstring Form_With_Year(int year, bool another) {
-    const std::wstring form = Locale_Text(LOCALE_SSHORTDATE);
+std::wstring Format_With_Year(int year, bool another) {
+    const std::wstring format = Locale_Text(LOCALE_SSHORTDATE);
     const std::wstring digits = win32::To_Wide(std::to_string(10000 + year).substr(1));
     std::wstring out;
     bool literal = false;
-    for (std::size_t i = 0; i < form.size();) {
-        literal = literal != (form[i] == L'\'');
-        const std::size_t end = std::min(form.find_first_not_of(form[i], i), form.size());
-        if (another && !literal && (form[i] == L'g' || Is_Direction_Mark(form[i]))) {
+    for (std::size_t i = 0; i < format.size();) {
+        literal = literal != (format[i] == L'\'');
+        const std::size_t end = std::min(format.find_first_not_of(format[i], i), format.size());
+        if (another && !literal && (format[i] == L'g' || Is_Direction_Mark(format[i]))) {
             i = end;
             continue;
         }
-        if (form[i] != L'y' || literal) {
-            out += form[i++];
+        if (format[i] != L'y' || literal) {
+            out += format[i++];
             continue;
         }
         out += L'\'' + (another || end - i > 2 ? digits : digits.substr(2)) + L'\'';
@@ -104,15 +104,15 @@ std::wstring Formatted_Date(int year, int month, int day) {
     const bool early = year < First_System_Year;
     const LCID locale = Date_Locale();
     const bool another = locale != LOCALE_USER_DEFAULT;
-    const std::wstring form = early || another ? Form_With_Year(year, another) : std::wstring();
+    const std::wstring format = early || another ? Format_With_Year(year, another) : std::wstring();
     SYSTEMTIME date{};
     date.wYear = static_cast<WORD>(early ? year + 1600 : year);
     date.wMonth = static_cast<WORD>(month);
     date.wDay = static_cast<WORD>(day);
     std::wstring text(128, L'\0');
     const int length =
-        GetDateFormatW(locale, form.empty() ? DATE_SHORTDATE : 0, &date,
-                       form.empty() ? nullptr : form.c_str(), text.data(), static_cast<int>(text.size()));
+        GetDateFormatW(locale, format.empty() ? DATE_SHORTDATE : 0, &date,
+                       format.empty() ? nullptr : format.c_str(), text.data(), static_cast<int>(text.size()));
     text.resize(length > 0 ? static_cast<std::size_t>(length - 1) : 0);
     return text;
 }

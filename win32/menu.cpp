@@ -15,7 +15,7 @@ namespace {
 
 /// Makes the menu show pictures in the check mark column, because no item is ever checked. Removes that
 /// column if the pictures are owner-drawn, because such pictures have a column of their own.
-void Hide_Check_Column(HMENU menu) {
+void Set_Check_Column(HMENU menu) {
     MENUINFO info = {};
     info.cbSize = sizeof info;
     info.fMask = MIM_STYLE;
@@ -86,8 +86,8 @@ private:
 
     static inline Opening_Press *open_ = nullptr;
     HHOOK hook_ = nullptr;
-    DWORD place_;
-    LONG time_; ///< in milliseconds, as in messages
+    DWORD place_; ///< packed screen coordinates, as from GetMessagePos
+    LONG time_;   ///< in milliseconds, as in MSG
     bool held_ = true;
 };
 
@@ -99,7 +99,7 @@ int Track_Popup_Menu(const Form_Model &owner, const std::vector<Menu_Item> &item
     const win32::Unique_Menu menu(CreatePopupMenu());
     if (window == nullptr || !menu)
         return 0;
-    Hide_Check_Column(menu.get());
+    Set_Check_Column(menu.get());
     for (const Menu_Item &item : items)
         Append_Item(menu.get(), item, images);
     POINT place = {};

@@ -10,7 +10,8 @@ namespace win32 {
 /// The number of open message boxes and file dialogs.
 inline int Open_Modal_Boxes = 0;
 
-/// True if the system ends the session and waits for no answer. Message boxes then answer themselves.
+/// True once the system ends the session and waits for no answer. Message_Box then shows no box and returns
+/// the answer that changes least.
 inline bool Boxes_Suppressed = false;
 
 /// True while the program handles a timer or a broadcast of the system, false during a user action.

@@ -24,7 +24,7 @@ bool Mouse_Is_Taken() {
         return false;
     if ((state.flags & (GUI_POPUPMENUMODE | GUI_INMOVESIZE)) != 0)
         return true;
-    // Alt alone sets this flag and that of the system menu, without a visible menu.
+    // When the user presses Alt alone, the system sets this flag and the system menu's, but shows no menu.
     if ((state.flags & GUI_INMENUMODE) == 0)
         return false;
     bool menu_open = false;

@@ -26,7 +26,7 @@ public:
     /// Answers WM_NOTIFY of the owner's window: gives the tip its text, or no text if the tip would be in
     /// the way. Returns whether `notice` asked for the text.
     bool Answer(NMHDR &notice);
-    /// Destroys the tooltip window. Called when the owner's window is gone or being destroyed.
+    /// Destroys the tooltip window. Call this when the owner's window is gone or being destroyed.
     void Window_Gone();
 
 private:

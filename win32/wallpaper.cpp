@@ -72,7 +72,7 @@ private:
             try {
                 worker.Run(job);
             } catch (...) {
-                // Out of memory: the wallpaper stays.
+                // Out of memory: keep the current wallpaper.
             }
         return 0;
     }
