@@ -20,11 +20,11 @@ Date_Time Now();
 /// Returns the current time in Coordinated Universal Time (UTC).
 Date_Time Now_In_Utc();
 
-/// Converts a UTC time to the user's time zone, by the rules of the zone on that day. Returns `utc` unchanged
-/// if the system cannot convert it.
+/// Converts a UTC time to the user's time zone, by the zone's rules for that year if the system knows them,
+/// else by the current rules. Returns `utc` unchanged if the system cannot convert it.
 Date_Time Local_Time(const Date_Time &utc);
 
-/// Returns a count of milliseconds that only serves to measure elapsed time. It starts again at 0 after 49
+/// Returns a counter of milliseconds for measuring elapsed time. The counter wraps around to 0 after 49.7
 /// days.
 unsigned Milliseconds();
 

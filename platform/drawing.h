@@ -1,5 +1,6 @@
-// Drawing on the canvas of a painted form, and measuring text. All positions and sizes are twips on the form.
-// The platform converts them to pixels and rounds each edge to the nearest pixel.
+// Drawing on a canvas, and measuring text. Positions and sizes are in twips; positions count from the top
+// left corner of the painted form or control. The platform converts them to pixels and rounds each edge to
+// the nearest pixel.
 #pragma once
 
 #include "base/colour.h"
@@ -12,7 +13,8 @@
 
 namespace platform {
 
-/// The buffer for one painting. The platform creates it. It is valid during the call that passes it.
+/// The buffer for one painting. The platform passes a canvas to a paint callback, and the canvas is valid
+/// only during that call.
 struct Canvas;
 
 /// A font in the system's message-box face.
@@ -39,15 +41,15 @@ void Fill_Polygon(Canvas &canvas, const std::vector<Point> &corners, Colour colo
 void Draw_Program_Icon(Canvas &canvas, const Rect &rect);
 
 /// Draws one line of text on a transparent background, clipped to `rect`. The line box (Line_Height high)
-/// starts at the top of `rect`. No character has a special meaning. With `right_to_left` the text is read
-/// from the right, and characters without a direction at its end stand at its left.
+/// starts at the top of `rect`. No character has a special meaning, not even "&". With `right_to_left`, the
+/// text reads from right to left, so a full stop at its end appears on its left.
 void Draw_Text(Canvas &canvas, std::string_view text, const Rect &rect, const Font &font, Colour colour,
                Text_Align align, bool right_to_left);
 
 /// Returns the width of one line of text in twips.
 int Text_Width(std::string_view text, const Font &font);
 
-/// Returns the height of one line in twips, from the top of the tallest letter to the bottom of the deepest.
+/// Returns the height of one line in twips: the font's ascent plus its descent.
 int Line_Height(const Font &font);
 
 } // namespace platform

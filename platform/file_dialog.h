@@ -15,16 +15,17 @@ constexpr std::int32_t Multiple_Files = 0x200;
 /// The input and output of a file dialog.
 struct File_Dialog {
     const Form_Model *owner = nullptr; ///< the form that owns the dialog; null: none
-    bool saves = false;                ///< asks for a file to write, else for an existing file
-    std::string filter; ///< pairs of description and pattern, each ended by a NUL, and one more NUL; or empty
-    std::string folder; ///< the folder that it opens; empty: the system chooses
-    std::string title;  ///< empty: the system's title
-    std::int32_t filter_index = 0; ///< a pair in `filter`, counted from 1
+    bool saves = false;                ///< true: asks for a file to write; false: for files to open
+    /// Pairs of description and pattern, each ended by a NUL, then one more NUL; or empty.
+    std::string filter;
+    std::string folder;            ///< the initial folder; empty: the system chooses
+    std::string title;             ///< empty: the system's title
+    std::int32_t filter_index = 0; ///< the selected pair in `filter`, counted from 1
     std::int32_t flags = 0;        ///< the system's option bits
-    std::size_t file_room = 260;   ///< the most characters of `file`, with the NUL
-    std::size_t title_room = 260;
+    std::size_t file_room = 260;   ///< the maximum length of `file` in UTF-16 units, with the NUL
+    std::size_t title_room = 260;  ///< the same for `file_title`
     std::string file; ///< the chosen path; with Multiple_Files the system's whole answer, padded with NULs
-    std::string file_title;
+    std::string file_title; ///< the chosen file's name without its folder
 };
 
 /// Shows a file dialog and waits for the answer. Meanwhile timers run, and no other window of the program

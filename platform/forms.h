@@ -16,18 +16,19 @@
 
 namespace platform {
 
-/// In a dialog, a label or picture box with `painted` paints itself. All other controls there are native.
+/// The kinds of controls. In a dialog, a label or picture box whose `painted` is true paints itself, and all
+/// other controls are native.
 enum class Control_Kind : std::uint8_t {
     Label,
     Button,
     Check_Box,
-    Text_Box, ///< no line breaks; wraps its text into several lines, unless `single_line`
+    Text_Box, ///< holds no line breaks; wraps its text into several lines unless `single_line`
     Option_Button,
     Combo_Box, ///< a drop-down list; with `editable`, a text box with a list
     List_Box,
     Tab_Strip,
     Slider,
-    Frame, ///< holds other controls; with a caption it is drawn around them
+    Frame, ///< holds other controls; drawn as a group box if it has a caption
     Picture_Box,
     Progress_Bar,
 };
@@ -35,27 +36,29 @@ enum class Control_Kind : std::uint8_t {
 /// The role of a control for assistive technology.
 enum class Access_Role : std::uint8_t { None, Text, Title, Button, Header, Cell, Choice, Link };
 
-/// The description of a control for assistive technology. With the role None, a control of a painted form is
-/// not presented, and a painted control of a dialog is a text or a picture. Native controls have a role
-/// already, so only their name counts. The name does not count for native controls with a text of their own:
-/// the label directly before them names them.
+/// The description of a control for assistive technology. With the role None, a painted form does not
+/// present the control, and a dialog presents a painted control as a text or a picture. Only `name` matters
+/// for a native control, because the system provides its role. Leave the name empty if the native control
+/// shows a text of its own, because the name would replace the text. The label directly before an edit field
+/// or a list names that control.
 struct Access_State {
     Access_Role role = Access_Role::None;
-    bool current = false; ///< the marked one of its kind, such as today or the chosen one
+    /// The control is the marked one of its kind, such as today's box or the chosen colour.
+    bool current = false;
     std::string name;
     std::string value;
     std::string default_action; ///< empty: no action
     friend bool operator==(const Access_State &, const Access_State &) = default;
 };
 
-/// A small sign that a label can show instead of its caption.
+/// A symbol that a label can show instead of its caption.
 enum class Glyph : std::uint8_t { None, Arrow_Left, Arrow_Right, Information };
 
 /// The visible state of one control. Positions are twips on the form, or on the frame that holds the control.
 struct Control_State {
     Control_Kind kind = Control_Kind::Label;
-    int index = 0;      ///< place in the form's control order
-    int container = -1; ///< index of the frame that holds the control and comes before it; -1: the form
+    int index = 0;      ///< position in the form's control order
+    int container = -1; ///< index of the frame that holds the control, less than `index`; -1: the form
     std::string name;
     Rect bounds;
     bool visible = true;
@@ -66,7 +69,7 @@ struct Control_State {
     Font font;
     Colour fore_colour = System_Colour(18);
     Colour back_colour = System_Colour(15);
-    bool transparent = false; ///< without a background of its own
+    bool transparent = false; ///< the control has no background of its own
     Colour frame_colour = -1; ///< -1: no frame
     bool marked = false;      ///< shows the mark of the keyboard focus
     bool hairline = false;    ///< shows a hairline inside its edges if it has no frame
@@ -74,7 +77,7 @@ struct Control_State {
     bool middle = false; ///< centres the caption vertically
     int padding = 0;     ///< twips between the caption and the left, right and, unless `middle`, the top edge
     Glyph glyph = Glyph::None;
-    bool checked = false;    ///< of check boxes and option buttons
+    bool checked = false;    ///< state of a check box or option button
     bool is_default = false; ///< Enter presses this button
     bool is_cancel = false;  ///< Esc presses this button
 
@@ -88,10 +91,10 @@ struct Control_State {
     bool read_only = false;   ///< of text boxes
 
     bool painted = false; ///< in a dialog: paints itself with `paint`, and sends mouse events
-    /// A painted control that takes the keyboard focus and sends key events. Without a default action, Enter
-    /// presses the default button instead.
+    /// Lets a painted control take the keyboard focus and send key events. If the control has no default
+    /// action, Enter presses the dialog's default button.
     bool tab_stop = false;
-    bool link = false; ///< a painted control with the hand pointer
+    bool link = false; ///< a painted control shows the hand pointer
     /// Paints a painted control of a dialog, in twips from its top left corner. Never throws. The mirror adds
     /// the dotted focus rectangle.
     Callback<void(Canvas &canvas, const Rect &clip)> paint;
@@ -101,8 +104,8 @@ struct Control_State {
 
 enum class Form_Kind : std::uint8_t {
     Painted, ///< borderless, painted by the form itself, without a task bar button
-    /// A painted form above all windows that never takes the keyboard. It has no owner, because the calendar
-    /// may be inside a window of the shell's process, and an owned window would depend on that one.
+    /// A painted form above all windows that never takes the keyboard focus. It has no owner. The owner
+    /// would be the shell's window that holds the calendar, which destroys its owned windows when it closes.
     Floating,
     Dialog, ///< a native dialog: title bar, close box, native controls
 };
@@ -130,26 +133,27 @@ enum class Input_Kind : std::uint8_t {
     Item_Activated, ///< a double click on the chosen item of a list box
     Default_Action, ///< assistive technology requests the control's default action
     Close,          ///< the close box, Alt+F4, or Esc in a dialog without a cancel button
-    Window_Lost,    ///< the native window is gone, for whatever reason
+    Window_Lost,    ///< the native window was destroyed, but not by Destroy_Mirror
     Focus_Changed,  ///< the form got (`checked`) or lost the keyboard focus
-    /// The mouse was captured elsewhere while a button was held, so its release will not arrive.
+    /// The window lost the mouse capture while a button was held, so the button's release will not arrive.
     Capture_Lost,
-    Dots_Changed, ///< the screen's dots per inch changed
+    Dots_Changed, ///< the screen's dots per inch or the system's fonts changed
     Window_Moved, ///< the window of a dialog moved to `point` on the screen
 };
 
 /// One user action. Fields without a meaning for the kind keep their defaults.
 struct Input_Event {
     Input_Kind kind;
-    /// Index of the control of a dialog; for keys, the focused one. In painted forms, the control that
-    /// assistive technology addresses.
+    /// Index of the control of a dialog; for keys, of the focused control. In a painted form, index of the
+    /// control that assistive technology addresses. -1: none.
     int control = -1;
-    /// Mouse position in twips on the form, or on the painted control `control`; for Window_Moved, the place
-    /// on the screen in twips.
+    /// Mouse position in twips on the form, or on the painted control `control`; for Window_Moved, the
+    /// window's position on the screen in twips.
     Point point{};
-    Mouse_Button button = Mouse_Button::None; ///< the button that changed; for Mouse_Move the held one
-    int key = 0;                              ///< virtual key code
-    bool repeated = false;                    ///< a Key_Down of a key that is held
+    /// The pressed or released button; for Mouse_Move, the held one.
+    Mouse_Button button = Mouse_Button::None;
+    int key = 0;           ///< virtual key code
+    bool repeated = false; ///< a Key_Down of a key that is held
     bool shift = false;
     bool control_key = false;
     bool alt = false;
@@ -166,14 +170,14 @@ struct Form_Model {
     std::string description; ///< additional description for assistive technology
     Rect bounds;             ///< in twips on the screen; for a dialog, the size of its client area
     bool visible = false;
-    bool enabled = true; ///< if false, the window of a dialog takes no mouse and keyboard input
+    bool enabled = true; ///< if false, the window of a dialog takes no mouse or keyboard input
     Colour back_colour = System_Colour(15);
     Pointer_Shape pointer = Pointer_Shape::Arrow;
     std::vector<Control_State *> controls; ///< in paint and tab order
     int focused = -1;                      ///< index of the control with the keyboard focus, -1: none
 
     Callback<void(const Input_Event &)> input;
-    /// Paints everything in `clip` (twips).
+    /// Paints everything in `clip` (twips on the form).
     Callback<void(Canvas &canvas, const Rect &clip)> paint;
 };
 
@@ -193,7 +197,7 @@ enum class Aspect : std::uint8_t {
     Focus
 };
 
-/// Returns the control's place on the form: its bounds plus the places of its frames.
+/// Returns the control's rectangle on the form: its bounds, shifted by the positions of its frames.
 inline Rect Place_On_Form(const Form_Model &model, const Control_State &control) {
     Rect place = control.bounds;
     for (int frame = control.container; frame != -1;) {
@@ -218,8 +222,9 @@ inline bool Is_Usable(const Form_Model &model, const Control_State &control) {
             Is_Usable(model, *model.controls[static_cast<std::size_t>(control.container)]));
 }
 
-/// Creates the native window of a form with all its controls, hidden or visible as the model says. Throws
-/// Error with the system's reason, and leaves no window, if that fails.
+/// Creates the native window of a form, hidden or visible as the model says, with its controls. The controls
+/// in a hidden frame are created when the frame is first shown. Does nothing if the window exists. On
+/// failure, leaves no window and throws Error with the system's reason.
 void Create_Mirror(const Form_Model &model);
 
 /// Destroys the native window. Does nothing if there is none.

@@ -20,15 +20,15 @@ std::string Short_Weekday_Name(int weekday);
 /// Returns the first day of the user's week, Sunday = 0 to Saturday = 6.
 int First_Weekday();
 
-/// Returns a date of the years 100 to 9999 in the user's short date form. Read_Date reads it as the same day
-/// if it shows the year in full.
+/// Returns the date in the user's short date format. The year is 100 to 9999. Read_Date reads the text as
+/// the same date if the format shows all digits of the year.
 std::string Short_Date(int year, int month, int day);
 
-/// Returns a date and time of day in the user's short date form and time form.
+/// Returns a date and time of day in the user's short date format and time format.
 std::string Date_Time_Text(const Date_Time &time);
 
-/// Returns the date in `text`, read in the regional settings' order of day and month. Ignores a time of day.
-/// Returns nothing if the text is not a date of the years 100 to 9999.
+/// Returns the date in `text`, with day and month in the order of the regional settings. Ignores a time of
+/// day. Returns nothing if the text is not a date of the years 100 to 9999.
 std::optional<Date_Time> Read_Date(std::string_view text);
 
 } // namespace platform

@@ -19,7 +19,7 @@ void Process_Waiting_Messages();
 
 /// Keeps the program's windows painted during long work. Dispatches waiting paint messages and discards
 /// waiting user input, which would otherwise block the shell's icons if the calendar shares the shell's
-/// queue. All other messages, such as timers and requests to close, wait until the work is done.
+/// input queue. All other messages, such as timers and requests to close, wait until the work is done.
 void Paint_Waiting();
 
 /// Sleeps until a message arrives, at most `milliseconds`.
@@ -29,29 +29,30 @@ void Wait_For_Messages(unsigned milliseconds);
 using Timer_Id = std::uintptr_t;
 
 /// Calls `tick` every `milliseconds` (1 or more) from the message loop until Stop_Timer. Skips the calls
-/// while a menu is open or the user moves a window. `tick` may stop its own timer. It must not throw. Returns
-/// 0 on failure.
+/// while a menu is open or the user is moving a window. `tick` must not throw, and may stop its own timer.
+/// Returns 0 on failure.
 Timer_Id Start_Timer(unsigned milliseconds, Callback<void()> tick);
 void Stop_Timer(Timer_Id id);
 
-/// Events that the system sends to every program. The first four wait while timers wait.
+/// Events that the system sends to every program. The first four are deferred while a menu is open or the
+/// user is moving a window.
 enum class Broadcast {
-    Settings_Changed, ///< regional settings, work area and similar
+    Settings_Changed, ///< the regional settings, the work area or similar changed
     Time_Changed,     ///< the system clock was set
-    Display_Changed,  ///< the screen's size or depth
-    Colours_Changed,  ///< the Windows colours
-    Front_Changed,    ///< a window of another program came to the front; dropped while timers wait
+    Display_Changed,  ///< the screen's size or colour depth changed
+    Colours_Changed,  ///< the system colours or the theme changed
+    Front_Changed,    ///< a window of another program came to the front; dropped while others are deferred
     Shell_Started,    ///< a shell has created its task bar, at its first start or a restart
     Session_Ends,     ///< the user is about to log off or shut down: the last chance to save
-    Session_Forced,   ///< as Session_Ends, but the system waits for no answer to a question
+    Session_Forced,   ///< as Session_Ends, but the system does not wait for answers by the user
     Session_Over,     ///< the session ends now, whatever the program answers
     Close_Request,    ///< another program, such as a task manager, asks the program to close
 };
 
-/// Sets the only listener to broadcasts. It must not throw. Its result only matters for Session_Ends: false
-/// asks the system not to end the session. After Session_Forced no message box appears; each returns the
-/// answer that changes least. A hidden top-level window receives the broadcasts, because windows inside the
-/// shell's desktop do not.
+/// Sets the only listener to broadcasts. The listener must not throw. Its result matters only for
+/// Session_Ends: false asks the system not to end the session. After Session_Forced, Message_Box shows no
+/// box and returns the answer that changes least. A hidden top-level window receives the broadcasts, because
+/// a window inside the shell's desktop window receives none.
 void Listen_To_Broadcasts(Callback<bool(Broadcast)> listener);
 
 /// Sets the reason for refusing Session_Ends; empty: none. Windows Vista and newer show the reason to the

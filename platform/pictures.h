@@ -19,12 +19,12 @@ public:
     using Error::Error;
 };
 
-/// The largest picture that can be read, in pixels: as large as any screen that a wallpaper can fill.
+/// The most pixels that Load_Picture accepts in a picture: enough for a wallpaper on any screen.
 constexpr std::int64_t most_picture_pixels = 64LL * 1024 * 1024;
 
-/// Reads a JPEG picture. Throws Picture_Error if the file cannot be read, is not a JPEG picture, is damaged
-/// or has more than most_picture_pixels, and if out of memory. The size is checked before memory for the
-/// pixels is allocated.
+/// Reads a JPEG picture. Throws Picture_Error if the file cannot be read, is not a JPEG picture, is damaged,
+/// has more than most_picture_pixels or does not fit into memory. Checks the size before allocating memory
+/// for the pixels.
 Picture Load_Picture(const std::string &path);
 
 /// Draws the picture, smoothly scaled to `rect` (twips).

@@ -5,14 +5,14 @@
 
 namespace platform {
 
-/// Claims `name` for this process until it ends. Returns whether it is the first process in the user's
-/// session to do so.
+/// Claims `name` for this process until the process ends. Returns false if another process in the user's
+/// session holds the claim.
 bool Claim_Single_Instance(const std::string &name);
 
-/// Ends the claim, so that a successor can make it.
+/// Ends the claim, so that the next process can claim the name.
 void Release_Single_Instance();
 
-/// Returns how many restarts in a row led to this process, 0 if the user started it.
+/// Returns how many restarts in a row (0 to 9) led to this process, 0 if the user started it.
 int Restart_Count();
 
 /// Starts the same program again, with `count` (1 to 9) as its Restart_Count. Ignores failures. Does nothing

@@ -18,34 +18,36 @@ public:
 };
 
 /// Returns the value `name` of HKEY_CURRENT_USER\`key` as text, or nothing if the key or value is missing. A
-/// number becomes its decimal text. A value of another type, or one that cannot be read, becomes a text in
-/// parentheses that says so. Converting that text to a number or flag fails, but a text setting takes it as
-/// it is.
+/// number becomes its decimal text. A value of another type, or one that cannot be read, becomes an
+/// explanation in parentheses. Converting the explanation to a number or flag fails, but a text setting
+/// accepts it.
 std::optional<std::string> Read_User_Value(std::string_view key, std::string_view name);
 
-/// Stores a text value there. Creates the key if it is missing. Throws Registry_Error.
+/// Stores the text value `name` in HKEY_CURRENT_USER\`key`. Creates the key if it is missing. Throws
+/// Registry_Error.
 void Write_User_Value(std::string_view key, std::string_view name, std::string_view text);
 
-// Registry values of the system, for the few places that use them directly. Failures are silent.
+// Direct access to values under any root key, for the few places that need it. Failures are silent.
 
-/// The handle of a root key, 0: none. The root names are HKCU, HKLM, HKU, HKDD, HKCC and HKCR.
+/// The handle of a root key, 0: none.
 using Registry_Root = std::uintptr_t;
+/// Returns the handle of HKCU, HKLM, HKU, HKDD, HKCC or HKCR, 0 for any other name.
 Registry_Root Find_Registry_Root(std::string_view name);
 
 /// A value by its type letter: "S" is a text (REG_SZ, or REG_EXPAND_SZ with its variables replaced), "B" a
 /// flag (REG_BINARY of two bytes), "D" a number (REG_DWORD).
 using Registry_Value = std::variant<std::string, bool, std::int32_t>;
 
-/// Returns the value of that type, or `standard` if it is missing or cannot be read. The letter may be lower
-/// case.
+/// Returns the value, or `standard` if the value is missing, cannot be read or is not of the type
+/// `type_letter`. The letter may be lower case.
 Registry_Value Registry_Read(std::string_view root_name, std::string_view key, std::string_view name,
                              char type_letter, const Registry_Value &standard);
 
 /// Returns whether the key exists and Registry_Write can set values in it.
 bool Registry_Writable(std::string_view root_name, std::string_view key);
 
-/// Creates the key if it is missing and sets the value. The capital type letter must match the type of
-/// `value`, else nothing is set.
+/// Sets the value, and creates the key if it is missing. The type letter must be a capital and match the
+/// type of `value`, else no value is set.
 void Registry_Write(std::string_view root_name, std::string_view key, std::string_view name, char type_letter,
                     const Registry_Value &value);
 

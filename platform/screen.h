@@ -5,8 +5,8 @@
 
 namespace platform {
 
-/// Returns the dots per inch, 96 at normal size: those of the dialog's screen while a dialog's window handles
-/// a message, else those of the screen that shows the calendar.
+/// Returns the dots per inch (96 at a scale of 100 per cent) of the dialog's screen while a dialog's window
+/// handles a message, else of the screen that shows the calendar.
 int Dots_Per_Inch();
 
 /// Returns the size of the primary monitor in pixels. Its top left corner is (0, 0).
@@ -17,7 +17,9 @@ Rect Work_Area();
 
 /// Returns the work area, in pixels, of the monitor at or nearest to `point` (screen pixels).
 Rect Work_Area_Around(Point point);
-/// Returns the same for the monitor that shows most of `place` (screen pixels).
+
+/// Returns the work area, in pixels, of the monitor that shows most of `place` or is nearest to it (screen
+/// pixels).
 Rect Work_Area_Of(const Rect &place);
 
 /// Returns whether the user has turned on high contrast.

@@ -16,11 +16,12 @@ using Shell_Window = std::uintptr_t;
 /// Returns the shell's desktop window, 0 under another shell.
 Shell_Window Find_Desktop_Window();
 
-/// Returns the view of files and folders, which is in the desktop window or in a window that covers it.
+/// Returns the shell's view of the desktop icons, 0 if there is none. The view is in the desktop window, or
+/// in a window that covers the desktop window.
 Shell_Window Find_Shell_View(Shell_Window desktop);
 /// Returns the window that holds the view, 0 if it is gone.
 Shell_Window Holder_Of(Shell_Window view);
-/// Returns the list of icons in the view.
+/// Returns the list of icons in the view, 0 if there is none.
 Shell_Window Find_Icon_List(Shell_Window view);
 
 /// The colours of the icon list's labels.
@@ -30,17 +31,17 @@ struct Label_Colours {
     friend bool operator==(const Label_Colours &, const Label_Colours &) = default;
 };
 
-/// Asks the icon list for its colours. Returns nothing if the shell does not answer each question within
-/// `patience` milliseconds. Does not wait if the system considers the shell hung.
+/// Returns the colours of the icon list's labels. Asks the shell for each colour, and returns nothing if an
+/// answer takes longer than `patience` milliseconds. Does not wait if the system considers the shell hung.
 std::optional<Label_Colours> Icon_Label_Colours(Shell_Window list, unsigned patience);
 
-/// Makes the form's window a child of the view's holder, above its other children, at the form's place on the
-/// screen. Then looks up the dots per inch again. Returns whether the window is inside. Returns false without
-/// a native window, and if the holder has gone, which leaves the window where it was.
+/// Makes the form's window a child of the view's holder, above its other children, at the form's place on
+/// the screen. Then looks up the dots per inch again. Returns false if the form has no native window or the
+/// holder is gone, and leaves the window where it is.
 bool Attach_To_Desktop(const Form_Model &model, Shell_Window holder);
 
-/// Keeps a form in the view's holder visible: above the view, and with a surface of its own while the system
-/// shows only such children of the holder.
+/// Keeps a form in the view's holder visible: raises its window above the view, and gives it a surface of
+/// its own if the holder has none, because the system then shows only children with a surface.
 void Keep_Over_View(const Form_Model &model, Shell_Window view);
 
 /// Opens a web page in the user's browser. Failures are silent.

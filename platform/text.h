@@ -6,8 +6,9 @@
 
 namespace platform {
 
-/// Converts bytes in the system's ANSI code page to UTF-8. Older programs wrote in that page. It belongs to
-/// the system's locale, not to the user's formats or the process.
+/// Converts bytes in the ANSI code page, as older programs wrote them, to UTF-8. The code page is the
+/// default of the system's locale, whatever the user's regional settings or the process use. It is 1252
+/// (Western) if that locale has none or uses UTF-8.
 std::string Ansi_To_Utf8(std::string_view bytes);
 
 } // namespace platform

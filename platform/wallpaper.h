@@ -6,21 +6,23 @@
 namespace platform {
 
 /// Sets the Windows bitmap at `path` as the wallpaper, now and for the user's next sessions; empty: no
-/// wallpaper. If `monitors`, a text from Wallpaper_Of_Monitors, can be restored completely, sets that
-/// instead. Returns at once. Of several calls in quick succession only the last one counts. Failures are
-/// silent.
+/// wallpaper. If `monitors`, a text from Wallpaper_Of_Monitors, is not empty and can be restored completely,
+/// sets those wallpapers instead. Returns at once. Of several calls in quick succession only the last one
+/// counts. Failures are silent.
 void Set_Wallpaper(const std::string &path, const std::string &monitors = {});
 
 /// Returns the wallpaper of each monitor, or the slide show, as a text for Set_Wallpaper. Returns an empty
-/// text if the system knows only one path or does not answer within five seconds.
+/// text if the system knows only one path, a monitor has no picture, or the system does not answer within
+/// five seconds.
 std::string Wallpaper_Of_Monitors();
 
-/// Returns `path`, or the path of a copy if the system overwrites that file with the next wallpaper.
+/// Returns `path`, or the path of a new copy if the system would overwrite the file at `path` with the next
+/// wallpaper.
 std::string Persistent_Wallpaper(const std::string &path);
 
-/// Waits until the last wallpaper is set and the registry names it, so that the program may end or read it
-/// there. Gives up after five seconds and returns false, because a hung window of another program can block
-/// the change.
+/// Waits until the last wallpaper is set and the registry names it, so that the program may end or read the
+/// path there. Gives up after five seconds and returns false, because a hung window of another program can
+/// block the change.
 bool Wait_For_Wallpaper();
 
 } // namespace platform

@@ -28,7 +28,7 @@ Control::~Control() {
 void Control::Notify_Mirror(Aspect aspect) {
     if (!form_.created_)
         return;
-    // A painted form draws its labels from their state, so nothing needs a redraw if the label is hidden.
+    // A painted form draws its labels from their state, so a change of a hidden label needs no redraw.
     const bool drawn = aspect == Aspect::Caption || aspect == Aspect::Look;
     if (drawn && !state_.visible && form_.model_.kind != platform::Form_Kind::Dialog)
         return;
@@ -72,7 +72,7 @@ void Button::Handle_Event(const platform::Input_Event &event) {
 }
 
 void Check_Box::Handle_Event(const platform::Input_Event &event) {
-    // The native control already shows the new state, so the mirror needs no call.
+    // The native control already shows the new state, so do not notify the mirror.
     if (event.kind == platform::Input_Kind::Clicked)
         state_.checked = event.checked;
     Control::Handle_Event(event);

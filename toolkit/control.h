@@ -1,5 +1,5 @@
-// The controls of forms: plain objects that hold their own state and report its changes to the form's mirror.
-// User actions arrive at the form (toolkit/form.h), which raises the events here.
+// The controls of forms: plain objects that hold their own state and report changes of it to the form's
+// mirror. User actions arrive at the form (toolkit/form.h), which raises the controls' events.
 #pragma once
 
 #include "platform/forms.h"
@@ -21,10 +21,10 @@ struct Container {
 };
 
 /// A control: bounds, appearance and events. Bounds are in twips, relative to the form or to the containing
-/// frame. Changes by the program raise no events, except for the text of a text box.
+/// frame. A change by the program raises no event, except a change of a text box's text.
 class Control {
 public:
-    /// Adds the control after all others of its form, also in tab order.
+    /// Adds the control to its form, last in paint and tab order.
     Control(Container in, platform::Control_Kind kind, const char *name, const char *caption = "");
     Control(const Control &) = delete;
     Control &operator=(const Control &) = delete;
@@ -59,7 +59,7 @@ public:
     /// Shows or hides the mark of the keyboard focus.
     void Set_Marked(bool marked) { Store(state_.marked, marked, Aspect::Look); }
     /// Shows or hides a hairline inside the edges, which sets the box off against a picture of any colour. A
-    /// frame or a focus mark covers it.
+    /// frame replaces the hairline, and a focus mark covers it.
     void Set_Hairline(bool hairline) { Store(state_.hairline, hairline, Aspect::Look); }
     const platform::Font &Font() const { return state_.font; }
     void Set_Font(const platform::Font &font) { Store(state_.font, font, Aspect::Look); }
@@ -71,27 +71,27 @@ public:
     void Set_Access(platform::Access_State access);
 
     // Events. Points are relative to the control's top left corner.
-    /// A button of any kind was pressed, or a painted control was clicked with the left button. If
-    /// On_Double_Click is empty, the second click of a double click counts as well.
+    /// The user pressed a button of any kind, clicked a painted control with the left mouse button, or chose
+    /// an item. If On_Double_Click is empty, the second click of a double click counts as well.
     Handler<> On_Click;
     Handler<platform::Mouse_Button, Point> On_Mouse_Down;
     Handler<platform::Mouse_Button, Point> On_Mouse_Up;
     Handler<platform::Mouse_Button, Point> On_Mouse_Move;
     Handler<> On_Double_Click;
     Handler<> On_Default_Action;
-    /// A key was pressed while this control of a dialog had the focus. If empty, the form's On_Key_Down is
-    /// called.
+    /// The user pressed a key while this control of a dialog had the focus. If empty, the form raises its
+    /// own On_Key_Down.
     Handler<const platform::Input_Event &> On_Key_Down;
 
-    /// Handles an event of the native control; each kind of control overrides this. The handler may destroy
-    /// the form, so it is called last.
+    /// Handles an event of the native control. Overrides must call the event's handler last, because it may
+    /// destroy the form.
     virtual void Handle_Event(const platform::Input_Event &event);
 
 protected:
     using Aspect = platform::Aspect;
 
-    /// Assigns `value` to `field` and reports the change to the mirror. Does nothing if the two are equal.
-    /// Returns whether the field changed.
+    /// Assigns `value` to `field` and reports the change to the mirror. Does nothing if the values are
+    /// equal. Returns whether the field changed.
     template <typename Field, typename Value>
     bool Store(Field &field, Value &&value, Aspect aspect) {
         if (field == value)
@@ -107,7 +107,7 @@ protected:
     Form &form_;
 };
 
-/// Defines the constructor that all kinds of controls share.
+/// The base of the controls that need no constructor arguments besides container, name and caption.
 template <platform::Control_Kind Kind, typename Base = Control>
 class Control_Of_Kind : public Base {
 public:
@@ -115,7 +115,7 @@ public:
         : Base(in, Kind, name, caption) {}
 };
 
-/// A text; in a painted form, a coloured box with a text.
+/// A text; in a painted form, a text in a coloured box.
 class Label : public Control_Of_Kind<platform::Control_Kind::Label> {
 public:
     using Control_Of_Kind::Control_Of_Kind;
@@ -130,7 +130,7 @@ public:
     using Control_Of_Kind::Control_Of_Kind;
     void Set_Default(bool is_default) { Store(state_.is_default, is_default, Aspect::Look); }
     void Set_Cancel(bool is_cancel) { Store(state_.is_cancel, is_cancel, Aspect::Look); }
-    /// Esc was pressed, if this is the cancel button. If empty, Esc raises `On_Click`.
+    /// The user pressed Esc, and this is the cancel button. If empty, Esc raises `On_Click`.
     Handler<> On_Escape;
 
 private:
@@ -153,10 +153,10 @@ public:
     using Control_Of_Kind::Control_Of_Kind;
     const std::string &Text() const { return state_.caption; }
     void Set_Text(std::string text);
-    /// Makes the box a read-only single line instead of several wrapped ones. Call it before the native
+    /// Makes the box read-only, with a single line instead of wrapped lines. Call this before the native
     /// window is created.
     void Set_Display_Only();
-    /// The text changed, by the user or by Set_Text.
+    /// The user or Set_Text changed the text.
     Handler<> On_Change;
 
 private:

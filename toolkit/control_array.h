@@ -9,10 +9,10 @@
 #include <string>
 #include <string_view>
 
-/// Returns the name of one control of an array.
+/// Returns the name of one control of an array, such as "Box_Lbl(1)".
 std::string Element_Name(std::string_view array, int index);
 
-/// Throws Error for an index outside the array of `first`.
+/// Throws an Error that names the array of the control `first` and the missing `index`.
 [[noreturn]] void Throw_No_Element(const Control &first, int index);
 
 /// An array of `Count` controls, registered with their form in index order.
@@ -40,8 +40,8 @@ public:
         for (int index = 0; index < static_cast<int>(Count); ++index)
             Add(in, name, index);
     }
-    /// Also fills `labels`, a default-constructed array of labels. Each label directly precedes the control
-    /// that it names, where assistive technology looks for a name.
+    /// Also fills `labels`, a default-constructed array. Each label directly precedes the control that it
+    /// names, because assistive technology looks for the name there.
     Control_Array(Container in, std::string_view name, Control_Array<Label, Count> &labels,
                   std::string_view labels_name) {
         for (int index = 0; index < static_cast<int>(Count); ++index) {

@@ -23,7 +23,8 @@ Form::Form(Form_Kind kind, const char *name) {
         try {
             Paint(canvas, clip);
         } catch (...) {
-            // A message box would cause this painting again. The next change repaints the form.
+            // A message box would trigger another painting, which would fail again. The next change repaints
+            // the form.
         }
     };
 }
@@ -54,8 +55,8 @@ void Form::Notify_Mirror(Aspect aspect) {
 }
 
 Point Form::Corner() const {
-    // Return the form's own twips if they match the window's pixels, because conversion back and forth would
-    // let the position drift.
+    // Return the form's own twips if they match the window's pixels, because repeated conversion would let
+    // the position drift.
     const std::optional<Point> pixels = created_ ? platform::Window_Corner(model_) : std::nullopt;
     const Point put = Requested_Position();
     if (!pixels || *pixels == Point{Twips_To_Pixels(put.x), Twips_To_Pixels(put.y)})
@@ -76,7 +77,8 @@ void Form::Restore_Position() {
     if (now == Requested_Position() || now == stuck_at_)
         return;
     Notify_Mirror(Aspect::Bounds);
-    // Stuck only after the second try: what the window is in may have changed in the midst of the first.
+    // Give up only if two attempts leave the window at the same place, because the window's parent may have
+    // changed during the first.
     const Point left_at = Corner();
     if (std::exchange(left_at_, left_at) == left_at)
         stuck_at_ = left_at;
@@ -111,7 +113,7 @@ void Form::Create() {
 }
 
 void Form::Show() {
-    // A clipped window must appear in its final shape.
+    // Create a clipped window hidden, so that it appears in its final shape.
     if (!created_)
         Make_Window(!clip_ && shape_.empty());
     if (!std::exchange(model_.visible, true))
@@ -143,7 +145,8 @@ void Form::Set_Pointer(platform::Pointer_Shape shape) {
 }
 
 void Form::Set_Focus(const Control &control) {
-    // Always report the focus: the user moves it between native controls without telling the form.
+    // Notify the mirror in any case: the user may have moved the focus to another native control, which the
+    // form does not record.
     model_.focused = control.State().index;
     Notify_Mirror(Aspect::Focus);
 }
@@ -192,8 +195,8 @@ bool Form::Blocked(const Input_Event &event) {
     case Input_Kind::Close:
         return beside_box;
     case Input_Kind::Text_Changed:
-        // While a message box is open, another program made the change, and the native control already holds
-        // it.
+        // While a message box is open, only another program can change the text. Accept the change, because
+        // the native control already shows it.
         return modal_ != nullptr;
     case Input_Kind::Mouse_Down:
     case Input_Kind::Double_Click:
@@ -272,7 +275,7 @@ void Form::Press(Control *control, const Input_Event &event, Point point) {
     }
     if (!Takes_Input(control))
         return;
-    // Only the left button has double clicks; a second press of another button counts as a press.
+    // Only the left button double-clicks. A quick second press of another button is a plain press.
     const bool is_double = event.kind == Input_Kind::Double_Click && event.button == Mouse_Button::Left;
     double_clicked_ = is_double && control->On_Double_Click;
     if (is_double)
@@ -298,7 +301,7 @@ void Form::Handle_Mouse(const Input_Event &event) {
         return Press(control, event, point);
 
     const bool released = event.kind == Input_Kind::Mouse_Up;
-    // A release without a press belongs to a window that was open over the form.
+    // A release without a press here belongs to a click on a window that covered the form.
     if (released && captured_ == nullptr)
         return;
     if (released && event.button == captured_by_)

@@ -19,21 +19,23 @@ public:
 
     const platform::Form_Model &Model() const { return model_; }
 
-    // Position on the screen, current even if another program moved the window, and size, all in twips.
+    // Position on the screen and size, in twips. The position is current even if another program has moved
+    // the window.
     int Left() const { return Corner().x; }
     int Top() const { return Corner().y; }
     int Width() const { return model_.bounds.width; }
     int Height() const { return model_.bounds.height; }
     void Move(int left, int top);
-    /// Returns the position that the form itself set last.
+    /// Returns the position that Move set last or, for a dialog, the position to which the user moved it
+    /// last.
     Point Requested_Position() const { return {model_.bounds.left, model_.bounds.top}; }
-    /// Moves the window back to Requested_Position after others have moved it. If the window does not move,
-    /// it is left alone until others move it again.
+    /// Moves the window back to Requested_Position if another program has moved it. After two failed
+    /// attempts, leaves the window alone until another program moves it again.
     void Restore_Position();
     void Resize(int width, int height);
 
     bool Visible() const { return model_.visible; }
-    /// Creates the native window hidden, to be prepared before it appears.
+    /// Creates the native window, hidden, so that the caller can prepare it before it appears.
     void Create();
     /// Shows the form and creates its native window if there is none.
     void Show();
@@ -44,26 +46,26 @@ public:
     void Set_Description(std::string_view description) { model_.description = description; }
     Colour Back_Colour() const { return model_.back_colour; }
     void Set_Back_Colour(Colour colour);
-    /// Repaints the whole window, for a change that is not part of its state.
+    /// Repaints the whole window after a change that is not part of the form's state.
     void Repaint() { Notify_Mirror(platform::Aspect::Look); }
     void Set_Pointer(platform::Pointer_Shape shape);
     void Set_Focus(const Control &control);
     /// Lets a modal form block this one: a mouse button or key pressed here brings the modal form to the
     /// front instead. Null ends the block.
     void Set_Blocked_By(Form *modal);
-    /// Shows the form, or the one that blocks it, in front of other windows and gives it the focus.
+    /// Brings the form, or the modal form that blocks it, to the front and gives it the focus.
     void Bring_To_Front();
     /// Returns all controls in paint and tab order.
     const std::vector<Control *> &Controls() const { return controls_; }
     /// Clips the window to these rectangles (twips on the form), also a window that is created later.
     void Clip(std::vector<Rect> rects);
 
-    /// Clips the window to a polygon (twips on the form) instead.
+    /// Clips the window to a polygon (twips on the form), also a window that is created later.
     void Shape(std::vector<Point> corners);
 
-    /// Handles a user action or message: hit testing, mouse capture, and the checks for visible and enabled
-    /// controls. Ignores user input while a message box is open. Shows an exception of a handler in a message
-    /// box and does not rethrow it.
+    /// Handles a user action or a window event. Does the hit testing and the mouse capture, and raises the
+    /// events of visible, enabled controls only. Ignores user input while a message box is open. Shows an
+    /// exception of a handler in a message box and does not rethrow it.
     virtual void Input(const platform::Input_Event &event);
 
     /// Returns the topmost visible control at the point, or null.
@@ -72,12 +74,12 @@ public:
     // Events of the form itself.
     Handler<const platform::Input_Event &> On_Key_Down;
     Handler<const platform::Input_Event &> On_Key_Up;
-    /// The user asked the window to close. If empty, the form closes.
+    /// The user or another program asked the window to close. If empty, the form closes.
     Handler<> On_Close;
-    /// The native window was destroyed.
+    /// The native window was destroyed, but not by Close.
     Handler<> On_Window_Lost;
-    Handler<bool> On_Focus_Changed; ///< the argument tells whether the form has the focus now
-    /// The release of the pressed mouse button will not arrive.
+    Handler<bool> On_Focus_Changed; ///< the argument: whether the form has the focus now
+    /// The window lost the mouse capture, so the release of the pressed mouse button will not arrive.
     Handler<> On_Capture_Lost;
     Handler<> On_Dots_Changed;
 
@@ -103,9 +105,9 @@ private:
     platform::Form_Model model_;
     std::vector<Control *> controls_;
     Control *captured_ = nullptr; ///< receives the mouse events from button down to up
-    platform::Mouse_Button captured_by_ = platform::Mouse_Button::None;
-    bool double_clicked_ =
-        false; ///< the last press was the second of a double click, and On_Double_Click handled it
+    platform::Mouse_Button captured_by_ = platform::Mouse_Button::None; ///< the button whose press began it
+    /// The last press was the second of a double click, and On_Double_Click handled it.
+    bool double_clicked_ = false;
     std::optional<std::vector<Rect>> clip_; ///< nullopt: not clipped
     std::vector<Point> shape_;              ///< empty: no polygon
     bool created_ = false;                  ///< the native window exists

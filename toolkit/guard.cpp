@@ -48,7 +48,7 @@ void Repeated_Guard::Run(Callback_Ref<void()> action) noexcept {
             const std::string text = Failure_Text();
             if (text == last_failure_)
                 return;
-            // Remember the text first: the action may run again while the box is open.
+            // Remember the text before showing it, because the action may run again while the box is open.
             last_failure_ = text;
             Show_Error(text);
         } catch (...) {

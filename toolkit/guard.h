@@ -5,11 +5,11 @@
 
 #include <string>
 
-/// Runs `action` and shows an exception of it in a message box. Never throws.
+/// Runs `action`. If it throws, shows the exception in a message box.
 void Run_Guarded(Callback_Ref<void()> action) noexcept;
 
-/// Guards an action that repeats by itself, such as a timer's. Shows a failure when it first occurs, and not
-/// again while it stays the same.
+/// A guard for an action that repeats by itself, such as a timer's. Shows a failure once, and again only
+/// after a success or another failure.
 class Repeated_Guard {
 public:
     void Run(Callback_Ref<void()> action) noexcept;

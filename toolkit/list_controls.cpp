@@ -49,8 +49,8 @@ void Item_Control::Select(int index) {
         index = -1;
     if (state_.kind == Control_Kind::Combo_Box)
         state_.caption = index == -1 ? std::string{} : state_.items[static_cast<std::size_t>(index)];
-    // An editable combo box with a typed text also has no selected item, but selecting none must still clear
-    // the text.
+    // Notify the mirror of an editable combo box even if the index is the same: with a typed text the index
+    // is -1, and selecting no item must clear the text.
     if (std::exchange(state_.selected, index) != index || state_.editable)
         Notify_Mirror(Aspect::Selected);
 }

@@ -9,19 +9,20 @@
 #include <string_view>
 #include <vector>
 
-/// A container of other controls, which are moved, hidden and disabled with it. If it has a caption, it is
-/// drawn as a group box.
+/// A container of other controls, which move with the frame and are hidden and disabled with it. A frame
+/// with a caption is drawn as a group box.
 class Frame : public Control_Of_Kind<platform::Control_Kind::Frame> {
 public:
     using Control_Of_Kind::Control_Of_Kind;
 };
 
-/// One of several choices: at most one option button is checked in each frame, or on the form itself.
+/// An option button (radio button): at most one is checked in each frame, and at most one on the form
+/// itself.
 class Option_Button : public Control_Of_Kind<platform::Control_Kind::Option_Button> {
 public:
     using Control_Of_Kind::Control_Of_Kind;
     bool Checked() const { return state_.checked; }
-    /// Checks or unchecks the button. Checking it unchecks the others.
+    /// Checks or unchecks the button. Checking the button unchecks the others in its frame.
     void Set_Checked(bool checked);
 
 private:
@@ -45,17 +46,17 @@ protected:
     void Handle_Event(const platform::Input_Event &event) override;
 };
 
-/// A drop-down list. Its text is that of the selected item, or any text if the list is editable.
+/// A drop-down list. Its text is the selected item's, or any typed text if the combo box is editable.
 class Combo_Box : public Control_Of_Kind<platform::Control_Kind::Combo_Box, Item_Control> {
 public:
     using Control_Of_Kind::Control_Of_Kind;
-    /// Allows any text to be typed. Call it before the native window is created.
+    /// Lets the user type any text. Call this before the native window is created.
     void Set_Editable();
     const std::string &Text() const { return state_.caption; }
-    /// Selects the item with this text. If there is none, an editable combo box shows the text and selects no
-    /// item; any other stays as it is.
+    /// Selects the item with this text. If there is no such item, an editable combo box shows the text and
+    /// selects no item, and any other combo box stays unchanged.
     void Set_Text(const std::string &text);
-    /// The user typed a text. Choosing an item raises On_Click.
+    /// The user typed a text. The choice of an item raises On_Click instead.
     Handler<> On_Change;
 
 private:
@@ -78,14 +79,14 @@ public:
     using Control_Of_Kind::Control_Of_Kind;
 };
 
-/// A slider for whole numbers, with a tick mark for each.
+/// A slider for whole numbers, with a tick mark for each number. The first value is the minimum.
 class Slider : public Control {
 public:
     Slider(Container in, const char *name, int minimum, int maximum);
     int Value() const { return state_.value; }
-    /// Sets the value, limited to the range.
+    /// Sets the value, clamped to the slider's range.
     void Set_Value(int value);
-    /// Sets the text that floats beside the thumb during a move.
+    /// Sets the text that floats above the thumb during a move.
     void Set_Text(std::string_view text) { Set_Caption(text); }
     Handler<> On_Change; ///< the user finished a move at a new value
     Handler<> On_Scroll; ///< the user is moving the thumb
@@ -94,17 +95,18 @@ private:
     void Handle_Event(const platform::Input_Event &event) override;
 };
 
-/// A box that paints itself: its background, its picture fitted and centred, and then the result of On_Paint.
+/// A box that paints itself: its background, its picture fitted and centred, and the output of On_Paint on
+/// top.
 class Picture_Box : public Control {
 public:
     Picture_Box(Container in, const char *name);
-    /// Sets the picture; one of width 0 removes it.
+    /// Sets the picture. A picture of width 0 removes the old one.
     void Set_Picture(Picture picture);
-    /// Adds the box to the tab order: it gets On_Key_Down, and the space bar clicks it. Enter clicks it, too,
-    /// if it has a default action and On_Key_Down is not replaced. Call it before the native window is
-    /// created.
+    /// Adds the box to the tab order and lets it raise On_Key_Down. The space bar clicks the box. Enter does
+    /// so too if the box has a default action and its On_Key_Down is not replaced. Call this before the
+    /// native window is created.
     void Set_Tab_Stop();
-    /// Gives the box the mouse pointer of a link.
+    /// Gives the box the hand pointer of a link.
     void Set_Link() { state_.link = true; }
     /// Repaints the box after a change in the output of On_Paint.
     void Repaint() { Notify_Mirror(platform::Aspect::Look); }
@@ -117,7 +119,7 @@ private:
     Picture picture_;
 };
 
-/// The progress of a long piece of work.
+/// A bar that shows the progress of a long task.
 class Progress_Bar : public Control_Of_Kind<platform::Control_Kind::Progress_Bar> {
 public:
     using Control_Of_Kind::Control_Of_Kind;

@@ -16,8 +16,8 @@ namespace {
 constexpr int frame_thickness = 30;    // twips; two pixels at 96 dots per inch
 constexpr int hairline_thickness = 12; // twips; one pixel, or two from 180 dots per inch on
 
-/// The share of the caption's colour in a hairline, in per cent. The hairline of a white box with black
-/// numbers gets a contrast of 2.1:1, whatever surrounds the box.
+/// The share of the caption's colour in a hairline, in per cent; the rest is the box's colour. The hairline
+/// of a white box with black numbers has a contrast of 2.1:1 to the box, whatever surrounds the box.
 constexpr int hairline_share = 30;
 
 /// Returns the colour of a box's hairline.
@@ -33,7 +33,7 @@ Colour Hairline_Colour(const Control_State &control) {
     return static_cast<Colour>(mixed);
 }
 
-/// Paints a white letter i on a disc that fills the box, in the control's fore colour.
+/// Paints a white letter i on a disc in the control's fore colour. The disc fills the box.
 void Paint_Information(Canvas &canvas, const Control_State &control) {
     const Rect &box = control.bounds;
     const int radius = std::min(box.width, box.height) / 2;
@@ -63,7 +63,8 @@ void Paint_Glyph(Canvas &canvas, const Control_State &control) {
     if (control.glyph == platform::Glyph::Information)
         return Paint_Information(canvas, control);
     const Rect &box = control.bounds;
-    // A triangle in the centre of the box: two fifths of the box high, and half as wide as high.
+    // A triangle in the centre of the box. Its height is two fifths of the box's shorter side, and its width
+    // is half its height.
     const int half_height = std::min(box.width, box.height) / 5;
     const int half_width = half_height / 2;
     const int centre_x = box.left + box.width / 2;
@@ -80,7 +81,7 @@ void Paint_Caption(Canvas &canvas, const Control_State &control, const Rect &cli
     const std::string_view caption = control.caption;
     if (caption.empty())
         return;
-    // All lines have one direction, because they are one text.
+    // All lines have the same direction, because they are one text.
     const bool right_to_left = Is_Right_To_Left(caption);
     const bool turned = right_to_left && control.align == platform::Text_Align::Left;
     const platform::Text_Align align = turned ? platform::Text_Align::Right : control.align;
@@ -112,8 +113,8 @@ void Paint_Control(const Control_State &control, Canvas &canvas, const Rect &cli
         platform::Frame_Rect(canvas, control.bounds, control.frame_colour, frame_thickness);
     else if (control.hairline)
         platform::Frame_Rect(canvas, control.bounds, Hairline_Colour(control), hairline_thickness);
-    // The mark replaces a frame, as there is no room for both. Its colour is the caption's, which contrasts
-    // with the box.
+    // The mark covers a frame, because there is no room for both. It has the caption's colour, which
+    // contrasts with the box.
     if (control.marked)
         platform::Frame_Rect(canvas, control.bounds, control.fore_colour, frame_thickness);
     if (control.glyph != platform::Glyph::None)
@@ -145,6 +146,7 @@ void Paint_Itself(const Control_State &control, Canvas &canvas, const Rect &clip
         Paint_Control(here, canvas, clip);
         more(canvas);
     } catch (...) {
-        // A message box would cause this painting again. The next change repaints the control.
+        // A message box would trigger another painting, which would fail again. The next change repaints the
+        // control.
     }
 }

@@ -1,4 +1,5 @@
-// The distances in dialogs, and the placement of controls in rows. Other controls are placed by hand.
+// The distances in dialogs, and the placement of controls in rows. Forms place all other controls
+// themselves.
 #pragma once
 
 #include "toolkit/control.h"
@@ -24,16 +25,16 @@ constexpr int button_height = 23 * 15;
 /// Returns the width of the control's caption plus the space that its kind of control needs around it.
 int Usual_Width(const Control &control);
 
-/// Places controls below each other. A height of 0 means the usual height of the kind of control; that of a
-/// label is one line.
+/// A column of rows of controls. A height of 0 means the usual height of the kind of control; for a label,
+/// one line.
 class Rows {
 public:
     Rows(int left, int top, int width) : left_(left), top_(top), width_(width) {}
 
-    /// Places a control in a row of its own.
+    /// Places a control in a row of its own, with `distance` below it.
     void Add(Control &control, int distance = layout::gap, int height = 0);
-    /// Places two controls side by side. The first is centred on the height of the second; the second ends at
-    /// the right edge.
+    /// Places two controls side by side. Centres the first vertically on the second, and extends the second
+    /// to the right edge. `height` is the second's.
     void Add_Pair(Control &first, int first_width, Control &second, int distance = layout::gap,
                   int height = 0);
     /// Places a text below the caption of the preceding check box or option button.
@@ -41,7 +42,7 @@ public:
     /// Places all controls of a frame, each in a row of its own. Labels are placed as notes.
     void Add_All(const Frame &frame, int distance = layout::small_gap);
 
-    /// Return where the next row begins and where the last one ends.
+    /// Return the top of the next row and the bottom of the last one.
     int Top() const { return top_; }
     int Bottom() const { return top_ - distance_; }
 

@@ -7,8 +7,9 @@
 
 #include <memory>
 
-/// Calls On_Timer from the message loop every `interval` milliseconds while enabled. Enabling it restarts the
-/// interval. Shows a failure that repeats with every tick only once.
+/// Calls On_Timer from the message loop every `interval_ms` milliseconds while enabled. Enabling a disabled
+/// timer starts a new interval. If On_Timer fails at every tick in the same way, shows the failure only
+/// once.
 class Timer {
 public:
     explicit Timer(unsigned interval_ms) : interval_(interval_ms) {}

@@ -1,5 +1,4 @@
-// Conversion between twips and pixels of the screen. 1440 twips are one inch; the screen sets the dots per
-// inch.
+// Conversion between twips and pixels at platform::Dots_Per_Inch. 1440 twips are one inch.
 #pragma once
 
 #include "base/geometry.h"
@@ -15,5 +14,6 @@ int Pixels_To_Twips(int pixels);
 Rect Twips_To_Pixels(const Rect &twips);
 Rect Pixels_To_Twips(const Rect &pixels);
 
-/// Returns the nearest length that is a whole number of pixels; at least one pixel for a positive length.
+/// Returns the nearest length, in twips, that is a whole number of pixels: at least one pixel for a positive
+/// length.
 int Snap(int twips);

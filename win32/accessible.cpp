@@ -27,11 +27,11 @@ using platform::Access_State;
 using platform::Control_State;
 using platform::Form_Model;
 
-/// IID_IAccessible, written out because its import library would load oleacc when the program starts.
+/// IID_IAccessible, defined here because linking its import library would load oleacc.dll at every start.
 constexpr GUID accessible_interface = {
     0x618736E0, 0x3C3D, 0x11CF, {0x81, 0x0C, 0x00, 0xAA, 0x00, 0x38, 0x9B, 0x71}};
 
-/// The target of a child number: a control, or the form itself.
+/// The target of a child number: a control, or the form itself if `control` is null.
 struct Target {
     const Form_Model *form = nullptr;
     const Control_State *control = nullptr;
@@ -75,7 +75,7 @@ long Role_Of(Access_Role role) {
     case Access_Role::Link:
         return ROLE_SYSTEM_LINK;
     default:
-        // Titles too: screen readers take the title bar role for the window's own title bar.
+        // Titles too, because screen readers take the title bar role for the window's own title bar.
         return ROLE_SYSTEM_STATICTEXT;
     }
 }
@@ -84,7 +84,7 @@ long State_Of(const Form_Model &form, const Control_State &control, bool window_
     if (!Is_Presented(control))
         return STATE_SYSTEM_INVISIBLE;
     long state = control.enabled && !platform::Box_Is_Open() ? 0 : STATE_SYSTEM_UNAVAILABLE;
-    // The keyboard reaches every day, so each one is focusable.
+    // The keyboard reaches every day's cell, so each cell is focusable.
     if (control.access.role == Access_Role::Cell)
         state |= STATE_SYSTEM_FOCUSABLE | STATE_SYSTEM_SELECTABLE;
     if (control.access.current)
@@ -108,11 +108,12 @@ long State_Of(HWND window, const Control_State &control) {
     return control.access.current ? state | STATE_SYSTEM_CHECKED : state;
 }
 
-/// The client object of a form, and the enumerator of its children. A client's proxy keeps the first
-/// enumerator that it gets for its whole life, so the enumerator looks up the children on each call.
+/// The client object of a form or of a dialog's painted control, and the enumerator of the form's children.
+/// A client's proxy keeps its first enumerator as long as the proxy lives, so the enumerator looks up the
+/// children on each call.
 class Accessible_Form final : public IAccessible, public IEnumVARIANT {
 public:
-    /// `window` is the form's window, or that of the control with the index `only`.
+    /// `only` is -1 for the window of a form, else the index of the painted control that owns `window`.
     explicit Accessible_Form(HWND window, int only) : window_(window), only_(only) {}
     Accessible_Form(const Accessible_Form &) = delete;
     Accessible_Form &operator=(const Accessible_Form &) = delete;
@@ -121,7 +122,7 @@ public:
     ULONG STDMETHODCALLTYPE AddRef() override { return ++owners_; }
     ULONG STDMETHODCALLTYPE Release() override;
 
-    // Clients do not call by name, because oleacc provides the type library.
+    // Not implemented, because clients get the type library from oleacc and do not call by name.
     HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT *) override { return E_NOTIMPL; }
     HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo **) override { return E_NOTIMPL; }
     HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR *, UINT, LCID, DISPID *) override {
@@ -189,7 +190,7 @@ private:
     Target Find(const VARIANT &child) const;
     std::optional<long> Nearest(const Form_Model &form, long start, long step) const;
 
-    /// Stores the text that `pick` returns for a child.
+    /// Stores in `out` the text that `pick` returns for a child. Returns S_FALSE for an empty text.
     template <typename Pick>
     HRESULT Return_Text(const VARIANT &child, BSTR *out, const Pick &pick) const {
         if (out == nullptr)
@@ -203,7 +204,7 @@ private:
         }
     }
 
-    /// Stores one text of a child's control. The form itself has none.
+    /// Stores in `out` the member `text` of the child's Access_State. The form itself has no such text.
     HRESULT Return_Text(const VARIANT &child, BSTR *out, std::string Access_State::*text) const {
         return Return_Text(child, out, [text](const Target &target) {
             return target.control == nullptr ? std::string() : target.control->access.*text;
@@ -213,7 +214,7 @@ private:
         return Return_Text(child, out, [](const Target &) { return std::string(); });
     }
 
-    /// Stores the number that `pick` returns for a child.
+    /// Stores in `out` the number that `pick` returns for a child.
     template <typename Pick>
     HRESULT Return_Number(const VARIANT &child, VARIANT *out, const Pick &pick) const {
         if (out == nullptr)
@@ -223,7 +224,7 @@ private:
         return FAILED(target.error) ? target.error : Set_Result(pick(target), out);
     }
 
-    /// Stores the number of the child that `pick` finds in the form, if any.
+    /// Stores in `out` the child number that `pick` returns for the form. Returns S_FALSE if there is none.
     template <typename Pick>
     HRESULT Return_Child(VARIANT *out, const Pick &pick) const {
         if (out == nullptr)
@@ -235,8 +236,8 @@ private:
 
     ULONG owners_ = 1;
     HWND window_;
-    int only_; ///< index of the control that owns the window and has no children; -1: the form owns it
-    long last_ = CHILDID_SELF; ///< the last child that the enumeration passed
+    int only_;                 ///< index of the control that owns the window; -1: the form owns the window
+    long last_ = CHILDID_SELF; ///< number of the child that the enumerator returned or skipped last
 };
 
 HRESULT Accessible_Form::QueryInterface(REFIID id, void **object) {
@@ -351,7 +352,7 @@ HRESULT Accessible_Form::get_accChild(VARIANT child, IDispatch **object) {
     if (object == nullptr)
         return E_POINTER;
     *object = nullptr;
-    // The children are simple elements: callers reach them through this object.
+    // The children are simple elements without objects of their own. Callers reach them through this object.
     const HRESULT error = Find(child).error;
     return FAILED(error) ? error : S_FALSE;
 }
@@ -457,7 +458,7 @@ HRESULT Accessible_Form::accDoDefaultAction(VARIANT child) {
         return DISP_E_MEMBERNOTFOUND;
     if (platform::Box_Is_Open())
         return E_FAIL;
-    // Posted, because the action may show a dialog, and the caller would wait until it closes.
+    // Post the request, because the action may show a dialog, and the caller would wait until that closes.
     const auto index = static_cast<WPARAM>(target.control->index);
     return PostMessageW(window_, Default_Action_Message, index, 0) ? S_OK : E_FAIL;
 }
@@ -465,7 +466,7 @@ HRESULT Accessible_Form::accDoDefaultAction(VARIANT child) {
 } // namespace
 
 LRESULT Answer_Get_Object(HWND window, WPARAM wparam, LPARAM lparam, int only) {
-    // Only the low half of the identifier is reliable.
+    // Only the low 32 bits of the object identifier are reliable.
     if (static_cast<LONG>(lparam) != OBJID_CLIENT)
         return DefWindowProcW(window, WM_GETOBJECT, wparam, lparam);
     static const auto result_of_object =
@@ -473,8 +474,8 @@ LRESULT Answer_Get_Object(HWND window, WPARAM wparam, LPARAM lparam, int only) {
     static const auto initialise = Look_Up<HRESULT WINAPI(void *)>(L"ole32.dll", "CoInitialize");
     if (result_of_object == nullptr || initialise == nullptr)
         return 0;
-    // Initialised once for the thread's whole life, because clients call the objects through the message
-    // loop.
+    // Initialise COM once and for the thread's whole life, because clients call the objects through the
+    // message loop.
     static const HRESULT initialised = initialise(nullptr);
     if (FAILED(initialised))
         return 0;

@@ -10,8 +10,8 @@
 
 namespace win32 {
 
-/// Answers WM_GETOBJECT for the window of a painted form. For the window of a dialog's painted control,
-/// `only` is the index of that control.
+/// Returns the answer to WM_GETOBJECT for the window of a painted form. For the window of a dialog's painted
+/// control, `only` is the index of that control.
 LRESULT Answer_Get_Object(HWND window, WPARAM wparam, LPARAM lparam, int only = -1);
 
 /// Announces changes of the name, the value and the state of a dialog's painted control.
@@ -20,10 +20,10 @@ void Announce_Change(HWND window);
 /// Announces the focused control of a painted form. Does nothing if the window does not have the focus.
 void Announce_Focus(HWND window, const platform::Form_Model &model);
 
-/// Remembers the announced state of a form's controls, and announces changes.
+/// The state of a form's controls as last announced to assistive technology.
 class Announcements {
 public:
-    /// Announces each control that has appeared, disappeared or got another name or value since the last
+    /// Announces each control that has appeared, disappeared or changed its name or value since the last
     /// call. The first call announces nothing.
     void Update(HWND window, const platform::Form_Model &model);
 

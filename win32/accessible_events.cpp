@@ -10,7 +10,7 @@ namespace win32 {
 namespace {
 
 void Announce(DWORD event, HWND window, long child) {
-    // Systems that cannot tell whether a client listens get every event.
+    // Send every event on systems that cannot tell whether a client is listening.
     static const auto is_heard = Look_Up<BOOL WINAPI(DWORD)>(L"user32.dll", "IsWinEventHookInstalled");
     if (is_heard == nullptr || is_heard(event))
         NotifyWinEvent(event, window, OBJID_CLIENT, child);

@@ -18,10 +18,10 @@ namespace {
 Callback<bool(platform::Broadcast)> broadcast_listener;
 HWND broadcasts = nullptr;
 
-/// The broadcasts that arrived while the mouse was taken, each once.
+/// The broadcasts that arrived while the mouse was taken, without duplicates.
 std::vector<std::pair<UINT, WPARAM>> deferred_broadcasts;
 
-/// Tells the listener. Returns its answer, or true without a listener.
+/// Calls the listener. Returns its answer, or true without a listener.
 bool Notify_Listener(platform::Broadcast broadcast) noexcept {
     const auto now = broadcast_listener;
     return !now || now(broadcast);
@@ -35,8 +35,8 @@ bool Concerns_Fonts(WPARAM setting) {
 /// Handles one of the system's broadcasts.
 void Process_Broadcast(UINT message, WPARAM wparam) {
     if (message == WM_SETTINGCHANGE && Concerns_Fonts(wparam)) {
-        // No other setting changed, so the listener is not told: Check_Scale makes all forms lay themselves
-        // out once.
+        // Only fonts changed. Do not call the listener, because Check_Scale already makes all forms lay
+        // themselves out.
         win32::Check_Scale(true);
     } else if (message == WM_SETTINGCHANGE) {
         win32::Check_Scale(false);
@@ -51,7 +51,7 @@ void Process_Broadcast(UINT message, WPARAM wparam) {
     }
 }
 
-/// Handles a message that concerns the program. Returns whether `message` is one.
+/// Handles a timer or a broadcast. Returns whether `message` is one of them.
 bool Process_Message(UINT message, WPARAM wparam) {
     switch (message) {
     case WM_TIMER:
@@ -64,9 +64,9 @@ bool Process_Message(UINT message, WPARAM wparam) {
     case WM_THEMECHANGED:
         if (!win32::Mouse_Is_Taken())
             Process_Broadcast(message, wparam);
-        else if (const std::pair told(message, wparam);
-                 std::ranges::find(deferred_broadcasts, told) == deferred_broadcasts.end())
-            deferred_broadcasts.push_back(told); // handled at the next tick
+        else if (const std::pair arrived(message, wparam);
+                 std::ranges::find(deferred_broadcasts, arrived) == deferred_broadcasts.end())
+            deferred_broadcasts.push_back(arrived); // handled at the next tick
         return true;
     default:
         return false;
@@ -93,8 +93,8 @@ LRESULT End_Session(UINT message, WPARAM wparam, LPARAM lparam) {
     win32::Boxes_Suppressed = forced;
     if (forced)
         Notify_Listener(platform::Broadcast::Session_Forced);
-    // WM_ENDSESSION leaves no time for a question, so a listener that agrees here must have finished its
-    // work.
+    // WM_ENDSESSION leaves no time for a question, so the listener must finish its work before it answers
+    // Session_Ends with true.
     if (message == WM_QUERYENDSESSION)
         return forced || Notify_Listener(platform::Broadcast::Session_Ends) ? TRUE : FALSE;
     if (ends)
@@ -120,7 +120,8 @@ LRESULT CALLBACK Broadcast_Procedure(HWND window, UINT message, WPARAM wparam, L
         if (Process_Message(message, wparam))
             return 0;
     } catch (...) {
-        // Only an out-of-memory exception arrives here. It must not pass through the system's code above.
+        // Only an out-of-memory exception arrives here. It must not unwind the system's code that called
+        // this procedure.
         return message == WM_QUERYENDSESSION ? TRUE : 0;
     }
     return DefWindowProcW(window, message, wparam, lparam);
@@ -135,7 +136,7 @@ HWND Broadcast_Window() {
         return broadcasts;
     constexpr wchar_t class_name[] = L"Vellatro_Broadcasts";
     Register_Class(class_name, Broadcast_Procedure, 0);
-    // Top-level, because other windows receive no broadcasts.
+    // Make a top-level window, because other windows receive no broadcasts.
     broadcasts = CreateWindowExW(WS_EX_TOOLWINDOW, class_name, L"Vellatro", WS_POPUP, 0, 0, 0, 0, nullptr,
                                  nullptr, GetModuleHandleW(nullptr), nullptr);
     return broadcasts;

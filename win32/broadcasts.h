@@ -1,5 +1,5 @@
-// The hidden window that receives the system's broadcasts and the timers, and the check that holds both back
-// while the mouse is taken.
+// The hidden window that receives the system's broadcasts and the timers. While the mouse is taken, timers
+// are skipped and broadcasts are deferred.
 #pragma once
 
 #include "win32/handles.h"
@@ -9,14 +9,14 @@ namespace win32 {
 /// Returns the hidden window. Creates it on first use.
 HWND Broadcast_Window();
 
-/// Returns whether a menu is open or the user is moving a window. Timers and broadcasts wait meanwhile,
-/// because the user could not click a message box that they show.
+/// Returns whether a menu is open or the user is moving a window. The user could not click a message box
+/// then, so no timer's callback runs and broadcasts are deferred.
 bool Mouse_Is_Taken();
 
 /// Handles the broadcasts that arrived while the mouse was taken.
 void Process_Deferred_Broadcasts();
 
-/// Runs the callback of timer `id`. First looks for lost windows, handles the waiting broadcasts and checks
+/// Runs the callback of timer `id`. First looks for lost windows, handles the deferred broadcasts and checks
 /// the scale. While the mouse is taken, only looks for lost windows.
 void Tick(UINT_PTR id);
 

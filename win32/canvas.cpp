@@ -69,7 +69,8 @@ const win32::Pixel_Buffer &Canvas::Pixels() const {
 }
 
 void Canvas::Copy_To(HDC target) const {
-    // The system draws with zero alpha, which is invisible on a window with a surface of its own.
+    // The system's drawing calls set the alpha to zero, so the pixels would be invisible on a window with a
+    // surface of its own.
     const win32::Pixel_Buffer &all = Pixels();
     std::for_each(all.pixels, all.pixels + std::ptrdiff_t{all.width} * all.height,
                   [](std::uint32_t &pixel) { pixel |= 0xFF000000U; });
@@ -131,12 +132,13 @@ void Draw_Text(Canvas &canvas, std::string_view text, const Rect &rect, const Fo
     SelectObject(dc, win32::Find_Font(font).handle);
     SetTextColor(dc, To_Colorref(colour));
     const std::wstring_view part(wide.data(), Whole_Code_Points(wide, longest_call));
-    // A text that is too long shows its beginning.
+    // If the text is too wide, its beginning is shown.
     const int room =
         align == Text_Align::Left ? 0 : static_cast<int>(pixels.right - pixels.left) - Pixel_Width(dc, part);
     int x = static_cast<int>(pixels.left);
     if (right_to_left && (align == Text_Align::Right || room < 0)) {
-        // Aligned at the right edge, because joined letters are not as wide as the sum of the single letters.
+        // Let the system align the text at the right edge, because joined letters are not as wide as the sum
+        // of the single letters.
         SetTextAlign(dc, TA_RIGHT);
         x = static_cast<int>(pixels.right);
     } else {
@@ -157,7 +159,7 @@ void Draw_Picture(Canvas &canvas, const Picture &picture, const Rect &rect) {
 
 int Text_Width(std::string_view text, const Font &font) {
     const std::wstring wide = win32::To_Wide(text);
-    // Rounded up, so that a text fits into its width in twips.
+    // Round up, so that the text fits into its width in twips.
     return Scale_Up(Pixel_Width(win32::Measuring_Dc(font), wide), 1440, Dots_Per_Inch());
 }
 

@@ -5,9 +5,10 @@
 #include "win32/handles.h"
 #include "win32/smooth_polygon.h"
 
-/// Drawing coordinates are window pixels. The bitmap starts at the top left corner of `area`.
+/// A bitmap of one area of a window. Drawing coordinates are window pixels; the bitmap's first pixel is the
+/// top left corner of the area.
 struct platform::Canvas {
-    /// Creates a bitmap for `area`, in window pixels. Ok() returns whether that succeeded.
+    /// Creates the bitmap for `area` (window pixels). Ok() returns whether that succeeded.
     explicit Canvas(const RECT &area);
     ~Canvas();
     Canvas(const Canvas &) = delete;
@@ -39,8 +40,8 @@ Unique_Bitmap Make_Pixel_Bitmap(int width, int height, Pixel_Buffer &pixels);
 /// Returns a platform colour as 0x00RRGGBB.
 std::uint32_t Pixel_Colour(Colour colour);
 
-/// Handles WM_PAINT and WM_PRINTCLIENT by calling `paint(HDC, const RECT &area)`. WM_ERASEBKGND does nothing,
-/// because `paint` covers the whole area. Returns the result of the message.
+/// Handles WM_PAINT and WM_PRINTCLIENT by calling `paint(HDC, const RECT &area)`. Does nothing on
+/// WM_ERASEBKGND, because `paint` covers the whole area. Returns the result of the message.
 template <typename Paint>
 LRESULT Paint_Window(HWND window, UINT message, WPARAM wparam, const Paint &paint) {
     if (message == WM_ERASEBKGND)

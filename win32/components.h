@@ -16,7 +16,7 @@ struct Releaser {
 template <typename Interface>
 using Unique_Interface = std::unique_ptr<Interface, Releaser>;
 
-/// Initialises COM on the calling thread for a scope. No COM object may outlive it.
+/// Initialises COM on the calling thread for a scope. No COM object may outlive the session.
 class Component_Session {
 public:
     Component_Session() {

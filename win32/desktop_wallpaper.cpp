@@ -2,7 +2,7 @@
 // the position, then either the slide show's options, its interval and its folder or pictures, or each
 // monitor with its picture.
 
-// The headers declare the interface only for Windows 8 and newer.
+// The system's headers declare IDesktopWallpaper only for Windows 8 and newer.
 #undef _WIN32_WINNT
 #undef WINVER
 #define _WIN32_WINNT 0x0602
@@ -36,7 +36,7 @@ struct Task_Freer {
 using Task_Text = std::unique_ptr<wchar_t, Task_Freer>;
 using Id_List = std::unique_ptr<ITEMIDLIST, Task_Freer>;
 
-/// Returns null before Windows 8.
+/// Returns the shell's wallpaper object, null before Windows 8.
 Unique_Interface<IDesktopWallpaper> Desktop_Wallpaper() {
     auto *const create = Look_Up<HRESULT WINAPI(REFCLSID, IUnknown *, DWORD, REFIID, void **)>(
         L"ole32.dll", "CoCreateInstance");
@@ -53,7 +53,8 @@ int Number(std::string_view text) {
     return number;
 }
 
-/// Adds the slide show's options, interval, and folder or pictures. Returns whether that succeeded.
+/// Adds lines for the slide show's options, its interval and its folder or pictures. Returns whether that
+/// succeeded.
 bool Add_Slides(IDesktopWallpaper &wallpaper, std::string &lines) {
     DESKTOP_SLIDESHOW_OPTIONS options{};
     UINT tick = 0;
@@ -79,7 +80,8 @@ bool Add_Slides(IDesktopWallpaper &wallpaper, std::string &lines) {
     return true;
 }
 
-/// Adds the picture of each connected monitor. Returns false if that fails or a monitor has no picture.
+/// Adds a line for each connected monitor and its picture. Returns false if that fails or a monitor has no
+/// picture.
 bool Add_Pictures(IDesktopWallpaper &wallpaper, std::string &lines) {
     UINT count = 0;
     if (FAILED(wallpaper.GetMonitorDevicePathCount(&count)))
@@ -169,9 +171,9 @@ bool Set_Monitor_Wallpapers(const std::string &monitors) {
 }
 
 std::wstring Persistent_Picture(const std::wstring &path) {
-    // Windows overwrites C:\Users\NAME\AppData\Roaming\Microsoft\Windows\Themes\TranscodedWallpaper, which
-    // has an extension in Windows 7 and a number for a monitor, and
-    // ...\Themes\CachedFiles\CachedImage_1920_1080_POS4.jpg.
+    // Windows overwrites two kinds of files in C:\Users\NAME\AppData\Roaming\Microsoft\Windows\Themes:
+    // TranscodedWallpaper, with an extension on Windows 7 or a number for each monitor, and
+    // CachedFiles\CachedImage_1920_1080_POS4.jpg.
     const std::size_t cut = path.rfind(L'\\');
     if (cut == std::wstring::npos)
         return path;

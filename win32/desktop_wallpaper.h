@@ -1,5 +1,5 @@
-// Wallpapers on Windows 8 and newer: a picture for each monitor or a slide show, and their position. The
-// registry holds only one path. All functions may be called on any thread.
+// Wallpapers on Windows 8 and newer: a picture for each monitor or a slide show, and the way the pictures
+// fill the screen. The registry holds only one path. All functions may be called on any thread.
 #pragma once
 
 #include <string>
@@ -10,12 +10,12 @@ namespace win32 {
 /// an empty text if the system cannot provide them or a monitor has no picture.
 std::string Get_Monitor_Wallpapers();
 
-/// Sets the wallpapers that Get_Monitor_Wallpapers returned. Stops and returns false at the first one that
-/// cannot be set.
+/// Sets the wallpapers that Get_Monitor_Wallpapers returned. Stops at the first that cannot be set, and
+/// returns false.
 bool Set_Monitor_Wallpapers(const std::string &monitors);
 
-/// Returns `path`, or the path of a copy if the system overwrites that file with the next wallpaper. Returns
-/// `path` if the copy fails.
+/// Returns `path`, or the path of a new copy if the system would overwrite the file at `path` with the next
+/// wallpaper. Returns `path` if copying fails.
 std::wstring Persistent_Picture(const std::wstring &path);
 
 } // namespace win32

@@ -1,5 +1,5 @@
-// The background colours of the native controls in dialogs. The body of a tab strip may differ in colour from
-// the dialog. Controls on the body take the colour that the system gives it.
+// The background colours of the native controls in dialogs. The system may give the body of a tab strip
+// another colour than the dialog. Controls on the body take the body's colour.
 #include "win32/canvas.h"
 #include "win32/dialog_window.h"
 #include "win32/units.h"
@@ -16,7 +16,7 @@ namespace {
 constexpr Colour usual_fore_colour = System_Colour(18);
 constexpr Colour usual_back_colour = System_Colour(15);
 
-/// Returns whether a control of this kind shows the background behind it.
+/// Returns whether a control of this kind shows the background behind the control.
 bool Shows_Background(const Control_State &control) {
     switch (control.kind) {
     case Control_Kind::Text_Box:
@@ -44,8 +44,8 @@ void Dialog_Window::Find_Page_Colour() {
     const Control_State *tabs = Tab_Strip();
     if (tabs == nullptr)
         return;
-    // The tab strip paints itself at an offset, so that only the middle of its body lands on the one-pixel
-    // bitmap.
+    // Let the tab strip paint itself at an offset, so that only the middle of its body lands on the
+    // one-pixel bitmap.
     const RECT place = To_Pixels(platform::Place_On_Form(*Model(), *tabs));
     const RECT page = Page_Of(*tabs);
     const int x = static_cast<int>((page.left + page.right) / 2 - place.left);
@@ -110,8 +110,8 @@ LRESULT Dialog_Window::Colour_Control(UINT message, HDC dc, HWND window, LRESULT
 void Dialog_Window::Colours_Changed(UINT message, WPARAM wparam, LPARAM lparam) {
     for (Native &native : natives_) {
         native.brush.reset();
-        // The system sends WM_SYSCOLORCHANGE to the dialog alone, but the common controls keep colours too. A
-        // new theme is sent to all windows.
+        // The system sends WM_SYSCOLORCHANGE to the dialog alone, but the common controls keep colours too.
+        // WM_THEMECHANGED goes to all windows.
         if (message == WM_SYSCOLORCHANGE && native.window != nullptr && !native.painted)
             SendMessageW(native.window, message, wparam, lparam);
     }

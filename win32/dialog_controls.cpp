@@ -1,5 +1,5 @@
-// The state of the form's controls, shown by native controls. dialog_make.cpp creates the native controls,
-// and dialog_events.cpp handles the user's actions.
+// The updates of native controls from the state of the form's controls. dialog_make.cpp creates the native
+// controls, and dialog_events.cpp handles the user's actions.
 #include "base/scoped_value.h"
 #include "win32/accessible.h"
 #include "win32/dialog_edit.h"
@@ -26,8 +26,8 @@ bool Has_Items(const Control_State &control) {
            control.kind == Control_Kind::Tab_Strip;
 }
 
-/// Returns the text of the native window. The text of a painted control, or of one with an accessible name,
-/// only serves assistive technology.
+/// Returns the text of the native window. For a painted control or a control with an accessible name, the
+/// text serves only assistive technology.
 std::wstring Native_Caption(const Control_State &control) {
     if (control.painted || !control.access.name.empty())
         return To_Wide(Access_Name(control));
@@ -80,7 +80,7 @@ void Dialog_Window::Look_Changed(const Control_State &control) {
 void Dialog_Window::Set_Font(const Control_State &control) {
     const Native &native = natives_[static_cast<std::size_t>(control.index)];
     SendMessageW(native.window, WM_SETFONT, reinterpret_cast<WPARAM>(Find_Font(control.font)), TRUE);
-    // Controls that are being created have no items yet.
+    // A control that is being created has no items yet.
     if (Has_Items(control) && !updating_)
         Fit_Widest_Item(native.window, control);
 }
@@ -101,7 +101,7 @@ void Dialog_Window::Set_Caption(const Control_State &control) {
     if (!shows_text && control.access.name.empty())
         return;
     const std::wstring text = Native_Caption(control);
-    // Writing an equal text again would move the caret to the beginning.
+    // Setting an equal text would move the caret to the beginning.
     if (Window_Text(window) == text)
         return;
     const Scoped_Value updating(updating_, true);
@@ -147,7 +147,7 @@ void Dialog_Window::Place_Children(const Control_State &changed, const Rect &bef
     Redraw(place);
 }
 
-/// Invalidates a part of the dialog with its controls, to be painted later in one go.
+/// Invalidates a part of the dialog with its controls, so that all are painted together later.
 void Dialog_Window::Redraw(const Rect &place) {
     const RECT pixels = To_Pixels(place);
     RedrawWindow(window_, &pixels, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
@@ -238,7 +238,7 @@ void Dialog_Window::Release_Focus(const Control_State &changed) {
     if (control == nullptr || !Contains(changed, *control))
         return;
     const Control_State *tabs = Tab_Strip();
-    // If a page is hidden or disabled, its focus moves to the tabs.
+    // If a page was hidden or disabled, move the focus to the tabs.
     if (changed.kind == Control_Kind::Frame && tabs != nullptr &&
         IsWindowEnabled(Control_Window(tabs->index)))
         SendMessageW(window_, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(Control_Window(tabs->index)), TRUE);
@@ -273,7 +273,7 @@ void Dialog_Window::Update_Children(const Control_State &changed) {
     }
     if (moves != nullptr)
         EndDeferWindowPos(moves);
-    // Repainted later, together with the page that is shown instead.
+    // Repaint later, together with the page that replaces a hidden one.
     if (shown_or_hidden)
         Redraw(platform::Place_On_Form(*Model(), changed));
 }

@@ -1,4 +1,4 @@
-// The behaviour of text boxes, added by a window procedure in front of the system's own.
+// The behaviour of text boxes: a window procedure that runs before the edit control's own.
 #include "win32/dialog_edit.h"
 
 #include "base/cut_text.h"
@@ -36,7 +36,7 @@ private:
     bool open_;
 };
 
-/// The selected characters, from the first to one past the last.
+/// The selected characters: the index of the first, and one past the index of the last.
 struct Selection {
     DWORD begin = 0;
     DWORD end = 0;
@@ -57,8 +57,8 @@ std::size_t Remaining_Length(HWND edit) {
     return limit > kept ? limit - kept : 0;
 }
 
-/// Replaces the selection with `text`. The time that the system needs to break a text into lines grows with
-/// the square of its length, so a long text is appended in pieces. Only the last piece can be undone.
+/// Replaces the selection with `text`. Appends a long text in pieces, because the time that the system needs
+/// to break a text into lines grows with the square of its length. The user can undo only the last piece.
 void Replace_Selection(HWND edit, std::wstring_view text, bool can_undo) {
     const auto length = static_cast<DWORD>(GetWindowTextLengthW(edit));
     const std::size_t most = Selection_Of(edit).end == length ? 2048 : text.size();
@@ -83,7 +83,7 @@ bool Has_Style(HWND edit, DWORD style) {
     return (static_cast<DWORD>(GetWindowLongW(edit, GWL_STYLE)) & style) != 0;
 }
 
-/// Deletes the selection or, without one, the word before the caret with the blanks behind it.
+/// Deletes the selection or, without one, the word before the caret with the blanks after the word.
 void Delete_Word(HWND edit) {
     auto [begin, end] = Selection_Of(edit);
     if (begin == end) {
@@ -97,16 +97,17 @@ void Delete_Word(HWND edit) {
         SendMessageW(edit, EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(L""));
 }
 
-/// Handles the keys that differ from the system's edit control. Returns whether the message needs no further
-/// handling.
+/// Handles the keys that a text box treats differently from the system's edit control. Returns whether the
+/// message needs no further handling.
 bool Handle_Key(HWND edit, UINT message, WPARAM wparam) {
     constexpr WPARAM select_all = 1;     // the character of Ctrl+A
     constexpr WPARAM delete_word = 0x7F; // the character of Ctrl+Backspace
     if (message == WM_KEYDOWN) {
-        const bool is_it = wparam == VK_BACK && GetKeyState(VK_CONTROL) < 0 && GetKeyState(VK_MENU) >= 0;
-        if (is_it && !Has_Style(edit, ES_READONLY))
+        const bool ctrl_backspace =
+            wparam == VK_BACK && GetKeyState(VK_CONTROL) < 0 && GetKeyState(VK_MENU) >= 0;
+        if (ctrl_backspace && !Has_Style(edit, ES_READONLY))
             Delete_Word(edit);
-        return is_it;
+        return ctrl_backspace;
     }
     if (wparam == select_all)
         SendMessageW(edit, EM_SETSEL, 0, -1);
@@ -115,8 +116,8 @@ bool Handle_Key(HWND edit, UINT message, WPARAM wparam) {
     return wparam == select_all || wparam == delete_word || (breaks_line && Has_Style(edit, ES_MULTILINE));
 }
 
-/// Handles the messages that differ from the system's edit control. Returns whether the message needs no
-/// further handling.
+/// Handles the messages that a text box treats differently from the system's edit control. Returns whether
+/// the message needs no further handling.
 bool Handle(HWND edit, UINT message, WPARAM wparam, LRESULT &result) {
     if (message == WM_KEYDOWN || message == WM_CHAR)
         return Handle_Key(edit, message, wparam);
@@ -144,7 +145,7 @@ LRESULT CALLBACK Procedure(HWND edit, UINT message, WPARAM wparam, LPARAM lparam
         if (Handle(edit, message, wparam, result))
             return result;
     } catch (...) {
-        // Out of memory: nothing is pasted.
+        // Out of memory: drop the message, usually a paste.
         MessageBeep(MB_OK);
         return 0;
     }

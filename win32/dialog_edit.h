@@ -7,8 +7,9 @@
 
 namespace win32 {
 
-/// Gives a native edit control the behaviour of a text box: Ctrl+Backspace deletes a word, Ctrl+A selects
-/// all. A multi-line control also leaves Enter, Esc and Tab to the dialog, and pastes line breaks as spaces.
+/// Gives a native edit control the behaviour of a text box: Ctrl+Backspace deletes a word, and Ctrl+A
+/// selects all. A multi-line control also leaves Enter, Esc and Tab to the dialog, and replaces pasted line
+/// breaks with spaces.
 void Make_Text_Box(HWND edit);
 
 /// Sets the text of an edit control and puts the caret at its beginning.

@@ -1,4 +1,4 @@
-// The user's actions on native controls, sent to the form.
+// The handling of the user's actions on native controls: each is sent to the form as an event.
 #include "win32/dialog_edit.h"
 #include "win32/dialog_lists.h"
 #include "win32/dialog_window.h"
@@ -14,7 +14,8 @@ using platform::Control_Kind;
 using platform::Input_Event;
 using platform::Input_Kind;
 
-/// Sends an event. If the form did not accept the new state, resets the native control.
+/// Sends an event of the control to the form. Then resets the native control if the form did not accept the
+/// new state.
 void Dialog_Window::Send_Event(const Control_State &control, Input_Event event) {
     if (updating_)
         return;
@@ -24,7 +25,7 @@ void Dialog_Window::Send_Event(const Control_State &control, Input_Event event) 
     if (Model() == nullptr)
         return;
     Show_Choice(control);
-    // An option button has also unchecked its neighbours.
+    // An option button has also unchecked the others in its frame.
     for (const Control_State *other : Model()->controls) {
         if (control.kind == Control_Kind::Option_Button && other->kind == control.kind &&
             other->container == control.container)
@@ -95,7 +96,7 @@ void Dialog_Window::Text_Edited(const Control_State &control) {
     event.text = From_Wide(Without_Breaks(Window_Text(Control_Window(control.index))));
     event.control = control.index;
     Send(event);
-    // A disabled form ignores text that another program puts in, so the old text is restored.
+    // A disabled form ignores a text that another program enters, so restore the old text.
     if (Model() != nullptr && !Model()->enabled)
         Set_Caption(control);
 }
@@ -126,8 +127,8 @@ void Dialog_Window::Combo_Command(const Control_State &control, int code) {
     }
 }
 
-/// Handles the closing of a list. A list that closes without a choice reverts to its old item, or adopts an
-/// item that begins with the typed text, and reports neither.
+/// Handles the closing of a combo box's list. If the user chose no item, the native combo box selects its
+/// old item or an item that begins with the typed text, and sends no notification.
 void Dialog_Window::Combo_Closed(const Control_State &control) {
     const HWND combo = Control_Window(control.index);
     const int item = Selected_Item(combo, control);
@@ -193,9 +194,9 @@ bool Dialog_Window::Preprocess_Message(const MSG &message) {
         return false;
     // Enter on a chosen item acts on the item, not on the default button.
     const bool of_item = event.key == VK_RETURN && control->selected >= 0;
-    Input_Event told = event;
-    told.control = control->index;
-    Send(told);
+    Input_Event list_event = event;
+    list_event.control = control->index;
+    Send(list_event);
     return of_item || Model() == nullptr;
 }
 

@@ -20,7 +20,8 @@ namespace {
 constexpr int most_items_shown = 12;
 constexpr int around_text = 2 * 15; ///< total space above and below the text of a combo box, in twips
 
-/// Measures many texts in one font. Adds up a table of character widths for pure ASCII texts.
+/// A fast measure for many texts in one font: the width of a pure ASCII text is the sum of tabulated
+/// character widths.
 class Text_Measure {
 public:
     explicit Text_Measure(const platform::Font &font) : dc_(Measuring_Dc(font)) {
@@ -41,7 +42,7 @@ public:
 private:
     int Extent(const std::wstring &text) const {
         SIZE size = {};
-        // No list shows more characters.
+        // No list is wide enough to show more characters.
         const std::size_t length = std::min<std::size_t>(text.size(), 8192);
         GetTextExtentPoint32W(dc_, text.data(), static_cast<int>(length), &size);
         return static_cast<int>(size.cx);
@@ -56,7 +57,7 @@ int Widest_Item(const Control_State &control) {
     int widest = 0;
     for (const std::string &item : control.items)
         widest = std::max(widest, measure.Width(To_Wide(item)));
-    // The system's coordinates end just beyond this.
+    // The system's 16-bit coordinates end at 32767.
     return std::min(widest, 30000);
 }
 
@@ -112,7 +113,7 @@ void Fit_Widest_Item(HWND window, const Control_State &control) {
     } else if (control.kind == Control_Kind::Combo_Box) {
         const int bar = GetSystemMetrics(SM_CXVSCROLL);
         const int room = GetSystemMetrics(SM_CXSCREEN);
-        // The system takes the combo box's own width if that is larger.
+        // The system uses the combo box's own width if that is larger.
         const int width = std::min(Widest_Item(control) + margin + bar, room);
         SendMessageW(window, CB_SETDROPPEDWIDTH, static_cast<WPARAM>(width), 0);
     }
@@ -125,13 +126,13 @@ void Set_Combo_Heights(HWND combo, int pixels, const Control_State &control) {
     const auto field_height = static_cast<int>(SendMessageW(combo, CB_GETITEMHEIGHT, field, 0));
     const int around = static_cast<int>(now.bottom - now.top) - field_height;
     const int needed = To_Pixels(platform::Line_Height(control.font));
-    // The field is no higher than its text needs, because some systems draw the text at the top. Instead, the
-    // combo box is centred in its place.
+    // Make the field hardly higher than its text, because some systems draw the text at the top, and centre
+    // the combo box in its place instead.
     const int wanted = std::clamp(pixels - around, needed, needed + To_Pixels(around_text));
     if (around > 0 && wanted != field_height)
         SendMessageW(combo, CB_SETITEMHEIGHT, field, wanted);
-    // The height of a combo box includes its open list. Newer systems instead show as many items as
-    // CB_SETMINVISIBLE says, by default thirty.
+    // The height of a combo box includes its open list. Newer systems use the number of items from
+    // CB_SETMINVISIBLE instead, by default 30.
     SendMessageW(combo, CB_SETMINVISIBLE, most_items_shown, 0);
     const int shown = std::clamp(static_cast<int>(control.items.size()), 1, most_items_shown);
     const auto item_height = static_cast<int>(SendMessageW(combo, CB_GETITEMHEIGHT, 0, 0));

@@ -6,15 +6,15 @@
 
 namespace win32 {
 
-/// Fills the native window with the control's items. A list box keeps its first visible item.
+/// Fills the native window with the control's items. A list box keeps its scroll position.
 void Fill_List(HWND window, const platform::Control_State &control);
 
-/// Makes room for the widest item: sets how far a list box scrolls, or how wide a combo box opens its list.
-/// Call it after a change of the items, the font or the dots per inch.
+/// Makes room for the widest item: sets the horizontal scroll range of a list box, or the width of a combo
+/// box's open list. Call it after a change of the items, the font or the dots per inch.
 void Fit_Widest_Item(HWND window, const platform::Control_State &control);
 
-/// Centres a combo box vertically in its place, which is `pixels` high. Its open list shows all items, at
-/// most twelve.
+/// Sets the heights of a combo box and of its open list. Centres the box vertically in its place, which is
+/// `pixels` high. The open list shows up to twelve items at once.
 void Set_Combo_Heights(HWND combo, int pixels, const platform::Control_State &control);
 
 /// Selects an item, -1: none. Sends no event.

@@ -19,12 +19,12 @@ namespace {
 
 DWORD Label_Style(const Control_State &control) {
     constexpr DWORD aligned[] = {SS_LEFT, SS_CENTER, SS_RIGHT};
-    // SS_NOTIFY makes the label receive the mouse, as its tooltip requires.
+    // SS_NOTIFY makes the label receive mouse messages, which its tooltip needs.
     return aligned[static_cast<int>(control.align)] | SS_NOTIFY | (control.middle ? SS_CENTERIMAGE : 0U) |
            (control.frame_colour != -1 ? WS_BORDER : 0U);
 }
 
-/// Returns the style of a text box. A box higher than three lines gets a scroll bar.
+/// Returns the style of a text box. A multi-line box that is higher than three lines gets a scroll bar.
 DWORD Text_Box_Style(const Control_State &control) {
     const bool tall = control.bounds.height > 3 * platform::Line_Height(control.font);
     const DWORD lines = control.single_line ? DWORD{ES_AUTOHSCROLL}
@@ -115,9 +115,9 @@ void Dialog_Window::Create() {
         Handle_Scale_Message(Dots_Of(window_), nullptr);
 }
 
-/// Creates the controls that have no window yet. The controls in a hidden frame are created when the frame is
-/// first shown, so that a dialog with many pages opens with the controls of one. Returns whether any were
-/// created.
+/// Creates the controls that have no window yet. The controls in a hidden frame are created when the frame
+/// is first shown, so that a dialog with many pages opens with the controls of only one. Returns whether any
+/// controls were created.
 bool Dialog_Window::Make_Missing_Controls() {
     int last_made = -1;
     const Scoped_Value updating(updating_, true);
@@ -130,13 +130,13 @@ bool Dialog_Window::Make_Missing_Controls() {
     }
     if (last_made == -1)
         return false;
-    // The Tab key visits the windows from top to bottom, so controls that follow a page created later must
-    // lie under it.
+    // The Tab key visits the windows from top to bottom of their stacking order, so move the controls that
+    // follow a page created late below that page.
     for (const Control_State *control : Model()->controls)
         if (control->index > last_made && control->container == -1)
             Put_Lowest(*control);
-    // The tab strip lies at the bottom, because the other controls are on its page. The Tab order is
-    // circular, so this place also comes just before the first control.
+    // Move the tab strip to the bottom, because the other controls are on its page. The Tab order is
+    // circular, so the bottom also comes just before the first control.
     if (const Control_State *tabs = Tab_Strip())
         Put_Lowest(*tabs);
     return true;
@@ -163,7 +163,7 @@ HWND Dialog_Window::Make_Native(const Control_State &control) {
 /// Creates a control, hidden if the dialog is already visible. Returns false for a control that needs no
 /// window.
 bool Dialog_Window::Make_Control(const Control_State &control) {
-    // A frame without a caption is invisible.
+    // A frame without a caption is invisible, so it needs no window.
     if (control.kind == Control_Kind::Frame && control.caption.empty())
         return false;
     Native &native = natives_[static_cast<std::size_t>(control.index)];
@@ -194,8 +194,8 @@ bool Dialog_Window::Make_Control(const Control_State &control) {
     return true;
 }
 
-/// Returns WS_GROUP for a control that begins a group. The option buttons of a frame and any controls between
-/// them form one group, which the arrow keys walk. Every other control is a group of its own.
+/// Returns WS_GROUP for a control that begins a group. The option buttons of a frame and any controls
+/// between them form one group, in which the arrow keys move the focus. Every other control begins a group.
 DWORD Dialog_Window::Group_Style(const Control_State &control) const {
     bool before = false;
     bool after = control.kind == Control_Kind::Option_Button;
@@ -208,14 +208,14 @@ DWORD Dialog_Window::Group_Style(const Control_State &control) const {
     return before && after ? 0U : WS_GROUP;
 }
 
-/// Raises a control above the painted controls that precede and overlap it. The system puts new windows below
-/// earlier ones, but in a form later controls cover earlier painted ones.
+/// Raises a control above the painted controls that precede and overlap it. The system puts new windows
+/// below earlier ones, but in a form later controls cover earlier ones.
 void Dialog_Window::Raise_Over_Painted(const Control_State &control) {
     const auto covers = [&control](const Control_State *other) {
         return other != nullptr && other->painted && other->index < control.index &&
                other->container == control.container && other->bounds.Intersects(control.bounds);
     };
-    // Usually there is no such control, and the windows need not be enumerated.
+    // Usually there is no such control, so do not enumerate the windows.
     if (std::ranges::none_of(Model()->controls, covers))
         return;
     HWND above = nullptr;

@@ -1,4 +1,4 @@
-// Dialog windows, created from a template in memory.
+// Creates dialog windows from a template in memory.
 #include "win32/dialog_template.h"
 
 #include "win32/window_class.h"
@@ -13,7 +13,7 @@ HWND Make_Dialog(const std::wstring &class_name, WNDPROC procedure) {
     DLGTEMPLATE head = {};
     head.style = WS_POPUP | WS_CAPTION | WS_SYSMENU | DS_MODALFRAME | DS_3DLOOK;
     head.dwExtendedStyle = WS_EX_CONTROLPARENT;
-    // The header is followed by the menu (none), the class and the title (none), each ended by a NUL.
+    // The menu (none), the class and the title (none) follow the header, each ended by a NUL.
     const std::size_t text_bytes = (class_name.size() + 3) * sizeof(wchar_t);
     std::vector<DWORD> bytes((sizeof head + text_bytes) / sizeof(DWORD) + 1);
     auto *place = reinterpret_cast<unsigned char *>(bytes.data());

@@ -20,7 +20,7 @@ using platform::Input_Kind;
 
 namespace {
 
-/// Returns `place`, moved so that it lies wholly in the work area of its nearest monitor.
+/// Returns `place`, moved wholly into the work area of the nearest monitor.
 RECT On_Screen(RECT place) {
     MONITORINFO monitor = {};
     monitor.cbSize = sizeof monitor;
@@ -46,13 +46,13 @@ LRESULT Dialog_Window::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
         Handle_Command(LOWORD(wparam), HIWORD(wparam));
         return 0;
     case WM_SETCURSOR:
-        // A disabled window learns of a press only through this message. If a message box is open, the system
-        // itself draws attention to that.
+        // A disabled window learns of a mouse press only through this message. If a message box is open, the
+        // system itself draws attention to the box.
         if (!Model()->enabled && HIWORD(lparam) == WM_LBUTTONDOWN && !platform::Box_Is_Open()) {
             Send(Input_Kind::Mouse_Down);
             return TRUE;
         }
-        // Controls ask the dialog before they set their own pointer.
+        // Controls send this message to the dialog before they set their own pointer.
         if (Model()->pointer != platform::Pointer_Shape::Hourglass || LOWORD(lparam) != HTCLIENT)
             break;
         SetCursor(Load_Pointer(System_Pointer::Hourglass));
@@ -61,7 +61,8 @@ LRESULT Dialog_Window::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
         Send(Input_Kind::Close);
         return 0;
     case WM_ACTIVATE: {
-        // The system comes first, because it returns the focus to the control that had it.
+        // Let the system handle the message first, because it returns the focus to the control that had the
+        // focus.
         const LRESULT result = DefDlgProcW(window_, message, wparam, lparam);
         Input_Event event{};
         event.kind = Input_Kind::Focus_Changed;
@@ -136,7 +137,7 @@ void Dialog_Window::Update_Bounds() {
     const POINT corner = moved ? Corner_On_Screen() : POINT{now.left, now.top};
     RECT place = {corner.x, corner.y, corner.x + outer.right - outer.left,
                   corner.y + outer.bottom - outer.top};
-    // A window that the user is moving stays where the mouse has it.
+    // A window that the user is moving stays with the mouse.
     if (!Mouse_Is_Taken())
         place = On_Screen(place);
     SetWindowPos(window_, nullptr, place.left, place.top, place.right - place.left, place.bottom - place.top,
@@ -154,15 +155,15 @@ void Dialog_Window::Update_Bounds() {
     Send_Window_Moved();
 }
 
-/// Returns the form's place in screen pixels. Places are in the calendar's scale, whatever the dialog's own
-/// is.
+/// Returns the form's position in screen pixels. Positions are in the calendar's scale, whatever the scale
+/// of the dialog.
 POINT Dialog_Window::Corner_On_Screen() const {
     const Scoped_Value scale(Dialog_Dots, 0);
     return {To_Pixels(Model()->bounds.left), To_Pixels(Model()->bounds.top)};
 }
 
-/// Adopts the scale of the screen that the window has moved to. `place` is where the system wants the window
-/// there, null if unknown.
+/// Adopts the scale of the screen that the window has moved to. `place` is the rectangle that the system
+/// suggests for the window there, in pixels; null: none.
 void Dialog_Window::Handle_Scale_Message(int dots, const RECT *place) {
     // Any program can send the message, so check the range.
     constexpr int least = 48, most = 960;
@@ -172,11 +173,11 @@ void Dialog_Window::Handle_Scale_Message(int dots, const RECT *place) {
     if (place != nullptr)
         SetWindowPos(window_, nullptr, place->left, place->top, place->right - place->left,
                      place->bottom - place->top, SWP_NOZORDER | SWP_NOACTIVATE);
-    // Posted, because the message may arrive while the window is being created or placed.
+    // Apply the scale later, because this message may arrive while the window is being created or placed.
     PostMessageW(window_, Check_Dots_Message, 0, 0);
 }
 
-/// Tells the form where the window is, after the user or the screen's edge has moved it.
+/// Sends the form the window's position, which the user or the edge of the work area may have changed.
 void Dialog_Window::Send_Window_Moved() {
     RECT now = {};
     if (!is_placed_ || IsIconic(window_) || !GetWindowRect(window_, &now))
@@ -212,7 +213,7 @@ void Dialog_Window::Focus() {
         control = GetNextDlgTabItem(window_, nullptr, FALSE);
     if (control != nullptr && GetFocus() != control)
         SendMessageW(window_, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(control), TRUE);
-    // Puts the caret behind the text. If the whole text were selected, the first key would erase it.
+    // Put the caret behind the text. If the whole text were selected, the first key would erase the text.
     const int index = Model()->focused;
     if (index < 0 || control != Control_Window(index))
         return;
@@ -224,7 +225,7 @@ void Dialog_Window::Focus() {
 }
 
 void Dialog_Window::Scale_Changed() {
-    // The former fonts live until no control uses them.
+    // Keep the old fonts until no control uses them.
     const std::vector<Shared_Font> before = std::move(fonts_);
     fonts_.clear();
     for (const Control_State *control : Model()->controls) {

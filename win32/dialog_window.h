@@ -24,11 +24,11 @@ public:
 private:
     using Control_State = platform::Control_State;
 
-    /// The native side of one control. A frame without a caption has no window. The controls in a frame have
-    /// none until the frame is first shown.
+    /// The native side of one control. A frame without a caption has no window, and the controls in a frame
+    /// have none until the frame is first shown.
     struct Native {
         HWND window = nullptr;
-        Unique_Brush brush; ///< the control's own background colour
+        Unique_Brush brush; ///< the brush of the control's own background colour
         std::unique_ptr<Painted_Child> painted;
         int settled_value = 0; ///< a slider's value when it last came to rest
     };
@@ -114,8 +114,8 @@ private:
     bool updating_ = false; ///< the program is changing a control, so its notifications are not user actions
 };
 
-/// The native identifier of a control is this plus its index. Some lower identifiers mean something to the
-/// system.
+/// The native identifier of the first control. Each control adds its index. Some lower identifiers have a
+/// meaning for the system, such as IDCANCEL.
 constexpr int First_Control_Id = 100;
 
 } // namespace win32

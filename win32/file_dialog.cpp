@@ -1,4 +1,4 @@
-// File dialogs, shown by the system's common dialogs.
+// File dialogs, by the system's common dialogs.
 #include "platform/file_dialog.h"
 
 #include "win32/mirror.h"
@@ -12,8 +12,8 @@ namespace platform {
 
 namespace {
 
-/// Restores the current folder at the end of a scope. The dialogs change it to the folder that the user has
-/// opened, and nobody can remove a current folder.
+/// Restores the current folder at the end of a scope. The dialogs change the current folder to the folder
+/// that the user has opened, and no program can remove a folder that is current.
 class Current_Folder_Guard {
 public:
     Current_Folder_Guard() {
@@ -65,7 +65,7 @@ bool Show_File_Dialog(File_Dialog &dialog) {
 
     const Current_Folder_Guard kept;
     const win32::Modal_Scope modal(record.hwndOwner);
-    // Loaded on demand: most days need no file dialog, and loading its libraries would slow down every start.
+    // Load the library on demand: file dialogs are rare, and their libraries would slow down every start.
     const auto show = win32::Look_Up<decltype(GetOpenFileNameW)>(
         L"comdlg32.dll", dialog.saves ? "GetSaveFileNameW" : "GetOpenFileNameW");
     if (show == nullptr || !show(&record))

@@ -1,7 +1,7 @@
-// Whole files. A file is replaced through a new file beside it with ".vellatro-new" after its name. If a
-// killed run leaves one behind, the next replacement deletes it. The system renames a file completely or not
-// at all. ReplaceFile would keep the access list, but it is not atomic: between its two steps no file has the
-// name.
+// Whole files. Replaces a file by renaming a new file over it. The new file is in the same folder and has
+// ".vellatro-new" appended to the name. If a killed run leaves a new file behind, the next replacement
+// deletes it. The system renames a file completely or not at all. ReplaceFile would keep the access list,
+// but it is not atomic: between its two steps no file has the name.
 #include "platform/files.h"
 
 #include "base/joined.h"
@@ -18,14 +18,16 @@ namespace platform {
 
 namespace {
 
-constexpr const char *New_File_Ending = ".vellatro-new";
+constexpr const char *New_File_Suffix = ".vellatro-new";
 constexpr DWORD Share_All = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
 
-/// Longer files are refused: a 32-bit process can surely hold this many bytes twice.
+/// In bytes (512 MiB). Longer files are refused, because a 32-bit process might not have room for their
+/// bytes twice.
 constexpr DWORD Longest_File = 0x20000000;
 constexpr std::size_t Bytes_Per_Write = 0x100000;
 
-/// Virus scanners and indexers hold a file for a moment after each change, so renaming is tried for a while.
+/// Virus scanners and indexers hold a file open for a moment after each change, so a failed rename is tried
+/// again for about 0.3 seconds.
 constexpr int Rename_Tries = 10;
 constexpr DWORD Milliseconds_Between_Tries = 30;
 
@@ -33,7 +35,7 @@ constexpr DWORD Milliseconds_Between_Tries = 30;
     throw File_Error(Joined({path, ": ", win32::System_Error_Text(code)}));
 }
 
-/// Keeps the system from asking the user for a missing disk. The call fails instead.
+/// Keeps the system from asking the user for a missing disk, for a scope. The system's call fails instead.
 class Quiet_Errors {
 public:
     Quiet_Errors() : before_(SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX)) {}
@@ -45,7 +47,7 @@ private:
     UINT before_;
 };
 
-/// Gets the attributes of the file or folder at `path`. Returns an error code.
+/// Sets `attributes` to those of the file or folder at `path`. Returns an error code.
 DWORD Query_Attributes(const std::string &path, DWORD &attributes) {
     const std::wstring wide = win32::Path_For_Call(path);
     if (wide.empty())
@@ -73,7 +75,7 @@ DWORD Read_To_End(HANDLE file, std::string &bytes) {
     if (low == INVALID_FILE_SIZE && GetLastError() != NO_ERROR)
         return GetLastError();
     std::size_t filled = 0;
-    std::size_t room = low + std::size_t{1}; // one more, so that the end is found without growing
+    std::size_t room = low + std::size_t{1}; // one more, so that the loop finds the end without growing
     for (;;) {
         if (high != 0 || low > Longest_File || room > Longest_File || !Resize(bytes, room))
             return ERROR_NOT_ENOUGH_MEMORY;
@@ -108,7 +110,8 @@ DWORD Write_All(HANDLE file, std::string_view bytes) {
     return code == ERROR_INVALID_FUNCTION || code == ERROR_NOT_SUPPORTED ? DWORD{NO_ERROR} : code;
 }
 
-/// Opens a file only to query it. That works even if another program has opened the file exclusively.
+/// Opens a file only to query its properties. That works even if another program has opened the file
+/// exclusively.
 win32::Unique_File Open_For_Query(const std::wstring &path) {
     return win32::Own_File(CreateFileW(path.c_str(), 0, Share_All, nullptr, OPEN_EXISTING, 0, nullptr));
 }
@@ -131,8 +134,8 @@ std::wstring Resolve_Links(const std::wstring &path) {
     return found;
 }
 
-/// Copies the access list of one file to another. If the file system has no such lists, the new file keeps
-/// what its folder gives.
+/// Copies the access list of one file to another. If `from` has no such list, does nothing, so `to` keeps
+/// the list that its folder gives.
 void Copy_Access_List(const std::wstring &from, const std::wstring &to) {
     DWORD size = 0;
     GetFileSecurityW(from.c_str(), DACL_SECURITY_INFORMATION, nullptr, 0, &size);
@@ -140,14 +143,14 @@ void Copy_Access_List(const std::wstring &from, const std::wstring &to) {
     auto *const list = reinterpret_cast<SECURITY_DESCRIPTOR_RELATIVE *>(space.data());
     if (size < sizeof *list || !GetFileSecurityW(from.c_str(), DACL_SECURITY_INFORMATION, list, size, &size))
         return;
-    // Inherited entries must go on following the folder.
+    // Entries that the file inherits from its folder must stay inherited.
     if ((list->Control & SE_DACL_AUTO_INHERITED) != 0)
         list->Control |= SE_DACL_AUTO_INHERIT_REQ;
     SetFileSecurityW(to.c_str(), DACL_SECURITY_INFORMATION, list);
 }
 
-/// Creates the file with these bytes and attributes, the access list of the file `old`, if that exists, and
-/// the last write time `written`, unless that is null. Returns an error code.
+/// Creates the file with these bytes and attributes. Gives it the access list of the file `old`, if `old`
+/// exists, and the last write time `written`, if not null. Returns an error code.
 DWORD Write_New_File(const std::wstring &path, std::string_view bytes, DWORD attributes,
                      const std::wstring &old, const FILETIME *written) {
     const win32::Unique_File file = win32::Own_File(
@@ -162,7 +165,7 @@ DWORD Write_New_File(const std::wstring &path, std::string_view bytes, DWORD att
     return code;
 }
 
-/// Renames the file to `to`, replacing a file of that name. Returns an error code.
+/// Renames the file `from` to `to`, and replaces a file of that name. Returns an error code.
 DWORD Rename_Over(const std::wstring &from, const std::wstring &to) {
     for (int tries = 1;; ++tries) {
         if (MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH))
@@ -176,21 +179,21 @@ DWORD Rename_Over(const std::wstring &from, const std::wstring &to) {
 }
 
 void Remove_File(const std::wstring &path) {
-    // A copy that stayed write-protected could never be deleted.
+    // The system does not delete a write-protected file.
     SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_NORMAL);
     DeleteFileW(path.c_str());
 }
 
-/// Replaces the file. `written` becomes its last write time, null: now. Throws File_Error.
+/// Replaces the file. `written` becomes its last write time; null: now. Throws File_Error.
 void Replace(const std::string &path, std::string_view bytes, const FILETIME *written) {
     std::wstring wide = win32::Path_For_Call(path);
-    std::wstring new_file = win32::Path_For_Call(path + New_File_Ending);
+    std::wstring new_file = win32::Path_For_Call(path + New_File_Suffix);
     if (wide.empty())
         Throw(path, ERROR_INVALID_NAME);
     const Quiet_Errors quiet;
     if (const std::wstring real = Resolve_Links(wide); !real.empty()) {
         wide = real;
-        new_file = real + win32::To_Wide(New_File_Ending);
+        new_file = real + win32::To_Wide(New_File_Suffix);
     }
     DWORD attributes = GetFileAttributesW(wide.c_str());
     if (attributes == INVALID_FILE_ATTRIBUTES)
@@ -210,7 +213,7 @@ void Replace(const std::string &path, std::string_view bytes, const FILETIME *wr
     }
 }
 
-/// Returns when the file was last written. Throws File_Error.
+/// Returns the time of the last write to the file. Throws File_Error.
 FILETIME Last_Write_Time(const std::string &path) {
     const std::wstring wide = win32::Path_For_Call(path);
     if (wide.empty())
@@ -262,7 +265,7 @@ std::vector<std::string> Names_In_Folder(const std::string &folder, Entry_Kind k
         const bool is_folder = (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
         if (is_folder != (kind == Entry_Kind::Folders) || name == L"." || name == L"..")
             continue;
-        // A name that is not valid Unicode would become another name by the conversion.
+        // Skip a name that is not valid Unicode, because the conversion would turn it into another name.
         std::string text = win32::From_Wide(name);
         if (win32::To_Wide(text) == name)
             names.push_back(std::move(text));
@@ -285,7 +288,7 @@ std::string Read_File(const std::string &path) {
         wide.c_str(), GENERIC_READ, Share_All, nullptr, OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
     if (!file)
         Throw(path, GetLastError());
-    // The name of a device, such as a serial port, would keep the program waiting.
+    // Reading from a device, such as a serial port, would block the program.
     if (GetFileType(file.get()) != FILE_TYPE_DISK)
         Throw(path, ERROR_INVALID_NAME);
     std::string bytes;

@@ -25,10 +25,10 @@ Font_Cache &Cache() {
     return cache;
 }
 
-/// Returns the message-box font of the user's settings. Its size is not used.
+/// Returns the user's message-box font. Make_Font replaces its size and style.
 LOGFONTW Message_Font() {
     NONCLIENTMETRICSW metrics = {};
-    // Systems before Windows Vista do not know the last member, and refuse a structure that includes it.
+    // Leave out the last member, because systems before Windows Vista refuse a structure that includes it.
     metrics.cbSize = offsetof(NONCLIENTMETRICSW, iPaddedBorderWidth);
     if (SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, metrics.cbSize, &metrics, 0))
         return metrics.lfMessageFont;
@@ -37,8 +37,8 @@ LOGFONTW Message_Font() {
     return font;
 }
 
-/// Returns ClearType quality if the user has turned that on, else the system's default, smooth or not.
-/// Windows 2000 knows no smoothing types.
+/// Returns ClearType quality if the user has turned ClearType on, else the system's default, smooth or not.
+/// Windows 2000 has no smoothing types.
 BYTE Font_Quality() {
     BOOL smooth = FALSE;
     UINT type = 0;
@@ -87,7 +87,7 @@ Cached_Font Find_Font(const platform::Font &font) {
 }
 
 void Clear_Font_Cache() {
-    // A font that is selected cannot be deleted, so deselect it first.
+    // The system cannot delete a selected font, so deselect it first.
     if (Cache().measuring)
         SelectObject(Cache().measuring.get(), GetStockObject(SYSTEM_FONT));
     Cache().entries.clear();

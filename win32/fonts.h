@@ -1,4 +1,4 @@
-// Native fonts in the system's message-box face, at the real dots per inch.
+// Native fonts in the system's message-box face, at the screen's dots per inch.
 #pragma once
 
 #include "platform/drawing.h"
@@ -18,7 +18,7 @@ struct Cached_Font {
 /// Returns the cached font. It is valid until Clear_Font_Cache or the next change of the dots per inch.
 Cached_Font Find_Font(const platform::Font &font);
 
-/// Empties the font cache. Call it when the user has changed the message-box face or the font smoothing.
+/// Empties the font cache. Call this when the user has changed the message-box face or the font smoothing.
 void Clear_Font_Cache();
 
 /// Returns a device context for measuring text, with the font selected.

@@ -1,4 +1,4 @@
-// The list of the forms' native windows, and the program's calls to them.
+// The list of the forms' native windows, and the platform's calls to them.
 #include "platform/forms.h"
 
 #include "base/error.h"
@@ -76,7 +76,8 @@ LRESULT Mirror::Receive(HWND window, UINT message, WPARAM wparam, LPARAM lparam,
             return mirror->Handle(message, wparam, lparam);
         }
     } catch (...) {
-        // Only an out-of-memory exception arrives here. It must not pass through the system's code above.
+        // Only an out-of-memory exception arrives here. It must not unwind the system's code that called
+        // this procedure.
     }
     return usual(window, message, wparam, lparam);
 }
@@ -109,7 +110,7 @@ void Mirror::Send(const platform::Input_Event &event) noexcept {
     if (model_ == nullptr || !model_->input)
         return;
     const Scoped_Value scale(Dialog_Dots, event.kind == platform::Input_Kind::Dots_Changed ? dots_ : 0);
-    // A copy, because the handler may destroy the form that holds it.
+    // Call a copy, because the handler may destroy the form that holds the original.
     const auto input = model_->input;
     input(event);
 }

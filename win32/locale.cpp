@@ -13,7 +13,7 @@ namespace platform {
 
 namespace {
 
-/// The system counts and formats dates only from this year on.
+/// The system calculates and formats dates only from this year on.
 constexpr int First_System_Year = 1601;
 
 /// Returns an entry of the user's regional settings or of another locale, empty if there is none.
@@ -32,8 +32,8 @@ std::wstring Locale_Text(LCTYPE entry, LCID locale = LOCALE_USER_DEFAULT) {
 constexpr LCID American = MAKELCID(MAKELANGID(LANG_ENGLISH, SUBLANG_ENGLISH_US), SORT_DEFAULT);
 constexpr LCID British = MAKELCID(MAKELANGID(LANG_ENGLISH, SUBLANG_ENGLISH_UK), SORT_DEFAULT);
 
-/// Returns the user's calendar if it is Gregorian (some languages have their own kinds of it). Returns
-/// nothing for another calendar, which many users have in Thailand, the Arab countries or Iran.
+/// Returns the user's calendar if it is Gregorian, in any of its language variants. Returns nothing for
+/// another calendar, as many users have in Thailand, the Arab countries or Iran.
 std::optional<CALID> Gregorian_Calendar() {
     CALID type = 0;
     GetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_ICALENDARTYPE | LOCALE_RETURN_NUMBER,
@@ -46,9 +46,9 @@ std::optional<CALID> Gregorian_Calendar() {
                                                                                   : std::optional(type);
 }
 
-/// Returns the locale for writing and reading dates. If the user has another calendar, the system would count
-/// that calendar's years, months and days. The English locales are Gregorian on every system. The choice
-/// between them keeps the user's order of day and month.
+/// Returns the locale for writing and reading dates: the user's, or an English one if the user's calendar is
+/// not Gregorian, because the system would use that calendar's years, months and days. The English locales
+/// are Gregorian on every system. The choice between the two keeps the user's order of day and month.
 LCID Date_Locale() {
     if (Gregorian_Calendar())
         return LOCALE_USER_DEFAULT;
@@ -60,34 +60,35 @@ LCTYPE Entry_After(LCTYPE first, int number) {
     return first + static_cast<LCTYPE>(number);
 }
 
-/// Returns the weekday's number in the regional settings, whose weeks begin with Monday.
+/// Returns the weekday's number in the regional settings, Monday = 0 to Sunday = 6.
 int Days_From_Monday(int weekday) {
     return (weekday + 6) % 7;
 }
 
-/// Returns whether a character sets the direction of writing. Dates of some languages have such marks between
-/// their parts.
+/// Returns whether a character is an invisible mark of the writing direction. Dates in some languages have
+/// such marks between their parts.
 bool Is_Direction_Mark(wchar_t character) {
     return character == 0x200E || character == 0x200F;
 }
 
-/// Returns the user's short date form with the year written out: "yyyy" becomes '0950', and one or two
-/// letters become the last two digits. If the form belongs to `another` calendar, the year always has four
-/// digits, so that nobody takes it for a year of that calendar, and the era is left out.
-std::wstring Form_With_Year(int year, bool another) {
-    const std::wstring form = Locale_Text(LOCALE_SSHORTDATE);
+/// Returns the user's short date format with the year's digits in place of its letters: "yyyy" becomes
+/// '0950', and "y" or "yy" the last two digits. If the format belongs to `another` calendar, the year always
+/// has four digits, so that it is not mistaken for a year of that calendar, and the era and direction marks
+/// are left out.
+std::wstring Format_With_Year(int year, bool another) {
+    const std::wstring format = Locale_Text(LOCALE_SSHORTDATE);
     const std::wstring digits = win32::To_Wide(std::to_string(10000 + year).substr(1));
     std::wstring out;
     bool literal = false;
-    for (std::size_t i = 0; i < form.size();) {
-        literal = literal != (form[i] == L'\'');
-        const std::size_t end = std::min(form.find_first_not_of(form[i], i), form.size());
-        if (another && !literal && (form[i] == L'g' || Is_Direction_Mark(form[i]))) {
+    for (std::size_t i = 0; i < format.size();) {
+        literal = literal != (format[i] == L'\'');
+        const std::size_t end = std::min(format.find_first_not_of(format[i], i), format.size());
+        if (another && !literal && (format[i] == L'g' || Is_Direction_Mark(format[i]))) {
             i = end;
             continue;
         }
-        if (form[i] != L'y' || literal) {
-            out += form[i++];
+        if (format[i] != L'y' || literal) {
+            out += format[i++];
             continue;
         }
         out += L'\'' + (another || end - i > 2 ? digits : digits.substr(2)) + L'\'';
@@ -97,21 +98,21 @@ std::wstring Form_With_Year(int year, bool another) {
     return out;
 }
 
-/// Returns the date in the short form. The system formats no date before 1601. An earlier date borrows
-/// weekday and month from the same day 1600 years later, because the calendar repeats every 400 years.
+/// Returns the date in the short format. The system formats no date before 1601, so an earlier date takes
+/// its weekday and month from the same day 1600 years later: the calendar repeats every 400 years.
 std::wstring Formatted_Date(int year, int month, int day) {
     const bool early = year < First_System_Year;
     const LCID locale = Date_Locale();
     const bool another = locale != LOCALE_USER_DEFAULT;
-    const std::wstring form = early || another ? Form_With_Year(year, another) : std::wstring();
+    const std::wstring format = early || another ? Format_With_Year(year, another) : std::wstring();
     SYSTEMTIME date{};
     date.wYear = static_cast<WORD>(early ? year + 1600 : year);
     date.wMonth = static_cast<WORD>(month);
     date.wDay = static_cast<WORD>(day);
     std::wstring text(128, L'\0');
     const int length =
-        GetDateFormatW(locale, form.empty() ? DATE_SHORTDATE : 0, &date,
-                       form.empty() ? nullptr : form.c_str(), text.data(), static_cast<int>(text.size()));
+        GetDateFormatW(locale, format.empty() ? DATE_SHORTDATE : 0, &date,
+                       format.empty() ? nullptr : format.c_str(), text.data(), static_cast<int>(text.size()));
     text.resize(length > 0 ? static_cast<std::size_t>(length - 1) : 0);
     return text;
 }
@@ -119,7 +120,7 @@ std::wstring Formatted_Date(int year, int month, int day) {
 } // namespace
 
 std::string Month_Name(int month) {
-    // The names of the locale itself may be those of another calendar.
+    // The locale's own month names may be those of another calendar.
     const std::optional<CALID> calendar = Gregorian_Calendar();
     wchar_t name[80] = {};
     if (GetCalendarInfoW(LOCALE_USER_DEFAULT, calendar.value_or(CAL_GREGORIAN),
@@ -165,9 +166,9 @@ std::optional<Date_Time> Read_Date(std::string_view text) {
     static const auto parse = win32::Look_Up<decltype(VarDateFromStr)>(L"oleaut32.dll", "VarDateFromStr");
     static const auto to_time =
         win32::Look_Up<decltype(VariantTimeToSystemTime)>(L"oleaut32.dll", "VariantTimeToSystemTime");
-    std::wstring wide = win32::To_Wide(text); // the call wants it changeable
+    std::wstring wide = win32::To_Wide(text); // VarDateFromStr takes a non-const text
     std::erase_if(wide, Is_Direction_Mark);
-    // A short form may end in a dot, as the Hungarian one does. Not every system can read that.
+    // A short format may end in a dot, as the Hungarian one does. Not every system can read that dot.
     if (wide.ends_with(L'.'))
         wide.pop_back();
     DATE date = 0;

@@ -13,9 +13,9 @@ namespace platform {
 
 namespace {
 
-/// Puts the pictures into the check mark column at the edge, because no item is ever checked. Owner-drawn
-/// pictures have a column of their own, so the check mark column is removed.
-void Hide_Check_Column(HMENU menu) {
+/// Makes the menu show pictures in the check mark column, because no item is ever checked. Removes that
+/// column if the pictures are owner-drawn, because such pictures have a column of their own.
+void Set_Check_Column(HMENU menu) {
     MENUINFO info = {};
     info.cbSize = sizeof info;
     info.fMask = MIM_STYLE;
@@ -45,9 +45,9 @@ void Append_Item(HMENU menu, const Menu_Item &item, win32::Menu_Images &images) 
     InsertMenuItemW(menu, static_cast<UINT>(GetMenuItemCount(menu)), TRUE, &info);
 }
 
-/// The button press that opens a menu. While this object exists, the release of the button chooses nothing in
-/// the menu if it comes soon after the press or near it, because a clicking hand does not hold still. At most
-/// one object exists.
+/// The press of the right button that opens a menu. While this object exists, the release of the button
+/// chooses no item if it comes soon after the press or near it, because a hand moves a little while it
+/// clicks. At most one object exists.
 class Opening_Press {
 public:
     Opening_Press() : place_(GetMessagePos()), time_(GetMessageTime()) {
@@ -70,14 +70,14 @@ private:
         return CallNextHookEx(nullptr, code, wparam, message_address);
     }
 
-    /// Returns whether `message` is that release and completes a click.
+    /// Returns whether `message` is the release of the right button and completes a click.
     bool Is_Click(const MSG &message) {
         const bool released = message.message == WM_RBUTTONUP;
         if (!released && message.message != WM_RBUTTONDOWN)
             return false;
         if (!std::exchange(held_, false) || !released)
             return false;
-        constexpr DWORD short_time = 250;
+        constexpr DWORD short_time = 250; // milliseconds
         const POINTS pressed = MAKEPOINTS(place_);
         return message.time - static_cast<DWORD>(time_) < short_time ||
                (std::abs(message.pt.x - pressed.x) <= GetSystemMetrics(SM_CXDRAG) &&
@@ -86,8 +86,8 @@ private:
 
     static inline Opening_Press *open_ = nullptr;
     HHOOK hook_ = nullptr;
-    DWORD place_;
-    LONG time_; ///< in milliseconds, as in messages
+    DWORD place_; ///< packed screen coordinates, as from GetMessagePos
+    LONG time_;   ///< in milliseconds, as in MSG
     bool held_ = true;
 };
 
@@ -99,7 +99,7 @@ int Track_Popup_Menu(const Form_Model &owner, const std::vector<Menu_Item> &item
     const win32::Unique_Menu menu(CreatePopupMenu());
     if (window == nullptr || !menu)
         return 0;
-    Hide_Check_Column(menu.get());
+    Set_Check_Column(menu.get());
     for (const Menu_Item &item : items)
         Append_Item(menu.get(), item, images);
     POINT place = {};
@@ -108,8 +108,8 @@ int Track_Popup_Menu(const Form_Model &owner, const std::vector<Menu_Item> &item
         place = {win32::To_Pixels(at->x), win32::To_Pixels(at->y)};
         ClientToScreen(window, &place);
     }
-    // Without the foreground, a click elsewhere would not close the menu. Without a message afterwards, the
-    // next menu would close at once.
+    // If the window were not in the foreground, a click elsewhere would not close the menu. The message
+    // posted after the menu keeps the next menu from closing at once.
     SetForegroundWindow(window);
     std::optional<Opening_Press> press;
     if (at == nullptr)

@@ -27,7 +27,7 @@ constexpr std::uint32_t grey = 0x5A5F6B;
 constexpr std::uint32_t wood = 0xE0A33A;
 constexpr std::uint32_t dark = 0x2B2B33;
 
-/// Draws on the field of 16 by 16 units, scaled to the pixel buffer.
+/// A field of 16 by 16 units, scaled to the pixel buffer.
 class Field {
 public:
     explicit Field(const Pixel_Buffer &pixels) : pixels_(pixels) {}
@@ -51,13 +51,13 @@ Corners Bar(Smooth_Point from, Smooth_Point to, double thickness) {
     return {{from.x + x, from.y + y}, {to.x + x, to.y + y}, {to.x - x, to.y - y}, {from.x - x, from.y - y}};
 }
 
-/// Draws a cross, which means that the day's text is deleted.
+/// Draws a cross, the sign for deleting the day's text.
 void Draw_Clear(const Field &field) {
     field.Fill(Bar({3, 3}, {13, 13}, 2.4), red);
     field.Fill(Bar({13, 3}, {3, 13}, 2.4), red);
 }
 
-/// Draws a pencil that writes at the lower left.
+/// Draws a pencil with its tip at the lower left.
 void Draw_Edit(const Field &field) {
     field.Fill({{9.8, 3.2}, {12.8, 6.2}, {5.6, 13.4}, {2.6, 10.4}}, wood);
     field.Fill({{10.7, 2.3}, {11.6, 1.4}, {14.6, 4.4}, {13.7, 5.3}}, violet);
@@ -75,7 +75,7 @@ void Draw_Settings(const Field &field) {
         const double radius = outer ? 7.0 : 5.1;
         wheel.push_back({8 + radius * std::cos(angle), 8 + radius * std::sin(angle)});
     }
-    // The outline goes back along a small circle. That makes a hole, because crossing parts follow the
+    // Continue the outline along a small circle in the other direction. The circle becomes a hole by the
     // even-odd rule.
     constexpr int hole_corners = 24;
     wheel.push_back(wheel.front());
@@ -141,8 +141,8 @@ int Size_In_Pixels(int at_96_dots) {
 
 constexpr int pale = 96; ///< opacity of a disabled item's picture, of 255
 
-/// Returns the picture with its transparency, the colours multiplied by the alpha. Returns null if out of
-/// memory.
+/// Returns the picture as a bitmap with premultiplied alpha, and points `pixels` at its pixels. Returns null
+/// if out of memory.
 Unique_Bitmap Make_Image(Menu_Image image, Pixel_Buffer &pixels) {
     const int size = Size_In_Pixels(image_size);
     Unique_Bitmap bitmap = Make_Pixel_Bitmap(size, size, pixels);

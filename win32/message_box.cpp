@@ -10,7 +10,8 @@ namespace platform {
 
 namespace {
 
-/// Longer texts fit on no screen, and the system would push the buttons out of sight.
+/// The longest texts, in UTF-16 units, and the most lines. Longer texts fit on no screen, and the system
+/// would push the buttons out of sight.
 constexpr std::size_t Longest_Text = 1000;
 constexpr std::ptrdiff_t Most_Lines = 30;
 constexpr std::size_t Longest_Title = 200;
@@ -29,8 +30,8 @@ std::wstring Displayable_Text(std::string_view text, std::size_t longest) {
     return end == wide.size() ? wide : wide.substr(0, Whole_Code_Points(wide, end)) + L"...";
 }
 
-/// Returns the style of a message box. A box from a timer or a broadcast appears while the user works in
-/// another program. It cannot take the foreground, so it lies above all windows instead.
+/// Returns the style of a message box. A box from a timer or a broadcast may appear while the user works in
+/// another program. The box cannot take the foreground then, so it stays above all windows instead.
 UINT Style_Of(Box_Icon icon, Box_Buttons buttons) {
     constexpr UINT icons[] = {0, MB_ICONINFORMATION, MB_ICONQUESTION, MB_ICONEXCLAMATION, MB_ICONSTOP};
     constexpr UINT button_sets[] = {MB_OK, MB_YESNO, MB_YESNOCANCEL};
@@ -46,7 +47,7 @@ HWND Own_Window_Or_Null(HWND window) {
 }
 
 /// Returns the dialog that the user is working in, else null. The calendar never owns a box, because the box
-/// would lock the shell's window if the calendar is inside it.
+/// would lock the shell's window if the calendar is inside that window.
 HWND Active_Dialog() {
     const HWND window = Own_Window_Or_Null(GetActiveWindow());
     if (window == nullptr || (GetWindowLongW(window, GWL_STYLE) & WS_CAPTION) != WS_CAPTION)
@@ -54,8 +55,7 @@ HWND Active_Dialog() {
     return GetAncestor(window, GA_ROOT) == window ? window : nullptr;
 }
 
-/// Returns the focus at the end of a scope to the window that had it. Does nothing if that window is null or
-/// gone.
+/// Gives the focus back to a window at the end of a scope. Does nothing if the window is null or gone.
 class Focus_Restorer {
 public:
     explicit Focus_Restorer(HWND window) : window_(window) {}

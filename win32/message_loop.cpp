@@ -20,7 +20,7 @@ void Dispatch(MSG &message) {
     const HWND root = message.hwnd == nullptr ? nullptr : GetAncestor(message.hwnd, GA_ROOT);
     const platform::Form_Model *form = win32::Form_Of_Window(root);
     if (form != nullptr && form->kind == platform::Form_Kind::Dialog) {
-        // Kept alive, because handling the message may close the dialog.
+        // Keep the dialog alive, because handling the message may close it.
         const std::shared_ptr<win32::Mirror> dialog = win32::Find_Mirror(*form);
         if (dialog->Preprocess_Message(message) || IsDialogMessageW(root, &message))
             return;
@@ -34,7 +34,7 @@ void Dispatch(MSG &message) {
 namespace win32 {
 
 void Tick(UINT_PTR id) {
-    // The windows inside the shell's window may vanish without a message.
+    // The program's windows inside the shell's window may vanish without a message.
     Find_Lost_Windows();
     if (Mouse_Is_Taken())
         return;
@@ -45,7 +45,7 @@ void Tick(UINT_PTR id) {
         std::find_if(timers.begin(), timers.end(), [id](const Timer &t) { return t.id == id; });
     if (timer == timers.end())
         return;
-    // A copy, because the tick may stop its timer.
+    // Call a copy, because the callback may stop its timer.
     const auto tick = timer->tick;
     tick();
 }
@@ -78,7 +78,7 @@ void Process_Waiting_Messages() {
 
 void Paint_Waiting() {
     MSG message = {};
-    // A window that fails to paint requests it again at once.
+    // Limit the number, because a window that fails to paint gets another paint message at once.
     constexpr int most_paints = 200;
     for (int i = 0; i < most_paints && PeekMessageW(&message, nullptr, WM_PAINT, WM_PAINT, PM_REMOVE); ++i)
         DispatchMessageW(&message);

@@ -1,4 +1,4 @@
-// The base class of the native windows of forms, and the list of those that exist.
+// The base class of the native windows of forms, and the list of all mirrors.
 #pragma once
 
 #include "platform/forms.h"
@@ -10,7 +10,7 @@
 namespace win32 {
 
 /// The native window of one form. A window procedure keeps its mirror alive with weak_from_this().lock()
-/// while a handler runs, because handlers may close their own form. Afterwards Model() is null.
+/// while a handler runs, because handlers may close their own form. Model() is null once the form is closed.
 class Mirror : public std::enable_shared_from_this<Mirror> {
 public:
     explicit Mirror(const platform::Form_Model &model) : model_(&model) {}
@@ -21,7 +21,7 @@ public:
     const platform::Form_Model *Model() const { return model_; }
     HWND Window() const { return window_; }
 
-    /// Creates the window with its contents. Called once. Throws Error on failure.
+    /// Creates the window with its contents. Call this once. Throws Error on failure.
     virtual void Create() = 0;
     void Form_Changed(platform::Aspect aspect);
     virtual void Control_Changed(const platform::Control_State &control, platform::Aspect aspect,
@@ -30,10 +30,11 @@ public:
     virtual void Shape(const std::vector<Point> &) {}
     virtual void Bring_To_Front() = 0;
     /// Sets the dots per inch of a dialog's own screen, 0 for the calendar's, and makes the form lay itself
-    /// out again. Also called when the system's fonts have changed.
+    /// out again. Call this also when the system's fonts have changed.
     void Apply_Scale(int dots);
     int Dots() const { return dots_; }
-    /// Handles a message before the system does. Returns whether the message needs no further handling.
+    /// Handles a message from the queue before it is dispatched. Returns whether the message needs no
+    /// further handling.
     virtual bool Preprocess_Message(const MSG &) { return false; }
 
     /// Destroys the window without an event.
@@ -45,20 +46,21 @@ public:
 protected:
     /// Returns `window`, the result of a creation call. Throws Error if it is null.
     static HWND Require_Window(HWND window);
-    /// Takes over a new window. From now on its messages go to this mirror.
+    /// Takes over a new window, so that its messages go to this mirror. Throws Error if `window` is null.
     void Adopt(HWND window);
     /// Implements the window procedures: passes the messages of adopted windows to their mirrors, and all
     /// others to `usual`.
     static LRESULT Receive(HWND window, UINT message, WPARAM wparam, LPARAM lparam, WNDPROC usual);
     virtual LRESULT Handle(UINT message, WPARAM wparam, LPARAM lparam) = 0;
-    /// Place() moves the window to the model's place. Show_Or_Hide() shows or hides it as the model says.
+    /// Update_Bounds() gives the window the model's position and size. Show_Or_Hide() shows or hides it as
+    /// the model says.
     virtual void Update_Bounds() = 0;
     virtual void Show_Or_Hide() = 0;
     /// Handles a change of the dots per inch or of the system's fonts.
     virtual void Scale_Changed() = 0;
-    /// Handles the aspects of a form that depend on the kind of window.
+    /// Handles a change of an aspect that each kind of window shows in its own way.
     virtual void Own_Aspect_Changed(platform::Aspect aspect) = 0;
-    /// Handles the end of the window, whoever destroyed it. Tells the form, unless Destroy was called.
+    /// Handles the destruction of the window. Sends Window_Lost to the form, unless Destroy was called.
     virtual void Window_Gone();
     HWND window_ = nullptr;
     int dots_ = 0; ///< dots per inch of a dialog's own screen, 0: the calendar's
@@ -84,12 +86,12 @@ HWND Window_Of_Form(const platform::Form_Model &model);
 /// window is killed.
 void Find_Lost_Windows();
 
-/// Makes a window check its own scale, or the calendar's. Posted when the check must wait for the message
-/// loop.
+/// The message that makes a dialog apply its own scale, and a painted window check the calendar's. Post it
+/// if that must wait for the message loop.
 constexpr UINT Check_Dots_Message = WM_APP + 3;
 
 /// Looks up the dots per inch again, after a change of the screen, the window's parent or the settings. If
-/// they or the system's fonts changed, all forms lay themselves out again.
+/// they changed or `fonts_changed` is true, makes all forms lay themselves out again.
 void Check_Scale(bool fonts_changed);
 
 } // namespace win32

@@ -1,4 +1,4 @@
-// The open message boxes and file dialogs of the program, and how they lock the other windows.
+// The open message boxes and file dialogs of the program, and the lock that they put on its other windows.
 #pragma once
 
 #include "win32/handles.h"
@@ -10,10 +10,11 @@ namespace win32 {
 /// The number of open message boxes and file dialogs.
 inline int Open_Modal_Boxes = 0;
 
-/// True if the system ends the session and waits for no answer. Message boxes then answer themselves.
+/// True once the system ends the session and waits for no answer. Message_Box then shows no box and returns
+/// the answer that changes least.
 inline bool Boxes_Suppressed = false;
 
-/// True while a timer or a broadcast of the system is handled, false during a user action.
+/// True while the program handles a timer or a broadcast of the system, false during a user action.
 inline bool In_System_Event = false;
 
 /// Counts a box as open for a scope. If the box has an owner, also locks the thread's other windows, because

@@ -90,7 +90,7 @@ bool Mouse_Input::Translate(HWND window, UINT message, WPARAM wparam, LPARAM lpa
 }
 
 bool Mouse_Input::Translate_Move(WPARAM held, Input_Event &event) {
-    // The system repeats the message when windows change under a resting mouse.
+    // Ignore the message that the system repeats when windows change under a resting mouse.
     POINT mouse = {};
     GetCursorPos(&mouse);
     if (mouse.x == last_mouse_.x && mouse.y == last_mouse_.y)

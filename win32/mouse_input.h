@@ -1,4 +1,4 @@
-// Mouse and key messages as events, for all windows that paint themselves.
+// The translation of mouse and key messages into events.
 #pragma once
 
 #include "platform/forms.h"
@@ -23,7 +23,7 @@ public:
     /// an event.
     bool Translate(HWND window, UINT message, WPARAM wparam, LPARAM lparam, platform::Input_Event &event);
 
-    /// Handles WM_CAPTURECHANGED. Returns true if a button was held: its release will not arrive.
+    /// Handles WM_CAPTURECHANGED. Returns true if a button was held, because its release will not arrive.
     bool Capture_Lost();
 
 private:

@@ -7,7 +7,7 @@ namespace win32 {
 namespace {
 
 /// Stores in the bool at `found_address` whether `window` is a visible menu. Returns whether the enumeration
-/// goes on.
+/// must continue.
 BOOL CALLBACK Find_Open_Menu(HWND window, LPARAM found_address) {
     constexpr ULONG_PTR menu_class = 32768;
     const bool found = GetClassLongPtrW(window, GCW_ATOM) == menu_class && IsWindowVisible(window);
@@ -24,7 +24,7 @@ bool Mouse_Is_Taken() {
         return false;
     if ((state.flags & (GUI_POPUPMENUMODE | GUI_INMOVESIZE)) != 0)
         return true;
-    // Pressing Alt alone sets this flag and that of the system menu, without a visible menu.
+    // When the user presses Alt alone, the system sets this flag and the system menu's, but shows no menu.
     if ((state.flags & GUI_INMENUMODE) == 0)
         return false;
     bool menu_open = false;

@@ -39,7 +39,8 @@ LRESULT CALLBACK Painted_Child::Procedure(HWND window, UINT message, WPARAM wpar
         const Scoped_Value scale(Dialog_Dots, keep->Dots());
         return child->Handle(message, wparam, lparam);
     } catch (...) {
-        // Only an out-of-memory exception arrives here. It must not pass through the system's code above.
+        // Only an out-of-memory exception arrives here. It must not unwind the system's code that called
+        // this procedure.
     }
     return DefWindowProcW(window, message, wparam, lparam);
 }
@@ -89,8 +90,8 @@ LRESULT Painted_Child::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
     return DefWindowProcW(window_, message, wparam, lparam);
 }
 
-/// Returns the keys that the control wants. The control claims `message` if it is one of its own keys,
-/// because the dialog would otherwise look for the typed character among the access keys, and beep.
+/// Returns the answer to WM_GETDLGCODE: the keys that the control wants. Claims `message` if it is such a
+/// key, because the dialog would otherwise look for the typed character among the access keys, and beep.
 LRESULT Painted_Child::Dialog_Code(const MSG *message) const {
     const Control_State &control = Control();
     if (!control.tab_stop)
@@ -141,7 +142,8 @@ void Painted_Child::Handle_Key_Down(WPARAM wparam, LPARAM lparam) {
     owner_->Send(event);
 }
 
-/// Excludes the controls that lie over this one, because they are separate windows and would flicker.
+/// Excludes the controls above this one from the painting, because they are separate windows and would
+/// flicker.
 void Painted_Child::Exclude_Later_Siblings(HDC target) const {
     const platform::Form_Model &model = *owner_->Model();
     const Control_State &self = Control();

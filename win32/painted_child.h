@@ -1,4 +1,4 @@
-// The window of a painted control in a dialog. The control itself paints and handles the input.
+// The window of a painted control in a dialog. The control's own code paints and handles the input.
 #pragma once
 
 #include "platform/forms.h"

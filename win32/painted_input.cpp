@@ -15,7 +15,8 @@ bool Is_Key(UINT message) {
            message == WM_SYSKEYUP || message == WM_SYSCHAR;
 }
 
-/// Returns whether the system turns the key into a command: volume, media, browser, start of a program.
+/// Returns whether the system turns the key into a command, such as volume, media, browser or the start of a
+/// program.
 bool Is_Command_Key(UINT message, WPARAM key) {
     return Is_Key(message) && message != WM_SYSCHAR && key >= VK_BROWSER_BACK && key <= VK_LAUNCH_APP2;
 }
@@ -24,7 +25,7 @@ bool Is_Command_Key(UINT message, WPARAM key) {
 
 bool Painted_Window::Handle_Input(UINT message, WPARAM wparam, LPARAM lparam, LRESULT &result) {
     if (message == WM_MOUSEACTIVATE) {
-        // A message box does not disable a window inside the shell's.
+        // A message box does not disable a window inside the shell's window, so ignore the click here.
         result = platform::Box_Is_Open() ? MA_NOACTIVATEANDEAT : Floats() ? MA_NOACTIVATE : MA_ACTIVATE;
         return true;
     }
@@ -40,9 +41,9 @@ bool Painted_Window::Handle_Input(UINT message, WPARAM wparam, LPARAM lparam, LR
             Send(Input_Kind::Capture_Lost);
         return true;
     case WM_CONTEXTMENU:
-        // A request by the mouse needs no work here, because the button message is handled. A request without
-        // a position comes from the keyboard: treat it as the menu key. Neither may reach a parent in another
-        // process.
+        // A request by the mouse needs no work here, because the form handles the message of the button. A
+        // request without a position comes from the keyboard, so treat it as the menu key. Neither request
+        // may reach a parent in another process.
         if (LOWORD(lparam) == 0xFFFF && HIWORD(lparam) == 0xFFFF) {
             Input_Event event = Event_Of(Input_Kind::Key_Down);
             event.key = VK_APPS;
@@ -80,7 +81,8 @@ bool Painted_Window::Handle_Mouse(UINT message, WPARAM wparam, LPARAM lparam) {
 }
 
 bool Painted_Window::Handle_Key(UINT message, WPARAM wparam, LPARAM lparam) {
-    // System keys are not passed on either, because inside the shell's window they would close the shell.
+    // Do not pass system keys to the system either, because inside the shell's window Alt+F4 would close the
+    // shell.
     if (message == WM_SYSCHAR)
         return true;
     const bool down = message == WM_KEYDOWN || message == WM_SYSKEYDOWN;

@@ -19,7 +19,7 @@ using platform::Control_State;
 
 namespace {
 
-/// WM_DPICHANGED_AFTERPARENT, which the headers define only for newer systems.
+/// WM_DPICHANGED_AFTERPARENT, which the system's headers define only for newer systems.
 constexpr UINT Parent_Dots_Changed_Message = 0x02E3;
 
 bool Is_Top_Level(HWND window) {
@@ -51,7 +51,7 @@ void Painted_Window::Create() {
                           GetModuleHandleW(nullptr), nullptr));
     Disable_Input_Method(window_);
     Texts_Changed();
-    // The window may lie on a screen with a scale of its own. The form is told once it is complete.
+    // The window may lie on a screen with a scale of its own. Check that once the form is complete.
     PostMessageW(window_, Check_Dots_Message, 0, 0);
 }
 
@@ -77,8 +77,8 @@ LRESULT Painted_Window::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
         return Paint_Window(window_, message, wparam,
                             [this](HDC target, const RECT &area) { Paint_On(target, area); });
     case WM_WINDOWPOSCHANGING:
-        // A child window is repainted after every change of place or region, because Wine hangs when it
-        // copies pixels inside another process's window.
+        // Repaint a child window after every change of place or region, because Wine hangs when it copies
+        // pixels inside another process's window.
         if (!Is_Top_Level(window_))
             reinterpret_cast<WINDOWPOS *>(lparam)->flags |= SWP_NOCOPYBITS;
         break;
@@ -197,7 +197,7 @@ void Painted_Window::Invalidate(const Rect &bounds) const {
 }
 
 void Painted_Window::Texts_Changed() {
-    // Posted once for many changes: a new month changes the texts of all its days.
+    // Post one message for many changes: a new month changes the texts of all its days.
     if (!texts_dirty_)
         texts_dirty_ = PostMessageW(window_, Update_Texts_Message, 0, 0) != FALSE;
 }
@@ -245,7 +245,7 @@ void Painted_Window::Shape(const std::vector<Point> &corners) {
 
 void Painted_Window::Update_Bounds() {
     RECT place = To_Pixels(Model()->bounds);
-    // Maps both corners, because a mirrored parent counts from its right edge to the window's right edge.
+    // Map both corners, because a mirrored parent counts from its right edge to the window's right edge.
     if (!Is_Top_Level(window_))
         MapWindowPoints(nullptr, GetAncestor(window_, GA_PARENT), reinterpret_cast<POINT *>(&place), 2);
     SetWindowPos(window_, nullptr, place.left, place.top, place.right - place.left, place.bottom - place.top,
@@ -262,7 +262,7 @@ void Painted_Window::Show_Or_Hide() {
                      SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_SHOWWINDOW);
         return;
     }
-    // Below ordinary windows, because the calendar belongs to the desktop.
+    // Put the calendar below ordinary windows, because it belongs to the desktop.
     const bool to_bottom = Is_Top_Level(window_);
     SetWindowPos(window_, HWND_BOTTOM, 0, 0, 0, 0,
                  SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_SHOWWINDOW | (to_bottom ? 0U : SWP_NOZORDER));

@@ -25,10 +25,10 @@ private:
     static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam);
     LRESULT Handle(UINT message, WPARAM wparam, LPARAM lparam) override;
     void Window_Gone() override;
-    /// Handles mouse and keyboard messages. Returns whether `message` was one, and puts its result in
-    /// `result`.
+    /// Handles mouse and keyboard messages. Returns whether it handled `message`, and sets `result` if the
+    /// result is not 0.
     bool Handle_Input(UINT message, WPARAM wparam, LPARAM lparam, LRESULT &result);
-    /// Handles the messages that the program posts to the window. Returns whether `message` was one.
+    /// Handles the messages that the program posts to the window. Returns whether `message` was one of them.
     bool Handle_Posted(UINT message, WPARAM wparam);
     bool Handle_Mouse(UINT message, WPARAM wparam, LPARAM lparam);
     bool Handle_Key(UINT message, WPARAM wparam, LPARAM lparam);

@@ -13,8 +13,8 @@ namespace {
 /// folder must leave room.
 constexpr std::size_t Longest_Plain_Path = 247;
 
-/// Returns whether the path has a step such as "..". The system takes the long form literally, so such a step
-/// is not allowed there.
+/// Returns whether the path contains ".." or "." as a component. The system takes the long form literally,
+/// so such a component is not allowed there.
 bool Has_Dot_Step(const std::wstring &path) {
     return (path + L'\\').find(L"\\..\\") != std::wstring::npos ||
            (path + L'\\').find(L"\\.\\") != std::wstring::npos;

@@ -5,8 +5,9 @@
 
 namespace win32 {
 
-/// Returns `path` as a wide text for a system call. An absolute path that is too long for the plain form gets
-/// the prefix of the long form. Returns an empty text if the path holds a NUL and so cannot name a file.
+/// Returns `path` as a wide text for a system call. An absolute path that is too long for the plain form
+/// gets the prefix of the long form, unless it contains ".." or ".". Returns an empty text if the path
+/// contains a NUL and so cannot name a file.
 std::wstring Path_For_Call(const std::string &path);
 
 /// Returns the full path of the running program's file.

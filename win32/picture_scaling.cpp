@@ -1,4 +1,5 @@
-// Scaling by averages. The system's own scaling depends on its version, and drops pixels for speed.
+// Scaling by averages, because the system's own scaling differs between its versions and drops pixels for
+// speed.
 #include "win32/picture_scaling.h"
 
 #include "base/mean_colour.h"

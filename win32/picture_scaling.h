@@ -1,4 +1,4 @@
-// Scaling of pictures into a pixel buffer. The pixel is the only unit.
+// Scaling of pictures into a pixel buffer. All lengths are in pixels.
 #pragma once
 
 #include "base/geometry.h"

@@ -15,8 +15,8 @@ constexpr wchar_t Restart_Option[] = L"\" /again ";
 
 win32::Unique_Kernel_Handle claim;
 
-/// Returns the long form of a folder's path, with a separator at its end. The system may give the path with
-/// short names.
+/// Returns a folder's path with long names and a separator at its end. The system may have returned the path
+/// with short (8.3) names.
 std::wstring Long_Folder(const std::wstring &folder) {
     wchar_t name[MAX_PATH] = {};
     const DWORD length = GetLongPathNameW(folder.c_str(), name, MAX_PATH);
@@ -32,7 +32,7 @@ bool Claim_Single_Instance(const std::string &name) {
     SetLastError(ERROR_SUCCESS);
     win32::Unique_Kernel_Handle mutex(CreateMutexW(nullptr, FALSE, win32::To_Wide(name).c_str()));
     const DWORD error = GetLastError();
-    // Denied access means that the mutex exists too, created by the same user with other rights.
+    // If access is denied, the mutex exists too: the same user created it with other rights.
     if (error == ERROR_ALREADY_EXISTS || (!mutex && error == ERROR_ACCESS_DENIED))
         return false;
     claim = std::move(mutex);
@@ -75,8 +75,8 @@ bool Started_From_Temporary_Folder() {
     const std::wstring program = win32::Program_Path();
     const std::wstring above = Long_Folder(temporary);
     const std::wstring folder = Long_Folder(program.substr(0, program.rfind(L'\\'))).substr(0, above.size());
-    // A whole drive is not a folder for temporary files, whatever the environment says.
-    constexpr std::size_t drive = 3;
+    // A whole drive does not count as a folder for temporary files, even if the environment names one.
+    constexpr std::size_t drive = 3; // the length of "C:\"
     return above.size() > drive && lstrcmpiW(folder.c_str(), above.c_str()) == 0;
 }
 

@@ -19,7 +19,8 @@ struct Raw_Value {
     std::vector<BYTE> data;
 };
 
-/// Reads the bytes of a value, which another program may lengthen between two calls. Returns an error code.
+/// Reads the type and the bytes of a value. Tries again while the buffer is too small, because another
+/// program may lengthen the value between two calls. Returns an error code.
 LONG Query_Value(HKEY key, const std::wstring &name, Raw_Value &value) {
     LONG result = ERROR_SUCCESS;
     DWORD size = 256;
@@ -31,14 +32,14 @@ LONG Query_Value(HKEY key, const std::wstring &name, Raw_Value &value) {
     return result;
 }
 
-/// Returns the text that stands for a value that cannot be read, or nothing for a missing value.
+/// Returns the system's text for the error in parentheses, or nothing if the key or value is missing.
 std::optional<std::string> Unreadable_Text(LONG code) {
     if (code == ERROR_FILE_NOT_FOUND)
         return std::nullopt;
     return Joined({"(", win32::System_Error_Text(static_cast<unsigned long>(code)), ")"});
 }
 
-/// Returns the text of stored wide characters, which need not end with a NUL.
+/// Returns the text of stored wide characters, up to the first NUL if there is one.
 std::string Text_Of(const std::vector<BYTE> &data) {
     std::wstring text(data.size() / sizeof(wchar_t), L'\0');
     if (!text.empty())
@@ -77,7 +78,8 @@ win32::Unique_Key Open_Key(Registry_Root root, std::string_view key, REGSAM acce
     return win32::Unique_Key(opened);
 }
 
-/// Copies the bytes of a stored value into `number`. Returns false unless the value has that type and size.
+/// Copies the bytes of a stored value into `number`. Returns false unless the value has this type and the
+/// size of `number`.
 template <typename Number>
 bool Read_Number(const Raw_Value &value, DWORD type, Number &number) {
     if (value.type != type || value.data.size() != sizeof number)

@@ -19,7 +19,7 @@ int Look_Dots_Up(HWND window) {
 
 } // namespace
 
-// Newer systems have a scale for each window. Older systems have one scale for all.
+// Newer systems have a scale for each window. Older systems have one scale for all windows.
 int win32::Dots_Of(HWND window) {
     static const auto of_window = Look_Up<UINT WINAPI(HWND)>(L"user32.dll", "GetDpiForWindow");
     return window != nullptr && of_window != nullptr ? static_cast<int>(of_window(window)) : 0;

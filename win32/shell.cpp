@@ -12,7 +12,7 @@ namespace platform {
 
 namespace {
 
-/// Messages of the list view control, defined here to avoid its header.
+/// Messages of the list view control, defined here instead of including its large header.
 constexpr UINT Get_Text_Background = 0x1025; // LVM_GETTEXTBKCOLOR
 constexpr UINT Get_Text_Colour = 0x1023;     // LVM_GETTEXTCOLOR
 
@@ -46,7 +46,7 @@ void Set_Layered(HWND window, bool layered) {
         return;
     const LONG style = GetWindowLongW(window, GWL_EXSTYLE);
     SetWindowLongW(window, GWL_EXSTYLE, style ^ WS_EX_LAYERED);
-    // The system does not show a layered window without attributes.
+    // The system shows a layered window only after its attributes are set.
     if (layered && !SetLayeredWindowAttributes(window, 0, 255, LWA_ALPHA)) {
         SetWindowLongW(window, GWL_EXSTYLE, style);
         return;
@@ -81,7 +81,7 @@ std::optional<Colour> Ask_Colour(HWND list, UINT question, UINT patience) {
 //     WorkerW                      on newer systems the wallpaper of a raised desktop, below the view
 //
 // "Show desktop", slide shows, the fade from one wallpaper to the next and some programs make the shell move
-// the view into a WorkerW at the top, and later back. A WorkerW that holds the view covers Progman and its
+// the view into a WorkerW at the top and, later, back. A WorkerW that holds the view covers Progman and its
 // children, so the calendar belongs beside the view. Under another shell, and while the shell hangs, the
 // calendar is a separate window below all others. When the shell ends, its windows destroy the calendar's
 // window.
@@ -122,18 +122,20 @@ bool Attach_To_Desktop(const Form_Model &model, Shell_Window holder) {
         return false;
     // The window must not be layered during SetParent.
     Set_Layered(window, false);
-    // SetParent requires a child window, so the window is one during the call. Given a pop-up window, Wine
-    // would also move the keyboard focus to it, whatever the user is typing in. Afterwards the window is a
-    // pop-up again. The keyboard of a child belongs to the top-level window, here the shell's. It reaches a
-    // child on Windows only while the shell answers, and on Wine never. A pop-up window is activated by
-    // itself. Its place, drawing, region and end depend on the parent, whatever the style.
+    // SetParent requires a child window, so the window has that style during the call. With the pop-up
+    // style, Wine would also move the keyboard focus to the window, away from the program that the user is
+    // typing in. Afterwards the window gets the pop-up style again. The keyboard input of a child belongs to
+    // its top-level window, here the shell's: on Windows the child gets keys only while the shell responds,
+    // on Wine never. A pop-up window is activated on its own. Its position, drawing, region and destruction
+    // depend on the parent with either style.
     Change_Style(window, WS_POPUP, WS_CHILD);
     SetParent(window, Window_Of(holder));
     Change_Style(window, WS_CHILD, WS_POPUP);
     if (GetAncestor(window, GA_PARENT) != Window_Of(holder))
         return false;
     Set_Layered(window, Has_Extended(Window_Of(holder), Without_Surface));
-    // SetParent usually puts a new child above the others, but the calendar relies on being above the icons.
+    // SetParent usually puts a new child above the others. Make sure of that, because the calendar must be
+    // above the icons.
     SetWindowPos(window, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     win32::Check_Scale(false);
     Form_Changed(model, Aspect::Bounds);

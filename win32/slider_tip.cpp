@@ -1,4 +1,5 @@
-// A tooltip that follows a slider's thumb. The slider's own tooltip would show its number.
+// A tracking tooltip that the program moves with the thumb. The slider's own tooltip would show the slider's
+// number.
 #include "win32/slider_tip.h"
 
 #include <commctrl.h>
@@ -32,7 +33,7 @@ void Slider_Tip::Show(HWND slider, std::wstring text) {
     RECT thumb = {};
     SendMessageW(slider, TBM_GETTHUMBRECT, 0, reinterpret_cast<LPARAM>(&thumb));
     MapWindowPoints(slider, nullptr, reinterpret_cast<POINT *>(&thumb), 2);
-    // The size of the tip is known only when it is shown.
+    // The size of the tip is known only once the tip is visible.
     SendMessageW(window_, TTM_TRACKACTIVATE, TRUE, pointer);
     RECT tip = {};
     GetWindowRect(window_, &tip);

@@ -1,4 +1,4 @@
-// Samples each pixel row in thin slices. Along a slice, the coverage is exact.
+// Smooth edges by sampling: each pixel row is cut into thin slices. Along a slice, the coverage is exact.
 #include "win32/smooth_polygon.h"
 
 #include <algorithm>
@@ -11,7 +11,8 @@ namespace {
 
 constexpr int slices = 8;
 
-/// Finds where the slice at height `y` crosses the polygon's edges, from left to right.
+/// Sets `crossings` to the x coordinates at which the slice at height `y` crosses the polygon's edges, from
+/// left to right.
 void Find_Crossings(const std::vector<Smooth_Point> &corners, double y, std::vector<double> &crossings) {
     crossings.clear();
     for (std::size_t i = 0; i < corners.size(); ++i) {

@@ -1,4 +1,4 @@
-// Filling of polygons with smooth edges in a pixel buffer. The pixel is the only unit.
+// Filling of polygons with smooth edges in a pixel buffer. All lengths are in pixels.
 #pragma once
 
 #include <cstdint>
@@ -13,7 +13,7 @@ struct Pixel_Buffer {
     int height = 0;
 };
 
-/// A point in pixels. Whole numbers are the corners of pixels.
+/// A point in pixels. Whole coordinates are the corners of pixels.
 struct Smooth_Point {
     double x = 0;
     double y = 0;

@@ -1,4 +1,4 @@
-// The system's texts for its error codes. The callers choose the exception.
+// The system's texts for its error codes. Callers throw exceptions of their own.
 #pragma once
 
 #include <string>

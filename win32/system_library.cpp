@@ -10,7 +10,8 @@ namespace win32 {
 void *System_Function(const wchar_t *library, const char *function) {
     HMODULE module = GetModuleHandleW(library);
     if (module == nullptr) {
-        // Loaded by its full path, so that a library of the same name in the program's folder is not used.
+        // Load the library by its full path, so that the system ignores a library of the same name in the
+        // program's folder.
         wchar_t folder[MAX_PATH] = {};
         const UINT length = GetSystemDirectoryW(folder, MAX_PATH);
         if (length == 0 || length >= MAX_PATH)

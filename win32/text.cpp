@@ -7,8 +7,8 @@ namespace platform {
 
 namespace {
 
-/// Returns the code page of the system's locale. Returns 1252, for Western texts, if the locale has no code
-/// page or UTF-8, because the bytes are not UTF-8.
+/// Returns the ANSI code page of the system's locale. Returns 1252 (Western) if the locale has no code page,
+/// or has UTF-8, which older programs did not write.
 UINT Ansi_Code_Page() {
     DWORD page = 0;
     GetLocaleInfoW(LOCALE_SYSTEM_DEFAULT, LOCALE_IDEFAULTANSICODEPAGE | LOCALE_RETURN_NUMBER,

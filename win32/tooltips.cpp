@@ -15,7 +15,7 @@ namespace win32 {
 
 namespace {
 
-/// Longer texts fit on no screen and take long to lay out.
+/// In UTF-16 units. Longer texts fit on no screen and take long to lay out.
 constexpr std::size_t longest_text = 32000;
 
 /// In pixels at 96 dots per inch: the usual width of a tip, which a long text exceeds, and the space that a
@@ -28,7 +28,8 @@ void Truncate(std::wstring &text, std::size_t length) {
     text += L"...";
 }
 
-/// Returns the size of the text, wrapped at `width`. It is wider only if a word is.
+/// Returns the size of the text, wrapped at `width`. The size is wider than `width` only if a single word
+/// is.
 SIZE Measure_Text(HDC dc, const std::wstring &text, LONG width) {
     RECT rect = {0, 0, width, 0};
     DrawTextW(dc, text.c_str(), static_cast<int>(text.size()), &rect,
@@ -37,13 +38,13 @@ SIZE Measure_Text(HDC dc, const std::wstring &text, LONG width) {
 }
 
 /// Returns the text with line breaks inside words that are wider than `width`, because the system does not
-/// wrap those.
+/// break words.
 std::wstring With_Broken_Words(HDC dc, std::wstring_view text, LONG width) {
     std::wstring broken;
     while (!text.empty()) {
         const std::size_t end = text.find_first_of(L" \t\r\n");
         const std::wstring_view word = text.substr(0, end == std::wstring_view::npos ? end : end + 1);
-        // No line has more characters.
+        // No line on a screen has more characters.
         const std::size_t looked_at = std::min<std::size_t>(word.size(), 4096);
         int fitting = 0;
         SIZE size = {};
@@ -80,7 +81,7 @@ LONG Fit_Text(HDC dc, std::wstring &text, const SIZE &room) {
         size = Measure_Text(dc, text, width);
     }
     while (size.cy > room.cy && room.cy > 0 && text.size() > 64) {
-        // Slightly less than in proportion, so that the loop ends soon.
+        // Cut slightly more than in proportion, so that the loop ends soon.
         Truncate(text, text.size() * static_cast<std::size_t>(room.cy) / static_cast<std::size_t>(size.cy) *
                            15 / 16);
         size = Measure_Text(dc, text, width);
@@ -111,8 +112,8 @@ bool Tooltips::Make_Window() {
         return true;
     INITCOMMONCONTROLSEX classes = {sizeof classes, ICC_BAR_CLASSES};
     InitCommonControlsEx(&classes);
-    // Without an owner: the owner would be the shell's window that holds the calendar, and the tooltip window
-    // would be destroyed with it.
+    // Create the window without an owner. The owner would be the shell's window that holds the calendar, and
+    // the system would destroy the tooltip window with it.
     window_ = CreateWindowExW(
         WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX, CW_USEDEFAULT,
         CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, nullptr, nullptr, GetModuleHandleW(nullptr), nullptr);

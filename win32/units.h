@@ -1,4 +1,4 @@
-// Conversions between twips and pixels at the screen's dots per inch, for the system's rectangles.
+// Conversions between twips and pixels at platform::Dots_Per_Inch, for the system's rectangles.
 #pragma once
 
 #include "base/geometry.h"
@@ -22,7 +22,7 @@ inline RECT To_Pixels(const Rect &rect) {
 
 /// Returns all twips whose nearest pixels lie in `rect`.
 inline Rect To_Covering_Twips(const RECT &rect) {
-    // Half a pixel more on each side, because an edge half-way between two pixels rounds to the next one.
+    // Add half a pixel on each side, because an edge half-way between two pixels rounds to the next one.
     const int twice_dots = 2 * platform::Dots_Per_Inch();
     const int left = Scale_Down(2 * static_cast<int>(rect.left) - 1, Twips_Per_Inch, twice_dots);
     const int top = Scale_Down(2 * static_cast<int>(rect.top) - 1, Twips_Per_Inch, twice_dots);
@@ -31,15 +31,16 @@ inline Rect To_Covering_Twips(const RECT &rect) {
     return {left, top, right - left, bottom - top};
 }
 
-/// Looks up the dots per inch again: those of `window` if the system has them per window. Returns whether
-/// they changed.
+/// Looks up the calendar's dots per inch again: those of `window` if the system has them per window. Returns
+/// whether they changed.
 bool Refresh_Dots(HWND window);
 
 /// Returns the dots per inch of the screen that `window` is on, 0 if the system cannot tell.
 int Dots_Of(HWND window);
 
-/// The dots per inch of a dialog's screen while its window handles a message; 0: the calendar's apply. The
-/// form's own code always runs with the calendar's, except for the layout after Dots_Changed.
+/// The dots per inch of a dialog's screen while its window handles a message; 0: those of the calendar's
+/// screen apply. The form's own code always runs with the calendar's, except for the layout after
+/// Dots_Changed.
 inline int Dialog_Dots = 0;
 
 } // namespace win32

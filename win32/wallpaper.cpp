@@ -1,5 +1,5 @@
-// Sets the wallpaper on a thread of its own, so that the calendar goes on. The system call tells all
-// top-level windows of the change and waits for them. A hung window delays the call for seconds (four on
+// Sets the wallpaper on a thread of its own, so that the calendar stays responsive. The system call sends
+// the change to all top-level windows and waits for them. A hung window delays the call for seconds (four on
 // Wine).
 #include "platform/wallpaper.h"
 
@@ -32,13 +32,14 @@ public:
             thread_.reset(CreateThread(nullptr, 0, Run_Jobs, this, 0, nullptr));
             running_ = static_cast<bool>(thread_);
         }
-        const bool alone = !running_;
+        const bool no_thread = !running_;
         LeaveCriticalSection(&section_);
-        if (alone)
+        if (no_thread)
             Run_Jobs(this);
     }
 
-    /// Returns the current wallpapers. Returns an empty text if another job is not finished in time.
+    /// Returns the current wallpapers. Returns an empty text if an earlier job or the query does not finish
+    /// within five seconds.
     std::string Query_Monitors() {
         if (!Wait())
             return {};
@@ -47,14 +48,14 @@ public:
         return Wait() ? monitors_ : std::string();
     }
 
-    /// Waits for the last job. Only the thread that orders jobs may call it. Returns false if the job is not
-    /// finished in time.
+    /// Waits for the last job. Only the thread that enqueues jobs may call this. Returns false if the job
+    /// does not finish within five seconds.
     bool Wait() const {
         constexpr DWORD most = 5000; // milliseconds
         const DWORD begin = GetTickCount();
         for (DWORD spent = 0; thread_ && spent < most; spent = GetTickCount() - begin) {
             const HANDLE thread = thread_.get();
-            // The program's own windows are also told of the change, and must answer.
+            // The system also sends the change to the program's own windows, which must answer.
             const DWORD result = MsgWaitForMultipleObjects(1, &thread, FALSE, most - spent, QS_SENDMESSAGE);
             if (result != WAIT_OBJECT_0 + 1)
                 return result == WAIT_OBJECT_0;
@@ -71,7 +72,7 @@ private:
             try {
                 worker.Run(job);
             } catch (...) {
-                // Out of memory: the wallpaper stays.
+                // Out of memory: keep the current wallpaper.
             }
         return 0;
     }
@@ -98,13 +99,13 @@ private:
     CRITICAL_SECTION section_;
     win32::Unique_Kernel_Handle thread_; ///< the last thread, which may have ended
     Job queued_job_;
-    std::string monitors_; ///< used by the worker thread; afterwards by the thread that waited for it
+    std::string monitors_; ///< written by the worker thread, read by the thread that waited for it
     bool has_job_ = false;
     bool running_ = false;
 };
 
 Wallpaper_Worker &The_Worker() {
-    // Never destroyed, because the thread may outlive the program's last line.
+    // The worker is never destroyed, because its thread may outlive main.
     static Wallpaper_Worker &worker = *new Wallpaper_Worker;
     return worker;
 }
