@@ -4,7 +4,7 @@
 
 #include "base/callback.h"
 #include "calendar/main_frm.h"
-#include "core/event_entries.h"
+#include "core/events.h"
 #include "transfer/csv.h"
 #include "transfer/icalendar_merging.h"
 #include "transfer/progress.h"

@@ -1,4 +1,4 @@
-#include "core/event_entries.h"
+#include "core/events.h"
 
 #include "base/joined.h"
 #include "core/convert.h"
