@@ -3,12 +3,13 @@
 #pragma once
 
 #include "base/colour.h"
-#include "platform/forms.h"
 
 #include <cstdint>
 #include <optional>
 
 namespace platform {
+
+struct Form_Model;
 
 /// A window of the shell, 0: none. It belongs to another process and may vanish at any moment.
 using Shell_Window = std::uintptr_t;
@@ -16,12 +17,15 @@ using Shell_Window = std::uintptr_t;
 /// Returns the shell's desktop window, 0 under another shell.
 Shell_Window Find_Desktop_Window();
 
-/// Returns the view of files and folders, which is in the desktop window or in a window that covers it.
-Shell_Window Find_Shell_View(Shell_Window desktop);
-/// Returns the window that holds the view, 0 if it is gone.
-Shell_Window Holder_Of(Shell_Window view);
-/// Returns the list of icons in the view.
-Shell_Window Find_Icon_List(Shell_Window view);
+/// The view of files and folders with its list of icons, in the desktop window or in a window that covers it.
+struct Icon_View {
+    Shell_Window holder;
+    Shell_Window view;
+    Shell_Window list;
+};
+
+/// Returns the desktop's icon view, nothing if one of its windows is missing.
+std::optional<Icon_View> Find_Icon_View(Shell_Window desktop);
 
 /// The colours of the icon list's labels.
 struct Label_Colours {
