@@ -83,5 +83,5 @@ private:
     bool high_contrast_ = false; ///< the window shows the high contrast colours
 };
 
-/// Returns a date as the user reads it: Tuesday 5th March 2002.
-std::string Full_Date(const Date &date);
+/// Returns a date as the user reads it: Tuesday 5th March 2002. `month` is the name of its month.
+std::string Full_Date(const Date &date, std::string_view month);
