@@ -18,8 +18,6 @@
 
 #include <array>
 #include <cstdint>
-#include <string>
-#include <string_view>
 
 /// Blocks the calendar and the editor while it is open. An object serves one opening, so that no state of a
 /// former opening survives. After it has closed, the object must live until its last event has returned
