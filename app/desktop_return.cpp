@@ -11,9 +11,8 @@ namespace {
 bool Desktop_Is_There() {
     constexpr unsigned patience = 100; // milliseconds
     const platform::Shell_Window desktop = platform::Find_Desktop_Window();
-    const platform::Shell_Window view = desktop == 0 ? 0 : platform::Find_Shell_View(desktop);
-    const platform::Shell_Window list = view == 0 ? 0 : platform::Find_Icon_List(view);
-    return list != 0 && platform::Icon_Label_Colours(list, patience).has_value();
+    const auto icons = desktop == 0 ? std::nullopt : platform::Find_Icon_View(desktop);
+    return icons && platform::Icon_Label_Colours(icons->list, patience);
 }
 
 } // namespace

@@ -12,7 +12,7 @@ namespace {
 constexpr Date today{2002, 3, 5};
 
 /// Writes `count` events from 100 years to the data file, in mixed order, every third of them yearly.
-void Make_File(std::int64_t count) {
+void Make_Mixed_File(std::int64_t count) {
     Reset_Fakes();
     std::string &bytes = Fakes().files[Event_Store::Data_File()];
     for (std::int64_t i = 0; i < count; ++i) {
@@ -26,7 +26,7 @@ void Make_File(std::int64_t count) {
 }
 
 void List_Events(benchmark::State &state) {
-    Make_File(state.range(0));
+    Make_Mixed_File(state.range(0));
     std::vector<Event> events;
     std::size_t length = 0;
     for (auto _ : state) {
@@ -41,7 +41,7 @@ void List_Events(benchmark::State &state) {
 }
 
 void Count_Events(benchmark::State &state) {
-    Make_File(state.range(0));
+    Make_Mixed_File(state.range(0));
     Event_Statistics statistics;
     for (auto _ : state) {
         statistics = {};

@@ -1,7 +1,7 @@
 // The calendar window: reacts to the user, the time and the system, and shows the month (month_grid.h).
-// main_frm.cpp has its start, the date timer and the broadcasts, focus.cpp the keyboard; the other files are
-// named for their topics. The mark, the drag, the balloon, the place and the attachment to the desktop are
-// objects of their own.
+// main_frm.cpp has its start, the date timer and the broadcasts, keyboard.cpp the keyboard; the other files
+// are named for their topics. The mark, the drag, the balloon, the place and the attachment to the desktop
+// are objects of their own.
 #pragma once
 
 #include "base/callback.h"

@@ -60,13 +60,14 @@ void Month_Grid::Reset_Boxes() {
 
 void Month_Grid::Number_Boxes(Date date) {
     const Date today = Today();
+    const std::string month = platform::Month_Name(date.month);
     const std::int32_t days = DaysInMonth(date);
     for (int box = Start_Box(date.month, date.year); date.day <= days; ++date.day, ++box) {
         Box_Lbl[box].Set_Caption(" " + std::to_string(date.day));
         platform::Access_State access = Box_Lbl[box].Access();
         access.role = platform::Access_Role::Cell;
         access.current = date == today;
-        access.name = Full_Date(date) + (access.current ? ", today" : "");
+        access.name = Full_Date(date, month) + (access.current ? ", today" : "");
         access.default_action = "Edit";
         Box_Lbl[box].Set_Access(std::move(access));
     }
@@ -128,10 +129,9 @@ void Month_Grid::Describe_Heading() {
     Next_Month_Lbl.Set_Access(access);
 }
 
-std::string Full_Date(const Date &date) {
+std::string Full_Date(const Date &date, std::string_view month) {
     return Joined({platform::Weekday_Name(Weekday(date)), " ", std::to_string(date.day),
-                   Ordinal_Suffix(date.day), " ", platform::Month_Name(date.month), " ",
-                   std::to_string(date.year)});
+                   Ordinal_Suffix(date.day), " ", month, " ", std::to_string(date.year)});
 }
 
 void Month_Grid::TransparentForm() {

@@ -84,4 +84,5 @@ private:
 };
 
 /// Returns a date in words, such as "Tuesday 5th March 2002", with the user's names of days and months.
-std::string Full_Date(const Date &date);
+/// `month` is the name of its month.
+std::string Full_Date(const Date &date, std::string_view month);

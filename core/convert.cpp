@@ -52,7 +52,7 @@ std::int32_t To_Int32(std::string_view text) {
     return To_Integer<std::int32_t>(text);
 }
 
-std::optional<std::int16_t> Int16_Of(std::string_view text) {
+std::optional<std::int16_t> Parse_Int16(std::string_view text) {
     std::int16_t value{};
     return Read_Integer(text, value) ? std::optional(value) : std::nullopt;
 }

@@ -21,7 +21,7 @@ std::int16_t To_Int16(std::string_view text);
 std::int32_t To_Int32(std::string_view text);
 
 /// Returns the text as To_Int16 does, or nullopt if it does not convert.
-std::optional<std::int16_t> Int16_Of(std::string_view text);
+std::optional<std::int16_t> Parse_Int16(std::string_view text);
 
 /// Returns a flag from True or False in any letter case, or from a number: 0 is false, any other is true.
 /// Blanks around the text are allowed. Throws Conversion_Error for any other text.

@@ -1,10 +1,9 @@
-// The shell's windows, and the functions that find them:
+// The shell's windows:
 //
-//     the desktop window                Find_Desktop_Window
-//     the view's holder                 Holder_Of: the desktop window, or one that covers it
+//     the view's holder                 the desktop window, or one that covers it
 //     +-- our form                      above the icons, once it is inside
-//     +-- the icon view                 Find_Shell_View
-//         +-- the list of icons         Find_Icon_List; gives the colours of its labels
+//     +-- the icon view
+//         +-- the list of icons         gives the colours of its labels
 #include "desktop/attachment.h"
 
 #include "base/scoped_value.h"
@@ -74,27 +73,25 @@ bool Desktop_Attachment::Is_Early() const {
 /// answer from the icon list. Returns whether the form has moved into another window.
 bool Desktop_Attachment::Try_Attach(platform::Shell_Window desktop, unsigned patience) {
     const Scoped_Value looking(attaching_, true);
-    const platform::Shell_Window view = platform::Find_Shell_View(desktop);
-    const platform::Shell_Window list = view == 0 ? 0 : platform::Find_Icon_List(view);
-    const platform::Shell_Window holder = view == 0 ? 0 : platform::Holder_Of(view);
-    if (list == 0 || holder == 0) {
+    const auto icons = platform::Find_Icon_View(desktop);
+    if (!icons) {
         waiting_ = waiting_ && Is_Early();
         return false;
     }
-    if (holder == holder_) {
-        platform::Keep_Over_View(form_.Model(), view);
+    if (icons->holder == holder_) {
+        platform::Keep_Over_View(form_.Model(), icons->view);
         return false;
     }
     // A shell that does not answer is hung or busy with its own start, and moving the form into it now might
     // hang the calendar too. Until the shell answers, the form keeps its place and colours.
-    const auto colours = platform::Icon_Label_Colours(list, patience);
+    const auto colours = platform::Icon_Label_Colours(icons->list, patience);
     if (!colours)
         return false;
-    Fire(On_Colours, list, *colours);
-    if (!platform::Attach_To_Desktop(form_.Model(), holder))
+    Fire(On_Colours, icons->list, *colours);
+    if (!platform::Attach_To_Desktop(form_.Model(), icons->holder))
         return false;
     desktop_ = desktop;
-    holder_ = holder;
+    holder_ = icons->holder;
     waiting_ = false;
     return true;
 }

@@ -2,6 +2,7 @@
 
 #include "base/joined.h"
 #include "base/scoped_value.h"
+#include "platform/locale.h"
 #include "platform/message_box.h"
 #include "platform/screen.h"
 #include "toolkit/rows.h"
@@ -48,7 +49,7 @@ void Edit_Frm::Edit_Box(int index) {
     if (!Visible())
         Every_Year_Chk.Set_Checked(false);
     Fill();
-    Date_Lbl.Set_Caption(Full_Date(day_));
+    Date_Lbl.Set_Caption(Full_Date(day_, platform::Month_Name(day_.month)));
     Set_Unsaved(false);
     Lay_Out();
     Place_Near(calendar_.Box_Lbl[index]);

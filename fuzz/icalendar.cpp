@@ -26,7 +26,7 @@ void Join(const Calendar_File &file, std::vector<std::string> &records, Progress
         Demand(day.date.year >= first_year && day.date.year <= every_year && day.event < file.events.size());
         Demand(Text_On(day, file.events[day.event]).find_first_of("\"\r\n") == std::string::npos);
     }
-    const Join_Counts counts = Join_Events(file, days, records);
+    const Merge_Counts counts = Merge_Calendar(file, days, records);
     Demand(counts.imported + counts.already_there + counts.skipped == file.events.size());
 }
 

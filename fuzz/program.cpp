@@ -84,7 +84,7 @@ void Run::Use_Day(Form_Model &calendar) {
             boxes.push_back(control);
     if (boxes.empty())
         return;
-    constexpr int likely[] = {0, 4, 5, 27}; // the days of Made_Day
+    constexpr int likely[] = {0, 4, 5, 27}; // the days of Random_Day
     const int count = static_cast<int>(boxes.size());
     const int which = std::min(in_.Pick(2) == 0 ? likely[in_.Pick(4)] : in_.Pick(count), count - 1);
     const Control_State &box = *boxes[static_cast<std::size_t>(which)];
@@ -183,7 +183,7 @@ void Run::Use_Editor(Form_Model &editor) {
     case 0:
     case 1:
     case 2: {
-        const std::string text = Made_Text(in_, in_.Pick(12) == 1);
+        const std::string text = Random_Text(in_, in_.Pick(12) == 1);
         action_ = "\"" + text + "\" is typed";
         return Send(editor, {.kind = Input_Kind::Text_Changed,
                              .control = Control(editor, "Message_Txt").index,
@@ -209,7 +209,7 @@ void Run::Use_Editor(Form_Model &editor) {
         const bool asked = !pending_.empty();
         const std::size_t boxes = Fakes().boxes.size();
         Send(editor, {.kind = Input_Kind::Clicked, .control = ok.index});
-        const bool failed = Told_Since(boxes, "Error saving data file.");
+        const bool failed = Box_Shown_Since(boxes, "Error saving data file.");
         if (asked && failed && strict && !Desktop().loop_ended)
             Demand(Window("Edit_Frm") != nullptr &&
                        Control(*Window("Edit_Frm"), "Message_Txt").caption == from.text &&
@@ -304,7 +304,7 @@ void Run::Use_Files() {
     switch (way) {
     case 0:
     case 1:
-        model_.file = Made_Data(in_);
+        model_.file = Random_Data(in_);
         Fakes().files[Data_Path] = model_.file->bytes;
         break;
     case 2:
@@ -449,7 +449,7 @@ void Run::Whole_Program() {
     if (in_.Pick(2) == 1)
         Make_Pack();
     if (in_.Pick(4) != 0) {
-        model_.file = Made_Data(in_);
+        model_.file = Random_Data(in_);
         Fakes().files[Data_Path] = model_.file->bytes;
     }
     files_.Renew();

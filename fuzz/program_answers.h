@@ -21,7 +21,7 @@ protected:
     void Pass_Time();
 
     Bytes &in_;
-    Made_Files files_;
+    Random_Files files_;
     const Control_State *menu_box_ = nullptr; ///< the box that was clicked for its menu
     bool staged_ = false;                     ///< the list may show imported events
 

@@ -46,7 +46,7 @@ inline bool All_Keyed(const Records &records) {
                        [](const std::string &record) { return Day_Of_Key(Key_Of(record)).has_value(); });
 }
 
-inline std::string Made_Text(Bytes &in, bool with_quote) {
+inline std::string Random_Text(Bytes &in, bool with_quote) {
     constexpr const char *texts[] = {"A",
                                      "B, C",
                                      "x=y",
@@ -59,7 +59,7 @@ inline std::string Made_Text(Bytes &in, bool with_quote) {
     return std::string(texts[in.Pick(9)]) + (with_quote ? "\"q\"" : "");
 }
 
-inline Model_Day Made_Day(Bytes &in) {
+inline Model_Day Random_Day(Bytes &in) {
     constexpr int days[] = {5, 1, 6, 28}, months[] = {3, 1, 2, 12}, years[] = {2002, 9999, 2003, 2001};
     Model_Day day{days[in.Pick(4)], months[in.Pick(8) % 4], years[in.Pick(4)]};
     if (in.Pick(12) == 1)
@@ -68,11 +68,11 @@ inline Model_Day Made_Day(Bytes &in) {
 }
 
 /// Returns a data file as the program or another program may have written it.
-inline Model_File Made_Data(Bytes &in) {
+inline Model_File Random_Data(Bytes &in) {
     Model_File file;
     for (int count = in.Pick(7); count > 0; --count) {
         const int form = in.Pick(8);
-        std::string record = Made_Day(in).Key() + "=" + Made_Text(in, false);
+        std::string record = Random_Day(in).Key() + "=" + Random_Text(in, false);
         if (strict && form == 1)
             record = "note to myself";
         if (strict && form == 2) {
@@ -80,7 +80,7 @@ inline Model_File Made_Data(Bytes &in) {
             file.records.emplace_back();
         }
         if (form == 3)
-            record = Made_Day(in).Key() + "=say \"hi\"";
+            record = Random_Day(in).Key() + "=say \"hi\"";
         const bool quoted =
             record.find('"') == std::string::npos && (record.find(',') != std::string::npos || form < 6);
         file.bytes += quoted ? "\"" + record + "\"\r\n" : record + "\n";
@@ -111,14 +111,14 @@ inline void Make_Pack() {
 }
 
 /// The files that the user can choose in a file dialog, with their content.
-class Made_Files {
+class Random_Files {
 public:
-    explicit Made_Files(Bytes &in) : in_(in) {}
+    explicit Random_Files(Bytes &in) : in_(in) {}
 
     /// Makes all files again.
     void Renew() {
         for (const char *name : {"C:\\in\\a.dat", "C:\\in\\b.dat"}) {
-            data_[name] = Made_Data(in_);
+            data_[name] = Random_Data(in_);
             Fakes().files[name] = data_[name].bytes;
         }
         for (const char *name : {"C:\\in\\a.csv", "C:\\in\\b.csv"})
@@ -177,7 +177,7 @@ private:
             return std::to_string(100000 + number).substr(static_cast<std::size_t>(6 - count));
         };
         for (int count = in_.Pick(5); count > 0; --count) {
-            const Model_Day day = Made_Day(in_);
+            const Model_Day day = Random_Day(in_);
             constexpr std::pair<const char *, const char *> texts[] = {{"A", "A"},
                                                                        {"B\\, C", "B, C"},
                                                                        {"say \"hi\"", "say 'hi'"},
@@ -210,7 +210,7 @@ private:
             bytes = "\"Subject\",\"Date\",\"Description\"\r\n";
         const int times = in_.Pick(16) == 1 ? 70 : 1;
         for (int count = in_.Pick(5) * times; count > 0; --count) {
-            Model_Day day = Made_Day(in_);
+            Model_Day day = Random_Day(in_);
             if (day.year == 9999)
                 day.year = 2004;
             const std::string date = platform::Short_Date(day.year, day.month, day.day);

@@ -236,7 +236,7 @@ struct Model_ICalendar {
 
 /// Returns whether `now` has the records of `before` in their order, each unchanged or with more text
 /// appended, and each event on its day.
-inline bool Has_Joined(const Records &before, const Records &now, const Model_ICalendar &calendar) {
+inline bool Has_Merged(const Records &before, const Records &now, const Model_ICalendar &calendar) {
     std::size_t kept = 0;
     for (const std::string &record : now)
         if (kept < before.size() && (record == before[kept] || record.starts_with(before[kept] + " + ")))
@@ -252,16 +252,16 @@ inline bool Has_Joined(const Records &before, const Records &now, const Model_IC
            });
 }
 
-/// Returns the outcomes of an import of a calendar file: `disk`, if Has_Joined holds for it.
+/// Returns the outcomes of an import of a calendar file: `disk`, if Has_Merged holds for it.
 inline Outcomes After_ICalendar(const Model &model, const Model_ICalendar &calendar,
                                 const std::optional<std::string> &disk) {
     if (!calendar.good || (model.file && !model.file->whole))
         return {};
     const Records before = model.file ? model.file->records : Records{};
     const Model_File now = disk ? Read_Plain(*disk) : Model_File();
-    if (model.Is_Now(disk) && (calendar.exported == before || Has_Joined(before, before, calendar)))
+    if (model.Is_Now(disk) && (calendar.exported == before || Has_Merged(before, before, calendar)))
         return {{model.file, before}};
-    if (calendar.exported != before && Has_Joined(before, now.records, calendar))
+    if (calendar.exported != before && Has_Merged(before, now.records, calendar))
         return {{now, now.records}};
     const bool quoted = std::any_of(before.begin(), before.end(), [](const std::string &record) {
         return record.find('"') != std::string::npos;

@@ -67,7 +67,7 @@ inline void Click_Painted(platform::Form_Model &window, const platform::Control_
         Mouse(window, control, platform::Input_Kind::Mouse_Up, button);
 }
 
-inline bool Told_Since(std::size_t boxes, const std::string &text) {
+inline bool Box_Shown_Since(std::size_t boxes, const std::string &text) {
     for (std::size_t i = boxes; i < Fakes().boxes.size(); ++i)
         if (Fakes().boxes[i].text == text)
             return true;

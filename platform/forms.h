@@ -137,8 +137,8 @@ enum class Input_Kind : std::uint8_t {
     Focus_Changed,  ///< the form got (`checked`) or lost the keyboard focus
     /// The window lost the mouse capture while a button was held, so the button's release will not arrive.
     Capture_Lost,
-    Dots_Changed, ///< the screen's dots per inch or the system's fonts changed
-    Window_Moved, ///< the window of a dialog moved to `point` on the screen
+    Scale_Changed, ///< the screen's dots per inch or the system's fonts changed
+    Window_Moved,  ///< the window of a dialog moved to `point` on the screen
 };
 
 /// One user action. Fields without a meaning for the kind keep their defaults.
@@ -188,7 +188,7 @@ enum class Aspect : std::uint8_t {
     Enabled,
     Caption,
     Tooltip,
-    Look,
+    Appearance,
     Access,
     Checked,
     Items,    ///< `items` and `selected`, or the range of a slider or progress bar

@@ -17,6 +17,6 @@ Box_Answer Message_Box(std::string_view text, Box_Icon icon, Box_Buttons buttons
                        std::string_view title = "Vellatro");
 
 /// Returns whether a message box or a file dialog of the program is open.
-bool Box_Is_Open();
+bool Modal_Box_Is_Open();
 
 } // namespace platform

@@ -7,9 +7,7 @@
 #include "platform/drawing.h"
 
 #include <cstdint>
-#include <memory>
 #include <string>
-#include <vector>
 
 namespace platform {
 

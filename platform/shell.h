@@ -3,12 +3,13 @@
 #pragma once
 
 #include "base/colour.h"
-#include "platform/forms.h"
 
 #include <cstdint>
 #include <optional>
 
 namespace platform {
+
+struct Form_Model;
 
 /// A window of the shell, 0: none. It belongs to another process and may vanish at any moment.
 using Shell_Window = std::uintptr_t;
@@ -16,13 +17,16 @@ using Shell_Window = std::uintptr_t;
 /// Returns the shell's desktop window, 0 under another shell.
 Shell_Window Find_Desktop_Window();
 
-/// Returns the shell's view of the desktop icons, 0 if there is none. The view is in the desktop window, or
-/// in a window that covers the desktop window.
-Shell_Window Find_Shell_View(Shell_Window desktop);
-/// Returns the window that holds the view, 0 if it is gone.
-Shell_Window Holder_Of(Shell_Window view);
-/// Returns the list of icons in the view, 0 if there is none.
-Shell_Window Find_Icon_List(Shell_Window view);
+/// The desktop's icon view with its list of icons. Its holder is the desktop window or a window that covers
+/// it.
+struct Icon_View {
+    Shell_Window holder;
+    Shell_Window view;
+    Shell_Window list;
+};
+
+/// Returns the desktop's icon view, or nullopt if one of its windows is missing.
+std::optional<Icon_View> Find_Icon_View(Shell_Window desktop);
 
 /// The colours of the icon list's labels.
 struct Label_Colours {

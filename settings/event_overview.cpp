@@ -5,7 +5,7 @@
 #include <algorithm>
 
 std::string Overview_Line(const Event &event) {
-    std::string line = Without_Line_Breaks(Line_Head(event) + event.text);
+    std::string line = Without_Line_Breaks(Date_Prefix(event) + event.text);
     const auto control = [](char c) { return static_cast<unsigned char>(c) < ' '; };
     std::replace_if(line.begin(), line.end(), control, ' ');
     return line;

@@ -1,8 +1,8 @@
-// The lines of the overview of all events. events_page.h has the list box, core/event_entries.h reads and
+// The lines of the overview of all events. events_page.h has the list box, core/events.h reads and
 // sorts the events.
 #pragma once
 
-#include "core/event_entries.h"
+#include "core/events.h"
 
 #include <string>
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "core/date.h"
-#include "core/event_entries.h"
+#include "core/events.h"
 
 #include <array>
 #include <cstdint>

@@ -1,5 +1,5 @@
 // The "Events" page of the settings dialog: an overview of all events, from which the user can remove events,
-// and their statistics. core/event_entries.h reads and sorts the events, event_statistics.h counts them,
+// and their statistics. core/events.h reads and sorts the events, event_statistics.h counts them,
 // event_overview.h words their lines.
 #pragma once
 

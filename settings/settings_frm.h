@@ -18,8 +18,6 @@
 
 #include <array>
 #include <cstdint>
-#include <string>
-#include <string_view>
 
 /// The dialog blocks the calendar and the editor while it is open. Each object is opened only once, so that
 /// no state survives into the next opening. After the dialog has closed, the object must live until its last

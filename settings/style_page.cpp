@@ -80,11 +80,11 @@ void Style_Page::Set_Theme(const Theme_Look &look) {
     theme_ = look;
     for (Control *control : std::initializer_list<Control *>{&Style1_Opt, &Style2_Opt, &Example1_Lbl,
                                                              &Example2_Lbl, &Example3_Lbl, &Example4_Lbl})
-        control->Set_Enabled(!look.rules_style);
+        control->Set_Enabled(!look.decides_style);
     for (Control *control : std::initializer_list<Control *>{&Pos_Set_Opt, &Pos_Manual_Opt, &Manual_Lbl})
-        control->Set_Enabled(!look.rules_position);
-    Style_Theme_Lbl.Set_Visible(look.rules_style);
-    Pos_Hint_Lbl.Set_Caption(look.rules_position ? theme_hint : place_hint);
+        control->Set_Enabled(!look.decides_position);
+    Style_Theme_Lbl.Set_Visible(look.decides_style);
+    Pos_Hint_Lbl.Set_Caption(look.decides_position ? theme_hint : place_hint);
     Style_Preview();
     Show_Position();
 }
@@ -164,7 +164,7 @@ void Style_Page::Paint_Miniature(platform::Canvas &canvas) {
     miniature.Paint(canvas, theme_.picture, size);
     for (std::int16_t place = 0; Is_Position(place); ++place) {
         const bool marked = place == Shown_Position();
-        if (!Is_Place(place) || (theme_.rules_position && !marked))
+        if (!Is_Place(place) || (theme_.decides_position && !marked))
             continue; // cannot be chosen now
         const Point middle = miniature.Mark(place, size);
         const int side = marked ? marker_size + 4 * one_pixel : marker_size;

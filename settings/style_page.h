@@ -11,8 +11,8 @@
 
 /// The parts of the calendar's look that this month's theme decides instead of the page.
 struct Theme_Look {
-    bool rules_style = false; ///< true even if the pack has no style for the month
-    bool rules_position = false;
+    bool decides_style = false; ///< true even if the pack has no style for the month
+    bool decides_position = false;
     std::optional<std::int16_t> style;
     std::optional<std::int16_t> position;
     Picture picture; ///< the wallpaper; empty: the desktop's own colour

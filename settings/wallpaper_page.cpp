@@ -33,7 +33,7 @@ std::string Picture_File(const std::string &pack, int month) {
 
 /// Returns a space and the name of a number, or only the space if the text is not a number.
 std::string Display_Name(const char *(*name)(std::int16_t), const std::string &number) {
-    return std::string(" ") + name(Int16_Of(number).value_or(-1));
+    return std::string(" ") + name(Parse_Int16(number).value_or(-1));
 }
 
 } // namespace
@@ -320,12 +320,12 @@ Theme_Look Wallpaper_Page::Current_Look() const {
     Theme_Look look;
     if (!Theme_Use_Chk.Checked())
         return look;
-    look.rules_style = Theme_Style_Chk.Checked();
-    look.rules_position = Theme_Pos_Chk.Checked();
-    if (look.rules_style)
-        look.style = Int16_Of(Get_Paper_BoxStyle(todays_details_));
-    if (look.rules_position)
-        look.position = Int16_Of(Get_Paper_Pos(todays_details_));
+    look.decides_style = Theme_Style_Chk.Checked();
+    look.decides_position = Theme_Pos_Chk.Checked();
+    if (look.decides_style)
+        look.style = Parse_Int16(Get_Paper_BoxStyle(todays_details_));
+    if (look.decides_position)
+        look.position = Parse_Int16(Get_Paper_Pos(todays_details_));
     if (look.position && !Is_Position(*look.position))
         look.position.reset();
     look.picture = todays_.picture;

@@ -75,7 +75,7 @@ std::string Month_Details(std::string_view bytes, std::int16_t month) {
         const std::size_t equals = item.find('=');
         if (equals == std::string_view::npos)
             break;
-        if (Int16_Of(item.substr(0, equals)) == month)
+        if (Parse_Int16(item.substr(0, equals)) == month)
             details = item.substr(equals + 1);
     }
     return details;

@@ -29,7 +29,7 @@ void Control::Notify_Mirror(Aspect aspect) {
     if (!form_.created_)
         return;
     // A painted form draws its labels from their state, so a change of a hidden label needs no redraw.
-    const bool drawn = aspect == Aspect::Caption || aspect == Aspect::Look;
+    const bool drawn = aspect == Aspect::Caption || aspect == Aspect::Appearance;
     if (drawn && !state_.visible && form_.model_.kind != platform::Form_Kind::Dialog)
         return;
     platform::Control_Changed(form_.model_, state_, aspect, state_.bounds);
@@ -48,7 +48,7 @@ void Control::Set_Align(platform::Text_Align align, bool middle) {
         return;
     state_.align = align;
     state_.middle = middle;
-    Notify_Mirror(Aspect::Look);
+    Notify_Mirror(Aspect::Appearance);
 }
 
 void Control::Set_Access(platform::Access_State access) {

@@ -51,22 +51,22 @@ public:
     const std::string &Tooltip() const { return state_.tooltip; }
     void Set_Tooltip(std::string_view tooltip) { Store(state_.tooltip, tooltip, Aspect::Tooltip); }
     Colour Fore_Colour() const { return state_.fore_colour; }
-    void Set_Fore_Colour(Colour colour) { Store(state_.fore_colour, colour, Aspect::Look); }
+    void Set_Fore_Colour(Colour colour) { Store(state_.fore_colour, colour, Aspect::Appearance); }
     Colour Back_Colour() const { return state_.back_colour; }
-    void Set_Back_Colour(Colour colour) { Store(state_.back_colour, colour, Aspect::Look); }
+    void Set_Back_Colour(Colour colour) { Store(state_.back_colour, colour, Aspect::Appearance); }
     /// Sets the colour of the frame; -1 removes the frame.
-    void Set_Frame_Colour(Colour colour) { Store(state_.frame_colour, colour, Aspect::Look); }
+    void Set_Frame_Colour(Colour colour) { Store(state_.frame_colour, colour, Aspect::Appearance); }
     /// Shows or hides the mark of the keyboard focus.
-    void Set_Marked(bool marked) { Store(state_.marked, marked, Aspect::Look); }
+    void Set_Marked(bool marked) { Store(state_.marked, marked, Aspect::Appearance); }
     /// Shows or hides a hairline inside the edges, which sets the box off against a picture of any colour. A
     /// frame replaces the hairline, and a focus mark covers it.
-    void Set_Hairline(bool hairline) { Store(state_.hairline, hairline, Aspect::Look); }
+    void Set_Hairline(bool hairline) { Store(state_.hairline, hairline, Aspect::Appearance); }
     const platform::Font &Font() const { return state_.font; }
-    void Set_Font(const platform::Font &font) { Store(state_.font, font, Aspect::Look); }
-    void Set_Transparent(bool transparent) { Store(state_.transparent, transparent, Aspect::Look); }
+    void Set_Font(const platform::Font &font) { Store(state_.font, font, Aspect::Appearance); }
+    void Set_Transparent(bool transparent) { Store(state_.transparent, transparent, Aspect::Appearance); }
     void Set_Align(platform::Text_Align align, bool middle);
-    void Set_Padding(int twips) { Store(state_.padding, twips, Aspect::Look); }
-    void Set_Glyph(platform::Glyph glyph) { Store(state_.glyph, glyph, Aspect::Look); }
+    void Set_Padding(int twips) { Store(state_.padding, twips, Aspect::Appearance); }
+    void Set_Glyph(platform::Glyph glyph) { Store(state_.glyph, glyph, Aspect::Appearance); }
     const platform::Access_State &Access() const { return state_.access; }
     void Set_Access(platform::Access_State access);
 
@@ -128,8 +128,8 @@ public:
 class Button : public Control_Of_Kind<platform::Control_Kind::Button> {
 public:
     using Control_Of_Kind::Control_Of_Kind;
-    void Set_Default(bool is_default) { Store(state_.is_default, is_default, Aspect::Look); }
-    void Set_Cancel(bool is_cancel) { Store(state_.is_cancel, is_cancel, Aspect::Look); }
+    void Set_Default(bool is_default) { Store(state_.is_default, is_default, Aspect::Appearance); }
+    void Set_Cancel(bool is_cancel) { Store(state_.is_cancel, is_cancel, Aspect::Appearance); }
     /// The user pressed Esc, and this is the cancel button. If empty, Esc raises `On_Click`.
     Handler<> On_Escape;
 

@@ -136,7 +136,7 @@ void Form::Set_Title(std::string_view title) {
 
 void Form::Set_Back_Colour(Colour colour) {
     if (std::exchange(model_.back_colour, colour) != colour)
-        Notify_Mirror(Aspect::Look);
+        Notify_Mirror(Aspect::Appearance);
 }
 
 void Form::Set_Pointer(platform::Pointer_Shape shape) {
@@ -184,13 +184,13 @@ void Form::Bring_To_Front() {
 }
 
 bool Form::Blocked(const Input_Event &event) {
-    const bool beside_box = platform::Box_Is_Open();
+    const bool beside_box = platform::Modal_Box_Is_Open();
     switch (event.kind) {
     case Input_Kind::Window_Moved:
     case Input_Kind::Window_Lost:
     case Input_Kind::Focus_Changed:
     case Input_Kind::Capture_Lost:
-    case Input_Kind::Dots_Changed:
+    case Input_Kind::Scale_Changed:
         return false;
     case Input_Kind::Close:
         return beside_box;
@@ -248,7 +248,7 @@ void Form::Handle(const Input_Event &event) {
     case Input_Kind::Capture_Lost:
         captured_ = nullptr;
         return Fire(On_Capture_Lost);
-    case Input_Kind::Dots_Changed:
+    case Input_Kind::Scale_Changed:
         return Fire(On_Dots_Changed);
     case Input_Kind::Window_Moved:
         model_.bounds.left = event.point.x;

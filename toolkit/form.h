@@ -47,7 +47,7 @@ public:
     Colour Back_Colour() const { return model_.back_colour; }
     void Set_Back_Colour(Colour colour);
     /// Repaints the whole window after a change that is not part of the form's state.
-    void Repaint() { Notify_Mirror(platform::Aspect::Look); }
+    void Repaint() { Notify_Mirror(platform::Aspect::Appearance); }
     void Set_Pointer(platform::Pointer_Shape shape);
     void Set_Focus(const Control &control);
     /// Lets a modal form block this one: a mouse button or key pressed here brings the modal form to the

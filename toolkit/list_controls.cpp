@@ -138,7 +138,7 @@ void Picture_Box::Set_Tab_Stop() {
 }
 
 void Picture_Box::Set_Picture(Picture picture) {
-    Store(picture_, std::move(picture), Aspect::Look);
+    Store(picture_, std::move(picture), Aspect::Appearance);
 }
 
 void Picture_Box::Paint_Content(platform::Canvas &canvas) const {

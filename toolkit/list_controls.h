@@ -109,7 +109,7 @@ public:
     /// Gives the box the hand pointer of a link.
     void Set_Link() { state_.link = true; }
     /// Repaints the box after a change in the output of On_Paint.
-    void Repaint() { Notify_Mirror(platform::Aspect::Look); }
+    void Repaint() { Notify_Mirror(platform::Aspect::Appearance); }
     /// Paints on top of the background and the picture, in twips from the top left corner of the box.
     Handler<platform::Canvas &> On_Paint;
 

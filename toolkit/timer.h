@@ -12,7 +12,7 @@
 /// once.
 class Timer {
 public:
-    explicit Timer(unsigned interval_ms) : interval_(interval_ms) {}
+    explicit Timer(unsigned interval_ms) : interval_ms_(interval_ms) {}
     Timer(const Timer &) = delete;
     Timer &operator=(const Timer &) = delete;
     ~Timer() { Set_Enabled(false); }
@@ -23,7 +23,7 @@ public:
     Handler<> On_Timer;
 
 private:
-    unsigned interval_;
+    unsigned interval_ms_;
     platform::Timer_Id id_ = 0;
     std::shared_ptr<Repeated_Guard> guard_; ///< new each time the timer is enabled
 };

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "base/error.h"
-#include "core/event_entries.h"
+#include "core/events.h"
 
 #include <cstdint>
 #include <string>

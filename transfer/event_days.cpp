@@ -52,7 +52,8 @@ public:
 private:
     struct Replacements {
         Moments moments;
-        bool of_repeated = false; ///< the file also has the repeating event whose repetitions they replace
+        bool has_repeating_event =
+            false; ///< the file also has the repeating event whose repetitions they replace
     };
 
     std::int64_t Utc_Offset(std::int64_t utc) const;
@@ -98,7 +99,8 @@ Day_Finder::Day_Finder(const Calendar_File &file, const Date &today) : file_(fil
         std::sort(replaced.moments.begin(), replaced.moments.end(), Earlier);
     for (const Calendar_Event &event : file.events)
         if (const auto found = replacements_.find(event.uid); found != replacements_.end())
-            found->second.of_repeated = found->second.of_repeated || (!event.replaces && Repeats(event));
+            found->second.has_repeating_event =
+                found->second.has_repeating_event || (!event.replaces && Repeats(event));
 }
 
 /// Returns the seconds by which the clock of the start is ahead of UTC. A zone that the file does not define
@@ -208,7 +210,7 @@ void Day_Finder::Find(std::uint32_t index, Event_Days &result) {
     if (!event_->start || event_->text.empty() || event_->cancelled)
         return;
     const auto replaced = replacements_.find(event_->uid);
-    const bool replaces = event_->replaces && replaced->second.of_repeated;
+    const bool replaces = event_->replaces && replaced->second.has_repeating_event;
     own_replacements_ = replaced == replacements_.end() || event_->replaces ? nullptr : &replaced->second;
     start_ = *event_->start;
     length_ = Length();

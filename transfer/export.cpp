@@ -73,7 +73,7 @@ std::string Short_Date(const Date &date) {
 std::string Text_Bytes(const std::vector<Event> &events, Progress &progress) {
     std::string bytes;
     for (std::size_t i = 0; i < events.size(); ++i) {
-        bytes.append(Line_Head(events[i])).append(events[i].text).append("\r\n");
+        bytes.append(Date_Prefix(events[i])).append(events[i].text).append("\r\n");
         progress.Step(i, events.size());
     }
     return bytes;

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "base/callback.h"
-#include "core/event_entries.h"
+#include "core/events.h"
 #include "core/settings.h"
 #include "transfer/progress.h"
 #include "ui/open_save_dialog.h"

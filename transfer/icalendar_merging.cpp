@@ -117,8 +117,8 @@ void Uncover_Days(std::vector<std::string> &records, std::size_t first_new, cons
 
 } // namespace
 
-Join_Counts Join_Events(const Calendar_File &file, const Event_Days &days,
-                        std::vector<std::string> &records) {
+Merge_Counts Merge_Calendar(const Calendar_File &file, const Event_Days &days,
+                            std::vector<std::string> &records) {
     const std::size_t first_new = records.size();
     Record_Merger merger(records);
     Day_Texts texts;
@@ -128,7 +128,7 @@ Join_Counts Join_Events(const Calendar_File &file, const Event_Days &days,
         if (Parse_Record(record, parts))
             texts.Add(parts.key, parts.text);
     Yearly_Events in_yearly;
-    Join_Counts counts;
+    Merge_Counts counts;
     counts.unsupported = days.unsupported;
     auto day = days.days.begin();
     for (std::uint32_t i = 0; i < file.events.size(); ++i) {

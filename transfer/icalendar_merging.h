@@ -9,7 +9,7 @@
 #include <vector>
 
 /// The events of a calendar file, counted by their outcome.
-struct Join_Counts {
+struct Merge_Counts {
     std::size_t imported = 0;
     std::size_t already_there = 0; ///< on all of their days
     std::size_t skipped = 0;       ///< without any days
@@ -17,4 +17,5 @@ struct Join_Counts {
 };
 
 /// Merges each event of a calendar file into the records of its days. Skips days that have its text already.
-Join_Counts Join_Events(const Calendar_File &file, const Event_Days &days, std::vector<std::string> &records);
+Merge_Counts Merge_Calendar(const Calendar_File &file, const Event_Days &days,
+                            std::vector<std::string> &records);

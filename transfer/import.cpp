@@ -276,12 +276,12 @@ void Importer::Import_ICalendar() {
         platform::Message_Box(Joined({"Error when importing from iCalendar file.", reason}),
                               platform::Box_Icon::Exclamation);
     };
-    Join_Counts counts;
+    Merge_Counts counts;
     try {
         if (!Ask_File("Import Events from iCalendar File", "iCalendar File (*.ics)|*.ics", false))
             return;
         Import_Progress.Begin();
-        counts = Join_Calendar(platform::Read_File(dialog_.FileName));
+        counts = Import_Events(platform::Read_File(dialog_.FileName));
     } catch (const Error &error) {
         return fail(Joined({"\r\n\r\n", error.what()}));
     } catch (const std::exception &) {
@@ -304,7 +304,7 @@ void Importer::Import_ICalendar() {
 /// Merges the events of a calendar file as a whole. The data file is written once, at the end, and neither it
 /// nor data.bak is written if no event is new. A failed write leaves the file unchanged, so no restore is
 /// needed. No window is painted between loading and writing, so nothing else can be stored in between.
-Join_Counts Importer::Join_Calendar(const std::string &bytes) {
+Merge_Counts Importer::Import_Events(const std::string &bytes) {
     const Calendar_File file = Read_ICalendar(bytes, Import_Progress);
     const Event_Days days = Find_Event_Days(file, Today(), Import_Progress);
     calendar_.Events.Load_File();
@@ -313,7 +313,7 @@ Join_Counts Importer::Join_Calendar(const std::string &bytes) {
     try {
         if (!platform::File_Exists(Event_Store::Data_File()))
             records.clear(); // the records belong to a file that someone has deleted
-        const Join_Counts counts = Join_Events(file, days, records);
+        const Merge_Counts counts = Merge_Calendar(file, days, records);
         if (counts.imported > 0) {
             Backup_Data();
             const Undo_Log::Change change(calendar_.Events.Changes, "Import");

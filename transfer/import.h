@@ -4,7 +4,7 @@
 
 #include "base/callback.h"
 #include "calendar/main_frm.h"
-#include "core/event_entries.h"
+#include "core/events.h"
 #include "transfer/csv.h"
 #include "transfer/icalendar_merging.h"
 #include "transfer/progress.h"
@@ -45,7 +45,7 @@ private:
     void Stage_Events(const std::string &bytes, std::vector<Event> &staged);
     void Merge_Imported(std::vector<Event> &staged);
     void Write_Merged(const std::vector<Event> &staged) const;
-    Join_Counts Join_Calendar(const std::string &bytes);
+    Merge_Counts Import_Events(const std::string &bytes);
     bool Confirm_Replace() const;
 
     Main_Frm &calendar_;

@@ -1,7 +1,7 @@
 // Merging imported events into the stored records, and removing one of them again.
 #pragma once
 
-#include "core/event_entries.h"
+#include "core/events.h"
 
 #include <string>
 #include <string_view>

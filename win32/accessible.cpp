@@ -83,7 +83,7 @@ long Role_Of(Access_Role role) {
 long State_Of(const Form_Model &form, const Control_State &control, bool window_has_focus) {
     if (!Is_Presented(control))
         return STATE_SYSTEM_INVISIBLE;
-    long state = control.enabled && !platform::Box_Is_Open() ? 0 : STATE_SYSTEM_UNAVAILABLE;
+    long state = control.enabled && !platform::Modal_Box_Is_Open() ? 0 : STATE_SYSTEM_UNAVAILABLE;
     // The keyboard reaches every day's cell, so each cell is focusable.
     if (control.access.role == Access_Role::Cell)
         state |= STATE_SYSTEM_FOCUSABLE | STATE_SYSTEM_SELECTABLE;
@@ -98,7 +98,7 @@ long State_Of(const Form_Model &form, const Control_State &control, bool window_
 
 /// Returns the state of a painted control in a dialog, which has a window of its own.
 long State_Of(HWND window, const Control_State &control) {
-    const bool usable = IsWindowEnabled(window) && !platform::Box_Is_Open();
+    const bool usable = IsWindowEnabled(window) && !platform::Modal_Box_Is_Open();
     long state = (IsWindowVisible(window) ? 0L : STATE_SYSTEM_INVISIBLE) |
                  (usable ? 0L : STATE_SYSTEM_UNAVAILABLE) |
                  (control.tab_stop ? STATE_SYSTEM_FOCUSABLE : STATE_SYSTEM_READONLY) |
@@ -114,7 +114,7 @@ long State_Of(HWND window, const Control_State &control) {
 class Accessible_Form final : public IAccessible, public IEnumVARIANT {
 public:
     /// `only` is -1 for the window of a form, else the index of the painted control that owns `window`.
-    explicit Accessible_Form(HWND window, int only) : window_(window), only_(only) {}
+    explicit Accessible_Form(HWND window, int only) : window_(window), painted_control_(only) {}
     Accessible_Form(const Accessible_Form &) = delete;
     Accessible_Form &operator=(const Accessible_Form &) = delete;
 
@@ -183,9 +183,11 @@ public:
 private:
     ~Accessible_Form() = default;
 
-    const Form_Model *Form() const { return Form_Of_Window(only_ < 0 ? window_ : GetParent(window_)); }
+    const Form_Model *Form() const {
+        return Form_Of_Window(painted_control_ < 0 ? window_ : GetParent(window_));
+    }
     long Last_Child(const Form_Model &form) const {
-        return only_ < 0 ? static_cast<long>(form.controls.size()) : CHILDID_SELF;
+        return painted_control_ < 0 ? static_cast<long>(form.controls.size()) : CHILDID_SELF;
     }
     Target Find(const VARIANT &child) const;
     std::optional<long> Nearest(const Form_Model &form, long start, long step) const;
@@ -236,7 +238,7 @@ private:
 
     ULONG owners_ = 1;
     HWND window_;
-    int only_;                 ///< index of the control that owns the window; -1: the form owns the window
+    int painted_control_;      ///< index of the control that owns the window; -1: the form owns the window
     long last_ = CHILDID_SELF; ///< number of the child that the enumerator returned or skipped last
 };
 
@@ -268,7 +270,9 @@ Target Accessible_Form::Find(const VARIANT &child) const {
     if (child.vt != VT_I4 || child.lVal < 0 || child.lVal > Last_Child(*form))
         return {form, nullptr, E_INVALIDARG};
     if (child.lVal == CHILDID_SELF)
-        return {form, only_ < 0 ? nullptr : form->controls[static_cast<std::size_t>(only_)], S_OK};
+        return {form,
+                painted_control_ < 0 ? nullptr : form->controls[static_cast<std::size_t>(painted_control_)],
+                S_OK};
     const Control_State *control = form->controls[static_cast<std::size_t>(child.lVal - 1)];
     if (control->access.role == Access_Role::None)
         return {form, nullptr, E_INVALIDARG};
@@ -340,7 +344,7 @@ HRESULT Accessible_Form::Skip(ULONG count) {
 HRESULT Accessible_Form::Clone(IEnumVARIANT **copy) {
     if (copy == nullptr)
         return E_POINTER;
-    auto *clone = new (std::nothrow) Accessible_Form(window_, only_);
+    auto *clone = new (std::nothrow) Accessible_Form(window_, painted_control_);
     *copy = clone;
     if (clone == nullptr)
         return E_OUTOFMEMORY;
@@ -359,7 +363,7 @@ HRESULT Accessible_Form::get_accChild(VARIANT child, IDispatch **object) {
 
 HRESULT Accessible_Form::get_accRole(VARIANT child, VARIANT *role) {
     return Return_Number(child, role, [this](const Target &target) -> long {
-        if (only_ >= 0 && target.control->access.role == Access_Role::None)
+        if (painted_control_ >= 0 && target.control->access.role == Access_Role::None)
             return target.control->kind == platform::Control_Kind::Label ? ROLE_SYSTEM_STATICTEXT
                                                                          : ROLE_SYSTEM_GRAPHIC;
         return target.control == nullptr ? ROLE_SYSTEM_CLIENT : Role_Of(target.control->access.role);
@@ -368,13 +372,13 @@ HRESULT Accessible_Form::get_accRole(VARIANT child, VARIANT *role) {
 
 HRESULT Accessible_Form::get_accState(VARIANT child, VARIANT *state) {
     return Return_Number(child, state, [this](const Target &target) {
-        if (only_ >= 0)
+        if (painted_control_ >= 0)
             return State_Of(window_, *target.control);
         const bool focus = GetFocus() == window_;
         if (target.control != nullptr)
             return State_Of(*target.form, *target.control, focus);
         return (IsWindowVisible(window_) ? 0L : STATE_SYSTEM_INVISIBLE) |
-               (platform::Box_Is_Open() ? STATE_SYSTEM_UNAVAILABLE : 0L) | STATE_SYSTEM_FOCUSABLE |
+               (platform::Modal_Box_Is_Open() ? STATE_SYSTEM_UNAVAILABLE : 0L) | STATE_SYSTEM_FOCUSABLE |
                (focus ? STATE_SYSTEM_FOCUSED : 0L);
     });
 }
@@ -393,7 +397,7 @@ HRESULT Accessible_Form::get_accFocus(VARIANT *child) {
 HRESULT Accessible_Form::get_accSelection(VARIANT *children) {
     return Return_Child(children, [this](const Form_Model &form) -> std::optional<long> {
         for (const Control_State *control : form.controls) {
-            if (only_ < 0 && Is_Presented(*control) && control->access.current)
+            if (painted_control_ < 0 && Is_Presented(*control) && control->access.current)
                 return Child_Number(*control);
         }
         return std::nullopt;
@@ -408,7 +412,7 @@ HRESULT Accessible_Form::accLocation(long *left, long *top, long *width, long *h
     if (FAILED(target.error))
         return target.error;
     RECT place = {};
-    if (target.control != nullptr && only_ < 0)
+    if (target.control != nullptr && painted_control_ < 0)
         place = To_Pixels(target.control->bounds);
     else
         GetClientRect(window_, &place);
@@ -443,7 +447,7 @@ HRESULT Accessible_Form::accHitTest(long x, long y, VARIANT *child) {
         // The topmost controls come last in the form's order.
         for (auto control = form.controls.rbegin(); control != form.controls.rend(); ++control) {
             const RECT place = To_Pixels((*control)->bounds);
-            if (only_ < 0 && Is_Presented(**control) && PtInRect(&place, point))
+            if (painted_control_ < 0 && Is_Presented(**control) && PtInRect(&place, point))
                 return Child_Number(**control);
         }
         return CHILDID_SELF;
@@ -456,7 +460,7 @@ HRESULT Accessible_Form::accDoDefaultAction(VARIANT child) {
         return target.error;
     if (target.control == nullptr || target.control->access.default_action.empty())
         return DISP_E_MEMBERNOTFOUND;
-    if (platform::Box_Is_Open())
+    if (platform::Modal_Box_Is_Open())
         return E_FAIL;
     // Post the request, because the action may show a dialog, and the caller would wait until that closes.
     const auto index = static_cast<WPARAM>(target.control->index);

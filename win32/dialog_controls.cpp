@@ -304,7 +304,7 @@ void Dialog_Window::Control_Changed(const Control_State &control, Aspect aspect,
             Announce_Change(window);
         }
         break;
-    case Aspect::Look:
+    case Aspect::Appearance:
         Look_Changed(control);
         if (control.kind == Control_Kind::Combo_Box)
             Place_Control(control);

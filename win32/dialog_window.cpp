@@ -46,17 +46,9 @@ LRESULT Dialog_Window::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
         Handle_Command(LOWORD(wparam), HIWORD(wparam));
         return 0;
     case WM_SETCURSOR:
-        // A disabled window learns of a mouse press only through this message. If a message box is open, the
-        // system itself draws attention to the box.
-        if (!Model()->enabled && HIWORD(lparam) == WM_LBUTTONDOWN && !platform::Box_Is_Open()) {
-            Send(Input_Kind::Mouse_Down);
+        if (Answer_Pointer(LOWORD(lparam), HIWORD(lparam)))
             return TRUE;
-        }
-        // Controls send this message to the dialog before they set their own pointer.
-        if (Model()->pointer != platform::Pointer_Shape::Hourglass || LOWORD(lparam) != HTCLIENT)
-            break;
-        SetCursor(Load_Pointer(System_Pointer::Hourglass));
-        return TRUE;
+        break;
     case WM_CLOSE:
         Send(Input_Kind::Close);
         return 0;
@@ -104,6 +96,22 @@ LRESULT Dialog_Window::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
         break;
     }
     return DefDlgProcW(window_, message, wparam, lparam);
+}
+
+/// Handles a pointer that is over `part` (HT...) when the mouse sends `mouse_message`. Returns whether the
+/// pointer's shape is set.
+bool Dialog_Window::Answer_Pointer(int part, UINT mouse_message) {
+    // A disabled window learns of a mouse press only through this message. If a message box is open, the
+    // system itself draws attention to the box.
+    if (!Model()->enabled && mouse_message == WM_LBUTTONDOWN && !platform::Modal_Box_Is_Open()) {
+        Send(Input_Kind::Mouse_Down);
+        return true;
+    }
+    // Controls send this message to the dialog before they set their own pointer.
+    if (Model()->pointer != platform::Pointer_Shape::Hourglass || part != HTCLIENT)
+        return false;
+    SetCursor(Load_Pointer(System_Pointer::Hourglass));
+    return true;
 }
 
 void Dialog_Window::Window_Gone() {

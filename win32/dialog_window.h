@@ -41,6 +41,7 @@ private:
 
     static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam);
     LRESULT Handle(UINT message, WPARAM wparam, LPARAM lparam) override;
+    bool Answer_Pointer(int part, UINT mouse_message);
     void Window_Gone() override;
 
     // Creating the controls (dialog_make.cpp).

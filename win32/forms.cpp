@@ -109,7 +109,7 @@ void Mirror::Destroy() noexcept {
 void Mirror::Send(const platform::Input_Event &event) noexcept {
     if (model_ == nullptr || !model_->input)
         return;
-    const Scoped_Value scale(Dialog_Dots, event.kind == platform::Input_Kind::Dots_Changed ? dots_ : 0);
+    const Scoped_Value scale(Dialog_Dots, event.kind == platform::Input_Kind::Scale_Changed ? dots_ : 0);
     // Call a copy, because the handler may destroy the form that holds the original.
     const auto input = model_->input;
     input(event);
@@ -141,10 +141,10 @@ void Mirror::Apply_Scale(int dots) {
         const Scoped_Value scale(Dialog_Dots, dots_);
         Scale_Changed();
     }
-    Send(platform::Input_Kind::Dots_Changed);
+    Send(platform::Input_Kind::Scale_Changed);
 }
 
-void Find_Lost_Windows() {
+void Report_Lost_Windows() {
     for (const std::shared_ptr<Mirror> &mirror : All_Mirrors()) {
         if (mirror->window_ != nullptr && !IsWindow(mirror->window_))
             mirror->Window_Gone();

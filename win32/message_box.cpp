@@ -105,7 +105,7 @@ Box_Answer Message_Box(std::string_view text, Box_Icon icon, Box_Buttons buttons
                      buttons);
 }
 
-bool Box_Is_Open() {
+bool Modal_Box_Is_Open() {
     return win32::Open_Modal_Boxes > 0;
 }
 

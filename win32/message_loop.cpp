@@ -35,7 +35,7 @@ namespace win32 {
 
 void Tick(UINT_PTR id) {
     // The program's windows inside the shell's window may vanish without a message.
-    Find_Lost_Windows();
+    Report_Lost_Windows();
     if (Mouse_Is_Taken())
         return;
     Process_Deferred_Broadcasts();

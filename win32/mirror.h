@@ -66,7 +66,7 @@ protected:
     int dots_ = 0; ///< dots per inch of a dialog's own screen, 0: the calendar's
 
 private:
-    friend void Find_Lost_Windows();
+    friend void Report_Lost_Windows();
     const platform::Form_Model *model_;
 };
 
@@ -84,7 +84,7 @@ HWND Window_Of_Form(const platform::Form_Model &model);
 
 /// Sends Window_Lost to each form whose window vanished without a message, as when the process of its parent
 /// window is killed.
-void Find_Lost_Windows();
+void Report_Lost_Windows();
 
 /// The message that makes a dialog apply its own scale, and a painted window check the calendar's. Post it
 /// if that must wait for the message loop.

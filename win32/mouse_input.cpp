@@ -63,7 +63,7 @@ Input_Event Key_Event(bool down, WPARAM wparam, LPARAM lparam) {
 
 bool Mouse_Input::Translate(HWND window, UINT message, WPARAM wparam, LPARAM lparam, Input_Event &event) {
     // An open message box keeps the capture and the focus.
-    if (platform::Box_Is_Open())
+    if (platform::Modal_Box_Is_Open())
         return false;
     event = Event_Of(Input_Kind::Mouse_Move);
     event.point = {To_Twips(static_cast<short>(LOWORD(lparam))),

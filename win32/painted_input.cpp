@@ -26,7 +26,7 @@ bool Is_Command_Key(UINT message, WPARAM key) {
 bool Painted_Window::Handle_Input(UINT message, WPARAM wparam, LPARAM lparam, LRESULT &result) {
     if (message == WM_MOUSEACTIVATE) {
         // A message box does not disable a window inside the shell's window, so ignore the click here.
-        result = platform::Box_Is_Open() ? MA_NOACTIVATEANDEAT : Floats() ? MA_NOACTIVATE : MA_ACTIVATE;
+        result = platform::Modal_Box_Is_Open() ? MA_NOACTIVATEANDEAT : Floats() ? MA_NOACTIVATE : MA_ACTIVATE;
         return true;
     }
     if (Mouse_Input::Is_Mouse(message))

@@ -144,7 +144,7 @@ void Painted_Window::Paint_On(HDC target, const RECT &area) {
 
 void Painted_Window::Own_Aspect_Changed(Aspect aspect) {
     switch (aspect) {
-    case Aspect::Look:
+    case Aspect::Appearance:
         InvalidateRect(window_, nullptr, FALSE);
         break;
     case Aspect::Pointer: {

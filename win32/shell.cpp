@@ -90,20 +90,18 @@ Shell_Window Find_Desktop_Window() {
     return Id_Of(FindWindowW(L"Progman", L"Program Manager"));
 }
 
-Shell_Window Find_Shell_View(Shell_Window desktop) {
+std::optional<Icon_View> Find_Icon_View(Shell_Window desktop) {
     HWND view = View_In(Window_Of(desktop));
     HWND worker = nullptr;
     while (view == nullptr && (worker = FindWindowExW(nullptr, worker, L"WorkerW", nullptr)) != nullptr)
         view = View_In(worker);
-    return Id_Of(view);
-}
-
-Shell_Window Holder_Of(Shell_Window view) {
-    return Id_Of(GetAncestor(Window_Of(view), GA_PARENT));
-}
-
-Shell_Window Find_Icon_List(Shell_Window view) {
-    return Id_Of(FindWindowExW(Window_Of(view), nullptr, L"SysListView32", nullptr));
+    if (view == nullptr)
+        return std::nullopt;
+    const HWND holder = GetAncestor(view, GA_PARENT);
+    const HWND list = FindWindowExW(view, nullptr, L"SysListView32", nullptr);
+    if (holder == nullptr || list == nullptr)
+        return std::nullopt;
+    return Icon_View{Id_Of(holder), Id_Of(view), Id_Of(list)};
 }
 
 std::optional<Label_Colours> Icon_Label_Colours(Shell_Window list, unsigned patience) {
@@ -144,7 +142,7 @@ bool Attach_To_Desktop(const Form_Model &model, Shell_Window holder) {
 
 void Keep_Over_View(const Form_Model &model, Shell_Window view) {
     const HWND window = win32::Window_Of_Form(model);
-    const HWND holder = Window_Of(Holder_Of(view));
+    const HWND holder = GetAncestor(Window_Of(view), GA_PARENT);
     if (window == nullptr || holder == nullptr)
         return;
     Set_Layered(window, Has_Extended(holder, Without_Surface));

@@ -40,7 +40,7 @@ int Dots_Of(HWND window);
 
 /// The dots per inch of a dialog's screen while its window handles a message; 0: those of the calendar's
 /// screen apply. The form's own code always runs with the calendar's, except for the layout after
-/// Dots_Changed.
+/// Scale_Changed.
 inline int Dialog_Dots = 0;
 
 } // namespace win32

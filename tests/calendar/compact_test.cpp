@@ -75,7 +75,7 @@ TEST_F(Compact_Mode, nothing_shows_a_box_and_the_month_comes_back_as_it_is_then)
     Fakes().first_weekday = 1;
     Desktop().Say(platform::Broadcast::Settings_Changed);
     Desktop().dots_per_inch = 144;
-    Input(form, {.kind = platform::Input_Kind::Dots_Changed});
+    Input(form, {.kind = platform::Input_Kind::Scale_Changed});
     Fakes().now = {2002, 5, 3, 0, 0, 0, 0};
     Desktop().Say(platform::Broadcast::Time_Changed);
     Desktop().Say(platform::Broadcast::Colours_Changed);

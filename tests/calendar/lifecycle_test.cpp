@@ -29,14 +29,15 @@ TEST_F(Lifecycle, starts_with_the_month_of_today_in_its_place_and_shape) {
 TEST_F(Lifecycle, an_idle_second_tells_the_window_nothing) {
     Stored("Bar Time") = "True";
     Start();
-    Desktop().told.clear();
+    Desktop().announced.clear();
     const int reads = Fakes().reads;
     Desktop().Advance(10000);
     Desktop().Say(Broadcast::Settings_Changed);
-    EXPECT_TRUE(Desktop().told.empty() && Fakes().reads == reads);
+    EXPECT_TRUE(Desktop().announced.empty() && Fakes().reads == reads);
     Fakes().now.minute = 31;
     Desktop().Advance(2000);
-    EXPECT_EQ(Desktop().told, (std::vector<Told_Change>{{"Which_Month_Lbl", platform::Aspect::Caption}}));
+    EXPECT_EQ(Desktop().announced,
+              (std::vector<Announced_Change>{{"Which_Month_Lbl", platform::Aspect::Caption}}));
     Fakes().months[2] = "Mars"; // the title follows the regional settings
     Fakes().first_weekday = 1;
     Desktop().Say(Broadcast::Settings_Changed);
@@ -113,9 +114,9 @@ TEST_F(Lifecycle, comes_back_from_where_something_else_has_moved_it) {
     EXPECT_TRUE(comes_back(set, [this] { form.Redraw(); }));
     EXPECT_FALSE(comes_back({-90000, 600}, second)) << "its monitor has gone";
     window.stuck = true;
-    Desktop().told.clear();
+    Desktop().announced.clear();
     EXPECT_FALSE(comes_back(set, [] { Desktop().Advance(9000); }));
-    EXPECT_EQ(Desktop().told.size(), 3U) << "its own move, and two tries to bring it back";
+    EXPECT_EQ(Desktop().announced.size(), 3U) << "its own move, and two tries to bring it back";
     window.stuck = false;
     Press(form, form.Which_Month_Lbl);
     EXPECT_FALSE(comes_back(dragged, second)) << "while it is dragged";

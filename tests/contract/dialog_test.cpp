@@ -68,8 +68,8 @@ protected:
     void Follow(const Input_Event &event) {
         if (event.kind == Input_Kind::Window_Moved)
             moved_to_ = event.point;
-        (event.kind == Input_Kind::Dots_Changed ? laid_out_at_ : heard_at_) = platform::Dots_Per_Inch();
-        if (event.control < 0 || platform::Box_Is_Open())
+        (event.kind == Input_Kind::Scale_Changed ? laid_out_at_ : heard_at_) = platform::Dots_Per_Inch();
+        if (event.control < 0 || platform::Modal_Box_Is_Open())
             return;
         Control_State &control = controls_[event.control];
         if (event.kind == Input_Kind::Clicked)

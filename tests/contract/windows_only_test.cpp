@@ -206,7 +206,7 @@ DWORD WINAPI Visit(void *visit_address) {
     wchar_t text[2000] = {};
     GetDlgItemTextW(box, 0xFFFF, text, 2000);
     visit.text = text;
-    visit.all_locked = platform::Box_Is_Open() && !IsWindowEnabled(visit.bystander);
+    visit.all_locked = platform::Modal_Box_Is_Open() && !IsWindowEnabled(visit.bystander);
     PostMessageW(box, WM_COMMAND, visit.button, 0);
     return 0;
 }
@@ -247,7 +247,7 @@ TEST_F(Windows_Only, Message_Boxes_Show_Their_Text_And_Answer) {
         EXPECT_TRUE(visit.text == c.shown) << win32::From_Wide(visit.text);
         EXPECT_TRUE(visit.all_locked && IsWindowEnabled(bystander) && IsWindowEnabled(dialog));
     }
-    EXPECT_FALSE(platform::Box_Is_Open());
+    EXPECT_FALSE(platform::Modal_Box_Is_Open());
     DestroyWindow(dialog);
     DestroyWindow(bystander);
 }

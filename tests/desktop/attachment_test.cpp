@@ -105,7 +105,7 @@ TEST_F(Attachment, Takes_Place_And_Colours_From_What_There_Is_Of_The_Shell) {
                   inside ? FindWindowA("Progman", "Program Manager") : GetDesktopWindow());
         ASSERT_TRUE(Wait_Until([&] { return program.Windows(true) == 1; })) << "the splash window stays";
         const RECT title = program.Named(program.Title()).place;
-        ASSERT_TRUE(program.Uncover(Middle(program.Named("Sunday").place)));
+        ASSERT_TRUE(program.Raise_Calendar(Middle(program.Named("Sunday").place)));
         ASSERT_TRUE(Becomes(back, [&] { return Picture().At(title.left + 4, title.bottom - 4); }));
         const std::set<DWORD> colours = Picture().Colours(title);
         EXPECT_TRUE(colours.contains(text)) << "the title's text has not the colour of the icons' texts";
@@ -145,7 +145,7 @@ TEST_F(Attachment, Follows_The_View_Of_Icons) {
             }
             ASSERT_TRUE(Becomes(
                 place, [&] { return Place_Of(program.Calendar()); }, 2000));
-            EXPECT_TRUE(program.Uncover(header)) << "it is not seen";
+            EXPECT_TRUE(program.Raise_Calendar(header)) << "it is not seen";
         }
     }
     EXPECT_TRUE(place.starts_with("inside, above at ")) << place;

@@ -99,7 +99,7 @@ void Program::Answer(WORD button) const {
     SendMessageTimeoutW(Calendar(), WM_NULL, 0, 0, SMTO_NORMAL, 2000, &answer);
 }
 
-bool Program::Uncover(POINT point) const {
+bool Program::Raise_Calendar(POINT point) const {
     // Inside the stand-in, Wine paints the calendar only as a child of the icon view (see shell_standin.cpp).
     // A top-level calendar may get below the stand-in, which cannot happen on Windows: Wine raises the X
     // window of whatever gets the focus, and the window that X last reported below the mouse. So check both
@@ -123,7 +123,7 @@ bool Program::Uncover(POINT point) const {
 }
 
 void Program::Click(const RECT &place, DWORD button, int times) const {
-    EXPECT_TRUE(Uncover(Middle(place))) << "there is nothing to click";
+    EXPECT_TRUE(Raise_Calendar(Middle(place))) << "there is nothing to click";
     std::vector<std::pair<POINT, DWORD>> steps;
     for (int i = 0; i < 2 * times; ++i) // the next higher flag is the button's release
         steps.push_back({Middle(place), button << (i % 2)});

@@ -150,7 +150,7 @@ Program &Desktop_Test::Start_Calendar() {
     EXPECT_EQ(program.Box(), "");
     EXPECT_TRUE(Wait_Until([&] { return program.Windows(true) == 1; })) << "the splash window stays";
     const RECT title = program.Named(program.Title()).place;
-    EXPECT_TRUE(program.Uncover({title.left, title.top})) << "the title is not seen";
+    EXPECT_TRUE(program.Raise_Calendar({title.left, title.top})) << "the title is not seen";
     return program;
 }
 

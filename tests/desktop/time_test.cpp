@@ -122,7 +122,7 @@ TEST_F(Time, What_Opens_And_Closes_Leaves_Nothing_Behind) {
         }
         press.x = place.x + round % 2 * 8;
         for (const auto &[window, open, close] : rows) {
-            program.Uncover(place);
+            program.Raise_Calendar(place);
             open();
             ASSERT_TRUE(Wait_Until([&, name = window] { return program.Window(name) != nullptr; })) << window;
             close();

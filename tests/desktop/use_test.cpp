@@ -83,7 +83,7 @@ TEST_F(Use, A_Right_Click_That_Slips_Chooses_Nothing) {
     const auto menu = [&] { return program.Window("#32768") != nullptr; };
     const POINT middle = Middle(program.Named("Wednesday 5th May 2027").place);
     for (const auto &[slip, held, chooses] : {std::tuple(3, 400, false), {14, 0, false}, {14, 400, true}}) {
-        ASSERT_TRUE(program.Uncover(middle));
+        ASSERT_TRUE(program.Raise_Calendar(middle));
         std::vector<std::pair<POINT, DWORD>> steps = {{middle, right_button}};
         if (held > 0) {
             Send_Mouse(std::exchange(steps, {}));
@@ -109,7 +109,7 @@ TEST_F(Use, Tooltip_And_Balloon) {
     {
         const Program &program = Start_Calendar();
         const POINT middle = Middle(program.Named(day).place);
-        ASSERT_TRUE(program.Uncover(middle));
+        ASSERT_TRUE(program.Raise_Calendar(middle));
         for (const LONG step : {-3L, 0L})
             Send_Mouse({middle.x + step, middle.y}, 0);
         ASSERT_TRUE(Becomes(std::string("Told by the mouse"),
@@ -126,7 +126,7 @@ TEST_F(Use, Tooltip_And_Balloon) {
     const Program &program = Start_Calendar();
     const POINT middle = Middle(program.Named(day).place);
     const auto balloon = [&] { return program.Window("Vellatro_Balloon"); };
-    ASSERT_TRUE(program.Uncover(middle));
+    ASSERT_TRUE(program.Raise_Calendar(middle));
     const Picture before;
     Send_Mouse(middle, MOUSEEVENTF_LEFTDOWN);
     ASSERT_TRUE(Wait_Until([&] { return balloon() != nullptr; }));

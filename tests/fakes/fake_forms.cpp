@@ -67,6 +67,10 @@ Fake_Mirror &Mirror_Of(const platform::Form_Model &model) {
     return Desktop().mirrors[&model];
 }
 
+platform::Shell_Window View_Holder() {
+    return Shell().worker != 0 ? Shell().worker : Shell().desktop;
+}
+
 } // namespace
 
 void Input(Form &form, platform::Input_Event event, const Control *control) {
@@ -129,7 +133,7 @@ void Destroy_Mirror(const Form_Model &model) {
 }
 
 void Form_Changed(const Form_Model &model, Aspect aspect) {
-    Desktop().told.push_back({"", aspect});
+    Desktop().announced.push_back({"", aspect});
     Fake_Mirror &mirror = Mirror_Of(model);
     mirror.shown = model.visible;
     if (aspect == Aspect::Bounds && !mirror.stuck)
@@ -141,7 +145,7 @@ void Control_Changed(const Form_Model &model, const Control_State &control, Aspe
                      const Rect &before) {
     Mirror_Of(model);
     Require(aspect != Aspect::Bounds || before != control.bounds, "a move that moves nothing");
-    Desktop().told.push_back({control.name, aspect});
+    Desktop().announced.push_back({control.name, aspect});
 }
 
 void Clip_Window(const Form_Model &model, const std::vector<Rect> &rects) {
@@ -337,19 +341,11 @@ Shell_Window Find_Desktop_Window() {
     return Shell().desktop;
 }
 
-Shell_Window Find_Shell_View(Shell_Window desktop) {
+std::optional<Icon_View> Find_Icon_View(Shell_Window desktop) {
     Require(desktop != 0 && desktop == Shell().desktop, "a view in no desktop window");
-    return Shell().view;
-}
-
-Shell_Window Holder_Of(Shell_Window view) {
-    Require(view != 0 && view == Shell().view, "a holder of no view");
-    return Shell().worker != 0 ? Shell().worker : Shell().desktop;
-}
-
-Shell_Window Find_Icon_List(Shell_Window view) {
-    Require(view != 0 && view == Shell().view, "an icon list in no view");
-    return Shell().list;
+    if (Shell().view == 0 || Shell().list == 0)
+        return std::nullopt;
+    return Icon_View{View_Holder(), Shell().view, Shell().list};
 }
 
 std::optional<Label_Colours> Icon_Label_Colours(Shell_Window list, unsigned) {
@@ -358,19 +354,20 @@ std::optional<Label_Colours> Icon_Label_Colours(Shell_Window list, unsigned) {
 }
 
 bool Attach_To_Desktop(const Form_Model &model, Shell_Window holder) {
-    Require(holder != 0 && holder == Holder_Of(Shell().view), "a window attached to no desktop");
+    Require(holder != 0 && holder == View_Holder(), "a window attached to no desktop");
     Shell().attached = &model;
     Shell().attached_to = holder;
     Shell().attached_hidden = !Mirror_Of(model).shown;
     if (Shell().dots_inside == 0 || Shell().dots_inside == Desktop().dots_per_inch)
         return true;
     Desktop().dots_per_inch = Shell().dots_inside;
-    model.input({.kind = Input_Kind::Dots_Changed});
+    model.input({.kind = Input_Kind::Scale_Changed});
     return true;
 }
 
 void Keep_Over_View(const Form_Model &model, Shell_Window view) {
-    Require(&model == Shell().attached && Holder_Of(view) == Shell().attached_to, "a window elsewhere");
+    Require(&model == Shell().attached && view == Shell().view && View_Holder() == Shell().attached_to,
+            "a window elsewhere");
     Shell().covered = false;
 }
 

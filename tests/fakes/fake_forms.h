@@ -30,10 +30,10 @@ struct platform::Canvas {
 };
 
 /// A change that the program reported to a window.
-struct Told_Change {
+struct Announced_Change {
     std::string control; ///< its name; empty for the form itself
     platform::Aspect aspect;
-    friend bool operator==(const Told_Change &, const Told_Change &) = default;
+    friend bool operator==(const Announced_Change &, const Announced_Change &) = default;
 };
 
 /// The native window of a form.
@@ -68,7 +68,7 @@ struct Fake_Desktop {
     int char_width = 100;         ///< width of each character in twips
 
     std::map<const platform::Form_Model *, Fake_Mirror> mirrors;
-    std::vector<Told_Change> told;
+    std::vector<Announced_Change> announced;
     const platform::Form_Model *front = nullptr; ///< the form last brought to the front
 
     std::map<platform::Timer_Id, Fake_Timer> timers;

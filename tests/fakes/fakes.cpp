@@ -348,7 +348,7 @@ Box_Answer Message_Box(std::string_view text, Box_Icon icon, Box_Buttons buttons
     return expected.answer;
 }
 
-bool Box_Is_Open() {
+bool Modal_Box_Is_Open() {
     return Fakes().open_boxes > 0;
 }
 

@@ -97,7 +97,7 @@ TEST_F(Form_Test, the_mirror_is_told_of_the_program_s_changes_only_and_only_whil
     form.Clip({{0, 0, 10, 10}});
     form.Show();
     EXPECT_FALSE(Desktop().mirrors.at(&form.Model()).shown_unclipped);
-    Desktop().told.clear();
+    Desktop().announced.clear();
     Enter_Text(form, form.Text_Txt, "one\r\ntwo\nthree");
     for (int repeated = 0; repeated < 2; ++repeated) {
         form.Text_Txt.Set_Text("after");
@@ -111,13 +111,13 @@ TEST_F(Form_Test, the_mirror_is_told_of_the_program_s_changes_only_and_only_whil
     form.Close();
     form.Low.Set_Caption("unheard");
     EXPECT_EQ(form.Taken(), "one two three; after; ");
-    EXPECT_EQ(Desktop().told, (std::vector<Told_Change>{{"Text_Txt", Aspect::Caption},
-                                                        {"Low", Aspect::Bounds},
-                                                        {"", Aspect::Bounds},
-                                                        {"Low", Aspect::Look},
-                                                        {"Low", Aspect::Look},
-                                                        {"Low", Aspect::Look},
-                                                        {"", Aspect::Look}}));
+    EXPECT_EQ(Desktop().announced, (std::vector<Announced_Change>{{"Text_Txt", Aspect::Caption},
+                                                                  {"Low", Aspect::Bounds},
+                                                                  {"", Aspect::Bounds},
+                                                                  {"Low", Aspect::Appearance},
+                                                                  {"Low", Aspect::Appearance},
+                                                                  {"Low", Aspect::Appearance},
+                                                                  {"", Aspect::Appearance}}));
 }
 
 TEST_F(Form_Test, a_window_that_was_lost_or_refused_is_made_by_the_next_show) {

@@ -131,7 +131,7 @@ TEST_F(Pictures, Balloon) {
     Set_Setting("Settings", "Tooltips", "2");
     const Program &program = Start_Calendar();
     const RECT day = program.Named("Wednesday 15th December 2027").place;
-    ASSERT_TRUE(program.Uncover(Middle(day)));
+    ASSERT_TRUE(program.Raise_Calendar(Middle(day)));
     Send_Mouse(Middle(day), MOUSEEVENTF_LEFTDOWN);
     ASSERT_TRUE(Wait_Until([&] { return program.Window("Vellatro_Balloon") != nullptr; }));
     Take("balloon", Around(Place(program.Window("Vellatro_Balloon")), 40));

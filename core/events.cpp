@@ -1,4 +1,4 @@
-#include "core/event_entries.h"
+#include "core/events.h"
 
 #include "base/joined.h"
 #include "core/convert.h"
@@ -89,7 +89,7 @@ bool Remove_Record(std::vector<std::string> &records, const Event &event) {
     return true;
 }
 
-std::string Line_Head(const Event &event) {
+std::string Date_Prefix(const Event &event) {
     return platform::Short_Date(event.date.year, event.date.month, event.date.day) +
            (event.yearly ? " (every year)  -  " : "  -  ");
 }

@@ -50,4 +50,4 @@ Read_Result Load_Events(std::vector<Event> &events, Sort_Order order, const Date
 bool Remove_Record(std::vector<std::string> &records, const Event &event);
 
 /// Returns the beginning of an event's line: its date in the user's short format and a separator.
-std::string Line_Head(const Event &event);
+std::string Date_Prefix(const Event &event);
