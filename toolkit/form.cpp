@@ -73,14 +73,17 @@ void Form::Move(int left, int top) {
 }
 
 void Form::Restore_Position() {
-    const Point now = Corner();
-    if (now == Requested_Position() || now == stuck_at_)
-        return;
-    Notify_Mirror(Aspect::Bounds);
+    if (const Point now = Corner(); now != Requested_Position()) {
+        if (now == stuck_at_)
+            return;
+        Notify_Mirror(Aspect::Bounds);
+    }
     // Give up only if two attempts leave the window at the same place, because the window's parent may have
     // changed during the first.
     const Point left_at = Corner();
-    if (std::exchange(left_at_, left_at) == left_at)
+    if (left_at == Requested_Position())
+        left_at_ = stuck_at_ = std::nullopt;
+    else if (std::exchange(left_at_, left_at) == left_at)
         stuck_at_ = left_at;
 }
 

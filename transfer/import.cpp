@@ -125,19 +125,21 @@ void Importer::Import_CSV() {
                                       " events from the CSV file...\r\n\r\n", dialog_.FileName}),
                               platform::Box_Icon::Information);
     } catch (const std::exception &) {
+        // A text saved since the backup stays, and so do the events imported before the error.
+        const bool keep_file = stage >= Merging && calendar_.Events.Writes() != writes_;
         try {
-            // If the copy failed, data.bak may be from an earlier import and must not be restored. A text
-            // that was saved after the import's last write stays, and so do the events imported before it.
-            if (backup && (stage < Merging || calendar_.Events.Writes() == writes_))
+            // If the copy failed, data.bak may be from an earlier import and must not be restored.
+            if (backup && !keep_file)
                 backup->Restore(stage >= Merging);
         } catch (const std::exception &) { // data.bak stays for the user
         }
         change.reset();
         if (stage == Reading || stage == Merging) {
-            // List the events that were read before the error, although the counts are those of the restored
+            // List the events that were read before the error, although the counts are those of the data
             // file.
-            for (Event &event : staged)
-                event.key.clear(); // marks the event as not in the file
+            if (!keep_file)
+                for (Event &event : staged)
+                    event.key.clear(); // marks the event as not in the file
             Show_Staged_Events(std::move(staged));
         }
         Import_Progress.End();
@@ -174,9 +176,10 @@ void Importer::Merge_Imported(std::vector<Event> &staged) {
             merger.Merge(staged[i]);
             due = Import_Progress.Due();
         }
-        if (!staged.empty())
+        if (!staged.empty()) {
             Write_Merged(staged);
-        writes_ = calendar_.Events.Writes();
+            ++writes_;
+        }
         if (due)
             Import_Progress.Show(9 * staged.size() + i, 10 * staged.size());
     } while (i < staged.size());

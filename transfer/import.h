@@ -51,5 +51,5 @@ private:
     Main_Frm &calendar_;
     OpenSaveDialog &dialog_;
     CSV_Columns columns_; ///< keeps its values from the previous file
-    unsigned writes_ = 0; ///< Event_Store::Writes after the import's last write
+    unsigned writes_ = 0; ///< Event_Store::Writes if only the import has written since its backup
 };

@@ -118,6 +118,7 @@ TEST_F(Lifecycle, comes_back_from_where_something_else_has_moved_it) {
     EXPECT_FALSE(comes_back(set, [] { Desktop().Advance(9000); }));
     EXPECT_EQ(Desktop().announced.size(), 3U) << "its own move, and two tries to bring it back";
     window.stuck = false;
+    EXPECT_TRUE(comes_back(dragged, second) && comes_back(set, second));
     Press(form, form.Which_Month_Lbl);
     EXPECT_FALSE(comes_back(dragged, second)) << "while it is dragged";
 }

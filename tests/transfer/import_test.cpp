@@ -193,6 +193,20 @@ TEST_F(Importing, that_fails_after_its_first_write_puts_the_file_back) {
         EXPECT_EQ(Data_File() == old, !for_good);
         EXPECT_TRUE(Has_Backup() == for_good && (!for_good || Backup() == old)) << "the last copy is lost";
     }
+    // A text saved while the import paints stays.
+    Data_File() = old;
+    Fakes().file_fails = nullptr;
+    Fakes().painting = [&] {
+        if (Data_File() == old || Fakes().file_fails)
+            return;
+        form.Events.Load_File();
+        form.Events.Check_For_Pre("7/3/2003", "typed", false);
+        Fakes().file_fails = [next = Fakes().writes + 2](const std::string &path) {
+            return path == "C:\\Vellatro\\calendar.dat" && Fakes().writes == next;
+        };
+    };
+    Import(2, "C:\\in.csv", failed);
+    EXPECT_TRUE(Data_File().find("typed") != std::string::npos);
 }
 
 TEST_F(Importing, is_seen_while_it_takes_long_and_the_file_is_whole_then) {
