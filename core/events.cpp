@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <string>
+#include <tuple>
 
 namespace {
 
@@ -68,7 +69,9 @@ Read_Result Load_Events(std::vector<Event> &events, Sort_Order order, const Date
     const Read_Result result = Read_Events(today.year, [&](const Event &event) { events.push_back(event); });
     if (order == Sort_Order::Date_Added)
         return result;
-    std::ranges::stable_sort(events, {}, [](const Event &event) { return Day_Number(event.date); });
+    std::ranges::stable_sort(events, {}, [](const Event &event) {
+        return std::tie(event.date.year, event.date.month, event.date.day);
+    });
     if (order == Sort_Order::Descending_Date)
         std::ranges::reverse(events);
     return result;
