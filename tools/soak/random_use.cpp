@@ -107,7 +107,8 @@ protected:
             return;
         if (!settings)
             return Use_Menu();
-        for (const int key : {VK_DOWN, VK_DOWN, VK_DOWN, VK_RETURN})
+        // From the top, because the mouse may have selected an item already: "Exit" follows "Settings".
+        for (const int key : {VK_HOME, VK_DOWN, VK_DOWN, VK_RETURN})
             Post(static_cast<WPARAM>(key));
         Wait_Until([this] { return !Menu(); }, 500);
     }
