@@ -66,7 +66,14 @@ protected:
             Send_Key(VK_DOWN);
         Send_Key(VK_RETURN);
         if (!Wait_Until([this] { return !Menu(); }, 500)) // no item was chosen
-            program_->Choose({VK_ESCAPE});
+            Close_Menu();
+    }
+
+    /// Closes the menu, unless a jump of the clock opens a box, which takes the key and must be answered
+    /// first.
+    void Close_Menu() const {
+        PostMessageW(FindWindowA("Vellatro_Broadcasts", nullptr), WM_KEYDOWN, VK_ESCAPE, 1);
+        EXPECT_TRUE(Wait_Until([this] { return !Menu() || program_->Box_Window(); })) << "the menu stays";
     }
 
     void Answer_Box() {
@@ -216,7 +223,7 @@ protected:
         if (program_->Box_Window())
             Answer_Box();
         else if (Menu())
-            program_->Choose({VK_ESCAPE});
+            Close_Menu();
         else if (Upto(40) == 0)
             Use_Surroundings();
         else if (Settings() && Upto(8) > 0)
@@ -242,7 +249,7 @@ protected:
                 if (program_->Box_Window())
                     Answer_Box();
                 else if (Menu())
-                    program_->Choose({VK_ESCAPE});
+                    Close_Menu();
                 else if (Editor() || Settings())
                     PostMessageW(Editor() ? Editor() : Settings(), WM_CLOSE, 0, 0);
                 else
