@@ -107,7 +107,7 @@ public:
     void Answer(WORD button = IDOK) const; ///< presses the button and waits until the box is gone
 
     /// Brings the calendar above the stand-in. Returns false if the calendar does not appear at the point.
-    bool Raise_Calendar(POINT point) const;
+    [[nodiscard]] bool Raise_Calendar(POINT point) const;
     /// Clicks the middle of the place. `button` is MOUSEEVENTF_LEFTDOWN or the like.
     void Click(const RECT &place, DWORD button = MOUSEEVENTF_LEFTDOWN, int times = 1) const;
     void Double_Click(std::string_view item) const { Click(Named(item).place, MOUSEEVENTF_LEFTDOWN, 2); }

@@ -122,7 +122,7 @@ TEST_F(Time, What_Opens_And_Closes_Leaves_Nothing_Behind) {
         }
         press.x = place.x + round % 2 * 8;
         for (const auto &[window, open, close] : rows) {
-            program.Raise_Calendar(place);
+            ASSERT_TRUE(program.Raise_Calendar(place)) << "the calendar is not seen before " << window;
             open();
             ASSERT_TRUE(Wait_Until([&, name = window] { return program.Window(name) != nullptr; })) << window;
             close();
