@@ -74,8 +74,9 @@ struct Control_State {
     bool marked = false;      ///< shows the mark of the keyboard focus
     bool hairline = false;    ///< shows a hairline inside its edges if it has no frame
     Text_Align align = Text_Align::Left;
-    bool middle = false; ///< centres the caption vertically
-    int padding = 0;     ///< twips between the caption and the left, right and, unless `middle`, the top edge
+    bool centre_vertically = false; ///< for the caption
+    /// Twips between the caption and the left, right and, unless `centre_vertically`, the top edge.
+    int padding = 0;
     Glyph glyph = Glyph::None;
     bool checked = false;    ///< state of a check box or option button
     bool is_default = false; ///< Enter presses this button

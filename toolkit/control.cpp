@@ -43,11 +43,11 @@ void Control::Move(const Rect &bounds) {
         platform::Control_Changed(form_.model_, state_, Aspect::Bounds, before);
 }
 
-void Control::Set_Align(platform::Text_Align align, bool middle) {
-    if (state_.align == align && state_.middle == middle)
+void Control::Set_Align(platform::Text_Align align, bool centre_vertically) {
+    if (state_.align == align && state_.centre_vertically == centre_vertically)
         return;
     state_.align = align;
-    state_.middle = middle;
+    state_.centre_vertically = centre_vertically;
     Notify_Mirror(Aspect::Appearance);
 }
 
@@ -62,7 +62,9 @@ void Control::Handle_Event(const platform::Input_Event &event) {
 
 void Label::Set_Painted() {
     state_.painted = true;
-    state_.paint = [this](platform::Canvas &canvas, const Rect &clip) { Paint_Itself(state_, canvas, clip); };
+    state_.paint = [this](platform::Canvas &canvas, const Rect &clip) {
+        Paint_Single_Control(state_, canvas, clip);
+    };
 }
 
 void Button::Handle_Event(const platform::Input_Event &event) {

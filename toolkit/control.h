@@ -64,7 +64,7 @@ public:
     const platform::Font &Font() const { return state_.font; }
     void Set_Font(const platform::Font &font) { Store(state_.font, font, Aspect::Appearance); }
     void Set_Transparent(bool transparent) { Store(state_.transparent, transparent, Aspect::Appearance); }
-    void Set_Align(platform::Text_Align align, bool middle);
+    void Set_Align(platform::Text_Align align, bool centre_vertically);
     void Set_Padding(int twips) { Store(state_.padding, twips, Aspect::Appearance); }
     void Set_Glyph(platform::Glyph glyph) { Store(state_.glyph, glyph, Aspect::Appearance); }
     const platform::Access_State &Access() const { return state_.access; }

@@ -125,7 +125,8 @@ void Slider::Handle_Event(const Input_Event &event) {
 Picture_Box::Picture_Box(Container in, const char *name) : Control(in, Control_Kind::Picture_Box, name) {
     state_.painted = true;
     state_.paint = [this](platform::Canvas &canvas, const Rect &clip) {
-        Paint_Itself(state_, canvas, clip, [this](platform::Canvas &content) { Paint_Content(content); });
+        Paint_Single_Control(state_, canvas, clip,
+                             [this](platform::Canvas &content) { Paint_Content(content); });
     };
 }
 

@@ -89,7 +89,7 @@ void Paint_Caption(Canvas &canvas, const Control_State &control, const Rect &cli
     Rect line = control.bounds;
     line.left += control.padding;
     line.width -= 2 * control.padding;
-    if (control.middle) {
+    if (control.centre_vertically) {
         const auto lines = static_cast<int>(std::count(caption.begin(), caption.end(), '\n')) + 1;
         line.top += (control.bounds.height - lines * line_height) / 2;
     } else {
@@ -136,15 +136,15 @@ void Paint_Form(const platform::Form_Model &model, Canvas &canvas, const Rect &c
     Paint_Controls(model, canvas, clip);
 }
 
-void Paint_Itself(const Control_State &control, Canvas &canvas, const Rect &clip,
-                  Callback_Ref<void(Canvas &)> more) noexcept {
+void Paint_Single_Control(const Control_State &control, Canvas &canvas, const Rect &clip,
+                          Callback_Ref<void(Canvas &)> paint_on_top) noexcept {
     try {
         Control_State here = control;
         here.bounds.left = 0;
         here.bounds.top = 0;
         // The mirror has already drawn the dialog's background for a transparent control.
         Paint_Control(here, canvas, clip);
-        more(canvas);
+        paint_on_top(canvas);
     } catch (...) {
         // A message box would trigger another painting, which would fail again. The next change repaints the
         // control.

@@ -62,7 +62,7 @@ bool Process_Message(UINT message, WPARAM wparam) {
     case WM_DISPLAYCHANGE:
     case WM_SYSCOLORCHANGE:
     case WM_THEMECHANGED:
-        if (!win32::Mouse_Is_Taken())
+        if (!win32::In_Menu_Or_Move())
             Process_Broadcast(message, wparam);
         else if (const std::pair arrived(message, wparam);
                  std::ranges::find(deferred_broadcasts, arrived) == deferred_broadcasts.end())
@@ -76,7 +76,7 @@ bool Process_Message(UINT message, WPARAM wparam) {
 void CALLBACK On_Front_Changed(HWINEVENTHOOK, DWORD, HWND, LONG, LONG, DWORD, DWORD) {
     const Scoped_Value system_event(win32::In_System_Event, true);
     const Scoped_Value scale(win32::Dialog_Dots, 0);
-    if (!win32::Mouse_Is_Taken())
+    if (!win32::In_Menu_Or_Move())
         Notify_Listener(platform::Broadcast::Front_Changed);
 }
 

@@ -11,7 +11,7 @@ HWND Broadcast_Window();
 
 /// Returns whether a menu is open or the user is moving a window. The user could not click a message box
 /// then, so no timer's callback runs and broadcasts are deferred.
-bool Mouse_Is_Taken();
+bool In_Menu_Or_Move();
 
 /// Handles the broadcasts that arrived while the mouse was taken.
 void Process_Deferred_Broadcasts();

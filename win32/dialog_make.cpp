@@ -20,8 +20,8 @@ namespace {
 DWORD Label_Style(const Control_State &control) {
     constexpr DWORD aligned[] = {SS_LEFT, SS_CENTER, SS_RIGHT};
     // SS_NOTIFY makes the label receive mouse messages, which its tooltip needs.
-    return aligned[static_cast<int>(control.align)] | SS_NOTIFY | (control.middle ? SS_CENTERIMAGE : 0U) |
-           (control.frame_colour != -1 ? WS_BORDER : 0U);
+    return aligned[static_cast<int>(control.align)] | SS_NOTIFY |
+           (control.centre_vertically ? SS_CENTERIMAGE : 0U) | (control.frame_colour != -1 ? WS_BORDER : 0U);
 }
 
 /// Returns the style of a text box. A multi-line box that is higher than three lines gets a scroll bar.

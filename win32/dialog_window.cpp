@@ -146,7 +146,7 @@ void Dialog_Window::Update_Bounds() {
     RECT place = {corner.x, corner.y, corner.x + outer.right - outer.left,
                   corner.y + outer.bottom - outer.top};
     // A window that the user is moving stays with the mouse.
-    if (!Mouse_Is_Taken())
+    if (!In_Menu_Or_Move())
         place = On_Screen(place);
     SetWindowPos(window_, nullptr, place.left, place.top, place.right - place.left, place.bottom - place.top,
                  SWP_NOZORDER | SWP_NOACTIVATE);

@@ -36,7 +36,7 @@ namespace win32 {
 void Tick(UINT_PTR id) {
     // The program's windows inside the shell's window may vanish without a message.
     Report_Lost_Windows();
-    if (Mouse_Is_Taken())
+    if (In_Menu_Or_Move())
         return;
     Process_Deferred_Broadcasts();
     // The shell's window that holds the calendar may change its scale without telling its children.

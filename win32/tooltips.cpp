@@ -175,7 +175,7 @@ void Tooltips::Pop() const {
 /// Returns whether a tip would be in the user's way: while a mouse button is held, a menu is open or a window
 /// is being moved. For a painted form, a visible dialog of the program counts too.
 bool Tooltips::In_The_Way() const {
-    if (platform::Mouse_Button_Held() || Mouse_Is_Taken())
+    if (platform::Mouse_Button_Held() || In_Menu_Or_Move())
         return true;
     const auto mirrors = All_Mirrors();
     return windows_.empty() && std::any_of(mirrors.begin(), mirrors.end(), [](const auto &mirror) {

@@ -17,7 +17,7 @@ BOOL CALLBACK Find_Open_Menu(HWND window, LPARAM found_address) {
 
 } // namespace
 
-bool Mouse_Is_Taken() {
+bool In_Menu_Or_Move() {
     GUITHREADINFO state = {};
     state.cbSize = sizeof state;
     if (!GetGUIThreadInfo(GetCurrentThreadId(), &state))
