@@ -104,11 +104,13 @@ bool Program::Raise_Calendar(POINT point) const {
     // A top-level calendar may get below the stand-in, which cannot happen on Windows: Wine raises the X
     // window of whatever gets the focus, and the window that X last reported below the mouse. So check both
     // the pixel and the window at the point.
-    const HWND calendar = Calendar();
     const HWND standin = FindWindowA("Progman", nullptr);
     return Wait_Until([&] {
         DWORD_PTR answer = 0; // the stand-in has processed X's events when it answers
         SendMessageTimeoutW(standin, WM_NULL, 0, 0, SMTO_NORMAL, 2000, &answer);
+        const HWND calendar = Calendar();
+        if (!calendar) // it is not listed while it moves from one parent to another
+            return false;
         if (const HWND view = Shell_View(); GetAncestor(calendar, GA_PARENT) == GetAncestor(view, GA_PARENT))
             SetParent(calendar, view);
         if (Picture().At(point.x, point.y) != Bare_Screen->At(point.x, point.y) &&

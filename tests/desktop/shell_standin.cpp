@@ -101,14 +101,17 @@ void Paint_Hung_Up(SIZE size) {
 }
 
 // Repaints the picture and fits all windows to the screen's size, which tests change. Copies no bits, because
-// Wine sometimes waits forever for the X server to do so.
+// Wine sometimes waits forever for the X server to do so. Wine 10 puts a window that reaches beyond the
+// screen and covers it all onto the screen, so windows with an origin off the screen leave the lowest line
+// free.
 void Fill_Screen(SIZE size) {
+    const LONG free_lines = Origin < 0 ? 1 : 0;
     Paint_Wallpaper(size);
     Paint_Hung_Up(size);
     for (const HWND window : {Worker_Window, Shell_Window, View_Window, List_Window})
         if (window)
             SetWindowPos(window, HWND_BOTTOM, GetAncestor(window, GA_ROOT) == window ? Origin : 0, 0,
-                         size.cx - Origin, size.cy, SWP_NOACTIVATE | SWP_NOCOPYBITS);
+                         size.cx - Origin, size.cy - free_lines, SWP_NOACTIVATE | SWP_NOCOPYBITS);
     if (List_Window)
         SendMessageA(List_Window, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(Picture_Dc), PRF_CLIENT);
     RedrawWindow(Shell_Window, nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
