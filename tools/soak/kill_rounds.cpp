@@ -42,6 +42,12 @@ protected:
             records.append("\"").append(date).append(month).append(year).append("=" + text);
         }
     }
+    /// Returns the size of the data file in bytes, without opening it.
+    std::size_t Data_Size() const {
+        WIN32_FILE_ATTRIBUTE_DATA data{};
+        GetFileAttributesExW(Data_Path().c_str(), GetFileExInfoStandard, &data);
+        return data.nFileSizeLow;
+    }
     /// Returns whether a new data file exists that has not replaced the old one.
     bool Has_Unfinished_File() const {
         return GetFileAttributesA((folder_ + "calendar.dat.vellatro-new").c_str()) != INVALID_FILE_ATTRIBUTES;
@@ -112,7 +118,11 @@ TEST_F(Kill, Round) {
     Start_Again();
     if (after == imported)
         Begin_Save();
-    EXPECT_TRUE(Wait_Until([&] { return Data() == imported + saved; }));
+    // Reads the file only once it is whole: a read of so many bytes would hold it open while the program
+    // replaces it.
+    ASSERT_TRUE(Wait_Until([&] { return Data_Size() == imported.size() + saved.size(); }))
+        << "no second save";
+    EXPECT_TRUE(Data() == imported + saved) << "the file is not a state of the second save";
     EXPECT_TRUE(!Has_Unfinished_File() || after != imported) << "a save leaves an unfinished file";
     std::printf("import killed after %lu of %lu ms, %u of %u bytes%s; save killed after %lu ms, %s%s\n",
                 moment, Whole_Import, static_cast<unsigned>(imported.size()),
