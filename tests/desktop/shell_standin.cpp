@@ -301,6 +301,7 @@ void Do(char letter) {
 } // namespace
 
 int main() {
+    SetProcessDPIAware(); // a guest's window gets the awareness of its parent
     const bool is_shell = !Option("no-shell");
     Shell_Window =
         Create_Own_Window(is_shell ? "Progman" : "Standin_Wallpaper", "Program Manager", WS_POPUP, nullptr);
