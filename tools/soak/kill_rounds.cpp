@@ -118,11 +118,11 @@ TEST_F(Kill, Round) {
     Start_Again();
     if (after == imported)
         Begin_Save();
-    // Reads the file only once it is whole: a read of so many bytes would hold it open while the program
-    // replaces it.
-    ASSERT_TRUE(Wait_Until([&] { return Data_Size() == imported.size() + saved.size(); }))
-        << "no second save";
-    EXPECT_TRUE(Data() == imported + saved) << "the file is not a state of the second save";
+    // Reads the file only once it has its new size: a read of so many bytes would hold it open while the
+    // program replaces it. Reads it again if the program still holds it after the rename.
+    EXPECT_TRUE(Wait_Until([&] {
+        return Data_Size() == imported.size() + saved.size() && Data() == imported + saved;
+    })) << "the second save is missing";
     EXPECT_TRUE(!Has_Unfinished_File() || after != imported) << "a save leaves an unfinished file";
     std::printf("import killed after %lu of %lu ms, %u of %u bytes%s; save killed after %lu ms, %s%s\n",
                 moment, Whole_Import, static_cast<unsigned>(imported.size()),
