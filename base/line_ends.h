@@ -23,7 +23,7 @@ inline constexpr std::u16string_view No_Line_End =
     u"\"$'([{\u00A0£¥«‘“‹\u2060〈《「『【〔〖〘〚〝﹙﹛﹝＄（［｛｟｢￡￥￦";
 
 inline bool Is_In(std::u16string_view characters, std::uint32_t code) {
-    return code <= 0xFFFF && characters.find(static_cast<char16_t>(code)) != characters.npos;
+    return code <= 0xFFFF && characters.find(static_cast<char16_t>(code)) != std::u16string_view::npos;
 }
 
 inline bool Is_Cjk(std::uint32_t code) {
