@@ -1,4 +1,4 @@
-// The check for an open menu or a window that the user is moving.
+// Checks whether a menu is open or the user is moving a window.
 #include "win32/broadcasts.h"
 #include "win32/handles.h"
 
@@ -24,9 +24,8 @@ bool In_Menu_Or_Move() {
         return false;
     if ((state.flags & (GUI_POPUPMENUMODE | GUI_INMOVESIZE)) != 0)
         return true;
-    // When the user presses Alt alone, the system sets this flag and the system menu's, but shows no menu.
-    if ((state.flags & GUI_INMENUMODE) == 0)
-        return false;
+    // Look for the menu's window, not for GUI_INMENUMODE: the system also sets this flag when the user
+    // presses Alt alone, and Wine ties it to the mouse capture, which an open menu can lose.
     bool menu_open = false;
     EnumThreadWindows(GetCurrentThreadId(), Find_Open_Menu, reinterpret_cast<LPARAM>(&menu_open));
     return menu_open;
