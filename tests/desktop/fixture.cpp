@@ -63,6 +63,12 @@ HWND Find_Standin() {
     return shell ? shell : FindWindowA("Standin_Wallpaper", nullptr);
 }
 
+/// Returns whether the stand-in's wallpaper is on the screen. Looks at the corner that never has icons.
+bool Wallpaper_Is_Seen() {
+    const Picture now;
+    return now.At(now.width - 1, 0) == Bare_Screen->At(now.width - 1, 0);
+}
+
 std::string Test_Name() {
     const ::testing::TestInfo &test = *::testing::UnitTest::GetInstance()->current_test_info();
     return std::string(test.test_suite_name()) + "." + test.name();
@@ -113,7 +119,8 @@ void Desktop_Test::Kill_Shell() {
     TerminateProcess(process, 0);
     EXPECT_EQ(WaitForSingleObject(process, 5000), WAIT_OBJECT_0);
     CloseHandle(process);
-    EXPECT_TRUE(Wait_Until([shell] { return !IsWindow(shell); }));
+    // The stand-in's last picture stays on the screen until Wine's own desktop has painted.
+    EXPECT_TRUE(Wait_Until([shell] { return !IsWindow(shell) && !Wallpaper_Is_Seen(); }));
 }
 
 void Desktop_Test::Exchange_Shell(const std::wstring &options) {
@@ -131,11 +138,9 @@ void Desktop_Test::Exchange_Shell(const std::wstring &options) {
         << "error " << GetLastError();
     CloseHandle(process.hThread);
     CloseHandle(process.hProcess);
-    // The stand-in paints its picture at once. The compared corner never has icons.
-    ASSERT_TRUE(Wait_Until([] {
-        const Picture now;
-        return Find_Standin() && now.At(now.width - 1, 0) == Bare_Screen->At(now.width - 1, 0);
-    })) << "the stand-in does not appear";
+    // The stand-in paints its whole picture at once.
+    ASSERT_TRUE(Wait_Until([] { return Find_Standin() && Wallpaper_Is_Seen(); }))
+        << "the stand-in does not appear";
     Bare_Screen = std::make_unique<const Picture>();
 }
 
