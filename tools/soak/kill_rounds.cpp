@@ -118,8 +118,8 @@ TEST_F(Kill, Round) {
     Start_Again();
     if (after == imported)
         Begin_Save();
-    // Reads the file only once it has its new size: a read of so many bytes would hold it open while the
-    // program replaces it. Reads it again if the program still holds it after the rename.
+    // Read the file only when it has its new size: reading 16 MB takes so long that the program could not
+    // replace the file meanwhile. Try again if the program still holds the file after the rename.
     EXPECT_TRUE(Wait_Until([&] {
         return Data_Size() == imported.size() + saved.size() && Data() == imported + saved;
     })) << "the second save is missing";

@@ -42,7 +42,7 @@ protected:
     HWND Settings() const { return program_->Window("Vellatro_Settings_Frm"); }
     HWND Menu() const { return program_->Window("#32768"); }
 
-    /// Waits until the program has handled all earlier messages.
+    /// Waits until the program answers a message.
     void Sync() const {
         DWORD_PTR answer = 0;
         const HWND calendar = program_->Calendar();
@@ -66,14 +66,7 @@ protected:
             Send_Key(VK_DOWN);
         Send_Key(VK_RETURN);
         if (!Wait_Until([this] { return !Menu(); }, 500)) // no item was chosen
-            Close_Menu();
-    }
-
-    /// Closes the menu, unless a jump of the clock opens a box, which takes the key and must be answered
-    /// first.
-    void Close_Menu() const {
-        PostMessageW(FindWindowA("Vellatro_Broadcasts", nullptr), WM_KEYDOWN, VK_ESCAPE, 1);
-        EXPECT_TRUE(Wait_Until([this] { return !Menu() || program_->Box_Window(); })) << "the menu stays";
+            program_->Choose({VK_ESCAPE});
     }
 
     void Answer_Box() {
@@ -114,7 +107,8 @@ protected:
             return;
         if (!settings)
             return Use_Menu();
-        // From the top, because the mouse may have selected an item already: "Exit" follows "Settings".
+        // Start at the top, because the mouse may already have selected an item, and "Exit" follows
+        // "Settings".
         for (const int key : {VK_HOME, VK_DOWN, VK_DOWN, VK_RETURN})
             Post(static_cast<WPARAM>(key));
         Wait_Until([this] { return !Menu(); }, 500);
@@ -223,7 +217,7 @@ protected:
         if (program_->Box_Window())
             Answer_Box();
         else if (Menu())
-            Close_Menu();
+            program_->Choose({VK_ESCAPE});
         else if (Upto(40) == 0)
             Use_Surroundings();
         else if (Settings() && Upto(8) > 0)
@@ -249,7 +243,7 @@ protected:
                 if (program_->Box_Window())
                     Answer_Box();
                 else if (Menu())
-                    Close_Menu();
+                    program_->Choose({VK_ESCAPE});
                 else if (Editor() || Settings())
                     PostMessageW(Editor() ? Editor() : Settings(), WM_CLOSE, 0, 0);
                 else
