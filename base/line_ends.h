@@ -22,7 +22,7 @@ inline constexpr std::u16string_view No_Line_Start =
 inline constexpr std::u16string_view No_Line_End =
     u"\"$'([{\u00A0£¥«‘“‹\u2060〈《「『【〔〖〘〚〝﹙﹛﹝＄（［｛｟｢￡￥￦";
 
-inline bool Is_In(std::u16string_view characters, std::uint32_t code) {
+inline bool Contains(std::u16string_view characters, std::uint32_t code) {
     return code <= 0xFFFF && characters.find(static_cast<char16_t>(code)) != std::u16string_view::npos;
 }
 
@@ -46,6 +46,6 @@ inline bool Line_May_End(std::string_view text, std::size_t at) {
         return false;
     while (before.begin > 0 && Extends_Previous(before.code))
         before = Step_Back_Utf8(text, before.begin);
-    return (Is_Cjk(before.code) || Is_Cjk(after)) && !Is_In(No_Line_Start, after) &&
-           !Is_In(No_Line_End, before.code);
+    return (Is_Cjk(before.code) || Is_Cjk(after)) && !Contains(No_Line_Start, after) &&
+           !Contains(No_Line_End, before.code);
 }

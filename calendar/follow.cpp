@@ -5,8 +5,8 @@ void Main_Frm::Follow(const Settings &before, bool where_dropped) {
     const auto changed = [&](auto... members) {
         return ((before.*members != Shown_Settings->*members) || ...);
     };
-    // The window's size may change. A window at its set position is placed again, so that it neither runs off
-    // the screen nor leaves a gap to the screen's edge.
+    // The window's size may change. Place a window that is at its set position again, so that it neither runs
+    // off the screen nor leaves a gap at the edge.
     const bool stays = where_dropped && (Compacted || !place_.Is_In_Position());
     const bool refit = style_ != Effective_Style();
     Which_Style(Effective_Style());

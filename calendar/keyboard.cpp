@@ -96,7 +96,7 @@ bool Main_Frm::Handle_Day_Key(int key) {
     }
 }
 
-/// Opens the menu of the months or of the years below the title, for the keyboard.
+/// Opens the menu of months or years below the title, when the user opens it by key.
 void Main_Frm::Popup_Below_Title(bool months) {
     const Point below{Which_Month_Lbl.Left() + Which_Month_Lbl.Width() / 2,
                       Which_Month_Lbl.Top() + Which_Month_Lbl.Height()};

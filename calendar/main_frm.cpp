@@ -15,8 +15,8 @@ using platform::Mouse_Button;
 
 namespace {
 
-/// Returns a text that changes whenever the regional settings that the month shows change, or the measures of
-/// its font.
+/// Returns a text that changes with the regional settings that the month shows, and with the size of its
+/// font.
 std::string Regional_Look() {
     std::string look = std::to_string(platform::First_Weekday());
     for (int month = 1; month <= 12; ++month)

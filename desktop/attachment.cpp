@@ -57,8 +57,8 @@ void Desktop_Attachment::Follow() {
 }
 
 bool Desktop_Attachment::Handle_Window_Lost() {
-    // If the holder is the desktop window itself, that window is about to go as well: it destroys its
-    // children first.
+    // If the holder is the desktop window itself, the system is destroying that window, too: its children
+    // go first.
     window_lost_ = waiting_ = std::exchange(holder_, 0) != std::exchange(desktop_, 0);
     wait_start_ = platform::Milliseconds();
     return window_lost_;

@@ -74,8 +74,8 @@ struct Control_State {
     bool marked = false;      ///< shows the mark of the keyboard focus
     bool hairline = false;    ///< shows a hairline inside its edges if it has no frame
     Text_Align align = Text_Align::Left;
-    bool centre_vertically = false; ///< for the caption
-    /// Twips between the caption and the left, right and, unless `centre_vertically`, the top edge.
+    bool centre_vertically = false; ///< centres the caption between the top and bottom edges
+    /// Twips between the caption and the left and right edges, and the top edge unless `centre_vertically`.
     int padding = 0;
     Glyph glyph = Glyph::None;
     bool checked = false;    ///< state of a check box or option button

@@ -1,5 +1,5 @@
-// Saves the choices on the pages: changes Cur_Settings, the store and the calendar. Unchanged choices are not
-// written, except for the keys that always are.
+// Saves the choices on the pages: changes Cur_Settings, the store and the calendar. Writes only choices that
+// have changed, except for a few keys that it always writes.
 #include "core/settings.h"
 #include "platform/files.h"
 #include "platform/registry.h"

@@ -56,8 +56,8 @@ std::string Ask_Name(const Kind_Row &kind, OpenSaveDialog &dialog) {
     }
 }
 
-/// Appends a field in quotes. Doubles quotes inside it, as other programs expect; only a hand-written record
-/// contains any, and the import drops them.
+/// Appends `text` in quotes, then `after`. Doubles each quote in it, as other programs expect. Only a
+/// hand-written record contains quotes, and the import drops them.
 void Append_Field(std::string &bytes, std::string_view text, const char *after) {
     bytes += '"';
     for (const char character : text)

@@ -18,7 +18,7 @@ namespace {
 Callback<bool(platform::Broadcast)> broadcast_listener;
 HWND broadcasts = nullptr;
 
-/// The broadcasts that arrived while the mouse was taken, without duplicates.
+/// The broadcasts that arrived during a menu or a move, without duplicates.
 std::vector<std::pair<UINT, WPARAM>> deferred_broadcasts;
 
 /// Calls the listener. Returns its answer, or true without a listener.

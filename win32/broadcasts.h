@@ -1,5 +1,5 @@
-// The hidden window that receives the system's broadcasts and the timers. While the mouse is taken, timers
-// are skipped and broadcasts are deferred.
+// The hidden window that receives the system's broadcasts and the timers. While a menu is open or the user
+// is moving a window, it skips timers and defers broadcasts.
 #pragma once
 
 #include "win32/handles.h"
@@ -13,11 +13,11 @@ HWND Broadcast_Window();
 /// then, so no timer's callback runs and broadcasts are deferred.
 bool In_Menu_Or_Move();
 
-/// Handles the broadcasts that arrived while the mouse was taken.
+/// Handles the deferred broadcasts.
 void Process_Deferred_Broadcasts();
 
 /// Runs the callback of timer `id`. First looks for lost windows, handles the deferred broadcasts and checks
-/// the scale. While the mouse is taken, only looks for lost windows.
+/// the scale. In a menu or a move, only looks for lost windows.
 void Tick(UINT_PTR id);
 
 } // namespace win32

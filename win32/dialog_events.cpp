@@ -25,7 +25,7 @@ void Dialog_Window::Send_Event(const Control_State &control, Input_Event event) 
     if (Model() == nullptr)
         return;
     Show_Choice(control);
-    // An option button has also unchecked the others in its frame.
+    // Checking an option button has unchecked the others in its frame.
     for (const Control_State *other : Model()->controls) {
         if (control.kind == Control_Kind::Option_Button && other->kind == control.kind &&
             other->container == control.container)

@@ -201,7 +201,7 @@ void Menu_Images::Set(MENUITEMINFOW &item, Menu_Image image) {
 }
 
 bool Answer_Menu_Image(UINT message, LPARAM lparam) {
-    // Native controls send the same messages for themselves.
+    // Native controls send these messages, too, so check the type.
     if (message == WM_MEASUREITEM) {
         auto *item = reinterpret_cast<MEASUREITEMSTRUCT *>(lparam);
         if (item->CtlType != ODT_MENU)

@@ -79,7 +79,7 @@ void Click_On(HWND window, const std::function<bool()> &done) {
         EXPECT_TRUE(Wait_Until([&] {
             GetWindowRect(window, &place);
             const HWND seen = WindowFromPoint(Middle(place));
-            // Wine may have raised the stand-in: see Uncover.
+            // Wine may have raised the stand-in: see Raise_Calendar.
             if (seen != window && GetAncestor(seen, GA_ROOT) == FindWindowA("Progman", nullptr))
                 Raise(GetAncestor(window, GA_ROOT));
             return seen == window;
@@ -109,7 +109,7 @@ bool Program::Raise_Calendar(POINT point) const {
         DWORD_PTR answer = 0; // the stand-in has processed X's events when it answers
         SendMessageTimeoutW(standin, WM_NULL, 0, 0, SMTO_NORMAL, 2000, &answer);
         const HWND calendar = Calendar();
-        if (!calendar) // it is not listed while it moves from one parent to another
+        if (!calendar) // it is not listed while it changes its parent
             return false;
         if (const HWND view = Shell_View(); GetAncestor(calendar, GA_PARENT) == GetAncestor(view, GA_PARENT))
             SetParent(calendar, view);

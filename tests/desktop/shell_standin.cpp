@@ -101,9 +101,9 @@ void Paint_Hung_Up(SIZE size) {
 }
 
 // Repaints the picture and fits all windows to the screen's size, which tests change. Copies no bits, because
-// Wine sometimes waits forever for the X server to do so. Wine 10 puts a window that reaches beyond the
-// screen and covers it all onto the screen, so windows with an origin off the screen leave the lowest line
-// free.
+// Wine sometimes waits forever for the X server to do so. Wine 10 moves a window onto the screen
+// if it covers the whole screen and reaches beyond it. So windows that begin left of the screen leave its
+// lowest line free, and nothing paints it.
 void Fill_Screen(SIZE size) {
     const LONG free_lines = Origin < 0 ? 1 : 0;
     Paint_Wallpaper(size);
@@ -301,7 +301,7 @@ void Do(char letter) {
 } // namespace
 
 int main() {
-    SetProcessDPIAware(); // a guest's window gets the awareness of its parent
+    SetProcessDPIAware(); // a child of another process's window gets its parent's DPI awareness
     const bool is_shell = !Option("no-shell");
     Shell_Window =
         Create_Own_Window(is_shell ? "Progman" : "Standin_Wallpaper", "Program Manager", WS_POPUP, nullptr);

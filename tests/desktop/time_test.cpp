@@ -122,7 +122,8 @@ TEST_F(Time, What_Opens_And_Closes_Leaves_Nothing_Behind) {
         }
         press.x = place.x + round % 2 * 8;
         for (const auto &[window, open, close] : rows) {
-            ASSERT_TRUE(program.Raise_Calendar(place)) << "the calendar is not seen before " << window;
+            ASSERT_TRUE(program.Raise_Calendar(place))
+                << "the calendar does not appear before " << window << " opens";
             open();
             ASSERT_TRUE(Wait_Until([&, name = window] { return program.Window(name) != nullptr; })) << window;
             close();
