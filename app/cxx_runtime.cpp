@@ -1,6 +1,6 @@
-// Replacements for functions of the C++ runtime library, which the linker prefers to the originals. They save
-// 120 KB: the original terminate handler demangles names for a console, and the original logic errors use the
-// older string class.
+// Replacements for functions of the C++ runtime library. The linker prefers them to the originals, which
+// saves 120 KB: the original terminate handler demangles names for a console, and the original logic errors
+// use an older string class.
 #include "base/error.h"
 
 #include <cstdlib>
@@ -32,7 +32,7 @@ void __throw_out_of_range(const char *what) {
     throw Error(what);
 }
 
-/// Throws the format string unformatted.
+/// Throws an Error with the unexpanded format string.
 void __throw_out_of_range_fmt(const char *what, ...) {
     throw Error(what);
 }

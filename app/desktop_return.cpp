@@ -7,7 +7,7 @@ using platform::Broadcast;
 
 namespace {
 
-/// Returns whether there is a desktop whose icon list answers.
+/// Returns whether a desktop exists and its icon list answers.
 bool Desktop_Is_There() {
     constexpr unsigned patience = 100; // milliseconds
     const platform::Shell_Window desktop = platform::Find_Desktop_Window();
@@ -20,8 +20,8 @@ bool Desktop_Is_There() {
 Desktop_Return::Desktop_Return() {
     timer_.On_Timer = [this] { Poll(); };
     platform::Listen_To_Broadcasts([this](Broadcast broadcast) {
-        // Without this broadcast, Poll requires a desktop that has existed for some seconds: not every shell
-        // announces its start, and a shell that only recreates a window does not start again.
+        // After this broadcast, one successful poll is enough. Some shells never send it, and a shell that
+        // only recreates a window does not start again. Poll then requires several successes in a row.
         if (broadcast == Broadcast::Shell_Started)
             hits_needed_ = 1;
         else if (broadcast == Broadcast::Session_Over || broadcast == Broadcast::Close_Request)

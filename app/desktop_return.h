@@ -19,7 +19,7 @@ private:
     void Poll();
     void End();
 
-    Timer timer_{1000}; ///< stopped: the wait is over
+    Timer timer_{1000}; ///< stopped when the wait is over
     int polls_left_ = 120;
     int hits_needed_ = 5; ///< successful polls in a row before the desktop counts as ready
     int hits_ = 0;

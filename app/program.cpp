@@ -15,9 +15,9 @@ namespace {
 
 enum class Calendar_End { Not_Started, Wanted, Lost_With_Shell };
 
-/// Warns a user who has started the program inside an archive, at every such start: the program cannot
-/// remember the warning, because the next temporary folder is a different one. Does not warn if the program
-/// has restarted itself.
+/// Warns the user about a start from a temporary folder, such as inside an archive. Repeats the warning at
+/// each such start: the program cannot remember it, because the next temporary folder is a different one.
+/// Does not warn if the program has restarted itself.
 void Warn_Of_Temporary_Folder() {
     if (platform::Restart_Count() == 0 && platform::Started_From_Temporary_Folder())
         platform::Message_Box("Vellatro was started from a temporary folder, as happens inside an archive. "
@@ -40,9 +40,9 @@ Calendar_End Run_Calendar() {
     Warn_Of_Temporary_Folder();
     platform::Run_Message_Loop();
     main_frm->Close_Settings();
-    // If the desktop was lost, or the loop ended while a question was open, the user has not been asked about
-    // unsaved text yet. If the user cancels, or the text is refused, the open editor alone keeps the program
-    // running.
+    // Ask about unsaved text: nothing has asked yet if the shell destroyed the calendar, or if the loop ended
+    // while a question was open. If the user cancels, or the editor cannot save the text, the open editor
+    // alone keeps the program running.
     edit_frm->On_Unload = [] { platform::End_Message_Loop(); };
     while (!edit_frm->Offer_To_Save() && edit_frm->Visible())
         platform::Run_Message_Loop();
@@ -50,9 +50,9 @@ Calendar_End Run_Calendar() {
     return main_frm->Lost_With_Shell() ? Calendar_End::Lost_With_Shell : Calendar_End::Wanted;
 }
 
-/// Returns the restart count for the successor of this process, or 0 if there is to be none. `lived` is how
-/// long this process has run, in milliseconds. Limits the restarts, because a shell may destroy each new
-/// calendar at once.
+/// Returns the restart count for the successor of this process, or 0 to start none. `lived` is the run time
+/// of this process in milliseconds. Limits the restarts, because a shell may destroy each new calendar at
+/// once.
 int Next_Restart(unsigned lived) {
     constexpr unsigned short_life = 60000;
     constexpr int most_restarts = 3;
@@ -72,7 +72,7 @@ int Run_Program() {
         end = Run_Calendar();
         if (end == Calendar_End::Lost_With_Shell)
             restart = Next_Restart(platform::Milliseconds() - begin);
-        // From here on, the user may start the program again without being refused.
+        // From here on, the user can start the program again.
         platform::Release_Single_Instance();
         if (restart > 0 && !Desktop_Return().Wait())
             restart = 0;
@@ -95,7 +95,7 @@ void Connect_Settings(Main_Frm &calendar, std::unique_ptr<Settings_Frm> &setting
     calendar.Open_Settings = [&calendar, &settings] {
         if (settings && settings->Visible())
             return settings->Bring_To_Front();
-        // A former dialog must not be destroyed while one of its events is still running.
+        // Do not destroy the former dialog while one of its events is still running.
         if (settings && settings->Busy())
             return;
         settings = std::make_unique<Settings_Frm>(calendar);

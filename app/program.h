@@ -7,8 +7,8 @@ class Edit_Frm;
 class Main_Frm;
 class Settings_Frm;
 
-/// Starts the calendar and runs until the user ends it. Returns the process's exit code: 1 if the calendar
-/// could not start, after a message to the user.
+/// Starts the calendar and runs it to its end. Returns the process's exit code, which is 1 if the calendar
+/// could not start.
 int Run_Program();
 
 /// Connects the calendar to its editor. `editor` must outlive the calendar's calls.

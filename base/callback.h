@@ -1,5 +1,5 @@
-// Two wrappers for lambdas. They allocate no memory and need no destructor, unlike std::function, whose code
-// to copy and destroy each lambda makes up most of its size.
+// Two wrappers for lambdas. They allocate no memory and need no destructor. In std::function, the code that
+// copies and destroys each lambda makes up most of the size.
 #pragma once
 
 #include <concepts>
@@ -39,8 +39,8 @@ private:
 template <typename Signature>
 class Callback_Ref;
 
-/// Refers to a lambda of any size. The caller keeps the lambda, so use this only for parameters that are
-/// called before the function returns.
+/// Refers to a lambda of any size. The caller keeps the lambda, so use this only for a parameter that the
+/// function calls before it returns.
 template <typename Result, typename... Params>
 class Callback_Ref<Result(Params...)> {
 public:

@@ -1,4 +1,4 @@
-// The characters of UTF-8 texts: which bytes are valid, and which code points combine with the one before.
+// The characters of UTF-8 texts: which bytes are valid, and which code points combine with the previous one.
 // Nothing here calls the system.
 #pragma once
 
@@ -111,7 +111,7 @@ inline std::size_t Length_Utf8(char first) {
     return lead < 0x80 ? 1 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
 }
 
-/// Returns the code point that begins at byte `begin`, or No_Character.
+/// Returns the code point that begins at byte `begin`, or No_Character if none does.
 inline std::uint32_t Code_At(std::string_view text, std::size_t begin) {
     const std::size_t length = Length_Utf8(text[begin]);
     return text.size() - begin < length ? No_Character : Decode_Utf8(text, begin, length);
@@ -167,9 +167,9 @@ inline void Append_Utf8(std::string &text, std::uint32_t code) {
         text += static_cast<char>(0x80U | ((code >> (left - 6)) & 0x3FU));
 }
 
-/// Returns the index of the first byte of the character that ends before byte `end`, which is 1 to
-/// text.size(). A character includes its combining marks, all parts of a joined emoji, and both letters of a
-/// flag. An invalid byte counts as one character.
+/// Returns the index of the first byte of the character that ends before byte `end` (1 to text.size()). A
+/// character includes its combining marks, all parts of a joined emoji, and both letters of a flag. An
+/// invalid byte counts as one character.
 inline std::size_t Previous_Character(std::string_view text, std::size_t end) {
     constexpr std::uint32_t joiner = 0x200D;
     Code_Step step = Step_Back_Utf8(text, end);

@@ -55,7 +55,7 @@ constexpr std::string_view Without_Byte_Order_Mark(std::string_view text) {
     return text.substr(text.starts_with(Byte_Order_Mark) ? Byte_Order_Mark.size() : 0);
 }
 
-/// Returns `text` with each line break (CR, LF or CR LF) replaced by a blank or by `instead`.
+/// Returns `text` with each line break (CR, LF or CR LF) replaced by `instead`.
 template <typename Unit>
 std::basic_string<Unit> Without_Line_Breaks(std::basic_string<Unit> text, Unit instead = ' ') {
     std::size_t kept = 0;

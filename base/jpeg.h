@@ -1,5 +1,5 @@
-// A walk over the segments of a JPEG file that checks whether the file is complete and finds the picture's
-// size. Nothing is decoded here.
+// Walks over the segments of a JPEG file, to check that the file is complete and to find the picture's size.
+// Decodes nothing.
 #pragma once
 
 #include "base/geometry.h"

@@ -1,11 +1,11 @@
-// Line breaking rules for texts without blanks between words: Chinese, Japanese and Korean.
+// Line breaking rules for Chinese, Japanese and Korean, which allow breaks inside words.
 #pragma once
 
 #include "base/characters.h"
 
 #include <string_view>
 
-/// The characters of these scripts below U+10000, including their punctuation.
+/// Chinese, Japanese and Korean characters below U+10000, including their punctuation.
 inline constexpr Code_Range Cjk_Ranges[] = {{0x1100, 0x115F}, {0x2E80, 0xA4CF}, {0xA960, 0xA97F},
                                             {0xAC00, 0xD7FF}, {0xF900, 0xFAFF}, {0xFE30, 0xFE6F},
                                             {0xFF00, 0xFFEF}};
@@ -33,7 +33,8 @@ inline bool Is_Cjk(std::uint32_t code) {
 }
 
 /// Returns whether a line of a UTF-8 text may break before byte `at`, which is 1 to text.size() - 1. It may
-/// break before a blank, and next to a character of these scripts unless one of the lists above forbids it.
+/// break before a blank, and next to a Chinese, Japanese or Korean character unless one of the lists above
+/// forbids it.
 inline bool Line_May_End(std::string_view text, std::size_t at) {
     if (text[at] == ' ')
         return true;

@@ -13,7 +13,7 @@ struct Span {
     int end;
 };
 
-/// Returns the source pixels of target pixel `i` if `length` pixels are scaled to `count`: at least one.
+/// Returns the source pixels, at least one, of target pixel `i` when scaling `length` pixels to `count`.
 inline Span Source_Span(int i, int count, int length) {
     const auto at = [count, length](int pixel) {
         return static_cast<int>(static_cast<std::int64_t>(pixel) * length / count);

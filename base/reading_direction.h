@@ -22,7 +22,7 @@ inline constexpr Code_Range Neutral_Ranges[] = {
 inline bool Is_Right_To_Left(std::string_view text) {
     for (std::size_t at = 0; at < text.size(); ++at) {
         const std::uint32_t code = Code_At(text, at);
-        // Also skips the bytes inside a character.
+        // This also skips the bytes inside a character.
         if (code == No_Character)
             continue;
         constexpr std::uint32_t pictures = 0x1F000;

@@ -12,12 +12,12 @@ constexpr int title_height = 26;
 constexpr int header_height = 20;
 constexpr int text_inset = 5;    ///< from a box's sides to its text
 constexpr int number_inset = 2;  ///< less than text_inset: the number's caption begins with a space
-constexpr int title_padding = 6; ///< above and below the title's text together; headers have half of it
+constexpr int title_padding = 6; ///< space above plus below the title's text; headers have half
 constexpr int text_below = 2;    ///< from the lowest line of text to the box's lower edge
 
 struct Style_Lengths {
     int box_width;
-    int box_height; ///< minimum: larger fonts make the box higher
+    int box_height; ///< minimum: larger fonts make the box taller
     int lines;      ///< lines of text that always fit below the number
 };
 
@@ -39,7 +39,7 @@ struct Channels {
     }
 };
 
-/// Returns a length given in pixels at 96 DPI as screen pixels, at least one.
+/// Converts a length in pixels at 96 DPI to screen pixels, at least one.
 int Pixels(int at_96) {
     constexpr int twips_at_96 = 15;
     return std::max(Twips_To_Pixels(at_96 * twips_at_96), 1);
@@ -120,7 +120,7 @@ Colour Strong_Shade(Colour colour) {
     const Channels base{static_cast<int>(value & 0xFFU), static_cast<int>((value >> 8U) & 0xFFU),
                         static_cast<int>((value >> 16U) & 0xFFU)};
     const int brightness = base.Brightness();
-    // Doubles the saturation of the hue. Then darkens it, or lightens it on a dark box, until it stands out.
+    // Double the saturation. Then darken the colour, or lighten it on a dark box, until it stands out.
     const int top = std::max({base.red, base.green, base.blue});
     Channels shade = base.Each([top](int channel) { return std::max(top - 2 * (top - channel), 0); });
     if (brightness >= frame_contrast + 10) {

@@ -21,8 +21,8 @@ public:
     static constexpr platform::Font number_font{90, false};
     static constexpr platform::Font text_font{80, false};
 
-    /// Computes the layout of a style with the current fonts and DPI: 0 is "Thin Box", every other number
-    /// "Square Box".
+    /// Computes the layout of a style with the current fonts and DPI. Style 0 is "Thin Box", every other
+    /// number "Square Box".
     explicit Box_Layout(std::int16_t style);
 
     Rect Previous_Arrow() const { return {0, 0, title_, title_}; }
@@ -50,9 +50,9 @@ private:
 /// Returns the height of a line of text in whole pixels, at least one.
 int Line_Pixels(const platform::Font &font);
 
-// Each sets the look of a label, but not its place or caption. Only those for today's box set colours.
+// Each sets the look of a label, but not its place or caption. Only the two for today's box set colours.
 void Style_Heading(Label &label, const platform::Font &font);
-/// A bold caption stays bold.
+/// Keeps a bold caption bold.
 void Style_Number(Label &label);
 void Style_Text(Label &label);
 /// Gives a label the look of today's box.

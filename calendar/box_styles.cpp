@@ -18,8 +18,9 @@ void Place(Label &label, const Rect &pixels) {
     label.Move(Pixels_To_Twips(pixels));
 }
 
-/// Returns the beginning of an event text as the boxes show it. Each run of spaces, tabs, line breaks and
-/// other control characters becomes one space; none remain at the ends. Sets `more` if text is left over.
+/// Returns the beginning of an event text as the boxes show it. Turns each run of spaces, tabs, line breaks
+/// and other control characters into one space, and drops the runs at the ends. Sets `more` if text is left
+/// over.
 std::string Collapse_Blanks(std::string_view text, bool &more) {
     std::string shown;
     bool blank = false;
@@ -49,8 +50,8 @@ bool Fits(const Label &label, std::string_view text) {
     return platform::Text_Width(text, Box_Layout::text_font) < label.Width();
 }
 
-/// Returns all of `text`, or a prefix that is wider than the label but whose first half fits. Only saves
-/// Get_Line steps.
+/// Returns all of `text`, or a prefix that is wider than the label but whose first half fits. This only saves
+/// steps of Get_Line.
 std::string_view Measurable_Prefix(const Label &label, std::string_view text) {
     while (text.size() > 1) {
         const std::size_t half = Whole_Characters(text, text.size() / 2);
@@ -115,7 +116,7 @@ void Month_Grid::DotDotDot(Label &label, std::string_view text) {
     std::string_view rest = all;
     const int lines = std::max(Twips_To_Pixels(label.Bounds()).height / Line_Pixels(label.Font()), 1);
     std::string shown;
-    // Takes all lines but the last, which may need "...". Takes none if not even one character of the first
+    // Take all lines but the last, which may need "...". Take none if not even one character of the first
     // line fits.
     if (more || !Fits(label, rest)) {
         const std::vector<std::string> taken =

@@ -28,7 +28,7 @@ void Month_Grid::Colour_Boxes() {
     for (int i = 0; i < box_count; ++i) {
         Box_Lbl[i].Set_Back_Colour(high_contrast_ ? window : Cur_Settings.Col_Normal);
         Clear_Today_Style(Box_Lbl[i]);
-        // Frames the boxes, because the desktop between them may have their colour.
+        // Frame the boxes, because the desktop between them may have the same colour.
         if (high_contrast_)
             Box_Lbl[i].Set_Frame_Colour(shadow);
     }
@@ -49,7 +49,8 @@ void Month_Grid::Colour_Today(int index) {
     Style_Today(box, high_contrast_ ? highlight : Cur_Settings.Col_Today);
     if (!high_contrast_)
         return;
-    // Hides today's frame, so that only the keyboard's mark shows as a frame, in the colour of the number.
+    // Hide the frame of today's box, so that only the keyboard's mark appears as a frame, in the colour of
+    // the number.
     box.Set_Frame_Colour(highlight);
     box.Set_Fore_Colour(highlight_text);
     Box_Caption_Lbl[index].Set_Fore_Colour(highlight_text);

@@ -1,4 +1,4 @@
-// Compact mode, which shows only the title. The user enters and leaves it by a double click on the title.
+// Compact mode, which shows only the title. The user enters and leaves it with a double click on the title.
 // With the setting "Auto Compact", the calendar also enters it after a minute without activity, and then
 // leaves it when the mouse moves over the title.
 #include "calendar/main_frm.h"
@@ -45,8 +45,8 @@ void Main_Frm::Expand() {
     Set_Colours();
     Mark_Today();
     Compacted = false;
-    // Load_Dates may have shown an alert. A change of month, regional settings or fonts during the alert has
-    // not been drawn.
+    // Load_Dates may have shown an alert. If the month, the regional settings or the fonts changed during the
+    // alert, the window does not show the change yet.
     if (layout_outdated_)
         Redraw();
     // Compact() stopped the countdown, and after a double click the mouse may not move.
@@ -57,7 +57,7 @@ void Main_Frm::Compact_Timer_Timer() {
     Compact_Timer.Set_Enabled(false);
     const bool busy =
         (Editor_Visible && Editor_Visible()) || (Settings_Visible && Settings_Visible()) || Balloon_Showing();
-    // An import that fails may have turned Auto_Compact off without stopping the timer.
+    // A failed import may have turned Auto_Compact off without stopping the timer.
     if (busy || Compacted || Cur_Settings.Auto_Compact != 1)
         return;
     Timer_Compacted = true;

@@ -8,7 +8,7 @@ void Day_Mark::Move_To(Label *box, const Date &date, const Label &title) {
         box->Set_Marked(active_ && has_focus_);
     if (!active_)
         return;
-    // Announces the day to assistive technology, but only if it is a different day.
+    // Announce the day to assistive technology, but only if it is a different day.
     std::optional<Date> focused;
     if (box != nullptr)
         focused = date;

@@ -1,5 +1,5 @@
-// The keyboard's mark on one day box. The mark appears when the user first presses one of its keys, and from
-// then on whenever the window has the focus.
+// The keyboard's mark on one day box. The mark appears when the user first presses a key that moves or uses
+// it, and from then on whenever the window has the focus.
 #pragma once
 
 #include "core/date.h"
@@ -13,7 +13,7 @@ class Day_Mark {
 public:
     explicit Day_Mark(Form &form) : form_(form) {}
 
-    /// The marked day of the shown month; 0: none yet.
+    /// Returns the marked day of the shown month, or 0 if none is marked yet.
     std::int16_t Day() const { return day_; }
     void Set_Day(std::int16_t day) { day_ = day; }
     /// Makes the mark visible from now on. Returns false if it already was.
@@ -29,5 +29,5 @@ private:
     bool active_ = false;
     bool has_focus_ = false;
     Label *box_ = nullptr;
-    std::optional<Date> announced_; ///< the day that was last announced to have the focus
+    std::optional<Date> announced_; ///< the last day announced to assistive technology
 };

@@ -26,7 +26,7 @@ void Main_Frm::Save_Manual_Place(const std::optional<Point> &from) {
     place_.Set_Manual(manual);
     Change_Setting(&Settings::Manual_PosX, Nearest_Int16(manual.x));
     Change_Setting(&Settings::Manual_PosY, Nearest_Int16(manual.y));
-    // Asks only after a move along both axes: a move along one axis counts as temporary.
+    // Ask only after a move along both axes: a move along one axis counts as temporary.
     if (!from || manual.x == from->x || manual.y == from->y || Stays_Where_Dropped())
         return;
     if (platform::Message_Box(manual_question, platform::Box_Icon::Question, platform::Box_Buttons::Yes_No) !=

@@ -15,8 +15,8 @@ void Main_Frm::Follow(const Settings &before, bool where_dropped) {
     TransparentForm();
     if (!stays)
         Position_Form(Effective_Position());
-    // The boxes now fit a different amount of text, or have different tooltips. Load_Dates may alert the user
-    // of today's event.
+    // The boxes now hold a different amount of text, or have different tooltips. Load_Dates may alert the
+    // user of today's event.
     if (refit || changed(&Settings::Tooltips, &Settings::Show_Alerts))
         Load_Dates();
     if (changed(&Settings::Col_Today, &Settings::Col_Normal, &Settings::Col_Fore, &Settings::Col_Num,

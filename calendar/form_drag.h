@@ -1,5 +1,5 @@
-// Moves the calendar for the user: by a drag of its title, or in steps by the arrow keys. The owner stores
-// the new place.
+// Moves the calendar while the user drags its title, and by a step at each press of an arrow key. The owner
+// stores the new place.
 #pragma once
 
 #include "base/geometry.h"
@@ -10,20 +10,21 @@
 
 class Form_Drag {
 public:
-    /// Called after a drag, a click or a series of steps. `from` is the form's place before the move, or
-    /// nothing if no drag was running.
+    /// Keeps the new place after a drag, a click or a series of steps. `from` is the form's place before the
+    /// move, or nothing if no drag was running.
     using Keep = Callback<void(const std::optional<Point> &from)>;
     Form_Drag(Form &form, const Keep &keep) : form_(form), keep_(keep) {}
 
     bool Dragging() const { return drag_.has_value(); }
-    // Events of the mouse over the title. `mouse` is a point in the title, in twips.
+    // Mouse events over the title. `mouse` is a point in the title, in twips.
     void Begin(platform::Mouse_Button button, Point mouse);
     void Continue(platform::Mouse_Button held, Point mouse);
     void Drop(platform::Mouse_Button button);
     void End();
 
     /// Moves the form one step in the direction of an arrow key: one pixel if `fine` is set, otherwise ten.
-    /// Returns false if the form may not be moved or the key is not an arrow. End_Nudge stores the place.
+    /// Returns false if the user may not move the form or the key is not an arrow key. End_Nudge stores the
+    /// place.
     bool Nudge(int key, bool fine);
     void End_Nudge();
 

@@ -1,5 +1,5 @@
-// The balloon that appears while a mouse button is held: the wait before it, the balloon, and the poll for a
-// missed release. The caller decides about its contents and its place.
+// The balloon that appears while the user holds a mouse button: the wait before it, the balloon, and the poll
+// for a missed release. The caller decides on the balloon's contents and place.
 #pragma once
 
 #include "base/callback.h"
@@ -15,8 +15,8 @@ public:
 
     bool Showing() const { return Window.Visible(); }
     bool Mouse_Released() const { return released_; }
-    /// Waits 300 ms after a press of the button, and calls `show` if the button is still held then. The
-    /// balloon will point to `at` (twips on the screen), wherever the mouse has moved. Does nothing if a
+    /// Waits 300 ms after the press of a mouse button, and calls `show` if the user still holds the button.
+    /// The balloon will point to `at` (twips on the screen), wherever the mouse has moved. Does nothing if a
     /// balloon is up. A press during the wait restarts the wait, with the `show` and `at` of that press.
     void Hold(Point at, Callback<void()> show);
     /// Dispatches messages for `milliseconds`. Returns early at midnight, and when the program ends.
@@ -29,13 +29,13 @@ public:
     void End() { ended_ = true; }
 
     frmBalloon Window;
-    /// Polls while the balloon is up, because the button may be released outside our windows.
+    /// Polls while the balloon is up, because the user may release the button outside our windows.
     Timer Timer2{1000};
 
 private:
     Callback<void()> show_;    ///< from the last press
     Point at_;                 ///< from the last press
-    unsigned press_count_ = 0; ///< shows Hold that another press came during its wait
+    unsigned press_count_ = 0; ///< lets Hold notice another press during its wait
     bool released_ = true;
     bool waiting_ = false;
     bool ended_ = false;

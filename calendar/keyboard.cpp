@@ -26,8 +26,8 @@ void Main_Frm::Form_KeyDown(const platform::Input_Event &event) {
     }
     const bool menu = event.key == Key_Menu || (event.key == Key_F10 && event.shift);
     if (menu || event.key == Key_Return || event.key == Key_Delete) {
-        // These keys act on release, and only if they were pressed here. A key that closed a message box, or
-        // that repeats, does not act on the day.
+        // These keys act on release, and only if the user pressed them here. A key that closed a message box,
+        // or that repeats, does not act on the day.
         if (!event.repeated)
             pending_key_ = event.key;
     } else if (Handle_Day_Key(event.key)) {
@@ -96,7 +96,7 @@ bool Main_Frm::Handle_Day_Key(int key) {
     }
 }
 
-/// Opens the menu of months or years below the title, when the user opens it by key.
+/// Opens the menu of months or years below the title, in response to a key.
 void Main_Frm::Popup_Below_Title(bool months) {
     const Point below{Which_Month_Lbl.Left() + Which_Month_Lbl.Width() / 2,
                       Which_Month_Lbl.Top() + Which_Month_Lbl.Height()};

@@ -70,9 +70,10 @@ void Main_Frm::Wire_Events() {
         Mark_Today();
     };
     Which_Month_Lbl.On_Default_Action = [this] { Which_Month_Lbl_DblClick(); };
-    // Must not show a message box: the shell may be ending, and waits until this window is destroyed.
+    // The handler must not show a message box: the shell may be ending, and waits until this window is gone.
     On_Window_Lost = [this] {
-        // No mouse release will come. Ends the drag, because a dragged calendar does not follow the shell.
+        // No mouse release will come. End the drag, because the calendar does not follow the shell during a
+        // drag.
         Hide_Balloon();
         drag_.End();
         Update_Focus(false);
@@ -112,8 +113,8 @@ void Main_Frm::Wire_Box(Label &label, int index) {
 bool Main_Frm::Check_For_Multiple() {
     if (platform::Claim_Single_Instance("Vellatro"))
         return true;
-    // A successor that the program itself has started ends silently: the user may have started the program
-    // before it.
+    // A successor that the program itself has started ends silently, because the user may have started
+    // another copy first.
     if (platform::Restart_Count() == 0)
         platform::Message_Box("The program is already running!", platform::Box_Icon::Information);
     return false;
@@ -173,8 +174,8 @@ void Main_Frm::Dectect_Date_Timer_Timer() {
     Select_Current_Month();
     Update_Title();
     Set_Day_Headers();
-    // Must come before any message box: this timer ticks while a message box is open, and must act only once
-    // a day.
+    // Set the stamp before any message box: this timer ticks while a message box is open, and must act only
+    // once a day.
     date_stamp_ = stamp;
     Run_Guarded([this] { Get_Wallpaper_Stuff(Cur_Settings.Pack_Name); });
     Which_Style(Effective_Style());
@@ -211,7 +212,8 @@ bool Main_Frm::Handle_Broadcast(Broadcast broadcast) {
         RePosition();
         break;
     case Broadcast::Colours_Changed:
-        // System colours are resolved while painting. Only the frame of today's box is computed beforehand.
+        // Painting resolves the system colours. Only Mark_Today computes a colour beforehand: the frame of
+        // today's box.
         Apply_Contrast();
         Mark_Today();
         Repaint();
@@ -229,7 +231,7 @@ bool Main_Frm::Handle_Broadcast(Broadcast broadcast) {
     case Broadcast::Session_Over:
         end_reason_ = End_Reason::Wanted;
         Balloon.End();
-        // The process may end at any moment. The dialog stores its tab when it closes.
+        // The process may end at any moment. Close the dialog now, because closing stores its tab.
         if (Close_Settings)
             Close_Settings();
         platform::Wait_For_Wallpaper();

@@ -1,5 +1,5 @@
-// The calendar window: reacts to the user, the time and the system, and shows the month (month_grid.h).
-// main_frm.cpp has its start, the date timer and the broadcasts, keyboard.cpp the keyboard; the other files
+// The calendar window. It shows the month (month_grid.h) and reacts to the user, the time and the system.
+// main_frm.cpp has the start, the date timer and the broadcasts, keyboard.cpp the keyboard; the other files
 // are named for their topics. The mark, the drag, the balloon, the place and the attachment to the desktop
 // are objects of their own.
 #pragma once
@@ -29,7 +29,8 @@ public:
     Main_Frm();
     ~Main_Frm() override;
 
-    /// Starts the program. Returns false if the program has to end at once, after a message to the user.
+    /// Starts the calendar. If it cannot start, tells the user why and returns false. If a restarted program
+    /// finds another copy running, returns false silently.
     bool Form_Load();
 
     bool Alert_Done = false; ///< no further alert follows today
@@ -42,10 +43,10 @@ public:
     // The calendar reaches the event editor only through these. The owner of both windows sets them. If they
     // are empty, there is no editor.
     Callback<void(int index)> Open_Editor; ///< opens the editor for a day box
-    Callback<bool()> Offer_To_Save;        ///< offers to save unsaved text; false: do not end
+    Callback<bool()> Offer_To_Save;        ///< offers to save unsaved text; false: the program must not end
     Callback<void()> Save_Without_Asking;  ///< saves unsaved text if possible
     Callback<bool()> Editor_Visible;
-    Callback<void(Form *modal)> Block_Editor; ///< calls Set_Blocked_By of the editor
+    Callback<void(Form *modal)> Block_Editor; ///< calls the editor's Set_Blocked_By
 
     // The calendar reaches the settings dialog only through these.
     Callback<void()> Open_Settings;
@@ -63,17 +64,17 @@ public:
     const Settings *Shown_Settings = &Cur_Settings;
 
     /// Updates style, title, shape, position, texts and colours after the settings have changed from
-    /// `before`, or after a pack has given other values. If `where_dropped` is set, a window that was dragged
-    /// from its position, or is compact, stays where it is.
+    /// `before`, or after a pack has given other values. If `where_dropped` is set, does not move a window
+    /// that is compact or that the user has dragged from its position.
     void Follow(const Settings &before, bool where_dropped = false);
 
     /// Lays out the month: the numbers, the hidden boxes, and the window's place and shape.
     void Setup_Boxes(std::int16_t month, std::int16_t year);
     /// Puts the events of the shown month into their boxes and alerts the user of today's event.
     void Load_Dates();
-    /// Takes over one record: keeps its text for its box if the record belongs to the shown month, and alerts
-    /// the user if it is today's. Throws Conversion_Error or another std::exception if the record is
-    /// malformed.
+    /// Takes over one record. Keeps the text for the day's box if the record belongs to the shown month.
+    /// Alerts the user if the record is today's. Throws Conversion_Error or another std::exception if the
+    /// record is malformed.
     void Enter_Date(std::string_view record, const Date &today);
     /// Updates the shown month after `text` was saved as the event of a day. If the same month of another
     /// year is shown, updates the day's box there, because the event may be, or may have been, a yearly one.
@@ -83,16 +84,16 @@ public:
     /// Draws everything again after the shown month has changed; in compact mode, only the title.
     void Redraw();
 
-    /// Moves the window to a position code (desktop/position.h). An invalid code leaves the window where it
-    /// is.
+    /// Moves the window to the place of a position code (desktop/position.h). An invalid code leaves the
+    /// window where it is.
     void Position_Form(std::int16_t code);
     /// Remembers the work area's height.
     void Set_Repos() { place_.Update_Work_Area_Height(); }
     /// Follows the shell's icon view. Moves the window to its position again if the work area's height has
-    /// changed; puts it back if something else has moved it.
+    /// changed. Otherwise puts the window back if another program has moved it.
     void RePosition();
     /// Puts the window into the shell's desktop, takes over the colours of the icon labels and shows the
-    /// splash window. Silently skips windows that the shell lacks.
+    /// splash window. Silently skips each step whose window the shell lacks.
     void No_ShowDesktop_and_IconColours();
     void Set_Icon_Colours(platform::Shell_Window list, Colour background, Colour text);
 
@@ -102,12 +103,12 @@ public:
     /// If themes are in use, sets the pack's wallpaper for today's month, and takes over the pack's box style
     /// and position if the settings say so.
     void Get_Wallpaper_Stuff(const std::string &pack);
-    /// Does what Get_Wallpaper_Stuff does, for any month and even if themes are not in use.
+    /// Does the same as Get_Wallpaper_Stuff, for any month and even if themes are not in use.
     void Preview_Wallpaper_Stuff(const std::string &pack, std::int16_t month);
-    /// Returns the value text of a month, or Theme_Error after a message to the user. A missing pack turns
-    /// themes off and removes the wallpaper.
+    /// Returns the value text of a month, or Theme_Error after a message to the user. If the pack is missing,
+    /// turns themes off and removes the wallpaper.
     static std::string Get_Paper_Details(std::int16_t month, const std::string &pack);
-    /// The values of the last pack; empty: none, or not in use.
+    /// The values of the last pack; empty if it gives none or they are not in use.
     std::optional<std::int16_t> Theme_BoxStyle;
     std::optional<std::int16_t> Theme_Pos;
     // The style and position in use.
@@ -123,7 +124,7 @@ public:
     void Form_KeyDown(const platform::Input_Event &event);
     void Form_KeyUp(const platform::Input_Event &event);
     void Dectect_Date_Timer_Timer();
-    /// Steps to another box style. If a theme sets the style, first asks the user to turn that off.
+    /// Steps to another box style. If a theme sets the style, first asks the user whether to turn that off.
     void Change_Style(int step);
     /// Ends the program, unless the user cancels because of unsaved text.
     void End_Program();
@@ -195,7 +196,7 @@ private:
     End_Reason end_reason_ = End_Reason::None;
     std::string date_stamp_;
     std::string regional_look_;
-    /// Texts that have been read but are not in their boxes yet.
+    /// Texts from the data file that are not in their boxes yet.
     std::array<std::optional<std::string>, box_count> pending_texts_;
     unsigned load_generation_ = 0; ///< counts the calls of Load_Dates: a nested call supersedes the outer one
     bool load_incomplete_ = false; ///< the last Load_Dates failed: boxes may lack events of the month

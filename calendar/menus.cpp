@@ -1,5 +1,6 @@
 // The popup menus of a day, of the months and of the years. Assistive technology can operate the calendar
-// while a menu is open, so the user may choose an item for a day or a month that is no longer shown.
+// while a menu is open, so the user may choose an item for a day or a month that the calendar no longer
+// shows.
 #include "calendar/main_frm.h"
 #include "platform/menu.h"
 
@@ -31,7 +32,8 @@ void Main_Frm::Popup_Menu(int index, const Point *at) {
     if (!change.empty())
         items.push_back({undo_item, "Undo: " + change, Menu_Image::Undo, true, true});
     const int chosen = platform::Track_Popup_Menu(Model(), items, at);
-    // Clear and Edit do nothing if the box has another day by now. Compact mode does not change its day.
+    // Clear and Edit do nothing if the box belongs to another day by now. Compact mode does not change the
+    // day of a box.
     const bool same_day = Date_Of_Box(index) == date;
     if (chosen == clear_item && same_day)
         Clear_Box(index);
@@ -46,7 +48,7 @@ void Main_Frm::Popup_Menu(int index, const Point *at) {
 }
 
 void Main_Frm::Clear_Box(int index) {
-    // Clears the day of the box, even if the editor is open for another day.
+    // Clear the day of the box, even if the editor is open for another day.
     const Date date = Date_Of_Box(index);
     // After a failed Load_Dates, an empty box may hide an event that the user has not seen.
     if (load_incomplete_ && Box_Lbl[index].Access().value.empty())
@@ -59,10 +61,10 @@ void Main_Frm::Clear_Box(int index) {
 }
 
 void Main_Frm::Undo() {
-    // Compact mode shows no events; leaving it fills the boxes.
+    // Compact mode shows no events, and Expand fills the boxes.
     if (!Events.Undo() || Compacted)
         return;
-    // Refills only the texts, because a redraw would move a dragged calendar back.
+    // Refill only the texts, because a redraw would move a dragged calendar back.
     for (int i = 0; i < box_count; ++i)
         Fill_Box(i, {});
     Load_Dates();

@@ -49,7 +49,7 @@ void Month_Grid::Reset_Boxes() {
     for (int i = 0; i < box_count; ++i) {
         Box_Lbl[i].Set_Visible(true);
         Box_Caption_Lbl[i].Set_Visible(true);
-        // In high contrast, texts may be white until Set_Colours runs.
+        // In high contrast, texts may be white until Set_Colours runs, and a white box would hide them.
         if (!high_contrast_)
             Box_Lbl[i].Set_Back_Colour(white);
         Box_Lbl[i].Set_Caption({});
@@ -83,7 +83,7 @@ void Month_Grid::Hide_Misc_Boxes() {
 }
 
 void Month_Grid::Mark_Today() {
-    // The boxes show another month until compact mode ends.
+    // The boxes are out of date until compact mode ends.
     if (layout_outdated_)
         return;
     const Date today = Today();

@@ -29,7 +29,7 @@ public:
 
     /// Returns the index of the box of day 1 of a month, 0 to 6.
     static std::int16_t Start_Box(std::int16_t month, std::int16_t year);
-    /// Returns the day of box `index` in the shown month. A box outside the month gives a day below 1 or
+    /// Returns the day of box `index` in the shown month. For a box outside the month, the day is below 1 or
     /// beyond the month's end.
     Date Date_Of_Box(int index) const;
     void Set_Day_Headers();
@@ -42,11 +42,13 @@ public:
     /// Clips the window to its visible controls.
     void TransparentForm();
 
-    /// Places and sizes all boxes, headers and the title. 0 is "Thin Box", every other number "Square Box".
+    /// Places and sizes all boxes, headers and the title. Style 0 is "Thin Box", every other number "Square
+    /// Box".
     void Which_Style(std::int16_t style);
     /// Places the event texts in the boxes of a style, and measures the room before a "...".
     void DDD_Style(std::int16_t style);
-    /// Puts as much of `text` into the label as fits, wrapped between words. "..." replaces the rest.
+    /// Puts as much of `text` into the label as fits, wrapped between words, and replaces the rest with
+    /// "...".
     void DotDotDot(Label &label, std::string_view text);
     /// Drops characters from the end of DotDotDot_Lbl's caption until it is narrower than `label`.
     void Get_Line(const Label &label);

@@ -43,7 +43,7 @@ void Main_Frm::Step_Year(int years) {
 
 void Main_Frm::Redraw() {
     Update_Title();
-    // In compact mode no box may appear. The month is laid out when the user leaves that mode.
+    // In compact mode no box may appear. Expand lays out the month later.
     layout_outdated_ = Compacted;
     if (Compacted)
         return;
@@ -66,7 +66,7 @@ void Main_Frm::Change_Style(int step) {
         platform::Message_Box(style_question, platform::Box_Icon::Question,
                               platform::Box_Buttons::Yes_No_Cancel) != platform::Box_Answer::Yes)
         return;
-    // Steps from the visible style, which may be the theme's. All numbers but 0 mean the same style.
+    // Step from the visible style, which may be the theme's. All numbers but 0 mean the same style.
     const int style = ((Effective_Style() == 0 ? 0 : 1) + step + style_count) % style_count;
     const Settings before = Cur_Settings;
     if (theme_rules)
@@ -79,8 +79,8 @@ void Main_Frm::Change_Style(int step) {
 void Main_Frm::Show_Today_Event() {
     const Date today = Today();
     const Stored_Message message = Events.Get_Message(Date_Key(today));
-    // A message has already said that the file cannot be read. Today may have an event, so "No event." could
-    // be wrong.
+    // A message has already told the user that the file is unreadable. Today may have an event, so "No
+    // event." could be wrong.
     if (message.incomplete && message.text.empty())
         return;
     platform::Message_Box(Today_Text(today, message.text.empty() ? "No event." : message.text),

@@ -1,4 +1,4 @@
-// The layout of the shown month, the loading of its events into the boxes, and the alert.
+// Lays out the shown month, loads its events into the boxes and shows the alert.
 #include "base/joined.h"
 #include "calendar/main_frm.h"
 #include "core/convert.h"
@@ -38,13 +38,13 @@ void Main_Frm::Load_Dates() {
     Describe_First_Steps();
 }
 
-/// While there is no data file, gives assistive technology the first steps that the splash window shows.
+/// Sets the form's description: the splash window's first steps while there is no data file, else none.
 void Main_Frm::Describe_First_Steps() {
     const bool new_here = !platform::Path_Exists(Event_Store::Data_File());
     Set_Description(new_here ? Joined({First_Steps[0], " ", First_Steps[1]}) : std::string());
 }
 
-/// Puts the texts that were entered since the last call into their boxes.
+/// Puts the texts that Enter_Date has stored since the last call into their boxes.
 void Main_Frm::Show_Pending_Texts() {
     for (int i = 0; i < box_count; ++i) {
         std::optional<std::string> &text = pending_texts_[static_cast<std::size_t>(i)];
@@ -59,13 +59,13 @@ void Main_Frm::Enter_Date(std::string_view record, const Date &today) {
         throw Conversion_Error("a record without \"=\"");
     const Date date = Parse_Date_Key(parts.key);
     if ((date.year == every_year || date.year == Cur_Year) && date.month == Cur_Month) {
-        // Only stores the text. Fitting it into its box takes longer than reading a hundred records, and a
-        // later record of the same day replaces it.
+        // Only store the text. Fitting a text into its box takes longer than reading a hundred records, and a
+        // later record of the same day replaces the text.
         const int index = Start_Box(Cur_Month, Cur_Year) + date.day - 1;
         pending_texts_.at(static_cast<std::size_t>(index)) = parts.text;
     }
-    // If the date timer has not noticed the new day yet, the timer will alert. Alerting here as well would
-    // show two alerts.
+    // If the date timer has not noticed the new day yet, the timer will alert. An alert here would be a
+    // second one.
     if (Cur_Settings.Show_Alerts == 1 && !Alert_Done && date.day == today.day && date.month == today.month &&
         (date.year == today.year || date.year == every_year) && Date_Stamp(today) == date_stamp_)
         Show_Alert(today, parts.text);
@@ -80,15 +80,15 @@ void Main_Frm::Show_Saved_Event(const Date &date, std::string_view text) {
     const int index = Start_Box(Cur_Month, Cur_Year) + date.day - 1;
     if (date.year == Cur_Year)
         return Fill_Box(index, text);
-    // In another year the day may have a different event, or the same one if it is or was a yearly event.
+    // In the shown year, the day may have a different event, or the same one if that event is or was yearly.
     const Stored_Message message = Events.Get_Message(Date_Key({Cur_Year, date.month, date.day}));
     if (!message.incomplete)
         Fill_Box(index, message.text);
 }
 
 void Main_Frm::Show_Alert(const Date &today, std::string_view text) {
-    // Must come before the message box: a redraw during it must not alert again, and midnight resets the flag
-    // for the next day's alert.
+    // Set the flag before the message box: a redraw while the box is open must not alert again, and a flag
+    // set after midnight would prevent the next day's alert.
     Alert_Done = true;
     Show_Pending_Texts();
     platform::Message_Box(Today_Text(today, text), platform::Box_Icon::Information);

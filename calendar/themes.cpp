@@ -45,8 +45,8 @@ void Main_Frm::Preview_Wallpaper_Stuff(const std::string &pack, std::int16_t mon
     const std::string details = Get_Paper_Details(month, pack);
     if (details == Theme_Error)
         return;
-    // If a number is missing or bad, the user's own choice counts, not that of the previous month or pack.
-    // The first bad number is reported after everything else has been applied.
+    // In place of a missing or bad number, use the user's own choice, not the number of the previous month or
+    // pack. Report the first bad number after applying everything else.
     std::string fault;
     const auto number = [&](const std::string &text, const char *what,
                             const char *meanwhile = "Your own is used.") -> std::optional<std::int16_t> {
@@ -79,7 +79,7 @@ void Main_Frm::Preview_Wallpaper_Stuff(const std::string &pack, std::int16_t mon
     }
     if (path == Theme_Error)
         return;
-    // A bad number means stretched, as any number that is not a display mode does.
+    // Stretch the picture for a bad number, as for any number that is not a display mode.
     const std::optional<std::int16_t> mode =
         shown.Use_Other_Display_Mode
             ? shown.Other_Display_Mode
@@ -89,7 +89,7 @@ void Main_Frm::Preview_Wallpaper_Stuff(const std::string &pack, std::int16_t mon
         throw Conversion_Error(fault);
 }
 
-// Until a pack has set a value, these return the user's own choice.
+// Both functions below return the user's own choice until a pack has set the value.
 
 std::int16_t Main_Frm::Effective_Style() const {
     const Settings &shown = *Shown_Settings;

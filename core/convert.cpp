@@ -33,7 +33,7 @@ Integer To_Integer(std::string_view text) {
     return value;
 }
 
-/// Returns whether the text is digits with at most one decimal point and an optional sign, of any length.
+/// Returns whether the text is an optional sign and any number of digits with at most one decimal point.
 bool Is_Number(std::string_view text) {
     if (!text.empty() && (text[0] == '+' || text[0] == '-'))
         text.remove_prefix(1);

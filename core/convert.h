@@ -9,7 +9,7 @@
 #include <string>
 #include <string_view>
 
-/// Thrown if a text is not a value of the expected type. what() names the expected form.
+/// Thrown if a text or a number does not fit the expected type. For a text, what() names the expected form.
 class Conversion_Error : public Error {
 public:
     using Error::Error;

@@ -74,7 +74,7 @@ std::string Date_Key(const Date &date) {
 }
 
 std::string Every_Year_Key(const std::string &key) {
-    // The year is cut at its slash, because a year before 1000 has fewer than four digits.
+    // Cut the year at its slash: a year before 1000 has fewer than four digits.
     return key.substr(0, key.rfind('/') + 1) + std::to_string(every_year);
 }
 

@@ -29,10 +29,10 @@ int Weekday(const Date &date);
 /// Returns the number of days in the month of `date`, 28 to 31.
 std::int32_t DaysInMonth(const Date &date);
 
-/// Returns the days from 30 December 1899, which is day 0, to the date. Earlier dates are negative.
+/// Returns the number of days from 30 December 1899 to the date. Earlier dates have negative numbers.
 std::int32_t Day_Number(const Date &date);
 
-/// Returns the date of a day number. Its year must fit into 16 bits.
+/// Returns the date of a day number. The year of the date must fit into 16 bits.
 Date Date_Of(std::int32_t day_number);
 
 /// Returns the exact key of a date, such as 5/3/2002.

@@ -16,8 +16,8 @@ void Show_Loading_Error() {
     platform::Message_Box("Error loading in data file.", platform::Box_Icon::Stop);
 }
 
-/// Reads the whole data file into `bytes`. Returns false if there is none. Throws platform::File_Error, also
-/// if a folder has the file's name.
+/// Reads the whole data file into `bytes`. Returns false if the file does not exist. Throws
+/// platform::File_Error, also if a folder has the file's name.
 bool Read_Data_File(std::string &bytes) {
     const std::string path = Event_Store::Data_File();
     if (!platform::Path_Exists(path))
@@ -88,8 +88,8 @@ bool Event_Store::Undo() {
     } catch (const std::exception &) {
         return Show_Save_Error();
     }
-    // If the file is gone now, Load_File keeps Temp_Lst as it is, and the next save would write the events
-    // again.
+    // If Undo has deleted the file, Load_File keeps Temp_Lst as it is, and the next save would write the
+    // events again.
     Temp_Lst.clear();
     return true;
 }
@@ -108,7 +108,7 @@ bool Event_Store::Load_File() {
         return true;
     } catch (const std::exception &) {
         Show_Loading_Error();
-        load_failed_ = true; // set again: a save while the message was open clears it, but Temp_Lst may lack
+        load_failed_ = true; // again: a save while the message was open has cleared it, but Temp_Lst may lack
                              // the saved record
         return false;
     }

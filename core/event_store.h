@@ -25,15 +25,16 @@ std::string Change_Name(std::string_view what, const Date &day);
 struct Stored_Message {
     std::string text;
     bool every_year = false; ///< at least one of the day's records is yearly
-    bool incomplete = false; ///< the file could not be read to its end; the user has seen a message
+    bool incomplete = false; ///< reading failed before the end of the file; the user has seen a message
 };
 
 /// Reads and rewrites the event file, always as a whole. A procedure whose access to the file fails shows one
 /// fixed message and returns; only Write_Data_File throws instead. Timers run on while a message box is open,
-/// so any of these procedures may be entered again meanwhile.
+/// and may call any of these procedures again.
 class Event_Store {
 public:
-    /// All items of the file in file order, as of the last Load_File and the changes since.
+    /// The items of the file in file order, as of the last Load_File and the changes since, but without those
+    /// that Write_New_Line has added.
     std::vector<std::string> Temp_Lst;
 
     /// Returns the path of calendar.dat.
@@ -43,18 +44,17 @@ public:
     /// keeps an Undo_Log::Change of this log alive meanwhile.
     Undo_Log Changes{Data_File()};
 
-    /// Undoes the newest change. Returns whether the file was changed. If something else has changed the file
-    /// since, shows a message and leaves the file alone. A failure shows "Error saving data file.".
+    /// Undoes the newest change. Returns whether it changed the file. If something else has changed the file
+    /// since, shows a message and leaves the file alone. On failure, shows "Error saving data file.".
     bool Undo();
 
-    /// Fills Temp_Lst from the file, including lines that are not records. If there is no file, Temp_Lst
-    /// stays as it is. If the file cannot be read to its end, shows "Error loading in data file." and returns
-    /// false.
+    /// Fills Temp_Lst from the file, including lines that are not records. Leaves Temp_Lst as it is if there
+    /// is no file. If reading fails, shows "Error loading in data file." and returns false.
     bool Load_File();
 
     /// Stores `text` as the event of the day with the exact key `key`, then saves. Replaces the first record
     /// of that day, exact or yearly, or adds one. An empty text removes that record; if there is none, the
-    /// file stays untouched. Returns false, after a message, if the file could not be saved.
+    /// file stays untouched. Returns false, after a message, if it cannot save the file.
     bool Check_For_Pre(const std::string &key, const std::string &text, bool each_year);
 
     /// Rewrites the file from Temp_Lst. Throws platform::File_Error if the write fails, or if the last
@@ -62,35 +62,35 @@ public:
     /// that cannot be written. After a throw the file is unchanged.
     void Write_Data_File();
 
-    /// Rewrites the file as Write_Data_File does. A failure shows "Error saving data file." and returns
+    /// Rewrites the file as Write_Data_File does. On failure, shows "Error saving data file." and returns
     /// false.
     bool Write_ALL();
 
     /// Returns how often this store has written the file.
     unsigned Writes() const { return writes_; }
 
-    /// Rewrites the file from Temp_Lst with one more record, which is not added to Temp_Lst. Does nothing if
-    /// `text` is empty. Returns false if the write or the last Load_File failed.
+    /// Rewrites the file from Temp_Lst and one more record, but does not add the record to Temp_Lst. Does
+    /// nothing if `text` is empty. Returns false if the write or the last Load_File failed.
     bool Write_New_Line(const std::string &key, const std::string &text, bool each_year);
 
     /// Shows "Error saving data file." and returns false. Callers also use it to refuse a save.
     static bool Show_Save_Error();
 
     /// Returns the event of the day `key`: the text of its last record in the file. If reading fails, shows
-    /// the message of Load_File and returns the text found before the failure. Lines without "=" also cause
-    /// the message, once, but the records after them count.
+    /// the message of Load_File and returns the text found before the failure. Skips lines without "=", and
+    /// shows the message once if there are any.
     Stored_Message Get_Message(const std::string &key);
 
-    /// Calls `enter` for each record in file order; the view is valid during the call. If reading fails or
-    /// `enter` throws, the reading ends and the message of Load_File follows. Lines without "=" also cause
-    /// the message. Calls `entered` after the last record, before any message. Returns whether all records
-    /// were entered.
+    /// Calls `enter` for each record in file order; the view is valid during the call. Calls `entered` after
+    /// the last record, before any message. If reading fails or `enter` throws, stops reading and shows the
+    /// message of Load_File. Skips lines without "=", and shows the message if there are any. Returns
+    /// whether it has entered all records.
     bool Load_Dates(Callback_Ref<void(std::string_view record)> enter, Callback<void()> entered = nullptr);
 
 private:
-    /// Writes Temp_Lst and, unless it is empty, the record `added`. Throws as Write_Data_File does.
+    /// Writes Temp_Lst, then the record `added` unless `added` is empty. Throws as Write_Data_File does.
     void Write_Records(const std::string &added);
-    /// Does the same, but shows a message and returns false on failure.
+    /// Writes as Write_Records does, but shows a message and returns false on failure.
     bool Rewrite_File(const std::string &added);
 
     unsigned writes_ = 0;

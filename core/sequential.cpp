@@ -1,4 +1,4 @@
-// Items are views into the bytes of the file. Only those that need conversion are copied. An item may have
+// Items are views into the bytes of the file; only an item that needs conversion is a copy. An item may have
 // any length.
 #include "core/sequential.h"
 
@@ -9,7 +9,7 @@
 
 namespace {
 
-/// Ends a text file, as in the days before file systems stored exact lengths.
+/// The byte that ends a text file, from the days before file systems stored exact lengths.
 constexpr char end_mark = '\x1A';
 
 bool Is_Blank(char c) {
@@ -30,7 +30,7 @@ const char *Skip_Blanks(const char *at, const char *end) {
     return at;
 }
 
-/// Returns the position after the comma or line ending at `at`, or `at` if it is at neither.
+/// Returns the position after the comma or line ending at `at`, or `at` if there is neither.
 const char *Skip_Separator(const char *at, const char *end) {
     if (at == end || !Is_Separator(*at))
         return at;
@@ -38,8 +38,8 @@ const char *Skip_Separator(const char *at, const char *end) {
     return at + (pair ? 2 : 1);
 }
 
-/// Returns whether an item reads back unchanged without quotes around it: nothing in it ends it early, is
-/// trimmed, or opens a quoted item.
+/// Returns whether an item reads back unchanged without quotes: the reader does not end the item early, trim
+/// or reject it, or take it for a quoted one.
 bool Reads_Back_Plain(std::string_view item) {
     if (item.empty() || item.front() == '"' || Is_Blank(item.front()) || Is_Blank(item.back()))
         return false;
@@ -59,7 +59,7 @@ Sequential_Reader::Sequential_Reader(std::string_view bytes) {
 }
 
 /// Returns whether no item is left. Skips blanks and line endings at the end of the file, which are not
-/// items; looks at each run of them only once.
+/// items. Looks at each run of them only once.
 bool Sequential_Reader::At_End() {
     if (at_ != end_ && Is_Line_End(*at_) && at_ >= scanned_to_) {
         scanned_to_ = at_;
@@ -112,8 +112,8 @@ void Append_Item(std::string &bytes, std::string_view item) {
         bytes += item;
         bytes += '"';
     } else if (Reads_Back_Plain(item)) {
-        // The item is hand-written and has a quote inside. A blank, which readers skip, keeps the bytes of a
-        // byte order mark at its beginning from being taken for the mark of the file.
+        // The item is hand-written and has a quote inside. Write a blank before the bytes of a byte order
+        // mark: readers skip the blank, but would take those bytes at the start of the file for its mark.
         if (item.starts_with(Byte_Order_Mark))
             bytes += ' ';
         bytes += item;

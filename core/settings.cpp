@@ -43,7 +43,7 @@ constexpr Setting_Row rows[] = {
     {general, "Settings Tab", &Settings::Settings_Tab, nullptr, 0},
 };
 
-/// Follows the description of a malformed value; the registry key follows the text.
+/// The text between the description of a malformed value and the registry key of the value.
 constexpr const char *advice =
     ".\r\n\r\nVellatro ends now. Correct or delete the value in the registry, under "
     "HKEY_CURRENT_USER\\";

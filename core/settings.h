@@ -46,13 +46,13 @@ extern Settings Cur_Settings;
 using Setting_Member = std::variant<std::int16_t Settings::*, std::int32_t Settings::*, bool Settings::*,
                                     std::string Settings::*>;
 
-/// One row of the table: where a setting is stored, its member, and its key and line in a configuration file.
+/// A setting's place in the store, its member, and its key and line in a configuration file.
 struct Setting_Row {
     const char *section;
     const char *key;
     Setting_Member member;
-    const char *configuration_key; ///< null: not in configuration files
-    int configuration_line;        ///< from 1
+    const char *configuration_key; ///< null: configuration files omit the setting
+    int configuration_line;        ///< counted from 1
 };
 
 /// Returns the rows in the order of reading.
@@ -73,15 +73,15 @@ public:
     using Error::Error;
 };
 
-/// Reads all keys into Cur_Settings; missing keys get their defaults. Writes nothing. Throws Setting_Error at
-/// the first value that does not convert.
+/// Reads all settings into Cur_Settings; settings that the store lacks get their defaults. Writes nothing.
+/// Throws Setting_Error at the first value that does not convert.
 void Load_Settings();
 
-/// Returns the text that is stored for the member of a row.
+/// Returns the value of a row's member in the text form that the store holds.
 std::string Setting_Text(const Settings &settings, const Setting_Row &row);
 
 /// Converts `text`, assigns it to the row's member of Cur_Settings and stores the text as it is. Throws
-/// Conversion_Error; throws platform::Registry_Error if the store refuses, and the member has changed by
+/// Conversion_Error. Throws platform::Registry_Error if the store refuses; the member keeps the new value
 /// then.
 void Store_Setting_Text(const Setting_Row &row, std::string_view text);
 
@@ -95,6 +95,6 @@ void Change_Setting(std::int16_t Settings::*member, std::int16_t value);
 /// Stores the current value of a member of Cur_Settings. Throws platform::Registry_Error.
 void Save_Setting(Setting_Member member);
 
-/// Stores the current value of a member of Cur_Settings. Ignores a store that refuses: the value holds until
+/// Stores the current value of a member of Cur_Settings. If the store refuses, the value still holds until
 /// the program ends.
 void Store_Setting(Setting_Member member);

@@ -39,7 +39,7 @@ Characters Split(std::string_view pattern) {
     return characters;
 }
 
-/// Returns whether `word`, which is in capitals, begins at `at` in any letter case.
+/// Returns whether `word` begins at `at` in any letter case. `word` must be in capitals.
 bool Stands_At(const Characters &characters, std::size_t at, std::string_view word) {
     if (characters.size() - at < word.size())
         return false;
@@ -207,7 +207,7 @@ std::string Bar_Date_Text(bool show_time, const std::string &time_format, const 
     std::string title = Title_Of_Today(show_time, time_format, date_format, now);
     const auto &formats = Bar_Date_Formats();
     if (std::find(formats.begin(), formats.end(), date_format) == formats.end()) {
-        // Set the variable first, so that a store that refuses is tried once, not at every title.
+        // Set the variable first: if the store refuses, the next title must not try again.
         Cur_Settings.Bar_Date_Format = weekday_form;
         Store_Setting(&Settings::Bar_Date_Format);
     }

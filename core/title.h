@@ -1,4 +1,4 @@
-// The text of the calendar's title, and the formatter of its time, with patterns that users type.
+// Formats the calendar's title, and times by the patterns that users type.
 #pragma once
 
 #include "platform/clock.h"
@@ -31,6 +31,6 @@ std::string Title_Of_Today(bool show_time, const std::string &time_format, const
 
 /// Returns the title of a calendar that shows `month` of `year` at the time `now`. If that is the current
 /// month and `date_format` is unknown, sets "Bar Date Format" in Cur_Settings and in the store to "Weekday -
-/// d month - yyyy". If the store refuses, this is repeated at the next start.
+/// d month - yyyy". If the store refuses, the next start tries again.
 std::string Bar_Date_Text(bool show_time, const std::string &time_format, const std::string &date_format,
                           std::int16_t month, std::int16_t year, const platform::Date_Time &now);

@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-/// Remembers for each change only the bytes it replaced and their position. Keeps the last `most_steps`
+/// Remembers only the bytes that each change replaced, and their position. Keeps the last `most_steps`
 /// changes.
 class Undo_Log {
     using File_Bytes = std::optional<std::string>; ///< nullopt: there is no file
@@ -18,9 +18,9 @@ public:
     /// Creates the log of the file `path`, which need not exist.
     explicit Undo_Log(std::string path);
 
-    /// Records one change: the difference that its lifetime makes to the file, in any number of writes. If
-    /// the file is the same at the end, nothing is recorded. A change inside another is part of the outer
-    /// change. If the file cannot be read or memory runs out, the change cannot be undone.
+    /// Records one change: the difference between the file's states at the start and the end of this object's
+    /// life, after any number of writes. Records nothing if the states are equal. A change inside another is
+    /// part of the outer change. If reading the file fails or memory runs out, Undo cannot revert the change.
     class Change {
     public:
         Change(Undo_Log &log, std::string name);
@@ -35,20 +35,20 @@ public:
         File_Bytes before_;
     };
 
-    /// Returns the name of the change that Undo would revert; empty if there is none, and during a change.
+    /// Returns the name of the change that Undo would revert, or "" if there is none or a change is running.
     std::string_view Name() const;
 
-    /// Restores the file to its state before the newest change and forgets that change. If there was no file,
-    /// deletes it. Returns false, leaving the file alone, if Name() is empty or the file is not as that
-    /// change left it. Throws platform::File_Error; the file is unchanged then.
+    /// Restores the file to its state before the newest change, or deletes a file that the change created.
+    /// Forgets the change. Returns false and leaves the file alone if Name() is empty or the file is not as
+    /// the change left it. On failure, throws platform::File_Error and leaves the file unchanged.
     bool Undo();
 
 private:
     struct Step {
         std::string name;
-        std::string removed;         ///< bytes before the change where the files differ
-        std::size_t head = 0;        ///< number of equal bytes before those
-        std::size_t tail = 0;        ///< number of equal bytes after those
+        std::string removed;         ///< bytes that the change replaced
+        std::size_t head = 0;        ///< number of equal bytes before them
+        std::size_t tail = 0;        ///< number of equal bytes after them
         std::size_t size = 0;        ///< of the file after the change
         std::size_t hash = 0;        ///< of the file's bytes after the change
         bool existed_before = false; ///< the file existed before the change

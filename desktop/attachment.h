@@ -18,16 +18,16 @@ public:
     /// Moves the form into the window that now holds the view, above the view. The calendar calls this every
     /// second and whenever another window comes to the front. Does nothing before Attach or Await_Shell.
     void Follow();
-    /// Returns whether the form still waits to go inside.
+    /// Returns whether the form still waits for a desktop.
     bool Waiting() const { return waiting_; }
 
-    /// Records that the form's window is gone. Returns whether it was lost with a holder other than the
-    /// desktop window; Follow then creates a new one.
+    /// Records that the form's window is gone. Returns whether the window was inside a holder other than the
+    /// desktop window; Follow then creates a new window.
     bool Handle_Window_Lost();
 
-    /// Called before the form goes inside, with the icon list and the colours of its labels.
+    /// Called with the icon list and the colours of its labels, before the form moves into the desktop.
     Handler<platform::Shell_Window, const platform::Label_Colours &> On_Colours;
-    Handler<> On_Late_Entry;   ///< called when Follow has put the form inside
+    Handler<> On_Late_Entry;   ///< called when Follow has moved the form into the desktop
     Handler<> On_Desktop_Lost; ///< called when Follow finds no desktop for the new window
 
 private:

@@ -33,7 +33,7 @@ private:
 
     Form &form_;
     Point placed_; ///< where Move_To put the form
-    Point home_;   ///< the form's own place: from Move_To, or from the user since
+    Point home_;   ///< the form's own place, set by Move_To or by the user since
     Point shown_;  ///< where the form is shown: home_, or the nearest place that a monitor shows
     Point manual_;
     int desktop_height_ = 0; ///< the work area's height at the last Update_Work_Area_Height, in twips

@@ -19,7 +19,7 @@ int Fit_Int32(std::int64_t value) {
 }
 
 /// Returns one coordinate of a calendar that occupies `taken` of the work area's `length`. Rounds the offset
-/// from `begin` towards zero, even if it is negative because the calendar is larger than the work area.
+/// from `begin` towards zero, even the negative offset of a calendar that is larger than the work area.
 int Coordinate(std::int64_t begin, std::int64_t length, std::int64_t taken, int hundredths) {
     const std::int64_t free = Fit_Int32(length - taken);
     return Fit_Int32(begin + free * hundredths / whole);

@@ -1,5 +1,5 @@
-// The positions of the calendar: their table, and the calculation of a point in the work area from a code.
-// Nothing here moves the window.
+// The positions of the calendar: their table, and the calculation of a point in the work area from a code. No
+// function here moves the window.
 #pragma once
 
 #include "base/geometry.h"
@@ -32,7 +32,7 @@ inline constexpr Position Positions[] = {
 constexpr auto Manual_Position =
     static_cast<std::int16_t>(std::ranges::find(Positions, by_hand, &Position::left) - std::begin(Positions));
 
-/// The lengths from which Position_Of computes a place, in twips.
+/// The input of Position_Of, in twips.
 struct Placement {
     Rect work_area;
     Size form;
@@ -51,8 +51,8 @@ constexpr bool Is_Place(std::int16_t code) {
     return Is_Position(code) && code != Manual_Position;
 }
 
-/// Returns the window's top left corner for a position code, in twips, or nothing if the number is not a
-/// code. Throws Conversion_Error (core/convert.h) if a value leaves 32 bits.
+/// Returns the window's top left corner for a position code, in twips, or nullopt if the number is not a
+/// code. Throws Conversion_Error (core/convert.h) if a value does not fit into 32 bits.
 std::optional<Point> Position_Of(std::int16_t code, const Placement &placement);
 
 /// Returns a top left corner at which the work area shows a window: the corner of `place` if any part of the

@@ -40,7 +40,7 @@ void Set_Display_Mode_Wallpaper(const std::string &path, std::int16_t display_mo
         }
         Set_Word_Wallpaper(path, word);
     } catch (const std::exception &) {
-        // The user sees that the wallpaper does not change: no message is needed.
+        // The user sees that the wallpaper does not change, so no message is needed.
     }
 }
 
@@ -79,7 +79,7 @@ void Save_User_Wallpaper(const User_Wallpaper &wallpaper, const std::string &pac
         for (const auto &[name, member] : values)
             platform::Write_User_Value(kept_key, name, wallpaper.*member);
         platform::Write_User_Value(kept_key, "Monitors", wallpaper.monitors);
-        // The pack comes last: it marks the stored wallpaper as complete.
+        // Write the pack last: it marks the stored wallpaper as complete.
         platform::Write_User_Value(kept_key, "Pack", pack);
     } catch (const std::exception &) {
         // The preview still restores the wallpaper, unless the program is killed.

@@ -17,15 +17,15 @@ void Set_Word_Wallpaper(const std::string &path, std::string_view mode_word);
 
 /// The wallpaper that the user has chosen in the system.
 struct User_Wallpaper {
-    std::string path, style, tiled; ///< the system's values; "UNKNOWN": missing
+    std::string path, style, tiled; ///< the system's values; "UNKNOWN" if missing
     std::string monitors;           ///< the text of platform::Wallpaper_Of_Monitors
 };
 
-/// Returns the current wallpaper. If the system overwrites that file with the next wallpaper, `path` names a
-/// copy.
+/// Returns the current wallpaper. If the system would overwrite its file with the next wallpaper, `path`
+/// names a copy.
 User_Wallpaper Find_User_Wallpaper();
 
-/// Makes a wallpaper from Find_User_Wallpaper the current one again.
+/// Makes a wallpaper that Find_User_Wallpaper returned the current one again.
 void Restore_User_Wallpaper(const User_Wallpaper &wallpaper);
 
 /// Stores the wallpaper for the next start, with the name of the pack that the preview shows instead. An

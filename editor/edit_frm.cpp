@@ -69,8 +69,8 @@ void Edit_Frm::Fill() {
     Message_Txt.Set_Text(message.text);
 }
 
-/// Asks whether to save unsaved text. Returns false if the editor stays on its day: the user cancelled, or
-/// the text was refused or could not be saved.
+/// Asks whether to save unsaved text. Returns false if the editor stays on its day: the user cancels, or the
+/// editor refuses the text or cannot save it.
 bool Edit_Frm::Confirm_Leave() {
     if (!Visible() || !Apply_Btn.Enabled())
         return true;
@@ -92,7 +92,7 @@ bool Edit_Frm::Offer_To_Save() {
         return false;
     if (!Confirm_Leave())
         return false;
-    // Closes the editor, so that it does not ask about the discarded text again if something else keeps the
+    // Close the editor, so that it does not ask about the discarded text again if something else keeps the
     // program from ending.
     if (Visible() && Apply_Btn.Enabled())
         Form_Unload();
@@ -133,13 +133,13 @@ bool Edit_Frm::Apply_Btn_Click() {
     return true;
 }
 
-/// Stores the text as the day's event. Returns false, after a message to the user, if that fails.
+/// Stores the text as the day's event. On failure, shows the user a message and returns false.
 bool Edit_Frm::Save(const std::string &text) {
     Event_Store &events = calendar_.Events;
     const Undo_Log::Change change(events.Changes, Change_Name("Edit", day_));
     events.Load_File();
-    // If Fill could not read the whole file, the day may have an event that the user has not seen. Refuses to
-    // save even if the file can be read by now, because saving would replace that event.
+    // If Fill could not read the whole file, the day may have an event that the user has not seen. Refuse to
+    // save even if the file is readable by now, because saving would replace that event.
     return load_incomplete_ ? Event_Store::Show_Save_Error()
                             : events.Check_For_Pre(Date_Key(day_), text, Every_Year_Chk.Checked());
 }

@@ -12,23 +12,24 @@ public:
     /// `calendar` must outlive the editor.
     explicit Edit_Frm(Main_Frm &calendar);
 
-    /// Opens the editor for box `index` of the shown month. Does nothing if the box has no day. If the editor
-    /// is already open, first asks whether to save its unsaved text, and may stay on its day.
+    /// Opens the editor for box `index` of the shown month. Does nothing if the box has no day, or while a
+    /// message box of the editor is open. If the editor is already open, first asks whether to save its
+    /// unsaved text, and may stay on its day.
     void Edit_Box(int index);
 
-    /// Offers to save unsaved text, before the program or the session ends. Returns false if the user
-    /// cancels, if the text cannot be saved, or while an earlier message box is still open.
+    /// Offers to save unsaved text before the program or the session ends. Returns false if the user cancels,
+    /// if the editor cannot save the text, or while an earlier message box is still open.
     bool Offer_To_Save();
 
-    /// Saves unsaved text without a question and closes, for a session that cannot wait. Leaves a text with a
-    /// double quote unsaved.
+    /// Saves unsaved text and closes the editor without a question, because the session ends without waiting
+    /// for an answer. Leaves a text with a double quote unsaved.
     void Save_Without_Asking();
 
     /// Returns false if the text holds a double quote, which a record cannot store.
     bool Check_Quotes() const;
 
-    /// Saves and closes. Returns false if the text was refused or could not be saved, after a message to the
-    /// user; the editor then stays open with the text.
+    /// Saves the text and closes the editor. If the editor refuses the text or cannot save it, shows the user
+    /// a message, stays open with the text and returns false.
     bool Apply_Btn_Click();
     void Ok_Btn_Click();
     void Cancel_Btn_Click();

@@ -26,7 +26,7 @@ struct Font {
 
 enum class Text_Align : std::uint8_t { Left, Centre, Right };
 
-/// Returns the plain 0x00BBGGRR value of `colour`. A system colour is looked up on each call.
+/// Returns the plain 0x00BBGGRR value of `colour`. Looks up a system colour on each call.
 Colour Resolve_Colour(Colour colour);
 
 void Fill_Rect(Canvas &canvas, const Rect &rect, Colour colour);

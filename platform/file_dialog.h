@@ -16,7 +16,7 @@ constexpr std::int32_t Multiple_Files = 0x200;
 struct File_Dialog {
     const Form_Model *owner = nullptr; ///< the form that owns the dialog; null: none
     bool saves = false;                ///< true: asks for a file to write; false: for files to open
-    /// Pairs of description and pattern, each ended by a NUL, then one more NUL; or empty.
+    /// Pairs of a description and a pattern, with a NUL after each text and one more at the end; or empty.
     std::string filter;
     std::string folder;            ///< the initial folder; empty: the system chooses
     std::string title;             ///< empty: the system's title

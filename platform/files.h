@@ -11,7 +11,7 @@
 
 namespace platform {
 
-/// A file could not be read or written. what() names the file and the system's reason in the user's language.
+/// Thrown if access to a file fails. what() names the file and the system's reason in the user's language.
 class File_Error : public Error {
 public:
     using Error::Error;
@@ -29,7 +29,7 @@ bool File_Exists(const std::string &path);
 /// Returns whether `path` names an existing folder.
 bool Folder_Exists(const std::string &path);
 
-/// The entries of a folder that Names_In_Folder returns.
+/// The kind of entry that Names_In_Folder returns.
 enum class Entry_Kind { Files, Folders };
 
 /// Returns the names of the plain files or of the folders in `folder`, without the folder's path and in no

@@ -75,7 +75,7 @@ struct Control_State {
     bool hairline = false;    ///< shows a hairline inside its edges if it has no frame
     Text_Align align = Text_Align::Left;
     bool centre_vertically = false; ///< centres the caption between the top and bottom edges
-    /// Twips between the caption and the left and right edges, and the top edge unless `centre_vertically`.
+    /// Twips from the caption to the left and right edges; without `centre_vertically`, also to the top edge.
     int padding = 0;
     Glyph glyph = Glyph::None;
     bool checked = false;    ///< state of a check box or option button
@@ -95,7 +95,7 @@ struct Control_State {
     /// Lets a painted control take the keyboard focus and send key events. If the control has no default
     /// action, Enter presses the dialog's default button.
     bool tab_stop = false;
-    bool link = false; ///< a painted control shows the hand pointer
+    bool link = false; ///< makes a painted control show the hand pointer
     /// Paints a painted control of a dialog, in twips from its top left corner. Never throws. The mirror adds
     /// the dotted focus rectangle.
     Callback<void(Canvas &canvas, const Rect &clip)> paint;
@@ -105,8 +105,8 @@ struct Control_State {
 
 enum class Form_Kind : std::uint8_t {
     Painted, ///< borderless, painted by the form itself, without a task bar button
-    /// A painted form above all windows that never takes the keyboard focus. It has no owner. The owner
-    /// would be the shell's window that holds the calendar, which destroys its owned windows when it closes.
+    /// A painted form above all windows. It never takes the keyboard focus. It has no owner: the shell's
+    /// window that holds the calendar would be its owner, and would destroy it on closing.
     Floating,
     Dialog, ///< a native dialog: title bar, close box, native controls
 };
@@ -134,9 +134,9 @@ enum class Input_Kind : std::uint8_t {
     Item_Activated, ///< a double click on the chosen item of a list box
     Default_Action, ///< assistive technology requests the control's default action
     Close,          ///< the close box, Alt+F4, or Esc in a dialog without a cancel button
-    Window_Lost,    ///< the native window was destroyed, but not by Destroy_Mirror
+    Window_Lost,    ///< something other than Destroy_Mirror destroyed the native window
     Focus_Changed,  ///< the form got (`checked`) or lost the keyboard focus
-    /// The window lost the mouse capture while a button was held, so the button's release will not arrive.
+    /// The window lost the mouse capture while the user held a button, so the release will not arrive.
     Capture_Lost,
     Scale_Changed, ///< the screen's dots per inch or the system's fonts changed
     Window_Moved,  ///< the window of a dialog moved to `point` on the screen
@@ -182,7 +182,7 @@ struct Form_Model {
     Callback<void(Canvas &canvas, const Rect &clip)> paint;
 };
 
-/// The part of a form or control that has changed since the mirror showed it.
+/// The part of a form or control that has changed since the mirror last showed it.
 enum class Aspect : std::uint8_t {
     Bounds,
     Visible,
@@ -223,9 +223,9 @@ inline bool Is_Usable(const Form_Model &model, const Control_State &control) {
             Is_Usable(model, *model.controls[static_cast<std::size_t>(control.container)]));
 }
 
-/// Creates the native window of a form, hidden or visible as the model says, with its controls. The controls
-/// in a hidden frame are created when the frame is first shown. Does nothing if the window exists. On
-/// failure, leaves no window and throws Error with the system's reason.
+/// Creates the native window of a form and its controls, hidden or visible as the model says. The mirror
+/// creates the controls in a hidden frame when it first shows the frame. Does nothing if the window exists.
+/// On failure, leaves no window and throws Error with the system's reason.
 void Create_Mirror(const Form_Model &model);
 
 /// Destroys the native window. Does nothing if there is none.
@@ -246,7 +246,7 @@ void Clip_Window(const Form_Model &model, const std::vector<Rect> &rects);
 void Shape_Window(const Form_Model &model, const std::vector<Point> &corners);
 
 /// Returns the position of the window's top left corner on the screen, in pixels, even if another program has
-/// moved the window or its parent. Returns nothing without a native window or while it is minimised.
+/// moved the window or its parent. Returns nothing if there is no native window or the window is minimised.
 std::optional<Point> Window_Corner(const Form_Model &model);
 
 /// Brings the form to the front and gives it the keyboard focus.

@@ -1,5 +1,5 @@
-// Names and dates in the user's regional settings. All dates are Gregorian, whichever calendar the user has
-// chosen.
+// Names and dates according to the user's regional settings. All dates are Gregorian, whichever calendar the
+// user has chosen.
 #pragma once
 
 #include "platform/clock.h"
@@ -27,7 +27,7 @@ std::string Short_Date(int year, int month, int day);
 /// Returns a date and time of day in the user's short date format and time format.
 std::string Date_Time_Text(const Date_Time &time);
 
-/// Returns the date in `text`, with day and month in the order of the regional settings. Ignores a time of
+/// Returns the date in `text`. The regional settings determine the order of day and month. Ignores a time of
 /// day. Returns nothing if the text is not a date of the years 100 to 9999.
 std::optional<Date_Time> Read_Date(std::string_view text);
 

@@ -8,7 +8,7 @@
 
 namespace platform {
 
-/// Dispatches messages until End_Message_Loop is called. Must not be called from a handler.
+/// Dispatches messages until End_Message_Loop ends the loop. Never call this from a handler.
 void Run_Message_Loop();
 
 /// Makes Run_Message_Loop return after the current message.
@@ -34,17 +34,17 @@ using Timer_Id = std::uintptr_t;
 Timer_Id Start_Timer(unsigned milliseconds, Callback<void()> tick);
 void Stop_Timer(Timer_Id id);
 
-/// Events that the system sends to every program. The first four are deferred while a menu is open or the
-/// user is moving a window.
+/// Events for the whole program rather than one window. The platform defers the first four while a menu is
+/// open or the user is moving a window.
 enum class Broadcast {
-    Settings_Changed, ///< the regional settings, the work area or similar changed
+    Settings_Changed, ///< the regional settings, the work area or another setting changed
     Time_Changed,     ///< the system clock was set
     Display_Changed,  ///< the screen's size or colour depth changed
     Colours_Changed,  ///< the system colours or the theme changed
-    Front_Changed,    ///< a window of another program came to the front; dropped while others are deferred
+    Front_Changed,    ///< a window of another program came to the front; dropped during a menu or a move
     Shell_Started,    ///< a shell has created its task bar, at its first start or a restart
     Session_Ends,     ///< the user is about to log off or shut down: the last chance to save
-    Session_Forced,   ///< as Session_Ends, but the system does not wait for answers by the user
+    Session_Forced,   ///< as Session_Ends, but the system does not wait for the user's answers
     Session_Over,     ///< the session ends now, whatever the program answers
     Close_Request,    ///< another program, such as a task manager, asks the program to close
 };
@@ -56,7 +56,7 @@ enum class Broadcast {
 void Listen_To_Broadcasts(Callback<bool(Broadcast)> listener);
 
 /// Sets the reason for refusing Session_Ends; empty: none. Windows Vista and newer show the reason to the
-/// user, and do not wait for a program without a visible window unless it gives one.
+/// user, and do not wait for a program without a visible window unless the program gives a reason.
 void Explain_Refusal(const std::string &reason);
 
 } // namespace platform

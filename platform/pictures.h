@@ -11,7 +11,7 @@
 
 namespace platform {
 
-/// A picture could not be read. what() names the file and the reason.
+/// Thrown if a picture cannot be read. what() names the file and the reason.
 class Picture_Error : public Error {
 public:
     using Error::Error;

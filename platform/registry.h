@@ -1,4 +1,4 @@
-// The registry: text values of the user, which hold the settings, and single values under any root key.
+// The registry: the user's text values, which hold the settings, and single values under any root key.
 #pragma once
 
 #include "base/error.h"
@@ -11,7 +11,7 @@
 
 namespace platform {
 
-/// A registry key could not be written. what() names the key and the system's reason.
+/// Thrown if a registry key cannot be written. what() names the key and the system's reason.
 class Registry_Error : public Error {
 public:
     using Error::Error;
@@ -23,15 +23,15 @@ public:
 /// accepts it.
 std::optional<std::string> Read_User_Value(std::string_view key, std::string_view name);
 
-/// Stores the text value `name` in HKEY_CURRENT_USER\`key`. Creates the key if it is missing. Throws
-/// Registry_Error.
+/// Stores `text` as the value `name` of HKEY_CURRENT_USER\`key`. Creates the key if it is missing. Throws
+/// Registry_Error on failure.
 void Write_User_Value(std::string_view key, std::string_view name, std::string_view text);
 
 // Direct access to values under any root key, for the few places that need it. Failures are silent.
 
 /// The handle of a root key, 0: none.
 using Registry_Root = std::uintptr_t;
-/// Returns the handle of HKCU, HKLM, HKU, HKDD, HKCC or HKCR, 0 for any other name.
+/// Returns the handle of the root key HKCU, HKLM, HKU, HKDD, HKCC or HKCR, or 0 for any other name.
 Registry_Root Find_Registry_Root(std::string_view name);
 
 /// A value by its type letter: "S" is a text (REG_SZ, or REG_EXPAND_SZ with its variables replaced), "B" a
@@ -46,8 +46,8 @@ Registry_Value Registry_Read(std::string_view root_name, std::string_view key, s
 /// Returns whether the key exists and Registry_Write can set values in it.
 bool Registry_Writable(std::string_view root_name, std::string_view key);
 
-/// Sets the value, and creates the key if it is missing. The type letter must be a capital and match the
-/// type of `value`, else no value is set.
+/// Creates the key if it is missing. Sets the value only if the type letter is a capital and matches the type
+/// of `value`.
 void Registry_Write(std::string_view root_name, std::string_view key, std::string_view name, char type_letter,
                     const Registry_Value &value);
 

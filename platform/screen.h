@@ -18,8 +18,8 @@ Rect Work_Area();
 /// Returns the work area, in pixels, of the monitor at or nearest to `point` (screen pixels).
 Rect Work_Area_Around(Point point);
 
-/// Returns the work area, in pixels, of the monitor that shows most of `place` or is nearest to it (screen
-/// pixels).
+/// Returns the work area, in pixels, of the monitor that shows most of `place` (screen pixels), else of the
+/// monitor nearest to it.
 Rect Work_Area_Of(const Rect &place);
 
 /// Returns whether the user has turned on high contrast.

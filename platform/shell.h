@@ -18,7 +18,7 @@ using Shell_Window = std::uintptr_t;
 Shell_Window Find_Desktop_Window();
 
 /// The desktop's icon view with its list of icons. Its holder is the desktop window or a window that covers
-/// it.
+/// the desktop window.
 struct Icon_View {
     Shell_Window holder;
     Shell_Window view;
@@ -39,9 +39,9 @@ struct Label_Colours {
 /// answer takes longer than `patience` milliseconds. Does not wait if the system considers the shell hung.
 std::optional<Label_Colours> Icon_Label_Colours(Shell_Window list, unsigned patience);
 
-/// Makes the form's window a child of the view's holder, above its other children, at the form's place on
-/// the screen. Then looks up the dots per inch again. Returns false if the form has no native window or the
-/// holder is gone, and leaves the window where it is.
+/// Makes the form's window the topmost child of the view's holder, at the form's place on the screen. Then
+/// looks up the dots per inch again. If the form has no native window or the holder is gone, leaves the
+/// window where it is and returns false.
 bool Attach_To_Desktop(const Form_Model &model, Shell_Window holder);
 
 /// Keeps a form in the view's holder visible: raises its window above the view, and gives it a surface of

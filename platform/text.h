@@ -6,9 +6,9 @@
 
 namespace platform {
 
-/// Converts bytes in the ANSI code page, as older programs wrote them, to UTF-8. The code page is the
-/// default of the system's locale, whatever the user's regional settings or the process use. It is 1252
-/// (Western) if that locale has none or uses UTF-8.
+/// Converts bytes in the ANSI code page, as older programs wrote them, to UTF-8. The code page depends on the
+/// system's locale, not on the user's regional settings or the process. It is 1252 (Western) if that locale
+/// has no valid code page or uses UTF-8.
 std::string Ansi_To_Utf8(std::string_view bytes);
 
 } // namespace platform

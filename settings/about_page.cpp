@@ -7,7 +7,7 @@ using namespace layout;
 
 namespace {
 
-/// A placeholder for the address of the author's page: a name that is reserved for examples.
+/// A placeholder for the address of the author's page. Its domain is reserved for examples.
 constexpr const char *web_page = "https://vellatro.example/";
 
 /// Readable on light and on dark backgrounds, unlike the link colour of some systems.
@@ -15,7 +15,7 @@ constexpr Colour link_colour = Rgb(0x00, 0x66, 0xCC);
 constexpr Colour contrast_link = System_Colour(26);
 constexpr platform::Font name_font{200, true};
 constexpr int logo_width = 48 * 15;
-constexpr int link_margin = 3 * 15; ///< room for the keyboard's mark
+constexpr int link_margin = 3 * 15; ///< room for the mark of the keyboard focus
 
 } // namespace
 
@@ -61,7 +61,7 @@ void About_Page::Lay_Out() {
     rows.Add(Name_Lbl);
     rows.Add(Version_Lbl, 2 * margin);
     rows.Add(Designed_Lbl, margin);
-    // Only a little wider than its text, so that a click beside the text does nothing.
+    // Make the link only a little wider than its text, so that a click beside the text does nothing.
     const int width = platform::Text_Width(web_page, Link_Lbl.Font()) + 2 * link_margin;
     Link_Lbl.Move({(page_width - width) / 2, rows.Top(), width, Designed_Lbl.Height() + small_gap});
 }

@@ -65,8 +65,8 @@ void Colours_Page::Lay_Out_Palette() {
     Rows values{margin, values_top, width - 2 * margin};
     for (int i = 0; i < value_rows; ++i) {
         values.Add_Pair(txCol_Lbl[i], value_label_width, txCol[i], small_gap);
-        // At any DPI, a field draws its text a fixed number of pixels below its top edge. So the field gets
-        // the height of its text.
+        // Fit the height of the field to its text, because at any DPI a field draws its text a fixed number
+        // of pixels below its top edge.
         Rect place = txCol[i].Bounds();
         const int text_height = platform::Line_Height(txCol[i].Font()) + Pixels_To_Twips(around_text);
         const int spare = std::max(0, place.height - text_height);
@@ -94,8 +94,7 @@ void Colours_Page::Lay_Out_Preview() {
     const int height = Pixels_To_Twips(square.Box(0).height);
     Preview_Fra.Move({0, top, page_width, group_top + height + 2 * backdrop + group_margin});
 
-    // The title, today's box and a thin box are placed as in the calendar. The square box is at the right
-    // edge.
+    // Place the title, today's box and a thin box as in the calendar, and the square box at the right edge.
     const Rect origin = thin.Previous_Arrow();
     const int first_left = margin + backdrop;
     const int first_top = group_top + backdrop;

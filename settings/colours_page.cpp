@@ -37,8 +37,8 @@ Rgb_Parts Parts_Of(Colour colour) {
     return {colour - blue * 65536 - green * 256, green, blue};
 }
 
-/// Returns one channel of the web text. Inconsistent on purpose: a zero pads a single digit, but not a single
-/// letter.
+/// Returns one channel of the web text. The padding is inconsistent on purpose: a zero precedes a single
+/// digit, but not a single letter.
 std::string Web_Part(int part) {
     constexpr const char *digits = "0123456789ABCDEF";
     if (part >= 16)
@@ -120,7 +120,7 @@ void Colours_Page::Wire_Palette() {
         Move_Cross(Pixel_At(at));
         ShowColors(Cross_Colour());
     };
-    // Runs for a mouse click, which has already moved the cross-hair, and for the keyboard.
+    // A mouse click, a key or assistive technology runs this. A click has already moved the cross-hair.
     Pal.On_Click = [this] {
         ShowColors(Cross_Colour());
         Pal_Click();
@@ -192,7 +192,7 @@ void Colours_Page::ShowColors(Colour colour) {
     txCol[0].Set_Text(std::to_string(colour));
     txCol[1].Set_Text(Web_Text(colour));
     txCol[2].Set_Text(Parts_Text(colour, "", ",", ","));
-    // If a colour has two names, the chosen one stays selected.
+    // Keep the chosen name selected if the colour has two names.
     const auto names = Named_Colours();
     const int chosen = Names_Cbo.Selected();
     if (chosen == -1 || names[static_cast<std::size_t>(chosen)].Colour() != colour)
@@ -229,8 +229,8 @@ void Colours_Page::Pal_MouseMove(Mouse_Button held, Point at) {
         Move_Cross(Pixel_At(at));
         ShowGradient(Cross_Colour());
     }
-    // Must not nest: fast mouse moves would process messages without end. A message may destroy the page, so
-    // the code after it uses only its own pointer.
+    // Never nest this, because fast mouse moves would process messages without end. A message may destroy the
+    // page, so use only the local pointer afterwards.
     const std::shared_ptr<bool> processing = processing_;
     if (std::exchange(*processing, true))
         return;
@@ -253,7 +253,7 @@ void Colours_Page::Pal_Click() {
     const std::string &shown = txCol[0].Text();
     Colour colour = 0;
     if (std::from_chars(shown.data(), shown.data() + shown.size(), colour).ec != std::errc{})
-        return; // no colour has been shown yet
+        return; // the page has not shown a colour yet
     Set_Swatch(selector_, colour);
     Recolour_Preview();
 }
@@ -313,7 +313,7 @@ void Colours_Page::Recolour_Preview() {
     Preview_Style1_Lbl.Set_Back_Colour(normal);
     for (Label *box : {&Preview_Today_Lbl, &Preview_Style0_Lbl, &Preview_Style1_Lbl})
         box->Set_Fore_Colour(num);
-    // Each text is a window of its own over its box, and cannot be transparent.
+    // Give each text the colour of its box: the text is a window of its own and cannot be transparent.
     Preview_Caption_Today_Lbl.Set_Back_Colour(today);
     Preview_Caption0_Lbl.Set_Back_Colour(normal);
     Preview_Caption1_Lbl.Set_Back_Colour(normal);
@@ -329,7 +329,7 @@ void Colours_Page::Recolour_Preview() {
 void Colours_Page::Paint_Swatch(int index, platform::Canvas &canvas) {
     const Picture_Box &picture = *swatches_[static_cast<std::size_t>(index)].picture;
     const Rect all{0, 0, picture.Width(), picture.Height()};
-    // Covers half of the swatch if its colour is not in use.
+    // Cover half of the swatch if its colour is not in use.
     if (!picture.Enabled())
         platform::Fill_Polygon(canvas, {{all.width, 0}, {all.width, all.height}, {0, all.height}},
                                face_colour);

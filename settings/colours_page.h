@@ -28,7 +28,7 @@ public:
     /// ShowColors does.
     void ShowGradient(Colour colour);
     void Pal_MouseMove(platform::Mouse_Button held, Point at);
-    /// Gives the colour that ShowColors showed last to the selected swatch.
+    /// Gives the selected swatch the colour that ShowColors showed last.
     void Pal_Click();
     void Col_Sys_Opt_Click();
     void Col_Other_Opt_Click();
@@ -106,6 +106,6 @@ private:
     Picture palette_;
     Point cross_; ///< the pixel of the palette under the cross-hair
     Colour gradient_ = 0;
-    /// Set while a mouse move processes messages. Shared, because the page may be destroyed meanwhile.
+    /// True while a mouse move processes messages. Shared, because a message may destroy the page.
     std::shared_ptr<bool> processing_ = std::make_shared<bool>(false);
 };

@@ -1,5 +1,5 @@
-// The lines of the overview of all events. events_page.h has the list box, core/events.h reads and
-// sorts the events.
+// The lines of the overview of all events. events_page.h has the list box; core/events.h reads and sorts the
+// events.
 #pragma once
 
 #include "core/events.h"
@@ -10,5 +10,5 @@
 /// and other control characters become spaces.
 std::string Overview_Line(const Event &event);
 
-/// Returns the days from today to the event: "12 days", or "-12 days" for a past event.
+/// Returns the number of days from today to the event: "12 days", or "-12 days" for a past event.
 std::string Countdown_Text(const Event &event, const Date &today);

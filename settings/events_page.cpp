@@ -152,7 +152,7 @@ void Events_Page::Sort_List(Read_Result result) {
 }
 
 void Events_Page::Events_Lst_Click() {
-    // Uses the date of the line's event. The date in the line's text may have spaces and a two-digit year.
+    // Use the event's date, because the date in the line's text may have spaces and a two-digit year.
     const int index = Events_Lst.Selected();
     Countdown_Lbl.Set_Caption(
         index == -1 ? std::string() : Countdown_Text(Dates_Lst[static_cast<std::size_t>(index)], Today()));
@@ -171,13 +171,13 @@ void Events_Page::Events_Lst_DblClick() {
     const platform::Box_Answer answer =
         platform::Message_Box("Do you really want to remove the event..\r\n\r\n" + asked,
                               platform::Box_Icon::Question, platform::Box_Buttons::Yes_No_Cancel);
-    // The list may have been filled again while the question was open.
+    // The page may have filled the list again while the question was open.
     const std::vector<std::string> &lines = Events_Lst.Items();
     if (line >= lines.size() || lines[line] != asked)
         line = static_cast<std::size_t>(std::ranges::find(lines, asked) - lines.begin());
     if (answer != platform::Box_Answer::Yes || line == lines.size() || !Remove_Event(line))
         return;
-    // Selects the next line, for a user who continues by keyboard.
+    // Select the next line, so that the user can continue with the keyboard.
     Events_Lst.Select(std::min(static_cast<int>(line), static_cast<int>(lines.size()) - 1));
     Events_Lst_Click();
     // A compact calendar shows no events. It lays out its month when it expands.
@@ -185,8 +185,8 @@ void Events_Page::Events_Lst_DblClick() {
         calendar_.Redraw();
 }
 
-/// Removes one event from the list and from the data file. Returns false, after a message to the user, if
-/// that fails and both still have the event.
+/// Removes one event from the list and from the data file. If that fails and both still have the event, shows
+/// a message and returns false.
 bool Events_Page::Remove_Event(std::size_t line) {
     Event_Store &events = calendar_.Events;
     const Undo_Log::Change change(events.Changes, Change_Name("Remove", Dates_Lst[line].date));

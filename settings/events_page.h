@@ -1,5 +1,5 @@
 // The "Events" page of the settings dialog: an overview of all events, from which the user can remove events,
-// and their statistics. core/events.h reads and sorts the events, event_statistics.h counts them,
+// and their statistics. core/events.h reads and sorts the events, event_statistics.h counts them, and
 // event_overview.h words their lines.
 #pragma once
 
@@ -25,11 +25,11 @@ public:
     /// Lists and counts the events of the data file again.
     void Reload();
 
-    /// Does what Reload does after a change outside the page, but keeps a list of imported events.
+    /// Acts like Reload after a change outside the page, but keeps a list of imported events.
     void Refresh_From_File();
 
-    /// Lists these events in their order. The next click on the overview option or the sort box lists the
-    /// data file again.
+    /// Lists the imported events in their order. The next click on the overview option or the sort box lists
+    /// the events of the data file again.
     void Show_Imported(std::vector<Event> staged);
 
     void Overview_Opt_Click();
@@ -48,7 +48,7 @@ public:
     Frame Overview_Fra{frame_, "Overview_Fra", "Events"};
     Label Sort_Lbl{Overview_Fra, "Sort_Lbl", "Sort &by:"};
     Combo_Box Sort_Cbo{Overview_Fra, "Sort_Cbo"};
-    Label Events_Lst_Lbl{Overview_Fra, "Events_Lst_Lbl"}; ///< labels the list
+    Label Events_Lst_Lbl{Overview_Fra, "Events_Lst_Lbl"}; ///< says how to add or remove an event
     List_Box Events_Lst{Overview_Fra, "Events_Lst"};
     Label Countdown_Name_Lbl{Overview_Fra, "Countdown_Name_Lbl", "Countdown:"};
     Label Countdown_Lbl{Overview_Fra, "Countdown_Lbl"};
@@ -76,5 +76,5 @@ private:
 
     Main_Frm &calendar_;
     Event_Statistics statistics_;
-    bool showing_imported_ = false; ///< the list shows imported events instead of the data file
+    bool showing_imported_ = false; ///< the list shows imported events instead of those in the data file
 };

@@ -11,9 +11,9 @@ public:
     void Lay_Out() override;
 
     /// Ticks the start-up box if the system has a start-up entry, even an empty one. Saving an unticked box
-    /// leaves an empty entry, so the box is ticked again when the dialog next opens.
+    /// leaves an empty entry, so the dialog ticks the box again when it next opens.
     void Get_Startup_Value();
-    /// Shows the calendar's title as it would look now.
+    /// Shows the calendar's title as it would look now with the choices on the page.
     void Show_Preview();
     /// Updates the preview, and makes it follow the time from now on if the page is `visible`.
     void Set_Page_Visible(bool visible);

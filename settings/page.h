@@ -1,5 +1,5 @@
 // The base class of the settings dialog's pages, and the includes, colours, example boxes and procedures that
-// they share.
+// the pages share.
 #pragma once
 
 #include "calendar/main_frm.h"
@@ -15,8 +15,8 @@ namespace layout {
 
 constexpr int page_width = 5280;
 constexpr int page_height = 5400;
-constexpr int group_gap = 5 * 15; ///< between group boxes, which include space at their top
-constexpr int inner_width = page_width - 2 * margin; ///< for a group box as wide as the page
+constexpr int group_gap = 5 * 15; ///< between group boxes, in addition to the space at the top of each
+constexpr int inner_width = page_width - 2 * margin; ///< of a group box as wide as the page
 
 constexpr int backdrop = 6 * 15; ///< width of the desktop's margin around example boxes
 
@@ -29,7 +29,7 @@ constexpr Colour shadow_colour = System_Colour(16);
 constexpr Colour grey_text_colour = System_Colour(17);
 constexpr Colour text_colour = System_Colour(18);
 
-/// A page of the dialog. Its controls are created in its frame, in tab order.
+/// A page of the dialog. It creates its controls in its frame, in tab order.
 class Page {
 public:
     Page(const Page &) = delete;
@@ -37,7 +37,8 @@ public:
 
     /// Shows the settings in the controls.
     virtual void Show(const Settings &settings);
-    /// Writes the choices into the settings. A combo box without a selection leaves its setting unchanged.
+    /// Writes the choices into the settings. A combo box that holds a number leaves its setting unchanged
+    /// while it has no selection.
     virtual void Write_To(Settings &settings) const;
     /// Places the controls, also after a change of the DPI.
     virtual void Lay_Out() = 0;
@@ -58,7 +59,7 @@ protected:
     Form &dialog_;
 };
 
-/// Each returns empty rows: as wide as a page, or for the inside of a group box on a page.
+/// Returns empty rows: Page_Rows for a page, Group_Rows for the inside of a group box on a page.
 inline Rows Page_Rows() {
     return {0, 0, layout::page_width};
 }
@@ -73,5 +74,5 @@ void Set_Access_Name(Control &control, const char *name);
 /// `from` (pixels) would be at `left` and `top` (twips).
 Rect Translate_Rect(Rect pixels, const Rect &from, int left, int top);
 
-/// Sets the look of a box and of its text, and places them with the box at `left` and `top` (twips).
+/// Sets the look of an example box and its text. Places both, the box at `left` and `top` (twips).
 void Place_Example(const Box_Layout &style, Label &number, Label &text, int left, int top);

@@ -10,7 +10,7 @@ namespace {
 constexpr int full = 255;
 constexpr int grey_part = 12; ///< the column of greys is one twelfth of the palette's width
 
-/// Returns one channel of a shade. A `brightness` of 0 means black, 255 `pure` and 510 white.
+/// Returns one channel of a shade. A `brightness` of 0 gives black, 255 gives `pure`, and 510 gives white.
 int Shade(int pure, int brightness) {
     return brightness <= full ? pure * brightness / full
                               : full - (full - pure) * (2 * full - brightness) / full;

@@ -1,5 +1,5 @@
-// Saves the choices on the pages: changes Cur_Settings, the store and the calendar. Writes only choices that
-// have changed, except for a few keys that it always writes.
+// Saves the choices on the pages in Cur_Settings and the store, and updates the calendar. Writes only
+// choices that have changed, except for a few that it always writes.
 #include "core/settings.h"
 #include "platform/files.h"
 #include "platform/registry.h"
@@ -10,8 +10,8 @@ namespace {
 
 enum class When { Always, Changed };
 
-/// Copies a shown setting into Cur_Settings and stores it, unless it is unchanged and `when` is Changed.
-/// Returns whether it did.
+/// Copies a shown setting into Cur_Settings and stores it, unless the setting is unchanged and `when` is
+/// Changed. Returns whether it stored the setting.
 bool Save(const Settings &shown, Setting_Member member, When when = When::Changed) {
     if (when == When::Changed && !Differ(shown, Cur_Settings, member))
         return false;
@@ -54,11 +54,11 @@ void Settings_Frm::Save_General_Settings(const Settings &shown) {
         calendar_.Compact_Timer.Set_Enabled(Cur_Settings.Auto_Compact == 1);
     const Settings before = Cur_Settings;
     const bool other_tooltips = Save(shown, &Settings::Tooltips);
-    // An unticked box empties the value, but does not delete it.
+    // If the box is not ticked, empty the value instead of deleting it.
     const std::string program = platform::Program_Folder() + "\\" + platform::Program_Name() + ".exe";
     platform::Registry_Write("HKLM", "Software\\Microsoft\\Windows\\CurrentVersion\\Run", "Vellatro", 'S',
                              General.Startup_Chk.Checked() ? program : std::string());
-    // Comes last, because Follow may alert the user of an event.
+    // Call Follow last, because it may alert the user to an event.
     if (other_tooltips)
         calendar_.Follow(before, true);
 }
@@ -74,11 +74,11 @@ void Settings_Frm::Save_Theme(const Settings &shown) {
         Save(shown, member);
     Save(shown, &Settings::Pack_Name);
     Save(shown, &Settings::Style, When::Always);
-    // Run_Guarded reports an unreadable pack; the rest is still saved. Turning themes off keeps the last
-    // wallpaper, because the one before the themes is unknown.
+    // Run_Guarded reports an error in the pack and lets the code below save the rest. Turning themes off
+    // keeps the last wallpaper, because the program does not know the one from before the themes.
     if (Cur_Settings.Use_Themes == 1)
         Run_Guarded([this] { calendar_.Get_Wallpaper_Stuff(Cur_Settings.Pack_Name); });
-    // A missing pack has turned themes off.
+    // If the pack is missing, Get_Wallpaper_Stuff has turned themes off.
     if (Cur_Settings.Use_Themes == 0 && Wallpaper.Theme_Use_Chk.Checked())
         Wallpaper.Get_Themes();
     if (Cur_Settings.Use_Themes != 1 || Cur_Settings.Use_Theme_Pos != 1)

@@ -16,7 +16,7 @@ using platform::Canvas;
 
 namespace {
 
-constexpr int fifth_row = 28; ///< index of its first box; the lowest row, if there is no sixth
+constexpr int fifth_row = 28; ///< index of the row's first box; the lowest row if there is no sixth
 constexpr int sixth_row = 35;
 
 } // namespace
@@ -121,12 +121,12 @@ void Screen_Miniature::Paint_Calendar(Canvas &canvas, Size size) const {
         pixels.top += calendar_.top;
         return Scaled_Rect(pixels, size);
     };
-    // Draws the title and the headers as one bar: the gap between them is less than a pixel.
+    // Draw the title and the headers as one bar, because the gap between them is less than a pixel.
     const Rect headers = layout.Header(0);
     platform::Fill_Rect(canvas, place({0, 0, layout.Full_Size().width, headers.Bottom()}),
                         main_frm_->Back_Colour());
-    // At this scale, some gaps between boxes would vanish. Each box has a line at its right and lower edges
-    // instead.
+    // At this scale, some gaps between boxes would vanish. Draw a line at the right and lower edges of each
+    // box instead.
     for (int i = first_box_; i <= last_box_; ++i) {
         Rect box = layout.Box(i);
         box.width += layout.Gap();

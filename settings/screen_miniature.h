@@ -1,5 +1,5 @@
-// A small picture of the whole screen, with the calendar where it will be. The user chooses the position on
-// it.
+// A small picture of the whole screen, with the calendar at its new position. The user chooses the position
+// in this picture.
 #pragma once
 
 #include "base/geometry.h"
@@ -13,14 +13,14 @@ class Main_Frm;
 /// The contents of the miniature. Rectangles on the screen are in pixels, those on the miniature in twips.
 class Screen_Miniature {
 public:
-    /// Uses the screen's size, the work area and the calendar's month as they are now.
+    /// Reads the current screen size, work area and calendar month.
     explicit Screen_Miniature(const Main_Frm &calendar);
 
     /// Returns the largest size within `room` (twips) that has the screen's proportions.
     Size Fit(Size room) const;
 
-    /// Places the calendar for a style and a position code. An invalid code leaves the calendar where it is
-    /// on the screen.
+    /// Places the calendar according to a style and a position code. If the code is invalid, places the
+    /// calendar where it is on the screen.
     void Place_Calendar(std::int16_t style, std::int16_t position);
 
     /// Returns the middle of the mark for a fixed place (desktop/position.h) on a miniature of `size`.
@@ -30,8 +30,8 @@ public:
     /// considers only marks in that direction.
     std::int16_t Nearest_Place(Point to, Size size, Point step = {}) const;
 
-    /// Draws a miniature of `size`: `wallpaper` stretched over the screen, or the desktop's colour if
-    /// `wallpaper` is empty, with the task bar and the calendar.
+    /// Draws a miniature of `size`: the calendar and the task bar on the stretched `wallpaper`, or on the
+    /// desktop's colour if `wallpaper` is empty.
     void Paint(platform::Canvas &canvas, const Picture &wallpaper, Size size) const;
 
 private:

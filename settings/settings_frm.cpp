@@ -17,7 +17,7 @@ constexpr Rect tabs{105, 75, 5520, 6195};
 constexpr int below_tabs = 420; ///< room for the buttons
 constexpr int page_left = 225;
 constexpr int page_top = 765;
-constexpr int window_frame = 8 * 15; ///< on each side of the dialog, estimated
+constexpr int window_frame = 8 * 15; ///< estimated width of the frame on each side
 
 } // namespace
 
@@ -82,7 +82,7 @@ void Settings_Frm::Open() {
 }
 
 void Settings_Frm::Load_Pages() {
-    // A step that fails is reported and does not stop the others.
+    // Guard each step by itself: Run_Guarded reports a failure, and the other steps still run.
     const std::initializer_list<Handler<>> steps = {
         [this] { Events.Write_Month_Titles(); },
         [this] { Load_Settings(); },
@@ -104,8 +104,8 @@ void Settings_Frm::Load_Pages() {
         Run_Guarded(step);
 }
 
-/// Blocks the calendar and the editor, or unblocks them if `modal` is null. If an event could change there,
-/// the list and the counts on the pages would be out of date.
+/// Blocks the calendar and the editor, or unblocks them if `modal` is null. If the user changed an event
+/// there, the list and the counts on the pages would be out of date.
 void Settings_Frm::Block_Others(Form *modal) {
     calendar_.Set_Blocked_By(modal);
     if (calendar_.Block_Editor)
@@ -123,7 +123,7 @@ void Settings_Frm::Position_Frames() {
 }
 
 void Settings_Frm::Select_Stored_Tab() {
-    // An invalid number selects the first tab. Only another program can have stored one.
+    // An invalid number, which only another program can have stored, selects the first tab.
     const int tab = Cur_Settings.Settings_Tab;
     TabStrip1.Select(tab >= 1 && tab <= page_count ? tab - 1 : 0);
     TabStrip1_Click();
@@ -159,8 +159,7 @@ void Settings_Frm::Cancel_Btn_Click() {
 }
 
 void Settings_Frm::Apply_Btn_Click() {
-    // A running preview would undo this change at its end, because it restores the theme's values from
-    // before.
+    // A preview that ended later would undo these changes, because it restores the theme's earlier values.
     Wallpaper.End_Preview();
     const Settings shown = Shown_Configuration();
     for (const auto save :
@@ -185,8 +184,8 @@ void Settings_Frm::Form_Unload() {
     calendar_.Resume_Auto_Compact();
 }
 
-/// Places the dialog to the right of the calendar, or to its left if there is more room. The platform keeps
-/// the window on the screen.
+/// Places the dialog to the right of the calendar, or to its left if there is more room on that side. The
+/// platform keeps the window on the screen.
 void Settings_Frm::Place_Beside_Calendar() {
     const Rect area = Pixels_To_Twips(platform::Work_Area_Around(
         {Twips_To_Pixels(calendar_.Left() + calendar_.Width() / 2), Twips_To_Pixels(calendar_.Top())}));

@@ -19,9 +19,9 @@
 #include <array>
 #include <cstdint>
 
-/// The dialog blocks the calendar and the editor while it is open. Each object is opened only once, so that
-/// no state survives into the next opening. After the dialog has closed, the object must live until its last
-/// event has returned (Busy).
+/// The dialog blocks the calendar and the editor while it is open. Each opening needs a new object, so that
+/// no state survives from an earlier opening. After the dialog has closed, the owner must keep the object
+/// until Busy returns false.
 class Settings_Frm : public Form {
     Main_Frm &calendar_; // declared first: the pages need it
 
@@ -59,8 +59,8 @@ public:
     void Cancel_Btn_Click();
     void Apply_Btn_Click();
 
-    // Each stores some of the shown choices and updates the calendar. If the store refuses a value, the user
-    // gets no message, and the value lasts until the program ends.
+    // Each of these stores some of the shown choices and updates the calendar. If the store refuses a
+    // value, the user gets no message, and the value lasts until the program ends.
     void Save_Colours(const Settings &shown);
     void Save_General_Settings(const Settings &shown);
     void Save_Other_DM(const Settings &shown);
@@ -95,6 +95,6 @@ private:
 
     const std::array<Page *, page_count> pages_{&Events,   &Colours,   &General,  &Style,
                                                 &Tooltips, &Wallpaper, &Transfer, &About};
-    int events_ = 0; ///< events that have not returned yet
+    int events_ = 0; ///< number of events that have not returned yet
     bool open_ = false;
 };

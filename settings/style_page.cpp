@@ -60,7 +60,7 @@ void Style_Page::Wire_Examples() {
 }
 
 void Style_Page::Show(const Settings &settings) {
-    // The calendar shows every number but 0 as the square box.
+    // The calendar uses the square box for every number except 0.
     (settings.Style == 0 ? Style1_Opt : Style2_Opt).Set_Checked(true);
     (settings.Alignment == Manual_Position ? Pos_Manual_Opt : Pos_Set_Opt).Set_Checked(true);
     set_position_ = Is_Place(settings.Alignment) ? settings.Alignment : std::int16_t{0};
@@ -165,7 +165,7 @@ void Style_Page::Paint_Miniature(platform::Canvas &canvas) {
     for (std::int16_t place = 0; Is_Position(place); ++place) {
         const bool marked = place == Shown_Position();
         if (!Is_Place(place) || (theme_.decides_position && !marked))
-            continue; // cannot be chosen now
+            continue; // the user cannot choose this place
         const Point middle = miniature.Mark(place, size);
         const int side = marked ? marker_size + 4 * one_pixel : marker_size;
         const Rect marker{Snap(middle.x - side / 2), Snap(middle.y - side / 2), side, side};

@@ -33,10 +33,10 @@ public:
     /// Returns the code of the chosen place.
     std::int16_t Get_Set_Position() const { return set_position_; }
 
-    // These update the previews after a choice.
+    // These functions update the previews after a choice.
     void Style_Preview();
     void Preview_Position();
-    /// Shows the name of the chosen place. Preview_Position marks it on the miniature.
+    /// Shows the name of the position. Preview_Position marks the place on the miniature.
     void Position_Boxes();
 
     Frame Style_Fra{frame_, "Style_Fra", "Box Style"};
@@ -45,14 +45,14 @@ public:
     // The desktop behind the examples. A click on any part of an example chooses its option.
     Picture_Box Backdrop1_Pic{Style_Fra, "Backdrop1_Pic"};
     Picture_Box Backdrop2_Pic{Style_Fra, "Backdrop2_Pic"};
-    Label Example1_Lbl{Style_Fra, "Example1_Lbl", " 12"};   ///< a box with its number in style 0
+    Label Example1_Lbl{Style_Fra, "Example1_Lbl", " 12"};   ///< a numbered box in style 0
     Label Example2_Lbl{Style_Fra, "Example2_Lbl", "Event"}; ///< the event in that box
-    Label Example3_Lbl{Style_Fra, "Example3_Lbl", " 12"};   ///< a box with its number in style 1
+    Label Example3_Lbl{Style_Fra, "Example3_Lbl", " 12"};   ///< a numbered box in style 1
     Label Example4_Lbl{Style_Fra, "Example4_Lbl", "Event"};
     Label Style_Theme_Lbl{Style_Fra, "Style_Theme_Lbl", theme_hint}; ///< explains why the styles are disabled
     Frame Position_Fra{frame_, "Position_Fra", "Position"};
     Option_Button Pos_Set_Opt{Position_Fra, "Pos_Set_Opt", "&Set position"};
-    Label Pos_Hint_Lbl{Position_Fra, "Pos_Hint_Lbl"}; ///< how to choose a place, or theme_hint
+    Label Pos_Hint_Lbl{Position_Fra, "Pos_Hint_Lbl"}; ///< explains how to choose a place, or shows theme_hint
     Option_Button Pos_Manual_Opt{Position_Fra, "Pos_Manual_Opt", "&Manual position"};
     Label Manual_Lbl{Position_Fra, "Manual_Lbl"};                 ///< the coordinates of the manual position
     Picture_Box Pos_Preview_Img{Position_Fra, "Pos_Preview_Img"}; ///< the miniature

@@ -1,4 +1,4 @@
-// The names of display modes and box styles on the pages.
+// The names that the pages show for display modes and box styles.
 #pragma once
 
 #include <cstdint>

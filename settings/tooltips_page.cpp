@@ -13,7 +13,7 @@ namespace {
 constexpr int balloons = 2;
 constexpr const char *example = "This is an example.";
 
-// The page's offset in twips from the dialog's corner, with the dialog's frame and title bar.
+// The page's offset in twips from the dialog's corner, including the dialog's frame and title bar.
 constexpr int example_left = 315;
 constexpr int example_top = 1050;
 

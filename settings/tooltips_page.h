@@ -14,8 +14,8 @@ public:
 
     /// Gives the example of today's box the current day and colours.
     void Style_Examples();
-    /// Removes an example balloon, or cancels the wait for it. Called when the mouse button is released, and
-    /// when the dialog loses the mouse capture or closes.
+    /// Removes the example balloon, or cancels the wait for it. Call this when the user releases the mouse
+    /// button, and when the dialog loses the mouse capture or closes.
     void Release() { balloon_.Hide(); }
 
     Control_Array<Option_Button, 3> Tips_Opt{frame_, "Tips_Opt"};

@@ -98,7 +98,7 @@ void Transfer_Page::Lay_Out() {
     const int height = std::max(explanation_lines * line, button_height);
     const auto add = [height, line](Rows &rows, Button &button, Label &label) {
         rows.Add_Pair(button, wide_button, label, small_gap, height);
-        // If the text fits on one line, centres it beside the button.
+        // If the text fits on one line, centre it beside the button.
         if (Rect place = label.Bounds(); platform::Text_Width(label.Caption(), label.Font()) <= place.width) {
             place.top += (height - line) / 2;
             place.height = line;

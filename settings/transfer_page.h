@@ -1,4 +1,4 @@
-// The "Import\Export" page of the settings dialog. transfer/ does the work of its buttons.
+// The "Import\Export" page of the settings dialog. The code in transfer/ does the work of its buttons.
 #pragma once
 
 #include "base/callback.h"
@@ -13,7 +13,7 @@ public:
     void Lay_Out() override;
 
     /// Returns the configuration that the dialog shows, including changes that are not applied yet. The
-    /// dialog sets this, and the callbacks of `Import`.
+    /// dialog sets this callback and most of those in `Import`.
     Callback<Settings()> Shown_Configuration;
 
     void Export_Btn_Click(int index); ///< the number of an Export_Kind

@@ -31,7 +31,7 @@ std::string Picture_File(const std::string &pack, int month) {
     return Pack_File(pack, std::to_string(month) + ".jpg");
 }
 
-/// Returns a space and the name of a number, or only the space if the text is not a number.
+/// Returns a space and the name for `number`, or only the space if there is no such name.
 std::string Display_Name(const char *(*name)(std::int16_t), const std::string &number) {
     return std::string(" ") + name(Parse_Int16(number).value_or(-1));
 }
@@ -68,7 +68,7 @@ void Wallpaper_Page::Wire_Events() {
     Preview_Btn.On_Click = [this] { Preview_Btn_Click(); };
     preview_.On_End = [this](bool pack_failed) { Preview_Ended(pack_failed); };
     Load_Timer.On_Timer = [this] { Load_Pictures(); };
-    // Loads the picture only once it is visible, so that the dialog opens faster on another page.
+    // Load the picture only once it is visible, so that the dialog opens faster on another page.
     Theme_Preview_Img.On_Paint = [this](platform::Canvas &canvas) {
         Paint_Failure(canvas);
         if (shown_.pending)
@@ -114,7 +114,7 @@ void Wallpaper_Page::Show(const Settings &settings) {
 
 void Wallpaper_Page::Write_To(Settings &settings) const {
     Page::Write_To(settings);
-    // If nothing is selected, the settings keep their pack, which may be missing only for now.
+    // If nothing is selected, the settings keep their pack, which may be missing only temporarily.
     if (!Packs_Cbo.Text().empty())
         settings.Pack_Name = Packs_Cbo.Text();
 }
@@ -159,7 +159,7 @@ void Wallpaper_Page::Clear_Details() {
 }
 
 void Wallpaper_Page::Packs_Cbo_Click() {
-    Forget_Pictures(); // they load again, even for the same pack
+    Forget_Pictures(); // so that the pictures load again, even for the same pack
     Clear_Details();
     Check_Vaild();
     Preview_Sli.Set_Value(Today().month);
@@ -174,7 +174,8 @@ void Wallpaper_Page::Check_Vaild() {
     if (complete)
         return;
     platform::Message_Box("Error Loading Theme.", platform::Box_Icon::Stop);
-    // The refused pack must not stay selected, even if the pack of the settings is missing.
+    // Deselect a refused pack first, because Select_Stored_Pack keeps the selection if the stored pack is
+    // missing.
     if (!Same_Pack(pack, Cur_Settings.Pack_Name))
         Packs_Cbo.Select(-1);
     Select_Stored_Pack();
@@ -198,7 +199,7 @@ void Wallpaper_Page::Preview_Sli_Change() {
         Clear_Details();
         return Update_Style_Page();
     }
-    // Reads the details once for all three labels, so that a deleted pack is reported once.
+    // Read the details once for all three labels, so that a deleted pack causes only one message.
     details_ = Main_Frm::Get_Paper_Details(Month(), pack);
     const std::int16_t today = Today().month;
     todays_details_ =
@@ -225,13 +226,12 @@ void Wallpaper_Page::Get_Theme_Pos() {
     Theme_Pos_Lbl.Set_Caption("Position:" + Display_Name(name, Get_Paper_Pos(details_)));
 }
 
-/// Updates the page after a message that the pack cannot be read. If the pack was deleted, it leaves the
-/// list.
+/// Updates the page after a message that the pack cannot be read. Removes a deleted pack from the list.
 void Wallpaper_Page::Drop_Pack(const std::string &pack) {
     Get_Papers();
     if (!Same_Pack(pack, Cur_Settings.Pack_Name))
         Select_Stored_Pack();
-    // A missing pack has turned themes off.
+    // If the pack is missing, Get_Paper_Details has turned themes off.
     if (Cur_Settings.Use_Themes == 0)
         Theme_Use_Chk.Set_Checked(false);
     Enable_Choices(Theme_Use_Chk.Checked());
@@ -280,8 +280,8 @@ void Wallpaper_Page::Paint_Failure(platform::Canvas &canvas) const {
     }
 }
 
-/// Loads a pending picture, or copies it if the other one is the same. If that fails, leaves the picture
-/// empty and sets `failure`.
+/// Loads a pending picture, or copies the other one if both have the same path. If the picture cannot be
+/// loaded, leaves it empty and sets `failure`.
 void Wallpaper_Page::Load(Month_Picture &wanted) const {
     wanted.pending = false;
     for (const Month_Picture *other : {&shown_, &todays_}) {
@@ -295,7 +295,7 @@ void Wallpaper_Page::Load(Month_Picture &wanted) const {
         wanted.picture = Thumbnail(platform::Load_Picture(wanted.path), box.width, box.height);
     } catch (const platform::Picture_Error &error) {
         wanted.picture = {};
-        // The frame is small, and all packs are in the program's folder, so the reason omits that folder.
+        // Omit the program's folder from the reason: the frame is small, and all packs are in that folder.
         std::string reason = error.what();
         if (const std::string folder = platform::Program_Folder() + "\\"; reason.starts_with(folder))
             reason.erase(0, folder.size());
@@ -308,7 +308,7 @@ void Wallpaper_Page::Load_Pictures() {
     const bool seen = dialog_.Visible() && platform::Is_Shown(dialog_.Model(), Theme_Preview_Img.State());
     if (shown_.pending && seen)
         Load(shown_);
-    // A failure of today's picture is not shown now. The page shows it when its slider is on that month.
+    // Do not show a failure of today's picture now. The page shows it when the slider is on that month.
     if (todays_.pending && Theme_Use_Chk.Checked())
         Load(todays_);
     Show_Picture();
@@ -368,7 +368,7 @@ void Wallpaper_Page::Other_Display_Chk_Click() {
 void Wallpaper_Page::Preview_Btn_Click() {
     if (Packs_Cbo.Text().empty())
         return;
-    // A disabled control that had the focus would keep it, and Esc would not reach the dialog.
+    // A disabled control would keep the focus, and Esc would not reach the dialog.
     dialog_.Set_Focus(Theme_Style_Chk);
     Enable_Choices(false);
     Preview_Lbl.Set_Visible(true);

@@ -1,5 +1,6 @@
-// The "Wallpaper" page of the settings dialog: the choice of a theme pack, its pictures, and the parts of it
-// that the calendar uses. wallpaper_preview.h shows it on the desktop, saving.cpp stores the choices.
+// The "Wallpaper" page of the settings dialog: the choice of a theme pack, the pack's pictures, and the
+// parts of the pack that the calendar uses. wallpaper_preview.h shows the pack on the desktop, and
+// saving.cpp stores the choices.
 #pragma once
 
 #include "calendar/main_frm.h"
@@ -24,14 +25,14 @@ public:
 
     /// Lists the packs that exist now.
     void Get_Papers();
-    /// Sets the theme box from the settings, and enables the controls that depend on it.
+    /// Sets the theme box from the settings, and enables or disables the controls that depend on it.
     void Get_Themes();
     /// Selects the pack of the settings, or none if it is missing, and shows its picture for this month.
     void Get_Wallpaper();
 
     /// Ends a running preview and restores everything. Returns whether a preview was running.
     bool End_Preview();
-    /// Returns the look that the selected pack gives the calendar this month, as far as the choices use it.
+    /// Returns the parts of the selected pack's look for this month that the choices use.
     Theme_Look Current_Look() const;
 
     void Packs_Cbo_Click();
@@ -40,9 +41,9 @@ public:
     void Check_Vaild();
     void Preview_Sli_Change();
     void Preview_Sli_Scroll();
-    /// Requests two pictures: the one of the slider's month loads when this page is visible, the one of
-    /// today's month when the style page's miniature screen needs it. If the first one cannot be loaded, its
-    /// frame shows the reason.
+    /// Requests two pictures. The one for the slider's month loads when this page is visible, and the one
+    /// for today's month when the style page needs it for the miniature screen. If the first one cannot be
+    /// loaded, its frame shows the reason.
     void Get_Theme_Picture();
     void Get_Theme_Display();
     void Get_Theme_Style();
@@ -79,7 +80,7 @@ private:
     void Enable_Choices(bool enabled);
     void Show_Month_Name();
     void Clear_Details();
-    /// A pack's picture of a month, reduced to the size of its frame. Loads only when it is needed.
+    /// A pack's picture for a month, reduced to the frame's size. It loads only when the page needs it.
     struct Month_Picture {
         std::string path; ///< empty: no picture
         bool pending = false;
@@ -97,8 +98,8 @@ private:
     void Update_Style_Page();
 
     Style_Page &style_page_;
-    std::string details_;        ///< the value text of the selected pack and month
-    std::string todays_details_; ///< the selected pack's value text of today's month
+    std::string details_;        ///< the selected pack's value text for the slider's month
+    std::string todays_details_; ///< the selected pack's value text for today's month
     Month_Picture shown_;
     Month_Picture todays_;
     Timer Load_Timer{1}; ///< fires once, after the screen has been painted

@@ -23,7 +23,7 @@ void Delete_Other_Bitmaps(const std::string &path, const std::string &pack) {
 }
 
 void Restore_Desktop(User_Wallpaper wallpaper, const std::string &pack) {
-    // The path stays empty if the bitmap has been deleted and cannot be made again.
+    // Leave the path empty if the bitmap has been deleted and cannot be made again.
     Run_Guarded([&] {
         const std::string path = std::exchange(wallpaper.path, std::string());
         Delete_Other_Bitmaps(path, pack);
@@ -61,7 +61,7 @@ void Wallpaper_Preview::Show_Month() {
     Month_Timer.Set_Enabled(false);
     try {
         calendar_.Which_Month_Lbl.Set_Caption("Preview Mode - " + platform::Month_Name(month_));
-        // Checks the pack here first, so that a missing pack is reported once and not for every month.
+        // Check the pack here first, so that an unreadable pack causes one message, not one for every month.
         pack_failed_ = Main_Frm::Get_Paper_Details(month_, pack_) == Theme_Error;
         if (pack_failed_)
             return End();
@@ -91,7 +91,7 @@ void Wallpaper_Preview::End() noexcept {
     calendar_.Shown_Settings = &Cur_Settings;
     calendar_.Theme_BoxStyle = before.theme_style;
     calendar_.Theme_Pos = before.theme_position;
-    // Guards each step by itself: a failure is reported and does not stop the other steps.
+    // Guard each step by itself: Run_Guarded reports a failure, and the other steps still run.
     Run_Guarded([&] { Restore_Desktop(before.wallpaper, pack_); });
     Run_Guarded([&] {
         if (Cur_Settings.Use_Themes == 1)
@@ -99,7 +99,7 @@ void Wallpaper_Preview::End() noexcept {
     });
     Run_Guarded([&] { calendar_.Follow(Cur_Settings); });
     Run_Guarded([&] { calendar_.Which_Month_Lbl.Set_Caption(before.caption); });
-    // Waits until the wallpaper is set, and only then discards the stored copy. The program may be about to
+    // Wait until the wallpaper is set, and only then discard the stored copy. The program may be about to
     // end, and the next preview reads the current wallpaper.
     if (platform::Wait_For_Wallpaper())
         Save_User_Wallpaper({}, {});

@@ -1,4 +1,5 @@
-// The preview of a theme pack, which shows all its months on the desktop. wallpaper_page.h has its controls.
+// The preview of a theme pack: it shows all the pack's months on the desktop. wallpaper_page.h has the
+// controls of the preview.
 #pragma once
 
 #include "calendar/main_frm.h"
@@ -10,8 +11,8 @@
 #include <optional>
 #include <string>
 
-/// Shows each month for 3 seconds, then restores the wallpaper and the calendar from before. Between the
-/// months, the program runs as usual.
+/// Shows each month for 3 seconds, then restores the earlier wallpaper and calendar. Between the months,
+/// the program runs as usual.
 class Wallpaper_Preview {
 public:
     /// `calendar` must outlive the preview.
@@ -23,22 +24,20 @@ public:
 
     bool Running() const { return before_.has_value(); }
     /// Begins with January. Until the preview ends, the calendar uses the style, the position and the theme
-    /// options of `choices`. Throws the errors of Main_Frm::Preview_Wallpaper_Stuff for the first month; the
-    /// preview has then ended.
+    /// options of `choices`. If showing January fails, ends the preview and throws the errors of
+    /// Main_Frm::Preview_Wallpaper_Stuff.
     void Begin(const std::string &pack, const Settings &choices);
     /// Restores the settings, the wallpaper and the calendar at once. Does nothing if no preview is running.
     void End() noexcept;
 
-    /// If the program was killed during a preview, restores the wallpaper from before it, unless themes are
-    /// in use.
+    /// Restores the earlier wallpaper if the program was killed during a preview, unless themes are in use.
     static void Recover();
 
-    /// Called when the preview has ended and everything is restored. `pack_failed`: the pack could not be
-    /// read.
+    /// The preview has ended and has restored everything. The argument: whether the pack could not be read.
     Handler<bool> On_End;
 
 private:
-    /// The values from before the preview, which its end restores.
+    /// The values from before the preview, which End restores.
     struct Before {
         std::string caption;
         std::optional<std::int16_t> theme_style;
@@ -49,7 +48,7 @@ private:
     void Next_Month();
 
     Main_Frm &calendar_;
-    Settings choices_; ///< the settings that the calendar shows meanwhile
+    Settings choices_; ///< the settings that the calendar uses during the preview
     std::string pack_;
     std::int16_t month_ = 0;
     bool pack_failed_ = false;

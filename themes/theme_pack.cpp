@@ -17,12 +17,12 @@ namespace {
 constexpr const char *settings_file = "settings.ini";
 constexpr std::string_view bitmap_extension = ".bmp";
 
-/// Returns whether Windows treats the name as a device, which it does in every folder and with any extension.
+/// Returns whether Windows treats the name as a device. It does so in every folder and with any extension.
 bool Is_Device(std::string_view name) {
     std::string base = To_Upper(name.substr(0, name.find('.')));
     base.erase(base.find_last_not_of(' ') + 1);
     if (base.starts_with("COM") || base.starts_with("LPT")) {
-        // Windows also counts the superscript digits 1 to 3.
+        // Windows also accepts the superscript digits 1 to 3.
         constexpr std::array<std::string_view, 13> numbers{
             "0", "1", "2", "3", "4", "5", "6", "7", "8", "9", "\xC2\xB9", "\xC2\xB2", "\xC2\xB3"};
         return std::find(numbers.begin(), numbers.end(), std::string_view(base).substr(3)) != numbers.end();
@@ -136,7 +136,7 @@ void Delete_Old_Bmps(const std::string &pack) {
         try {
             platform::Delete_File(Pack_File(pack, name));
         } catch (const platform::File_Error &) {
-            // Another program holds the file. A later call deletes it.
+            // Another program has the file open. A later call deletes it.
         }
     }
 }

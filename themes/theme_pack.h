@@ -1,6 +1,6 @@
-// Theme packs: folders beside the program, each with one picture per month and a settings.ini that gives the
-// box style, the position and the display mode for each month. This file looks them up and makes the bitmap
-// that a wallpaper needs. It does not set the wallpaper.
+// Theme packs: folders beside the program, each with one picture per month and a settings.ini that gives
+// the box style, the position and the display mode for each month. The functions here read packs and make
+// the bitmap that a wallpaper needs. They do not set the wallpaper.
 #pragma once
 
 #include <cstdint>
@@ -16,7 +16,7 @@ inline constexpr const char *Theme_Error = "ERROR";
 /// folder.
 bool Is_Pack_Name(std::string_view name);
 
-/// Returns whether two names mean the same pack. Folder names ignore case.
+/// Returns whether two names mean the same pack. Ignores case, as Windows does in folder names.
 bool Same_Pack(std::string_view a, std::string_view b);
 
 /// Returns the names of the folders beside the program that hold a settings.ini, in alphabetical order.
@@ -30,15 +30,16 @@ std::string Pack_File(const std::string &pack, const std::string &name);
 /// Sequential_Error if the bytes are malformed.
 std::string Month_Details(std::string_view bytes, std::int16_t month);
 
-/// Why a pack has no value texts: its folder is missing, or its settings.ini is missing or cannot be read.
+/// The reason why a pack has no value texts: its folder is missing, or its settings.ini is missing or
+/// cannot be read.
 enum class Pack_Fault { Missing, Unreadable };
 
 /// Returns the value text of a month in a pack, an empty text if the pack has none for the month, or the
 /// fault.
 std::variant<std::string, Pack_Fault> Find_Paper_Details(std::int16_t month, const std::string &pack);
 
-/// Each returns one part of a value text: the text before its first "-", between the first and the second
-/// "-", or after the second. A missing part is empty.
+/// Returns one part of a value text: the box style before the first "-", the position between the first and
+/// the second "-", or the display mode after the second. A missing part is empty.
 std::string Get_Paper_BoxStyle(std::string_view details);
 std::string Get_Paper_Pos(std::string_view details);
 std::string Get_Paper_DisplayMode(std::string_view details);
@@ -49,7 +50,7 @@ std::string Get_Paper_DisplayMode(std::string_view details);
 /// saved.
 std::string Get_Paper_Path(std::int16_t month, const std::string &pack);
 
-/// Returns the sentence that says that a month's wallpaper cannot be shown. The caller appends the reason.
+/// Returns the message for a month's wallpaper that cannot be shown. The caller appends the reason.
 std::string Picture_Error_Text(std::int16_t month);
 
 /// Deletes the bitmaps of a pack. Skips those that cannot be deleted.

@@ -28,7 +28,7 @@ Control::~Control() {
 void Control::Notify_Mirror(Aspect aspect) {
     if (!form_.created_)
         return;
-    // A painted form draws its labels from their state, so a change of a hidden label needs no redraw.
+    // A painted form draws its labels from their state, so a change to a hidden label needs no redraw.
     const bool drawn = aspect == Aspect::Caption || aspect == Aspect::Appearance;
     if (drawn && !state_.visible && form_.model_.kind != platform::Form_Kind::Dialog)
         return;

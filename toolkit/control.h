@@ -1,4 +1,4 @@
-// The controls of forms: plain objects that hold their own state and report changes of it to the form's
+// The controls of forms: plain objects that hold their own state and report its changes to the form's
 // mirror. User actions arrive at the form (toolkit/form.h), which raises the controls' events.
 #pragma once
 
@@ -21,7 +21,7 @@ struct Container {
 };
 
 /// A control: bounds, appearance and events. Bounds are in twips, relative to the form or to the containing
-/// frame. A change by the program raises no event, except a change of a text box's text.
+/// frame. A change by the program raises no event, except a change to a text box's text.
 class Control {
 public:
     /// Adds the control to its form, last in paint and tab order.
@@ -58,7 +58,7 @@ public:
     void Set_Frame_Colour(Colour colour) { Store(state_.frame_colour, colour, Aspect::Appearance); }
     /// Shows or hides the mark of the keyboard focus.
     void Set_Marked(bool marked) { Store(state_.marked, marked, Aspect::Appearance); }
-    /// Shows or hides a hairline inside the edges, which sets the box off against a picture of any colour. A
+    /// Shows or hides a hairline inside the edges. It sets the box off against a picture of any colour. A
     /// frame replaces the hairline, and a focus mark covers it.
     void Set_Hairline(bool hairline) { Store(state_.hairline, hairline, Aspect::Appearance); }
     const platform::Font &Font() const { return state_.font; }
@@ -123,8 +123,8 @@ public:
     void Set_Painted();
 };
 
-/// A push button. The mouse, the keyboard, its access key, Enter for a default button and Esc for a cancel
-/// button raise `On_Click`.
+/// A push button. The mouse, the keyboard and the access key raise `On_Click`. So do Enter for a default
+/// button and Esc for a cancel button.
 class Button : public Control_Of_Kind<platform::Control_Kind::Button> {
 public:
     using Control_Of_Kind::Control_Of_Kind;

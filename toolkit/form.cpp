@@ -23,7 +23,7 @@ Form::Form(Form_Kind kind, const char *name) {
         try {
             Paint(canvas, clip);
         } catch (...) {
-            // A message box would trigger another painting, which would fail again. The next change repaints
+            // A message box would trigger another repaint, which would fail again. The next change repaints
             // the form.
         }
     };
@@ -55,7 +55,7 @@ void Form::Notify_Mirror(Aspect aspect) {
 }
 
 Point Form::Corner() const {
-    // Return the form's own twips if they match the window's pixels, because repeated conversion would let
+    // Return the form's own twips if they match the window's pixels, because repeated conversion would make
     // the position drift.
     const std::optional<Point> pixels = created_ ? platform::Window_Corner(model_) : std::nullopt;
     const Point put = Requested_Position();
@@ -148,8 +148,8 @@ void Form::Set_Pointer(platform::Pointer_Shape shape) {
 }
 
 void Form::Set_Focus(const Control &control) {
-    // Notify the mirror in any case: the user may have moved the focus to another native control, which the
-    // form does not record.
+    // Always notify the mirror: the form does not record when the user moves the focus to another native
+    // control.
     model_.focused = control.State().index;
     Notify_Mirror(Aspect::Focus);
 }

@@ -8,8 +8,8 @@
 #include <string>
 #include <vector>
 
-/// Base class of all windows of the program. The controls of a form are its direct members. Their declaration
-/// order is their paint and tab order.
+/// The base class of all windows of the program. The controls of a form are its direct members. Their
+/// declaration order is their paint and tab order.
 class Form {
 public:
     Form(platform::Form_Kind kind, const char *name);
@@ -19,15 +19,14 @@ public:
 
     const platform::Form_Model &Model() const { return model_; }
 
-    // Position on the screen and size, in twips. The position is current even if another program has moved
-    // the window.
+    // The position on the screen and the size, in twips. The position is current even if another program
+    // has moved the window.
     int Left() const { return Corner().x; }
     int Top() const { return Corner().y; }
     int Width() const { return model_.bounds.width; }
     int Height() const { return model_.bounds.height; }
     void Move(int left, int top);
-    /// Returns the position that Move set last or, for a dialog, the position to which the user moved it
-    /// last.
+    /// Returns the position that Move set last. For a dialog, a move by the user counts as well.
     Point Requested_Position() const { return {model_.bounds.left, model_.bounds.top}; }
     /// Moves the window back to Requested_Position if another program has moved it. After two failed
     /// attempts, leaves the window alone until another program moves it again.
@@ -35,7 +34,7 @@ public:
     void Resize(int width, int height);
 
     bool Visible() const { return model_.visible; }
-    /// Creates the native window, hidden, so that the caller can prepare it before it appears.
+    /// Creates the native window but does not show it, so that the caller can prepare it first.
     void Create();
     /// Shows the form and creates its native window if there is none.
     void Show();
@@ -57,10 +56,10 @@ public:
     void Bring_To_Front();
     /// Returns all controls in paint and tab order.
     const std::vector<Control *> &Controls() const { return controls_; }
-    /// Clips the window to these rectangles (twips on the form), also a window that is created later.
+    /// Clips the current window, or one created later, to these rectangles (twips on the form).
     void Clip(std::vector<Rect> rects);
 
-    /// Clips the window to a polygon (twips on the form), also a window that is created later.
+    /// Clips the current window, or one created later, to a polygon (twips on the form).
     void Shape(std::vector<Point> corners);
 
     /// Handles a user action or a window event. Does the hit testing and the mouse capture, and raises the
@@ -76,7 +75,7 @@ public:
     Handler<const platform::Input_Event &> On_Key_Up;
     /// The user or another program asked the window to close. If empty, the form closes.
     Handler<> On_Close;
-    /// The native window was destroyed, but not by Close.
+    /// Something other than Close destroyed the native window.
     Handler<> On_Window_Lost;
     Handler<bool> On_Focus_Changed; ///< the argument: whether the form has the focus now
     /// The window lost the mouse capture, so the release of the pressed mouse button will not arrive.
@@ -84,7 +83,7 @@ public:
     Handler<> On_Dots_Changed;
 
 protected:
-    /// Paints the part of a painted form in `clip` (twips on the form).
+    /// Paints the part of a painted form that lies in `clip` (twips on the form).
     virtual void Paint(platform::Canvas &canvas, const Rect &clip) const;
 
 private:
@@ -104,8 +103,8 @@ private:
 
     platform::Form_Model model_;
     std::vector<Control *> controls_;
-    Control *captured_ = nullptr; ///< receives the mouse events from button down to up
-    platform::Mouse_Button captured_by_ = platform::Mouse_Button::None; ///< the button whose press began it
+    Control *captured_ = nullptr; ///< receives all mouse events until the button is released
+    platform::Mouse_Button captured_by_ = platform::Mouse_Button::None; ///< the button that began the capture
     /// The last press was the second of a double click, and On_Double_Click handled it.
     bool double_clicked_ = false;
     std::optional<std::vector<Rect>> clip_; ///< nullopt: not clipped

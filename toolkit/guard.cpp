@@ -34,7 +34,7 @@ void Run_Guarded(Callback_Ref<void()> action) noexcept {
         try {
             Show_Error(Failure_Text());
         } catch (...) {
-            // Even the message failed; the program continues without it.
+            // Even the message failed. Continue without it.
         }
     }
 }

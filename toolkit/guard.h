@@ -1,4 +1,4 @@
-// Handlers of last resort: they show an uncaught exception to the user, and the program continues.
+// Handlers of last resort: they show an uncaught exception to the user and let the program continue.
 #pragma once
 
 #include "base/callback.h"
@@ -9,7 +9,7 @@
 void Run_Guarded(Callback_Ref<void()> action) noexcept;
 
 /// A guard for an action that repeats by itself, such as a timer's. Shows a failure once, and again only
-/// after a success or another failure.
+/// after a success or a different failure.
 class Repeated_Guard {
 public:
     void Run(Callback_Ref<void()> action) noexcept;

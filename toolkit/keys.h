@@ -29,7 +29,7 @@ enum Key : int {
     Key_F12 = 123,
 };
 
-/// Returns the direction of an arrow key, with right and down positive, or {0, 0} for another key.
+/// Returns the direction of an arrow key, with right and down positive, or {0, 0} for any other key.
 constexpr Point Arrow_Step(int key) {
     return {(key == Key_Right) - (key == Key_Left), (key == Key_Down) - (key == Key_Up)};
 }

@@ -9,8 +9,8 @@
 #include <string_view>
 #include <vector>
 
-/// A container of other controls, which move with the frame and are hidden and disabled with it. A frame
-/// with a caption is drawn as a group box.
+/// A container for other controls. It moves, hides and disables them with itself. A frame with a caption
+/// looks like a group box.
 class Frame : public Control_Of_Kind<platform::Control_Kind::Frame> {
 public:
     using Control_Of_Kind::Control_Of_Kind;
@@ -22,7 +22,7 @@ class Option_Button : public Control_Of_Kind<platform::Control_Kind::Option_Butt
 public:
     using Control_Of_Kind::Control_Of_Kind;
     bool Checked() const { return state_.checked; }
-    /// Checks or unchecks the button. Checking the button unchecks the others in its frame.
+    /// Checks or unchecks the button. Checking the button unchecks the others in its container.
     void Set_Checked(bool checked);
 
 private:
@@ -30,7 +30,7 @@ private:
     void Uncheck_Others();
 };
 
-/// The common base of combo boxes, list boxes and tab strips: items, one of which may be selected.
+/// The common base of combo boxes, list boxes and tab strips: a list of items with at most one selected.
 class Item_Control : public Control {
 public:
     const std::vector<std::string> &Items() const { return state_.items; }
@@ -46,7 +46,7 @@ protected:
     void Handle_Event(const platform::Input_Event &event) override;
 };
 
-/// A drop-down list. Its text is the selected item's, or any typed text if the combo box is editable.
+/// A drop-down list. Its text is that of the selected item or, in an editable combo box, any typed text.
 class Combo_Box : public Control_Of_Kind<platform::Control_Kind::Combo_Box, Item_Control> {
 public:
     using Control_Of_Kind::Control_Of_Kind;
@@ -56,7 +56,7 @@ public:
     /// Selects the item with this text. If there is no such item, an editable combo box shows the text and
     /// selects no item, and any other combo box stays unchanged.
     void Set_Text(const std::string &text);
-    /// The user typed a text. The choice of an item raises On_Click instead.
+    /// The user typed a text. Choosing an item raises On_Click instead.
     Handler<> On_Change;
 
 private:
@@ -73,13 +73,14 @@ private:
     void Handle_Event(const platform::Input_Event &event) override;
 };
 
-/// Tabs above pages, which the form itself shows and hides. Each change by the user raises `On_Click`.
+/// Tabs above pages. The form itself shows and hides the pages. Each selection by the user raises
+/// `On_Click`.
 class Tab_Strip : public Control_Of_Kind<platform::Control_Kind::Tab_Strip, Item_Control> {
 public:
     using Control_Of_Kind::Control_Of_Kind;
 };
 
-/// A slider for whole numbers, with a tick mark for each number. The first value is the minimum.
+/// A slider for whole numbers, with a tick mark for each number. The initial value is the minimum.
 class Slider : public Control {
 public:
     Slider(Container in, const char *name, int minimum, int maximum);
@@ -102,8 +103,8 @@ public:
     Picture_Box(Container in, const char *name);
     /// Sets the picture. A picture of width 0 removes the old one.
     void Set_Picture(Picture picture);
-    /// Adds the box to the tab order and lets it raise On_Key_Down. The space bar clicks the box. Enter does
-    /// so too if the box has a default action and its On_Key_Down is not replaced. Call this before the
+    /// Adds the box to the tab order and lets it raise On_Key_Down. The space bar clicks the box. So does
+    /// Enter if the box has a default action and nothing replaces its On_Key_Down. Call this before the
     /// native window is created.
     void Set_Tab_Stop();
     /// Gives the box the hand pointer of a link.

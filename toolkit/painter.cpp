@@ -17,7 +17,7 @@ constexpr int frame_thickness = 30;    // twips; two pixels at 96 dots per inch
 constexpr int hairline_thickness = 12; // twips; one pixel, or two from 180 dots per inch on
 
 /// The share of the caption's colour in a hairline, in per cent; the rest is the box's colour. The hairline
-/// of a white box with black numbers has a contrast of 2.1:1 to the box, whatever surrounds the box.
+/// of a white box with black numbers has a contrast of 2.1:1 against the box, whatever surrounds the box.
 constexpr int hairline_share = 30;
 
 /// Returns the colour of a box's hairline.
@@ -113,7 +113,7 @@ void Paint_Control(const Control_State &control, Canvas &canvas, const Rect &cli
         platform::Frame_Rect(canvas, control.bounds, control.frame_colour, frame_thickness);
     else if (control.hairline)
         platform::Frame_Rect(canvas, control.bounds, Hairline_Colour(control), hairline_thickness);
-    // The mark covers a frame, because there is no room for both. It has the caption's colour, which
+    // The mark covers a frame, because there is no room for both. The mark has the caption's colour, which
     // contrasts with the box.
     if (control.marked)
         platform::Frame_Rect(canvas, control.bounds, control.fore_colour, frame_thickness);
@@ -146,7 +146,7 @@ void Paint_Single_Control(const Control_State &control, Canvas &canvas, const Re
         Paint_Control(here, canvas, clip);
         paint_on_top(canvas);
     } catch (...) {
-        // A message box would trigger another painting, which would fail again. The next change repaints the
+        // A message box would trigger another repaint, which would fail again. The next change repaints the
         // control.
     }
 }

@@ -25,8 +25,8 @@ constexpr int button_height = 23 * 15;
 /// Returns the width of the control's caption plus the space that its kind of control needs around it.
 int Usual_Width(const Control &control);
 
-/// A column of rows of controls. A height of 0 means the usual height of the kind of control; for a label,
-/// one line.
+/// A column of rows of controls. A height of 0 means the usual height of that kind of control: one line for a
+/// label.
 class Rows {
 public:
     Rows(int left, int top, int width) : left_(left), top_(top), width_(width) {}
@@ -39,7 +39,7 @@ public:
                   int height = 0);
     /// Places a text below the caption of the preceding check box or option button.
     void Add_Note(Label &note, int distance = layout::gap, int height = 0);
-    /// Places all controls of a frame, each in a row of its own. Labels are placed as notes.
+    /// Places all controls of a frame, each in a row of its own. Places labels as notes.
     void Add_All(const Frame &frame, int distance = layout::small_gap);
 
     /// Return the top of the next row and the bottom of the last one.

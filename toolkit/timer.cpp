@@ -8,7 +8,7 @@ void Timer::Set_Enabled(bool enabled) {
     if (enabled) {
         guard_ = std::make_shared<Repeated_Guard>();
         id_ = platform::Start_Timer(interval_ms_, [this] {
-            // Copy both, because the handler may enable the timer again or destroy its owner.
+            // Copy both, because the handler may enable the timer again or destroy the timer's owner.
             const auto guard = guard_;
             const auto handler = On_Timer;
             if (handler)

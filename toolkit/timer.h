@@ -1,4 +1,4 @@
-// A timer with an interval that can be enabled and disabled.
+// A timer that can be enabled and disabled.
 #pragma once
 
 #include "platform/message_loop.h"
@@ -7,9 +7,9 @@
 
 #include <memory>
 
-/// Calls On_Timer from the message loop every `interval_ms` milliseconds while enabled. Enabling a disabled
-/// timer starts a new interval. If On_Timer fails at every tick in the same way, shows the failure only
-/// once.
+/// Calls On_Timer from the message loop every `interval_ms` milliseconds while it is enabled. Enabling a
+/// disabled timer starts a new interval. If On_Timer fails in the same way at every tick, shows the failure
+/// only once.
 class Timer {
 public:
     explicit Timer(unsigned interval_ms) : interval_ms_(interval_ms) {}

@@ -12,7 +12,7 @@ std::string Configuration_Bytes(const Settings &settings);
 
 /// Copies one item "key=value" into the running settings and the store. Ignores an unknown key. Throws
 /// Conversion_Error if the item has no "=" or its value is not of the setting's type, and
-/// platform::Registry_Error if the store refuses.
+/// platform::Registry_Error if the store refuses it.
 void Import_Config_Line(std::string_view item);
 
 /// Copies all items of a configuration file into the running settings and the store, and stops at the first

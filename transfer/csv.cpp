@@ -1,4 +1,4 @@
-// Every function here makes one pass over its text, whatever its length.
+// Every function here makes a single pass over its text, however long the text is.
 #include "transfer/csv.h"
 
 #include "base/cut_text.h"
@@ -44,7 +44,7 @@ std::size_t Next_Comma(std::string_view text, std::size_t from) {
     return comma;
 }
 
-/// Returns the text of a field without its quotes. "|" stands for a comma inside a field and becomes one.
+/// Returns the text of a field without its quotes, and with a comma in place of each "|".
 std::string Field_Text(std::string_view field) {
     std::string text;
     text.reserve(field.size());
@@ -133,7 +133,7 @@ bool Read_CSV_Line(std::string_view record, const CSV_Columns &columns, Event &e
     for (std::size_t begin = 0; begin < text.size();) {
         std::size_t comma = Next_Comma(text, begin);
         while (text[begin] != '"') {
-            // An unquoted field counts as a column, but its text is ignored.
+            // Count an unquoted field as a column, but ignore its text.
             begin = comma + 1;
             comma = Next_Comma(text, begin);
             column = Fit_Int16(column + 1);

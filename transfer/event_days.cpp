@@ -1,5 +1,5 @@
-// The conversions between clocks are here. A local time counts as written, whatever its zone. A UTC time is
-// shown by the user's clock, but repeats and compares in UTC.
+// This file also converts between clocks. A local time counts as written, whatever its zone. A UTC time
+// appears in the user's local time, but repeats and compares in UTC.
 #include "transfer/event_days.h"
 
 #include "base/joined.h"
@@ -37,7 +37,8 @@ bool Earlier(const Moment &a, const Moment &b) {
     return Sort_Key(a) < Sort_Key(b);
 }
 
-/// Returns whether `sorted` has a moment of the kind of `least`, between its time and `most`, both included.
+/// Returns whether `sorted` has a moment of the same kind as `least`, from the time of `least` to `most`
+/// inclusive.
 bool Has(const Moments &sorted, const Moment &least, std::int64_t most) {
     const auto found = std::lower_bound(sorted.begin(), sorted.end(), least, Earlier);
     return found != sorted.end() && !Earlier({most, least.timed, least.utc}, *found);
@@ -52,8 +53,7 @@ public:
 private:
     struct Replacements {
         Moments moments;
-        bool has_repeating_event =
-            false; ///< the file also has the repeating event whose repetitions they replace
+        bool has_repeating_event = false; ///< the file also has the event that repeats
     };
 
     std::int64_t Utc_Offset(std::int64_t utc) const;
@@ -122,17 +122,17 @@ std::int64_t Day_Finder::Length() const {
     return std::clamp(length, start_.timed ? 0 : seconds_a_day, most_days * seconds_a_day);
 }
 
-/// Returns another moment of the event in seconds by the clock of the start. A date gets the start's time of
-/// day. A local time stays as it is, also if the start is in UTC.
+/// Returns another moment of the event in seconds by the clock of the start. A date, or any moment if the
+/// start is a date, gets the start's time of day. A local time stays as it is, even if the start is in UTC.
 std::int64_t Day_Finder::In_Clock_Of_Start(const Moment &moment) const {
     if (!moment.timed || !start_.timed)
         return Day_Of(moment.seconds) * seconds_a_day + Second_Of_Day(start_.seconds);
     return moment.utc && !start_.utc ? moment.seconds + Utc_Offset(moment.seconds) : moment.seconds;
 }
 
-/// Returns whether a repetition is one of the moments. A date stands for its whole day. A moment by another
-/// clock than the start's matches a repetition less than half a day away, because the clock changes of its
-/// zone are unknown here.
+/// Returns whether a repetition is one of the moments. A date stands for its whole day. A moment by a clock
+/// other than the start's matches a repetition less than half a day away, because Calendar_File keeps only
+/// one offset for each zone.
 bool Day_Finder::Is_In(const Moments &moments, std::int64_t moment) const {
     if (moments.empty())
         return false;
@@ -224,7 +224,7 @@ void Day_Finder::Find(std::uint32_t index, Event_Days &result) {
     const bool understood = repeats && Find_Repetitions();
     if (repeats && !understood)
         ++result.unsupported;
-    if (yearly_) // may begin before the calendar's first year, such as a birthday without a known year
+    if (yearly_) // the start may precede the calendar's first year, as for a birthday without a known year
         Add_Days(start_.seconds, -all, all, true, result);
     else if (replaces)
         Add_Days(start_.seconds, window_begin_, window_end_, false, result);

@@ -56,7 +56,7 @@ std::string Ask_Name(const Kind_Row &kind, OpenSaveDialog &dialog) {
     }
 }
 
-/// Appends `text` in quotes, then `after`. Doubles each quote in it, as other programs expect. Only a
+/// Appends `text` in quotes, then `after`. Doubles each quote in `text`, as other programs expect. Only a
 /// hand-written record contains quotes, and the import drops them.
 void Append_Field(std::string &bytes, std::string_view text, const char *after) {
     bytes += '"';
@@ -80,8 +80,8 @@ std::string Text_Bytes(const std::vector<Event> &events, Progress &progress) {
 }
 
 /// Sets `bytes` to the content of the new file, and `message` to the closing message without the file's name.
-/// Leaves `bytes` empty for the data file, which is copied. If nothing can be exported, shows a message and
-/// returns false.
+/// Leaves `bytes` empty for the data file, which the caller copies. If the content is missing or incomplete,
+/// shows a message and returns false.
 bool Make_Content(Export_Kind kind, Callback_Ref<Settings()> shown, Progress &progress, std::string &bytes,
                   std::string &message) {
     const std::string to = kinds[static_cast<std::size_t>(kind)].to;

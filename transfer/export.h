@@ -16,8 +16,8 @@ enum class Export_Kind { Data_File, Configuration, Text, CSV, ICalendar };
 /// Returns the bytes of a CSV file with these events, in their order.
 std::string CSV_Bytes(const std::vector<Event> &events, Progress &progress);
 
-/// Asks for a name and writes the file, with all messages to the user. `shown` returns the configuration that
-/// the dialog shows. The target is either replaced completely or left unchanged. Throws platform::File_Error,
-/// and Sequential_Error for a configuration that a file cannot hold.
+/// Asks for a name, writes the file, and shows all messages to the user. `shown` returns the configuration
+/// that the dialog shows. Either replaces the target completely or leaves it unchanged. Throws
+/// platform::File_Error, and Sequential_Error for a configuration that a file cannot hold.
 void Export_File(Export_Kind kind, OpenSaveDialog &dialog, Callback_Ref<Settings()> shown,
                  Progress &progress);

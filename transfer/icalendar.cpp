@@ -28,8 +28,8 @@ std::size_t Find_Unquoted(std::string_view text, std::string_view characters) {
     return text.size();
 }
 
-/// Returns the text in the form that the data file can hold: in one line, and with double quotes and control
-/// characters replaced by apostrophes and blanks.
+/// Returns the text in a form that the data file can hold: on one line, with apostrophes for double quotes
+/// and blanks for control characters.
 std::string In_One_Line(std::string_view text) {
     std::string line = Without_Line_Breaks(std::string(text));
     for (char &c : line)
@@ -45,7 +45,7 @@ struct Text_Parts {
 };
 
 /// Returns the event's summary, or else the first line of its description, followed by its location. Returns
-/// an empty text if the event has neither summary nor description: a location alone does not name it.
+/// an empty text if the event has neither summary nor description: a location alone does not name an event.
 std::string Event_Text(const Text_Parts &parts) {
     const std::string summary = Unescape(parts.summary);
     std::string_view name = Trim(summary);
@@ -73,7 +73,8 @@ void Read_Moments(std::string_view list, std::vector<Moment> &moments) {
     }
 }
 
-/// Sets `text` to `value` if it is still empty, so that the first of several equal properties counts.
+/// Sets `text` to `value` if `text` is still empty, so that the first of several properties of one name
+/// counts.
 void Set_If_Empty(std::string &text, std::string_view value) {
     if (text.empty())
         text = value;
@@ -189,7 +190,7 @@ private:
     bool any_calendar_ = false;
 };
 
-// The functions from here on write files.
+// The rest of this namespace writes files.
 
 /// Appends a line, folded between characters into pieces of at most 75 bytes.
 void Append_Line(std::string &bytes, std::string_view line) {
@@ -223,8 +224,8 @@ std::string Date_Digits(const Date &date) {
     return Joined({Digits(date.year, 4), Digits(date.month, 2), Digits(date.day, 2)});
 }
 
-/// Returns the 64-bit FNV-1a hash of a record in hexadecimal digits. Each export gives the same record the
-/// same number.
+/// Returns the 64-bit FNV-1a hash of a record in hexadecimal digits. A record has the same hash in every
+/// export.
 std::string Record_Id(std::string_view record) {
     std::uint64_t hash = 0xCBF29CE484222325;
     for (const char c : record)

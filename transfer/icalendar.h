@@ -1,5 +1,5 @@
 // Reading and writing the calendar file format of RFC 5545: its lines, properties and components.
-// event_days.h finds the days of an event, and recurrence.h expands its rules. Nothing is stored here.
+// event_days.h finds the days of an event, and recurrence.h expands its rules. The functions store nothing.
 #pragma once
 
 #include "base/error.h"
@@ -15,14 +15,14 @@
 #include <unordered_map>
 #include <vector>
 
-/// Thrown if the bytes are not a calendar, or if the calendar is incomplete or damaged. what() is a text for
-/// the user.
+/// Thrown if the bytes are not a calendar, or if the calendar is incomplete or damaged. what() returns a text
+/// for the user.
 class ICalendar_Error : public Error {
 public:
     using Error::Error;
 };
 
-/// One property, NAME;PARAMETER=value:VALUE. The views are valid until the next line is read.
+/// One property: NAME;PARAMETER=value:VALUE. The views are valid until the next line is read.
 struct Content_Line {
     std::string_view name;
     std::string_view parameters; ///< as written, without the semicolon before the first
@@ -30,9 +30,8 @@ struct Content_Line {
 };
 
 /// Reads the property lines of a file in one pass. CR LF, CR or LF ends a line. A line that begins with a
-/// blank or a tab continues the line before it, possibly in the middle of a character. Lines that are not
-/// properties are skipped, and so is a UTF-8 byte order mark at the start of any line. The bytes must outlive
-/// the object.
+/// blank or a tab continues the line before it, possibly in the middle of a character. Skips lines that are
+/// not properties, and a UTF-8 byte order mark at the start of any line. The bytes must outlive the object.
 class Content_Lines {
 public:
     explicit Content_Lines(std::string_view bytes)
@@ -52,17 +51,17 @@ private:
     std::string joined_;
 };
 
-/// Returns the value of a parameter without its quotes, or an empty view if it is missing.
+/// Returns the value of a parameter without its quotes, or an empty view if the line lacks the parameter.
 std::string_view Parameter(const Content_Line &line, std::string_view name);
 
-/// Returns a text with its escapes resolved: \n is a line break, and \, \; \\ are the characters themselves.
-/// Also resolves \", which some programs write needlessly.
+/// Returns a value as UTF-8 text without escapes: \n becomes a line break, and \, \; \\ become the characters
+/// themselves. Also resolves \", which some programs write needlessly.
 std::string Unescape(std::string_view value);
 
 /// One VEVENT.
 struct Calendar_Event {
     std::string uid;
-    std::string text; ///< to be shown in the calendar, without a time; empty: the event has no name
+    std::string text; ///< what the calendar shows, without a time; empty: the event has no name
     std::optional<Moment> start;
     std::optional<Moment> end;
     std::optional<std::int64_t> duration; ///< in seconds
@@ -78,8 +77,8 @@ struct Calendar_Event {
 /// The contents of a calendar file.
 struct Calendar_File {
     std::vector<Calendar_Event> events; ///< in file order
-    /// The offset of each zone from UTC in seconds. If a zone has several, this is the largest, that of
-    /// summer time.
+    /// The offset of each zone from UTC in seconds. If a zone has several offsets, this is the largest, that
+    /// of summer time.
     std::unordered_map<std::string, std::int64_t> zones;
 };
 

@@ -13,8 +13,8 @@
 
 namespace {
 
-/// Splits a text into the texts it was joined from, at each "+" between blanks. Each piece has single blanks
-/// between its words and apostrophes for double quotes, so that a text compares equal wherever it is in a
+/// Splits a joined text into its pieces, at each "+" between blanks. Each piece has single blanks between its
+/// words and apostrophes for double quotes. The same text therefore compares equal wherever it is in a
 /// record, and however another program has stored its blanks, line breaks and quotes.
 class Pieces {
 public:
@@ -65,7 +65,7 @@ class Day_Texts {
 public:
     /// Adds a text. Returns false if the day has it already.
     bool Add(std::string_view key, std::string_view text) { return Add(key, {}, text); }
-    /// Adds a text to a date. A text of the same day in every year counts as known.
+    /// Adds a text to a date. Counts the texts of the same day in every year as known.
     bool Add(const Date &date, std::string_view text) { return Add(Date_Key(date), Yearly_Key(date), text); }
     void Reserve(std::size_t texts) { known_texts_.reserve(texts); }
 
@@ -80,16 +80,16 @@ private:
         return any_new;
     }
 
-    std::unordered_set<std::string> known_texts_; ///< one record "key=piece" for each piece
+    std::unordered_set<std::string> known_texts_; ///< one entry "key=piece" for each piece
     bool any_yearly_ = false;
 };
 
-/// The events that were merged into yearly records, by day and month.
+/// The events merged into yearly records, by day and month.
 using Yearly_Events = std::unordered_map<std::string, std::vector<Event>>;
 
 /// Keeps all texts of a day visible, although a day shows only its last record. Adds to each record of a
-/// single date the texts that were merged into a yearly record for that date. Moves each new yearly record
-/// (index `first_new` or later) to the front if it would hide such a record.
+/// single date the texts that the import has merged into a yearly record for that date. Moves each new yearly
+/// record (index `first_new` or later) to the front if it would hide such a record.
 void Uncover_Days(std::vector<std::string> &records, std::size_t first_new, const Yearly_Events &in_yearly) {
     std::unordered_set<std::string> of_both_kinds;
     Event_Record parts;

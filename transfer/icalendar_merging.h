@@ -16,6 +16,7 @@ struct Merge_Counts {
     std::size_t unsupported = 0;   ///< on their first day only, because their repetition is not supported
 };
 
-/// Merges each event of a calendar file into the records of its days. Skips days that have its text already.
+/// Merges each event of a calendar file into the records of its days. Skips the days that already have the
+/// event's text.
 Merge_Counts Merge_Calendar(const Calendar_File &file, const Event_Days &days,
                             std::vector<std::string> &records);

@@ -31,9 +31,9 @@ class Backup {
 public:
     explicit Backup(std::vector<std::string> &records)
         : records_(records), before_(records), file_was_there_(Backup_Data()) {}
-    /// Restores the records, and also the data file if the import `may_have_written` it, and deletes the
-    /// copy. If there was no data file before, deletes a new one, but leaves a copy from an earlier import
-    /// alone, because it may be all that the user has.
+    /// Restores the records, and also the data file if the import `may_have_written` it, and deletes
+    /// data.bak. If there was no data file before, deletes a new one, but keeps the data.bak of an earlier
+    /// import, because it may be all that the user has.
     void Restore(bool may_have_written) const {
         records_ = before_;
         if (!file_was_there_) {
@@ -52,8 +52,8 @@ private:
     bool file_was_there_;
 };
 
-/// Returns the key of the first record that cannot be written: a hand-written record with a quote that a text
-/// with a comma has joined. Returns an empty key if there is none.
+/// Returns the key of the first record that the data file cannot hold: a hand-written record with a quote, to
+/// which the import has added a text with a comma. Returns an empty key if there is none.
 std::string First_Unwritable(const std::vector<std::string> &records) {
     Event_Record parts;
     std::string bytes;
@@ -98,7 +98,7 @@ bool Importer::Ask_File(const char *title, const char *filter, bool not_own_file
 
 void Importer::Import_CSV() {
     std::optional<Backup> backup;
-    std::optional<Undo_Log::Change> change; // lasts until the import ends or the file is restored
+    std::optional<Undo_Log::Change> change; // lasts until the import ends or restores the file
     std::vector<Event> staged;
     enum { Asking, Reading, Merging, Listed } stage = Asking;
     try {
@@ -109,8 +109,8 @@ void Importer::Import_CSV() {
         stage = Reading;
         change.emplace(calendar_.Events.Changes, "Import");
         Stage_Events(platform::Read_File(dialog_.FileName), staged);
-        // Back up again: since the first backup, a Windows session about to end may have made the editor save
-        // its text.
+        // Back up again: if the Windows session is about to end, the editor may have saved its text since the
+        // first backup.
         backup.emplace(calendar_.Events.Temp_Lst);
         writes_ = calendar_.Events.Writes();
         stage = Merging;
@@ -125,18 +125,18 @@ void Importer::Import_CSV() {
                                       " events from the CSV file...\r\n\r\n", dialog_.FileName}),
                               platform::Box_Icon::Information);
     } catch (const std::exception &) {
-        // A text saved since the backup stays, and so do the events imported before the error.
+        // Keep a text that the editor has saved since the backup, and with it the events imported before the
+        // error.
         const bool keep_file = stage >= Merging && calendar_.Events.Writes() != writes_;
         try {
-            // If the copy failed, data.bak may be from an earlier import and must not be restored.
+            // Do not restore after a failed backup: data.bak may be from an earlier import.
             if (backup && !keep_file)
                 backup->Restore(stage >= Merging);
-        } catch (const std::exception &) { // data.bak stays for the user
+        } catch (const std::exception &) { // data.bak remains for the user
         }
         change.reset();
         if (stage == Reading || stage == Merging) {
-            // List the events that were read before the error, although the counts are those of the data
-            // file.
+            // List the events read before the error, although the counts are those of the data file.
             if (!keep_file)
                 for (Event &event : staged)
                     event.key.clear(); // marks the event as not in the file
@@ -147,9 +147,9 @@ void Importer::Import_CSV() {
     }
 }
 
-/// Appends the events of a file to `staged`; this is nine tenths of the work. Keeps each event as a date and
-/// a text. A date read back from its line in the list could be another day, if the short date format has a
-/// two-digit year or is one that the system cannot read.
+/// Appends the events of a file to `staged`. This is nine tenths of the work. Keeps each event as a date and
+/// a text: a date read back from a line of the list could be another day if the short date format has a
+/// two-digit year, or if the system cannot read that format.
 void Importer::Stage_Events(const std::string &bytes, std::vector<Event> &staged) {
     CSV_Lines lines(bytes);
     if (!Check_CSV_Headings(lines.Next_Line(), columns_))
@@ -163,9 +163,9 @@ void Importer::Stage_Events(const std::string &bytes, std::vector<Event> &staged
 }
 
 /// Merges the staged events in memory. Writes the data file only when the user could notice a difference:
-/// before windows are painted, and at the end. The file always holds the first events up to some number, even
-/// if the program is killed. While windows are painted, a session that ends may store unsaved text, so the
-/// file is loaded again afterwards.
+/// before painting windows, and at the end. The file always holds the first events up to some number, even if
+/// the program is killed. Loads the file again after painting, because the editor may have stored its text at
+/// the end of a Windows session.
 void Importer::Merge_Imported(std::vector<Event> &staged) {
     std::size_t i = 0;
     do {
@@ -185,8 +185,8 @@ void Importer::Merge_Imported(std::vector<Event> &staged) {
     } while (i < staged.size());
 }
 
-/// Writes the merged records. Throws as Write_Data_File does, and first tells the user which day's record
-/// cannot be written.
+/// Writes the merged records. Throws as Write_Data_File does, but first names the day of a record that the
+/// file cannot hold.
 void Importer::Write_Merged(const std::vector<Event> &staged) const {
     try {
         calendar_.Events.Write_Data_File();
@@ -222,8 +222,8 @@ void Importer::Import_Config() {
                               platform::Box_Icon::Exclamation);
         if (Cur_Settings == before)
             return;
-        // The settings before the error stay. The calendar and the dialog must follow them, or the next OK
-        // would restore the old settings.
+        // Keep the settings imported before the error. Make the calendar and the dialog follow them, or the
+        // next OK would restore the old settings.
         if (!imported)
             Run_Guarded([this] { calendar_.Get_Wallpaper_Stuff(Cur_Settings.Pack_Name); });
         Run_Guarded([&] { calendar_.Follow(before); });
@@ -304,9 +304,9 @@ void Importer::Import_ICalendar() {
     platform::Message_Box(message, platform::Box_Icon::Information);
 }
 
-/// Merges the events of a calendar file as a whole. The data file is written once, at the end, and neither it
-/// nor data.bak is written if no event is new. A failed write leaves the file unchanged, so no restore is
-/// needed. No window is painted between loading and writing, so nothing else can be stored in between.
+/// Merges all events of a calendar file or none. Writes data.bak and the data file once, at the end, and only
+/// if an event is new. A failed write leaves the file unchanged, so no restore is needed. Paints no window
+/// between loading and writing, so the editor cannot store its text in between.
 Merge_Counts Importer::Import_Events(const std::string &bytes) {
     const Calendar_File file = Read_ICalendar(bytes, Import_Progress);
     const Event_Days days = Find_Event_Days(file, Today(), Import_Progress);
@@ -315,7 +315,7 @@ Merge_Counts Importer::Import_Events(const std::string &bytes) {
     std::vector<std::string> before = records;
     try {
         if (!platform::File_Exists(Event_Store::Data_File()))
-            records.clear(); // the records belong to a file that someone has deleted
+            records.clear(); // the file that held the records is gone
         const Merge_Counts counts = Merge_Calendar(file, days, records);
         if (counts.imported > 0) {
             Backup_Data();

@@ -27,15 +27,16 @@ public:
     // The owner must set all of these.
 
     Progress Import_Progress;
-    /// Shows these events in the list of events in place of its contents.
+    /// Replaces the contents of the list of events with these events.
     Callback<void(std::vector<Event>)> Show_Staged_Events;
-    /// Reloads the list of events and their counts, because the data file was replaced.
+    /// Reloads the list of events and their counts after an import into the data file.
     Callback<void()> On_Data_File_Replaced;
     /// Shows the hourglass over the dialog until the work ends.
     Callback<void()> Show_Hourglass;
     /// Closes the dialog, because it no longer shows the current settings.
     Callback<void()> On_Configuration_Changed;
-    /// Shows the current settings in the dialog, which stays open: only a part of them was imported.
+    /// Shows the current settings in the dialog and keeps it open: the import has changed only a part of
+    /// them.
     Callback<void()> On_Configuration_Partly_Changed;
 
     static std::string Backup_File();
@@ -50,6 +51,6 @@ private:
 
     Main_Frm &calendar_;
     OpenSaveDialog &dialog_;
-    CSV_Columns columns_; ///< keeps its values from the previous file
+    CSV_Columns columns_; ///< keeps the values of the previous file
     unsigned writes_ = 0; ///< Event_Store::Writes if only the import has written since its backup
 };

@@ -71,7 +71,7 @@ bool Unmerge(std::vector<std::string> &records, std::vector<Event> &staged, std:
     });
     if (event.key.empty() || record == records.end() || !Remove_Text(*record, event))
         return false;
-    // The texts after the removed one move forward.
+    // Move the texts after the removed one forward.
     for (Event &other : staged)
         if (other.key == event.key && other.place > event.place)
             other.place -= event.text.size() + text_separator.size();

@@ -18,8 +18,8 @@ class Record_Merger {
 public:
     /// `records` must outlive the merger, and nothing else may change it meanwhile.
     explicit Record_Merger(std::vector<std::string> &records);
-    /// Stores the text of the event on its day, which may be one of `every_year`. Sets the event's key and
-    /// place to those of the record that now holds it.
+    /// Adds the event's text to its day, which may be a day of `every_year`. Sets the event's key to that of
+    /// the record, and its place to that of the text in the record.
     void Merge(Event &event);
 
 private:
@@ -27,7 +27,7 @@ private:
     std::unordered_map<std::string, std::size_t> first_; ///< key to index
 };
 
-/// Removes event number `line` of `staged`, which holds merged events in the order of their merging. Also
-/// removes its text from its record, or the whole record if nothing else is in it. Returns false if the text
-/// is no longer in the records; then only the line is removed.
+/// Removes event number `line` from `staged`, which holds merged events in the order of their merging. Also
+/// removes the event's text from its record, or the whole record if it holds nothing else. If the text is no
+/// longer in the records, removes only the event and returns false.
 bool Unmerge(std::vector<std::string> &records, std::vector<Event> &staged, std::size_t line);

@@ -6,7 +6,7 @@ namespace {
 
 constexpr unsigned first_wait = 1000; ///< in milliseconds
 constexpr unsigned next_wait = 500;
-/// Steps between two readings of the clock, because a reading takes longer than a step.
+/// The number of steps between two readings of the clock. A reading takes longer than a step.
 constexpr unsigned steps_per_reading = 64;
 
 } // namespace

@@ -1,11 +1,11 @@
-// The timing of progress reports for a long piece of work. The callbacks display them.
+// The timing of progress reports for a long piece of work. The callbacks display the reports.
 #pragma once
 
 #include "base/callback.h"
 
 #include <cstddef>
 
-/// Reports progress first after one second, then twice a second.
+/// Reports progress after one second, and then twice a second.
 class Progress {
 public:
     Callback<void(int percent)> On_Show; ///< may paint windows, but must not handle other events
@@ -21,7 +21,7 @@ public:
         if (Due())
             Show(done, total);
     }
-    /// Reports the end of the work, after success or failure. Previous reports are not required.
+    /// Reports the end of the work after success or failure, even if there was no report before.
     void End();
 
 private:

@@ -1,5 +1,5 @@
-// A rule is a test of single days. Each of its periods (day, week, month or year) is searched for the days
-// that pass.
+// A rule is a test of single days. The expansion searches each period of the rule (day, week, month or year)
+// for the days that pass.
 #include "transfer/recurrence.h"
 
 #include "base/letters.h"
@@ -10,9 +10,9 @@
 
 namespace {
 
-constexpr std::int64_t longest_count = 36'600; ///< the most days over which a count is followed: a hundred
-                                               ///< years
-constexpr std::size_t longest_list = 1000;     ///< no list has more distinct numbers
+/// The most days over which the expansion follows a count: a hundred years.
+constexpr std::int64_t longest_count = 36'600;
+constexpr std::size_t longest_list = 1000; ///< no list has more distinct numbers
 
 /// Reads the whole text as a number from `least` to `most`, with an optional plus sign. Returns false for any
 /// other text.
@@ -38,7 +38,7 @@ int Read_Weekday(std::string_view name) {
     return static_cast<int>(std::find(std::begin(names), std::end(names), name) - names);
 }
 
-/// Returns the number of the two digits at index `at`, or -1 if the text has none there.
+/// Returns the number that the two digits at index `at` form, or -1 if there are not two digits.
 int Two_Digits(std::string_view text, std::size_t at) {
     int number = -1;
     return at + 2 <= text.size() && text[at] != '+' && Read_Number(text.substr(at, 2), 0, 99, number) ? number
@@ -170,8 +170,8 @@ bool Allows_Week(const Recurrence &rule, std::int32_t day, std::int16_t year) {
     return Allows(numbers, (day - begin) / 7 + 1, (end - begin) / 7);
 }
 
-/// Returns whether a date is one of the rule's weekdays. Their ordinals count within the month, or within the
-/// year for a yearly rule without months. They have no effect in weekly and daily rules.
+/// Returns whether a date is one of the rule's weekdays. Ordinals count within the month, or within the year
+/// for a yearly rule without months. They have no effect in weekly and daily rules.
 bool Allows_Weekday(const Recurrence &rule, const Date &date, int year_day, int year_length) {
     if (rule.weekdays.empty())
         return true;
@@ -335,7 +335,7 @@ std::optional<Recurrence> Read_Recurrence(std::string_view text, const Moment &s
     bool has_frequency = false;
     for (std::string_view rest = capitals; !rest.empty();) {
         std::string_view value = Next_Field(rest, ';');
-        if (value.empty()) // after a final semicolon
+        if (value.empty()) // as after a final semicolon
             continue;
         const std::string_view name = Next_Field(value, '=');
         has_frequency = has_frequency || name == "FREQ";

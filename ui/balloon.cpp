@@ -30,7 +30,7 @@ void Prepare(Label &label, const platform::Font &font) {
     label.Set_Access(std::move(access));
 }
 
-/// Breaks the text into at most `most_lines` lines. If the text does not fit, widens the balloon's `width` up
+/// Returns the text in at most `most_lines` lines. If the text does not fit, widens the balloon's `width` up
 /// to `widest`, and then narrows it to the width that the lines need, but not below its initial value.
 std::vector<std::string> Lines_Of(std::string_view text, int &width, int widest, std::size_t most_lines) {
     const int narrowest = width;
@@ -98,13 +98,13 @@ void frmBalloon::SetBalloon(const std::string &title, std::string_view text, std
 }
 
 void frmBalloon::Paint(platform::Canvas &canvas, const Rect &clip) const {
-    // Fills everything with the border's colour first: the window's edge follows whole pixels, and the pixels
+    // Fill everything with the border's colour first: the window's edge follows whole pixels, and the pixels
     // on the outline are only partly inside the balloon.
     platform::Fill_Rect(canvas, clip, border_colour);
     const std::vector<Point> outline = Balloon_Outline(place_);
     platform::Fill_Polygon(canvas, outline, back_colour);
-    // The border is a strip along each side of the outline, so that it is equally thick along the slanted
-    // tail. It extends one pixel to the outside.
+    // Draw the border as a strip along each side of the outline, so that it is equally thick along the
+    // slanted tail. Each strip extends one pixel outwards.
     const int pixel = Pixels_To_Twips(1);
     const double inside = 1.4 * pixel;
     for (std::size_t i = 0; i < outline.size(); ++i) {

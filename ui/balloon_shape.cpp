@@ -9,7 +9,7 @@ namespace {
 constexpr int radius = 150;
 constexpr int tail_half_width = 120;
 
-// The extent of the mouse pointer's arrow to the right of its tip and below the tip.
+// The extent of the mouse pointer's arrow: to the right of its tip, and below it.
 constexpr int arrow_width = 180;
 constexpr int arrow_height = 300;
 
@@ -73,7 +73,7 @@ Balloon_Place Place_Balloon(Point pointer, const Rect &work, Size size) {
             place.side = side;
     }
     place.tip = Tip_Of(place.side, pointer);
-    // The tail leaves the body a quarter of the way along its side, unless an edge of the work area shifts
+    // The tail leaves the body a quarter of the way along one side, unless an edge of the work area shifts
     // the body.
     Point corner{place.tip.x - size.width / 4, place.tip.y - size.height / 4};
     if (place.side == Balloon_Side::Above)
@@ -99,7 +99,7 @@ Rect Window_Of(const Balloon_Place &place) {
 std::vector<Point> Balloon_Outline(const Balloon_Place &place) {
     const Rect &body = place.body;
     const Point tip = place.tip;
-    // Keeps the foot of the tail off the round corners.
+    // Keep the foot of the tail off the round corners.
     constexpr int clear = radius + tail_half_width;
     const int foot_x =
         std::clamp(tip.x, body.left + clear, std::max(body.Right() - clear, body.left + clear));

@@ -19,15 +19,15 @@ public:
 
 class OpenSaveDialog {
 public:
-    /// `owner` is the form that owns the dialogs; null: none.
+    /// `owner` is the form that owns the dialogs. If it is null, the dialogs have no owner.
     explicit OpenSaveDialog(const platform::Form_Model *owner) : owner_(owner) {}
 
     std::string DialogTitle;
     bool CancelError = false;
     std::string Filter;           ///< pairs of description and pattern, separated by "|"
     std::string InitDir;          ///< the initial folder
-    std::int16_t FilterIndex = 0; ///< selected pair of Filter, from 1
-    std::string DefaultExt;       ///< stored only; the dialogs do not use it
+    std::int16_t FilterIndex = 0; ///< the selected pair of Filter, counted from 1
+    std::string DefaultExt;       ///< the dialogs do not use it
     /// The chosen path; with the flag for several files, the system's unparsed answer. The dialogs always
     /// open with an empty name.
     std::string FileName;
@@ -35,14 +35,14 @@ public:
     std::int16_t MaxFileSize = 260; ///< capacity of FileTitle in characters, with its terminator
     std::int32_t Flags = 0;         ///< the system's option bits, before and after a dialog
 
-    /// Each shows a dialog and stores the result in FileName, FilterIndex and Flags; for a single file, also
-    /// in FileTitle. If there is a Filter, a FilterIndex of 0 becomes 1. If the user cancels, nothing else
-    /// changes, and Dialog_Cancelled is thrown if CancelError is set.
+    /// Show a dialog and store the result in FileName, FilterIndex and Flags, and for a single file also in
+    /// FileTitle. If there is a Filter, change a FilterIndex of 0 to 1. If the user cancels, change nothing
+    /// else, and throw Dialog_Cancelled if CancelError is set.
     void ShowOpen();
     void ShowSave();
 
-    /// Splits FileName into its folder and file names. A single name replaces all three values. Several names
-    /// are appended to `names`, their number is added to `count`, and `folder` changes only if it is empty.
+    /// Splits FileName into its folder and file names. A single name replaces all three values. For several
+    /// names, appends them to `names`, adds their number to `count`, and sets `folder` only if it is empty.
     /// Throws Conversion_Error if `count` does not fit.
     void ParseMultiFileName(std::string &folder, std::vector<std::string> &names, std::int16_t &count) const;
 

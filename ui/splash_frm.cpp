@@ -19,7 +19,7 @@ constexpr Rect leaf_head{300, 240, 960, 300};
 constexpr Rect leaf_page{300, 540, 960, 660};
 constexpr Rect name_place{1500, 180, 3180, 720};
 constexpr Rect line_place{1500, 900, 3180, 300};
-// The places of the name and of the line if the line holds the two first steps. Both start higher up.
+// The places of the name and of the line when the line holds the two first steps: both start higher up.
 constexpr Rect high_name_place{1500, 60, 3180, 720};
 constexpr Rect lines_place{1500, 750, 3180, 510};
 
@@ -75,7 +75,7 @@ void Splash_Frm::Show_Over(const Rect &calendar, int box_36_top, bool new_here) 
     const Date today = Today();
     Weekday_Lbl.Set_Caption(platform::Short_Weekday_Name(Weekday(today)));
     Day_Lbl.Set_Caption(std::to_string(today.day));
-    // Centres the splash horizontally over the calendar. Its top edge is one splash height below the midpoint
+    // Centre the splash horizontally over the calendar. Put its top edge one splash height below the midpoint
     // between the top edges of the calendar and of its last day box.
     Move(calendar.left + (calendar.width - Width()) / 2, calendar.top + box_36_top / 2 + Height());
     Start_Timer.Set_Enabled(true);

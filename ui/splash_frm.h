@@ -7,7 +7,7 @@
 
 #include <string_view>
 
-/// The first steps of a user who has no events yet, one line each.
+/// The first steps for a user without events, one line each.
 inline constexpr std::string_view First_Steps[] = {"Double-click a day to write on it.",
                                                    "Right-click it for settings and exit."};
 
@@ -16,8 +16,8 @@ public:
     Splash_Frm();
 
     /// Shows the window over the calendar, in front of all windows, without taking the focus. It closes by
-    /// itself after 1500 ms. `calendar` is the calendar's place on the screen and `box_36_top` the upper edge
-    /// of its last day box, in twips. If `new_here` is set, shows the first steps.
+    /// itself after 1500 ms. `calendar` is the calendar's place on the screen, and `box_36_top` the top of
+    /// its last day box within the calendar, both in twips. If `new_here` is set, shows the first steps.
     void Show_Over(const Rect &calendar, int box_36_top, bool new_here);
 
     Label Frame_Lbl{*this, "Frame_Lbl"};

@@ -7,10 +7,10 @@
 
 namespace {
 
-/// The maximum number of bytes that are laid out. No screen shows more.
+/// The maximum number of bytes that Wrap_Text lays out. No screen shows more.
 constexpr std::size_t longest_text = std::size_t{16} * 1024;
 
-/// The maximum number of bytes in a line. Without it, a long word would be measured in full again and again.
+/// The maximum number of bytes in a line. Without it, Fits would measure all of a long word repeatedly.
 constexpr std::size_t longest_line = 512;
 
 class Line_Breaker {
@@ -19,7 +19,7 @@ public:
 
     bool Fits(std::string_view line) const { return platform::Text_Width(line, font_) <= width_; }
 
-    /// Returns the length of the longest prefix that fits, in whole characters.
+    /// Returns the length of the longest prefix of whole characters that fits.
     std::size_t Fitting_Length(std::string_view word) const {
         std::size_t least = 0;
         for (std::size_t most = std::min(word.size(), longest_line); least < most;) {

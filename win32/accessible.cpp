@@ -75,7 +75,8 @@ long Role_Of(Access_Role role) {
     case Access_Role::Link:
         return ROLE_SYSTEM_LINK;
     default:
-        // Titles too, because screen readers take the title bar role for the window's own title bar.
+        // A title is plain text, too, because screen readers take the title bar role for the window's own
+        // title bar.
         return ROLE_SYSTEM_STATICTEXT;
     }
 }
@@ -122,7 +123,7 @@ public:
     ULONG STDMETHODCALLTYPE AddRef() override { return ++owners_; }
     ULONG STDMETHODCALLTYPE Release() override;
 
-    // Not implemented, because clients get the type library from oleacc and do not call by name.
+    // No client needs these four: clients get the type library from oleacc and do not call by name.
     HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT *) override { return E_NOTIMPL; }
     HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo **) override { return E_NOTIMPL; }
     HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR *, UINT, LCID, DISPID *) override {
@@ -226,7 +227,7 @@ private:
         return FAILED(target.error) ? target.error : Set_Result(pick(target), out);
     }
 
-    /// Stores in `out` the child number that `pick` returns for the form. Returns S_FALSE if there is none.
+    /// Stores in `out` the child number that `pick` returns for the form, or returns S_FALSE without one.
     template <typename Pick>
     HRESULT Return_Child(VARIANT *out, const Pick &pick) const {
         if (out == nullptr)
@@ -462,7 +463,7 @@ HRESULT Accessible_Form::accDoDefaultAction(VARIANT child) {
         return DISP_E_MEMBERNOTFOUND;
     if (platform::Modal_Box_Is_Open())
         return E_FAIL;
-    // Post the request, because the action may show a dialog, and the caller would wait until that closes.
+    // Post the request. The action may show a dialog, and the caller would wait until the dialog closes.
     const auto index = static_cast<WPARAM>(target.control->index);
     return PostMessageW(window_, Default_Action_Message, index, 0) ? S_OK : E_FAIL;
 }

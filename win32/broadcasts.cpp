@@ -66,7 +66,7 @@ bool Process_Message(UINT message, WPARAM wparam) {
             Process_Broadcast(message, wparam);
         else if (const std::pair arrived(message, wparam);
                  std::ranges::find(deferred_broadcasts, arrived) == deferred_broadcasts.end())
-            deferred_broadcasts.push_back(arrived); // handled at the next tick
+            deferred_broadcasts.push_back(arrived); // the next tick handles it
         return true;
     default:
         return false;

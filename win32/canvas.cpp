@@ -23,7 +23,7 @@ COLORREF To_Colorref(Colour colour) {
 }
 
 void Fill_Pixels(HDC dc, const RECT &rect, COLORREF colour) {
-    // An opaque empty text fills a rectangle without a brush.
+    // Draw an empty text with an opaque background, which needs no brush.
     const COLORREF before = SetBkColor(dc, colour);
     ExtTextOutW(dc, 0, 0, ETO_OPAQUE, &rect, nullptr, 0, nullptr);
     SetBkColor(dc, before);
@@ -132,7 +132,7 @@ void Draw_Text(Canvas &canvas, std::string_view text, const Rect &rect, const Fo
     SelectObject(dc, win32::Find_Font(font).handle);
     SetTextColor(dc, To_Colorref(colour));
     const std::wstring_view part(wide.data(), Whole_Code_Points(wide, longest_call));
-    // If the text is too wide, its beginning is shown.
+    // A text that is too wide shows its beginning.
     const int room =
         align == Text_Align::Left ? 0 : static_cast<int>(pixels.right - pixels.left) - Pixel_Width(dc, part);
     int x = static_cast<int>(pixels.left);

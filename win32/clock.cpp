@@ -29,8 +29,7 @@ Date_Time Local_Time(const Date_Time &utc) {
     const auto word = [](int number) { return static_cast<WORD>(number); };
     const SYSTEMTIME time{word(utc.year), word(utc.month),  word(0),          word(utc.day),
                           word(utc.hour), word(utc.minute), word(utc.second), word(utc.millisecond)};
-    // The rules of time zones change over the years. Systems before Windows Vista SP1 know only the current
-    // rules.
+    // Use the time zone's rules for that year. Systems before Windows Vista SP1 know only the current rules.
     using Zone_Of_Year = BOOL WINAPI(USHORT, void *, TIME_ZONE_INFORMATION *);
     static auto *const zone_of_year =
         win32::Look_Up<Zone_Of_Year>(L"kernel32.dll", "GetTimeZoneInformationForYear");

@@ -1,6 +1,6 @@
-// The desktop's wallpapers as the shell keeps them. The text that describes them has one line per item: first
-// the position, then either the slide show's options, its interval and its folder or pictures, or each
-// monitor with its picture.
+// The desktop's wallpapers as the shell keeps them. The text that describes them has one line per item. The
+// first line is the position. Then come either the slide show's options, its interval and its folder or
+// pictures, or each monitor with its picture.
 
 // The system's headers declare IDesktopWallpaper only for Windows 8 and newer.
 #undef _WIN32_WINNT

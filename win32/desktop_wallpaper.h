@@ -1,5 +1,6 @@
 // Wallpapers on Windows 8 and newer: a picture for each monitor or a slide show, and the way the pictures
-// fill the screen. The registry holds only one path. All functions may be called on any thread.
+// fill the screen. The registry holds only one path; the shell keeps the rest. All functions work on any
+// thread.
 #pragma once
 
 #include <string>
@@ -10,8 +11,7 @@ namespace win32 {
 /// an empty text if the system cannot provide them or a monitor has no picture.
 std::string Get_Monitor_Wallpapers();
 
-/// Sets the wallpapers that Get_Monitor_Wallpapers returned. Stops at the first that cannot be set, and
-/// returns false.
+/// Sets the wallpapers that Get_Monitor_Wallpapers returned. Stops at the first failure and returns false.
 bool Set_Monitor_Wallpapers(const std::string &monitors);
 
 /// Returns `path`, or the path of a new copy if the system would overwrite the file at `path` with the next

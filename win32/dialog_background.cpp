@@ -110,8 +110,8 @@ LRESULT Dialog_Window::Colour_Control(UINT message, HDC dc, HWND window, LRESULT
 void Dialog_Window::Colours_Changed(UINT message, WPARAM wparam, LPARAM lparam) {
     for (Native &native : natives_) {
         native.brush.reset();
-        // The system sends WM_SYSCOLORCHANGE to the dialog alone, but the common controls keep colours too.
-        // WM_THEMECHANGED goes to all windows.
+        // Pass on WM_SYSCOLORCHANGE, because the system sends it to the dialog alone, but the common
+        // controls keep colours, too. WM_THEMECHANGED goes to all windows.
         if (message == WM_SYSCOLORCHANGE && native.window != nullptr && !native.painted)
             SendMessageW(native.window, message, wparam, lparam);
     }

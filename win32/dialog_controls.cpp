@@ -1,4 +1,4 @@
-// The updates of native controls from the state of the form's controls. dialog_make.cpp creates the native
+// Updates native controls from the state of the form's controls. dialog_make.cpp creates the native
 // controls, and dialog_events.cpp handles the user's actions.
 #include "base/scoped_value.h"
 #include "win32/accessible.h"
@@ -101,7 +101,7 @@ void Dialog_Window::Set_Caption(const Control_State &control) {
     if (!shows_text && control.access.name.empty())
         return;
     const std::wstring text = Native_Caption(control);
-    // Setting an equal text would move the caret to the beginning.
+    // Setting the same text again would move the caret to the beginning.
     if (Window_Text(window) == text)
         return;
     const Scoped_Value updating(updating_, true);
@@ -137,7 +137,7 @@ void Dialog_Window::Place_Children(const Control_State &changed, const Rect &bef
             Raise_Over_Painted(changed);
         return;
     }
-    // A frame does not paint its inside, so the dialog repaints the frame's old and new area.
+    // A frame does not paint its inside, so the dialog repaints the frame's old and new areas.
     Rect place = platform::Place_On_Form(*Model(), changed);
     Redraw(place);
     place.left += before.left - changed.bounds.left;
@@ -147,7 +147,7 @@ void Dialog_Window::Place_Children(const Control_State &changed, const Rect &bef
     Redraw(place);
 }
 
-/// Invalidates a part of the dialog with its controls, so that all are painted together later.
+/// Invalidates a part of the dialog and its controls, so that the system later paints all of them together.
 void Dialog_Window::Redraw(const Rect &place) {
     const RECT pixels = To_Pixels(place);
     RedrawWindow(window_, &pixels, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
@@ -178,7 +178,7 @@ void Dialog_Window::Show_Check(const Control_State &control) {
 }
 
 /// Lets the Tab key reach the checked option button of a frame, or the first one if none is checked. The
-/// other buttons are skipped, because an option button becomes checked when it gets the focus.
+/// key skips the other buttons, because an option button becomes checked when it gets the focus.
 void Dialog_Window::Set_Group_Stop(int container) {
     const Control_State *stop = nullptr;
     for (const Control_State *control : Model()->controls) {
@@ -225,8 +225,7 @@ void Dialog_Window::Show_Choice(const Control_State &control) {
     }
 }
 
-/// Moves the focus away from a control that was hidden or disabled, because such a control would keep the
-/// focus and swallow all keys.
+/// Moves the focus away from a hidden or disabled control, which would keep the focus and swallow all keys.
 void Dialog_Window::Release_Focus(const Control_State &changed) {
     HWND focus = GetFocus();
     if (focus == nullptr || !IsChild(window_, focus))
@@ -238,7 +237,7 @@ void Dialog_Window::Release_Focus(const Control_State &changed) {
     if (control == nullptr || !Contains(changed, *control))
         return;
     const Control_State *tabs = Tab_Strip();
-    // If a page was hidden or disabled, move the focus to the tabs.
+    // Move the focus from a hidden or disabled page to the tabs.
     if (changed.kind == Control_Kind::Frame && tabs != nullptr &&
         IsWindowEnabled(Control_Window(tabs->index)))
         SendMessageW(window_, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(Control_Window(tabs->index)), TRUE);

@@ -57,8 +57,8 @@ std::size_t Remaining_Length(HWND edit) {
     return limit > kept ? limit - kept : 0;
 }
 
-/// Replaces the selection with `text`. Appends a long text in pieces, because the time that the system needs
-/// to break a text into lines grows with the square of its length. The user can undo only the last piece.
+/// Replaces the selection with `text`. Appends a long text in pieces, because the system breaks a text into
+/// lines in a time that grows with the square of the text's length. The user can undo only the last piece.
 void Replace_Selection(HWND edit, std::wstring_view text, bool can_undo) {
     const auto length = static_cast<DWORD>(GetWindowTextLengthW(edit));
     const std::size_t most = Selection_Of(edit).end == length ? 2048 : text.size();
@@ -83,7 +83,7 @@ bool Has_Style(HWND edit, DWORD style) {
     return (static_cast<DWORD>(GetWindowLongW(edit, GWL_STYLE)) & style) != 0;
 }
 
-/// Deletes the selection or, without one, the word before the caret with the blanks after the word.
+/// Deletes the selection or, without one, the word before the caret and the blanks after that word.
 void Delete_Word(HWND edit) {
     auto [begin, end] = Selection_Of(edit);
     if (begin == end) {

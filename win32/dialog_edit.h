@@ -12,7 +12,7 @@ namespace win32 {
 /// breaks with spaces.
 void Make_Text_Box(HWND edit);
 
-/// Sets the text of an edit control and puts the caret at its beginning.
+/// Sets the text of an edit control and puts the caret at the beginning.
 void Set_Box_Text(HWND edit, const std::wstring &text);
 
 /// Returns `text` with a space for each line break and each NUL.

@@ -1,4 +1,4 @@
-// The handling of the user's actions on native controls: each is sent to the form as an event.
+// Handles the user's actions on native controls: sends each to the form as an event.
 #include "win32/dialog_edit.h"
 #include "win32/dialog_lists.h"
 #include "win32/dialog_window.h"

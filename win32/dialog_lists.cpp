@@ -126,8 +126,8 @@ void Set_Combo_Heights(HWND combo, int pixels, const Control_State &control) {
     const auto field_height = static_cast<int>(SendMessageW(combo, CB_GETITEMHEIGHT, field, 0));
     const int around = static_cast<int>(now.bottom - now.top) - field_height;
     const int needed = To_Pixels(platform::Line_Height(control.font));
-    // Make the field hardly higher than its text, because some systems draw the text at the top, and centre
-    // the combo box in its place instead.
+    // Some systems draw the text at the top of the field, so make the field hardly higher than its text.
+    // Centre the whole combo box in its place instead.
     const int wanted = std::clamp(pixels - around, needed, needed + To_Pixels(around_text));
     if (around > 0 && wanted != field_height)
         SendMessageW(combo, CB_SETITEMHEIGHT, field, wanted);

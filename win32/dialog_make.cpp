@@ -1,4 +1,4 @@
-// The creation of the native controls of dialogs: their classes, styles and order.
+// Creates the native controls of dialogs: their classes, styles and order.
 #include "base/scoped_value.h"
 #include "win32/dialog_edit.h"
 #include "win32/dialog_template.h"
@@ -110,14 +110,14 @@ void Dialog_Window::Create() {
     Update_Tooltips();
     Update_Bounds();
     EnableWindow(window_, Model()->enabled);
-    // The dialog is created in the calendar's scale, but its screen may have another one.
+    // A new dialog has the calendar's scale, but its screen may have another one.
     if (dots_ == 0 && Dots_Of(window_) != 0 && Dots_Of(window_) != platform::Dots_Per_Inch())
         Handle_Scale_Message(Dots_Of(window_), nullptr);
 }
 
-/// Creates the controls that have no window yet. The controls in a hidden frame are created when the frame
-/// is first shown, so that a dialog with many pages opens with the controls of only one. Returns whether any
-/// controls were created.
+/// Creates the controls that have no window yet. Leaves out the controls in a hidden frame until the frame
+/// appears, so that a dialog with many pages opens with the controls of only one. Returns whether it created
+/// any controls.
 bool Dialog_Window::Make_Missing_Controls() {
     int last_made = -1;
     const Scoped_Value updating(updating_, true);
@@ -215,7 +215,7 @@ void Dialog_Window::Raise_Over_Painted(const Control_State &control) {
         return other != nullptr && other->painted && other->index < control.index &&
                other->container == control.container && other->bounds.Intersects(control.bounds);
     };
-    // Usually there is no such control, so do not enumerate the windows.
+    // Usually nothing covers the control, so do not enumerate the windows.
     if (std::ranges::none_of(Model()->controls, covers))
         return;
     HWND above = nullptr;

@@ -7,9 +7,9 @@
 
 namespace win32 {
 
-/// Creates a hidden dialog window without controls, of the window class `class_name`, which it registers.
-/// Returns null on failure. `procedure` must end in DefDlgProcW, which handles the focus and the default
-/// button.
+/// Registers the window class `class_name` and creates a hidden dialog window of that class, without
+/// controls. Returns null on failure. `procedure` must end in DefDlgProcW, which handles the focus and the
+/// default button.
 HWND Make_Dialog(const std::wstring &class_name, WNDPROC procedure);
 
 } // namespace win32

@@ -53,8 +53,8 @@ LRESULT Dialog_Window::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
         Send(Input_Kind::Close);
         return 0;
     case WM_ACTIVATE: {
-        // Let the system handle the message first, because it returns the focus to the control that had the
-        // focus.
+        // Let the system handle the message first, because the system returns the focus to the control
+        // that had it last.
         const LRESULT result = DefDlgProcW(window_, message, wparam, lparam);
         Input_Event event{};
         event.kind = Input_Kind::Focus_Changed;
@@ -98,8 +98,8 @@ LRESULT Dialog_Window::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
     return DefDlgProcW(window_, message, wparam, lparam);
 }
 
-/// Handles a pointer that is over `part` (HT...) when the mouse sends `mouse_message`. Returns whether the
-/// pointer's shape is set.
+/// Answers WM_SETCURSOR: the pointer is over `part` (HT...), and the mouse sends `mouse_message`. Returns
+/// whether the message needs no further handling.
 bool Dialog_Window::Answer_Pointer(int part, UINT mouse_message) {
     // A disabled window learns of a mouse press only through this message. If a message box is open, the
     // system itself draws attention to the box.
@@ -141,7 +141,7 @@ void Dialog_Window::Update_Bounds() {
                        static_cast<DWORD>(GetWindowLongW(window_, GWL_EXSTYLE)));
     RECT now = {};
     GetWindowRect(window_, &now);
-    // A window that the user has moved stays there until the form sets another place.
+    // A window that the user has moved stays in its place until the form sets another one.
     const POINT corner = moved ? Corner_On_Screen() : POINT{now.left, now.top};
     RECT place = {corner.x, corner.y, corner.x + outer.right - outer.left,
                   corner.y + outer.bottom - outer.top};
@@ -150,7 +150,7 @@ void Dialog_Window::Update_Bounds() {
         place = On_Screen(place);
     SetWindowPos(window_, nullptr, place.left, place.top, place.right - place.left, place.bottom - place.top,
                  SWP_NOZORDER | SWP_NOACTIVATE);
-    // The frame may be larger than AdjustWindowRectEx calculates, if its screen has a scale of its own.
+    // The frame may be larger than AdjustWindowRectEx calculates, if the screen has a scale of its own.
     RECT client = {};
     GetClientRect(window_, &client);
     const LONG wider = To_Pixels(bounds.width) - client.right;

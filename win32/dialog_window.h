@@ -25,7 +25,7 @@ private:
     using Control_State = platform::Control_State;
 
     /// The native side of one control. A frame without a caption has no window, and the controls in a frame
-    /// have none until the frame is first shown.
+    /// have none until the frame first appears.
     struct Native {
         HWND window = nullptr;
         Unique_Brush brush; ///< the brush of the control's own background colour

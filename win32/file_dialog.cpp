@@ -1,4 +1,4 @@
-// File dialogs, by the system's common dialogs.
+// Shows the system's common file dialogs.
 #include "platform/file_dialog.h"
 
 #include "win32/mirror.h"

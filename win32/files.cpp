@@ -1,7 +1,7 @@
-// Whole files. Replaces a file by renaming a new file over it. The new file is in the same folder and has
-// ".vellatro-new" appended to the name. If a killed run leaves a new file behind, the next replacement
-// deletes it. The system renames a file completely or not at all. ReplaceFile would keep the access list,
-// but it is not atomic: between its two steps no file has the name.
+// Replaces a file by renaming a new file over it. The new file's name is the old name with ".vellatro-new"
+// appended. If a killed run leaves a new file behind, the next replacement deletes it. The system renames a
+// file completely or not at all. ReplaceFile would keep the access list, but it is not atomic: between its
+// two steps no file has the name.
 #include "platform/files.h"
 
 #include "base/joined.h"
@@ -21,12 +21,12 @@ namespace {
 constexpr const char *New_File_Suffix = ".vellatro-new";
 constexpr DWORD Share_All = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
 
-/// In bytes (512 MiB). Longer files are refused, because a 32-bit process might not have room for their
-/// bytes twice.
+/// In bytes (512 MiB). Read_To_End refuses a file of this length or more, because a 32-bit process might not
+/// have room for the bytes twice.
 constexpr DWORD Longest_File = 0x20000000;
 constexpr std::size_t Bytes_Per_Write = 0x100000;
 
-/// Virus scanners and indexers hold a file open for a moment after each change, so a failed rename is tried
+/// Virus scanners and indexers hold a file open for a moment after each change, so Rename_Over tries
 /// again for about 0.3 seconds.
 constexpr int Rename_Tries = 10;
 constexpr DWORD Milliseconds_Between_Tries = 30;
@@ -35,7 +35,7 @@ constexpr DWORD Milliseconds_Between_Tries = 30;
     throw File_Error(Joined({path, ": ", win32::System_Error_Text(code)}));
 }
 
-/// Keeps the system from asking the user for a missing disk, for a scope. The system's call fails instead.
+/// Makes system calls on a missing disk fail for a scope, instead of asking the user for the disk.
 class Quiet_Errors {
 public:
     Quiet_Errors() : before_(SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX)) {}
@@ -75,7 +75,7 @@ DWORD Read_To_End(HANDLE file, std::string &bytes) {
     if (low == INVALID_FILE_SIZE && GetLastError() != NO_ERROR)
         return GetLastError();
     std::size_t filled = 0;
-    std::size_t room = low + std::size_t{1}; // one more, so that the loop finds the end without growing
+    std::size_t room = low + std::size_t{1}; // the last byte lets the loop find the end without more room
     for (;;) {
         if (high != 0 || low > Longest_File || room > Longest_File || !Resize(bytes, room))
             return ERROR_NOT_ENOUGH_MEMORY;
@@ -105,7 +105,7 @@ DWORD Write_All(HANDLE file, std::string_view bytes) {
     }
     if (FlushFileBuffers(file))
         return NO_ERROR;
-    // Some shared folders cannot flush. The file is saved nevertheless.
+    // Some shared folders cannot flush. They save the file nevertheless.
     const DWORD code = GetLastError();
     return code == ERROR_INVALID_FUNCTION || code == ERROR_NOT_SUPPORTED ? DWORD{NO_ERROR} : code;
 }
@@ -117,7 +117,7 @@ win32::Unique_File Open_For_Query(const std::wstring &path) {
 }
 
 /// Returns the file's path with all symbolic links resolved. Returns an empty path if there is no file or the
-/// system cannot tell, as before Windows Vista, which has no such links.
+/// system cannot tell. Systems before Windows Vista cannot tell, but have no such links.
 std::wstring Resolve_Links(const std::wstring &path) {
     using Final_Path = DWORD WINAPI(HANDLE, LPWSTR, DWORD, DWORD);
     auto *const final_path = win32::Look_Up<Final_Path>(L"kernel32.dll", "GetFinalPathNameByHandleW");
@@ -134,8 +134,8 @@ std::wstring Resolve_Links(const std::wstring &path) {
     return found;
 }
 
-/// Copies the access list of one file to another. If `from` has no such list, does nothing, so `to` keeps
-/// the list that its folder gives.
+/// Copies the access list of one file to another. If `from` has no such list, does nothing: `to` keeps the
+/// list that it got from its folder.
 void Copy_Access_List(const std::wstring &from, const std::wstring &to) {
     DWORD size = 0;
     GetFileSecurityW(from.c_str(), DACL_SECURITY_INFORMATION, nullptr, 0, &size);

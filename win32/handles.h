@@ -1,4 +1,4 @@
-// Owner types for the system's handles. Each closes its handle when it is destroyed.
+// Owner types for the system's handles. The destructor of each closes the handle.
 #pragma once
 
 #ifndef NOMINMAX

@@ -13,7 +13,7 @@ namespace platform {
 
 namespace {
 
-/// The system calculates and formats dates only from this year on.
+/// The first year with dates that the system can calculate and format.
 constexpr int First_System_Year = 1601;
 
 /// Returns an entry of the user's regional settings or of another locale, empty if there is none.
@@ -33,7 +33,7 @@ constexpr LCID American = MAKELCID(MAKELANGID(LANG_ENGLISH, SUBLANG_ENGLISH_US),
 constexpr LCID British = MAKELCID(MAKELANGID(LANG_ENGLISH, SUBLANG_ENGLISH_UK), SORT_DEFAULT);
 
 /// Returns the user's calendar if it is Gregorian, in any of its language variants. Returns nothing for
-/// another calendar, as many users have in Thailand, the Arab countries or Iran.
+/// another calendar, such as many users in Thailand, the Arab countries and Iran have.
 std::optional<CALID> Gregorian_Calendar() {
     CALID type = 0;
     GetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_ICALENDARTYPE | LOCALE_RETURN_NUMBER,
@@ -47,8 +47,8 @@ std::optional<CALID> Gregorian_Calendar() {
 }
 
 /// Returns the locale for writing and reading dates: the user's, or an English one if the user's calendar is
-/// not Gregorian, because the system would use that calendar's years, months and days. The English locales
-/// are Gregorian on every system. The choice between the two keeps the user's order of day and month.
+/// not Gregorian. The user's locale would then bring that calendar's years, months and days. The English
+/// locales are Gregorian on every system. The choice between them keeps the user's order of day and month.
 LCID Date_Locale() {
     if (Gregorian_Calendar())
         return LOCALE_USER_DEFAULT;
@@ -72,9 +72,9 @@ bool Is_Direction_Mark(wchar_t character) {
 }
 
 /// Returns the user's short date format with the year's digits in place of its letters: "yyyy" becomes
-/// '0950', and "y" or "yy" the last two digits. If the format belongs to `another` calendar, the year always
-/// has four digits, so that it is not mistaken for a year of that calendar, and the era and direction marks
-/// are left out.
+/// '0950', and "y" or "yy" the last two digits. If the format belongs to `another` calendar, leaves out the
+/// era and the direction marks. The year then always has four digits, so that no reader takes it for a year
+/// of that calendar.
 std::wstring Format_With_Year(int year, bool another) {
     const std::wstring format = Locale_Text(LOCALE_SSHORTDATE);
     const std::wstring digits = win32::To_Wide(std::to_string(10000 + year).substr(1));

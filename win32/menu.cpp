@@ -13,8 +13,8 @@ namespace platform {
 
 namespace {
 
-/// Makes the menu show pictures in the check mark column, because no item is ever checked. Removes that
-/// column if the pictures are owner-drawn, because such pictures have a column of their own.
+/// Makes the menu show bitmaps in the check mark column, because no item is ever checked. Removes that column
+/// if the pictures are owner-drawn, because these have a column of their own.
 void Set_Check_Column(HMENU menu) {
     MENUINFO info = {};
     info.cbSize = sizeof info;
@@ -45,9 +45,9 @@ void Append_Item(HMENU menu, const Menu_Item &item, win32::Menu_Images &images) 
     InsertMenuItemW(menu, static_cast<UINT>(GetMenuItemCount(menu)), TRUE, &info);
 }
 
-/// The press of the right button that opens a menu. While this object exists, the release of the button
-/// chooses no item if it comes soon after the press or near it, because a hand moves a little while it
-/// clicks. At most one object exists.
+/// The press of the right button that opens a menu. While this object exists, a release of the button soon
+/// after the press, or near it, completes a click and chooses no item: a hand moves a little during a click.
+/// At most one object exists.
 class Opening_Press {
 public:
     Opening_Press() : place_(GetMessagePos()), time_(GetMessageTime()) {
@@ -108,8 +108,8 @@ int Track_Popup_Menu(const Form_Model &owner, const std::vector<Menu_Item> &item
         place = {win32::To_Pixels(at->x), win32::To_Pixels(at->y)};
         ClientToScreen(window, &place);
     }
-    // If the window were not in the foreground, a click elsewhere would not close the menu. The message
-    // posted after the menu keeps the next menu from closing at once.
+    // If the window were not in the foreground, a click elsewhere would not close the menu. The WM_NULL below
+    // keeps the next menu from closing at once.
     SetForegroundWindow(window);
     std::optional<Opening_Press> press;
     if (at == nullptr)

@@ -16,7 +16,7 @@ namespace {
 using platform::Menu_Image;
 using Corners = std::vector<Smooth_Point>;
 
-/// In pixels at 96 dots per inch: the side of a picture, and the gap between a picture and its text.
+/// The side of a picture, and the gap between a picture and its text, in pixels at 96 dots per inch.
 constexpr int image_size = 16;
 constexpr int gap = 4;
 
@@ -75,8 +75,8 @@ void Draw_Settings(const Field &field) {
         const double radius = outer ? 7.0 : 5.1;
         wheel.push_back({8 + radius * std::cos(angle), 8 + radius * std::sin(angle)});
     }
-    // Continue the outline along a small circle in the other direction. The circle becomes a hole by the
-    // even-odd rule.
+    // Continue the outline along a small circle in the other direction. The even-odd rule makes the circle a
+    // hole.
     constexpr int hole_corners = 24;
     wheel.push_back(wheel.front());
     for (int i = 0; i <= hole_corners; ++i) {
@@ -139,10 +139,10 @@ int Size_In_Pixels(int at_96_dots) {
     return Scale_Nearest(at_96_dots, platform::Dots_Per_Inch(), 96);
 }
 
-constexpr int pale = 96; ///< opacity of a disabled item's picture, of 255
+constexpr int pale = 96; ///< opacity of a disabled item's picture, out of 255
 
-/// Returns the picture as a bitmap with premultiplied alpha, and points `pixels` at its pixels. Returns null
-/// if out of memory.
+/// Returns the picture as a bitmap with premultiplied alpha, and points `pixels` at the bitmap's pixels.
+/// Returns null if out of memory.
 Unique_Bitmap Make_Image(Menu_Image image, Pixel_Buffer &pixels) {
     const int size = Size_In_Pixels(image_size);
     Unique_Bitmap bitmap = Make_Pixel_Bitmap(size, size, pixels);

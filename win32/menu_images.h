@@ -8,10 +8,10 @@
 
 namespace win32 {
 
-/// The pictures of a menu's items. This object must live as long as the menu. Windows Vista and newer get
-/// bitmaps and draw them with their transparency, because owner-drawn pictures would make these systems draw
-/// the whole menu in the old style. Older systems ask the menu's owner, which must be a form's window, to
-/// draw the pictures.
+/// The pictures of a menu's items. This object must live as long as the menu. On Windows Vista and newer, the
+/// pictures are bitmaps with transparency, because owner-drawn pictures would make the system draw the whole
+/// menu in the old style. Older systems ask the menu's owner, which must be a form's window, to draw the
+/// pictures.
 class Menu_Images {
 public:
     /// Gives an item its picture, a paler one if the item is disabled. Does nothing for Menu_Image::None.
@@ -23,8 +23,7 @@ private:
     std::vector<Unique_Bitmap> bitmaps_;
 };
 
-/// Answers WM_MEASUREITEM or WM_DRAWITEM for a menu item's picture. Returns whether `message` was one of
-/// them.
+/// Answers WM_MEASUREITEM or WM_DRAWITEM for a menu item's picture. Returns whether it answered `message`.
 bool Answer_Menu_Image(UINT message, LPARAM lparam);
 
 } // namespace win32

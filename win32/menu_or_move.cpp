@@ -25,7 +25,7 @@ bool In_Menu_Or_Move() {
     if ((state.flags & (GUI_POPUPMENUMODE | GUI_INMOVESIZE)) != 0)
         return true;
     // Look for the menu's window, not for GUI_INMENUMODE: the system also sets this flag when the user
-    // presses Alt alone, and Wine ties it to the mouse capture, which an open menu can lose.
+    // presses Alt alone. Wine ties the flag to the mouse capture, which an open menu can lose.
     bool menu_open = false;
     EnumThreadWindows(GetCurrentThreadId(), Find_Open_Menu, reinterpret_cast<LPARAM>(&menu_open));
     return menu_open;

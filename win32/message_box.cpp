@@ -10,14 +10,14 @@ namespace platform {
 
 namespace {
 
-/// The longest texts, in UTF-16 units, and the most lines. Longer texts fit on no screen, and the system
-/// would push the buttons out of sight.
+/// The limits of the texts, in UTF-16 units and in lines. Longer texts fit on no screen, and the system would
+/// push the buttons out of sight.
 constexpr std::size_t Longest_Text = 1000;
 constexpr std::ptrdiff_t Most_Lines = 30;
 constexpr std::size_t Longest_Title = 200;
 
-/// Returns `text` as the box can show it. A NUL would end the text and becomes a space. An overlong text is
-/// cut and ends with "...".
+/// Returns `text` in a form that the box can show. Replaces NULs by spaces, because a NUL would end the text.
+/// Cuts an overlong text and ends it with "...".
 std::wstring Displayable_Text(std::string_view text, std::size_t longest) {
     std::wstring wide = win32::To_Wide(text);
     std::replace(wide.begin(), wide.end(), L'\0', L' ');
@@ -30,8 +30,8 @@ std::wstring Displayable_Text(std::string_view text, std::size_t longest) {
     return end == wide.size() ? wide : wide.substr(0, Whole_Code_Points(wide, end)) + L"...";
 }
 
-/// Returns the style of a message box. A box from a timer or a broadcast may appear while the user works in
-/// another program. The box cannot take the foreground then, so it stays above all windows instead.
+/// Returns the style of a message box. A box that a timer or a broadcast opens may appear while the user
+/// works in another program. Such a box cannot take the foreground, so it stays above all windows instead.
 UINT Style_Of(Box_Icon icon, Box_Buttons buttons) {
     constexpr UINT icons[] = {0, MB_ICONINFORMATION, MB_ICONQUESTION, MB_ICONEXCLAMATION, MB_ICONSTOP};
     constexpr UINT button_sets[] = {MB_OK, MB_YESNO, MB_YESNOCANCEL};
@@ -46,8 +46,8 @@ HWND Own_Window_Or_Null(HWND window) {
                                                                                                   : nullptr;
 }
 
-/// Returns the dialog that the user is working in, else null. The calendar never owns a box, because the box
-/// would lock the shell's window if the calendar is inside that window.
+/// Returns the dialog that the user is working in, null if there is none. The calendar never owns a box,
+/// because the box would lock the shell's window if the calendar is inside it.
 HWND Active_Dialog() {
     const HWND window = Own_Window_Or_Null(GetActiveWindow());
     if (window == nullptr || (GetWindowLongW(window, GWL_STYLE) & WS_CAPTION) != WS_CAPTION)
@@ -72,8 +72,8 @@ private:
     HWND window_;
 };
 
-/// Returns the answer for the pressed button. If the system has no memory for the box, `id` is 0 and the
-/// answer is the one that changes least.
+/// Returns the answer for the pressed button. Returns the answer that changes least if `id` is 0, because the
+/// program suppressed the box or the system has no memory for it.
 Box_Answer Answer_Of(int id, Box_Buttons buttons) {
     switch (id) {
     case IDYES:

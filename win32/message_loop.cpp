@@ -78,7 +78,7 @@ void Process_Waiting_Messages() {
 
 void Paint_Waiting() {
     MSG message = {};
-    // Limit the number, because a window that fails to paint gets another paint message at once.
+    // Limit the paints, because a window that fails to paint gets another paint message at once.
     constexpr int most_paints = 200;
     for (int i = 0; i < most_paints && PeekMessageW(&message, nullptr, WM_PAINT, WM_PAINT, PM_REMOVE); ++i)
         DispatchMessageW(&message);

@@ -29,15 +29,15 @@ public:
     virtual void Clip(const std::vector<Rect> &) {}
     virtual void Shape(const std::vector<Point> &) {}
     virtual void Bring_To_Front() = 0;
-    /// Sets the dots per inch of a dialog's own screen, 0 for the calendar's, and makes the form lay itself
-    /// out again. Call this also when the system's fonts have changed.
+    /// Sets the window's dots per inch, 0 for the calendar's, and makes the form lay itself out again. Call
+    /// this also after a change of the system's fonts.
     void Apply_Scale(int dots);
     int Dots() const { return dots_; }
-    /// Handles a message from the queue before it is dispatched. Returns whether the message needs no
-    /// further handling.
+    /// Handles a message from the queue before the message loop dispatches it. Returns whether the message
+    /// needs no further handling.
     virtual bool Preprocess_Message(const MSG &) { return false; }
 
-    /// Destroys the window without an event.
+    /// Destroys the window without sending an event to the form.
     void Destroy() noexcept;
     /// Sends a user action to the form. Afterwards the form may be gone.
     void Send(const platform::Input_Event &event) noexcept;
@@ -52,18 +52,19 @@ protected:
     /// others to `usual`.
     static LRESULT Receive(HWND window, UINT message, WPARAM wparam, LPARAM lparam, WNDPROC usual);
     virtual LRESULT Handle(UINT message, WPARAM wparam, LPARAM lparam) = 0;
-    /// Update_Bounds() gives the window the model's position and size. Show_Or_Hide() shows or hides it as
-    /// the model says.
+    /// Gives the window the model's position and size.
     virtual void Update_Bounds() = 0;
+    /// Shows or hides the window as the model says.
     virtual void Show_Or_Hide() = 0;
     /// Handles a change of the dots per inch or of the system's fonts.
     virtual void Scale_Changed() = 0;
     /// Handles a change of an aspect that each kind of window shows in its own way.
     virtual void Own_Aspect_Changed(platform::Aspect aspect) = 0;
-    /// Handles the destruction of the window. Sends Window_Lost to the form, unless Destroy was called.
+    /// Handles the destruction of the window. Sends Window_Lost to the form, unless Destroy() destroyed the
+    /// window.
     virtual void Window_Gone();
     HWND window_ = nullptr;
-    int dots_ = 0; ///< dots per inch of a dialog's own screen, 0: the calendar's
+    int dots_ = 0; ///< dots per inch of a dialog's own screen, 0 for the calendar's
 
 private:
     friend void Report_Lost_Windows();
@@ -83,15 +84,15 @@ const platform::Form_Model *Form_Of_Window(HWND window);
 HWND Window_Of_Form(const platform::Form_Model &model);
 
 /// Sends Window_Lost to each form whose window vanished without a message, as when the process of its parent
-/// window is killed.
+/// window dies.
 void Report_Lost_Windows();
 
-/// The message that makes a dialog apply its own scale, and a painted window check the calendar's. Post it
-/// if that must wait for the message loop.
+/// The message that makes a dialog apply its own scale, or makes a painted window check the calendar's. Post
+/// it if the work must wait for the message loop.
 constexpr UINT Check_Dots_Message = WM_APP + 3;
 
-/// Looks up the dots per inch again, after a change of the screen, the window's parent or the settings. If
-/// they changed or `fonts_changed` is true, makes all forms lay themselves out again.
+/// Looks up the calendar's dots per inch again, after a change of its screen, its parent window or the
+/// settings. Makes all forms lay themselves out again if the dots changed or `fonts_changed` is true.
 void Check_Scale(bool fonts_changed);
 
 } // namespace win32

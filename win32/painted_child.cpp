@@ -34,7 +34,7 @@ LRESULT CALLBACK Painted_Child::Procedure(HWND window, UINT message, WPARAM wpar
     if (child == nullptr || child->owner_->Model() == nullptr)
         return DefWindowProcW(window, message, wparam, lparam);
     try {
-        // A handler may close the dialog.
+        // Keep the dialog alive, because a handler may close it.
         const std::shared_ptr<Mirror> keep = child->owner_->weak_from_this().lock();
         const Scoped_Value scale(Dialog_Dots, keep->Dots());
         return child->Handle(message, wparam, lparam);
@@ -90,8 +90,9 @@ LRESULT Painted_Child::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
     return DefWindowProcW(window_, message, wparam, lparam);
 }
 
-/// Returns the answer to WM_GETDLGCODE: the keys that the control wants. Claims `message` if it is such a
-/// key, because the dialog would otherwise look for the typed character among the access keys, and beep.
+/// Returns the keys that the control wants, as the answer to WM_GETDLGCODE. Also claims `message` if it is
+/// Space, or Enter for a default action. The dialog would otherwise look for the typed character among the
+/// access keys, and beep.
 LRESULT Painted_Child::Dialog_Code(const MSG *message) const {
     const Control_State &control = Control();
     if (!control.tab_stop)

@@ -1,4 +1,4 @@
-// The window of a painted control in a dialog. The control's own code paints and handles the input.
+// The window of a painted control in a dialog. The control's own code paints it and handles its input.
 #pragma once
 
 #include "platform/forms.h"
@@ -9,7 +9,7 @@ namespace win32 {
 
 class Painted_Child {
 public:
-    /// `index` is the control's index in the form of `owner`, which must outlive this object.
+    /// `owner` must outlive this object. `index` is the control's index in the owner's form.
     Painted_Child(Mirror &owner, int index) : owner_(&owner), index_(index) {}
     Painted_Child(const Painted_Child &) = delete;
     Painted_Child &operator=(const Painted_Child &) = delete;

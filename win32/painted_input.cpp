@@ -1,4 +1,4 @@
-// The mouse and the keyboard of painted windows.
+// Mouse and keyboard input of painted windows.
 #include "platform/message_box.h"
 #include "win32/accessible.h"
 #include "win32/painted_window.h"
@@ -15,8 +15,8 @@ bool Is_Key(UINT message) {
            message == WM_SYSKEYUP || message == WM_SYSCHAR;
 }
 
-/// Returns whether the system turns the key into a command, such as volume, media, browser or the start of a
-/// program.
+/// Returns whether `message` reports a key that the system turns into a command: a volume, media, browser or
+/// program key.
 bool Is_Command_Key(UINT message, WPARAM key) {
     return Is_Key(message) && message != WM_SYSCHAR && key >= VK_BROWSER_BACK && key <= VK_LAUNCH_APP2;
 }
@@ -41,9 +41,9 @@ bool Painted_Window::Handle_Input(UINT message, WPARAM wparam, LPARAM lparam, LR
             Send(Input_Kind::Capture_Lost);
         return true;
     case WM_CONTEXTMENU:
-        // A request by the mouse needs no work here, because the form handles the message of the button. A
-        // request without a position comes from the keyboard, so treat it as the menu key. Neither request
-        // may reach a parent in another process.
+        // A request by the mouse needs no work here, because the form handles the button's message. A request
+        // without a position comes from the keyboard, so treat it as the menu key. Neither request may reach
+        // a parent in another process.
         if (LOWORD(lparam) == 0xFFFF && HIWORD(lparam) == 0xFFFF) {
             Input_Event event = Event_Of(Input_Kind::Key_Down);
             event.key = VK_APPS;

@@ -1,5 +1,4 @@
-// The window of a painted form: its creation, place, shape and painting. Mouse and keys are in
-// painted_input.cpp.
+// Creates, places, shapes and paints the window. painted_input.cpp handles the mouse and the keys.
 #include "win32/painted_window.h"
 
 #include "win32/accessible.h"
@@ -51,7 +50,7 @@ void Painted_Window::Create() {
                           GetModuleHandleW(nullptr), nullptr));
     Disable_Input_Method(window_);
     Texts_Changed();
-    // The window may lie on a screen with a scale of its own. Check that once the form is complete.
+    // Check the scale once the form is complete: the window may lie on a screen with a scale of its own.
     PostMessageW(window_, Check_Dots_Message, 0, 0);
 }
 
@@ -209,7 +208,7 @@ void Painted_Window::Clip(const std::vector<Rect> &rects) {
 }
 
 void Painted_Window::Set_Region() {
-    // A minimised window keeps its region until it is restored.
+    // Leave the region of a minimised window alone. Handle() sets it once the window is no longer minimised.
     if (IsIconic(window_))
         return;
     std::vector<RECT> pixels;
@@ -245,7 +244,7 @@ void Painted_Window::Shape(const std::vector<Point> &corners) {
 
 void Painted_Window::Update_Bounds() {
     RECT place = To_Pixels(Model()->bounds);
-    // Map both corners, because a mirrored parent counts from its right edge to the window's right edge.
+    // Map both corners, because a mirrored parent measures from its own right edge to the window's.
     if (!Is_Top_Level(window_))
         MapWindowPoints(nullptr, GetAncestor(window_, GA_PARENT), reinterpret_cast<POINT *>(&place), 2);
     SetWindowPos(window_, nullptr, place.left, place.top, place.right - place.left, place.bottom - place.top,

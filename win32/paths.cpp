@@ -9,12 +9,12 @@ namespace win32 {
 
 namespace {
 
-/// The longest plain path: MAX_PATH less the NUL and the 12 characters of a short file name, for which a
-/// folder must leave room.
+/// The length of the longest plain path: MAX_PATH less the NUL and the 12 characters of a short file name. A
+/// folder's path must leave room for such a name.
 constexpr std::size_t Longest_Plain_Path = 247;
 
-/// Returns whether the path contains ".." or "." as a component. The system takes the long form literally,
-/// so such a component is not allowed there.
+/// Returns whether the path contains ".." or "." as a component. The system takes the long form literally, so
+/// that form must not contain such a component.
 bool Has_Dot_Step(const std::wstring &path) {
     return (path + L'\\').find(L"\\..\\") != std::wstring::npos ||
            (path + L'\\').find(L"\\.\\") != std::wstring::npos;

@@ -1,4 +1,4 @@
-// Paths in the form that system calls take, and the program's own path. Opens no files.
+// Paths in the form that system calls take, and the program's own path. Nothing here opens a file.
 #pragma once
 
 #include <string>

@@ -1,4 +1,4 @@
-// Scaling by averages, because the system's own scaling differs between its versions and drops pixels for
+// Scales by averages, because the system's own scaling differs from version to version and drops pixels for
 // speed.
 #include "win32/picture_scaling.h"
 

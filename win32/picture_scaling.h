@@ -1,4 +1,4 @@
-// Scaling of pictures into a pixel buffer. All lengths are in pixels.
+// Scales pictures into a pixel buffer. All lengths are in pixels.
 #pragma once
 
 #include "base/geometry.h"
@@ -7,8 +7,8 @@
 
 namespace win32 {
 
-/// Fills the rectangle `to` (pixels in the buffer) with the whole picture. Averages pixels to shrink it and
-/// repeats them to enlarge it. Skips pixels outside the buffer.
+/// Fills the buffer's rectangle `to` with the whole picture. Averages pixels to shrink the picture, and
+/// repeats pixels to enlarge it. Skips pixels outside the buffer.
 void Scale_Picture(const Pixel_Buffer &buffer, const Picture &picture, const Rect &to);
 
 } // namespace win32

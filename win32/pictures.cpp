@@ -1,4 +1,4 @@
-// Reading of JPEG pictures with the system's decoder.
+// Reads JPEG pictures with the system's decoder.
 #include "platform/pictures.h"
 
 #include "base/joined.h"
@@ -18,7 +18,7 @@ namespace {
 
 using win32::Unique_Interface;
 
-/// Returns a stream over a copy of the bytes, null if out of memory.
+/// Returns a stream over a copy of the bytes, null on failure.
 Unique_Interface<IStream> Stream_Of(const std::string &bytes) {
     static const auto create =
         win32::Look_Up<HRESULT WINAPI(HGLOBAL, BOOL, IStream **)>(L"ole32.dll", "CreateStreamOnHGlobal");
@@ -47,8 +47,8 @@ Unique_Interface<IPicture> Read_Picture(const std::string &bytes) {
     return Unique_Interface<IPicture>(static_cast<IPicture *>(picture));
 }
 
-/// Returns the bitmap's pixels without padding between the rows. Returns nothing if the bitmap does not have
-/// this size.
+/// Returns the bitmap's pixels without padding between the rows. Returns nothing on failure, or if the bitmap
+/// has another size.
 std::vector<std::uint8_t> Pixels_Of(HBITMAP bitmap, Size size) {
     BITMAP description = {};
     if (GetObjectW(bitmap, sizeof description, &description) == 0 || description.bmWidth != size.width ||

@@ -15,8 +15,8 @@ constexpr wchar_t Restart_Option[] = L"\" /again ";
 
 win32::Unique_Kernel_Handle claim;
 
-/// Returns a folder's path with long names and a separator at its end. The system may have returned the path
-/// with short (8.3) names.
+/// Returns a folder's path with long names and a separator at its end. The system may report folders with
+/// short (8.3) names.
 std::wstring Long_Folder(const std::wstring &folder) {
     wchar_t name[MAX_PATH] = {};
     const DWORD length = GetLongPathNameW(folder.c_str(), name, MAX_PATH);
@@ -32,7 +32,7 @@ bool Claim_Single_Instance(const std::string &name) {
     SetLastError(ERROR_SUCCESS);
     win32::Unique_Kernel_Handle mutex(CreateMutexW(nullptr, FALSE, win32::To_Wide(name).c_str()));
     const DWORD error = GetLastError();
-    // If access is denied, the mutex exists too: the same user created it with other rights.
+    // ERROR_ACCESS_DENIED also means that the mutex exists: the same user created it with other rights.
     if (error == ERROR_ALREADY_EXISTS || (!mutex && error == ERROR_ACCESS_DENIED))
         return false;
     claim = std::move(mutex);
@@ -75,7 +75,7 @@ bool Started_From_Temporary_Folder() {
     const std::wstring program = win32::Program_Path();
     const std::wstring above = Long_Folder(temporary);
     const std::wstring folder = Long_Folder(program.substr(0, program.rfind(L'\\'))).substr(0, above.size());
-    // A whole drive does not count as a folder for temporary files, even if the environment names one.
+    // A whole drive does not count as the folder for temporary files, even if the environment names it.
     constexpr std::size_t drive = 3; // the length of "C:\"
     return above.size() > drive && lstrcmpiW(folder.c_str(), above.c_str()) == 0;
 }

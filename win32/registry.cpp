@@ -1,4 +1,4 @@
-// The registry. Texts are stored as REG_SZ.
+// Reads and writes the registry. Stores texts as REG_SZ.
 #include "platform/registry.h"
 
 #include "base/joined.h"
@@ -32,14 +32,14 @@ LONG Query_Value(HKEY key, const std::wstring &name, Raw_Value &value) {
     return result;
 }
 
-/// Returns the system's text for the error in parentheses, or nothing if the key or value is missing.
+/// Returns the system's text for the error, in parentheses. Returns nothing if the key or value is missing.
 std::optional<std::string> Unreadable_Text(LONG code) {
     if (code == ERROR_FILE_NOT_FOUND)
         return std::nullopt;
     return Joined({"(", win32::System_Error_Text(static_cast<unsigned long>(code)), ")"});
 }
 
-/// Returns the text of stored wide characters, up to the first NUL if there is one.
+/// Returns the stored wide characters as a text, up to the first NUL if there is one.
 std::string Text_Of(const std::vector<BYTE> &data) {
     std::wstring text(data.size() / sizeof(wchar_t), L'\0');
     if (!text.empty())
@@ -47,7 +47,7 @@ std::string Text_Of(const std::vector<BYTE> &data) {
     return win32::From_Wide(text.c_str());
 }
 
-/// Returns the text with its environment variables expanded, or the text itself if the system fails.
+/// Returns the text with its environment variables expanded, or unchanged if the system fails.
 std::string Expand_Variables(const std::string &text) {
     const std::wstring wide = win32::To_Wide(text);
     std::wstring expanded(ExpandEnvironmentStringsW(wide.c_str(), nullptr, 0), L'\0');

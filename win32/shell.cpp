@@ -12,7 +12,7 @@ namespace platform {
 
 namespace {
 
-/// Messages of the list view control, defined here instead of including its large header.
+/// Messages of the list view control. Defining them here avoids the control's large header.
 constexpr UINT Get_Text_Background = 0x1025; // LVM_GETTEXTBKCOLOR
 constexpr UINT Get_Text_Colour = 0x1023;     // LVM_GETTEXTCOLOR
 
@@ -46,7 +46,7 @@ void Set_Layered(HWND window, bool layered) {
         return;
     const LONG style = GetWindowLongW(window, GWL_EXSTYLE);
     SetWindowLongW(window, GWL_EXSTYLE, style ^ WS_EX_LAYERED);
-    // The system shows a layered window only after its attributes are set.
+    // The system shows a layered window only once it has attributes.
     if (layered && !SetLayeredWindowAttributes(window, 0, 255, LWA_ALPHA)) {
         SetWindowLongW(window, GWL_EXSTYLE, style);
         return;
@@ -73,7 +73,7 @@ std::optional<Colour> Ask_Colour(HWND list, UINT question, UINT patience) {
 
 // The shell's windows, from the top of each level to its bottom:
 //
-//   WorkerW                        none, or some, mostly empty
+//   WorkerW                        any number, most of them empty
 //   Progman "Program Manager"      the desktop window
 //     Vellatro_Calendar            the calendar, if attached: above the icons
 //     SHELLDLL_DefView             the view
@@ -81,10 +81,10 @@ std::optional<Colour> Ask_Colour(HWND list, UINT question, UINT patience) {
 //     WorkerW                      on newer systems the wallpaper of a raised desktop, below the view
 //
 // "Show desktop", slide shows, the fade from one wallpaper to the next and some programs make the shell move
-// the view into a WorkerW at the top and, later, back. A WorkerW that holds the view covers Progman and its
+// the view into a WorkerW at the top, and back later. A WorkerW that holds the view covers Progman and its
 // children, so the calendar belongs beside the view. Under another shell, and while the shell hangs, the
-// calendar is a separate window below all others. When the shell ends, its windows destroy the calendar's
-// window.
+// calendar is a separate window below all others. When the shell ends, its windows take the calendar's
+// window with them.
 
 Shell_Window Find_Desktop_Window() {
     return Id_Of(FindWindowW(L"Progman", L"Program Manager"));
@@ -120,12 +120,12 @@ bool Attach_To_Desktop(const Form_Model &model, Shell_Window holder) {
         return false;
     // The window must not be layered during SetParent.
     Set_Layered(window, false);
-    // SetParent requires a child window, so the window has that style during the call. With the pop-up
+    // SetParent requires a child window, so give the window that style during the call. With the pop-up
     // style, Wine would also move the keyboard focus to the window, away from the program that the user is
-    // typing in. Afterwards the window gets the pop-up style again. The keyboard input of a child belongs to
+    // typing in. Give the window the pop-up style again afterwards. The keyboard input of a child belongs to
     // its top-level window, here the shell's: on Windows the child gets keys only while the shell responds,
-    // on Wine never. A pop-up window is activated on its own. Its position, drawing, region and destruction
-    // depend on the parent with either style.
+    // on Wine never. The system activates a pop-up window on its own. With either style, its position,
+    // drawing, region and destruction depend on the parent.
     Change_Style(window, WS_POPUP, WS_CHILD);
     SetParent(window, Window_Of(holder));
     Change_Style(window, WS_CHILD, WS_POPUP);

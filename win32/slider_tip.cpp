@@ -1,5 +1,4 @@
-// A tracking tooltip that the program moves with the thumb. The slider's own tooltip would show the slider's
-// number.
+// Moves a tracking tooltip with the thumb, because the slider's own tooltip would show the slider's number.
 #include "win32/slider_tip.h"
 
 #include <commctrl.h>
@@ -33,7 +32,7 @@ void Slider_Tip::Show(HWND slider, std::wstring text) {
     RECT thumb = {};
     SendMessageW(slider, TBM_GETTHUMBRECT, 0, reinterpret_cast<LPARAM>(&thumb));
     MapWindowPoints(slider, nullptr, reinterpret_cast<POINT *>(&thumb), 2);
-    // The size of the tip is known only once the tip is visible.
+    // Activate the tip first, because it gets its size only when it appears.
     SendMessageW(window_, TTM_TRACKACTIVATE, TRUE, pointer);
     RECT tip = {};
     GetWindowRect(window_, &tip);

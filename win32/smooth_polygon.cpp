@@ -1,4 +1,4 @@
-// Smooth edges by sampling: each pixel row is cut into thin slices. Along a slice, the coverage is exact.
+// Smooths edges by sampling: cuts each pixel row into thin slices. Along a slice, the coverage is exact.
 #include "win32/smooth_polygon.h"
 
 #include <algorithm>
@@ -21,12 +21,12 @@ void Find_Crossings(const std::vector<Smooth_Point> &corners, double y, std::vec
         if ((a.y <= y) == (b.y <= y))
             continue;
         const double x = a.x + (y - a.y) * (b.x - a.x) / (b.y - a.y);
-        // The crossings are few, so inserting each in order needs less code than sorting them all.
+        // Insert each crossing in order: the crossings are few, and sorting them later would need more code.
         crossings.insert(std::upper_bound(crossings.begin(), crossings.end(), x), x);
     }
 }
 
-/// Adds the coverage of one slice between `from` and `to` to the row.
+/// Adds to the row the coverage of one slice between `from` and `to`.
 void Add_Span(std::vector<double> &cover, double from, double to) {
     from = std::clamp(from, 0.0, static_cast<double>(cover.size()));
     to = std::clamp(to, 0.0, static_cast<double>(cover.size()));

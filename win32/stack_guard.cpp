@@ -1,5 +1,5 @@
-// The value that the compiler puts behind the arrays of a function to detect overflows. The compiler's own
-// library gets a random value from the Windows cryptography libraries, which every start would have to load.
+// Provides the value that the compiler puts behind a function's arrays to detect overflows. The compiler's
+// own library would load the Windows cryptography libraries at every start to get a random value.
 #include "win32/handles.h"
 
 #include <cstdint>
@@ -20,8 +20,8 @@ extern std::uintptr_t __stack_chk_guard;
 
 namespace {
 
-/// Chooses the stack guard's value before all other constructors run. Must not be protected itself, because
-/// its own guard changes.
+/// Chooses the stack guard's value before all other constructors run. This function must have no guard
+/// itself, because it changes the value.
 __attribute__((constructor(101), no_stack_protector)) void Draw_Stack_Guard() {
     LARGE_INTEGER ticks = {};
     QueryPerformanceCounter(&ticks);

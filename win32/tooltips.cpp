@@ -15,11 +15,11 @@ namespace win32 {
 
 namespace {
 
-/// In UTF-16 units. Longer texts fit on no screen and take long to lay out.
+/// The most UTF-16 units of a tip. Longer texts fit on no screen and take long to lay out.
 constexpr std::size_t longest_text = 32000;
 
-/// In pixels at 96 dots per inch: the usual width of a tip, which a long text exceeds, and the space that a
-/// tip needs besides its text.
+/// The usual width of a tip, which a long text may exceed, and the space that a tip needs besides its text.
+/// Both are in pixels at 96 dots per inch.
 constexpr int usual_width = 300;
 constexpr int border = 16;
 
@@ -28,7 +28,7 @@ void Truncate(std::wstring &text, std::size_t length) {
     text += L"...";
 }
 
-/// Returns the size of the text, wrapped at `width`. The size is wider than `width` only if a single word
+/// Returns the size of the text when wrapped at `width`. The text is wider than `width` only if a single word
 /// is.
 SIZE Measure_Text(HDC dc, const std::wstring &text, LONG width) {
     RECT rect = {0, 0, width, 0};
@@ -50,7 +50,7 @@ std::wstring With_Broken_Words(HDC dc, std::wstring_view text, LONG width) {
         SIZE size = {};
         GetTextExtentExPointW(dc, word.data(), static_cast<int>(looked_at), static_cast<int>(width), &fitting,
                               nullptr, &size);
-        // The blank behind a word needs no space.
+        // The blank after a word needs no space.
         const auto taken = static_cast<std::size_t>(std::max(fitting, 2));
         if (taken + 1 >= word.size()) {
             broken += word;
@@ -64,8 +64,8 @@ std::wstring With_Broken_Words(HDC dc, std::wstring_view text, LONG width) {
     return broken;
 }
 
-/// Makes the text fit on a screen with `room`: wraps it, and cuts it only if it is too long for the whole
-/// screen. Returns the width to wrap it at.
+/// Makes the text fit into `room`, the space on the screen. Breaks words that are too wide, and cuts the text
+/// only if it is too long even at the full width. Returns the width at which to wrap the text.
 LONG Fit_Text(HDC dc, std::wstring &text, const SIZE &room) {
     if (text.size() > longest_text)
         Truncate(text, longest_text);
@@ -102,7 +102,7 @@ TTTOOLINFOW Tooltips::Tool_Of(HWND owner, std::size_t index) const {
         tool.uFlags |= TTF_IDISHWND;
         tool.uId = reinterpret_cast<UINT_PTR>(windows_[index]);
     }
-    // The system asks for the text when the tip appears, because each tip has its own width.
+    // Let the system ask for the text when the tip appears, because each tip has its own width.
     tool.lpszText = LPSTR_TEXTCALLBACKW;
     return tool;
 }
@@ -118,7 +118,7 @@ bool Tooltips::Make_Window() {
         WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX, CW_USEDEFAULT,
         CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, nullptr, nullptr, GetModuleHandleW(nullptr), nullptr);
     tools_.clear();
-    // The tip stays while the mouse rests, because a long text takes time to read. 32767 ms is the maximum.
+    // Keep the tip while the mouse rests, because a long text takes time to read. 32767 ms is the maximum.
     SendMessageW(window_, TTM_SETDELAYTIME, TTDT_AUTOPOP, MAKELPARAM(32767, 0));
     return window_ != nullptr;
 }
@@ -172,8 +172,8 @@ void Tooltips::Pop() const {
         SendMessageW(window_, TTM_POP, 0, 0);
 }
 
-/// Returns whether a tip would be in the user's way: while a mouse button is held, a menu is open or a window
-/// is being moved. For a painted form, a visible dialog of the program counts too.
+/// Returns whether a tip would be in the user's way: while the user holds a mouse button, has a menu open or
+/// moves a window. For a painted form, also returns true while a dialog of the program is visible.
 bool Tooltips::In_The_Way() const {
     if (platform::Mouse_Button_Held() || In_Menu_Or_Move())
         return true;

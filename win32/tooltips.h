@@ -19,14 +19,14 @@ public:
     ~Tooltips() { Window_Gone(); }
 
     /// Updates the tools to match the controls. Creates the tooltip window for the first text. `windows`
-    /// holds the controls' own windows, null for a control without one; it is empty for a painted form.
+    /// holds the controls' own windows, null for a control without one. It is empty for a painted form.
     void Update(HWND owner, const platform::Form_Model &model, std::vector<HWND> windows = {});
     /// Hides the visible tip, because the user is doing something else.
     void Pop() const;
     /// Answers WM_NOTIFY of the owner's window: gives the tip its text, or no text if the tip would be in
     /// the way. Returns whether `notice` asked for the text.
     bool Answer(NMHDR &notice);
-    /// Destroys the tooltip window. Call this when the owner's window is gone or being destroyed.
+    /// Destroys the tooltip window. Call this during or after the destruction of the owner's window.
     void Window_Gone();
 
 private:

@@ -1,4 +1,4 @@
-// Conversions between twips and pixels at platform::Dots_Per_Inch, for the system's rectangles.
+// Converts lengths and the system's rectangles between twips and pixels at platform::Dots_Per_Inch.
 #pragma once
 
 #include "base/geometry.h"
@@ -20,7 +20,7 @@ inline RECT To_Pixels(const Rect &rect) {
     return {To_Pixels(rect.left), To_Pixels(rect.top), To_Pixels(rect.Right()), To_Pixels(rect.Bottom())};
 }
 
-/// Returns all twips whose nearest pixels lie in `rect`.
+/// Returns the rectangle of all twips whose nearest pixels lie in `rect`.
 inline Rect To_Covering_Twips(const RECT &rect) {
     // Add half a pixel on each side, because an edge half-way between two pixels rounds to the next one.
     const int twice_dots = 2 * platform::Dots_Per_Inch();
@@ -31,15 +31,15 @@ inline Rect To_Covering_Twips(const RECT &rect) {
     return {left, top, right - left, bottom - top};
 }
 
-/// Looks up the calendar's dots per inch again: those of `window` if the system has them per window. Returns
-/// whether they changed.
+/// Looks up the calendar's dots per inch again: those of `window` if the system has a scale for each window.
+/// Returns whether they changed.
 bool Refresh_Dots(HWND window);
 
 /// Returns the dots per inch of the screen that `window` is on, 0 if the system cannot tell.
 int Dots_Of(HWND window);
 
-/// The dots per inch of a dialog's screen while its window handles a message; 0: those of the calendar's
-/// screen apply. The form's own code always runs with the calendar's, except for the layout after
+/// The dots per inch of a dialog's screen while the program works on the dialog's window, else 0 for those of
+/// the calendar's screen. The form's event handlers run with the calendar's, except for the layout after
 /// Scale_Changed.
 inline int Dialog_Dots = 0;
 

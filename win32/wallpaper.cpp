@@ -105,7 +105,7 @@ private:
 };
 
 Wallpaper_Worker &The_Worker() {
-    // The worker is never destroyed, because its thread may outlive main.
+    // Never destroy the worker, because its thread may outlive main.
     static Wallpaper_Worker &worker = *new Wallpaper_Worker;
     return worker;
 }

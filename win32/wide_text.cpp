@@ -9,7 +9,7 @@
 namespace win32 {
 
 std::wstring Decode(unsigned code_page, std::string_view bytes) {
-    // The system counts in int, so cut a longer text.
+    // Cut a longer text, because the system counts in int.
     const auto length = static_cast<int>(std::min<std::size_t>(bytes.size(), INT_MAX / 4));
     const int needed = MultiByteToWideChar(code_page, 0, bytes.data(), length, nullptr, 0);
     std::wstring wide(static_cast<std::size_t>(std::max(needed, 0)), L'\0');
