@@ -74,8 +74,9 @@ protected:
         constexpr int file_name = 0x47C;
         if (GetDlgItem(box, file_name)) {
             ++did_["file dialogs"];
-            const char *names[] = {"in.csv", "none.dat", "out.dat", "out", "out.ini", "calendar.dat"};
-            SetDlgItemTextA(box, file_name, names[Upto(6)]);
+            // Not a configuration file's full name: imported as a data file, it could not be loaded later.
+            const char *names[] = {"in.csv", "none.dat", "out.dat", "out", "calendar.dat"};
+            SetDlgItemTextA(box, file_name, names[Upto(5)]);
             PostMessageW(box, WM_COMMAND, One_Of({IDOK, IDOK, IDCANCEL}), 0);
             Wait_Until([box] { return !IsWindow(box) || !IsWindowEnabled(box); }, 500);
             return;
