@@ -134,8 +134,8 @@ TEST_F(Attachment, Follows_The_View_Of_Icons) {
             SCOPED_TRACE(std::string(options, options + std::wcslen(options)) + ", " +
                          std::string(letters.substr(0, i)));
             if (i > 0) {
-                SetParent(program.Calendar(),
-                          GetAncestor(Shell_View(), GA_PARENT)); // undoes the move by Raise_Calendar
+                // Undo the move by Raise_Calendar.
+                SetParent(program.Calendar(), GetAncestor(Shell_View(), GA_PARENT));
                 Tell_Shell(letters[i - 1]);
             }
             if (place.empty() && Wait_Until([&] { return Place_Of(program.Calendar()).starts_with("in"); })) {

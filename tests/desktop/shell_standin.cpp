@@ -101,9 +101,9 @@ void Paint_Hung_Up(SIZE size) {
 }
 
 // Repaints the picture and fits all windows to the screen's size, which tests change. Copies no bits, because
-// Wine sometimes waits forever for the X server to do so. Wine 10 moves a window onto the screen
-// if it covers the whole screen and reaches beyond it. So windows that begin left of the screen leave its
-// lowest line free, and nothing paints it.
+// Wine sometimes waits forever for the X server to do so. Wine 10 moves a window onto the screen if it covers
+// the whole screen and reaches beyond it. So windows that begin left of the screen leave its lowest line
+// free, and nothing paints it.
 void Fill_Screen(SIZE size) {
     const LONG free_lines = Origin < 0 ? 1 : 0;
     Paint_Wallpaper(size);

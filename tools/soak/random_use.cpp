@@ -74,7 +74,7 @@ protected:
         constexpr int file_name = 0x47C;
         if (GetDlgItem(box, file_name)) {
             ++did_["file dialogs"];
-            // Not a configuration file's full name: imported as a data file, it could not be loaded later.
+            // Leave out configuration files: the program could not load one that it has imported as data.
             const char *names[] = {"in.csv", "none.dat", "out.dat", "out", "calendar.dat"};
             SetDlgItemTextA(box, file_name, names[Upto(5)]);
             PostMessageW(box, WM_COMMAND, One_Of({IDOK, IDOK, IDCANCEL}), 0);
