@@ -95,11 +95,10 @@ TTTOOLINFOW Tooltips::Tool_Of(HWND owner, std::size_t index) const {
     TTTOOLINFOW tool = {};
     // All versions of the common controls accept the size of the first version.
     tool.cbSize = TTTOOLINFOW_V1_SIZE;
-    tool.uFlags = TTF_SUBCLASS;
     tool.hwnd = owner;
     tool.uId = index + 1;
     if (!windows_.empty()) {
-        tool.uFlags |= TTF_IDISHWND;
+        tool.uFlags = TTF_SUBCLASS | TTF_IDISHWND;
         tool.uId = reinterpret_cast<UINT_PTR>(windows_[index]);
     }
     // Let the system ask for the text when the tip appears, because each tip has its own width.
@@ -165,6 +164,15 @@ void Tooltips::Update_Tool(HWND owner, std::size_t index, Tool wanted) {
             SendMessageW(window_, TTM_UPDATETIPTEXTW, 0, pointer);
     }
     known = std::move(wanted);
+}
+
+void Tooltips::Relay(HWND owner, UINT message, WPARAM wparam, LPARAM lparam) const {
+    if (message < WM_MOUSEFIRST || message > WM_MOUSELAST || window_ == nullptr)
+        return;
+    const DWORD place = GetMessagePos();
+    const POINTS point = MAKEPOINTS(place);
+    MSG told = {owner, message, wparam, lparam, static_cast<DWORD>(GetMessageTime()), {point.x, point.y}};
+    SendMessageW(window_, TTM_RELAYEVENT, 0, reinterpret_cast<LPARAM>(&told));
 }
 
 void Tooltips::Pop() const {
