@@ -41,6 +41,7 @@ private:
     void Own_Aspect_Changed(platform::Aspect aspect) override;
     void Set_Pointer() const;
     bool Floats() const { return Model()->kind == platform::Form_Kind::Floating; }
+    void Invalidate_Whole();
     void Invalidate(const Rect &bounds) const;
     /// Schedules an update of the tooltips and of the announcements to assistive technology.
     void Texts_Changed();
@@ -48,6 +49,7 @@ private:
     Tooltips tooltips_;
     Announcements announcements_;
     bool texts_dirty_ = false;
+    bool whole_invalid_ = false; ///< the next WM_PAINT is for the whole window
     bool has_clip_ = false;
     std::vector<Rect> clip_;
     std::vector<RECT> region_; ///< the rectangles of the window's region, in pixels
