@@ -16,5 +16,5 @@ WINE_OUT=$out/kills.log
 Desktop_Drive "$out" $((rounds * 60 + 60)) kill_rounds "--gtest_repeat=$rounds" || true
 good=$(grep -c '^\[       OK ' "$WINE_OUT") || true
 damaged=$(grep -cE 'is not a state of|the second save is missing|Error loading' "$WINE_OUT") || true
-echo "$((2 * good - 1)) kills in $good good rounds; $((rounds - good)) rounds failed, $damaged times by the data file"
+echo "$((good > 0 ? 2 * good - 1 : 0)) kills in $good good rounds; $((rounds - good)) rounds failed, $damaged times by the data file"
 [ "$good" = "$rounds" ] || Fail "See $WINE_OUT"

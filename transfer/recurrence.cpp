@@ -40,8 +40,9 @@ int Read_Weekday(std::string_view name) {
 
 /// Returns the number that the two digits at index `at` form, or -1 if there are not two digits.
 int Two_Digits(std::string_view text, std::size_t at) {
+    // Signs and blanks are less than '0'.
     int number = -1;
-    return at + 2 <= text.size() && text[at] != '+' && Read_Number(text.substr(at, 2), 0, 99, number) ? number
+    return at + 2 <= text.size() && text[at] >= '0' && Read_Number(text.substr(at, 2), 0, 99, number) ? number
                                                                                                       : -1;
 }
 
