@@ -73,6 +73,8 @@ protected:
 TEST_F(Settings_Dialog, Each_Kind_Of_Control_Reaches_The_Store_And_The_Calendar) {
     RegDeleteKeyValueW(HKEY_LOCAL_MACHINE, run_key, L"Vellatro");
     const Program &program = Start_Calendar();
+    program.Press(VK_F4);
+    program.Press(VK_F2); // a whole repaint, before those of single boxes
     program.Open_Settings();
     EXPECT_EQ(Tab(), 4); // the default
     Turn_To(2);
