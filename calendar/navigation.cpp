@@ -47,7 +47,6 @@ void Main_Frm::Redraw() {
     layout_outdated_ = Compacted;
     if (Compacted)
         return;
-    Repaint();
     Set_Day_Headers();
     Setup_Boxes(Cur_Month, Cur_Year);
     Load_Dates();

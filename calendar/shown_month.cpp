@@ -11,6 +11,7 @@
 
 void Main_Frm::Setup_Boxes(std::int16_t month, std::int16_t year) {
     Hide_Balloon();
+    Repaint(); // once, instead of each changed box by itself
     Reset_Boxes();
     Number_Boxes({year, month, 1});
     Hide_Misc_Boxes();

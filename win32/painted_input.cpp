@@ -68,13 +68,14 @@ bool Painted_Window::Handle_Input(UINT message, WPARAM wparam, LPARAM lparam, LR
 }
 
 bool Painted_Window::Handle_Mouse(UINT message, WPARAM wparam, LPARAM lparam) {
+    tooltips_.Relay(window_, message, wparam, lparam);
     Input_Event event{};
     if (!mouse_.Translate(window_, message, wparam, lparam, event))
         return true;
     const bool pressed = event.kind == Input_Kind::Mouse_Down || event.kind == Input_Kind::Double_Click;
     if (pressed)
         tooltips_.Pop();
-    if (pressed && !Floats() && GetFocus() != window_)
+    if (pressed && Model() != nullptr && !Floats() && GetFocus() != window_)
         SetFocus(window_);
     Send(event);
     return true;

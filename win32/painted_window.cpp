@@ -64,7 +64,6 @@ void Painted_Window::Window_Gone() {
 }
 
 LRESULT Painted_Window::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
-    tooltips_.Relay(window_, message, wparam, lparam);
     LRESULT result = 0;
     if (Handle_Input(message, wparam, lparam, result))
         return result;
@@ -193,11 +192,14 @@ void Painted_Window::Control_Changed(const Control_State &control, Aspect aspect
 }
 
 void Painted_Window::Invalidate_Whole() {
-    whole_invalid_ = InvalidateRect(window_, nullptr, FALSE) != FALSE;
+    InvalidateRect(window_, nullptr, FALSE);
+    // A hidden window has nothing to paint and gets no WM_PAINT.
+    whole_invalid_ = GetUpdateRect(window_, nullptr, FALSE) != FALSE;
 }
 
 void Painted_Window::Invalidate(const Rect &bounds) const {
-    // A new month changes its boxes some 140 times. Each call to the system would take 0.1 ms under Wine.
+    // The next WM_PAINT covers the bounds too. A new month changes its boxes some 140 times, and each call to
+    // the system takes 0.1 ms under Wine.
     if (whole_invalid_)
         return;
     const RECT pixels = To_Pixels(bounds);

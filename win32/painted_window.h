@@ -49,7 +49,7 @@ private:
     Tooltips tooltips_;
     Announcements announcements_;
     bool texts_dirty_ = false;
-    bool whole_invalid_ = false; ///< the next WM_PAINT is for the whole window
+    bool whole_invalid_ = false; ///< the whole window waits for WM_PAINT
     bool has_clip_ = false;
     std::vector<Rect> clip_;
     std::vector<RECT> region_; ///< the rectangles of the window's region, in pixels

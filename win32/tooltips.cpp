@@ -167,12 +167,12 @@ void Tooltips::Update_Tool(HWND owner, std::size_t index, Tool wanted) {
 }
 
 void Tooltips::Relay(HWND owner, UINT message, WPARAM wparam, LPARAM lparam) const {
-    if (message < WM_MOUSEFIRST || message > WM_MOUSELAST || window_ == nullptr)
+    if (window_ == nullptr)
         return;
-    const DWORD place = GetMessagePos();
-    const POINTS point = MAKEPOINTS(place);
-    MSG told = {owner, message, wparam, lparam, static_cast<DWORD>(GetMessageTime()), {point.x, point.y}};
-    SendMessageW(window_, TTM_RELAYEVENT, 0, reinterpret_cast<LPARAM>(&told));
+    MSG relayed = {owner, message, wparam, lparam, 0, {}};
+    // Since Windows 7, the extra information tells a touch from the mouse. Older systems ignore it.
+    SendMessageW(window_, TTM_RELAYEVENT, static_cast<WPARAM>(GetMessageExtraInfo()),
+                 reinterpret_cast<LPARAM>(&relayed));
 }
 
 void Tooltips::Pop() const {
