@@ -68,7 +68,7 @@ bool Painted_Window::Handle_Input(UINT message, WPARAM wparam, LPARAM lparam, LR
 }
 
 bool Painted_Window::Handle_Mouse(UINT message, WPARAM wparam, LPARAM lparam) {
-    tooltips_.Relay(window_, message, wparam, lparam);
+    tooltips_.Relay(window_, *Model(), message, wparam, lparam);
     Input_Event event{};
     if (!mouse_.Translate(window_, message, wparam, lparam, event))
         return true;

@@ -16,10 +16,11 @@ constexpr wchar_t Restart_Option[] = L"\" /again ";
 win32::Unique_Kernel_Handle claim;
 
 /// Returns a folder's path with long names and a separator at its end. The system may report folders with
-/// short (8.3) names.
+/// short (8.3) names, all of which have a '~' unless an administrator chose them.
 std::wstring Long_Folder(const std::wstring &folder) {
     wchar_t name[MAX_PATH] = {};
-    const DWORD length = GetLongPathNameW(folder.c_str(), name, MAX_PATH);
+    const bool has_short = folder.find(L'~') != std::wstring::npos;
+    const DWORD length = has_short ? GetLongPathNameW(folder.c_str(), name, MAX_PATH) : 0;
     std::wstring found = length == 0 || length >= MAX_PATH ? folder : std::wstring(name, length);
     if (!found.ends_with(L'\\'))
         found += L'\\';

@@ -124,6 +124,8 @@ bool Tooltips::Make_Window() {
 
 void Tooltips::Update(HWND owner, const platform::Form_Model &model, std::vector<HWND> windows) {
     windows_ = std::move(windows);
+    if (windows_.empty() && !hovered_)
+        return;
     bool any = false;
     for (const platform::Control_State *control : model.controls)
         any = any || (control->visible && !control->tooltip.empty());
@@ -166,7 +168,10 @@ void Tooltips::Update_Tool(HWND owner, std::size_t index, Tool wanted) {
     known = std::move(wanted);
 }
 
-void Tooltips::Relay(HWND owner, UINT message, WPARAM wparam, LPARAM lparam) const {
+void Tooltips::Relay(HWND owner, const platform::Form_Model &model, UINT message, WPARAM wparam,
+                     LPARAM lparam) {
+    if (!std::exchange(hovered_, true))
+        Update(owner, model);
     if (window_ == nullptr)
         return;
     MSG relayed = {owner, message, wparam, lparam, 0, {}};

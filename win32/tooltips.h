@@ -18,12 +18,13 @@ public:
     Tooltips &operator=(const Tooltips &) = delete;
     ~Tooltips() { Window_Gone(); }
 
-    /// Updates the tools to match the controls. Creates the tooltip window for the first text. `windows`
-    /// holds the controls' own windows, null for a control without one. It is empty for a painted form.
+    /// Updates the tools to match the controls. Creates the tooltip window for the first text, for a painted
+    /// form not before the first Relay, as that would delay the start. `windows` holds the controls' own
+    /// windows, null for a control without one. It is empty for a painted form.
     void Update(HWND owner, const platform::Form_Model &model, std::vector<HWND> windows = {});
     /// Passes a mouse message of a painted form's window to the tooltip window, which then need not subclass
     /// the form's window. Under Wine, a subclass costs three requests to the server for each message.
-    void Relay(HWND owner, UINT message, WPARAM wparam, LPARAM lparam) const;
+    void Relay(HWND owner, const platform::Form_Model &model, UINT message, WPARAM wparam, LPARAM lparam);
     /// Hides the visible tip, because the user is doing something else.
     void Pop() const;
     /// Answers WM_NOTIFY of the owner's window: gives the tip its text, or no text if the tip would be in
@@ -46,6 +47,7 @@ private:
     TTTOOLINFOW Tool_Of(HWND owner, std::size_t index) const;
 
     HWND window_ = nullptr;
+    bool hovered_ = false; ///< Relay has been called
     std::vector<HWND> windows_;
     std::vector<Tool> tools_;
     std::wstring shown_; ///< the text of the last tip, which the system reads from here
