@@ -111,20 +111,23 @@ void Dialog_Window::Set_Caption(const Control_State &control) {
         SetWindowTextW(window, text.c_str());
 }
 
-void Dialog_Window::Place_Control(const Control_State &control) {
-    const HWND window = Control_Window(control.index);
+/// Returns the control's place on the dialog, in pixels.
+Rect Dialog_Window::Pixels_Of(const Control_State &control) const {
     const Rect bounds = platform::Place_On_Form(*Model(), control);
     const RECT place = To_Pixels(bounds);
-    int width = place.right - place.left;
-    int height = place.bottom - place.top;
-    if (control.painted) {
-        // A painted control paints from its own corner, so its size in pixels must not depend on its place.
-        width = To_Pixels(bounds.width);
-        height = To_Pixels(bounds.height);
-    }
-    SetWindowPos(window, nullptr, place.left, place.top, width, height, SWP_NOZORDER | SWP_NOACTIVATE);
+    // A painted control paints from its own corner, so its size in pixels must not depend on its place.
+    if (control.painted)
+        return {place.left, place.top, To_Pixels(bounds.width), To_Pixels(bounds.height)};
+    return {place.left, place.top, place.right - place.left, place.bottom - place.top};
+}
+
+void Dialog_Window::Place_Control(const Control_State &control) {
+    const HWND window = Control_Window(control.index);
+    const Rect place = Pixels_Of(control);
+    SetWindowPos(window, nullptr, place.left, place.top, place.width, place.height,
+                 SWP_NOZORDER | SWP_NOACTIVATE);
     if (control.kind == Control_Kind::Combo_Box)
-        Set_Combo_Heights(window, height, control);
+        Set_Combo_Heights(window, place.height, control);
 }
 
 void Dialog_Window::Place_Children(const Control_State &changed, const Rect &before) {

@@ -149,15 +149,18 @@ void Dialog_Window::Put_Lowest(const Control_State &control) {
 
 HWND Dialog_Window::Make_Native(const Control_State &control) {
     const int id = First_Control_Id + control.index;
+    const Rect place = Pixels_Of(control);
+    const DWORD style = WS_CHILD | Group_Style(control);
     Native &native = natives_[static_cast<std::size_t>(control.index)];
     if (control.painted) {
         native.painted = std::make_unique<Painted_Child>(*this, control.index);
-        return Require_Window(native.painted->Make(window_, id));
+        return Require_Window(
+            native.painted->Make(window_, id, place, style | (control.tab_stop ? WS_TABSTOP : 0U)));
     }
-    return Require_Window(CreateWindowExW(Is_Sunken(control.kind) ? WS_EX_CLIENTEDGE : 0,
-                                          Class_Of(control.kind), nullptr, WS_CHILD | Style_Of(control), 0, 0,
-                                          0, 0, window_, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)),
-                                          GetModuleHandleW(nullptr), nullptr));
+    return Require_Window(CreateWindowExW(
+        Is_Sunken(control.kind) ? WS_EX_CLIENTEDGE : 0, Class_Of(control.kind), nullptr,
+        style | Style_Of(control), place.left, place.top, place.width, place.height, window_,
+        reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), GetModuleHandleW(nullptr), nullptr));
 }
 
 /// Creates a control, hidden if the dialog is already visible. Returns false for a control that needs no
@@ -168,12 +171,12 @@ bool Dialog_Window::Make_Control(const Control_State &control) {
         return false;
     Native &native = natives_[static_cast<std::size_t>(control.index)];
     native.window = Make_Native(control);
-    const LONG style = GetWindowLongW(native.window, GWL_STYLE);
-    const DWORD more = Group_Style(control) | (control.painted && control.tab_stop ? WS_TABSTOP : 0U) |
-                       (platform::Is_Shown(*Model(), control) && !IsWindowVisible(window_) ? WS_VISIBLE : 0U);
-    SetWindowLongW(native.window, GWL_STYLE, style | static_cast<LONG>(more));
+    // The style alone does not show the window at once, but together with the dialog.
+    if (platform::Is_Shown(*Model(), control) && !IsWindowVisible(window_))
+        SetWindowLongW(native.window, GWL_STYLE, GetWindowLongW(native.window, GWL_STYLE) | WS_VISIBLE);
     // The WS_DISABLED style alone is not enough: a combo box must also disable its text box.
-    EnableWindow(native.window, platform::Is_Usable(*Model(), control));
+    if (!platform::Is_Usable(*Model(), control))
+        EnableWindow(native.window, FALSE);
     if (control.kind == Control_Kind::Text_Box) {
         Make_Text_Box(native.window);
         SendMessageW(native.window, EM_LIMITTEXT, 0, 0);
@@ -182,8 +185,8 @@ bool Dialog_Window::Make_Control(const Control_State &control) {
         Make_Text_Box(FindWindowExW(native.window, nullptr, L"EDIT", nullptr));
     if (control.kind == Control_Kind::Slider)
         Set_Slider_Steps(native.window, control);
-    Look_Changed(control);
-    Place_Control(control);
+    if (!control.painted)
+        Set_Font(control);
     Fill(control);
     Set_Caption(control);
     Show_Choice(control);

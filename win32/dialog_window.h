@@ -57,6 +57,7 @@ private:
     void Set_Font(const Control_State &control);
     HFONT Find_Font(const platform::Font &font);
     void Set_Caption(const Control_State &control);
+    Rect Pixels_Of(const Control_State &control) const;
     void Place_Control(const Control_State &control);
     void Place_Children(const Control_State &changed, const Rect &before);
     void Redraw(const Rect &place);

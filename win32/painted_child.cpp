@@ -19,11 +19,11 @@ constexpr wchar_t class_name[] = L"Vellatro_Painted";
 
 } // namespace
 
-HWND Painted_Child::Make(HWND parent, int id) {
+HWND Painted_Child::Make(HWND parent, int id, const Rect &place, DWORD style) {
     Register_Class(class_name, Procedure, CS_DBLCLKS);
-    window_ = CreateWindowExW(0, class_name, nullptr, WS_CHILD, 0, 0, 0, 0, parent,
-                              reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), GetModuleHandleW(nullptr),
-                              nullptr);
+    window_ = CreateWindowExW(0, class_name, nullptr, style, place.left, place.top, place.width, place.height,
+                              parent, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)),
+                              GetModuleHandleW(nullptr), nullptr);
     if (window_ != nullptr)
         SetWindowLongPtrW(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
     return window_;

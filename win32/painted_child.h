@@ -14,8 +14,8 @@ public:
     Painted_Child(const Painted_Child &) = delete;
     Painted_Child &operator=(const Painted_Child &) = delete;
 
-    /// Creates the window, hidden and with no size. Returns null on failure.
-    HWND Make(HWND parent, int id);
+    /// Creates the window at its place in the parent's pixels. Returns null on failure.
+    HWND Make(HWND parent, int id, const Rect &place, DWORD style);
 
 private:
     static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam);
