@@ -173,15 +173,17 @@ TEST_F(Dialog_Contract, Its_Own_Changes_Show_And_Are_Not_Told) {
     }
     controls_[Thumb].value = 40;
     controls_[Bar].value = 60;
-    controls_[Opt_1].checked = controls_[Check].checked = true;
+    controls_[Opt_2].checked = controls_[Check].checked = true;
     for (const int index : {Thumb, Bar})
         Change(index, Aspect::Selected);
-    for (const int index : {Opt_1, Check})
+    for (const int index : {Opt_2, Check})
         Change(index, Aspect::Checked);
     EXPECT_TRUE(Send(Tabs, TCM_GETCURSEL) == 3 && Send(Combo, CB_GETCURSEL) == 3 &&
                 Send(List, LB_GETCURSEL) == 3);
     EXPECT_TRUE(Send(Thumb, TBM_GETPOS) == 40 && Send(Bar, PBM_GETPOS) == 60);
-    EXPECT_TRUE(Send(Opt_1, BM_GETCHECK) == BST_CHECKED && Send(Check, BM_GETCHECK) == BST_CHECKED);
+    EXPECT_TRUE(Send(Opt_2, BM_GETCHECK) == BST_CHECKED && Send(Check, BM_GETCHECK) == BST_CHECKED);
+    const auto has_stop = [this](int index) { return GetWindowLongW(Native(index), GWL_STYLE) & WS_TABSTOP; };
+    EXPECT_TRUE(has_stop(Opt_2) && !has_stop(Opt_1)) << "the Tab key would check the other option";
     const LRESULT font = Send(List, WM_GETFONT); // all controls take new fonts of the system
     win32::Check_Scale(true);
     EXPECT_EQ(GetObjectType(reinterpret_cast<HGDIOBJ>(Send(List, WM_GETFONT))), DWORD{OBJ_FONT});

@@ -278,6 +278,7 @@ void Do(char letter) {
     if (letter == 'w') {
         if (!Worker_Window)
             Worker_Window = Create_Own_Window("WorkerW", "", WS_POPUP, nullptr);
+        Create_Own_Window("WorkerW", "", WS_POPUP, nullptr); // holds nothing, as most of the shell's
         ShowWindow(Worker_Window, SW_SHOWNA);
         Move_View(Worker_Window);
     } else if (letter == 'p' || letter == 'x') {

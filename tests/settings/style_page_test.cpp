@@ -18,11 +18,12 @@ protected:
         Input(dialog, {.kind = platform::Input_Kind::Key_Down, .key = key}, &page.Pos_Preview_Img);
     }
 
-    /// Returns the place of the calendar's title in the miniature, in pixels of the screen.
-    Rect Title() {
+    enum Part { Title = 2, First_Box };
+    /// Returns the place of a part of the calendar in the miniature, in pixels of the screen.
+    Rect Place(Part part) {
         platform::Canvas canvas;
         page.Pos_Preview_Img.State().paint(canvas, page.Pos_Preview_Img.Bounds());
-        const Rect small = canvas.operations[2].rect;
+        const Rect small = canvas.operations[part].rect;
         const auto whole = [this](int twips) { return twips * 1024 / page.Pos_Preview_Img.Width(); };
         return {whole(small.left), whole(small.top), whole(small.width), whole(small.height)};
     }
@@ -88,10 +89,11 @@ TEST_F(Style, the_miniature_shows_the_calendar_where_it_will_be) {
             look.style = style;
             look.position = position;
             page.Set_Theme(look);
-            const Rect title = Title();
+            const Rect title = Place(Title);
             EXPECT_NEAR(title.left, form.Left() / 15, 1);
             EXPECT_NEAR(title.top, form.Top() / 15, 2);
             EXPECT_NEAR(title.width, form.Width() / 15, 2);
+            EXPECT_NEAR(Place(First_Box).height, form.Box_Lbl[10].Bounds().height / 15, 9);
         }
     }
     page.Set_Theme({});

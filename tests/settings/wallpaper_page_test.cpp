@@ -127,8 +127,10 @@ TEST_F(Themes_Page, loads_only_the_picture_that_is_seen_and_tells_of_a_bad_one_i
         canvas.operations.clear();
         Page().Theme_Preview_Img.State().paint(canvas, Page().Theme_Preview_Img.Bounds());
         std::string text;
-        for (const Canvas_Operation &operation : canvas.operations)
+        for (const Canvas_Operation &operation : canvas.operations) {
             text += (text.empty() ? "" : " ") + operation.text;
+            EXPECT_LE(operation.rect.Right(), Page().Theme_Preview_Img.Width());
+        }
         return text;
     };
     for (const bool use : {true, false, true}) {

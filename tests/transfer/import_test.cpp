@@ -101,8 +101,8 @@ TEST_F(Importing, backs_the_data_file_up_and_refuses_other_files) {
     EXPECT_EQ(Data_File() + Backup(), "\"1/3/2002=Old\"\r\nolder");
     // A failed import keeps the backup, and the data file even if its backup is gone.
     Fakes().unwritable.clear();
-    File("C:\\in.csv") = "none";
     for (const bool data : {false, true}) {
+        File("C:\\in.csv") = data ? "none" : "Description,Start Date";
         Fakes().files.erase("C:\\Vellatro\\" + std::string(data ? "data.bak" : "calendar.dat"));
         (data ? Data_File() : Backup()) = "kept";
         Fakes().Expect_Box("Invalid CSV file or missing required headings.", platform::Box_Answer::Ok,
