@@ -278,7 +278,8 @@ void Do(char letter) {
     if (letter == 'w') {
         if (!Worker_Window)
             Worker_Window = Create_Own_Window("WorkerW", "", WS_POPUP, nullptr);
-        Create_Own_Window("WorkerW", "", WS_POPUP, nullptr); // holds nothing, as most of the shell's
+        // Most of the shell's windows of this class hold nothing.
+        CreateWindowA("WorkerW", "", WS_POPUP, 0, 0, 0, 0, nullptr, nullptr, nullptr, nullptr);
         ShowWindow(Worker_Window, SW_SHOWNA);
         Move_View(Worker_Window);
     } else if (letter == 'p' || letter == 'x') {

@@ -8,6 +8,11 @@ using platform::Mouse_Button;
 
 namespace {
 
+bool Inside(const Rect &inner, const Rect &outer) {
+    return inner.left >= outer.left && inner.top >= outer.top && inner.Right() <= outer.Right() &&
+           inner.Bottom() <= outer.Bottom();
+}
+
 class Settings_Window : public Settings_Dialog {
 protected:
     /// Returns the numbers of the visible pages.
@@ -67,6 +72,41 @@ TEST_F(Settings_Window, opens_at_the_stored_tab_and_stores_the_last_one_however_
         EXPECT_FALSE(dialog->General.Alert_Chk.Checked()) << "left from the former dialog";
         Push(*dialog, dialog->General.Alert_Chk, true);
         form.Close_Settings();
+    }
+}
+
+TEST_F(Settings_Window, every_control_has_its_own_place) {
+    for (int i = 0; i <= Settings_Frm::page_count; ++i) { // the last one is the first page's other view
+        const bool other_view = i == Settings_Frm::page_count;
+        const std::vector<Control *> &controls =
+            Open(static_cast<Settings_Frm::Page_Index>(other_view ? 0 : i)).Controls();
+        if (other_view)
+            Push(*dialog, dialog->Events.Stats_Opt);
+        std::map<int, std::vector<const platform::Control_State *>> placed; // by container
+        for (const Control *control : controls) {
+            const platform::Control_State &state = control->State();
+            if (!platform::Is_Shown(dialog->Model(), state))
+                continue;
+            SCOPED_TRACE(state.name + " \"" + state.caption + "\"");
+            Rect room = dialog->Model().bounds;
+            if (state.container >= 0)
+                room = controls[static_cast<std::size_t>(state.container)]->Bounds();
+            const Rect &place = state.bounds;
+            // The fakes' texts are wider than those of Windows and take up to a line more.
+            EXPECT_TRUE(!place.Empty() && Inside(place, {0, 0, room.width, room.height + 200}))
+                << place.left << ", " << place.top << ": " << place.width << " x " << place.height << " in "
+                << room.width << " x " << room.height;
+            for (const platform::Control_State *other : placed[state.container])
+                EXPECT_TRUE(
+                    !other->bounds.Intersects(place) ||
+                    ((other->painted || other == &dialog->TabStrip1.State()) && Inside(place, other->bounds)))
+                    << "it covers " << other->name;
+            const bool has_text =
+                state.kind == platform::Control_Kind::Label || state.kind == platform::Control_Kind::Button;
+            EXPECT_TRUE(!has_text || state.painted || !state.caption.empty() ||
+                        state.name == "Countdown_Lbl");
+            placed[state.container].push_back(&state);
+        }
     }
 }
 
