@@ -65,6 +65,8 @@ TEST_F(Settings_Window, opens_at_the_stored_tab_and_stores_the_last_one_however_
         EXPECT_EQ(form.Cur_Month, 2);
         Press_Key(form, Key_F4);
     }
+    EXPECT_TRUE(dialog->Model().title == "Settings" && dialog->Ok_Btn.State().is_default &&
+                dialog->Cancel_Btn.State().is_cancel);
     for (const std::int16_t odd : std::initializer_list<std::int16_t>{-5, 0, 9, 32767}) {
         Cur_Settings.Settings_Tab = odd;
         form.Open_Settings();
@@ -160,6 +162,7 @@ TEST_F(Settings_Window, previews_the_title_without_touching_a_setting) {
     Desktop().Advance(1000);
     EXPECT_EQ(page.Bar_Preview_Lbl.Caption(), "10.30:07 - Tuesday 5th March - 2002");
     Push(*dialog, page.Bar_Time_Chk, false);
+    EXPECT_EQ(page.Bar_Preview_Lbl.Caption(), "Tuesday 5th March - 2002");
     for (const int tab : {Settings_Frm::general_fra, Settings_Frm::about_fra}) { // not while hidden
         Choose(*dialog, dialog->TabStrip1, tab);
         ++Fakes().now.day;
@@ -176,6 +179,8 @@ TEST_F(Settings_Window, previews_the_title_without_touching_a_setting) {
 TEST_F(Settings_Window, shows_the_example_balloon_while_the_left_button_is_held) {
     Label Tooltips_Page::*const examples[] = {&Tooltips_Page::TipExample_Lbl,
                                               &Tooltips_Page::TipBoxExample_Lbl};
+    Cur_Settings.Tooltips = 7;
+    EXPECT_TRUE(Open(Settings_Frm::tooltips_fra).Tooltips.Tips_Opt[1].Checked());
     for (Label Tooltips_Page::*label : examples)
         for (const int kind : {0, 1, 2}) {
             Tooltips_Page &now = Open(Settings_Frm::tooltips_fra).Tooltips;
