@@ -15,7 +15,8 @@ constexpr const char *manual_question =
 class Desktop_Life : public Calendar_Test {
 protected:
     Desktop_Life() {
-        Shell() = {.desktop = 11, .view = 12, .list = 13, .colours = {{-1, 0}}, .web_pages = {}};
+        Shell() = {
+            .desktop = 11, .view = 12, .list = 13, .colours = {{-1, 0}}, .patience = 0, .web_pages = {}};
     }
 
     /// Drags the title by these twips, in two steps, and releases it.
@@ -50,6 +51,7 @@ TEST_F(Desktop_Life, waits_outside_for_a_shell_that_does_not_answer) {
     const Splash_Frm &splash = form.Splash;
     EXPECT_EQ(splash.Left(), form.Left() + (form.Width() - splash.Width()) / 2);
     EXPECT_EQ(splash.Top(), form.Top() + form.Box_Lbl[36].Top() / 2 + splash.Height());
+    EXPECT_LE(platform::Line_Height(splash.Name_Lbl.Font()), splash.Name_Lbl.Height());
     EXPECT_EQ(splash.Line_Lbl.Caption(),
               "Double-click a day to write on it.\nRight-click it for settings and exit.");
     EXPECT_EQ(form.Model().description,
@@ -62,6 +64,7 @@ TEST_F(Desktop_Life, waits_outside_for_a_shell_that_does_not_answer) {
         EXPECT_EQ(Desktop().mirrors.contains(&splash.Model()), time == 1499);
     }
     EXPECT_TRUE(Shell().attached == nullptr && Desktop().mirrors.at(&form.Model()).shown);
+    EXPECT_LE(Shell().patience, 200U) << "the user feels the wait each second";
     Shell().colours = {0x332211, 0x00F0F0};
     Desktop().Advance(1000);
     EXPECT_EQ(Shell().attached, &form.Model());

@@ -189,10 +189,12 @@ TEST_F(Dialog_Contract, Its_Own_Changes_Show_And_Are_Not_Told) {
     EXPECT_EQ(GetObjectType(reinterpret_cast<HGDIOBJ>(Send(List, WM_GETFONT))), DWORD{OBJ_FONT});
     EXPECT_TRUE(Send(List, WM_GETFONT) == Send(Check, WM_GETFONT) && Send(List, WM_GETFONT) != font);
     EXPECT_EQ(Take_Log(), "");
+    controls_[Typed].caption = "a\r\nb";
+    Change(Typed, Aspect::Caption);
     model_.enabled = false; // a disabled form rejects text, which is restored
     platform::Form_Changed(model_, Aspect::Enabled);
     SendMessageW(Typed_Text(), WM_CHAR, 'x', 0);
-    EXPECT_TRUE(!IsWindowEnabled(window_) && GetWindowTextLengthW(Typed_Text()) == 0);
+    EXPECT_TRUE(!IsWindowEnabled(window_) && GetWindowTextLengthW(Typed_Text()) == 3);
 }
 
 TEST_F(Dialog_Contract, On_A_Screen_Of_Another_Scale_It_Follows_That_And_Nothing_Else_Does) {
@@ -267,6 +269,9 @@ TEST_F(Dialog_Contract, What_Paints_Itself_Lies_On_The_Page) {
     Send(Picture, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc.get()), PRF_CLIENT);
     EXPECT_EQ(GetPixel(dc.get(), 40, 10), RGB(10, 200, 30));
     const COLORREF bare = GetPixel(dc.get(), 90, 10);
+    SetFocus(Native(Picture));
+    Send(Picture, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc.get()), PRF_CLIENT);
+    EXPECT_NE(GetPixel(dc.get(), 40, 1), GetPixel(dc.get(), 41, 1)) << "the focus is seen";
     Send(Tabs, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc.get()), PRF_CLIENT | PRF_ERASEBKGND);
     SetViewportOrgEx(dc.get(), -200, -300, nullptr);
     Send(Tabs, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc.get()), PRF_CLIENT | PRF_ERASEBKGND);

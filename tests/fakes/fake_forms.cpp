@@ -348,7 +348,8 @@ std::optional<Icon_View> Find_Icon_View(Shell_Window desktop) {
     return Icon_View{View_Holder(), Shell().view, Shell().list};
 }
 
-std::optional<Label_Colours> Icon_Label_Colours(Shell_Window list, unsigned) {
+std::optional<Label_Colours> Icon_Label_Colours(Shell_Window list, unsigned patience) {
+    Shell().patience = patience;
     Require(list != 0 && list == Shell().list, "no icon list asked for its colours");
     return Shell().colours;
 }

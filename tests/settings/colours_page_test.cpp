@@ -91,6 +91,8 @@ TEST_F(Colours, the_mouse_shows_colours_and_its_release_picks_the_last_one) {
     EXPECT_EQ(shown(), "0");
     Mouse(Input_Kind::Mouse_Up, Mouse_Button::Left, 0, below);
     EXPECT_FALSE(page.Gradient_Pic.Visible() || page.Col_Today_Pic.Back_Colour() == 0) << "released outside";
+    Input(dialog, {.kind = Input_Kind::Key_Down, .key = Key_Up}, &page.Pal);
+    EXPECT_NE(shown(), "0") << "the cross has left the palette";
     for (int i = 0; i < 100; ++i) // the keyboard continues from that colour
         Input(dialog, {.kind = Input_Kind::Key_Down, .key = i < 50 ? Key_Right : Key_Up, .shift = true},
               &page.Pal);

@@ -43,6 +43,7 @@ TEST(Balloon_Shape, stands_whole_on_the_screen_beside_the_mouse) {
         {{-15360, 11299}, 1380, Balloon_Side::Above}, {{-1, 300}, 1380, Balloon_Side::Below},
         {{-8000, 1900}, 1380, Balloon_Side::Below},   {{-8000, 6000}, 10900, Balloon_Side::Right},
         {{-3000, 6000}, 10900, Balloon_Side::Left},   {{-1, 11299}, 10900, Balloon_Side::Left},
+        {{-8000, 5500}, 5100, Balloon_Side::Below},
     };
     const auto within = [](const Rect &outer, const Rect &inner) {
         return inner.left >= outer.left && inner.Right() <= outer.Right() && inner.top >= outer.top &&
@@ -54,12 +55,12 @@ TEST(Balloon_Shape, stands_whole_on_the_screen_beside_the_mouse) {
         EXPECT_EQ(place.side, row.side);
         EXPECT_TRUE(within(work, place.body) && !place.body.Contains(row.mouse));
         EXPECT_LE(std::abs(place.tip.x - row.mouse.x) + std::abs(place.tip.y - row.mouse.y), 300);
-        bool has_tip = false;
-        for (const Point corner : Balloon_Outline(place)) {
+        const std::vector<Point> outline = Balloon_Outline(place);
+        for (const Point corner : outline)
             EXPECT_TRUE(within(Window_Of(place), {corner.x, corner.y, 0, 0}));
-            has_tip = has_tip || corner == place.tip;
-        }
-        EXPECT_TRUE(has_tip);
+        const auto tip = std::find(outline.begin(), outline.end(), place.tip);
+        ASSERT_TRUE(tip != outline.end());
+        EXPECT_EQ(std::abs(tip[1].x - tip[-1].x) + std::abs(tip[1].y - tip[-1].y), 240) << "its foot";
     }
 }
 
