@@ -176,7 +176,6 @@ bool Day_Finder::Find_Repetitions() {
             return false;
     }
     std::sort(repetitions_.begin(), repetitions_.end());
-    repetitions_.erase(std::unique(repetitions_.begin(), repetitions_.end()), repetitions_.end());
     return true;
 }
 

@@ -20,6 +20,7 @@ TEST_F(Box_Styles, columns_and_rows_are_equal_in_pixels_and_nothing_overlaps) {
             Desktop().dots_per_inch = dots;
             form.Which_Style(static_cast<std::int16_t>(style));
             const Rect first = Pixels_Of(form.Box_Lbl[0]), header = Pixels_Of(form.Day_Lbl[6]);
+            EXPECT_GE(header.height, 20 * dots / 96);
             EXPECT_EQ(first.height > 70 * dots / 96, style != 0) << "unknown ones are the square one";
             const int gap = Pixels_Of(form.Box_Lbl[1]).left - first.Right();
             EXPECT_GT(gap, 0);

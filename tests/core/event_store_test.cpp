@@ -172,12 +172,12 @@ TEST_F(Event_Store_Test, Random_Changes_Are_Undone_Byte_For_Byte) {
             former.push_back(files);
             {
                 const Undo_Log::Change change(store.Changes, "Edit");
+                const Undo_Log::Change inner(store.Changes, "belongs to the other");
                 for (std::size_t writes = upto(3) + 1; writes > 0; --writes) {
                     store.Load_File();
                     store.Check_For_Pre(std::to_string(upto(9) + 1) + "/1/2002", std::string(upto(5), 'a'),
                                         upto(4) == 0);
                 }
-                const Undo_Log::Change inner(store.Changes, "belongs to the other");
             }
             if (former.back() == files)
                 former.pop_back();

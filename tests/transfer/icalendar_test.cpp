@@ -80,16 +80,17 @@ TEST_F(Calendar_Files, give_their_events_to_the_days) {
          Event("SUMMARY:A|DTSTART:16040229|RRULE:FREQ=YEARLY|") +
              Event("SUMMARY:B|DTSTART:00010301|RRULE:freq=yearly;bymonth=3;bymonthday=1;interval=1|"),
          "29/2/9999=A|1/3/9999=B|", 2},
-        {"every year with a limit, and a rule of ordinals from the end",
+        {"every year with a limit, a rule of ordinals from the end, and every second week from a Sunday",
          Event("SUMMARY:A|DTSTART:20010410|RRULE:FREQ=YEARLY;COUNT=3|") +
-             Event("SUMMARY:M|DTSTART:19971026|RRULE:FREQ=YEARLY;BYMONTH=10;BYDAY=-1SU|"),
-         "10/4/2002=A|10/4/2003=A|27/10/2002=M|26/10/2003=M|", 2},
+             Event("SUMMARY:M|DTSTART:19971026|RRULE:FREQ=YEARLY;BYMONTH=10;BYDAY=-1SU|") +
+             Event("SUMMARY:S|DTSTART:20020303|RRULE:FREQ=WEEKLY;INTERVAL=2;COUNT=2|"),
+         "10/4/2002=A|10/4/2003=A|27/10/2002=M|26/10/2003=M|3/3/2002=S|17/3/2002=S|", 3},
         {"a rule of a zone to a time of UTC, an exception of UTC, and days beside the rule",
          "BEGIN:VTIMEZONE|TZID:Z|BEGIN:STANDARD|TZOFFSETTO:-0500|END:STANDARD|BEGIN:DAYLIGHT|TZOFFSETTO:-"
          "0400|"
          "END:DAYLIGHT|END:VTIMEZONE|" +
-             Event("SUMMARY:W|DTSTART;TZID=Z:20020304T200000|RRULE:FREQ=DAILY;UNTIL=20020308T010000Z|"
-                   "EXDATE:20020306T010000Z|RDATE;VALUE=PERIOD:20020401T200000/PT1H,20020402T200000/PT1H|"),
+             Event("SUMMARY:W|DTSTART;TZID=\"Z\":20020304T200000|RRULE:FREQ=DAILY;UNTIL=20020308T010000Z|"
+                   "EXDATE:20020306T010000Z|RDATE;VALUE=PERIOD:20020401T200000/PT1H,20020403T000000Z/PT1H|"),
          "4/3/2002=20:00 W|6/3/2002=20:00 W|7/3/2002=20:00 W|1/4/2002=20:00 W|2/4/2002=20:00 W|"},
         {"repetitions that are moved, cancelled and left out; another one of the same name",
          Event("UID:1|" + weekly + ";UNTIL=20020325|EXDATE;VALUE=DATE:20020318|") +
@@ -119,7 +120,7 @@ TEST_F(Calendar_Files, give_their_events_to_the_days) {
 TEST_F(Calendar_Files, join_the_records_and_hide_none) {
     const std::string before =
         Lines("\"1/4/9999=Fools\"|\"5/3/2002=Old \"|\"6/3/2002=A + B\"|\"25/12/2002=Pay\"|"
-              "\"7/3/9999=Y\"|\"7/3/2002=Z\"|\"7/3/2003=X\"|");
+              "\"7/3/9999=Y\"|\"7/3/2002=Z\"|\"7/3/2003=X + 2\"|");
     const std::string yearly = "RRULE:FREQ=YEARLY|";
     const std::string file =
         Calendar(Event("SUMMARY:New +|DTSTART:20020305|") + Event("SUMMARY:+ Mid|DTSTART:20020305|") +

@@ -212,6 +212,8 @@ TEST_F(Importing, that_fails_after_its_first_write_puts_the_file_back) {
 TEST_F(Importing, is_seen_while_it_takes_long_and_the_file_is_whole_then) {
     constexpr int count = 2000;
     File("C:\\in.csv") = Long_Table(count);
+    Fakes().painting = [] { ADD_FAILURE() << "progress of a short import"; };
+    Import(2, "C:\\in.csv", Imported(count));
     Data_File() = "";
     Fakes().clock_step = 300;
     std::vector<std::ptrdiff_t> merged;
@@ -265,6 +267,7 @@ TEST_F(Importing, takes_a_configuration_over_up_to_an_error) {
         if (taken)
             continue;
         EXPECT_EQ(form.Box_Lbl[20].Back_Colour(), 255);
+        EXPECT_EQ(dialog->Model().pointer, platform::Pointer_Shape::Arrow);
         EXPECT_EQ(dialog->Which_Tab() - 1, Settings_Frm::transfer_fra);
         Push(*dialog, dialog->Ok_Btn); // does not store what the pages showed before the import
         EXPECT_EQ(Stored("Tooltips"), stored) << bytes;

@@ -11,7 +11,7 @@ using Lines = std::vector<std::string>;
 TEST_F(Form_Test, wrapped_text) {
     const std::tuple<const char *, std::size_t, Lines> rows[] = {
         // A line holds ten characters.
-        {"exactlyten next", 3, {"exactlyten", "next"}},
+        {"exactlyten a exactlyten", 3, {"exactlyten", "a", "exactlyten"}},
         {"incomprehensible", 3, {"incomprehe", "nsible"}},
         {"a\r\nb\rc\n\nd\te \n\n", 9, {"a", "b", "c", "", "d e"}},
         {"one two three four five", 2, {"one two", "three f..."}},
