@@ -33,8 +33,6 @@ Events_Page::Events_Page(Frame &frame, Main_Frm &calendar) : Page(frame), calend
     Sort_Cbo.Select(0);
     Set_Access_Name(Events_Lst, "Events");
     Write_Labels();
-    Overview_Opt.Set_Checked(true);
-    Show_View(true);
     Wire_Events();
     Lay_Out();
 }

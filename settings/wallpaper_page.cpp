@@ -348,8 +348,6 @@ void Wallpaper_Page::Theme_Use_Chk_Click() {
     }
     Enable_Choices(Theme_Use_Chk.Checked());
     Preview_Sli_Change();
-    // The miniature screen may need a picture that is not loaded yet.
-    Load_Timer.Set_Enabled(shown_.pending || todays_.pending);
 }
 
 void Wallpaper_Page::Theme_Style_Chk_Click() {

@@ -72,6 +72,7 @@ TEST_F(Colours, the_selected_swatch_takes_what_is_picked_and_keeps_a_system_colo
     EXPECT_EQ(page.Preview_Month_Lbl.State().back_colour, 4934475);
     EXPECT_EQ(page.Preview_Prev_Lbl.Fore_Colour(), 0x00123456);
     Click(dialog, page.Col_Back_Pic);
+    Click(dialog, page.Col_Back_Lbl);
     Click(dialog, page.Pal);
     Push(dialog, page.Col_Other_Opt);
     EXPECT_EQ(Swatches(), (std::vector{picked, first[1], first[2], first[3], first[4], first[5]}))

@@ -67,9 +67,12 @@ TEST_F(Settings_Window, opens_at_the_stored_tab_and_stores_the_last_one_however_
     }
     EXPECT_TRUE(dialog->Model().title == "Settings" && dialog->Ok_Btn.State().is_default &&
                 dialog->Cancel_Btn.State().is_cancel);
+    Desktop().work_area.width = 1024;
+    form.Move(0, 600); // neither side has enough room
     for (const std::int16_t odd : std::initializer_list<std::int16_t>{-5, 0, 9, 32767}) {
         Cur_Settings.Settings_Tab = odd;
         form.Open_Settings();
+        EXPECT_LE(dialog->Model().bounds.Right(), 1024 * 15) << "on another monitor";
         EXPECT_EQ(Pages(), "0");
         EXPECT_FALSE(dialog->General.Alert_Chk.Checked()) << "left from the former dialog";
         Push(*dialog, dialog->General.Alert_Chk, true);
@@ -149,6 +152,7 @@ TEST_F(Settings_Window, previews_the_title_without_touching_a_setting) {
     Fakes().registry_refuses_writes = true;
     EXPECT_TRUE(lacks_rights());
     General_Page &page = dialog->General;
+    EXPECT_EQ(page.Bar_Preview_Lbl.Caption(), "5th March - 2002");
     const int writes = Fakes().registry_writes;
     for (const bool with_time : {false, true}) {
         Push(*dialog, page.Bar_Time_Chk, with_time);

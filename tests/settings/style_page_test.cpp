@@ -18,8 +18,8 @@ protected:
         Input(dialog, {.kind = platform::Input_Kind::Key_Down, .key = key}, &page.Pos_Preview_Img);
     }
 
-    enum Part { Title = 2, First_Box };
-    /// Returns the place of a part of the calendar in the miniature, in pixels of the screen.
+    enum Part { Title = 2, First_Box, Task_Bar = First_Box + 2 * 31 }; // after the boxes of March
+    /// Returns the place of a part of the miniature, in pixels of the screen.
     Rect Place(Part part) {
         platform::Canvas canvas;
         page.Pos_Preview_Img.State().paint(canvas, page.Pos_Preview_Img.Bounds());
@@ -96,6 +96,7 @@ TEST_F(Style, the_miniature_shows_the_calendar_where_it_will_be) {
             EXPECT_NEAR(Place(First_Box).height, form.Box_Lbl[10].Bounds().height / 15, 9);
         }
     }
+    EXPECT_NEAR(Place(Task_Bar).top, 740, 4);
     page.Set_Theme({});
     EXPECT_EQ(page.Position_Lbl.Caption(), "Bottom Right") << "the theme's has gone";
 }

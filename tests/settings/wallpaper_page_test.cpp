@@ -54,6 +54,7 @@ TEST_F(Themes_Page, shows_what_the_selected_pack_says) {
     for (const std::string march : {"1-4-2", "2-99-3", "x--99999"}) {
         Make_Pack("Default", "3=" + march);
         Open();
+        EXPECT_FALSE(Choices_Enabled() || Page().Display_Cbo.Enabled());
         EXPECT_EQ(Page().Packs_Cbo.Items(), (std::vector<std::string>{"Default", "Winter"}));
         EXPECT_EQ(Details(), march == "1-4-2"
                                  ? "Default|Display: Stretch|Box Style: Square Box|Position: Top Right"
@@ -146,6 +147,11 @@ TEST_F(Themes_Page, loads_only_the_picture_that_is_seen_and_tells_of_a_bad_one_i
     EXPECT_TRUE(!Page().Loading_Lbl.Visible() && in_the_frame().empty());
     EXPECT_EQ(Page().Current_Look().picture.width, 3);
     EXPECT_EQ(Fakes().loads, 4) << "March, June, May, which fails, and June";
+    for (int again = 0; again < 2; ++again, Desktop().Advance(50))
+        Choose(*dialog, Page().Packs_Cbo, 0);
+    EXPECT_EQ(Fakes().loads, 6) << "the user may have replaced the pictures";
+    Choose(*dialog, Page().Preview_Sli, 0, platform::Input_Kind::Scrolled);
+    EXPECT_EQ(Page().Preview_Sli.Caption(), "January") << "the least month";
 }
 
 TEST_F(Themes_Page, a_preview_leaves_all_as_it_was) {

@@ -108,6 +108,7 @@ TEST_F(Form_Test, the_mirror_is_told_of_the_program_s_changes_only_and_only_whil
         form.Low.Set_Frame_Colour(9);
         form.Set_Back_Colour(10);
     }
+    form.Set_Focus(form.Ok_Btn);
     form.Close();
     form.Low.Set_Caption("unheard");
     EXPECT_EQ(form.Taken(), "one two three; after; ");
@@ -117,7 +118,8 @@ TEST_F(Form_Test, the_mirror_is_told_of_the_program_s_changes_only_and_only_whil
                                                                   {"Low", Aspect::Appearance},
                                                                   {"Low", Aspect::Appearance},
                                                                   {"Low", Aspect::Appearance},
-                                                                  {"", Aspect::Appearance}}));
+                                                                  {"", Aspect::Appearance},
+                                                                  {"", Aspect::Focus}}));
 }
 
 TEST_F(Form_Test, a_window_that_was_lost_or_refused_is_made_by_the_next_show) {
