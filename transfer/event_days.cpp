@@ -175,7 +175,9 @@ bool Day_Finder::Find_Repetitions() {
                                repetitions_))
             return false;
     }
+    // Many rules may give the same moments, and each moment costs two conversions of the clock.
     std::sort(repetitions_.begin(), repetitions_.end());
+    repetitions_.erase(std::unique(repetitions_.begin(), repetitions_.end()), repetitions_.end());
     return true;
 }
 

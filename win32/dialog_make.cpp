@@ -171,7 +171,7 @@ bool Dialog_Window::Make_Control(const Control_State &control) {
         return false;
     Native &native = natives_[static_cast<std::size_t>(control.index)];
     native.window = Make_Native(control);
-    // The style alone does not show the window at once, but together with the dialog.
+    // With the style set, instead of a call to ShowWindow, the control appears together with the dialog.
     if (platform::Is_Shown(*Model(), control) && !IsWindowVisible(window_))
         SetWindowLongW(native.window, GWL_STYLE, GetWindowLongW(native.window, GWL_STYLE) | WS_VISIBLE);
     // The WS_DISABLED style alone is not enough: a combo box must also disable its text box.

@@ -14,7 +14,8 @@ public:
     Painted_Child(const Painted_Child &) = delete;
     Painted_Child &operator=(const Painted_Child &) = delete;
 
-    /// Creates the window at its place in the parent's pixels. Returns null on failure.
+    /// Creates the window, hidden, at `place` in the parent's client area, in pixels. `style` includes
+    /// WS_CHILD. Returns null on failure.
     HWND Make(HWND parent, int id, const Rect &place, DWORD style);
 
 private:

@@ -193,13 +193,13 @@ void Painted_Window::Control_Changed(const Control_State &control, Aspect aspect
 
 void Painted_Window::Invalidate_Whole() {
     InvalidateRect(window_, nullptr, FALSE);
-    // A window that the shell has hidden has nothing to paint and gets no WM_PAINT.
+    // A hidden window has nothing to paint and gets no WM_PAINT.
     whole_invalid_ = GetUpdateRect(window_, nullptr, FALSE) != FALSE;
 }
 
 void Painted_Window::Invalidate(const Rect &bounds) const {
     // The next WM_PAINT covers the bounds too. A new month changes its boxes some 140 times, and each call to
-    // the system takes 0.1 ms under Wine. A hidden window is painted as a whole once it is shown.
+    // the system takes 0.1 ms under Wine. A form that is not shown yet paints all of itself when it appears.
     if (whole_invalid_ || !Model()->visible)
         return;
     const RECT pixels = To_Pixels(bounds);

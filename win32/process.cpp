@@ -16,12 +16,15 @@ constexpr wchar_t Restart_Option[] = L"\" /again ";
 win32::Unique_Kernel_Handle claim;
 
 /// Returns a folder's path with long names and a separator at its end. The system may report folders with
-/// short (8.3) names, all of which have a '~' unless an administrator chose them.
+/// short (8.3) names. The names that it makes up contain a '~'.
 std::wstring Long_Folder(const std::wstring &folder) {
-    wchar_t name[MAX_PATH] = {};
-    const bool has_short = folder.find(L'~') != std::wstring::npos;
-    const DWORD length = has_short ? GetLongPathNameW(folder.c_str(), name, MAX_PATH) : 0;
-    std::wstring found = length == 0 || length >= MAX_PATH ? folder : std::wstring(name, length);
+    std::wstring found = folder;
+    if (folder.find(L'~') != std::wstring::npos) {
+        wchar_t name[MAX_PATH] = {};
+        const DWORD length = GetLongPathNameW(folder.c_str(), name, MAX_PATH);
+        if (length > 0 && length < MAX_PATH)
+            found.assign(name, length);
+    }
     if (!found.ends_with(L'\\'))
         found += L'\\';
     return found;

@@ -18,12 +18,13 @@ public:
     Tooltips &operator=(const Tooltips &) = delete;
     ~Tooltips() { Window_Gone(); }
 
-    /// Updates the tools to match the controls. Creates the tooltip window for the first text, for a painted
-    /// form not before the first Relay, as that would delay the start. `windows` holds the controls' own
-    /// windows, null for a control without one. It is empty for a painted form.
+    /// Updates the tools to match the controls. Creates the tooltip window with the first text. For a painted
+    /// form it waits for the first Relay, so that the program starts faster. `windows` holds the controls'
+    /// own windows, null for a control without one. It is empty for a painted form.
     void Update(HWND owner, const platform::Form_Model &model, std::vector<HWND> windows = {});
     /// Passes a mouse message of a painted form's window to the tooltip window, which then need not subclass
-    /// the form's window. Under Wine, a subclass costs three requests to the server for each message.
+    /// the form's window. Under Wine, a subclass costs three requests to the server for each message. The
+    /// first call creates the tools.
     void Relay(HWND owner, const platform::Form_Model &model, UINT message, WPARAM wparam, LPARAM lparam);
     /// Hides the visible tip, because the user is doing something else.
     void Pop() const;
