@@ -4,6 +4,11 @@
 #include "tests/fakes/fake_forms.h"
 #include "tests/fakes/fake_test.h"
 
+inline bool Inside(const Rect &inner, const Rect &outer) {
+    return inner.left >= outer.left && inner.top >= outer.top && inner.Right() <= outer.Right() &&
+           inner.Bottom() <= outer.Bottom();
+}
+
 class Form_Test : public Fake_Test {
 protected:
     Form_Test() { Reset_Desktop(); }

@@ -8,11 +8,6 @@ using platform::Mouse_Button;
 
 namespace {
 
-bool Inside(const Rect &inner, const Rect &outer) {
-    return inner.left >= outer.left && inner.top >= outer.top && inner.Right() <= outer.Right() &&
-           inner.Bottom() <= outer.Bottom();
-}
-
 class Settings_Window : public Settings_Dialog {
 protected:
     /// Returns the numbers of the visible pages.

@@ -45,19 +45,15 @@ TEST(Balloon_Shape, stands_whole_on_the_screen_beside_the_mouse) {
         {{-3000, 6000}, 10900, Balloon_Side::Left},   {{-1, 11299}, 10900, Balloon_Side::Left},
         {{-8000, 5500}, 5100, Balloon_Side::Below},
     };
-    const auto within = [](const Rect &outer, const Rect &inner) {
-        return inner.left >= outer.left && inner.Right() <= outer.Right() && inner.top >= outer.top &&
-               inner.Bottom() <= outer.Bottom();
-    };
     for (const auto &row : rows) {
         SCOPED_TRACE(&row - rows);
         const Balloon_Place place = Place_Balloon(row.mouse, work, {4680, row.height});
         EXPECT_EQ(place.side, row.side);
-        EXPECT_TRUE(within(work, place.body) && !place.body.Contains(row.mouse));
+        EXPECT_TRUE(Inside(place.body, work) && !place.body.Contains(row.mouse));
         EXPECT_LE(std::abs(place.tip.x - row.mouse.x) + std::abs(place.tip.y - row.mouse.y), 300);
         const std::vector<Point> outline = Balloon_Outline(place);
         for (const Point corner : outline)
-            EXPECT_TRUE(within(Window_Of(place), {corner.x, corner.y, 0, 0}));
+            EXPECT_TRUE(Inside({corner.x, corner.y, 0, 0}, Window_Of(place)));
         const auto tip = std::find(outline.begin(), outline.end(), place.tip);
         ASSERT_TRUE(tip != outline.end());
         EXPECT_EQ(std::abs(tip[1].x - tip[-1].x) + std::abs(tip[1].y - tip[-1].y), 240) << "its foot";
