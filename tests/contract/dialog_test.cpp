@@ -79,8 +79,9 @@ protected:
         log_ += event.kind == Input_Kind::Text_Changed ? event.text
                 : event.kind == Input_Kind::Clicked    ? (event.checked ? "on" : "off")
                 : event.kind == Input_Kind::Key_Down   ? std::to_string(event.key)
-                : event.kind <= Input_Kind::Mouse_Move ? std::to_string(event.point.x)
-                                                       : std::to_string(event.selected);
+                : event.kind <= Input_Kind::Mouse_Move
+                    ? "-LRM"[static_cast<int>(event.button)] + std::to_string(event.point.x)
+                    : std::to_string(event.selected);
         log_ += "; ";
     }
 
@@ -138,8 +139,7 @@ TEST_F(Dialog_Contract, The_Form_Hears_What_The_User_Does) {
         {[this] { SendMessageA(Typed_Text(), EM_REPLACESEL, 0, reinterpret_cast<LPARAM>(" yz ")); },
          "text 7 x yz ; "},
         {[this] { Type(Typed, VK_BACK, true); }, "text 7 x ; "},
-        {[this] { SendMessageW(GetWindow(Native(Typed), GW_CHILD), WM_CHAR, L'\u65E5', 0); },
-         "text 7 x \u65E5; "},
+        {[this] { SendMessageW(Typed_Text(), WM_CHAR, L'\u65E5', 0); }, "text 7 x \u65E5; "},
         {[this] { Send(List, LB_SETCURSEL, 1), Notify(List, LBN_SELCHANGE); }, "selected 8 1; "},
         {[this] { Notify(List, LBN_DBLCLK); }, "activated 8 1; "},
         {[this] { Type(List, VK_DELETE), Type(List, VK_RETURN); }, "key 8 46; key 8 13; "},
@@ -150,8 +150,8 @@ TEST_F(Dialog_Contract, The_Form_Hears_What_The_User_Does) {
         {[this] { Send(Thumb, WM_KEYDOWN, VK_LEFT), Send(Thumb, WM_KEYUP, VK_LEFT); }, ""},
         {[this] { Send(Thumb, WM_KEYDOWN, VK_RIGHT), Send(Thumb, WM_KEYUP, VK_RIGHT); },
          "scroll 9 2; selected 9 2; "},
-        {[this] { Send(Picture, WM_LBUTTONDOWN, MK_LBUTTON, 4); }, "down 11 " + twips(4) + "; "},
-        {[this] { Send(Picture, WM_LBUTTONUP, 0, 6); }, "up 11 " + twips(6) + "; "},
+        {[this] { Send(Picture, WM_LBUTTONDOWN, MK_LBUTTON, 4); }, "down 11 L" + twips(4) + "; "},
+        {[this] { Send(Picture, WM_LBUTTONUP, 0, 6); }, "up 11 L" + twips(6) + "; "},
         {[this] { Type(Picture, VK_LEFT), Type(Picture, VK_SPACE); }, "key 11 37; click 11 off; "},
         {[this] { Type(Picture, VK_RETURN); }, ""}, // the default button gets the key
         {[this] { controls_[Picture].access.default_action = "Pick", Type(Picture, VK_RETURN); },
@@ -174,12 +174,10 @@ TEST_F(Dialog_Contract, Its_Own_Changes_Show_And_Are_Not_Told) {
     controls_[Thumb].value = 40;
     controls_[Bar].value = 60;
     controls_[Opt_2].checked = controls_[Check].checked = true;
-    for (const int index : {Thumb, Bar})
-        Change(index, Aspect::Selected);
-    for (const int index : {Opt_2, Check})
-        Change(index, Aspect::Checked);
+    Change(Thumb, Aspect::Selected), Change(Bar, Aspect::Selected);
+    Change(Opt_2, Aspect::Checked), Change(Check, Aspect::Checked);
     EXPECT_TRUE(Send(Tabs, TCM_GETCURSEL) == 3 && Send(Combo, CB_GETCURSEL) == 3 &&
-                Send(List, LB_GETCURSEL) == 3);
+                Send(List, LB_GETCURSEL) == 3 && Send(Combo, CB_GETCOUNT) == 4);
     EXPECT_TRUE(Send(Thumb, TBM_GETPOS) == 40 && Send(Bar, PBM_GETPOS) == 60);
     EXPECT_TRUE(Send(Opt_2, BM_GETCHECK) == BST_CHECKED && Send(Check, BM_GETCHECK) == BST_CHECKED);
     const auto has_stop = [this](int index) { return GetWindowLongW(Native(index), GWL_STYLE) & WS_TABSTOP; };
@@ -199,6 +197,9 @@ TEST_F(Dialog_Contract, Its_Own_Changes_Show_And_Are_Not_Told) {
 
 TEST_F(Dialog_Contract, On_A_Screen_Of_Another_Scale_It_Follows_That_And_Nothing_Else_Does) {
     const int calendar_dots = platform::Dots_Per_Inch();
+    NONCLIENTMETRICSW users = {};
+    users.cbSize = sizeof users;
+    SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, users.cbSize, &users, 0);
     for (const int dots : {192, 144, 0, calendar_dots}) {
         RECT wanted = {40, 50, 400, 500}, client = {}, part = {};
         SendMessageW(window_, WM_DPICHANGED, static_cast<WPARAM>(MAKELONG(dots, dots)),
@@ -215,8 +216,9 @@ TEST_F(Dialog_Contract, On_A_Screen_Of_Another_Scale_It_Follows_That_And_Nothing
         LOGFONTW font = {};
         GetObjectW(reinterpret_cast<HGDIOBJ>(Send(List, WM_GETFONT)), sizeof font, &font);
         EXPECT_EQ(font.lfHeight, -Scale_Nearest(controls_[List].font.tenth_points, now, 720));
+        EXPECT_STREQ(font.lfFaceName, users.lfMessageFont.lfFaceName);
         Take_Log(), Send(Picture, WM_LBUTTONDOWN, MK_LBUTTON, 40), Send(Picture, WM_LBUTTONUP, 0, 40);
-        const std::string at = " 11 " + std::to_string(Pixels_To_Twips(40, now)) + "; ";
+        const std::string at = " 11 L" + std::to_string(Pixels_To_Twips(40, now)) + "; ";
         EXPECT_EQ(Take_Log(), "down" + at + "up" + at);
         EXPECT_EQ(heard_at_, calendar_dots) << "the form's own code";
     }
@@ -249,8 +251,7 @@ TEST_F(Dialog_Contract, Beside_A_Message_Box_Nothing_Changes) {
     controls_[Opt_1].checked = true;
     Change(Opt_1, Aspect::Checked);
     const win32::Modal_Scope box(nullptr);
-    for (const int index : {Opt_2, Check})
-        Send(index, BM_CLICK);
+    Send(Opt_2, BM_CLICK), Send(Check, BM_CLICK);
     Press_Tab(1);
     Send(Picture, WM_LBUTTONDOWN, MK_LBUTTON, 0);
     Type(List, VK_DELETE);

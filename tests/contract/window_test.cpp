@@ -7,6 +7,8 @@
 
 #ifndef _WIN32
 #include "tests/fakes/fake_forms.h"
+#else
+#include <oleacc.h>
 #endif
 
 namespace {
@@ -51,8 +53,11 @@ TEST_F(Window_Contract, Its_Place_Is_Where_It_Is_And_It_Can_Be_Put_Back) {
 }
 
 #ifdef _WIN32
-TEST_F(Window_Contract, Long_Work_Drops_Input_Of_Every_Window) {
+TEST_F(Window_Contract, Long_Work_Drops_Its_Input_And_Assistive_Technology_Finds_Its_Parts) {
     platform::Form_Model model;
+    platform::Control_State part;
+    part.access.role = platform::Access_Role::Cell;
+    model.controls = {&part};
     std::vector<platform::Input_Kind> came;
     model.kind = platform::Form_Kind::Painted;
     model.name = "Contract_Painted";
@@ -64,7 +69,15 @@ TEST_F(Window_Contract, Long_Work_Drops_Input_Of_Every_Window) {
     platform::Paint_Waiting();
     platform::Process_Waiting_Messages();
     EXPECT_EQ(came, std::vector{platform::Input_Kind::Close});
+    void *object = nullptr;
+    AccessibleObjectFromWindow(window, static_cast<DWORD>(OBJID_CLIENT), IID_IAccessible, &object);
+    auto *const accessible = static_cast<IAccessible *>(object);
+    VARIANT children[2] = {};
+    long count = 0;
+    EXPECT_TRUE(AccessibleChildren(accessible, 0, 2, children, &count) == S_FALSE && count == 1);
     platform::Destroy_Mirror(model);
+    EXPECT_EQ(AccessibleChildren(accessible, 0, 2, children, &count), CO_E_OBJNOTCONNECTED);
+    accessible->Release();
 }
 #endif
 

@@ -290,24 +290,17 @@ std::vector<Item> Program::Items(long role, std::size_t most) const {
     return items;
 }
 
-Item Program::Named(std::string_view name) const {
+Item Program::Named(std::string_view name, bool act) const {
     if (const Accessible accessible = Accessible_Of(Calendar()))
         for (const VARIANT &child : Children_Of(*accessible))
             if (Text_Of(*accessible, &IAccessible::get_accName, child) == name)
-                return Item_Of(*accessible, child);
+                return act ? accessible->accDoDefaultAction(child), Item{} : Item_Of(*accessible, child);
     return {};
 }
 
 std::string Program::Title() const {
     const std::vector<Item> titles = Items(ROLE_SYSTEM_STATICTEXT, 1);
     return titles.empty() ? "" : titles.front().name;
-}
-
-void Program::Do_Default(std::string_view name) const {
-    if (const Accessible accessible = Accessible_Of(Calendar()))
-        for (const VARIANT &child : Children_Of(*accessible))
-            if (Text_Of(*accessible, &IAccessible::get_accName, child) == name)
-                accessible->accDoDefaultAction(child);
 }
 
 HWND Program::Box_Window() const {
@@ -331,12 +324,12 @@ std::string Program::Box() const {
     return icon + "[" + Text_Of(box) + "] " + text;
 }
 
-std::string Program::Host_File(const wchar_t *name) const {
+long Program::Processor_Ticks() const {
     wchar_t path[MAX_PATH] = L"";
     DWORD length = std::size(path);
     QueryFullProcessImageNameW(process_, 0, path, &length);
     WIN32_FIND_DATAW found;
-    std::string text;
+    std::string stat;
     // The program's path contains the test's name, so it identifies the process.
     const auto read = [&found](const wchar_t *file_name) {
         std::ifstream file(std::filesystem::path(L"Z:\\proc\\") /
@@ -348,16 +341,10 @@ std::string Program::Host_File(const wchar_t *name) const {
     const HANDLE search = FindFirstFileW(L"Z:\\proc\\*", &found);
     do {
         if (read(L"\\cmdline") == Utf8({path, length}))
-            text = read(name);
-    } while (text.empty() && FindNextFileW(search, &found));
+            stat = read(L"\\stat");
+    } while (stat.empty() && FindNextFileW(search, &found));
     FindClose(search);
-    return text;
-}
-
-long Program::Processor_Ticks() const {
-    const std::string stat = Host_File(L"\\stat");
-    long user = 0;
-    long system = 0;
+    long user = 0, system = 0;
     if (stat.empty() ||
         std::sscanf(stat.c_str() + stat.rfind(')'), ") %*c %*d %*d %*d %*d %*d %*u %*u %*u %*u %*u %ld %ld",
                     &user, &system) != 2)

@@ -94,11 +94,11 @@ public:
     /// Returns the calendar's items of a role, or all with 0; none if the calendar is missing or does not
     /// answer.
     std::vector<Item> Items(long role = 0, std::size_t most = SIZE_MAX) const;
-    /// Returns the item with that name, or an empty one.
-    Item Named(std::string_view name) const;
+    /// Returns the item with that name, or an empty one. With `act`, performs its default action instead.
+    Item Named(std::string_view name, bool act = false) const;
     std::string Title() const;
     /// Performs an item's default action as assistive technology does.
-    void Do_Default(std::string_view name) const;
+    void Do_Default(std::string_view name) const { Named(name, true); }
 
     /// Returns the open message box as "[Vellatro] text", with "stop " or "warning " in front for those
     /// icons; empty if there is no box.
@@ -118,8 +118,6 @@ public:
     HWND Open_Settings() const;                        ///< through a day's menu
     void Press(WORD key, bool with_alt = false) const; ///< activates the calendar first
 
-    /// Returns the contents of the host's /proc file with that name for this process; empty if there is none.
-    std::string Host_File(const wchar_t *name) const;
     long Processor_Ticks() const; ///< used so far, in hundredths of a second; -1 if unknown
     std::ptrdiff_t Gdi_Objects() const { return ::Gdi_Objects(process_); }
     std::ptrdiff_t Windows(bool only_visible) const;

@@ -49,8 +49,8 @@ TEST_F(Calendar_Files, give_their_events_to_the_days) {
          Event(day + "summary;LANGUAGE=de;X-A=\"a:b;c\":Caf\xC3| \xA9\\, \\\"x\\\" 1\\;2| \t\\\\ a\\nb "
                      "|LOCATION: Room 1\\, 2|"),
          one + "Caf\xC3\xA9, 'x' 1;2 \\ a b, Room 1, 2|"},
-        {"the first line of a description for an empty summary",
-         Event(day + "SUMMARY: |DESCRIPTION:\\n First \\nSecond|LOCATION:L|"), one + "First, L|"},
+        {"the first line of a description for an empty summary, and the first of two places",
+         Event(day + "SUMMARY: |DESCRIPTION:\\n First \\nSecond|LOCATION:L|LOCATION:M|"), one + "First, L|"},
         {"what is inside of an event or beside it",
          "BEGIN:VTIMEZONE|TZID:Z|BEGIN:STANDARD|DTSTART:19700101T000000|RRULE:FREQ=YEARLY|TZOFFSETTO:+0100|"
          "END:STANDARD|"
