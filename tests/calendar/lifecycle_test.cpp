@@ -36,8 +36,10 @@ TEST_F(Lifecycle, an_idle_second_tells_the_window_nothing) {
     EXPECT_TRUE(Desktop().announced.empty() && Fakes().reads == reads);
     Fakes().now.minute = 31;
     Desktop().Advance(2000);
+    Desktop().Say(Broadcast::Colours_Changed);
     EXPECT_EQ(Desktop().announced,
-              (std::vector<Announced_Change>{{"Which_Month_Lbl", platform::Aspect::Caption}}));
+              (std::vector<Announced_Change>{{"Which_Month_Lbl", platform::Aspect::Caption},
+                                             {"", platform::Aspect::Appearance}}));
     Fakes().months[2] = "Mars"; // the title follows the regional settings
     Fakes().first_weekday = 1;
     Desktop().Say(Broadcast::Settings_Changed);

@@ -127,8 +127,7 @@ TEST_F(Event_Store_Test, A_Note_Between_The_Records_Is_Told_And_Hides_None) {
     for (int reading = 0; reading < 3; ++reading)
         Fakes().Expect_Box(loading_failed); // once for each read
     const Stored_Message message = store.Get_Message("5/3/2002");
-    EXPECT_EQ(message.text, "B");
-    EXPECT_TRUE(message.every_year && !message.incomplete);
+    EXPECT_TRUE(message.text == "B" && message.every_year && !message.incomplete);
     EXPECT_EQ(Entered(), (Items{"5/3/2002=A", "6/3/2002=bad", "5/3/9999=B"}));
     Items shown;
     EXPECT_FALSE(store.Load_Dates([&](std::string_view record) {

@@ -98,23 +98,6 @@ void Double_Click(Form &form, const Control &control) {
     Release(form, control);
 }
 
-void Press_Key(Form &form, int key) {
-    for (const Input_Kind kind : {Input_Kind::Key_Down, Input_Kind::Key_Up})
-        Input(form, {.kind = kind, .key = key});
-}
-
-void Push(Form &form, const Control &control, bool checked) {
-    Input(form, {.kind = Input_Kind::Clicked, .checked = checked}, &control);
-}
-
-void Enter_Text(Form &form, const Control &control, const std::string &text) {
-    Input(form, {.kind = Input_Kind::Text_Changed, .text = text}, &control);
-}
-
-void Choose(Form &form, const Control &control, int item, Input_Kind kind) {
-    Input(form, {.kind = kind, .selected = item}, &control);
-}
-
 namespace platform {
 
 void Create_Mirror(const Form_Model &model) {

@@ -128,11 +128,20 @@ void Release(Form &form, const Control &control,
              platform::Mouse_Button button = platform::Mouse_Button::Left);
 void Click(Form &form, const Control &control, platform::Mouse_Button button = platform::Mouse_Button::Left);
 void Double_Click(Form &form, const Control &control);
-void Press_Key(Form &form, int key);
+inline void Press_Key(Form &form, int key) {
+    for (const auto kind : {platform::Input_Kind::Key_Down, platform::Input_Kind::Key_Up})
+        Input(form, {.kind = kind, .key = key});
+}
 
 // These send what a native control of a dialog reports.
-void Push(Form &form, const Control &control, bool checked = false);
-void Enter_Text(Form &form, const Control &control, const std::string &text);
+inline void Push(Form &form, const Control &control, bool checked = false) {
+    Input(form, {.kind = platform::Input_Kind::Clicked, .checked = checked}, &control);
+}
+inline void Enter_Text(Form &form, const Control &control, const std::string &text) {
+    Input(form, {.kind = platform::Input_Kind::Text_Changed, .text = text}, &control);
+}
 /// Selects an item, or sets a slider to a value: with the kind Scrolled, the slider is still moving.
-void Choose(Form &form, const Control &control, int item,
-            platform::Input_Kind kind = platform::Input_Kind::Selected);
+inline void Choose(Form &form, const Control &control, int item,
+                   platform::Input_Kind kind = platform::Input_Kind::Selected) {
+    Input(form, {.kind = kind, .selected = item}, &control);
+}

@@ -113,7 +113,8 @@ TEST_F(Events_Page_Test, removes_the_event_of_the_line) {
         Events(rest);
         EXPECT_EQ(after, Data_File()) << row.line;
         EXPECT_TRUE(page.Events_Lst.Items().size() == 4 &&
-                    page.Events_Lst.Selected() == std::min(row.line, 3));
+                    page.Events_Lst.Selected() == std::min(row.line, 3) &&
+                    !page.Countdown_Lbl.Caption().empty());
         EXPECT_EQ(form.Which_Month_Lbl.Caption() == "stale", row.record != 0);
         form.Compacted = false;
     }

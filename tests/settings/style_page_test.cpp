@@ -14,10 +14,6 @@ protected:
         dialog.Show();
     }
 
-    void Use_Key(int key) {
-        Input(dialog, {.kind = platform::Input_Kind::Key_Down, .key = key}, &page.Pos_Preview_Img);
-    }
-
     enum Part { Title = 2, First_Box, Task_Bar = First_Box + 2 * 31 }; // after the boxes of March
     /// Returns the place of a part of the miniature, in pixels of the screen.
     Rect Place(Part part) {
@@ -48,13 +44,12 @@ TEST_F(Style, nine_places_are_chosen_by_mouse_and_keyboard) {
         EXPECT_EQ(page.Position_Lbl.Caption(), Positions[codes[i]].name);
     }
     for (const int key : {Key_Left, Key_Up, Key_Up, Key_Up, Key_Left, Key_Down})
-        Use_Key(key);
+        Input(dialog, {.kind = platform::Input_Kind::Key_Down, .key = key}, &page.Pos_Preview_Img);
     EXPECT_EQ(page.Position_Lbl.Caption(), "Center Left");
     Push(dialog, page.Pos_Manual_Opt);
     EXPECT_EQ(page.Position_Lbl.Caption(), "Manual");
-    EXPECT_EQ(page.Get_Set_Position(), 9);
     page.Pos_Set_Opt.Set_Enabled(false);
-    Use_Key(Key_Up);
+    Input(dialog, {.kind = platform::Input_Kind::Key_Down, .key = Key_Up}, &page.Pos_Preview_Img);
     EXPECT_EQ(page.Get_Set_Position(), 9) << "the miniature goes with its option";
 }
 
@@ -68,7 +63,9 @@ TEST_F(Style, the_settings_are_shown_also_odd_ones) {
         EXPECT_EQ(page.Pos_Manual_Opt.Checked(), alignment == 7);
         EXPECT_EQ(page.Get_Set_Position(), alignment == 8 ? 8 : 0);
     }
-    for (Label *example : {&page.Example2_Lbl, &page.Example3_Lbl}) {
+    for (Control *example :
+         std::initializer_list<Control *>{&page.Example2_Lbl, &page.Example3_Lbl, &page.Backdrop1_Pic}) {
+        page.Style1_Opt.Set_Enabled(example != &page.Backdrop1_Pic);
         Click(dialog, *example);
         EXPECT_EQ(page.Style1_Opt.Checked(), example == &page.Example2_Lbl);
     }

@@ -89,11 +89,14 @@ TEST_F(Themes_Page, refuses_packs_that_are_not_whole_and_themes_without_packs) {
     Open();
     Use_Themes(true);
     Slide(11);
-    Fakes().files.erase(In_Pack("Winter", "12.jpg")); // while the dialog is open
-    Fakes().Expect_Box("Error Loading Theme.");
-    Choose(*dialog, Page().Packs_Cbo, 1);
-    Desktop().Advance(50);
-    EXPECT_EQ(Page().Packs_Cbo.Text(), "Default");
+    Fakes().files.erase(In_Pack("Winter", "12.jpg"));  // while the dialog is open
+    for (const std::string stored : {"", "Default"}) { // the stored pack takes its place if there is one
+        Cur_Settings.Pack_Name = stored;
+        Fakes().Expect_Box("Error Loading Theme.");
+        Choose(*dialog, Page().Packs_Cbo, 1);
+        Desktop().Advance(50);
+        EXPECT_EQ(Page().Packs_Cbo.Text(), stored);
+    }
     EXPECT_TRUE(Page().Preview_Sli.Value() == 3 && Page().Current_Look().picture.width == 3);
     Fakes().files.clear();
     Open();
@@ -208,7 +211,8 @@ TEST_F(Themes_Page, a_preview_leaves_all_as_it_was) {
             Fakes().Expect_Box("In C:\\Vellatro\\Winter\\settings.ini the position of month 2 is \"x\", "
                                "but must be a whole number from -32768 to 32767. Your own is used.");
         if (end == pack_gone) {
-            Fakes().Expect_Box("Missing Theme Winter. Themes will now be disabled.");
+            Fakes().Expect_Box("Missing Theme Winter. Themes will now be disabled.", platform::Box_Answer::Ok,
+                               [] { Desktop().Advance(9000); });
             std::erase_if(Fakes().files, [](const auto &file) { return file.first[12] == 'W'; });
         }
         Desktop().Advance(end == by_itself ? 35'900 : 5'000);

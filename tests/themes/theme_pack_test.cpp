@@ -11,10 +11,6 @@ protected:
     static std::string In_Pack(const std::string &name) { return "C:\\Vellatro\\Hills\\" + name; }
 
     static bool Has(const std::string &name) { return Fakes().files.contains(In_Pack(name)); }
-
-    std::string Details(std::int16_t month, const std::string &pack = "Hills") {
-        return Main_Frm::Get_Paper_Details(month, pack);
-    }
 };
 
 TEST_F(Theme_Pack, Names_Lead_Nowhere_Else) {
@@ -25,11 +21,11 @@ TEST_F(Theme_Pack, Names_Lead_Nowhere_Else) {
           "C:",  "C:a",     "a*",     "a?",   "a\"",      "a<",          "a|",    "a\nb", "\x7F",
           "con", "NUL.txt", "Aux .x", "lpt0", "COM9.a.b", "COM\xC2\xB2", "conin$"})
         EXPECT_FALSE(Is_Pack_Name(name)) << name;
-    for (const char *name : {"b", "A", "c\\more", "none"})
+    for (const char *name : {"B", "a", "c\\more", "none"})
         Fakes().files[std::string("C:\\Vellatro\\") + name + "\\settings.ini"] = "";
     Fakes().files.erase("C:\\Vellatro\\none\\settings.ini");
     Fakes().folders = {"C:\\Vellatro\\none", "C:\\Vellatro\\d", "C:\\Vellatro\\d\\settings.ini"};
-    EXPECT_EQ(Find_Packs(), (std::vector<std::string>{"A", "b"}));
+    EXPECT_EQ(Find_Packs(), (std::vector<std::string>{"a", "B"}));
 }
 
 TEST_F(Theme_Pack, Details_Are_Read_Field_By_Field) {
@@ -44,7 +40,7 @@ TEST_F(Theme_Pack, Details_Are_Read_Field_By_Field) {
                  {"", ""}};
     for (const auto &[bytes, march] : cases) {
         Fakes().files[In_Pack("settings.ini")] = bytes;
-        EXPECT_EQ(Details(3), march) << bytes;
+        EXPECT_EQ(Main_Frm::Get_Paper_Details(3, "Hills"), march) << bytes;
     }
     const std::pair<const char *, const char *> values[] = {{"2-4-1", "2|4|1"},     {"", "||"},
                                                             {"2", "2||"},           {"--", "||"},
@@ -60,7 +56,7 @@ TEST_F(Theme_Pack, A_Missing_Pack_Ends_The_Use_Of_Themes_And_An_Unreadable_One_D
             Fakes().files["C:\\Vellatro\\" + pack + "\\settings.ini"] = "3=1-1-1";
         Cur_Settings.Use_Themes = 1;
         Fakes().Expect_Box("Missing Theme " + pack + ". Themes will now be disabled.");
-        EXPECT_EQ(Details(3, pack), "ERROR");
+        EXPECT_EQ(Main_Frm::Get_Paper_Details(3, pack), "ERROR");
         EXPECT_EQ(std::exchange(Fakes().registry["Software\\Vellatro\\Settings\\Use Themes"], ""), "0");
     }
     EXPECT_EQ(Fakes().wallpapers, std::vector<std::string>(4));
@@ -72,7 +68,7 @@ TEST_F(Theme_Pack, A_Missing_Pack_Ends_The_Use_Of_Themes_And_An_Unreadable_One_D
         if (held)
             Fakes().unreadable = {In_Pack("settings.ini")};
         Fakes().Expect_Box("Error loading in Settings file...\r\n\r\n" + In_Pack("settings.ini"));
-        EXPECT_EQ(Details(3), "ERROR");
+        EXPECT_EQ(Main_Frm::Get_Paper_Details(3, "Hills"), "ERROR");
     }
     EXPECT_TRUE(Fakes().registry_writes == 0 && Fakes().wallpapers.size() == 4);
 }

@@ -47,8 +47,7 @@ TEST_F(Form_Test, twips_and_pixels) {
                                {110, 13, 1, 13},  {288, 5, 1, 5},    {96, 2000000000, 133333333, 1999999995}};
     for (const auto &[dots, twips, pixels, snapped] : rows) {
         Desktop().dots_per_inch = dots;
-        EXPECT_EQ(Twips_To_Pixels(twips), pixels) << twips << " at " << dots;
-        EXPECT_EQ(Snap(twips), snapped) << twips << " at " << dots;
+        EXPECT_TRUE(Twips_To_Pixels(twips) == pixels && Snap(twips) == snapped) << twips << " at " << dots;
         for (int i = -50; i < 2000; ++i)
             ASSERT_EQ(Twips_To_Pixels(Pixels_To_Twips(i)), i) << dots;
     }

@@ -183,7 +183,8 @@ TEST_F(Importing, that_fails_after_its_first_write_puts_the_file_back) {
     Fakes().clock_step = 300;
     const std::string old = Quoted("'6/3/2002=Old'\r\n");
     for (const bool for_good : {false, true}) {
-        Data_File() = old;
+        Data_File() = "";
+        Fakes().painting = [&] { Data_File() = Data_File().empty() ? old : Data_File(); }; // a saved text
         const int second = Fakes().writes + 4; // two writes make the backup, the third merges the first part
         Fakes().file_fails = [=](const std::string &path) {
             return path == "C:\\Vellatro\\calendar.dat" &&
@@ -238,8 +239,7 @@ TEST_F(Importing, is_seen_while_it_takes_long_and_the_file_is_whole_then) {
     Import(2, "C:\\in.csv", Imported(count));
     EXPECT_TRUE(merged.size() > 3 && shown > 90);
     EXPECT_EQ(std::count(Data_File().begin(), Data_File().end(), 'x'), count + 1);
-    EXPECT_FALSE(page.Progress_Bar1.Visible());
-    EXPECT_EQ(dialog->Model().pointer, platform::Pointer_Shape::Arrow);
+    EXPECT_TRUE(!page.Progress_Bar1.Visible() && dialog->Model().pointer == platform::Pointer_Shape::Arrow);
     EXPECT_TRUE(Text_Of(1).starts_with("0 - x + 0"));
 }
 
@@ -256,7 +256,8 @@ TEST_F(Importing, takes_a_configuration_over_up_to_an_error) {
         {"Tooltips=2,Tooltips=abc,Style=1", false, "2"},
         {"\"Tooltips=1", false, "2"}};
     for (const auto &[bytes, taken, stored] : cases) {
-        Open(Settings_Frm::transfer_fra);
+        Open(Settings_Frm::about_fra);
+        Choose(*dialog, dialog->TabStrip1, Settings_Frm::transfer_fra);
         File("C:\\in.ini") = bytes;
         Import(1, "C:\\in.ini",
                taken ? "Loaded configuration file successfully."
@@ -273,15 +274,13 @@ TEST_F(Importing, takes_a_configuration_over_up_to_an_error) {
         EXPECT_EQ(Stored("Tooltips"), stored) << bytes;
     }
     EXPECT_EQ(Stored("Alignment") + Stored("Bar Time Format"), "3H, mm");
-    EXPECT_EQ(Cur_Settings.Alignment, 3);
     form.Which_Month_Lbl_DblClick(); // in compact mode, the title also follows colours and position
     const int top = form.Top();
     Open(Settings_Frm::transfer_fra);
     File("C:\\in.ini") = "Col_Fore=255\nTaskPos=0\nBar_Date_Format=mm/yyyy\n";
     Import(1, "C:\\in.ini", "Loaded configuration file successfully.");
-    EXPECT_EQ(form.Which_Month_Lbl.Fore_Colour(), 255);
     EXPECT_EQ(form.Which_Month_Lbl.Caption(), "03/2002");
-    EXPECT_TRUE(form.Compacted && form.Top() != top);
+    EXPECT_TRUE(form.Compacted && form.Top() != top && form.Which_Month_Lbl.Fore_Colour() == 255);
 }
 
 TEST_F(Importing, replaces_the_data_file_when_the_user_agrees) {

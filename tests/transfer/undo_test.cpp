@@ -4,6 +4,8 @@
 #include "tests/transfer/transfer_test.h"
 #include "toolkit/keys.h"
 
+using platform::Input_Kind;
+
 namespace {
 
 class Undoing : public Transfer_Test {
@@ -11,10 +13,7 @@ protected:
     Undoing() { form.Close_Settings(); }
 
     void Undo_Key(bool repeated = false) {
-        Input(form, {.kind = platform::Input_Kind::Key_Down,
-                     .key = Key_Z,
-                     .repeated = repeated,
-                     .control_key = true});
+        Input(form, {.kind = Input_Kind::Key_Down, .key = Key_Z, .repeated = repeated, .control_key = true});
     }
     void Choose(int day, const std::string &change, int item) {
         Desktop().expected_menus.push_back(
@@ -26,11 +25,6 @@ protected:
         editor.Edit_Box(Index_Of(day));
         Enter_Text(editor, editor.Message_Txt, text);
         Push(editor, editor.Ok_Btn);
-    }
-    void Remove_First() {
-        Events_Page &page = Open(Settings_Frm::events_fra).Events;
-        page.Events_Lst.Select(0);
-        page.Events_Lst_DblClick();
     }
     void Import_From(int index, const char *path) {
         Open(Settings_Frm::transfer_fra);
@@ -55,11 +49,15 @@ TEST_F(Undoing, takes_every_kind_of_change_back) {
         std::function<void()> change;
     } kinds[] = {
         {"Clear 20 March", [&] { Choose(20, "Edit 4 March", 1); }},
-        {"Remove 1 February", [&] { Remove_First(); }},
+        {"Remove 1 February",
+         [&] {
+             Open(Settings_Frm::events_fra).Events.Events_Lst.Select(0);
+             dialog->Events.Events_Lst_DblClick();
+         }},
         {"Import", [&] { Import_From(2, "C:\\in.csv"); }},
         {"Import", [&] { Import_From(3, "C:\\in.ics"); }},
         {"Import", [&] { Import_From(0, "C:\\in.dat"); }},
-        {"Edit 20 March", [&] { Edit(20, ""); }},
+        {"Edit 20 March", [&] { Edit(20, "E"); }},
     };
     std::vector<std::array<std::string, 3>> before; // name, file, text shown
     for (const auto &[name, change] : kinds) {

@@ -47,7 +47,8 @@ TEST_F(File_Dialogs, hand_the_properties_over_and_take_the_answers) {
     dialog.CancelError = true;
     EXPECT_THROW(Ask(&OpenSaveDialog::ShowSave, ""), Dialog_Cancelled);
     // ParseMultiFileName separates the names.
-    for (const auto &[name, expected] : {std::pair("\\b"s, ":b:1"), {"C:\\a\0b\0c"s, "C:\\a:b:c:2"}}) {
+    for (const auto &[name, expected] :
+         {std::pair("\\b"s, ":b:1"), {"b"s, ":b:1"}, {"C:\\a\0b\0c"s, "C:\\a:b:c:2"}}) {
         dialog.FileName = name;
         std::string folder, found;
         std::vector<std::string> names;
