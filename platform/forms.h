@@ -135,7 +135,7 @@ enum class Input_Kind : std::uint8_t {
     Default_Action, ///< assistive technology requests the control's default action
     Close,          ///< the close box, Alt+F4, or Esc in a dialog without a cancel button
     Window_Lost,    ///< something other than Destroy_Mirror destroyed the native window
-    Focus_Changed,  ///< the form got (`checked`) or lost the keyboard focus
+    Focus_Changed,  ///< a painted form got (`checked`) or lost the keyboard focus
     /// The window lost the mouse capture while the user held a button, so the release will not arrive.
     Capture_Lost,
     Scale_Changed, ///< the screen's dots per inch or the system's fonts changed

@@ -52,16 +52,6 @@ LRESULT Dialog_Window::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
     case WM_CLOSE:
         Send(Input_Kind::Close);
         return 0;
-    case WM_ACTIVATE: {
-        // Let the system handle the message first, because the system returns the focus to the control
-        // that had it last.
-        const LRESULT result = DefDlgProcW(window_, message, wparam, lparam);
-        Input_Event event{};
-        event.kind = Input_Kind::Focus_Changed;
-        event.checked = LOWORD(wparam) != WA_INACTIVE;
-        Send(event);
-        return result;
-    }
     case WM_MOVE:
         Send_Window_Moved();
         break;
