@@ -1,10 +1,14 @@
 #!/usr/bin/env bash
-# pictures.sh: retakes all pictures of the guide in docs/ from the running program, under Wine on a virtual display, in
-# a minute. Installs missing packages. Look at the pictures before you commit them.
+# pictures.sh [check]: retakes all pictures of the guide in docs/ from the running program, under Wine on a virtual
+# display, in a minute. Installs missing packages. Look at the pictures before you commit them.
+# "check" leaves docs/ as it is and fails if a picture there differs in a single pixel; build/pictures then has the new
+# ones, and NAME-difference.png with the differences in red.
 set -euo pipefail
 # shellcheck source=/dev/null
 . "$(dirname "${BASH_SOURCE[0]}")/desktop.sh"
 
+check=${1:-}
+[[ $# -le 1 && $check =~ ^(check)?$ ]] || Fail "usage: tools/pictures.sh [check]" 2
 out=$PROJECT/build/pictures
 Desktop_Prepare "$out"
 Desktop_Build "$out/build.log" vellatro shell_standin pictures
@@ -27,7 +31,21 @@ done < <(tr -d '\r' <"$WINE_OUT" | sed -n 's/^picture //p')
 convert "$out"/menus-?.png -background white -splice 10x0 +append -chop 10x0 "$out/menus.png"
 rm "$out"/menus-?.png
 convert "$out/theme.png" -resize 960x "$out/theme.png"
+mkdir "$out/docs"
 for picture in "$out"/*.png; do
-  convert "$picture" -strip -colors 256 "png8:docs/${picture##*/}"
+  convert "$picture" -strip -colors 256 "png8:$out/docs/${picture##*/}"
 done
-identify -format '%f %wx%h %b\n' "$out"/../../docs/*.png
+if [ -z "$check" ]; then
+  mv "$out"/docs/*.png docs/
+  identify -format '%f %wx%h %b\n' docs/*.png
+  exit
+fi
+differ=
+for picture in docs/*.png; do
+  name=${picture##*/}
+  compare -metric AE "$picture" "$out/docs/$name" "$out/${name%.png}-difference.png" 2>"$out/count" || {
+    differ+=" $name ($(<"$out/count") pixels)"
+  }
+done
+[ -z "$differ" ] || Fail "These pictures of the guide no longer show the program:$differ; see $out. If the program \
+should look so now, run tools/pictures.sh and look at the pictures"

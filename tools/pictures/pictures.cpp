@@ -46,7 +46,20 @@ protected:
         }
     }
 
+    /// Ends the enumeration at a window that awaits painting. Its thread answers the message only after the
+    /// painting that it has begun.
+    static BOOL CALLBACK Is_Painted(HWND window, LPARAM all_painted) {
+        SendMessageTimeoutA(window, WM_NULL, 0, 0, SMTO_ABORTIFHUNG, 5000, nullptr);
+        const bool painted = !IsWindowVisible(window) || !GetUpdateRect(window, nullptr, FALSE);
+        *reinterpret_cast<bool *>(all_painted) = painted;
+        return painted;
+    }
     static void Take(const std::string &name, const RECT &part) {
+        EXPECT_TRUE(Wait_Until([] {
+            bool all_painted = false;
+            EnumChildWindows(GetDesktopWindow(), Is_Painted, reinterpret_cast<LPARAM>(&all_painted));
+            return all_painted;
+        })) << name;
         Save_Picture(name);
         std::printf("picture %s %ldx%ld+%ld+%ld\n", name.c_str(), part.right - part.left,
                     part.bottom - part.top, part.left, part.top);
@@ -92,7 +105,6 @@ protected:
         const HWND tabs = FindWindowExA(dialog, nullptr, "SysTabControl32", nullptr);
         for (const auto &[page, name] : pages) {
             SendMessageA(tabs, TCM_SETCURFOCUS, static_cast<WPARAM>(page), 0);
-            Sleep(500); // until the picture has begun to load
             const HWND loading = FindWindowExA(dialog, nullptr, nullptr, "Loading...");
             ASSERT_TRUE(Wait_Until([&] { return !IsWindowVisible(loading); }, 20000));
             Take("settings-" + name, Place(dialog));
