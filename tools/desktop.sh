@@ -15,6 +15,7 @@
 #   Desktop_Settled [WxH+X+Y]            succeeds if nothing changes there for half a second
 #   Desktop_Wait_For_Calendar SECONDS JOB   waits until the calendar is on the desktop (stand-in with --adopt) and
 #                       painted; fails after SECONDS, or if JOB, the calendar's WINE_JOB, exits
+#   Desktop_Draws_Pictures               succeeds if this Wine draws the guide's pictures, to the pixel
 #   Desktop_End                          ends the desktop and everything else in the prefix
 
 # shellcheck source=/dev/null
@@ -56,6 +57,9 @@ Desktop_Open() {
   Wine_Prefix "$1/prefix"
   Desktop_Start "$BINARIES/tests/desktop/shell_standin.exe"
 }
+
+# Other versions draw texts and menus with other pixels, and the 64-bit one at times its wallpaper over the calendar.
+Desktop_Draws_Pictures() { [[ "$WINE_PRESET $(Wine_Inside wine --version)" == 'win32 wine-8.'* ]]; }
 
 Desktop_Drive() {
   local folder=$1 seconds=$2 driver=$3 bits=

@@ -169,6 +169,7 @@ TEST_F(Desktop_Life, drags_as_far_as_it_may) {
     const Point on_title{form.Width() / 2, 90}, right{on_title.x + 150, 100};
     for (const Input_Kind kind : {Input_Kind::Capture_Lost, Input_Kind::Mouse_Move}) {
         Input(form, {.kind = Input_Kind::Mouse_Down, .point = on_title, .button = Mouse_Button::Left});
+        EXPECT_EQ(form.Model().pointer, platform::Pointer_Shape::Move);
         Input(form, {.kind = kind, .point = right});
         EXPECT_EQ(form.Model().pointer, platform::Pointer_Shape::Arrow);
         Input(form, {.kind = Input_Kind::Mouse_Move, .point = right, .button = Mouse_Button::Left});

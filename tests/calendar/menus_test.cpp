@@ -39,7 +39,7 @@ TEST_F(Menus, of_a_day) {
     Start();
     Choose(6, 1); // "Clear" deletes the day's first record, and clears the box
     EXPECT_EQ(Text_Of(6) + Box_Of(6).Tooltip() + Box_Of(6).Access().value, "");
-    Choose(7, 5, [this] { form.Clear_Box(Index_Of(7)); }); // does not undo what the menu did not name
+    Choose(7, 5, [this] { form.Clear_Box(Index_Of(7)); }); // cleared under the open menu: not to be undone
     EXPECT_EQ(Records(), "6/3/9999=second|");
     Choose(8, 1);
     Choose(1, 2, [this] { Press_Key(form, 123); }); // compact mode begins while the menu is open

@@ -198,8 +198,8 @@ TEST_F(Dialog_Contract, Its_Own_Changes_Show_And_Are_Not_Told) {
 TEST_F(Dialog_Contract, On_A_Screen_Of_Another_Scale_It_Follows_That_And_Nothing_Else_Does) {
     const int calendar_dots = platform::Dots_Per_Inch();
     NONCLIENTMETRICSW users = {};
-    users.cbSize = sizeof users;
-    SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, users.cbSize, &users, 0);
+    users.cbSize = offsetof(NONCLIENTMETRICSW, iPaddedBorderWidth); // Windows XP refuses more
+    EXPECT_TRUE(SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, users.cbSize, &users, 0));
     for (const int dots : {192, 144, 0, calendar_dots}) {
         RECT wanted = {40, 50, 400, 500}, client = {}, part = {};
         SendMessageW(window_, WM_DPICHANGED, static_cast<WPARAM>(MAKELONG(dots, dots)),

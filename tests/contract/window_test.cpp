@@ -70,7 +70,8 @@ TEST_F(Window_Contract, Long_Work_Drops_Its_Input_And_Assistive_Technology_Finds
     platform::Process_Waiting_Messages();
     EXPECT_EQ(came, std::vector{platform::Input_Kind::Close});
     void *object = nullptr;
-    AccessibleObjectFromWindow(window, static_cast<DWORD>(OBJID_CLIENT), IID_IAccessible, &object);
+    ASSERT_EQ(AccessibleObjectFromWindow(window, static_cast<DWORD>(OBJID_CLIENT), IID_IAccessible, &object),
+              S_OK);
     auto *const accessible = static_cast<IAccessible *>(object);
     VARIANT children[2] = {};
     long count = 0;

@@ -290,12 +290,19 @@ std::vector<Item> Program::Items(long role, std::size_t most) const {
     return items;
 }
 
-Item Program::Named(std::string_view name, bool act) const {
+Item Program::Named(std::string_view name) const {
     if (const Accessible accessible = Accessible_Of(Calendar()))
         for (const VARIANT &child : Children_Of(*accessible))
             if (Text_Of(*accessible, &IAccessible::get_accName, child) == name)
-                return act ? accessible->accDoDefaultAction(child), Item{} : Item_Of(*accessible, child);
+                return Item_Of(*accessible, child);
     return {};
+}
+
+void Program::Do_Default(std::string_view name) const {
+    if (const Accessible accessible = Accessible_Of(Calendar()))
+        for (const VARIANT &child : Children_Of(*accessible))
+            if (Text_Of(*accessible, &IAccessible::get_accName, child) == name)
+                accessible->accDoDefaultAction(child);
 }
 
 std::string Program::Title() const {

@@ -94,11 +94,11 @@ public:
     /// Returns the calendar's items of a role, or all with 0; none if the calendar is missing or does not
     /// answer.
     std::vector<Item> Items(long role = 0, std::size_t most = SIZE_MAX) const;
-    /// Returns the item with that name, or an empty one. With `act`, performs its default action instead.
-    Item Named(std::string_view name, bool act = false) const;
+    /// Returns the item with that name, or an empty one.
+    Item Named(std::string_view name) const;
     std::string Title() const;
     /// Performs an item's default action as assistive technology does.
-    void Do_Default(std::string_view name) const { Named(name, true); }
+    void Do_Default(std::string_view name) const;
 
     /// Returns the open message box as "[Vellatro] text", with "stop " or "warning " in front for those
     /// icons; empty if there is no box.

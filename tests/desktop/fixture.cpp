@@ -185,14 +185,13 @@ std::string Desktop_Test::Read_File(const std::wstring &name) const {
 }
 
 void Desktop_Test::Save_Picture(const std::string &name) {
-    std::vector<DWORD> last;
-    Wait_Until([&last] {
+    Picture last;
+    EXPECT_TRUE(Wait_Until([&last] {
         Sleep(100);
-        std::vector<DWORD> now = Picture().pixels;
-        std::swap(now, last);
-        return now == last;
-    });
-    Picture().Save(Scratch + L"\\" + Wide(name) + L".bmp");
+        const Picture before = std::exchange(last, Picture());
+        return before.pixels == last.pixels;
+    })) << "the screen changes on and on";
+    last.Save(Scratch + L"\\" + Wide(name) + L".bmp");
 }
 
 void Desktop_Test::Set_Setting(const std::string &section, const std::string &key, const std::string &value) {

@@ -131,11 +131,6 @@ TEST_F(Use, Tooltip_And_Balloon) {
     Send_Mouse(middle, MOUSEEVENTF_LEFTDOWN);
     ASSERT_TRUE(Wait_Until([&] { return balloon() != nullptr; }));
     EXPECT_EQ(Text_Of(balloon()), "5/14/2027");
-    RECT place{};
-    GetWindowRect(balloon(), &place);
-    const COLORREF back = GetSysColor(COLOR_INFOBK);
-    const DWORD expected = DWORD{GetRValue(back)} << 16 | DWORD{GetGValue(back)} << 8 | GetBValue(back);
-    EXPECT_TRUE(Becomes(expected, [&] { return Picture().At(Middle(place).x, Middle(place).y); }));
     Save_Picture("balloon");
     Send_Mouse(middle, MOUSEEVENTF_LEFTUP);
     EXPECT_TRUE(Wait_Until([&] { return !balloon(); }));

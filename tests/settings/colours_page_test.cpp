@@ -56,6 +56,7 @@ TEST_F(Colours, the_selected_swatch_takes_what_is_picked_and_keeps_a_system_colo
     EXPECT_EQ(page.Preview_Today_Lbl.State().back_colour, picked);
     Push(dialog, page.Col_Text_Pic); // the space bar
     EXPECT_EQ(Swatches()[3], first[3]) << "showing it changes nothing";
+    EXPECT_EQ(page.txCol[0].Text(), std::to_string(platform::Resolve_Colour(first[3])));
     const auto &names = page.Names_Cbo.Items();
     const int cyan = static_cast<int>(std::find(names.begin(), names.end(), "Cyan") - names.begin());
     Choose(dialog, page.Names_Cbo, cyan);

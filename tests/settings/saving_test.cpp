@@ -66,6 +66,7 @@ TEST_F(Saving, a_pack_rules_style_and_position_as_far_as_it_may) {
     Push(*dialog, page.Theme_Pos_Chk, true);
     Written(save);
     EXPECT_TRUE(Stored("Alignment").empty() && form.Left() == 0 && form.Top() == 0);
+    EXPECT_EQ(Desktop().mirrors[&form.Model()].clip, Seen());
     // A damaged picture is reported, and everything else is still saved.
     Fakes().files.erase("C:\\Vellatro\\P\\3.bmp");
     Fakes().pictures.clear();
@@ -77,8 +78,8 @@ TEST_F(Saving, a_pack_rules_style_and_position_as_far_as_it_may) {
 }
 
 TEST_F(Saving, every_control_shows_its_setting) {
-    // Each setting takes two different values, so that one of them differs from an empty control's. Flags
-    // alternate between 0 and 1.
+    // Each setting takes two different values, so that one of them differs from an empty control's. Colours
+    // are numbered; all others alternate between 0 and 1.
     constexpr std::array<const char *, 3> others[] = {{"Alignment", "4", "7"},
                                                       {"Menu Colour Source", "1", "0"},
                                                       {"Pack Name", "P", "Q"},

@@ -183,8 +183,9 @@ TEST_F(Importing, that_fails_after_its_first_write_puts_the_file_back) {
     Fakes().clock_step = 300;
     const std::string old = Quoted("'6/3/2002=Old'\r\n");
     for (const bool for_good : {false, true}) {
-        Data_File() = "";
-        Fakes().painting = [&] { Data_File() = Data_File().empty() ? old : Data_File(); }; // a saved text
+        Data_File() = for_good ? old : "";
+        // A text that is saved while the import first paints is put back, too.
+        Fakes().painting = [&] { Data_File() = Data_File().empty() ? old : Data_File(); };
         const int second = Fakes().writes + 4; // two writes make the backup, the third merges the first part
         Fakes().file_fails = [=](const std::string &path) {
             return path == "C:\\Vellatro\\calendar.dat" &&

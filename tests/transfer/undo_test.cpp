@@ -58,6 +58,7 @@ TEST_F(Undoing, takes_every_kind_of_change_back) {
         {"Import", [&] { Import_From(3, "C:\\in.ics"); }},
         {"Import", [&] { Import_From(0, "C:\\in.dat"); }},
         {"Edit 20 March", [&] { Edit(20, "E"); }},
+        {"Edit 20 March", [&] { Edit(20, ""); }},
     };
     std::vector<std::array<std::string, 3>> before; // name, file, text shown
     for (const auto &[name, change] : kinds) {
