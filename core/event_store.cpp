@@ -123,11 +123,19 @@ bool Event_Store::Check_For_Pre(const std::string &key, const std::string &text,
     const auto match = std::find_if(Temp_Lst.begin(), Temp_Lst.end(), same_day);
     if (match == Temp_Lst.end())
         return Write_New_Line(key, text, each_year);
+    std::vector<std::string> before = Temp_Lst;
     if (text.empty())
         Temp_Lst.erase(match);
     else
         *match = Joined({each_year ? every : key, "=", text});
-    return Write_ALL();
+    try {
+        Write_Data_File();
+        return true;
+    } catch (const std::exception &) {
+        // If the file is missing, the next save writes Temp_Lst, which must not have the change that failed.
+        Temp_Lst = std::move(before);
+        return Show_Save_Error();
+    }
 }
 
 void Event_Store::Write_Records(const std::string &added) {

@@ -119,6 +119,7 @@ TEST_F(Event_Store_Test, What_Cannot_Be_Read_Is_Told_And_Never_Overwritten) {
         Save(text);
         Fakes().unwritable.insert(path);
         EXPECT_EQ(File(), Quoted({"1/1/2002=A", "5/3/2002=new"}));
+        EXPECT_EQ(store.Temp_Lst, (Items{"1/1/2002=A", "5/3/2002=new"}));
     }
 }
 
