@@ -102,6 +102,9 @@ inline void Answers::Check_Failure(const Shown_Box &box) {
         const bool expected = !pending_.empty() && pending_.back().outcomes(model_).empty();
         Demand(Has_Cause() || expected, "an import without a cause to fail has failed");
         Fail_Pending();
+    } else if (begins("The data file has changed since then")) {
+        Demand(!pending_.empty(), "an Undo that the user did not ask for has failed");
+        pending_.pop_back();
     } else if (begins("Error when importing data file.")) {
         Demand(Has_Cause(), "an import without a cause to fail has failed");
         Fail_Pending();
@@ -201,6 +204,7 @@ inline std::string Answers::Answer_Dialog(const platform::File_Dialog &dialog) {
     ++depth_;
     Commit(false);
     Interrupt();
+    Commit(false); // the session's end may have saved the editor's text
     --depth_;
     std::string path = in_.Out() ? std::string() : files_.Choose(dialog.title);
     Tell("   " + dialog.title + ": " + path);

@@ -188,7 +188,8 @@ inline Outcomes After_Undo(const Model &model) {
         all_unsure = !step.sure;
         if (Same_Bytes(step.after, model.file) ||
             all_unsure) // the program may have remembered them as one step
-            outcomes.push_back({step.before, Records{}, model.steps.size() - i + 1});
+            outcomes.push_back({step.before, step.sure ? std::optional(Records{}) : std::nullopt,
+                                model.steps.size() - i + 1});
     }
     const bool may_stay =
         model.steps.empty() || !model.steps.back().sure || !Same_Bytes(model.steps.back().after, model.file);
@@ -235,7 +236,7 @@ struct Model_ICalendar {
 };
 
 /// Returns whether `now` has the records of `before` in their order, each unchanged or with more text
-/// appended, and each event on its day.
+/// appended, and each event on its day. Imported texts have ' for ".
 inline bool Has_Merged(const Records &before, const Records &now, const Model_ICalendar &calendar) {
     std::size_t kept = 0;
     for (const std::string &record : now)
@@ -245,9 +246,10 @@ inline bool Has_Merged(const Records &before, const Records &now, const Model_IC
            std::all_of(calendar.events.begin(), calendar.events.end(), [&](const Model_Event &event) {
                return std::any_of(now.begin(), now.end(), [&](const std::string &record) {
                    const std::string key = Key_Of(record);
+                   std::string text = " + " + Text_Of(record) + " + ";
+                   std::replace(text.begin(), text.end(), '"', '\'');
                    return (key == event.day.Key() || key == event.day.Yearly_Key()) &&
-                          (" + " + Text_Of(record) + " + ").find(" + " + event.text + " + ") !=
-                              std::string::npos;
+                          text.find(" + " + event.text + " + ") != std::string::npos;
                });
            });
 }
