@@ -275,7 +275,7 @@ inline Outcomes After_ICalendar(const Model &model, const Model_ICalendar &calen
 /// empty for none. `staged`: the list may show imported events, each of which may be a part of a record.
 inline Outcomes After_Removal(const Model &model, const std::string &line, bool staged,
                               const std::function<std::string(const std::string &)> &line_of) {
-    const Records base = model.Base();
+    const Records base = model.file ? model.file->records : Records{};
     Outcomes outcomes;
     const auto add = [&](const Records &records) {
         if (All_Writable(records) && (!model.file || model.file->whole))

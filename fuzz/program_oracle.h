@@ -251,8 +251,9 @@ inline void Oracle::Check_Store() {
         // The program stores a move by the arrow keys when Ctrl comes up, which a menu can delay.
         const bool same = before == store_.end() || touched_ || refused_ || !dialog_ || configures_ ||
                           places_ || !(key.starts_with(general) || key.starts_with(colours));
-        const bool one_value = key == general + "Bar Time"; // 1 and True are equal
-        Demand(same || one_value || key == general + "Settings Tab" || key == general + "Use Themes",
+        // 1 and True are equal. The title stores another pattern for an unknown one, which the dialog shows.
+        const bool alike = key == general + "Bar Time" || key == general + "Bar Date Format";
+        Demand(same || alike || key == general + "Settings Tab" || key == general + "Use Themes",
                "a dialog in which nothing was chosen: " + change);
     }
     Demand(Fakes().registry.size() >= store_.size(), "a key of the store has gone");
