@@ -27,6 +27,7 @@ protected:
 
 private:
     void Interrupt();
+    void Happen();
     void Check_Failure(const Shown_Box &box);
     void Agree(const std::string &question);
 
@@ -60,9 +61,15 @@ inline void Answers::Pass_Time() {
     }
 }
 
+/// Lets something else happen while a box or a file dialog is open, perhaps a save at the session's end.
 inline void Answers::Interrupt() {
     if (depth_ > 3)
         return;
+    Happen();
+    Commit(false);
+}
+
+inline void Answers::Happen() {
     switch (in_.Pick(24)) {
     case 1:
         return Pass_Time();
@@ -208,7 +215,6 @@ inline std::string Answers::Answer_Dialog(const platform::File_Dialog &dialog) {
     ++depth_;
     Commit(false);
     Interrupt();
-    Commit(false); // the session's end may have saved the editor's text
     --depth_;
     std::string path = in_.Out() ? std::string() : files_.Choose(dialog.title);
     Tell("   " + dialog.title + ": " + path);

@@ -202,6 +202,8 @@ TEST_F(Themes_Page, a_preview_leaves_all_as_it_was) {
 
         Push(*dialog, Page().Preview_Btn);
         EXPECT_FALSE(Choices_Enabled());
+        EXPECT_EQ(dialog->Model().focused, Page().Theme_Style_Chk.State().index); // Esc reaches the dialog
+        EXPECT_TRUE(Page().Preview_Lbl.Top() >= Page().Theme_Fra.Bounds().Bottom());
         EXPECT_TRUE(form.Dectect_Date_Timer.Enabled()) << "the calendar follows the shell's icons";
         EXPECT_EQ(form.Which_Month_Lbl.Caption(), "Preview Mode - January");
         EXPECT_EQ(Cur_Settings.Use_Themes, themes) << "the calendar shows a copy";
