@@ -133,12 +133,17 @@ inline void Answers::Agree(const std::string &question) {
         const std::string line = question.substr(question.find("\r\n\r\n") + 4);
         const bool staged = staged_;
         const auto outcomes_of = [this, line, staged](const Model &model) {
+            bool unsure = false;
             const auto line_of = [&](const std::string &record) {
-                // The list was made before the clock's year may have changed.
-                const bool yearly = line.ends_with(" (every year)  -  " + Text_Of(record));
-                return yearly && Key_Of(record).ends_with("/9999") ? line : Line_Of(record);
+                // Since the list was made, the clock's year may have changed.
+                const bool maybe = Key_Of(record).ends_with("/9999") &&
+                                   line.ends_with(" (every year)  -  " + Text_Of(record));
+                unsure = unsure || maybe;
+                return maybe ? line : Line_Of(record);
             };
             Outcomes outcomes = After_Removal(model, line, staged, line_of);
+            if (unsure)
+                outcomes.push_back({model.file, {}});
             if (strict || (model.file && !model.file->whole))
                 return outcomes;
             for (std::size_t i = 0; i < model.Base().size(); ++i) {
