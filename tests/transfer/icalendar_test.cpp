@@ -63,10 +63,10 @@ TEST_F(Calendar_Files, give_their_events_to_the_days) {
              Event(day + "SUMMARY:Not|STATUS:CANCELLED|") + Event("DTSTART:00990101|SUMMARY:Early|"),
          "", 0, 5},
         {"times: local, of a zone, of UTC over midnight, short, of the midnight at the end of a day",
-         Event("SUMMARY:L|DTSTART:20020305T0905|") +
+         Event("SUMMARY:L|DTSTART:20020305T0959|") +
              Event("SUMMARY:Z|DTSTART;TZID=\"A:B\":20020306T230000|") +
              Event("SUMMARY:U|DTSTART:20020306T223000Z|") + Event("SUMMARY:E|DTSTART:20020307T240000|"),
-         one + "09:05 L|6/3/2002=23:00 Z|7/3/2002=00:30 U|8/3/2002=00:00 E|", 4},
+         one + "09:59 L|6/3/2002=23:00 Z|7/3/2002=00:30 U|8/3/2002=00:00 E|", 4},
         {"several days: to a date or a midnight, not touching that day; by a duration; ends before the start",
          Event("SUMMARY:D|DTSTART:20020227|DTEND:20020301|") +
              Event("SUMMARY:T|DTSTART:20020310T2200|DTEND:20020312T0000|") +
