@@ -3,7 +3,9 @@
 #pragma once
 
 #include <algorithm>
+#include <filesystem>
 #include <gtest/gtest.h>
+#include <map>
 #include <memory>
 #include <string>
 #include <vector>
@@ -30,19 +32,14 @@ protected:
     }
     ~Contract_Test() override {
         locks_.clear();
-        for (const std::string &name : Names_Left()) {
-            const std::wstring path = win32::To_Wide(Scratch(name));
-            SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_NORMAL);
-            if (!DeleteFileW(path.c_str()))
-                RemoveDirectoryW(path.c_str());
-        }
-        RemoveDirectoryW(folder_.c_str());
+        for (const auto &entry : std::filesystem::directory_iterator(folder_))
+            SetFileAttributesW(entry.path().c_str(), FILE_ATTRIBUTE_NORMAL);
+        std::error_code ignored;
+        std::filesystem::remove_all(folder_, ignored);
         RegDeleteKeyW(HKEY_CURRENT_USER, win32::To_Wide(Scratch_Key() + "\\Below").c_str());
         RegDeleteKeyW(HKEY_CURRENT_USER, win32::To_Wide(Scratch_Key()).c_str());
-        if (*short_date_before_ != 0)
-            SetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_SSHORTDATE, short_date_before_);
-        if (*calendar_before_ != 0)
-            SetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_ICALENDARTYPE, calendar_before_);
+        for (const auto &[type, value] : locale_before_)
+            SetLocaleInfoW(LOCALE_USER_DEFAULT, type, value.c_str());
     }
 
     std::string Scratch(const std::string &name) const { return win32::From_Wide(folder_ + L"\\") + name; }
@@ -71,13 +68,8 @@ protected:
     /// Returns the names in the scratch folder, sorted.
     std::vector<std::string> Names_Left() const {
         std::vector<std::string> names;
-        WIN32_FIND_DATAW found;
-        const HANDLE find = FindFirstFileW((folder_ + L"\\*").c_str(), &found);
-        do {
-            if (found.cFileName[0] != L'.')
-                names.push_back(win32::From_Wide(found.cFileName));
-        } while (FindNextFileW(find, &found));
-        FindClose(find);
+        for (const auto &entry : std::filesystem::directory_iterator(folder_))
+            names.push_back(win32::From_Wide(entry.path().filename().wstring()));
         std::sort(names.begin(), names.end());
         return names;
     }
@@ -86,24 +78,22 @@ protected:
     void Use_Short_Date(const std::string &pattern) {
         std::wstring wide = win32::To_Wide(pattern);
         std::replace(wide.begin(), wide.end(), L'm', L'M');
-        Set_Locale(LOCALE_SSHORTDATE, wide, short_date_before_);
+        Set_Locale(LOCALE_SSHORTDATE, wide);
     }
 
     /// Sets the user's calendar.
-    void Use_Calendar(CALID calendar) {
-        Set_Locale(LOCALE_ICALENDARTYPE, std::to_wstring(calendar), calendar_before_);
-    }
+    void Use_Calendar(CALID calendar) { Set_Locale(LOCALE_ICALENDARTYPE, std::to_wstring(calendar)); }
 
 private:
-    static void Set_Locale(LCTYPE type, const std::wstring &value, wchar_t (&before)[81]) {
-        if (*before == 0)
-            GetLocaleInfoW(LOCALE_USER_DEFAULT, type, before, 81);
+    void Set_Locale(LCTYPE type, const std::wstring &value) {
+        wchar_t before[81] = {};
+        GetLocaleInfoW(LOCALE_USER_DEFAULT, type, before, 81);
+        locale_before_.try_emplace(type, before);
         ASSERT_TRUE(SetLocaleInfoW(LOCALE_USER_DEFAULT, type, value.c_str()));
     }
 
     std::wstring folder_;
-    wchar_t calendar_before_[81] = {};
-    wchar_t short_date_before_[81] = {};
+    std::map<LCTYPE, std::wstring> locale_before_;
     std::vector<win32::Unique_File> locks_;
 };
 

@@ -130,8 +130,9 @@ TEST_F(Dialog_Contract, The_Form_Hears_What_The_User_Does) {
     const std::pair<std::function<void()>, std::string> cases[] = {
         {[this] { Notify(Opt_1, BN_CLICKED); }, ""}, // as when it gets the focus by keyboard
         {[this] { Send(Opt_2, BM_CLICK); }, "click 4 on; "},
-        {[this] { Send(Check, BM_CLICK); }, "click 5 on; "},
-        {[this] { Send(Check, BM_CLICK); }, "click 5 off; "},
+        {[this] { Send(Check, BM_CLICK), Send(Check, BM_CLICK); }, "click 5 on; click 5 off; "},
+        // Esc, with a disabled cancel button.
+        {[this] { controls_[Shut].is_cancel = true, SendMessageW(window_, WM_COMMAND, IDCANCEL, 0); }, ""},
         {[this] { Send(Combo, CB_SETCURSEL, 2), Notify(Combo, CBN_SELCHANGE); }, "selected 6 2; "},
         // A list that closes with another item than it opened with.
         {[this] { Send(Combo, CB_SETCURSEL, 1), Notify(Combo, CBN_CLOSEUP); }, "selected 6 1; "},
@@ -140,12 +141,13 @@ TEST_F(Dialog_Contract, The_Form_Hears_What_The_User_Does) {
          "text 7 x yz ; "},
         {[this] { Type(Typed, VK_BACK, true); }, "text 7 x ; "},
         {[this] { SendMessageW(Typed_Text(), WM_CHAR, L'\u65E5', 0); }, "text 7 x \u65E5; "},
+        {[this] { Send(Typed, CB_SETCURSEL, 1), Notify(Typed, CBN_CLOSEUP); }, "text 7 Two; "},
         {[this] { Send(List, LB_SETCURSEL, 1), Notify(List, LBN_SELCHANGE); }, "selected 8 1; "},
         {[this] { Notify(List, LBN_DBLCLK); }, "activated 8 1; "},
         {[this] { Type(List, VK_DELETE), Type(List, VK_RETURN); }, "key 8 46; key 8 13; "},
         {[this] { Press_Tab(1); }, "selected 0 1; "},
         {[this] { Type(List, VK_TAB, true); }, "selected 0 2; "},
-        {[this] { Type(Check, VK_NEXT, true); }, "selected 0 0; "},
+        {[this] { Type(Check, VK_NEXT, true), Type(Check, VK_PRIOR, true); }, "selected 0 0; selected 0 2; "},
         // A slider that does not move.
         {[this] { Send(Thumb, WM_KEYDOWN, VK_LEFT), Send(Thumb, WM_KEYUP, VK_LEFT); }, ""},
         {[this] { Send(Thumb, WM_KEYDOWN, VK_RIGHT), Send(Thumb, WM_KEYUP, VK_RIGHT); },
@@ -153,6 +155,7 @@ TEST_F(Dialog_Contract, The_Form_Hears_What_The_User_Does) {
         {[this] { Send(Picture, WM_LBUTTONDOWN, MK_LBUTTON, 4); }, "down 11 L" + twips(4) + "; "},
         {[this] { Send(Picture, WM_LBUTTONUP, 0, 6); }, "up 11 L" + twips(6) + "; "},
         {[this] { Type(Picture, VK_LEFT), Type(Picture, VK_SPACE); }, "key 11 37; click 11 off; "},
+        {[this] { Send(Picture, WM_KEYDOWN, VK_SPACE, KF_REPEAT << 16); }, ""}, // held down
         {[this] { Type(Picture, VK_RETURN); }, ""}, // the default button gets the key
         {[this] { controls_[Picture].access.default_action = "Pick", Type(Picture, VK_RETURN); },
          "key 11 13; "},
@@ -162,6 +165,7 @@ TEST_F(Dialog_Contract, The_Form_Hears_What_The_User_Does) {
         EXPECT_EQ(Take_Log(), expected);
     }
     SetWindowPos(window_, nullptr, 45, 67, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    ShowWindow(window_, SW_MINIMIZE); // which is no place to store
     EXPECT_EQ(std::to_string(moved_to_.x) + std::to_string(moved_to_.y), twips(45) + twips(67));
 }
 
@@ -171,8 +175,7 @@ TEST_F(Dialog_Contract, Its_Own_Changes_Show_And_Are_Not_Told) {
         controls_[index].selected = 3;
         Change(index, Aspect::Items);
     }
-    controls_[Thumb].value = 40;
-    controls_[Bar].value = 60;
+    controls_[Thumb].value = 40, controls_[Bar].value = 60;
     controls_[Opt_2].checked = controls_[Check].checked = true;
     Change(Thumb, Aspect::Selected), Change(Bar, Aspect::Selected);
     Change(Opt_2, Aspect::Checked), Change(Check, Aspect::Checked);
@@ -187,6 +190,8 @@ TEST_F(Dialog_Contract, Its_Own_Changes_Show_And_Are_Not_Told) {
     EXPECT_EQ(GetObjectType(reinterpret_cast<HGDIOBJ>(Send(List, WM_GETFONT))), DWORD{OBJ_FONT});
     EXPECT_TRUE(Send(List, WM_GETFONT) == Send(Check, WM_GETFONT) && Send(List, WM_GETFONT) != font);
     EXPECT_EQ(Take_Log(), "");
+    Send(List, LB_SETTOPINDEX, 2), controls_[List].selected = -1, Change(List, Aspect::Items);
+    EXPECT_EQ(Send(List, LB_GETTOPINDEX), 2) << "a list that is filled again stays in its place";
     controls_[Typed].caption = "a\r\nb";
     Change(Typed, Aspect::Caption);
     model_.enabled = false; // a disabled form rejects text, which is restored
@@ -238,8 +243,7 @@ TEST_F(Dialog_Contract, A_Page_Is_Made_In_Its_Place_When_It_Is_First_Shown) {
     EXPECT_TRUE(IsWindowVisible(Native(List)) && IsWindowVisible(Native(Opt_1)));
     SetFocus(Native(Opt_1));
     controls_[Group].enabled = controls_[Page].visible = false;
-    Change(Group, Aspect::Enabled);
-    Change(Page, Aspect::Visible);
+    Change(Group, Aspect::Enabled), Change(Page, Aspect::Visible);
     EXPECT_FALSE(IsWindowVisible(Native(List)) || IsWindowEnabled(Native(Opt_1)));
     EXPECT_EQ(GetFocus(), Native(Tabs)) << "the keyboard left with the page";
     EXPECT_EQ(Send(List, LB_GETCOUNT), 1);
@@ -262,10 +266,8 @@ TEST_F(Dialog_Contract, Beside_A_Message_Box_Nothing_Changes) {
 
 /// Where the picture paints nothing, it shows the colour of the page. Later controls lie above it.
 TEST_F(Dialog_Contract, What_Paints_Itself_Lies_On_The_Page) {
-    const HDC screen = GetDC(nullptr);
-    const win32::Unique_Memory_Dc dc(CreateCompatibleDC(screen));
-    const win32::Unique_Bitmap bitmap(CreateCompatibleBitmap(screen, 100, 20));
-    ReleaseDC(nullptr, screen);
+    const win32::Unique_Memory_Dc dc(CreateCompatibleDC(nullptr));
+    const win32::Unique_Bitmap bitmap(CreateBitmap(100, 20, 1, 32, nullptr));
     const win32::Selected_Object selected(dc.get(), bitmap.get());
     Send(Picture, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc.get()), PRF_CLIENT);
     EXPECT_EQ(GetPixel(dc.get(), 40, 10), RGB(10, 200, 30));

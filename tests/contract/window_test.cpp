@@ -13,13 +13,13 @@
 
 namespace {
 
-using Window_Contract = Contract_Test;
+struct Window_Contract : Contract_Test {
+    Window_Contract() { model.kind = platform::Form_Kind::Painted, model.name = "Contract_Painted"; }
+    platform::Form_Model model;
+};
 
 TEST_F(Window_Contract, Its_Place_Is_Where_It_Is_And_It_Can_Be_Put_Back) {
-    platform::Form_Model model;
-    model.kind = platform::Form_Kind::Painted;
-    model.name = "Contract_Painted";
-    const auto is_put = [&model](int right = 0, int down = 0) {
+    const auto is_put = [this](int right = 0, int down = 0) {
         const auto pixels = [](int twips) { return Twips_To_Pixels(twips, platform::Dots_Per_Inch()); };
         return platform::Window_Corner(model) ==
                Point{pixels(model.bounds.left) + right, pixels(model.bounds.top) + down};
@@ -54,13 +54,13 @@ TEST_F(Window_Contract, Its_Place_Is_Where_It_Is_And_It_Can_Be_Put_Back) {
 
 #ifdef _WIN32
 TEST_F(Window_Contract, Long_Work_Drops_Its_Input_And_Assistive_Technology_Finds_Its_Parts) {
-    platform::Form_Model model;
-    platform::Control_State part;
-    part.access.role = platform::Access_Role::Cell;
-    model.controls = {&part};
+    platform::Control_State part, part_above;
+    part.access.role = part_above.access.role = platform::Access_Role::Cell;
+    part.bounds = part_above.bounds = model.bounds = {0, 0, 1500, 900};
+    model.controls = {&part, &part_above};
+    model.focused = 0;
+    part_above.index = 1;
     std::vector<platform::Input_Kind> came;
-    model.kind = platform::Form_Kind::Painted;
-    model.name = "Contract_Painted";
     model.input = [&came](const platform::Input_Event &event) { came.push_back(event.kind); };
     platform::Create_Mirror(model);
     const HWND window = FindWindowW(L"Vellatro_Contract_Painted", nullptr);
@@ -68,16 +68,21 @@ TEST_F(Window_Contract, Long_Work_Drops_Its_Input_And_Assistive_Technology_Finds
         PostMessageW(window, message, VK_F2, 0);
     platform::Paint_Waiting();
     platform::Process_Waiting_Messages();
-    EXPECT_EQ(came, std::vector{platform::Input_Kind::Close});
-    void *object = nullptr;
-    ASSERT_EQ(AccessibleObjectFromWindow(window, static_cast<DWORD>(OBJID_CLIENT), IID_IAccessible, &object),
+    SendMessageW(window, WM_CONTEXTMENU, 0, -1);
+    using enum platform::Input_Kind;
+    EXPECT_EQ(came, (std::vector{Close, Key_Down, Key_Up}));
+    IAccessible *accessible = nullptr;
+    ASSERT_EQ(AccessibleObjectFromWindow(window, static_cast<DWORD>(OBJID_CLIENT), IID_IAccessible,
+                                         reinterpret_cast<void **>(&accessible)),
               S_OK);
-    auto *const accessible = static_cast<IAccessible *>(object);
-    VARIANT children[2] = {};
+    VARIANT children[3] = {}, focused = {}, hit = {};
     long count = 0;
-    EXPECT_TRUE(AccessibleChildren(accessible, 0, 2, children, &count) == S_FALSE && count == 1);
+    EXPECT_TRUE(AccessibleChildren(accessible, 0, 3, children, &count) == S_FALSE && count == 2);
+    SetFocus(window);
+    EXPECT_TRUE(accessible->get_accFocus(&focused) == S_OK && focused.lVal == 1);
+    EXPECT_TRUE(accessible->accHitTest(5, 5, &hit) == S_OK && hit.lVal == 2) << "the upper part";
     platform::Destroy_Mirror(model);
-    EXPECT_EQ(AccessibleChildren(accessible, 0, 2, children, &count), CO_E_OBJNOTCONNECTED);
+    EXPECT_EQ(AccessibleChildren(accessible, 0, 3, children, &count), CO_E_OBJNOTCONNECTED);
     accessible->Release();
 }
 #endif

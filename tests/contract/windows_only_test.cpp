@@ -10,6 +10,7 @@
 #include "platform/wallpaper.h"
 #include "tests/contract/contract.h"
 #include "tests/contract/small_jpeg.h"
+#include "win32/broadcasts.h"
 #include "win32/paths.h"
 #include "win32/picture_scaling.h"
 
@@ -80,7 +81,6 @@ TEST_F(Windows_Only, A_Wallpaper_That_The_System_Writes_Over_Is_Copied) {
         EXPECT_EQ(platform::Persistent_Wallpaper(Scratch(name)), Scratch(kept));
         EXPECT_TRUE(kept == name || platform::Read_File(Scratch(kept)) == "the picture " + name) << name;
     }
-    platform::Delete_File(Scratch(image));
 }
 
 TEST_F(Windows_Only, A_Hidden_File_Stays_Hidden_And_The_Rest_Of_A_Killed_Run_Goes) {
@@ -118,6 +118,11 @@ TEST_F(Windows_Only, A_File_Keeps_Its_Own_Access_List) {
     ASSERT_TRUE(DeleteAce(list, before - 1));
     ASSERT_TRUE(SetFileSecurityW(wide.c_str(), DACL_SECURITY_INFORMATION, space.data()));
     EXPECT_EQ(entries(), before - 1);
+}
+
+TEST_F(Windows_Only, A_Released_Claim_Can_Be_Made_Again) {
+    for (int i = 0; i < 2; ++i, platform::Release_Single_Instance())
+        EXPECT_TRUE(platform::Claim_Single_Instance("claim") && !platform::Claim_Single_Instance("claim"));
 }
 
 TEST_F(Windows_Only, A_Start_From_The_Temporary_Folder_Is_Seen) {
@@ -228,6 +233,9 @@ TEST_F(Windows_Only, Message_Boxes_Show_Their_Text_And_Answer) {
         {std::string(5000, 'x'), Box_Buttons::Yes_No, IDYES, Box_Answer::Yes,
          std::wstring(1000, L'x') + L"..."},
         {lines, Box_Buttons::Ok, IDOK, Box_Answer::Ok, win32::To_Wide(lines.substr(0, 30 * 6 - 2)) + L"..."}};
+    // After a cancelled end of the session, boxes show again.
+    SendMessageW(win32::Broadcast_Window(), WM_QUERYENDSESSION, 0, static_cast<LPARAM>(ENDSESSION_CRITICAL));
+    SendMessageW(win32::Broadcast_Window(), WM_ENDSESSION, FALSE, 0);
     // A box that belongs to an active dialog disables the program's other windows, too.
     const auto window = [](DWORD style) {
         return CreateWindowW(L"STATIC", L"", style | WS_VISIBLE, 0, 0, 90, 50, nullptr, nullptr, nullptr,
