@@ -123,7 +123,8 @@ bool Event_Store::Check_For_Pre(const std::string &key, const std::string &text,
     const auto match = std::find_if(Temp_Lst.begin(), Temp_Lst.end(), same_day);
     if (match == Temp_Lst.end())
         return Write_New_Line(key, text, each_year);
-    std::vector<std::string> before = Temp_Lst;
+    const auto place = match - Temp_Lst.begin();
+    std::string before = *match;
     if (text.empty())
         Temp_Lst.erase(match);
     else
@@ -133,7 +134,10 @@ bool Event_Store::Check_For_Pre(const std::string &key, const std::string &text,
         return true;
     } catch (const std::exception &) {
         // If the file is missing, the next save writes Temp_Lst, which must not have the change that failed.
-        Temp_Lst = std::move(before);
+        if (text.empty())
+            Temp_Lst.insert(Temp_Lst.begin() + place, std::move(before));
+        else
+            Temp_Lst[static_cast<std::size_t>(place)] = std::move(before);
         return Show_Save_Error();
     }
 }
