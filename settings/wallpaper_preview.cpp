@@ -16,6 +16,8 @@ constexpr std::int16_t last_month = 12;
 /// Deletes the bitmaps that the preview left in the pack. If the wallpaper `path` is one of them, in any
 /// letter case, makes that bitmap again.
 void Delete_Other_Bitmaps(const std::string &path, const std::string &pack) {
+    // The system may still have the preview's last bitmap open, and such a file cannot be deleted.
+    platform::Wait_For_Wallpaper();
     Delete_Old_Bmps(pack);
     for (std::int16_t month = 1; month <= last_month; ++month)
         if (To_Upper(path) == To_Upper(Pack_File(pack, std::to_string(month) + ".bmp")))

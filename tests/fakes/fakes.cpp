@@ -213,7 +213,8 @@ bool Fails(const std::string &path) {
 } // namespace
 
 void Delete_File(const std::string &path) {
-    if (Fails(path) || Fakes().unwritable.contains(path) || Fakes().files.erase(path) == 0)
+    const bool is_open = Fakes().wallpaper_ordered && Fakes().wallpapers.back() == path;
+    if (is_open || Fails(path) || Fakes().unwritable.contains(path) || Fakes().files.erase(path) == 0)
         throw File_Error(path + " cannot be deleted");
 }
 
