@@ -2,6 +2,8 @@
 // real platform procedures; the fixture prepares their cases for either.
 #pragma once
 
+#include "platform/files.h"
+
 #include <algorithm>
 #include <filesystem>
 #include <gtest/gtest.h>
@@ -65,13 +67,8 @@ protected:
         ASSERT_TRUE(SetFileTime(file.get(), nullptr, nullptr, &time));
     }
 
-    /// Returns the names in the scratch folder, sorted.
     std::vector<std::string> Names_Left() const {
-        std::vector<std::string> names;
-        for (const auto &entry : std::filesystem::directory_iterator(folder_))
-            names.push_back(win32::From_Wide(entry.path().filename().wstring()));
-        std::sort(names.begin(), names.end());
-        return names;
+        return platform::Names_In_Folder(win32::From_Wide(folder_), platform::Entry_Kind::Files);
     }
 
     /// Sets the user's short date format, a pattern of d, dd, m, mm, yyyy and literals.
@@ -98,7 +95,6 @@ private:
 };
 
 #else
-#include "platform/files.h"
 #include "tests/fakes/fake_test.h"
 
 class Contract_Test : public Fake_Test {

@@ -7,6 +7,7 @@
 #include "platform/message_loop.h"
 #include "platform/screen.h"
 #include "tests/contract/contract.h"
+#include "win32/dialog_edit.h"
 #include "win32/mirror.h"
 #include "win32/modal.h"
 
@@ -22,7 +23,7 @@ using platform::Control_State;
 using platform::Input_Event;
 using platform::Input_Kind;
 
-enum { Tabs, Page, Group, Opt_1, Opt_2, Check, Combo, Typed, List, Thumb, Bar, Picture, Over, Shut, Last };
+enum { Tabs, Page, Group, Opt_1, Opt_2, Check, Combo, Typed, List, Thumb, Bar, Field, Picture, Over, Shut };
 
 constexpr const char *event_names[] = {"down",  "up",   "move",     "double", "key",       "keyup",
                                        "click", "text", "selected", "scroll", "activated", "default"};
@@ -32,18 +33,17 @@ class Dialog_Contract : public ::testing::Test {
 protected:
     Dialog_Contract() {
         using enum Control_Kind;
-        const Control_Kind kinds[] = {Tab_Strip,    Frame,       Frame,     Option_Button, Option_Button,
-                                      Check_Box,    Combo_Box,   Combo_Box, List_Box,      Slider,
-                                      Progress_Bar, Picture_Box, Label,     Label};
-        for (int i = 0; i < Last; ++i) {
+        const Control_Kind kinds[] = {Tab_Strip,    Frame,     Frame,       Option_Button, Option_Button,
+                                      Check_Box,    Combo_Box, Combo_Box,   List_Box,      Slider,
+                                      Progress_Bar, Text_Box,  Picture_Box, Label,         Label};
+        for (int i = 0; i <= Shut; ++i) {
             Control_State &control = controls_[i];
             control.kind = kinds[i];
             control.index = i;
             control.container = i < Group ? -1 : i == Opt_1 || i == Opt_2 ? Group : Page;
             control.bounds = {0, 15 * 20 * i, 1500, 300};
-            if (control.kind == Tab_Strip || control.kind == Combo_Box || control.kind == List_Box)
-                control.items = {"One", "Two", "Three"};
-            control.painted = i >= Picture;
+            control.items = {"One", "Two", "Three"};
+            control.painted = i == Picture || i == Over;
             control.paint = [](platform::Canvas &canvas, const Rect &) {
                 platform::Fill_Rect(canvas, {0, 0, 750, 300}, Rgb(10, 200, 30));
             };
@@ -52,8 +52,8 @@ protected:
         controls_[Tabs].bounds = controls_[Page].bounds = {0, 0, 6000, 9000};
         controls_[Over].bounds = controls_[Picture].bounds;
         controls_[Over].bounds.width = 300;
-        controls_[Group].caption = "Group";
-        controls_[Typed].editable = controls_[Picture].tab_stop = true;
+        controls_[Group].caption = controls_[Field].caption = controls_[List].tooltip = "Text";
+        controls_[Typed].editable = controls_[Field].read_only = controls_[Picture].tab_stop = true;
         controls_[Thumb].minimum = controls_[Thumb].value = 1;
         controls_[Shut].enabled = controls_[Over].visible = false;
         model_.name = "Contract_Frm";
@@ -115,7 +115,7 @@ protected:
         SetKeyboardState(std::fill_n(keys, 256, BYTE{0}) - 256);
     }
 
-    Control_State controls_[Last];
+    Control_State controls_[Shut + 1];
     platform::Form_Model model_;
     HWND window_ = nullptr;
     std::string log_;
@@ -142,6 +142,8 @@ TEST_F(Dialog_Contract, The_Form_Hears_What_The_User_Does) {
         {[this] { Type(Typed, VK_BACK, true); }, "text 7 x ; "},
         {[this] { SendMessageW(Typed_Text(), WM_CHAR, L'\u65E5', 0); }, "text 7 x \u65E5; "},
         {[this] { Send(Typed, CB_SETCURSEL, 1), Notify(Typed, CBN_CLOSEUP); }, "text 7 Two; "},
+        // A text that is only read.
+        {[this] { Send(Field, EM_SETSEL, 0, -1), Send(Field, WM_COPY), Send(Field, WM_PASTE); }, ""},
         {[this] { Send(List, LB_SETCURSEL, 1), Notify(List, LBN_SELCHANGE); }, "selected 8 1; "},
         {[this] { Notify(List, LBN_DBLCLK); }, "activated 8 1; "},
         {[this] { Type(List, VK_DELETE), Type(List, VK_RETURN); }, "key 8 46; key 8 13; "},
@@ -152,17 +154,23 @@ TEST_F(Dialog_Contract, The_Form_Hears_What_The_User_Does) {
         {[this] { Send(Thumb, WM_KEYDOWN, VK_LEFT), Send(Thumb, WM_KEYUP, VK_LEFT); }, ""},
         {[this] { Send(Thumb, WM_KEYDOWN, VK_RIGHT), Send(Thumb, WM_KEYUP, VK_RIGHT); },
          "scroll 9 2; selected 9 2; "},
-        {[this] { Send(Picture, WM_LBUTTONDOWN, MK_LBUTTON, 4); }, "down 11 L" + twips(4) + "; "},
-        {[this] { Send(Picture, WM_LBUTTONUP, 0, 6); }, "up 11 L" + twips(6) + "; "},
-        {[this] { Type(Picture, VK_LEFT), Type(Picture, VK_SPACE); }, "key 11 37; click 11 off; "},
+        {[this] { Send(Picture, WM_LBUTTONDOWN, MK_LBUTTON, 4); }, "down 12 L" + twips(4) + "; "},
+        {[this] { Send(Picture, WM_LBUTTONUP, 0, 6); }, "up 12 L" + twips(6) + "; "},
+        {[this] { Type(Picture, VK_LEFT), Type(Picture, VK_SPACE); }, "key 12 37; click 12 off; "},
         {[this] { Send(Picture, WM_KEYDOWN, VK_SPACE, KF_REPEAT << 16); }, ""}, // held down
         {[this] { Type(Picture, VK_RETURN); }, ""}, // the default button gets the key
         {[this] { controls_[Picture].access.default_action = "Pick", Type(Picture, VK_RETURN); },
-         "key 11 13; "},
+         "key 12 13; "},
     };
     for (const auto &[act, expected] : cases) {
         act();
         EXPECT_EQ(Take_Log(), expected);
+    }
+    {
+        const win32::Modal_Scope box(nullptr); // beside a message box nothing changes
+        Send(Opt_1, BM_CLICK), Send(Check, BM_CLICK), Press_Tab(0);
+        EXPECT_TRUE(Send(Opt_1, BM_GETCHECK) == BST_UNCHECKED && Send(Opt_2, BM_GETCHECK) == BST_CHECKED);
+        EXPECT_TRUE(Send(Check, BM_GETCHECK) == BST_UNCHECKED && Send(Tabs, TCM_GETCURSEL) == 2);
     }
     SetWindowPos(window_, nullptr, 45, 67, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
     ShowWindow(window_, SW_MINIMIZE); // which is no place to store
@@ -190,6 +198,16 @@ TEST_F(Dialog_Contract, Its_Own_Changes_Show_And_Are_Not_Told) {
     EXPECT_EQ(GetObjectType(reinterpret_cast<HGDIOBJ>(Send(List, WM_GETFONT))), DWORD{OBJ_FONT});
     EXPECT_TRUE(Send(List, WM_GETFONT) == Send(Check, WM_GETFONT) && Send(List, WM_GETFONT) != font);
     EXPECT_EQ(Take_Log(), "");
+    NMTTDISPINFOW asked = {};
+    asked.hdr = {FindWindowW(TOOLTIPS_CLASSW, nullptr), reinterpret_cast<UINT_PTR>(Native(List)),
+                 TTN_GETDISPINFOW};
+    SendMessageW(window_, WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&asked));
+    EXPECT_STREQ(asked.lpszText, L"Text") << "the tip";
+    controls_[Thumb].caption = "9 days";
+    SendMessageW(window_, WM_HSCROLL, TB_THUMBTRACK, reinterpret_cast<LPARAM>(Native(Thumb)));
+    controls_[Thumb].caption = "10 days";
+    Change(Thumb, Aspect::Caption);
+    EXPECT_EQ(win32::Window_Text(FindWindowW(TOOLTIPS_CLASSW, nullptr)), L"10 days");
     Send(List, LB_SETTOPINDEX, 2), controls_[List].selected = -1, Change(List, Aspect::Items);
     EXPECT_EQ(Send(List, LB_GETTOPINDEX), 2) << "a list that is filled again stays in its place";
     controls_[Typed].caption = "a\r\nb";
@@ -202,9 +220,6 @@ TEST_F(Dialog_Contract, Its_Own_Changes_Show_And_Are_Not_Told) {
 
 TEST_F(Dialog_Contract, On_A_Screen_Of_Another_Scale_It_Follows_That_And_Nothing_Else_Does) {
     const int calendar_dots = platform::Dots_Per_Inch();
-    NONCLIENTMETRICSW users = {};
-    users.cbSize = offsetof(NONCLIENTMETRICSW, iPaddedBorderWidth); // Windows XP refuses more
-    EXPECT_TRUE(SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, users.cbSize, &users, 0));
     for (const int dots : {192, 144, 0, calendar_dots}) {
         RECT wanted = {40, 50, 400, 500}, client = {}, part = {};
         SendMessageW(window_, WM_DPICHANGED, static_cast<WPARAM>(MAKELONG(dots, dots)),
@@ -221,9 +236,8 @@ TEST_F(Dialog_Contract, On_A_Screen_Of_Another_Scale_It_Follows_That_And_Nothing
         LOGFONTW font = {};
         GetObjectW(reinterpret_cast<HGDIOBJ>(Send(List, WM_GETFONT)), sizeof font, &font);
         EXPECT_EQ(font.lfHeight, -Scale_Nearest(controls_[List].font.tenth_points, now, 720));
-        EXPECT_STREQ(font.lfFaceName, users.lfMessageFont.lfFaceName);
         Take_Log(), Send(Picture, WM_LBUTTONDOWN, MK_LBUTTON, 40), Send(Picture, WM_LBUTTONUP, 0, 40);
-        const std::string at = " 11 L" + std::to_string(Pixels_To_Twips(40, now)) + "; ";
+        const std::string at = " 12 L" + std::to_string(Pixels_To_Twips(40, now)) + "; ";
         EXPECT_EQ(Take_Log(), "down" + at + "up" + at);
         EXPECT_EQ(heard_at_, calendar_dots) << "the form's own code";
     }
@@ -251,19 +265,6 @@ TEST_F(Dialog_Contract, A_Page_Is_Made_In_Its_Place_When_It_Is_First_Shown) {
     EXPECT_EQ(GetWindow(Native(Shut), GW_HWNDNEXT), Native(Tabs));
 }
 
-TEST_F(Dialog_Contract, Beside_A_Message_Box_Nothing_Changes) {
-    controls_[Opt_1].checked = true;
-    Change(Opt_1, Aspect::Checked);
-    const win32::Modal_Scope box(nullptr);
-    Send(Opt_2, BM_CLICK), Send(Check, BM_CLICK);
-    Press_Tab(1);
-    Send(Picture, WM_LBUTTONDOWN, MK_LBUTTON, 0);
-    Type(List, VK_DELETE);
-    EXPECT_EQ(Take_Log(), "");
-    EXPECT_TRUE(Send(Opt_1, BM_GETCHECK) == BST_CHECKED && Send(Opt_2, BM_GETCHECK) == BST_UNCHECKED);
-    EXPECT_TRUE(Send(Check, BM_GETCHECK) == BST_UNCHECKED && Send(Tabs, TCM_GETCURSEL) == -1);
-}
-
 /// Where the picture paints nothing, it shows the colour of the page. Later controls lie above it.
 TEST_F(Dialog_Contract, What_Paints_Itself_Lies_On_The_Page) {
     const win32::Unique_Memory_Dc dc(CreateCompatibleDC(nullptr));
@@ -272,10 +273,15 @@ TEST_F(Dialog_Contract, What_Paints_Itself_Lies_On_The_Page) {
     Send(Picture, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc.get()), PRF_CLIENT);
     EXPECT_EQ(GetPixel(dc.get(), 40, 10), RGB(10, 200, 30));
     const COLORREF bare = GetPixel(dc.get(), 90, 10);
+    for (const COLORREF colour : {RGB(0, 0, 255), RGB(255, 0, 0)}) {
+        controls_[Shut].back_colour = static_cast<Colour>(colour);
+        Change(Shut, Aspect::Appearance);
+        Send(Shut, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc.get()), PRF_CLIENT);
+        EXPECT_EQ(GetPixel(dc.get(), 40, 10), colour);
+    }
     SetFocus(Native(Picture));
     Send(Picture, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc.get()), PRF_CLIENT);
     EXPECT_NE(GetPixel(dc.get(), 40, 1), GetPixel(dc.get(), 41, 1)) << "the focus is seen";
-    Send(Tabs, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc.get()), PRF_CLIENT | PRF_ERASEBKGND);
     SetViewportOrgEx(dc.get(), -200, -300, nullptr);
     Send(Tabs, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc.get()), PRF_CLIENT | PRF_ERASEBKGND);
     EXPECT_EQ(bare, GetPixel(dc.get(), 210, 310));
