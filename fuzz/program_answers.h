@@ -231,7 +231,8 @@ inline std::string Answers::Answer_Dialog(const platform::File_Dialog &dialog) {
     } else if (dialog.title == "Import Events from CSV File") {
         const Model_CSV csv = files_.CSV(path);
         staged_ = true;
-        pending_.push_back({[csv](const Model &model) { return After_Import(model, csv); }, false, "Import"});
+        pending_.push_back({[csv](const Model &model) { return After_Import(model, csv); }, false, "Import",
+                            [csv](const Model &model) { return Import_Parts(model, csv); }});
     } else if (dialog.title == "Import Events from iCalendar File") {
         const Model_ICalendar calendar = files_.ICalendar(path);
         pending_.push_back(

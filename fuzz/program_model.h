@@ -228,6 +228,18 @@ inline Outcomes After_Import(const Model &model, const Model_CSV &csv) {
     return {{Written(records), records}};
 }
 
+/// Returns the files that a long import may leave while it shows its progress: with the first events only.
+inline Outcomes Import_Parts(const Model &model, const Model_CSV &csv) {
+    Outcomes parts;
+    Model_CSV first;
+    for (const Model_Event &event : csv.events) {
+        first.events.push_back(event);
+        const Outcomes part = After_Import(model, first);
+        parts.insert(parts.end(), part.begin(), part.end());
+    }
+    return csv.good ? parts : Outcomes{};
+}
+
 /// A calendar file to be imported. A yearly event has the year 9999.
 struct Model_ICalendar {
     std::vector<Model_Event> events;

@@ -38,6 +38,9 @@ struct Pending {
     std::function<Outcomes(const Model &)> outcomes;
     bool may_stay = false; ///< a reading failed with a message, so that the file may be unchanged
     std::string name = {}; ///< of the Undo step
+    /// The files between two writes of one change; none if the program writes once.
+    std::function<Outcomes(const Model &)> parts = {};
+    std::optional<Model_Step> begun = {}; ///< the part that was in the file while a box was open
 };
 
 class Oracle {
@@ -73,6 +76,9 @@ protected:
 
 private:
     void Forget();
+    bool Begin_Part(const std::optional<std::string> &disk);
+    void Follow_Restore(const std::optional<std::string> &disk);
+    void Keep_Part(Model_Step part);
     void Follow_Editor();
     void Check_Store();
 
@@ -115,6 +121,7 @@ inline void Oracle::Commit(bool at_end) {
         pending_.clear();
     }
     while (!pending_.empty()) {
+        Follow_Restore(disk);
         const Pending pending = pending_.back();
         const Outcomes outcomes = pending.outcomes(model_);
         const auto done = std::find_if(outcomes.begin(), outcomes.end(), [&](const Outcome &outcome) {
@@ -124,6 +131,8 @@ inline void Oracle::Commit(bool at_end) {
         if (!at_end && stays)
             return; // still to come
         const bool whole = !model_.file || model_.file->whole;
+        if (done == outcomes.end() && !at_end && Begin_Part(disk))
+            return;
         if (done == outcomes.end()) {
             Demand(stays && (pending.may_stay || !whole), "the data file is not what the user made of it");
             Forget();
@@ -131,7 +140,8 @@ inline void Oracle::Commit(bool at_end) {
             const bool readable = fails_ == 0 && !Fakes().unreadable.contains(Data_Path);
             if (done->undone > 0)
                 model_.Drop_Steps(done->undone);
-            else if (!Same_Bytes(model_.file, done->file)) // a change inside another has the outer name
+            else if (!Same_Bytes(model_.file, done->file) && !pending_.front().begun)
+                // a change inside another has the outer name
                 model_.Add_Step(
                     {pending_.size() == 1 ? pending.name : "", model_.file, done->file, readable});
             model_.file = done->file;
@@ -144,9 +154,44 @@ inline void Oracle::Commit(bool at_end) {
     Demand(model_.Is_Now(disk), "the data file is another one than the user's");
 }
 
+/// Returns whether the disk holds a part of the newest pending change. That change then can only fail.
+inline bool Oracle::Begin_Part(const std::optional<std::string> &disk) {
+    Pending &pending = pending_.back();
+    for (const Outcome &part : pending.parts ? pending.parts(model_) : Outcomes{}) {
+        if (!part.file || disk != part.file->bytes)
+            continue;
+        pending.begun = Model_Step{pending.name, model_.file, part.file, false};
+        pending.outcomes = [](const Model &) { return Outcomes{}; };
+        pending.parts = {};
+        model_.file = part.file;
+        return true;
+    }
+    return false;
+}
+
+/// Follows the removal of the part of a change that has failed.
+inline void Oracle::Follow_Restore(const std::optional<std::string> &disk) {
+    std::optional<Model_Step> &begun = pending_.back().begun;
+    if (!begun || !Model{begun->before}.Is_Now(disk))
+        return;
+    model_.file = begun->before;
+    begun.reset();
+}
+
+/// Follows the failure of a change of which a part stays in the file: a save followed that part, or the
+/// safety copy cannot be read.
+inline void Oracle::Keep_Part(Model_Step part) {
+    const bool held = !Fakes().unreadable.empty() || !Fakes().unwritable.empty();
+    Demand(held || !Same_Bytes(part.after, model_.file), "a failed import has left a part of its events");
+    part.after = model_.file;
+    model_.Add_Step(std::move(part));
+}
+
 /// Drops the newest pending change, for which a failure was shown. The file must be unchanged.
 inline void Oracle::Fail_Pending() {
     const std::optional<std::string> disk = Disk();
+    if (!pending_.empty() && pending_.back().begun)
+        Keep_Part(*pending_.back().begun);
     Demand(model_.Is_Now(disk), "a failure has changed the data file");
     if (pending_.empty())
         return;
