@@ -51,6 +51,8 @@ TEST_F(Desktop_Life, waits_outside_for_a_shell_that_does_not_answer) {
     const Splash_Frm &splash = form.Splash;
     EXPECT_EQ(splash.Left(), form.Left() + (form.Width() - splash.Width()) / 2);
     EXPECT_EQ(splash.Top(), form.Top() + form.Box_Lbl[36].Top() / 2 + splash.Height());
+    EXPECT_EQ(splash.Weekday_Lbl.Back_Colour(), splash.Line_Lbl.Fore_Colour()) << "the head of the leaf";
+    EXPECT_LE(2 * platform::Line_Height(splash.Line_Lbl.Font()), splash.Line_Lbl.Height());
     EXPECT_LE(platform::Line_Height(splash.Name_Lbl.Font()), splash.Name_Lbl.Height());
     EXPECT_EQ(splash.Line_Lbl.Caption(),
               "Double-click a day to write on it.\nRight-click it for settings and exit.");
@@ -91,6 +93,7 @@ TEST_F(Desktop_Life, follows_the_icons_to_where_the_shell_has_them) {
     EXPECT_FALSE(Shell().covered);
     // The window that holds the icons is destroyed with the calendar's window, then the shell ends.
     for (const bool shell_stays : {true, false}) {
+        Press_Key(form, 39);                        // shows the mark
         const Point on_title{form.Width() / 2, 90}; // in the middle of a drag
         Input(form, {.kind = Input_Kind::Mouse_Down, .point = on_title, .button = Mouse_Button::Left});
         Desktop().mirrors.clear();
@@ -98,6 +101,7 @@ TEST_F(Desktop_Life, follows_the_icons_to_where_the_shell_has_them) {
         Shell().desktop = shell_stays ? 11 : 0;
         Input(form, {.kind = Input_Kind::Window_Lost});
         Desktop().Advance(1000);
+        EXPECT_FALSE(Box_Of(5).State().marked);
         EXPECT_EQ(Desktop().mirrors.contains(&form.Model()), shell_stays);
         EXPECT_EQ(Desktop().loop_ended, !shell_stays);
         EXPECT_EQ(Shell().attached_to, 11U);

@@ -36,7 +36,6 @@ protected:
 TEST_F(Colours, a_colour_is_shown_as_numbers_and_by_name) {
     const std::pair<Colour, std::string> rows[] = {
         {0x000A09FF, "657919 #FF09A 255,9,10 "},
-        {0x00C71085, "13045893 #8510C7 133,16,199 "},
         {0x00000000, "0 #000000 0,0,0 Black"},
         {System_Colour(5), "12632256 #C0C0C0 192,192,192 Silver"},
     };
@@ -71,6 +70,7 @@ TEST_F(Colours, the_selected_swatch_takes_what_is_picked_and_keeps_a_system_colo
     Push(dialog, page.Col_Sys_Opt);
     EXPECT_EQ(page.Preview_Month_Lbl.State().back_colour, 4934475);
     EXPECT_EQ(page.Preview_Prev_Lbl.Fore_Colour(), 0x00123456);
+    EXPECT_NE(page.Col_Back_Lbl.Fore_Colour(), page.Col_Num_Lbl.Fore_Colour()) << "grey";
     Click(dialog, page.Col_Back_Pic);
     Click(dialog, page.Col_Back_Lbl);
     Click(dialog, page.Pal);
@@ -97,7 +97,7 @@ TEST_F(Colours, the_mouse_shows_colours_and_its_release_picks_the_last_one) {
     for (int i = 0; i < 100; ++i) // the keyboard continues from that colour
         Input(dialog, {.kind = Input_Kind::Key_Down, .key = i < 50 ? Key_Right : Key_Up, .shift = true},
               &page.Pal);
-    Push(dialog, page.Pal);
+    Input(dialog, {.kind = Input_Kind::Default_Action}, &page.Pal);
     EXPECT_EQ(page.Col_Today_Pic.Back_Colour(), 0x00FFFFFF) << "the light end of the greys";
 }
 
@@ -114,7 +114,6 @@ TEST(Palette, the_picture_is_the_formula_and_goes_through_all_hues) {
             EXPECT_LT(std::abs(((seen >> shift) & 0xFF) - ((colours[i] >> shift) & 0xFF)), 15) << i;
     }
     EXPECT_EQ(Palette_Colour({115, 20}, size), 0x7F7F7F);
-    EXPECT_EQ(Palette_Colour({-5, 99}, size), 0);
 }
 
 } // namespace

@@ -1,4 +1,5 @@
 // The wallpaper page with packs on the faked disk, and the preview of all months.
+#include "settings/thumbnail.h"
 #include "settings/wallpaper_page.h"
 #include "tests/calendar/calendar_test.h"
 
@@ -189,7 +190,7 @@ TEST_F(Themes_Page, a_preview_leaves_all_as_it_was) {
             desktop("Wallpaper") = "C:\\Themes\\TranscodedWallpaper";
         else
             Fakes().files[In_Pack(themes ? "Default" : "Winter", "3.bmp")] = "";
-        Fakes().monitors = end == dialog_gone ? " and a slide show" : "";
+        Fakes().monitors = end == dialog_gone || end == killed ? " and a slide show" : "";
         Fakes().wallpapers = {desktop("Wallpaper") + (end == stopped ? ", copied" : "") + Fakes().monitors};
         Events({"7/3/2002=Wedding anniversary of the whole family in Winchester"});
         form.Get_Wallpaper_Stuff("Default");
@@ -240,6 +241,14 @@ TEST_F(Themes_Page, a_preview_leaves_all_as_it_was) {
             EXPECT_EQ(state(), before);
         EXPECT_TRUE(!dialog || Choices_Enabled() == (end != unchecked && end != pack_gone));
     }
+}
+
+TEST(Thumbnails, fit_whole_and_in_their_colours) {
+    const auto pixels = std::make_shared<std::vector<std::uint8_t>>(3 * 400 * 100);
+    pixels->front() = 255;
+    const Picture wide = Thumbnail({400, 100, pixels}, 40, 15), high = Thumbnail({100, 400, pixels}, 40, 15);
+    EXPECT_TRUE(wide.width == 40 && wide.height == 10 && high.width == 3 && high.height == 15);
+    EXPECT_TRUE(wide.pixels->front() > 0 && wide.pixels->at(2) == 0);
 }
 
 } // namespace

@@ -104,8 +104,6 @@ TEST_F(Form_Test, the_mirror_is_told_of_the_program_s_changes_only_and_only_whil
         form.Low.Move({0, 0, 10, 10});
         form.Move(5, 5);
         form.Low.Set_Back_Colour(7);
-        form.Low.Set_Fore_Colour(8);
-        form.Low.Set_Frame_Colour(9);
         form.Set_Back_Colour(10);
     }
     form.Set_Focus(form.Ok_Btn);
@@ -115,8 +113,6 @@ TEST_F(Form_Test, the_mirror_is_told_of_the_program_s_changes_only_and_only_whil
     EXPECT_EQ(Desktop().announced, (std::vector<Announced_Change>{{"Text_Txt", Aspect::Caption},
                                                                   {"Low", Aspect::Bounds},
                                                                   {"", Aspect::Bounds},
-                                                                  {"Low", Aspect::Appearance},
-                                                                  {"Low", Aspect::Appearance},
                                                                   {"Low", Aspect::Appearance},
                                                                   {"", Aspect::Appearance},
                                                                   {"", Aspect::Focus}}));

@@ -73,7 +73,7 @@ TEST_F(List_Controls, hidden_and_disabled_frames_take_nothing_for_what_they_hold
         }
 }
 
-TEST_F(List_Controls, a_painted_control_is_clicked_where_it_is_released_inside) {
+TEST_F(List_Controls, a_painted_control_shows_its_picture_whole_and_is_clicked_by_a_release_inside) {
     for (const Point point : {Point{0, 0}, {299, 299}, {300, 10}, {-1, 10}, {10, 10}}) {
         if (point.x != 10) // the last release is without a press
             Press(form, form.picture);
@@ -82,6 +82,13 @@ TEST_F(List_Controls, a_painted_control_is_clicked_where_it_is_released_inside) 
     }
     Click(form, form.picture, Mouse_Button::Right);
     EXPECT_EQ(form.heard, "picture picture ");
+    for (const auto &[size, place] :
+         {std::pair(Size{20, 10}, Rect{0, 75, 300, 150}), {Size{10, 30}, Rect{100, 0, 100, 300}}}) {
+        platform::Canvas canvas;
+        form.picture.Set_Picture({size.width, size.height, {}});
+        form.picture.State().paint(canvas, {0, 0, 300, 300});
+        EXPECT_EQ(canvas.operations.back().rect, place) << "the whole picture, in the middle";
+    }
 }
 
 } // namespace

@@ -80,11 +80,13 @@ TEST_F(Calendar_Files, give_their_events_to_the_days) {
          Event("SUMMARY:A|DTSTART:16040229|RRULE:FREQ=YEARLY|") +
              Event("SUMMARY:B|DTSTART:00010301|RRULE:freq=yearly;bymonth=3;bymonthday=1;interval=1|"),
          "29/2/9999=A|1/3/9999=B|", 2},
-        {"every year with a limit, a rule of ordinals from the end, and every second week from a Sunday",
+        {"a limit, ordinals from the end, every second week from a Sunday, the last working day of a month",
          Event("SUMMARY:A|DTSTART:20010410|RRULE:FREQ=YEARLY;COUNT=3|") +
              Event("SUMMARY:M|DTSTART:19971026|RRULE:FREQ=YEARLY;BYMONTH=10;BYDAY=-1SU|") +
-             Event("SUMMARY:S|DTSTART:20020303|RRULE:FREQ=WEEKLY;INTERVAL=2;COUNT=2|RDATE:20020401T1000|"),
-         "10/4/2002=A|10/4/2003=A|27/10/2002=M|26/10/2003=M|3/3/2002=S|17/3/2002=S|1/4/2002=S|", 3},
+             Event("SUMMARY:S|DTSTART:20020303|RRULE:FREQ=WEEKLY;INTERVAL=2;COUNT=2|RDATE:20020401T1000|") +
+             Event("SUMMARY:P|DTSTART:19970131|RRULE:FREQ=MONTHLY;BYDAY=TU,WE,TH,FR;BYSETPOS=-1;COUNT=62|"),
+         "10/4/2002=A|10/4/2003=A|27/10/2002=M|26/10/2003=M|3/3/2002=S|17/3/2002=S|1/4/2002=S|28/2/2002=P|",
+         4},
         {"a rule of a zone to a time of UTC, an exception of UTC, and days beside the rule",
          "BEGIN:VTIMEZONE|TZID:Z|BEGIN:STANDARD|TZOFFSETTO:-0500|END:STANDARD|BEGIN:DAYLIGHT|TZOFFSETTO:-"
          "0400|"

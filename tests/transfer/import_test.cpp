@@ -242,6 +242,13 @@ TEST_F(Importing, is_seen_while_it_takes_long_and_the_file_is_whole_then) {
     EXPECT_EQ(std::count(Data_File().begin(), Data_File().end(), 'x'), count + 1);
     EXPECT_TRUE(!page.Progress_Bar1.Visible() && dialog->Model().pointer == platform::Pointer_Shape::Arrow);
     EXPECT_TRUE(Text_Of(1).starts_with("0 - x + 0"));
+    shown = 0;
+    Fakes().painting = [&] { shown = page.Progress_Bar1.Visible() ? page.Progress_Bar1.State().value : 0; };
+    Data_File().clear();
+    for (int i = 0; i < 1000; ++i)
+        Data_File() += "5/3/2002=x\r\n";
+    Export(3, "C:\\x.csv", "Successfully exported 1000 events to the CSV file...\r\nC:\\x.csv");
+    EXPECT_TRUE(shown > 80 && !page.Progress_Bar1.Visible()) << shown;
 }
 
 TEST_F(Importing, takes_a_configuration_over_up_to_an_error) {
@@ -260,6 +267,10 @@ TEST_F(Importing, takes_a_configuration_over_up_to_an_error) {
         Open(Settings_Frm::about_fra);
         Choose(*dialog, dialog->TabStrip1, Settings_Frm::transfer_fra);
         File("C:\\in.ini") = bytes;
+        Fakes().file_fails = [this](const std::string &path) {
+            EXPECT_EQ(dialog->Model().pointer == platform::Pointer_Shape::Hourglass, path == "C:\\in.ini");
+            return false;
+        };
         Import(1, "C:\\in.ini",
                taken ? "Loaded configuration file successfully."
                      : "Error when importing configuration from file.");

@@ -44,20 +44,6 @@ TEST_F(File_Dialogs, hand_the_properties_over_and_take_the_answers) {
               "save Text\0*.txt\0\0\0D:\\in 2 512 260 20; C:\\b, b 2"s);
     dialog.FilterIndex = 1;
     EXPECT_TRUE(Ask(&OpenSaveDialog::ShowOpen, "").ends_with("; C:\\b, b 1"));
-    dialog.CancelError = true;
-    EXPECT_THROW(Ask(&OpenSaveDialog::ShowSave, ""), Dialog_Cancelled);
-    // ParseMultiFileName separates the names.
-    for (const auto &[name, expected] :
-         {std::pair("\\b"s, ":b:1"), {"b"s, ":b:1"}, {"C:\\a\0b\0c"s, "C:\\a:b:c:2"}}) {
-        dialog.FileName = name;
-        std::string folder, found;
-        std::vector<std::string> names;
-        std::int16_t count = 0;
-        dialog.ParseMultiFileName(folder, names, count);
-        for (const std::string &part : names)
-            found += part + ":";
-        EXPECT_EQ(folder + ":" + found + std::to_string(count), expected);
-    }
 }
 
 } // namespace
