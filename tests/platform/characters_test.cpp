@@ -21,7 +21,6 @@ TEST(Characters, Are_Whole_And_Of_Well_Formed_Bytes) {
         {"\U0001F1E9\U0001F1EA", "\U0001F1EB\U0001F1F7", "\U0001F1EC", "z"}, // two flags and half a flag
         {"a", "\xE9"},                                                       // bytes of another code page
         {"\xF0", "\x9F", "\x93"},
-        {"\xC0", "\x80"},
         {"\xE0", "\x9F", "\xBF"},
         {"\xED", "\xA0", "\x80"},
         {"\xF4", "\x90", "\x80", "\x80"},

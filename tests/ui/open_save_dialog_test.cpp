@@ -44,6 +44,12 @@ TEST_F(File_Dialogs, hand_the_properties_over_and_take_the_answers) {
               "save Text\0*.txt\0\0\0D:\\in 2 512 260 20; C:\\b, b 2"s);
     dialog.FilterIndex = 1;
     EXPECT_TRUE(Ask(&OpenSaveDialog::ShowOpen, "").ends_with("; C:\\b, b 1"));
+    dialog.FileName = "C:\\a\0b\0c"s;
+    std::string folder;
+    std::vector<std::string> names;
+    std::int16_t count = 0;
+    dialog.ParseMultiFileName(folder, names, count);
+    EXPECT_EQ(folder + "|" + names.at(0) + "|" + names.at(1) + std::to_string(count), "C:\\a|b|c2");
 }
 
 } // namespace
