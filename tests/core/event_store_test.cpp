@@ -3,7 +3,6 @@
 #include "tests/fakes/fake_test.h"
 
 #include <random>
-#include <stdexcept>
 
 using Items = std::vector<std::string>;
 using namespace std::string_literals;

@@ -61,7 +61,15 @@ Accessible Accessible_Of(HWND window) {
         FAILED(
             AccessibleObjectFromWindow(window, static_cast<DWORD>(OBJID_CLIENT), IID_IAccessible, &object)))
         return nullptr;
-    return Accessible(static_cast<IAccessible *>(object));
+    Accessible accessible(static_cast<IAccessible *>(object));
+    // Never release the first object of a window: if the last object with an interface goes right after a
+    // call, Wine at times waits in the program forever for the end of that call, because two of its threads
+    // (RpcServerUnregisterIf and the one that made the call) overlook each other.
+    static std::set<HWND> kept;
+    if (kept.insert(window).second)
+        for (const IID *name : {&IID_IAccessible, &IID_IEnumVARIANT})
+            accessible->QueryInterface(*name, &object);
+    return accessible;
 }
 
 std::vector<VARIANT> Children_Of(IAccessible &accessible) {

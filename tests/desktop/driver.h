@@ -5,7 +5,6 @@
 #include <windows.h>
 
 #include <array>
-#include <cstdint>
 #include <functional>
 #include <gtest/gtest.h>
 #include <memory>

@@ -1,7 +1,6 @@
 // The fixture of the desktop tests and the main function.
 #include "tests/desktop/driver.h"
 
-#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>

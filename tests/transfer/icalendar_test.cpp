@@ -3,7 +3,6 @@
 #include "tests/transfer/transfer_test.h"
 #include "transfer/event_days.h"
 
-#include <algorithm>
 
 namespace {
 
