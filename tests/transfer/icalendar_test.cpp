@@ -3,7 +3,6 @@
 #include "tests/transfer/transfer_test.h"
 #include "transfer/event_days.h"
 
-
 namespace {
 
 /// Today is 5 March 2002, so imports take repetitions from 1 February 2002 to 31 December 2003.
