@@ -172,9 +172,12 @@ inline bool Oracle::Begin_Part(const std::optional<std::string> &disk) {
 /// Follows the removal of the part of a change that has failed.
 inline void Oracle::Follow_Restore(const std::optional<std::string> &disk) {
     std::optional<Model_Step> &begun = pending_.back().begun;
-    if (!begun || !Model{begun->before}.Is_Now(disk))
+    Model before;
+    if (begun)
+        before.file = begun->before;
+    if (!begun || !before.Is_Now(disk))
         return;
-    model_.file = begun->before;
+    model_.file = before.file;
     begun.reset();
 }
 
