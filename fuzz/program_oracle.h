@@ -154,7 +154,8 @@ inline void Oracle::Commit(bool at_end) {
     Demand(model_.Is_Now(disk), "the data file is another one than the user's");
 }
 
-/// Returns whether the disk holds a part of the newest pending change. That change then can only fail.
+/// Follows a part of the newest pending change that the disk holds, and returns whether there is one. The
+/// change can then only fail.
 inline bool Oracle::Begin_Part(const std::optional<std::string> &disk) {
     Pending &pending = pending_.back();
     for (const Outcome &part : pending.parts ? pending.parts(model_) : Outcomes{}) {
@@ -169,13 +170,14 @@ inline bool Oracle::Begin_Part(const std::optional<std::string> &disk) {
     return false;
 }
 
-/// Follows the removal of the part of a change that has failed.
+/// Follows the removal of the part of a change that has failed. The program may not remove a part that a save
+/// has followed.
 inline void Oracle::Follow_Restore(const std::optional<std::string> &disk) {
     std::optional<Model_Step> &begun = pending_.back().begun;
     Model before;
     if (begun)
         before.file = begun->before;
-    if (!begun || !before.Is_Now(disk))
+    if (!begun || !before.Is_Now(disk) || !Same_Bytes(begun->after, model_.file))
         return;
     model_.file = before.file;
     begun.reset();
@@ -184,7 +186,7 @@ inline void Oracle::Follow_Restore(const std::optional<std::string> &disk) {
 /// Follows the failure of a change of which a part stays in the file: a save followed that part, or the
 /// safety copy cannot be read.
 inline void Oracle::Keep_Part(Model_Step part) {
-    const bool held = !Fakes().unreadable.empty() || !Fakes().unwritable.empty();
+    const bool held = part.before && Fakes().unreadable.contains(Backup_Path);
     Demand(held || !Same_Bytes(part.after, model_.file), "a failed import has left a part of its events");
     part.after = model_.file;
     model_.Add_Step(std::move(part));
