@@ -14,10 +14,7 @@ constexpr const char *manual_question =
 
 class Desktop_Life : public Calendar_Test {
 protected:
-    Desktop_Life() {
-        Shell() = {
-            .desktop = 11, .view = 12, .list = 13, .colours = {{-1, 0}}, .patience = 0, .web_pages = {}};
-    }
+    Desktop_Life() { Shell() = {.desktop = 11, .view = 12, .list = 13, .colours = {{-1, 0}}}; }
 
     /// Drags the title by these twips, in two steps, and releases it.
     void Drag(int right, int down) {

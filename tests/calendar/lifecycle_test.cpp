@@ -194,7 +194,7 @@ TEST_F(Lifecycle, starts_again_with_the_next_shell) {
             if (++seconds == 2 && said)
                 Desktop().Say(*said);
             if (seconds == desktop_at)
-                Shell() = {.desktop = 11, .view = 12, .list = 13, .colours = {{-1, 0}}, .web_pages = {}};
+                Shell() = {.desktop = 11, .view = 12, .list = 13, .colours = {{-1, 0}}};
             if (!Desktop().loop_ended)
                 Desktop().Advance(1000);
         };

@@ -22,6 +22,14 @@ inline std::string Scratch_Key() {
 
 #include <windows.h>
 
+/// Returns the first window of the class that this thread has created, or null.
+inline HWND Own_Window(const wchar_t *class_name) {
+    for (HWND window = nullptr; (window = FindWindowExW(nullptr, window, class_name, nullptr)) != nullptr;)
+        if (GetWindowThreadProcessId(window, nullptr) == GetCurrentThreadId())
+            return window;
+    return nullptr;
+}
+
 /// Creates a scratch folder for each test, and removes it and the scratch registry key. Restores the user's
 /// short date format and calendar.
 class Contract_Test : public ::testing::Test {

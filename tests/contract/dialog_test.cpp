@@ -199,15 +199,14 @@ TEST_F(Dialog_Contract, Its_Own_Changes_Show_And_Are_Not_Told) {
     EXPECT_TRUE(Send(List, WM_GETFONT) == Send(Check, WM_GETFONT) && Send(List, WM_GETFONT) != font);
     EXPECT_EQ(Take_Log(), "");
     NMTTDISPINFOW asked = {};
-    asked.hdr = {FindWindowW(TOOLTIPS_CLASSW, nullptr), reinterpret_cast<UINT_PTR>(Native(List)),
-                 TTN_GETDISPINFOW};
+    asked.hdr = {Own_Window(TOOLTIPS_CLASSW), reinterpret_cast<UINT_PTR>(Native(List)), TTN_GETDISPINFOW};
     SendMessageW(window_, WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&asked));
     EXPECT_STREQ(asked.lpszText, L"Text") << "the tip";
     controls_[Thumb].caption = "9 days";
     SendMessageW(window_, WM_HSCROLL, TB_THUMBTRACK, reinterpret_cast<LPARAM>(Native(Thumb)));
     controls_[Thumb].caption = "10 days";
     Change(Thumb, Aspect::Caption);
-    EXPECT_EQ(win32::Window_Text(FindWindowW(TOOLTIPS_CLASSW, nullptr)), L"10 days");
+    EXPECT_EQ(win32::Window_Text(Own_Window(TOOLTIPS_CLASSW)), L"10 days");
     Send(List, LB_SETTOPINDEX, 2), controls_[List].selected = -1, Change(List, Aspect::Items);
     EXPECT_EQ(Send(List, LB_GETTOPINDEX), 2) << "a list that is filled again stays in its place";
     controls_[Typed].caption = "a\r\nb";

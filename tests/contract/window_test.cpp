@@ -1,5 +1,5 @@
-// The contract of platform/forms.h about a window's place, and of message_loop.h about waiting input. These
-// tests need Windows.
+// The contract of platform/forms.h about a window's place and about what a change shows and announces, and of
+// message_loop.h about waiting input. These tests need Windows.
 #ifdef _WIN32
 #include "base/twips.h"
 #include "platform/forms.h"
@@ -92,7 +92,7 @@ TEST_F(Window_Contract, Long_Work_Drops_Its_Input_And_Changes_Show_And_Are_Annou
     UnhookWinEvent(hook);
     EXPECT_EQ(values_told, 1);
     TTTOOLINFOW tip = {TTTOOLINFOW_V1_SIZE, 0, window, 1, {}, nullptr, nullptr, 0, nullptr};
-    SendMessageW(FindWindowW(TOOLTIPS_CLASSW, nullptr), TTM_GETTOOLINFOW, 0, reinterpret_cast<LPARAM>(&tip));
+    SendMessageW(Own_Window(TOOLTIPS_CLASSW), TTM_GETTOOLINFOW, 0, reinterpret_cast<LPARAM>(&tip));
     EXPECT_EQ(tip.rect.top, Twips_To_Pixels(600, platform::Dots_Per_Inch()));
     platform::Destroy_Mirror(model);
     EXPECT_EQ(accessible->get_accFocus(&focused), CO_E_OBJNOTCONNECTED);

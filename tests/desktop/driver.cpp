@@ -63,8 +63,8 @@ Accessible Accessible_Of(HWND window) {
         return nullptr;
     Accessible accessible(static_cast<IAccessible *>(object));
     // Never release the first object of a window: if the last object with an interface goes right after a
-    // call, Wine at times waits in the program forever for the end of that call, because two of its threads
-    // (RpcServerUnregisterIf and the one that made the call) overlook each other.
+    // call, Wine at times waits in the program forever for the end of that call, because the thread in
+    // RpcServerUnregisterIf misses the signal of the thread that made the call.
     static std::set<HWND> kept;
     if (kept.insert(window).second)
         for (const IID *name : {&IID_IAccessible, &IID_IEnumVARIANT})

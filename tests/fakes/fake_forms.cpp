@@ -355,8 +355,7 @@ void Keep_Over_View(const Form_Model &model, Shell_Window view) {
     Shell().covered = false;
 }
 
-void Open_Web_Page(const char *address) {
-    Shell().web_pages.emplace_back(address);
+void Open_Web_Page(const char *) {
 }
 
 } // namespace platform

@@ -101,7 +101,6 @@ struct Fake_Shell {
     platform::Shell_Window worker = 0;                      ///< the view's parent; 0 if that is the desktop
     std::optional<platform::Label_Colours> colours;         ///< none if the shell hangs
     unsigned patience = 0;                                  ///< of the last question for them
-    std::vector<std::string> web_pages;                     ///< addresses opened so far
     int dots_inside = 0; ///< DPI of a window inside the desktop; 0: the same as outside
 
     const platform::Form_Model *attached = nullptr;
