@@ -276,11 +276,12 @@ std::string_view Content_Lines::Next_Physical() {
     line = line.substr(0, line.find('\r'));
     const std::size_t end = at_ + line.size();
     at_ = std::min(bytes_.find_first_not_of("\r\n", end), bytes_.size());
-    return Without_Byte_Order_Mark(line);
+    return line;
 }
 
 std::string_view Content_Lines::Next_Unfolded() {
-    std::string_view line = Next_Physical();
+    // Inside a folded text, the same bytes are a character of the text.
+    std::string_view line = Without_Byte_Order_Mark(Next_Physical());
     const auto continues = [this] {
         return at_ < bytes_.size() && (bytes_[at_] == ' ' || bytes_[at_] == '\t');
     };

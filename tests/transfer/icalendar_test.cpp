@@ -44,9 +44,9 @@ TEST_F(Calendar_Files, give_their_events_to_the_days) {
         int imported = 1, passed = 0, unsupported = 0;
     } rows[] = {
         {"a text, folded inside a character, with escapes and quotes",
-         Event(day + "summary;LANGUAGE=de;X-A=\"a:b;c\":Caf\xC3| \xA9\\, \\\"x\\\" 1\\;2| \t\\\\ a\\nb "
+         Event(day + "summary;LANGUAGE=de;X-A=\"a:b;c\":Caf\xC3| \xA9\\, \\\"x\\\" 1\\;2| \uFEFF\t\\\\ a\\nb "
                      "|LOCATION: Room 1\\, 2|"),
-         one + "Caf\xC3\xA9, 'x' 1;2 \\ a b, Room 1, 2|"},
+         one + "Caf\xC3\xA9, 'x' 1;2\uFEFF \\ a b, Room 1, 2|"},
         {"the first line of a description for an empty summary, and the first of two places",
          Event(day + "SUMMARY: |DESCRIPTION:\\n First \\nSecond|LOCATION:L|LOCATION:M|"), one + "First, L|"},
         {"what is inside of an event or beside it",
