@@ -164,8 +164,8 @@ protected:
     void Write_Data(std::string_view bytes) const { Write_File(L"calendar.dat", bytes); }
     std::string Data() const { return Read_File(L"calendar.dat"); }
 
-    /// Saves a screenshot for people to look at, once the screen no longer changes.
-    static void Save_Picture(const std::string &name);
+    /// Saves and returns a screenshot for people to look at, once the screen no longer changes.
+    static Picture Save_Picture(const std::string &name);
     static void Set_Setting(const std::string &section, const std::string &key, const std::string &value);
     static void Clear_Store();
     static std::string Store(); ///< returns all the program's registry keys and values, one per line

@@ -59,9 +59,7 @@ TEST_F(Dots, Places_And_Texts_Fit) {
         EXPECT_EQ(program.Title(), "23:50 - Wednesday 29th September - 2027");
         const std::vector<Item> days = program.Items(ROLE_SYSTEM_CELL);
         ASSERT_EQ(days.size(), 30U);
-        const std::string name = "style-" + std::string(style) + "-" + std::to_string(dots);
-        Save_Picture(name);
-        const Picture picture;
+        const Picture picture = Save_Picture("style-" + std::string(style) + "-" + std::to_string(dots));
         EXPECT_EQ(days[0].place.right - days[0].place.left, dots);
         for (const Item &item : program.Items()) {
             if (item.name.ends_with(", today"))

@@ -127,7 +127,7 @@ TEST_F(Use, Tooltip_And_Balloon) {
     const POINT middle = Middle(program.Named(day).place);
     const auto balloon = [&] { return program.Window("Vellatro_Balloon"); };
     ASSERT_TRUE(program.Raise_Calendar(middle));
-    const Picture before;
+    const Picture before = Save_Picture("no-balloon");
     Send_Mouse(middle, MOUSEEVENTF_LEFTDOWN);
     ASSERT_TRUE(Wait_Until([&] { return balloon() != nullptr; }));
     EXPECT_EQ(Text_Of(balloon()), "5/14/2027");
