@@ -16,6 +16,11 @@ inline std::string Scratch_Key() {
     return "Software\\Vellatro contract test";
 }
 
+/// Returns the names of the files in the file's folder.
+inline std::vector<std::string> Names_Beside(const std::string &path) {
+    return platform::Names_In_Folder(path.substr(0, path.rfind('\\')), platform::Entry_Kind::Files);
+}
+
 #ifdef _WIN32
 #include "win32/handles.h"
 #include "win32/wide_text.h"
@@ -75,10 +80,6 @@ protected:
         ASSERT_TRUE(SetFileTime(file.get(), nullptr, nullptr, &time));
     }
 
-    std::vector<std::string> Names_Left() const {
-        return platform::Names_In_Folder(win32::From_Wide(folder_), platform::Entry_Kind::Files);
-    }
-
     /// Sets the user's short date format, a pattern of d, dd, m, mm, yyyy and literals.
     void Use_Short_Date(const std::string &pattern) {
         std::wstring wide = win32::To_Wide(pattern);
@@ -119,10 +120,6 @@ protected:
     static void Protect_File(const std::string &path) { Fakes().unwritable.insert(path); }
 
     static void Age_File(const std::string &path) { Fakes().written[path] = {2000, 8, 7, 0, 0, 0, 0}; }
-
-    static std::vector<std::string> Names_Left() {
-        return platform::Names_In_Folder("C:\\Scratch", platform::Entry_Kind::Files);
-    }
 
     static void Use_Short_Date(const std::string &pattern) { Fakes().short_date_pattern = pattern; }
 };

@@ -99,7 +99,7 @@ TEST_F(Windows_Only, A_Hidden_File_Stays_Hidden_And_The_Rest_Of_A_Killed_Run_Goe
     platform::Replace_File(path, "whole");
     EXPECT_EQ(platform::Read_File(path), "whole");
     EXPECT_TRUE(GetFileAttributesW(wide.c_str()) & FILE_ATTRIBUTE_HIDDEN);
-    EXPECT_EQ(Names_Left(), std::vector<std::string>{"calendar.dat"});
+    EXPECT_EQ(Names_Beside(path), std::vector<std::string>{"calendar.dat"});
 }
 
 TEST_F(Windows_Only, A_File_Keeps_Its_Own_Access_List) {
@@ -158,7 +158,7 @@ TEST_F(Windows_Only, Names_Are_Given_In_The_Form_That_The_System_Takes) {
     for (const std::string &path : {with_zero, Scratch("a|b")})
         EXPECT_TRUE(platform::Path_Exists(path)) << "reading is to tell: " << path;
     EXPECT_FALSE(platform::Path_Exists(Scratch("no such\\a")));
-    EXPECT_EQ(Names_Left(), std::vector<std::string>{"a"});
+    EXPECT_EQ(Names_Beside(Scratch("a")), std::vector<std::string>{"a"});
 }
 
 TEST_F(Windows_Only, All_Kinds_Of_Stored_Texts_And_Numbers_Are_Read) {
