@@ -174,12 +174,13 @@ void Settings_Frm::Apply_Btn_Click() {
 void Settings_Frm::Form_Unload() {
     if (!std::exchange(open_, false))
         return;
+    // Store first: the end of a preview waits for the system, which at a session's end may end the program.
+    Cur_Settings.Settings_Tab = Which_Tab();
+    Store_Setting(&Settings::Settings_Tab);
     Wallpaper.End_Preview();
     Tooltips.Release();
     General.Set_Page_Visible(false);
     Block_Others(nullptr);
-    Cur_Settings.Settings_Tab = Which_Tab();
-    Store_Setting(&Settings::Settings_Tab);
     Close();
     calendar_.Resume_Auto_Compact();
 }
