@@ -80,10 +80,9 @@ std::string Test_Name() {
 } // namespace
 
 void Desktop_Test::SetUp() {
-    folder_ = Scratch + L"\\" + Wide(Test_Name());
-    CreateDirectoryW(folder_.c_str(), nullptr);
-    folder_ += L"\\Vellatro";
-    CreateDirectoryW(folder_.c_str(), nullptr);
+    folder_ = Scratch + L"\\" + Wide(Test_Name()) + L"\\Vellatro";
+    std::filesystem::remove_all(folder_); // of an earlier run
+    std::filesystem::create_directories(folder_);
     ASSERT_TRUE(CopyFileW(Program_Path.c_str(), Path_Of(L"vellatro.exe").c_str(), FALSE));
     Clear_Store();
     // Wine reports earlier mouse positions late, which would turn a click on the title into a drag.
