@@ -189,8 +189,9 @@ Picture Desktop_Test::Save_Picture(const std::string &name) {
     Picture last;
     EXPECT_TRUE(Wait_Until([&last] {
         Sleep(100);
+        const bool painted = All_Painted();
         const Picture before = std::exchange(last, Picture());
-        return before.pixels == last.pixels;
+        return painted && before.pixels == last.pixels;
     })) << "the screen changes on and on";
     last.Save(Scratch + L"\\" + Wide(name) + L".bmp");
     return last;
@@ -244,6 +245,7 @@ int main(int count, char **words) {
     Clock_Path = Wide(words[3]);
     SetProcessDPIAware(); // so that places and pixels are in the program's units
     CoInitialize(nullptr);
+    Wait_Until(All_Painted); // a stand-in that has just started may still be painting
     Bare_Screen = std::make_unique<const Picture>();
     return RUN_ALL_TESTS();
 }
