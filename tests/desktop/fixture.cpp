@@ -2,7 +2,6 @@
 #include "tests/desktop/driver.h"
 
 #include <cstdio>
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 
