@@ -101,8 +101,9 @@ TEST_F(Attachment, Takes_Place_And_Colours_From_What_There_Is_Of_The_Shell) {
             },
             15000));
         EXPECT_EQ(splash_seen, splash);
-        EXPECT_EQ(GetAncestor(program.Calendar(), GA_PARENT),
-                  inside ? FindWindowA("Progman", "Program Manager") : GetDesktopWindow());
+        // If the stand-in answers late, the calendar moves into it later.
+        EXPECT_TRUE(Becomes(inside ? FindWindowA("Progman", "Program Manager") : GetDesktopWindow(),
+                            [&] { return GetAncestor(program.Calendar(), GA_PARENT); }));
         ASSERT_TRUE(Wait_Until([&] { return program.Windows(true) == 1; })) << "the splash window stays";
         const RECT title = program.Named(program.Title()).place;
         ASSERT_TRUE(program.Raise_Calendar(Middle(program.Named("Sunday").place)));
@@ -138,28 +139,32 @@ TEST_F(Attachment, Follows_The_View_Of_Icons) {
                 SetParent(program.Calendar(), GetAncestor(Shell_View(), GA_PARENT));
                 Tell_Shell(letters[i - 1]);
             }
-            if (place.empty() && Wait_Until([&] { return Place_Of(program.Calendar()).starts_with("in"); })) {
-                place = Place_Of(program.Calendar());
+            // During the move, the calendar is inside before it is above the view.
+            if (place.empty() && Wait_Until([&] {
+                    return (place = Place_Of(program.Calendar())).starts_with("inside, above at ");
+                })) {
                 // Look far to the right: Wine 10 cuts off the calendar's left by the offset of the desktop's
                 // origin.
                 header = Middle(program.Named("Saturday").place);
             }
-            ASSERT_TRUE(Becomes(
-                place, [&] { return Place_Of(program.Calendar()); }, 2000));
+            ASSERT_TRUE(Becomes(place, [&] { return Place_Of(program.Calendar()); }));
             EXPECT_TRUE(program.Raise_Calendar(header)) << "it is not seen";
         }
     }
     EXPECT_TRUE(place.starts_with("inside, above at ")) << place;
     Stop_All();
-    // The calendar follows at once: by the clock's tick alone, each step would take a second.
+    // The calendar follows at once: by the clock's tick alone, each step after the first would take a second.
+    // A busy machine may delay some of them as long.
     const Program &program = Start_Calendar();
-    const double begin = Milliseconds_Now();
+    double now = 0, fastest = 1000;
     for (const char letter : std::string_view("wpwpwp")) {
         Tell_Shell(letter);
         EXPECT_TRUE(Becomes(GetAncestor(Shell_View(), GA_PARENT),
                             [&] { return GetAncestor(program.Calendar(), GA_PARENT); }));
+        const double before = std::exchange(now, Milliseconds_Now());
+        fastest = std::min(fastest, now - before);
     }
-    EXPECT_LT(Milliseconds_Now() - begin, 4500);
+    EXPECT_LT(fastest, 500);
 }
 
 TEST_F(Attachment, Comes_Back_With_The_Next_Shell_And_Asks_For_The_Users_Text_First) {
@@ -169,13 +174,12 @@ TEST_F(Attachment, Comes_Back_With_The_Next_Shell_And_Asks_For_The_Users_Text_Fi
     const auto loses_shell_with_text = [](const Program &program) {
         program.Do_Default("Saturday 1st May 2027");
         const auto editor = [&program] { return program.Window("Vellatro_Edit_Frm"); };
-        ASSERT_TRUE(Wait_Until([&] { return editor() && GetForegroundWindow() == editor(); }));
-        Send_Text("kept");
+        ASSERT_TRUE(Wait_Until([&] { return editor() != nullptr; }));
+        SendMessageA(GetDlgItem(editor(), 102), EM_REPLACESEL, 0, reinterpret_cast<LPARAM>("kept"));
         ASSERT_TRUE(Wait_Until([&] { return Text_Of(GetDlgItem(editor(), 102)) == "kept"; }));
         Kill_Shell();
-        ASSERT_TRUE(Becomes(
-            std::string("[Desktop Wallpaper] Save changes for the Saturday 1st May 2027?"),
-            [&program] { return program.Box(); }, 2000));
+        ASSERT_TRUE(Becomes(std::string("[Desktop Wallpaper] Save changes for the Saturday 1st May 2027?"),
+                            [&program] { return program.Box(); }));
     };
     const Program &first = Start_Calendar();
     loses_shell_with_text(first);

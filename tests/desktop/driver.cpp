@@ -113,7 +113,7 @@ Item Item_Of(IAccessible &accessible, VARIANT child) {
 /// Names the icon by its colour: the stop icon is red and the exclamation mark yellow. Other icons have no
 /// name.
 std::string Icon_Of(HWND icon) {
-    RECT place;
+    RECT place{};
     GetWindowRect(icon, &place);
     const Picture screen;
     long red = 0; // red minus blue, summed over the icon; `green` likewise
@@ -151,6 +151,14 @@ HWND Shell_View() {
         if (Class_Of(window) == "SHELLDLL_DefView")
             return window;
     return nullptr;
+}
+
+bool All_Painted() {
+    return std::ranges::none_of(Windows_Below(nullptr), [](HWND window) {
+        // Its thread answers only after the painting that it has begun.
+        SendMessageTimeoutA(window, WM_NULL, 0, 0, SMTO_ABORTIFHUNG, 5000, nullptr);
+        return IsWindowVisible(window) && GetUpdateRect(window, nullptr, FALSE);
+    });
 }
 
 double Milliseconds_Now() {
@@ -298,19 +306,15 @@ std::vector<Item> Program::Items(long role, std::size_t most) const {
     return items;
 }
 
-Item Program::Named(std::string_view name) const {
+Item Program::Named(std::string_view name, bool act) const {
     if (const Accessible accessible = Accessible_Of(Calendar()))
         for (const VARIANT &child : Children_Of(*accessible))
-            if (Text_Of(*accessible, &IAccessible::get_accName, child) == name)
+            if (Text_Of(*accessible, &IAccessible::get_accName, child) == name) {
+                if (act)
+                    accessible->accDoDefaultAction(child);
                 return Item_Of(*accessible, child);
+            }
     return {};
-}
-
-void Program::Do_Default(std::string_view name) const {
-    if (const Accessible accessible = Accessible_Of(Calendar()))
-        for (const VARIANT &child : Children_Of(*accessible))
-            if (Text_Of(*accessible, &IAccessible::get_accName, child) == name)
-                accessible->accDoDefaultAction(child);
 }
 
 std::string Program::Title() const {

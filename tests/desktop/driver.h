@@ -45,7 +45,7 @@ inline std::unique_ptr<const Picture> Bare_Screen;
 // Mouse and keyboard input.
 POINT Middle(const RECT &place);
 void Send_Mouse(POINT point, DWORD flags); ///< MOUSEEVENTF_LEFTDOWN and the like; 0 only moves
-/// Sends several steps at once, so that a busy machine cannot separate them.
+/// Sends several steps with one time, so that a busy machine cannot separate them.
 void Send_Mouse(const std::vector<std::pair<POINT, DWORD>> &steps);
 void Send_Key(WORD key, bool with_alt = false); ///< presses and releases it
 void Send_Text(std::string_view ascii);
@@ -58,6 +58,8 @@ std::string Text_Of(HWND window); ///< also of a control; empty if the window do
 
 /// Returns the shell's icon view, or null.
 HWND Shell_View();
+
+bool All_Painted(); ///< returns whether no window of any program awaits painting
 
 double Milliseconds_Now(); ///< of a clock that cannot be set
 
@@ -94,11 +96,11 @@ public:
     /// Returns the calendar's items of a role, or all with 0; none if the calendar is missing or does not
     /// answer.
     std::vector<Item> Items(long role = 0, std::size_t most = SIZE_MAX) const;
-    /// Returns the item with that name, or an empty one.
-    Item Named(std::string_view name) const;
+    /// Returns the item with that name, or an empty one. With `act`, first performs its default action.
+    Item Named(std::string_view name, bool act = false) const;
     std::string Title() const;
     /// Performs an item's default action as assistive technology does.
-    void Do_Default(std::string_view name) const;
+    void Do_Default(std::string_view name) const { Named(name, true); }
 
     /// Returns the open message box as "[Vellatro] text", with "stop " or "warning " in front for those
     /// icons; empty if there is no box.

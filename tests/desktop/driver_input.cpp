@@ -38,12 +38,14 @@ POINT Middle(const RECT &place) {
 // in between.
 void Send_Mouse(const std::vector<std::pair<POINT, DWORD>> &steps) {
     std::vector<INPUT> inputs;
+    const DWORD now = GetTickCount();
     for (const auto &[point, flags] : steps) {
         INPUT &input = inputs.emplace_back();
         input.type = INPUT_MOUSE;
         input.mi.dx = (point.x * 65536 + 65535) / GetSystemMetrics(SM_CXSCREEN);
         input.mi.dy = (point.y * 65536 + 65535) / GetSystemMetrics(SM_CYSCREEN);
         input.mi.dwFlags = MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE | flags;
+        input.mi.time = now;
     }
     SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
 }

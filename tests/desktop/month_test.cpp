@@ -47,11 +47,11 @@ TEST_F(Dots, Places_And_Texts_Fit) {
     const HDC screen = GetDC(nullptr);
     const int dots = GetDeviceCaps(screen, LOGPIXELSX);
     ReleaseDC(nullptr, screen);
-    Set_Clock(2027, 9, 29, 23, 50, 0); // its title is the widest
     Set_Setting("Settings", "Bar Time", "True");
     Set_Setting("Settings", "Bar Time Format", "HH:mm");
     Set_Setting("Settings", "Bar Date Format", "Weekday - d month - yyyy");
     for (const char *style : {"0", "1"}) {
+        Set_Clock(2027, 9, 29, 23, 50, 0); // its title is the widest; a minute is enough for one style
         Set_Setting("Settings", "Style", style);
         Write_Data("\"1/9/2027=Ågjqy ÅÅ 日本語, a text that needs more room than there is in its box or in "
                    "any other\"\r\n");

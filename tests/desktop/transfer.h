@@ -9,8 +9,6 @@ protected:
         Desktop_Test::SetUp();
         const std::wstring folder = Path_Of(L"");
         folder_.assign(folder.begin(), folder.end());
-        for (const wchar_t *name : {L"out.csv", L"out.dat", L"out.ini", L"data.bak"}) // of earlier runs
-            DeleteFileW(Path_Of(name).c_str());
     }
 
     /// Starts the calendar and opens the settings dialog on its page of import and export.

@@ -7,7 +7,6 @@ TEST_F(Transfer, An_Export_Asks_And_Keeps_What_It_May_Not_Replace) {
     Write_Data("\"12/5/9999=Every, year\"\r\n6/5/2027=Say \"no\" twice\r\n"
                "\"28/2/2028=\xE6\x97\xA5\xE6\x9C\xAC, =\xE8\xAA\x9E\"\r\n");
     Open();
-    Save_Picture("transfer-page");
     const char *title = "Export Events as CSV File";
     const std::string question = "[Vellatro] Overwrite existing file?";
     Choose_File('V', title, "");

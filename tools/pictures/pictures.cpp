@@ -46,20 +46,7 @@ protected:
         }
     }
 
-    /// Ends the enumeration at a window that awaits painting. Its thread answers the message only after the
-    /// painting that it has begun.
-    static BOOL CALLBACK Is_Painted(HWND window, LPARAM all_painted) {
-        SendMessageTimeoutA(window, WM_NULL, 0, 0, SMTO_ABORTIFHUNG, 5000, nullptr);
-        const bool painted = !IsWindowVisible(window) || !GetUpdateRect(window, nullptr, FALSE);
-        *reinterpret_cast<bool *>(all_painted) = painted;
-        return painted;
-    }
     static void Take(const std::string &name, const RECT &part) {
-        EXPECT_TRUE(Wait_Until([] {
-            bool all_painted = false;
-            EnumChildWindows(GetDesktopWindow(), Is_Painted, reinterpret_cast<LPARAM>(&all_painted));
-            return all_painted;
-        })) << name;
         Save_Picture(name);
         std::printf("picture %s %ldx%ld+%ld+%ld\n", name.c_str(), part.right - part.left,
                     part.bottom - part.top, part.left, part.top);
@@ -134,7 +121,9 @@ TEST_F(Pictures, Compact) {
 TEST_F(Pictures, Editor) {
     const Program &program = Start_Calendar();
     program.Double_Click("Saturday 18th December 2027");
-    ASSERT_TRUE(Wait_Until([&] { return program.Window("Vellatro_Edit_Frm") != nullptr; }));
+    // The picture shows the caret.
+    ASSERT_TRUE(
+        Wait_Until([&] { return Has_Keyboard(GetDlgItem(program.Window("Vellatro_Edit_Frm"), 102)); }));
     Put_Mouse_Away();
     Take("editor", Around(Place(program.Window("Vellatro_Edit_Frm")), 60));
 }
@@ -166,6 +155,8 @@ TEST_F(Pictures, Theme) {
     {
         Start_Calendar();
         Put_Mouse_Away();
+        // The program sets the wallpaper on another thread.
+        ASSERT_TRUE(Wait_Until([] { return Picture().At(0, 0) != Bare_Screen->At(0, 0); }));
         Take("theme", Screen());
     }
     Stop_All();
