@@ -154,17 +154,17 @@ TEST_F(Attachment, Follows_The_View_Of_Icons) {
     EXPECT_TRUE(place.starts_with("inside, above at ")) << place;
     Stop_All();
     // The calendar follows at once: by the clock's tick alone, each step after the first would take a second.
-    // A busy machine may delay some of them as long.
+    // A busy machine may delay some of them as long, so look at the fastest step in either direction.
     const Program &program = Start_Calendar();
-    double now = 0, fastest = 1000;
+    double now = 0, fastest[2] = {1000, 1000};
     for (const char letter : std::string_view("wpwpwp")) {
         Tell_Shell(letter);
         EXPECT_TRUE(Becomes(GetAncestor(Shell_View(), GA_PARENT),
                             [&] { return GetAncestor(program.Calendar(), GA_PARENT); }));
         const double before = std::exchange(now, Milliseconds_Now());
-        fastest = std::min(fastest, now - before);
+        fastest[letter == 'p'] = std::min(fastest[letter == 'p'], now - before);
     }
-    EXPECT_LT(fastest, 500);
+    EXPECT_LT(std::max(fastest[0], fastest[1]), 500);
 }
 
 TEST_F(Attachment, Comes_Back_With_The_Next_Shell_And_Asks_For_The_Users_Text_First) {
