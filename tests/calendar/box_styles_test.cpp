@@ -55,7 +55,6 @@ TEST_F(Box_Styles, texts_are_broken_at_words_and_shortened_at_characters) {
         {0, "ninechars then more", "ninechars..."},
         {0, "\r\n  a\tb\r\n\r\nc  ", "a b c"},
         {0, "123456789e\u0301abcdef", "123456789e\u0301..."},
-        {1, "in abcdefghijklmnop", "in\nabcdefghijklm\nnop"},
         {1, "aaaaaaa bbbbbbb ccccccc ddddddd", "aaaaaaa\nbbbbbbb\nccccccc\nddddddd"},
         {1, "aaaaaaa bbbbbbb ccccccc ddddddd eeeeeee", "aaaaaaa\nbbbbbbb\nccccccc\nddddddd ee..."},
     };

@@ -3,9 +3,11 @@
 #ifdef _WIN32
 #include "base/twips.h"
 #include "platform/forms.h"
+#include "platform/menu.h"
 #include "platform/message_loop.h"
 #include "platform/screen.h"
 #include "tests/contract/contract.h"
+#include "win32/broadcasts.h"
 
 #include <commctrl.h>
 #include <oleacc.h>
@@ -97,6 +99,31 @@ TEST_F(Window_Contract, Long_Work_Drops_Its_Input_And_Changes_Show_And_Are_Annou
     platform::Destroy_Mirror(model);
     EXPECT_EQ(accessible->get_accFocus(&focused), CO_E_OBJNOTCONNECTED);
     accessible->Release();
+}
+
+TEST_F(Window_Contract, A_Menu_Opens_In_Its_Place_And_What_Comes_Meanwhile_Waits) {
+    int times_told = 0;
+    RECT menu = {};
+    model.bounds = {3000, 1500, 1500, 900};
+    model.input = [&menu](const platform::Input_Event &) {
+        GetWindowRect(Own_Window(L"#32768"), &menu);
+        EndMenu();
+    };
+    platform::Create_Mirror(model);
+    platform::Listen_To_Broadcasts([&times_told](platform::Broadcast) { return ++times_told > 0; });
+    PostMessageW(win32::Broadcast_Window(), WM_TIMECHANGE, 0, 0);
+    PostMessageW(Own_Window(L"Vellatro_Contract_Painted"), WM_CLOSE, 0, 0);
+    const Point at = {600, 300};
+    platform::Track_Popup_Menu(model, {{1, "Edit"}}, &at);
+    EXPECT_TRUE(menu.top == Twips_To_Pixels(1800, platform::Dots_Per_Inch()) && times_told == 0);
+    win32::Tick(0);
+    EXPECT_EQ(times_told, 1);
+    platform::Listen_To_Broadcasts({});
+    platform::Destroy_Mirror(model);
+    PostQuitMessage(0);
+    platform::Paint_Waiting(), platform::Process_Waiting_Messages();
+    MSG message = {};
+    EXPECT_TRUE(PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE)) << "the main loop sees it too";
 }
 
 } // namespace

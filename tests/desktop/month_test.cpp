@@ -32,9 +32,7 @@ TEST_F(Month, Shows_Days_And_Texts) {
         texts += ((day.state & STATE_SYSTEM_SELECTED) != 0 ? "today|" : "|") + day.value;
     EXPECT_EQ(texts, "|Exact||One, two = three|||Crème brûlée|日本語の予定|" + long_text + "|Second||today|" +
                          std::string(13, '|') + "Every year||||||Unquoted");
-    EXPECT_EQ(days[0].name, "Saturday 1st May 2027");
     EXPECT_EQ(days[11].name, "Wednesday 12th May 2027, today");
-    EXPECT_EQ(days[30].name, "Monday 31st May 2027");
     EXPECT_EQ(Store(), "") << "a first run writes nothing";
     const std::vector<Item> headers = program.Items(ROLE_SYSTEM_COLUMNHEADER);
     ASSERT_EQ(headers.size(), 7U);

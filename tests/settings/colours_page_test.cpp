@@ -97,6 +97,9 @@ TEST_F(Colours, the_mouse_shows_colours_and_its_release_picks_the_last_one) {
     for (int i = 0; i < 100; ++i) // the keyboard continues from that colour
         Input(dialog, {.kind = Input_Kind::Key_Down, .key = i < 50 ? Key_Right : Key_Up, .shift = true},
               &page.Pal);
+    platform::Canvas canvas;
+    page.Pal.State().paint(canvas, page.Pal.Bounds());
+    EXPECT_EQ(canvas.operations.back().rect, (Rect{page.Pal.Width() - 60, -45, 105, 105})) << "the cross";
     Input(dialog, {.kind = Input_Kind::Default_Action}, &page.Pal);
     EXPECT_EQ(page.Col_Today_Pic.Back_Colour(), 0x00FFFFFF) << "the light end of the greys";
 }

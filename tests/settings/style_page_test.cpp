@@ -94,6 +94,8 @@ TEST_F(Style, the_miniature_shows_the_calendar_where_it_will_be) {
         }
     }
     EXPECT_NEAR(Place(Task_Bar).top, 740, 4);
+    Desktop().work_area = {62, 0, 962, 768};
+    EXPECT_NEAR(Place(Task_Bar).width, 62, 4) << "at the left edge";
     page.Set_Theme({});
     EXPECT_EQ(page.Position_Lbl.Caption(), "Bottom Right") << "the theme's has gone";
 }

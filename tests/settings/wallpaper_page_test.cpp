@@ -68,6 +68,8 @@ TEST_F(Themes_Page, shows_what_the_selected_pack_says) {
             EXPECT_EQ(Page().Current_Look().position.has_value(), usable && march[0] == '1') << march;
         }
     }
+    Slide(1);
+    EXPECT_EQ(Details(), "Default|Display: Tile|Box Style: Thin Box|Position: Bottom Center");
     Use_Themes(false);
     for (const bool on : {false, true}) // without themes, the check boxes change nothing
         for (Check_Box *box : {&Page().Theme_Style_Chk, &Page().Theme_Pos_Chk})

@@ -58,7 +58,6 @@ TEST_F(Exporting, writes_the_configuration_that_is_shown) {
     EXPECT_EQ(File("C:\\a.b.ini"), expected);
     Import(1, "C:\\a.b.ini", "Loaded configuration file successfully.");
     EXPECT_TRUE(Cur_Settings.Bar_Time && Cur_Settings.Alignment == 7 && Cur_Settings.Style == 0);
-    EXPECT_EQ(Cur_Settings.Bar_Time_Format + Stored("Tooltips"), "h, mm2");
 }
 
 TEST_F(Exporting, keeps_a_file_when_its_replacement_fails) {
