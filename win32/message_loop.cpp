@@ -4,6 +4,7 @@
 #include "win32/mirror.h"
 
 #include <algorithm>
+#include <optional>
 #include <vector>
 
 namespace {
@@ -27,18 +28,6 @@ void Dispatch(MSG &message) {
     }
     TranslateMessage(&message);
     DispatchMessageW(&message);
-}
-
-/// Takes the next waiting message of a range, or any if both ends are 0. Returns false if there is none. The
-/// system gives WM_QUIT in any range: it stays in the queue, because the main loop must see it, and counts as
-/// the end of the waiting messages.
-bool Take_Waiting(MSG &message, UINT first, UINT last) {
-    if (!PeekMessageW(&message, nullptr, first, last, PM_REMOVE))
-        return false;
-    if (message.message != WM_QUIT)
-        return true;
-    PostQuitMessage(static_cast<int>(message.wParam));
-    return false;
 }
 
 } // namespace
@@ -78,21 +67,38 @@ void End_Message_Loop() {
 
 void Process_Waiting_Messages() {
     MSG message = {};
-    while (Take_Waiting(message, 0, 0))
+    while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+        if (message.message == WM_QUIT) {
+            // The main loop must see the message too.
+            PostQuitMessage(static_cast<int>(message.wParam));
+            return;
+        }
         Dispatch(message);
+    }
 }
 
 void Paint_Waiting() {
     MSG message = {};
+    std::optional<int> quit;
+    const auto take = [&message, &quit](UINT first, UINT last) {
+        while (PeekMessageW(&message, nullptr, first, last, PM_REMOVE)) {
+            if (message.message != WM_QUIT) // the system gives it in any range
+                return true;
+            quit = static_cast<int>(message.wParam);
+        }
+        return false;
+    };
     // Limit the paints, because a window that fails to paint gets another paint message at once.
     constexpr int most_paints = 200;
-    for (int i = 0; i < most_paints && Take_Waiting(message, WM_PAINT, WM_PAINT); ++i)
+    for (int i = 0; i < most_paints && take(WM_PAINT, WM_PAINT); ++i)
         DispatchMessageW(&message);
     constexpr UINT ranges[][2] = {
         {WM_KEYFIRST, WM_KEYLAST}, {WM_MOUSEFIRST, WM_MOUSELAST}, {WM_NCMOUSEMOVE, WM_NCXBUTTONDBLCLK}};
     for (const auto &range : ranges)
-        while (Take_Waiting(message, range[0], range[1])) {
+        while (take(range[0], range[1])) {
         }
+    if (quit) // the main loop must see it
+        PostQuitMessage(*quit);
 }
 
 void Wait_For_Messages(unsigned milliseconds) {
