@@ -71,6 +71,18 @@ int Wallpaper_Corners() {
     return seen;
 }
 
+/// Returns a picture of the screen, taken once all windows have painted and it no longer changes.
+Picture Settled_Picture() {
+    Picture last;
+    EXPECT_TRUE(Wait_Until([&last] {
+        Sleep(100);
+        const bool painted = All_Painted();
+        const Picture before = std::exchange(last, Picture());
+        return painted && before.pixels == last.pixels;
+    })) << "the screen changes on and on";
+    return last;
+}
+
 std::string Test_Name() {
     const ::testing::TestInfo &test = *::testing::UnitTest::GetInstance()->current_test_info();
     return std::string(test.test_suite_name()) + "." + test.name();
@@ -141,7 +153,7 @@ void Desktop_Test::Exchange_Shell(const std::wstring &options) {
     CloseHandle(process.hProcess);
     ASSERT_TRUE(Wait_Until([] { return Find_Standin() && Wallpaper_Corners() == 2; }))
         << "the stand-in does not appear";
-    Bare_Screen = std::make_unique<const Picture>();
+    Bare_Screen = std::make_unique<const Picture>(Settled_Picture());
 }
 
 Program &Desktop_Test::Start() {
@@ -185,13 +197,7 @@ std::string Desktop_Test::Read_File(const std::wstring &name) const {
 }
 
 Picture Desktop_Test::Save_Picture(const std::string &name) {
-    Picture last;
-    EXPECT_TRUE(Wait_Until([&last] {
-        Sleep(100);
-        const bool painted = All_Painted();
-        const Picture before = std::exchange(last, Picture());
-        return painted && before.pixels == last.pixels;
-    })) << "the screen changes on and on";
+    Picture last = Settled_Picture();
     last.Save(Scratch + L"\\" + Wide(name) + L".bmp");
     return last;
 }
@@ -244,7 +250,6 @@ int main(int count, char **words) {
     Clock_Path = Wide(words[3]);
     SetProcessDPIAware(); // so that places and pixels are in the program's units
     CoInitialize(nullptr);
-    Wait_Until(All_Painted); // a stand-in that has just started may still be painting
-    Bare_Screen = std::make_unique<const Picture>();
+    Bare_Screen = std::make_unique<const Picture>(Settled_Picture());
     return RUN_ALL_TESTS();
 }
